@@ -1,0 +1,37 @@
+# What every target of the project is built with, and where it is put.
+#
+# The build tree has the layout of an installed system (bin/, lib/velkaro-print/...), so that the
+# programs find the plug-in bundle relative to themselves in both.
+
+set(CMAKE_CXX_STANDARD 20)
+set(CMAKE_CXX_STANDARD_REQUIRED ON)
+set(CMAKE_CXX_EXTENSIONS OFF)
+set(CMAKE_CXX_VISIBILITY_PRESET hidden)
+set(CMAKE_VISIBILITY_INLINES_HIDDEN ON)
+set(CMAKE_POSITION_INDEPENDENT_CODE ON)
+set(CMAKE_AUTOMOC ON)
+
+if(NOT CMAKE_BUILD_TYPE)
+    set(CMAKE_BUILD_TYPE Release)
+endif()
+
+set(VELKARO_PRIVATE_DIR ${CMAKE_INSTALL_LIBDIR}/velkaro-print)
+set(CMAKE_RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/${CMAKE_INSTALL_BINDIR})
+set(CMAKE_LIBRARY_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/${VELKARO_PRIVATE_DIR})
+set(CMAKE_BUILD_RPATH_USE_ORIGIN ON)
+
+add_library(velkaro_build_rules INTERFACE)
+target_include_directories(velkaro_build_rules INTERFACE ${CMAKE_SOURCE_DIR})
+target_compile_options(velkaro_build_rules INTERFACE
+    -Wall -Wextra -Wpedantic -Wconversion -Wshadow -Werror)
+target_compile_definitions(velkaro_build_rules INTERFACE
+    QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII QT_NO_FOREACH QT_NO_KEYWORDS)
+if(VELKARO_SANITIZE)
+    target_compile_options(velkaro_build_rules INTERFACE
+        -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
+    target_link_options(velkaro_build_rules INTERFACE -fsanitize=address,undefined)
+endif()
+if(VELKARO_TIDY)
+    find_program(CLANG_TIDY clang-tidy REQUIRED)
+    set(CMAKE_CXX_CLANG_TIDY ${CLANG_TIDY} --quiet)
+endif()
