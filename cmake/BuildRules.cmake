@@ -23,7 +23,9 @@ set(CMAKE_BUILD_RPATH_USE_ORIGIN ON)
 add_library(velkaro_build_rules INTERFACE)
 target_include_directories(velkaro_build_rules INTERFACE ${CMAKE_SOURCE_DIR})
 target_compile_options(velkaro_build_rules INTERFACE
-    -Wall -Wextra -Wpedantic -Wconversion -Wshadow -Werror)
+    -Wall -Wextra -Wpedantic -Wconversion -Wshadow -Werror
+    # libcups marks its PPD functions as deprecated; PPDs are what this program is about.
+    -Wno-deprecated-declarations)
 target_compile_definitions(velkaro_build_rules INTERFACE
     QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII QT_NO_FOREACH QT_NO_KEYWORDS)
 if(VELKARO_SANITIZE)

@@ -1,0 +1,45 @@
+#include "dialog/host/HostCallback.h"
+
+#include "dialog/host/PPDMarks.h"
+
+#include <utility>
+
+HostCallback::HostCallback(ppd_file_t *ppd) : m_ppd(ppd) {}
+
+void HostCallback::setCallObserver(std::function<void(const Call &)> observer)
+{
+    m_observer = std::move(observer);
+}
+
+bool HostCallback::respondsTo(HostOperation operation) const
+{
+    return !m_lacking.contains(operation);
+}
+
+PMPrintSettings *HostCallback::printSettings() const
+{
+    return respondsTo(HostOperation::PrintSettings) ? &m_ticket : nullptr;
+}
+
+PMPageFormat *HostCallback::pageFormat() const
+{
+    return respondsTo(HostOperation::PageFormat) ? &m_pageFormat : nullptr;
+}
+
+bool HostCallback::willChangePPDOptionKeyValue(const QString &willChangePPDOptionKeyValue,
+                                               const QString &ppdChoice)
+{
+    const QString &keyword = willChangePPDOptionKeyValue;
+    const bool refused =
+        m_refused.contains(keyword) || m_refused.contains(keyword + u'=' + ppdChoice);
+    const bool accepted = !refused && markChoice(m_ppd, keyword, ppdChoice);
+    if (m_observer)
+        m_observer({Call::Kind::WillChangePPDOptionKeyValue, keyword, ppdChoice, accepted});
+    return accepted;
+}
+
+void HostCallback::panelViewDidResize()
+{
+    if (m_observer)
+        m_observer({Call::Kind::PanelViewDidResize, {}, {}, false});
+}

@@ -1,0 +1,53 @@
+#include "dialog/host/PPDFile.h"
+
+#include <QtCore/QCoreApplication>
+#include <QtCore/QFile>
+#include <QtCore/QFileInfo>
+
+namespace {
+
+// The largest PPDs of real printers have a few hundred kilobytes.
+constexpr qint64 kLargestPPD = 16LL * 1024 * 1024;
+
+QString sentence(const char *text, const QString &path)
+{
+    return QCoreApplication::translate("PPDFile", text).arg(path);
+}
+
+QString reasonNotToRead(const QString &path)
+{
+    const QFileInfo file(path);
+    if (!file.exists())
+        return sentence(QT_TRANSLATE_NOOP("PPDFile", "The PPD file %1 does not exist."), path);
+    if (!file.isFile())
+        return sentence(QT_TRANSLATE_NOOP("PPDFile", "%1 is not a PPD file."), path);
+    if (!file.isReadable())
+        return sentence(QT_TRANSLATE_NOOP("PPDFile", "The PPD file %1 cannot be read."), path);
+    if (file.size() > kLargestPPD)
+        return sentence(QT_TRANSLATE_NOOP("PPDFile", "The PPD file %1 is too large."), path);
+    return {};
+}
+
+QString parserError(const QString &path)
+{
+    int line = 0;
+    const ppd_status_t status = ppdLastError(&line);
+    return sentence(QT_TRANSLATE_NOOP("PPDFile", "%1 is not a usable PPD file (line %2: %3)."),
+                    path)
+        .arg(line)
+        .arg(QString::fromUtf8(ppdErrorString(status)));
+}
+
+} // namespace
+
+OpenedPPD openPPD(const QString &path)
+{
+    const QString reason = reasonNotToRead(path);
+    if (!reason.isNull())
+        return {nullptr, reason};
+    PPDHandle ppd(ppdOpenFile(QFile::encodeName(path).constData()));
+    if (!ppd)
+        return {nullptr, parserError(path)};
+    ppdMarkDefaults(ppd.get());
+    return {std::move(ppd), QString()};
+}

@@ -1,0 +1,94 @@
+#include "panel/VKPrintQualityPDE.h"
+
+#include "panel/ControlValue.h"
+#include "platform/toolkit/PopUpButton.h"
+
+#include <QtWidgets/QWidget>
+
+using namespace Qt::StringLiterals;
+
+bool VKPrintQualityPDE::setAndMarkValue(const QString &setAndMarkValue, const QString &forKey)
+{
+    if (forKey.isNull())
+        return false;
+    const QString pending = pendingValue(forKey);
+    if (!pending.isNull() && pending == setAndMarkValue)
+        return false;
+    if (!pdePluginCallbackObject->willChangePPDOptionKeyValue(forKey, setAndMarkValue))
+        return false;
+    recordPendingValue(forKey, setAndMarkValue);
+    return true;
+}
+
+void VKPrintQualityPDE::requestNewOutputBin(QWidget *requestNewOutputBin)
+{
+    const QString keyword = determineKey(requestNewOutputBin);
+    const QString value = shownChoice(requestNewOutputBin, keyword);
+    if (!value.isNull()) {
+        if (pdePluginCallbackObject->willChangePPDOptionKeyValue(keyword, value)) {
+            recordPendingValue(keyword, value);
+            updateUIforKey(keyword);
+        } else {
+            revertUI(requestNewOutputBin, keyword);
+        }
+    }
+    saveAllValues();
+}
+
+void VKPrintQualityPDE::revertUI(QWidget *revertUI, const QString &forKey)
+{
+    QString value = pendingValue(forKey);
+    const bool hidden = value == "PlainDuplex"_L1 && forKey == "VKMediaType"_L1;
+    // The pop-up never lists plain paper's two-sided form.
+    if (hidden && qobject_cast<PopUpButton *>(revertUI))
+        value = u"Plain"_s;
+    showChoice(revertUI, value);
+}
+
+void VKPrintQualityPDE::saveAllValues()
+{
+    if (!popupInited)
+        return;
+    getUIValues();
+    saveOptionState();
+}
+
+void VKPrintQualityPDE::getUIValues()
+{
+    checkUIConstraints();
+    for (const QString &keyword : PPDKeys.value_or(QStringList())) {
+        if (QWidget *control = determineUI(keyword))
+            commitControl(*control, keyword);
+    }
+}
+
+void VKPrintQualityPDE::commitControl(QWidget &control, const QString &keyword)
+{
+    QString value = shownChoice(&control, keyword);
+    if (value.isNull())
+        return;
+    const bool medium = keyword == "VKMediaType"_L1 && qobject_cast<PopUpButton *>(&control);
+    if (medium && hasFlag(DuplexOn))
+        value = u"PlainDuplex"_s;
+    setAndMarkValue(value, keyword);
+    // A box that is disabled counts as off, whatever it shows; the slow-drying box and a fax job
+    // are the exceptions.
+    if (isCheckBox(&control) && !control.isEnabled() && keyword != "VKSlowDrying"_L1 &&
+        !hasFlag(FaxOutput))
+        setAndMarkValue(checkBoxValue(keyword, false), keyword);
+}
+
+QString VKPrintQualityPDE::determineKey(QWidget *) const
+{
+    return {};
+}
+
+QWidget *VKPrintQualityPDE::determineUI(const QString &) const
+{
+    return nullptr;
+}
+
+QWidget *VKPrintQualityPDE::determineLabel(const QString &) const
+{
+    return nullptr;
+}

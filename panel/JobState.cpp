@@ -1,0 +1,63 @@
+#include "panel/VKPrintQualityPDE.h"
+
+#include "panel/TicketValue.h"
+#include "platform/pde/PPDText.h"
+#include "platform/printmanager/PMPrintSettings.h"
+
+#include <QtWidgets/QAbstractButton>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr auto kTicketPrefix = "com.velkaro.print.PrintSettings"_L1;
+
+} // namespace
+
+void VKPrintQualityPDE::checkFax()
+{
+    setFlag(FaxOutput, markedChoice(ppd, u"VKOutput"_s) == "FAX"_L1);
+}
+
+void VKPrintQualityPDE::checkColorSync()
+{
+    if (!ppd || !ppdFindAttr(ppd, "APSupportsCustomColorMatching", nullptr)) {
+        setFlag(VendorColorMatching, false);
+        return;
+    }
+    if (!ticket())
+        return;
+    QVariant mode;
+    const bool known = PMPrintSettingsGetValue(ticket(), u"AP_ColorMatchingMode"_s, &mode) == noErr;
+    setFlag(VendorColorMatching, !known || mode.toString() != "AP_ApplicationColorMatching"_L1);
+}
+
+QString VKPrintQualityPDE::optionName() const
+{
+    return thePDEName_ == "VKInkColorSetting"_L1 ? u"advancedcolorItem"_s : u"advancedItem"_s;
+}
+
+QString VKPrintQualityPDE::optionStateKey() const
+{
+    return kTicketPrefix + u'.' + optionName();
+}
+
+void VKPrintQualityPDE::saveOptionState()
+{
+    const bool unfolded = effectContent && effectContent->boolValue(optionName());
+    PMPrintSettingsSetValue(ticket(), optionStateKey(), unfolded, false);
+}
+
+void VKPrintQualityPDE::restoreOptionState()
+{
+    QVariant stored;
+    const bool known = PMPrintSettingsGetValue(ticket(), optionStateKey(), &stored) == noErr;
+    if (!effectContent)
+        return;
+    // A ticket without the key belongs to a new job: its sections are folded.
+    const bool unfolded = known && ticketBoolean(stored);
+    if (effectContent->boolValue(optionName()) == unfolded)
+        return;
+    effectContent->setValue(optionName(), unfolded);
+    toggleShowOption(optionButton);
+}

@@ -1,0 +1,115 @@
+#include "panel/VKPrintQualityPDE.h"
+
+#include "panel/ExtraAccessoryView.h"
+#include "platform/foundation/Bundle.h"
+#include "platform/foundation/NotificationCenter.h"
+#include "platform/toolkit/ImageView.h"
+#include "platform/toolkit/KeyWindow.h"
+
+#include <QtWidgets/QAbstractButton>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+// What a dialog's window needs around a panel's view, in points.
+constexpr double kWindowMargin = 96.0;
+
+} // namespace
+
+QWidget *VKPrintQualityPDE::panelView()
+{
+    if (panelView_ || view_ || !pluginBundle)
+        return panelView_;
+    const QString path = pluginBundle->pathForResource(thePDEName_, u"ui"_s);
+    if (path.isNull())
+        return nullptr;
+    ViewConnections connections;
+    connectView(connections);
+    view_ = loadView(path, connections);
+    effectContent = view_ ? view_->content() : nullptr;
+    return panelView_;
+}
+
+void VKPrintQualityPDE::connectView(ViewConnections &connections)
+{
+    connections.widgetClass<ExtraAccessoryView>(u"ExtraAccessoryView"_s);
+    connections.outlet(u"panelView"_s, panelView_);
+    connections.outlet(u"optionButton"_s, optionButton);
+    connections.action(u"requestNewOutputBin:"_s,
+                       [this](QWidget *sender) { requestNewOutputBin(sender); });
+    connections.action(u"toggleShowOption:"_s,
+                       [this](QWidget *sender) { toggleShowOption(sender); });
+    connections.action(u"showHelpFile:"_s, [this](QWidget *sender) { showHelpFile(sender); });
+}
+
+QHash<QString, QWidget *> VKPrintQualityPDE::inspectedOutlets() const
+{
+    return view_ ? view_->outlets() : QHash<QString, QWidget *>();
+}
+
+void VKPrintQualityPDE::willShow()
+{
+    setFlag(PanelOnScreen, true);
+    checkColorSync();
+    checkFax();
+    initializePopup();
+}
+
+bool VKPrintQualityPDE::shouldHide()
+{
+    setFlag(PanelOnScreen, false);
+    return true;
+}
+
+void VKPrintQualityPDE::changeImage(const QString &changeImage, ImageView *ofView)
+{
+    if (!ofView || (!ofView->image().isNull() && ofView->imageName() == changeImage))
+        return;
+    QString path = pluginBundle ? pluginBundle->pathForResource(changeImage, u"tiff"_s) : QString();
+    if (path.isNull() && pluginBundle)
+        path = pluginBundle->pathForResource(changeImage, u"pdf"_s);
+    if (path.isNull()) {
+        if (!ofView->image().isNull())
+            ofView->setImageName(u"None"_s);
+        ofView->setVisible(false);
+        return;
+    }
+    ofView->setImage(QImage(path));
+    ofView->setImageName(changeImage);
+    ofView->setVisible(true);
+}
+
+void VKPrintQualityPDE::setViewFrameSize(const QSizeF &setViewFrameSize)
+{
+    if (!pdePluginCallbackObject->respondsTo(HostOperation::PanelViewDidResize))
+        return;
+    if (panelView_)
+        panelView_->setFixedSize(setViewFrameSize.toSize());
+    const std::optional<double> windowHeight = keyWindowHeight();
+    if (!hasFlag(PanelOnScreen) || !windowHeight)
+        return;
+    if (*windowHeight > setViewFrameSize.height() + kWindowMargin) {
+        pdePluginCallbackObject->panelViewDidResize();
+        return;
+    }
+    NotificationCenter::defaultCenter().addObserver(
+        this, [this](const Notification &notification) { dialogDidExpand(notification); },
+        QLatin1String(kViewDidUpdateTrackingAreasNotification), panelView_);
+}
+
+void VKPrintQualityPDE::dialogDidExpand(const Notification &)
+{
+    NotificationCenter::defaultCenter().removeObserver(
+        this, QLatin1String(kViewDidUpdateTrackingAreasNotification), panelView_);
+    pdePluginCallbackObject->panelViewDidResize();
+}
+
+void VKPrintQualityPDE::adjustUIPosition(double adjustUIPosition, const QList<QWidget *> &forParts)
+{
+    for (QWidget *part : forParts) {
+        // Up on the screen is a smaller vertical coordinate.
+        if (part)
+            part->move(part->x(), part->y() - qRound(adjustUIPosition));
+    }
+}

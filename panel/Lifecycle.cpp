@@ -1,0 +1,149 @@
+#include "panel/VKPrintQualityPDE.h"
+
+#include "platform/foundation/Bundle.h"
+#include "platform/foundation/NotificationCenter.h"
+#include "platform/pde/PPDText.h"
+#include "platform/printmanager/PMPrintSettings.h"
+
+namespace {
+// An address within the library that the panel classes are part of.
+const char kCodeOfThePanels = 0;
+} // namespace
+
+VKPrintQualityPDE::VKPrintQualityPDE() = default;
+
+VKPrintQualityPDE::~VKPrintQualityPDE()
+{
+    view_.reset();
+    NotificationCenter::defaultCenter().removeObserver(this);
+}
+
+bool VKPrintQualityPDE::initWithCallback(const std::shared_ptr<PDEPluginCallback> &initWithCallback)
+{
+    pdePluginCallbackObject = initWithCallback;
+    pluginBundle = Bundle::bundleContaining(&kCodeOfThePanels);
+    outputBin_.clear();
+    if (pluginBundle && pluginBundle->infoDictionary())
+        setThePDEName(pluginBundle->infoValue(QStringLiteral("CFBundleName")).toString());
+    paperName = QString();
+    popupInited = false;
+    imageModeFlag_ = 0;
+    if (!pdePluginCallbackObject ||
+        !pdePluginCallbackObject->respondsTo(HostOperation::WillChangePPDOptionKeyValue)) {
+        pdePluginCallbackObject.reset();
+        pluginBundle.reset();
+        return false;
+    }
+    ppd = pdePluginCallbackObject->ppdFile();
+    checkModelName();
+    restoreValuesAndReturnError(nullptr);
+    checkConstraints();
+    return true;
+}
+
+void VKPrintQualityPDE::setPPDKeys(const std::optional<QStringList> &setPPDKeys)
+{
+    if (!setPPDKeys)
+        return;
+    QStringList present;
+    for (const QString &keyword : *setPPDKeys) {
+        if (findOption(ppd, keyword))
+            present << keyword;
+    }
+    PPDKeys = present;
+}
+
+bool VKPrintQualityPDE::saveValuesAndReturnError(QString *)
+{
+    return true;
+}
+
+bool VKPrintQualityPDE::restoreValuesAndReturnError(QString *)
+{
+    checkFax();
+    setDefaults();
+    readMarkedChoices();
+    checkColorSync();
+    restoreOptionState();
+    checkConstraints();
+    if (popupInited)
+        updateUI();
+    saveAllValues();
+    return true;
+}
+
+void VKPrintQualityPDE::readMarkedChoices()
+{
+    for (const QString &keyword : PPDKeys.value_or(QStringList())) {
+        const QString marked = markedChoice(ppd, keyword);
+        const ppd_option_t *option = findOption(ppd, keyword);
+        if (!marked.isNull())
+            recordPendingValue(keyword, marked);
+        else if (option)
+            recordPendingValue(keyword, ppdName(option->defchoice));
+    }
+}
+
+std::optional<QStringList> VKPrintQualityPDE::supportedPPDOptionKeys() const
+{
+    return PPDKeys;
+}
+
+std::optional<QStringList> VKPrintQualityPDE::availablePPDOptionKeys() const
+{
+    return supportedPPDOptionKeys();
+}
+
+void VKPrintQualityPDE::PPDOptionKeyValueDidChange(const QString &PPDOptionKeyValueDidChange,
+                                                   const QString &ppdChoice)
+{
+    if (!managesKeyword(PPDOptionKeyValueDidChange))
+        return;
+    recordPendingValue(PPDOptionKeyValueDidChange, ppdChoice);
+    if (panelView_)
+        updateUIforKey(PPDOptionKeyValueDidChange);
+}
+
+void VKPrintQualityPDE::removeNotificationObserver(const Notification &)
+{
+    NotificationCenter::defaultCenter().removeObserver(this);
+}
+
+QString VKPrintQualityPDE::panelKind() const
+{
+    return QStringLiteral("com.velkaro.print.pde.Cocoa%1").arg(thePDEName_);
+}
+
+void VKPrintQualityPDE::setFlag(ImageModeFlag flag, bool on)
+{
+    imageModeFlag_ = on ? imageModeFlag_ | flag : imageModeFlag_ & ~flag;
+}
+
+QString VKPrintQualityPDE::pendingValue(const QString &keyword) const
+{
+    const QVariant value = outputBin_.value(keyword);
+    return value.typeId() == QMetaType::QString ? value.toString() : QString();
+}
+
+void VKPrintQualityPDE::recordPendingValue(const QString &keyword, const QVariant &value)
+{
+    outputBin_.insert(keyword, value);
+}
+
+bool VKPrintQualityPDE::managesKeyword(const QString &keyword) const
+{
+    return PPDKeys && PPDKeys->contains(keyword);
+}
+
+QString VKPrintQualityPDE::localized(const char *key) const
+{
+    const QString name = QString::fromLatin1(key);
+    return pluginBundle ? pluginBundle->localizedString(name) : name;
+}
+
+PMPrintSettings *VKPrintQualityPDE::ticket() const
+{
+    const bool offered = pdePluginCallbackObject &&
+                         pdePluginCallbackObject->respondsTo(HostOperation::PrintSettings);
+    return offered ? pdePluginCallbackObject->printSettings() : nullptr;
+}

@@ -1,0 +1,14 @@
+#pragma once
+
+#include "platform/toolkit/PopUpButton.h"
+
+#include <cups/ppd.h>
+
+#include <vector>
+
+/// Whether a pop-up lists the choice: not the ones whose text begins with "Hagaki" (a choice text
+/// shorter than that does not), and not "PlainDuplex", which stands behind plain paper.
+bool isListedChoice(const QString &name, const QString &text);
+
+/// The items of a pop-up for the option, in the order of the PPD, without pictures.
+std::vector<PopUpButton::Item> listedChoices(const ppd_option_t &option);

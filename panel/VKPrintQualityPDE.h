@@ -1,0 +1,246 @@
+#pragma once
+
+#include "panel/ImageModeFlag.h"
+#include "platform/foundation/ObservableDictionary.h"
+#include "platform/pde/PDEPanel.h"
+#include "platform/pde/PDEPanelInspection.h"
+#include "platform/pde/PDEPluginCallback.h"
+#include "platform/toolkit/Alert.h"
+#include "platform/toolkit/ViewLoader.h"
+
+#include <QtCore/QObject>
+#include <QtCore/QSizeF>
+
+#include <cstdint>
+#include <memory>
+#include <optional>
+
+class Bundle;
+class ImageView;
+class PopUpButton;
+class QAbstractButton;
+class RadioMatrix;
+struct Notification;
+
+/// The panel that a PPD drives: the base of both panels.
+///
+/// It keeps the PPD keywords that the panel manages (`PPDKeys`), the pending choice of each
+/// (`outputBin`), and the one road by which a choice gets there: it is offered to the dialog, which
+/// marks it in the PPD, and is recorded only when the dialog has accepted it.
+///
+/// It is a template. A panel class says which control and which label belong to a keyword, and
+/// supplies the rules; the base supplies the loops. A person picks a medium:
+///   1. requestNewOutputBin() gets the control, finds its keyword, and offers the choice;
+///   2. accepted, it is recorded and its control refreshed; refused, the control is put back;
+///   3. saveAllValues() lets checkUIConstraints() adjust the controls, then reads every control
+///      back and commits what differs.
+///
+/// Construct a panel, then call initWithCallback(): it calls operations of the panel class, which a
+/// constructor cannot. Everything happens on the main thread. Nothing here fails loudly: keywords
+/// that the PPD lacks, controls that the view lacks and names that a pop-up lacks are passed over.
+class VKPrintQualityPDE : public PDEPanel, public PDEPanelInspection
+{
+public:
+    VKPrintQualityPDE();
+    ~VKPrintQualityPDE() override;
+    VKPrintQualityPDE(const VKPrintQualityPDE &) = delete;
+    VKPrintQualityPDE &operator=(const VKPrintQualityPDE &) = delete;
+
+    // --- Creation ------------------------------------------------------------------------------
+
+    /// Takes the dialog's callback object and its PPD, checks the model, reads the marked choices
+    /// and applies the constraints. False when the dialog cannot mark choices: the panel then keeps
+    /// nothing of the dialog's and must be dropped.
+    virtual bool initWithCallback(const std::shared_ptr<PDEPluginCallback> &initWithCallback);
+
+    /// Takes the keywords that the PPD has, in their order. No list: nothing changes.
+    void setPPDKeys(const std::optional<QStringList> &setPPDKeys);
+
+    // --- The panel protocol --------------------------------------------------------------------
+
+    void willShow() override;
+    bool shouldHide() override;
+    bool saveValuesAndReturnError(QString *error) override;
+    bool restoreValuesAndReturnError(QString *error) override;
+    std::optional<QStringList> supportedPPDOptionKeys() const override;
+    void PPDOptionKeyValueDidChange(const QString &PPDOptionKeyValueDidChange,
+                                    const QString &ppdChoice) override;
+    QWidget *panelView() override;
+    QString panelKind() const override;
+    QVariantMap summaryInfo() override;
+    bool shouldShowHelp() override;
+    bool shouldPrint() override;
+
+    // --- Values --------------------------------------------------------------------------------
+
+    /// The panel's resource name: it names the view resource, the help book and the panel's kind.
+    QString thePDEName() const { return thePDEName_; }
+    void setThePDEName(const QString &name) { thePDEName_ = name; }
+
+    /// The pending values: PPD keyword to choice name. Setting them replaces all.
+    const QVariantMap &outputBin() const { return outputBin_; }
+    void setOutputBin(const QVariantMap &values) { outputBin_ = values; }
+
+    /// A bit set of ImageModeFlag.
+    std::int32_t imageModeFlag() const { return imageModeFlag_; }
+
+    /// Offers a choice of the program's own to the dialog. True when it was accepted and recorded;
+    /// false when the keyword is null, the choice is pending already (the dialog is not asked), or
+    /// the dialog refused. No control is refreshed.
+    bool setAndMarkValue(const QString &setAndMarkValue, const QString &forKey);
+
+    /// The action of every PPD-driven control. A null sender has no keyword: then, as for a control
+    /// that shows no choice, only saveAllValues() runs.
+    virtual void requestNewOutputBin(QWidget *requestNewOutputBin);
+
+    /// Puts the control back to the pending value after the dialog has refused a pick.
+    virtual void revertUI(QWidget *revertUI, const QString &forKey);
+
+    /// Once the controls are built: reads them back and keeps the fold state in the ticket.
+    virtual void saveAllValues();
+
+    /// Applies the constraints to the controls, then commits what every control shows.
+    void getUIValues();
+
+    // --- Controls ------------------------------------------------------------------------------
+
+    /// Rebuilds the controls from the PPD, the advanced section folded.
+    virtual void initializePopup();
+
+    /// Refreshes every control, then applies the constraints to the controls.
+    virtual void updateUI();
+
+    /// Makes the keyword's control show the pending value.
+    virtual void updateUIforKey(const QString &updateUIforKey);
+
+    /// Shows the picture resource of this name ("tiff", else "pdf") in the view; hides the view
+    /// when there is none. Nothing is loaded when the view shows it already.
+    void changeImage(const QString &changeImage, ImageView *ofView);
+
+    /// Gives the panel's view another size (points) and tells the dialog: at once when its window
+    /// is tall enough, else when the window has grown. A dialog that cannot be told keeps its view
+    /// as it is.
+    void setViewFrameSize(const QSizeF &setViewFrameSize);
+
+    void dialogDidExpand(const Notification &dialogDidExpand);
+
+    /// Moves the views by `adjustUIPosition` points upwards. Null entries are passed over.
+    void adjustUIPosition(double adjustUIPosition, const QList<QWidget *> &forParts);
+
+    /// Ends every registration of the panel on the notification centre.
+    void removeNotificationObserver(const Notification &removeNotificationObserver);
+
+    // --- Help, alerts, saved state -------------------------------------------------------------
+
+    /// Whether the panel's help book is there and could be registered.
+    bool registerHelp();
+    /// The folder of the help book: beside the folder that holds the plug-in bundle.
+    QString helpBookPath() const;
+    virtual QString helpBook() const;
+    QString helpAnchor() const;
+    /// The action of a help button.
+    void showHelpFile(QWidget *showHelpFile);
+
+    /// Whether the alert is to be shown: yes, unless the user has asked not to see it again.
+    bool shouldShowAlert(const QString &shouldShowAlert) const;
+    /// Remembers the answer of an alert with a suppression box, under the key `contextInfo`.
+    void alertDidEnd(const AlertResult &alertDidEnd, int returnCode, const QString &contextInfo);
+
+    /// Brings the bit FaxOutput up to date.
+    void checkFax();
+    /// Brings the bit VendorColorMatching up to date.
+    void checkColorSync();
+
+    /// The key of the advanced section's fold state.
+    QString optionName() const;
+    void saveOptionState();
+    void restoreOptionState();
+
+    // --- What a panel class supplies -----------------------------------------------------------
+
+    /// The keyword of a control; null without one, and for a null control.
+    virtual QString determineKey(QWidget *determineKey) const;
+    /// The control of a keyword (a matrix, a pop-up button or a check box); null without one.
+    virtual QWidget *determineUI(const QString &determineUI) const;
+    /// The label of a keyword; null without one.
+    virtual QWidget *determineLabel(const QString &determineLabel) const;
+    /// The keywords to summarise, in order.
+    virtual std::optional<QStringList> availablePPDOptionKeys() const;
+    /// Reads the printer's model and sets the model's bits.
+    virtual void checkModelName() {}
+    /// Sets default values before the marked choices are read.
+    virtual void setDefaults() {}
+    /// Applies the rules to the pending values.
+    virtual void checkConstraints() {}
+    /// Applies the rules to the controls. The base enables everything, or disables it for fax.
+    virtual void checkUIConstraints();
+    /// Flips the advanced section; the sender is the disclosure button, which has flipped already.
+    virtual void toggleShowOption([[maybe_unused]] QWidget *toggleShowOption) {}
+    /// A rule of one model; the base has none.
+    virtual void changeResolutionLetterB() {}
+
+    // --- Inspection ----------------------------------------------------------------------------
+
+    std::int32_t inspectedFlags() const override { return imageModeFlag_; }
+    QString inspectedPaperName() const override { return paperName; }
+    QVariantMap inspectedOutputBin() const override { return outputBin_; }
+    const ObservableDictionary *inspectedEffectContent() const override { return effectContent; }
+    QWidget *inspectedView() const override { return panelView_; }
+    QHash<QString, QWidget *> inspectedOutlets() const override;
+
+protected:
+    /// Names the outlets and actions that the view resource connects. A panel class adds its own.
+    virtual void connectView(ViewConnections &connections);
+
+    bool hasFlag(ImageModeFlag flag) const { return (imageModeFlag_ & flag) != 0; }
+    void setFlag(ImageModeFlag flag, bool on);
+
+    /// The pending choice; null when there is none (or a number).
+    QString pendingValue(const QString &keyword) const;
+    void recordPendingValue(const QString &keyword, const QVariant &value);
+
+    /// Whether the panel manages the keyword.
+    bool managesKeyword(const QString &keyword) const;
+
+    /// The localised text of the key in the plug-in's string table.
+    QString localized(const char *key) const;
+
+    /// The dialog's ticket; null when it has none or does not offer one.
+    PMPrintSettings *ticket() const;
+
+    /// An alert with the localised button "OK".
+    AlertContent noticeAlert(AlertStyle style, const QString &text,
+                             const QString &informative) const;
+    /// The alert that a paper outside the printer's range raises.
+    AlertContent unsupportedPaperAlert() const;
+
+    QObject *lifetime() { return &lifetime_; }
+
+    std::shared_ptr<PDEPluginCallback> pdePluginCallbackObject;
+    std::optional<QStringList> PPDKeys;
+    QString paperName;         ///< the current paper; null until a panel class sets it
+    ppd_file_t *ppd = nullptr; ///< the dialog's
+    std::shared_ptr<Bundle> pluginBundle;
+    bool popupInited = false;                      ///< the controls have been filled from the PPD
+    ObservableDictionary *effectContent = nullptr; ///< the view's; null before it is loaded
+    QAbstractButton *optionButton = nullptr;       ///< the disclosure button of the view
+
+private:
+    void readMarkedChoices();
+    void buildControl(const QString &keyword);
+    void buildMatrix(RadioMatrix &matrix, const QString &keyword);
+    void buildPopUp(PopUpButton &popup, const QString &keyword);
+    void buildCheckBox(QAbstractButton &box, const QString &keyword);
+    void titleLabel(const QString &keyword, const QString &text);
+    void selectFallbackMedium(PopUpButton &popup, const QString &value);
+    void commitControl(QWidget &control, const QString &keyword);
+    QString summaryText(const QString &keyword) const;
+    QString optionStateKey() const;
+
+    QString thePDEName_;
+    QVariantMap outputBin_;
+    std::int32_t imageModeFlag_ = 0;
+    QWidget *panelView_ = nullptr;
+    std::unique_ptr<LoadedView> view_;
+    QObject lifetime_; // what sheets that outlive the panel look for
+};

@@ -1,0 +1,143 @@
+#include "platform/foundation/Bundle.h"
+
+#include "platform/foundation/PreferredLanguages.h"
+
+#include <QtCore/QDir>
+#include <QtCore/QFile>
+#include <QtCore/QJsonDocument>
+#include <QtCore/QJsonObject>
+#include <QtCore/QTranslator>
+
+#include <dlfcn.h>
+
+#include <algorithm>
+#include <utility>
+#include <vector>
+
+namespace {
+
+constexpr auto kStringTable = "Localizable";
+
+std::vector<std::weak_ptr<Bundle>> &openBundles()
+{
+    static std::vector<std::weak_ptr<Bundle>> bundles;
+    return bundles;
+}
+
+std::shared_ptr<Bundle> &mainBundle()
+{
+    static std::shared_ptr<Bundle> bundle;
+    return bundle;
+}
+
+std::optional<QVariantMap> readInfo(const QString &path)
+{
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly))
+        return std::nullopt;
+    const auto document = QJsonDocument::fromJson(file.readAll());
+    if (!document.isObject())
+        return std::nullopt;
+    return document.object().toVariantMap();
+}
+
+QString libraryOf(const void *code)
+{
+    Dl_info info{};
+    if (!dladdr(code, &info) || !info.dli_fname)
+        return {};
+    return QFileInfo(QFile::decodeName(info.dli_fname)).canonicalFilePath();
+}
+
+} // namespace
+
+Bundle::Bundle(const QString &path) : m_path(QDir(path).absolutePath())
+{
+    m_info = readInfo(m_path + QStringLiteral("/Info.json"));
+}
+
+Bundle::~Bundle() = default;
+
+std::shared_ptr<Bundle> Bundle::open(const QString &path)
+{
+    std::shared_ptr<Bundle> bundle(new Bundle(path));
+    std::erase_if(openBundles(), [](const auto &known) { return known.expired(); });
+    openBundles().push_back(bundle);
+    return bundle;
+}
+
+std::shared_ptr<Bundle> Bundle::bundleContaining(const void *code)
+{
+    const QString library = libraryOf(code);
+    const auto &bundles = openBundles();
+    for (auto known = bundles.rbegin(); known != bundles.rend(); ++known) {
+        const auto bundle = known->lock();
+        const QString folder = bundle ? QFileInfo(bundle->m_path).canonicalFilePath() : QString();
+        if (!folder.isEmpty() && library.startsWith(folder + u'/'))
+            return bundle;
+    }
+    return mainBundle();
+}
+
+void Bundle::setMainBundle(std::shared_ptr<Bundle> bundle)
+{
+    mainBundle() = std::move(bundle);
+}
+
+QVariant Bundle::infoValue(const QString &key) const
+{
+    return m_info ? m_info->value(key) : QVariant();
+}
+
+void Bundle::overrideInfo(const QVariantMap &entries)
+{
+    if (!m_info)
+        m_info.emplace();
+    m_info->insert(entries);
+}
+
+QString Bundle::bundleIdentifier() const
+{
+    const QString identifier = infoValue(QStringLiteral("CFBundleIdentifier")).toString();
+    return identifier.isEmpty() ? QString() : identifier;
+}
+
+QString Bundle::pathForResource(const QString &name, const QString &type) const
+{
+    if (name.isEmpty() || name.contains(u'/') || name.contains(QChar::Null))
+        return {};
+    const QString path = m_path + QStringLiteral("/Resources/") + name + u'.' + type;
+    return QFile::exists(path) ? path : QString();
+}
+
+QString Bundle::stringTable(const QString &language) const
+{
+    return pathForResource(QLatin1String(kStringTable) + u'_' + language, QStringLiteral("qm"));
+}
+
+void Bundle::loadStringTable() const
+{
+    const QString first = preferredLanguages().constFirst();
+    if (m_table && m_tableLanguage == first)
+        return;
+    m_table = std::make_unique<QTranslator>();
+    m_tableLanguage = first;
+    QStringList candidates;
+    for (const QString &language : preferredLanguages())
+        candidates << language << language.section(u'-', 0, 0);
+    candidates << QStringLiteral("en");
+    for (const QString &language : std::as_const(candidates)) {
+        const QString path = stringTable(language);
+        if (!path.isNull() && m_table->load(path))
+            return;
+    }
+}
+
+QString Bundle::localizedString(const QString &key) const
+{
+    if (m_strings == Strings::Keys || key.isNull())
+        return key;
+    loadStringTable();
+    const QString text = m_table->translate(kStringTable, key.toUtf8().constData());
+    return text.isEmpty() ? key : text;
+}

@@ -1,0 +1,132 @@
+#include "platform/toolkit/Alert.h"
+
+#include "platform/toolkit/AlertObserver.h"
+#include "platform/toolkit/KeyWindow.h"
+#include "platform/toolkit/PlainText.h"
+
+#include <QtCore/QTimer>
+#include <QtWidgets/QApplication>
+#include <QtWidgets/QCheckBox>
+#include <QtWidgets/QLabel>
+#include <QtWidgets/QMessageBox>
+#include <QtWidgets/QPushButton>
+
+#include <memory>
+#include <utility>
+
+namespace {
+
+QMessageBox::Icon iconOf(AlertStyle style)
+{
+    switch (style) {
+    case AlertStyle::Informational:
+        return QMessageBox::Information;
+    case AlertStyle::Warning:
+        return QMessageBox::Warning;
+    case AlertStyle::Critical:
+        return QMessageBox::Critical;
+    case AlertStyle::None:
+        break;
+    }
+    return QMessageBox::NoIcon;
+}
+
+void setInformativeText(QMessageBox &box, const QString &text)
+{
+    if (text.isEmpty())
+        return;
+    box.setInformativeText(QStringLiteral(" "));
+    // The label of the informative text guesses at rich text whatever format the box has.
+    const auto labels = box.findChildren<QLabel *>(QStringLiteral("qt_msgbox_informativelabel"));
+    for (QLabel *label : labels)
+        label->setTextFormat(Qt::PlainText);
+    box.setInformativeText(text);
+}
+
+void addButtons(QMessageBox &box, const QStringList &titles)
+{
+    for (int index = 0; index < titles.size(); ++index) {
+        const auto role = index == 0 ? QMessageBox::AcceptRole : QMessageBox::RejectRole;
+        QPushButton *button = box.addButton(withoutMnemonic(titles[index]), role);
+        if (index == 0)
+            box.setDefaultButton(button);
+        if (index + 1 == titles.size())
+            box.setEscapeButton(button);
+    }
+}
+
+std::unique_ptr<QMessageBox> newBox(const AlertContent &content)
+{
+    auto box = std::make_unique<QMessageBox>(keyWindow());
+    box->setIcon(iconOf(content.style));
+    box->setTextFormat(Qt::PlainText);
+    box->setWindowTitle(QApplication::applicationDisplayName());
+    box->setText(content.text);
+    setInformativeText(*box, content.informative);
+    addButtons(*box, content.buttons);
+    if (content.suppression)
+        box->setCheckBox(new QCheckBox(withoutMnemonic(content.suppressionTitle)));
+    return box;
+}
+
+// The buttons as the content lists them; the box itself orders them as the desktop wants.
+QList<QPointer<QAbstractButton>> buttonsOf(const QMessageBox &box, const AlertContent &content)
+{
+    QList<QPointer<QAbstractButton>> buttons;
+    const auto all = box.buttons();
+    for (const QString &title : content.buttons) {
+        for (QAbstractButton *button : all) {
+            if (buttonTitle(button) == title && !buttons.contains(button)) {
+                buttons << button;
+                break;
+            }
+        }
+    }
+    return buttons;
+}
+
+ShownAlert describe(QMessageBox &box, const AlertContent &content, ShownAlert::Kind kind)
+{
+    return {kind, content, &box, buttonsOf(box, content), box.checkBox()};
+}
+
+AlertResult resultOf(const QMessageBox &box, const AlertContent &content)
+{
+    AlertResult result;
+    const auto buttons = buttonsOf(box, content);
+    for (int index = 0; index < buttons.size(); ++index) {
+        if (buttons[index] == box.clickedButton())
+            result.button = index;
+    }
+    result.suppressed = box.checkBox() && box.checkBox()->isChecked();
+    return result;
+}
+
+} // namespace
+
+AlertResult runAlert(const AlertContent &content)
+{
+    const auto box = newBox(content);
+    box->setWindowModality(Qt::ApplicationModal);
+    if (AlertObserver *observer = AlertObserver::alertObserver()) {
+        QTimer::singleShot(0, box.get(), [&] {
+            observer->alertShown(describe(*box, content, ShownAlert::Kind::Modal));
+        });
+    }
+    box->exec();
+    return resultOf(*box, content);
+}
+
+void beginAlertSheet(const AlertContent &content, QObject *context,
+                     std::function<void(const AlertResult &)> didEnd)
+{
+    QMessageBox *box = newBox(content).release();
+    box->setWindowModality(Qt::WindowModal);
+    QObject::connect(
+        box, &QMessageBox::finished, context,
+        [box, content, didEnd = std::move(didEnd)] { didEnd(resultOf(*box, content)); });
+    QObject::connect(box, &QMessageBox::finished, box, &QObject::deleteLater);
+    box->show();
+    if (AlertObserver *observer = AlertObserver::alertObserver())
+        observer->alertShown(describe(*box, content, ShownAlert::Kind::Sheet));
+}

@@ -1,0 +1,33 @@
+#include "platform/toolkit/FractionSlider.h"
+
+#include <QtCore/QSignalBlocker>
+
+#include <algorithm>
+#include <cmath>
+
+namespace {
+constexpr double kUnit = 100; // steps of the underlying slider for a whole number
+}
+
+FractionSlider::FractionSlider(QWidget *parent) : QSlider(Qt::Horizontal, parent)
+{
+    connect(this, &QSlider::actionTriggered, this, [this] {
+        m_value = sliderPosition() / kUnit;
+        Q_EMIT movedByUser();
+    });
+}
+
+void FractionSlider::setDoubleValue(double value)
+{
+    const QSignalBlocker quiet(this);
+    m_value = value;
+    const double steps = std::clamp(std::isnan(value) ? 0.0 : std::round(value * kUnit),
+                                    double(minimum()), double(maximum()));
+    setValue(static_cast<int>(steps));
+}
+
+void FractionSlider::moveByUser(double value)
+{
+    setDoubleValue(value);
+    Q_EMIT movedByUser();
+}

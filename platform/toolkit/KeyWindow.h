@@ -1,0 +1,25 @@
+#pragma once
+
+#include "platform/Export.h"
+
+#include <optional>
+
+class QWidget;
+
+/// The window that takes the user's keys: the print dialog's while it is open. Null: none.
+VELKARO_PLATFORM_EXPORT QWidget *keyWindow();
+
+/// Says which window it is; the dialog does so when it opens. Null: none from now on. A window that
+/// is destroyed is none.
+VELKARO_PLATFORM_EXPORT void setKeyWindow(QWidget *window);
+
+/// The height of the key window's frame in points; none without a key window.
+VELKARO_PLATFORM_EXPORT std::optional<double> keyWindowHeight();
+
+/// Posted by the toolkit when a window is about to close; its object is the window (a QWidget).
+inline constexpr auto kWindowWillCloseNotification = "NSWindowWillCloseNotification";
+/// Posted by the toolkit when a view has come to a new size on screen; its object is the view.
+inline constexpr auto kViewDidUpdateTrackingAreasNotification =
+    "NSViewDidUpdateTrackingAreasNotification";
+/// Posted by the toolkit when an item of a menu has been chosen; its object is the pop-up button.
+inline constexpr auto kMenuDidSendActionNotification = "NSMenuDidSendActionNotification";

@@ -1,0 +1,18 @@
+#pragma once
+
+#include "platform/Export.h"
+
+#include <QtCore/QString>
+
+class QAbstractButton;
+
+/// `text` as one line that shows what it says: control characters become spaces, and the invisible
+/// characters that turn the direction of writing around are left out. For texts from outside.
+VELKARO_PLATFORM_EXPORT QString displayText(const QString &text);
+
+/// `text` for a widget that would make a mnemonic of an ampersand.
+VELKARO_PLATFORM_EXPORT QString withoutMnemonic(const QString &text);
+
+/// The title of a button, ampersands as they are.
+VELKARO_PLATFORM_EXPORT void setButtonTitle(QAbstractButton *button, const QString &title);
+VELKARO_PLATFORM_EXPORT QString buttonTitle(const QAbstractButton *button);

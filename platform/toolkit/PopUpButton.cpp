@@ -1,0 +1,104 @@
+#include "platform/toolkit/PopUpButton.h"
+
+#include <QtGui/QStandardItemModel>
+#include <QtGui/QWheelEvent>
+
+namespace {
+
+constexpr int kRepresentedObject = Qt::UserRole;
+// Wide enough for an ordinary choice. A fixed length also spares measuring the text of every item,
+// which is what showing a panel with many choices would spend its time on.
+constexpr int kContentsLength = 12;
+
+QStandardItemModel *modelOf(const PopUpButton *button)
+{
+    return static_cast<QStandardItemModel *>(button->model());
+}
+
+QStandardItem *newItem(const PopUpButton::Item &item)
+{
+    auto *row = new QStandardItem(item.title);
+    row->setData(item.representedObject, kRepresentedObject);
+    if (!item.image.isNull())
+        row->setIcon(item.image);
+    return row;
+}
+
+} // namespace
+
+PopUpButton::PopUpButton(QWidget *parent) : QComboBox(parent)
+{
+    setSizeAdjustPolicy(AdjustToMinimumContentsLengthWithIcon);
+    setMinimumContentsLength(kContentsLength);
+    setFocusPolicy(Qt::StrongFocus);
+}
+
+void PopUpButton::setItems(const std::vector<Item> &items)
+{
+    clear();
+    QList<QStandardItem *> rows;
+    rows.reserve(static_cast<qsizetype>(items.size()));
+    for (const Item &item : items)
+        rows << newItem(item);
+    modelOf(this)->invisibleRootItem()->appendRows(rows);
+    setCurrentIndex(items.empty() ? -1 : 0);
+}
+
+int PopUpButton::indexOfRepresentedObject(const QString &object) const
+{
+    for (int index = 0; index < count(); ++index) {
+        if (representedObject(index) == object)
+            return index;
+    }
+    return -1;
+}
+
+int PopUpButton::indexOfTitle(const QString &title) const
+{
+    for (int index = 0; index < count(); ++index) {
+        if (itemText(index) == title)
+            return index;
+    }
+    return -1;
+}
+
+QString PopUpButton::representedObject(int index) const
+{
+    return itemData(index, kRepresentedObject).toString();
+}
+
+bool PopUpButton::selectObject(const QString &object)
+{
+    const int index = indexOfRepresentedObject(object);
+    if (index < 0)
+        return false;
+    setCurrentIndex(index);
+    return true;
+}
+
+bool PopUpButton::isItemEnabled(int index) const
+{
+    const QStandardItem *item = modelOf(this)->item(index);
+    return item && item->isEnabled();
+}
+
+void PopUpButton::setItemEnabled(int index, bool enabled)
+{
+    QStandardItem *item = modelOf(this)->item(index);
+    if (item && item->isEnabled() != enabled)
+        item->setEnabled(enabled);
+}
+
+void PopUpButton::pick(int index)
+{
+    setCurrentIndex(index);
+    Q_EMIT activated(index);
+}
+
+void PopUpButton::wheelEvent(QWheelEvent *event)
+{
+    if (hasFocus())
+        QComboBox::wheelEvent(event);
+    else
+        event->ignore();
+}

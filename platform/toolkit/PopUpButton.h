@@ -1,0 +1,55 @@
+#pragma once
+
+#include "platform/Export.h"
+
+#include <QtCore/QString>
+#include <QtGui/QIcon>
+#include <QtWidgets/QComboBox>
+
+#include <vector>
+
+/// A combo box whose items carry a represented object and can be disabled singly.
+///
+/// Items are found by their represented object; the title is what people read. A user's pick is the
+/// signal activated(); what the program selects sends nothing.
+class VELKARO_PLATFORM_EXPORT PopUpButton : public QComboBox
+{
+    Q_OBJECT
+
+public:
+    struct Item
+    {
+        QString title;
+        QString representedObject;
+        QIcon image;
+    };
+
+    explicit PopUpButton(QWidget *parent = nullptr);
+
+    /// Replaces all items; the first one is then selected. All items are enabled.
+    void setItems(const std::vector<Item> &items);
+
+    /// The index of the first item with the represented object, or title; -1 when there is none.
+    int indexOfRepresentedObject(const QString &object) const;
+    int indexOfTitle(const QString &title) const;
+
+    /// Null for an index that is not there.
+    QString representedObject(int index) const;
+
+    /// The represented object of the selected item; null when nothing is selected.
+    QString selectedObject() const { return representedObject(currentIndex()); }
+
+    /// Selects the item with the represented object. False, and no change, when there is none.
+    bool selectObject(const QString &object);
+
+    bool isItemEnabled(int index) const;
+    void setItemEnabled(int index, bool enabled);
+
+    /// Picks the item as a user does who opens the list and clicks: also when it is selected
+    /// already. The item must be there.
+    void pick(int index);
+
+protected:
+    /// A wheel that passes over the button by chance must not change a setting.
+    void wheelEvent(QWheelEvent *event) override;
+};

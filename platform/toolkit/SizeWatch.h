@@ -1,0 +1,32 @@
+#pragma once
+
+#include "platform/Export.h"
+
+#include <QtCore/QPointer>
+#include <QtWidgets/QWidget>
+
+/// An invisible part of a view that tells when the window around the view changes its height or
+/// comes on screen.
+class VELKARO_PLATFORM_EXPORT SizeWatch : public QWidget
+{
+    Q_OBJECT
+
+public:
+    explicit SizeWatch(QWidget *parent = nullptr);
+
+    /// Tells at once.
+    void fire() { Q_EMIT fired(); }
+
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
+Q_SIGNALS:
+    void fired();
+
+protected:
+    bool event(QEvent *event) override;
+
+private:
+    void followWindow();
+
+    QPointer<QWidget> m_window;
+};

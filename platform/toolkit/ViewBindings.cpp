@@ -1,0 +1,114 @@
+#include "platform/toolkit/ViewBindings.h"
+
+#include "platform/foundation/ObservableDictionary.h"
+#include "platform/foundation/ValueTransformer.h"
+#include "platform/toolkit/ControlColor.h"
+#include "platform/toolkit/FractionSlider.h"
+#include "platform/toolkit/NumberField.h"
+
+#include <QtCore/QPointer>
+#include <QtWidgets/QAbstractButton>
+
+#include <algorithm>
+
+namespace {
+
+QString bindingOf(const QWidget *control, const char *property)
+{
+    return control->property(property).toString();
+}
+
+bool allTrue(const ObservableDictionary &dictionary, const QStringList &keys)
+{
+    return std::all_of(keys.begin(), keys.end(),
+                       [&](const QString &key) { return dictionary.boolValue(key); });
+}
+
+// Calls `apply` with the control now and after each write to one of the keys.
+void follow(QWidget *control, ObservableDictionary &dictionary, const QStringList &keys,
+            const std::function<void(QWidget *)> &apply)
+{
+    const auto update = [guarded = QPointer<QWidget>(control), apply] {
+        if (guarded)
+            apply(guarded);
+    };
+    for (const QString &key : keys)
+        dictionary.observe(key, update);
+    update();
+}
+
+void bindEnabled(QWidget *control, ObservableDictionary &dictionary, const QString &binding)
+{
+    const QStringList keys = binding.split(u',');
+    follow(control, dictionary, keys,
+           [&dictionary, keys](QWidget *bound) { bound->setEnabled(allTrue(dictionary, keys)); });
+}
+
+void bindHidden(QWidget *control, ObservableDictionary &dictionary, const QString &binding)
+{
+    const bool negated = binding.startsWith(u'!');
+    const QString key = negated ? binding.mid(1) : binding;
+    follow(control, dictionary, {key}, [&dictionary, key, negated](QWidget *bound) {
+        bound->setHidden(dictionary.boolValue(key) != negated);
+    });
+}
+
+void bindTextColor(QWidget *control, ObservableDictionary &dictionary, const QString &binding)
+{
+    const QString name = binding.section(u':', 0, 0);
+    const QStringList keys = binding.section(u':', 1).split(u',');
+    follow(control, dictionary, keys, [&dictionary, name, keys](QWidget *bound) {
+        const auto transformer = ValueTransformer::valueTransformerForName(name);
+        if (transformer)
+            setTextColor(
+                bound,
+                transformer->transformedValue(allTrue(dictionary, keys)).value<ControlColor>());
+    });
+}
+
+void showValue(QWidget *control, const QVariant &value)
+{
+    if (auto *slider = qobject_cast<FractionSlider *>(control))
+        slider->setDoubleValue(value.toDouble());
+    else if (auto *field = qobject_cast<NumberField *>(control))
+        field->setDoubleValue(value.toDouble());
+    else if (auto *button = qobject_cast<QAbstractButton *>(control))
+        button->setChecked(value.toBool());
+}
+
+void bindValue(QWidget *control, ObservableDictionary &dictionary, const QString &key)
+{
+    dictionary.observe(key, [guarded = QPointer<QWidget>(control), &dictionary, key] {
+        if (guarded)
+            showValue(guarded, dictionary.value(key));
+    });
+    if (auto *slider = qobject_cast<FractionSlider *>(control)) {
+        QObject::connect(slider, &FractionSlider::movedByUser, slider, [slider, &dictionary, key] {
+            dictionary.setValue(key, slider->doubleValue());
+        });
+    } else if (auto *field = qobject_cast<NumberField *>(control)) {
+        QObject::connect(field, &NumberField::editedByUser, field,
+                         [field, &dictionary, key] { dictionary.setValue(key, field->value()); });
+    } else if (auto *button = qobject_cast<QAbstractButton *>(control)) {
+        QObject::connect(button, &QAbstractButton::clicked, button,
+                         [&dictionary, key](bool checked) { dictionary.setValue(key, checked); });
+    }
+}
+
+} // namespace
+
+void bindView(QWidget *control, ObservableDictionary &dictionary)
+{
+    using Bind = void (*)(QWidget *, ObservableDictionary &, const QString &);
+    static constexpr std::pair<const char *, Bind> kinds[] = {
+        {"bind.value", bindValue},
+        {"bind.enabled", bindEnabled},
+        {"bind.hidden", bindHidden},
+        {"bind.textColor", bindTextColor},
+    };
+    for (const auto &[property, bind] : kinds) {
+        const QString binding = bindingOf(control, property);
+        if (!binding.isEmpty())
+            bind(control, dictionary, binding);
+    }
+}

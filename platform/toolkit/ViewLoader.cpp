@@ -1,0 +1,144 @@
+#include "platform/toolkit/ViewLoader.h"
+
+#include "platform/toolkit/FractionSlider.h"
+#include "platform/toolkit/ImageView.h"
+#include "platform/toolkit/NumberField.h"
+#include "platform/toolkit/PopUpButton.h"
+#include "platform/toolkit/RadioMatrix.h"
+#include "platform/toolkit/SizeWatch.h"
+#include "platform/toolkit/ViewBindings.h"
+
+#include <QtCore/QFile>
+#include <QtUiTools/QUiLoader>
+#include <QtWidgets/QAbstractButton>
+
+#include <utility>
+
+namespace {
+
+ViewConnections toolkitClasses()
+{
+    ViewConnections classes;
+    classes.widgetClass<PopUpButton>(QStringLiteral("PopUpButton"));
+    classes.widgetClass<RadioMatrix>(QStringLiteral("RadioMatrix"));
+    classes.widgetClass<ImageView>(QStringLiteral("ImageView"));
+    classes.widgetClass<FractionSlider>(QStringLiteral("FractionSlider"));
+    classes.widgetClass<NumberField>(QStringLiteral("NumberField"));
+    classes.widgetClass<SizeWatch>(QStringLiteral("SizeWatch"));
+    return classes;
+}
+
+class Loader : public QUiLoader
+{
+public:
+    explicit Loader(const ViewConnections &owner) : m_owner(owner), m_toolkit(toolkitClasses()) {}
+
+    QWidget *createWidget(const QString &className, QWidget *parent, const QString &name) override
+    {
+        QWidget *widget = m_owner.create(className, parent);
+        if (!widget)
+            widget = m_toolkit.create(className, parent);
+        if (!widget)
+            return QUiLoader::createWidget(className, parent, name);
+        widget->setObjectName(name);
+        return widget;
+    }
+
+private:
+    const ViewConnections &m_owner;
+    ViewConnections m_toolkit;
+};
+
+// A bound value is written by the control's user signal too; bindings connect first, so that the
+// action already finds it in the dictionary.
+void connectAction(QWidget *control, const ViewConnections::Action &action)
+{
+    const auto send = [control, action] { action(control); };
+    if (auto *popup = qobject_cast<QComboBox *>(control))
+        QObject::connect(popup, &QComboBox::activated, control, send);
+    else if (auto *matrix = qobject_cast<RadioMatrix *>(control))
+        QObject::connect(matrix, &RadioMatrix::cellClicked, control, send);
+    else if (auto *button = qobject_cast<QAbstractButton *>(control))
+        QObject::connect(button, &QAbstractButton::clicked, control, send);
+    else if (auto *slider = qobject_cast<FractionSlider *>(control))
+        QObject::connect(slider, &FractionSlider::movedByUser, control, send);
+    else if (auto *field = qobject_cast<NumberField *>(control))
+        QObject::connect(field, &NumberField::editedByUser, control, send);
+    else if (auto *watch = qobject_cast<SizeWatch *>(control))
+        QObject::connect(watch, &SizeWatch::fired, control, send);
+}
+
+void connectWidget(QWidget *widget, const ViewConnections &owner, ObservableDictionary &content)
+{
+    bindView(widget, content);
+    const QString name = widget->property("action").toString();
+    const auto action = owner.actionNamed(name);
+    if (action)
+        connectAction(widget, action);
+}
+
+} // namespace
+
+LoadedView::LoadedView(QWidget *root, std::unique_ptr<ObservableDictionary> content,
+                       const QHash<QString, QWidget *> &outlets)
+    : m_content(std::move(content)), m_root(root)
+{
+    for (auto outlet = outlets.cbegin(); outlet != outlets.cend(); ++outlet)
+        m_outlets.insert(outlet.key(), outlet.value());
+}
+
+LoadedView::~LoadedView()
+{
+    // Outlets may live elsewhere by now: the dialog takes the panel's view into its own window.
+    const auto outlets = std::exchange(m_outlets, {});
+    for (const QPointer<QWidget> &outlet : outlets)
+        delete outlet;
+    delete m_root;
+}
+
+QHash<QString, QWidget *> LoadedView::outlets() const
+{
+    QHash<QString, QWidget *> connected;
+    for (auto outlet = m_outlets.cbegin(); outlet != m_outlets.cend(); ++outlet) {
+        if (outlet.value())
+            connected.insert(outlet.key(), outlet.value());
+    }
+    return connected;
+}
+
+std::unique_ptr<LoadedView> loadView(const QString &path, const ViewConnections &owner,
+                                     QString *error)
+{
+    QFile file(path);
+    Loader loader(owner);
+    QWidget *root = file.open(QIODevice::ReadOnly) ? loader.load(&file) : nullptr;
+    if (!root) {
+        if (error)
+            *error = file.isOpen() ? loader.errorString() : file.errorString();
+        return nullptr;
+    }
+    auto content = std::make_unique<ObservableDictionary>();
+    QHash<QString, QWidget *> outlets;
+    QList<QWidget *> widgets = root->findChildren<QWidget *>();
+    widgets.prepend(root);
+    for (QWidget *widget : std::as_const(widgets)) {
+        connectWidget(widget, owner, *content);
+        if (owner.connectOutlet(widget))
+            outlets.insert(widget->objectName(), widget);
+    }
+    return std::make_unique<LoadedView>(root, std::move(content), outlets);
+}
+
+int tagOf(const QWidget *control)
+{
+    return control ? control->property("tag").toInt() : 0;
+}
+
+double doubleValueOf(const QWidget *control)
+{
+    if (const auto *slider = qobject_cast<const FractionSlider *>(control))
+        return slider->doubleValue();
+    if (const auto *field = qobject_cast<const NumberField *>(control))
+        return field->value();
+    return 0;
+}

@@ -1,0 +1,51 @@
+#pragma once
+
+#include "platform/Export.h"
+#include "platform/foundation/ObservableDictionary.h"
+#include "platform/toolkit/ViewConnections.h"
+
+#include <QtCore/QHash>
+#include <QtCore/QPointer>
+#include <QtCore/QString>
+#include <QtWidgets/QWidget>
+
+#include <memory>
+
+/// A view that has been loaded. Owns all of it, wherever parts of it have been put since.
+class VELKARO_PLATFORM_EXPORT LoadedView
+{
+public:
+    LoadedView(QWidget *root, std::unique_ptr<ObservableDictionary> content,
+               const QHash<QString, QWidget *> &outlets);
+    ~LoadedView();
+    LoadedView(const LoadedView &) = delete;
+    LoadedView &operator=(const LoadedView &) = delete;
+
+    /// The dictionary that the view's controls are bound to.
+    ObservableDictionary *content() const { return m_content.get(); }
+
+    /// The widgets that became outlets of the owner, by name.
+    QHash<QString, QWidget *> outlets() const;
+
+private:
+    std::unique_ptr<ObservableDictionary> m_content;
+    QPointer<QWidget> m_root;
+    QHash<QString, QPointer<QWidget>> m_outlets;
+};
+
+/// Loads a view resource (a .ui file of Qt Designer) and connects it to its owner:
+///
+///   - a widget whose name is an outlet of the owner becomes that outlet;
+///   - the dynamic property `action` names the operation that a control's user signal calls;
+///   - the dynamic properties `bind.*` bind controls to the view's dictionary (ViewBindings.h);
+///   - the dynamic property `tag` is the control's tag (tagOf()).
+///
+/// Null when the file cannot be read or is no view; `error`, which may be null, then says why.
+VELKARO_PLATFORM_EXPORT std::unique_ptr<LoadedView>
+loadView(const QString &path, const ViewConnections &owner, QString *error = nullptr);
+
+/// The tag of a control; 0 when it has none.
+VELKARO_PLATFORM_EXPORT int tagOf(const QWidget *control);
+
+/// The number that a slider or a field shows; 0 for any other control.
+VELKARO_PLATFORM_EXPORT double doubleValueOf(const QWidget *control);
