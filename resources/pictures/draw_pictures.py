@@ -1,5 +1,6 @@
 #!/usr/bin/env python3
-"""Draws the bundle's pictures anew, into the folder of this script.
+"""Draws the bundle's pictures anew, into the folder of this script, and the photograph of the sample
+document beside that.
 
 Needs python3-pil and python3-numpy. The finished pictures are kept in the repository, so that a
 build needs neither. The preview's pictures are named after the colour-matching choices that show
@@ -18,6 +19,7 @@ import scene
 FOLDER = Path(__file__).resolve().parent
 PREVIEW = (192, 144)
 RAYS = 5  # a side, for each pixel
+PHOTOGRAPH = (720, 540)
 
 LUMINANCE = np.array([0.2126, 0.7152, 0.0722])
 
@@ -51,6 +53,8 @@ def main():
     colours = scene.render(*PREVIEW, RAYS)
     for name, settings in LOOKS.items():
         save(encoded(look(colours, *settings)), name)
+    photograph = encoded(scene.render(*PHOTOGRAPH, 2))
+    photograph.save(FOLDER.parent / "sample" / "photograph.jpg", quality=88)
     save(envelopes.into_cassette(), "QTLark22_Env")
     save(envelopes.into_tray(), "QTLark22_Tray_Env")
     for name, picture in media.all_media().items():

@@ -102,7 +102,7 @@
     <!-- Printable discs -->
     <message>
         <source>DiscPrint Alert</source>
-        <translation>ディスクはディスクトレイにセットされていますか?</translation>
+        <translation>ディスクはディスクトレイにセットされていますか？</translation>
     </message>
     <message>
         <source>DiscPrint Alert2</source>
