@@ -9,6 +9,7 @@ class CIFilter;
 class CIImage;
 class NumberField;
 class QLabel;
+struct ColorJob;
 
 /// The Color Settings panel: colour matching, halftone pattern, the enhancement switch, five
 /// enhancement values from -20 to 20, and a picture that previews their effect.
@@ -139,20 +140,17 @@ private:
 
     EffectOutlets effectOutlets(const QString &keyword) const;
     void connectOutlets(ViewConnections &connections);
-    void connectActions(ViewConnections &connections);
     void observeNotifications();
 
     void titleSection();
     void titleEffects();
     void nameControlsOf(const QString &keyword, const QString &name);
-    void collapseView();
 
     void setContent(const QString &key, const QVariant &value);
     long long contentInteger(const QString &key) const;
     bool isEnhancementShown() const;
-    bool isEnhancementPending() const;
+    ColorJob job() const;
     void dimTexts();
-    void chooseReferenceImage();
 
     void followPrintSettings(const QVariantMap &userInfo);
     void followTicket();
@@ -160,7 +158,7 @@ private:
     void readEffectDefaults();
     void createFilters();
 
-    void setColorControl(int effect);
+    void setColorControl(int code);
     void setGain(int color);
     std::shared_ptr<const CIImage> withColorControlChanged(int code);
     std::shared_ptr<const CIImage> withGainChanged(int color);
