@@ -79,6 +79,15 @@ void connectWidget(QWidget *widget, const ViewConnections &owner, ObservableDict
         connectAction(widget, action);
 }
 
+void silence(QWidget *part)
+{
+    if (!part)
+        return;
+    part->blockSignals(true);
+    for (QWidget *child : part->findChildren<QWidget *>())
+        child->blockSignals(true);
+}
+
 } // namespace
 
 LoadedView::LoadedView(QWidget *root, std::unique_ptr<ObservableDictionary> content,
@@ -91,6 +100,11 @@ LoadedView::LoadedView(QWidget *root, std::unique_ptr<ObservableDictionary> cont
 
 LoadedView::~LoadedView()
 {
+    // A field that holds typed text sends it when its window goes, to an owner that may be half
+    // gone by then.
+    for (const QPointer<QWidget> &outlet : std::as_const(m_outlets))
+        silence(outlet);
+    silence(m_root);
     // Outlets may live elsewhere by now: the dialog takes the panel's view into its own window.
     const auto outlets = std::exchange(m_outlets, {});
     for (const QPointer<QWidget> &outlet : outlets)
