@@ -1,0 +1,15 @@
+# The two commands of the project; everything else is a CMake preset (see README.md).
+
+.PHONY: run test
+
+run:
+	@packaging/install-packages run
+	@cmake --preset release -D VELKARO_TESTS=OFF
+	@cmake --build --preset release
+	@packaging/run-sample build/release
+
+test:
+	@packaging/install-packages run test
+	@cmake --preset debug
+	@cmake --build --preset debug
+	@ctest --preset debug
