@@ -48,6 +48,14 @@
         <translation>カラー調整</translation>
     </message>
     <message>
+        <source>Revert</source>
+        <translation>元に戻す</translation>
+    </message>
+    <message>
+        <source>Preview</source>
+        <translation>プレビュー</translation>
+    </message>
+    <message>
         <source>Layout</source>
         <translation>レイアウト</translation>
     </message>
