@@ -1,5 +1,6 @@
 #include "platform/toolkit/ViewLoader.h"
 
+#include "platform/toolkit/DisclosureButton.h"
 #include "platform/toolkit/FractionSlider.h"
 #include "platform/toolkit/ImageView.h"
 #include "platform/toolkit/NumberField.h"
@@ -19,6 +20,7 @@ namespace {
 ViewConnections toolkitClasses()
 {
     ViewConnections classes;
+    classes.widgetClass<DisclosureButton>(QStringLiteral("DisclosureButton"));
     classes.widgetClass<PopUpButton>(QStringLiteral("PopUpButton"));
     classes.widgetClass<RadioMatrix>(QStringLiteral("RadioMatrix"));
     classes.widgetClass<ImageView>(QStringLiteral("ImageView"));
