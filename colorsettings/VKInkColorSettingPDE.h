@@ -144,7 +144,7 @@ private:
 
     void titleSection();
     void titleEffects();
-    void nameControlsOf(const QString &keyword, const QString &name);
+    void nameControls();
 
     void setContent(const QString &key, const QVariant &value);
     long long contentInteger(const QString &key) const;

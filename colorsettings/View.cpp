@@ -67,6 +67,7 @@ void VKInkColorSettingPDE::initializePopup()
     if (QWidget *view = inspectedView())
         view->setFixedSize(view->width(), kFoldedHeight);
     titleEffects();
+    nameControls();
     restoreOptionState();
     for (const QString &keyword : std::as_const(PPDEffectKeys))
         setContent(keyword, ticketInteger(outputBin().value(keyword)));
@@ -79,6 +80,8 @@ void VKInkColorSettingPDE::titleSection()
         optionLabel->setText(title);
     if (optionButton)
         optionButton->setAccessibleName(title);
+    if (effectImageView)
+        effectImageView->setAccessibleName(localized("Preview"));
     QWidget *view = inspectedView();
     // The text of the view resource is in one language only.
     if (auto *button = view ? view->findChild<QAbstractButton *>(u"revertButton"_s) : nullptr)
@@ -92,18 +95,26 @@ void VKInkColorSettingPDE::titleEffects()
         const ppd_option_t *option = findOption(ppd, keyword);
         if (label && option)
             label->setText(ppdText(option->text));
-        if (label)
-            nameControlsOf(keyword, label->text());
     }
 }
 
-void VKInkColorSettingPDE::nameControlsOf(const QString &keyword, const QString &name)
+// The labels are no buddies of their controls: that would make mnemonics of the ampersands in the
+// PPD's texts.
+void VKInkColorSettingPDE::nameControls()
 {
-    const auto parts =
-        inspectedView() ? inspectedView()->findChildren<QWidget *>() : QList<QWidget *>();
+    for (const QString &keyword : PPDKeys.value_or(QStringList())) {
+        const ppd_option_t *option = findOption(ppd, keyword);
+        QWidget *control = determineUI(keyword);
+        if (control && option)
+            control->setAccessibleName(ppdText(option->text));
+    }
+    const QWidget *view = inspectedView();
+    const auto parts = view ? view->findChildren<QWidget *>() : QList<QWidget *>();
     for (QWidget *part : parts) {
-        if (part->property("bind.value").toString() == keyword)
-            part->setAccessibleName(name);
+        // A slider and its field are bound to the same value.
+        const QString keyword = part->property("bind.value").toString();
+        if (const QLabel *label = effectOutlets(keyword).label)
+            part->setAccessibleName(label->text());
     }
 }
 
