@@ -15,7 +15,7 @@ FractionSlider::FractionSlider(QWidget *parent) : QSlider(Qt::Horizontal, parent
     setFocusPolicy(Qt::StrongFocus);
     connect(this, &QSlider::actionTriggered, this, [this] {
         m_value = sliderPosition() / kUnit;
-        Q_EMIT movedByUser();
+        Q_EMIT movedByUser(m_value);
     });
 }
 
@@ -31,7 +31,7 @@ void FractionSlider::setDoubleValue(double value)
 void FractionSlider::moveByUser(double value)
 {
     setDoubleValue(value);
-    Q_EMIT movedByUser();
+    Q_EMIT movedByUser(m_value);
 }
 
 void FractionSlider::wheelEvent(QWheelEvent *event)
