@@ -63,7 +63,7 @@ bool HostSession::help(const HostPanel &panel)
 void HostSession::restoreAll()
 {
     for (const HostPanel &panel : m_panels)
-        panel.panel->restoreValuesAndReturnError(nullptr);
+        restore(panel);
 }
 
 bool HostSession::markElsewhere(const QString &keyword, const QString &choice)

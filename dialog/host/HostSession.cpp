@@ -56,8 +56,10 @@ void HostSession::start()
             *m_options.alertMemory, m_plugIn.bundle->bundleIdentifier());
     createPanels();
     m_running = true;
-    if (m_options.restore)
-        restoreAll();
+    if (!m_options.restore)
+        return;
+    for (const HostPanel &panel : m_panels)
+        panel.panel->restoreValuesAndReturnError(nullptr);
 }
 
 void HostSession::createPanels()

@@ -13,7 +13,7 @@ FractionSlider::FractionSlider(QWidget *parent) : QSlider(Qt::Horizontal, parent
 {
     connect(this, &QSlider::actionTriggered, this, [this] {
         m_value = sliderPosition() / kUnit;
-        Q_EMIT movedByUser();
+        Q_EMIT movedByUser(m_value);
     });
 }
 
@@ -29,5 +29,5 @@ void FractionSlider::setDoubleValue(double value)
 void FractionSlider::moveByUser(double value)
 {
     setDoubleValue(value);
-    Q_EMIT movedByUser();
+    Q_EMIT movedByUser(m_value);
 }

@@ -25,8 +25,8 @@ public:
     void moveByUser(double value);
 
 Q_SIGNALS:
-    /// The user has moved the slider, be it to the same value.
-    void movedByUser();
+    /// The user has moved the slider to the value, be it the same one.
+    void movedByUser(double value);
 
 private:
     double m_value = 0;

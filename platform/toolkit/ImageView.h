@@ -6,6 +6,8 @@
 #include <QtGui/QImage>
 #include <QtWidgets/QWidget>
 
+#include <utility>
+
 /// Shows one picture, scaled down to fit and never up, in the middle of the view.
 class VELKARO_PLATFORM_EXPORT ImageView : public QWidget
 {
@@ -20,6 +22,10 @@ public:
     /// Puts a picture into the view. `size` is how large it is shown, in points; by default the
     /// picture's own size.
     void setImage(const QImage &image, const QSize &size = QSize());
+
+    /// Takes the picture out of the view, for whoever wants to draw the next one over its memory.
+    /// The view shows nothing until the next setImage().
+    QImage takeImage() { return std::exchange(m_image, QImage()); }
 
     /// The name of the picture that is shown, given by whoever put it there; null without one.
     QString imageName() const { return m_imageName; }

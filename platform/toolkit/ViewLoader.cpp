@@ -1,5 +1,6 @@
 #include "platform/toolkit/ViewLoader.h"
 
+#include "platform/toolkit/DisclosureButton.h"
 #include "platform/toolkit/FractionSlider.h"
 #include "platform/toolkit/ImageView.h"
 #include "platform/toolkit/NumberField.h"
@@ -19,6 +20,7 @@ namespace {
 ViewConnections toolkitClasses()
 {
     ViewConnections classes;
+    classes.widgetClass<DisclosureButton>(QStringLiteral("DisclosureButton"));
     classes.widgetClass<PopUpButton>(QStringLiteral("PopUpButton"));
     classes.widgetClass<RadioMatrix>(QStringLiteral("RadioMatrix"));
     classes.widgetClass<ImageView>(QStringLiteral("ImageView"));
@@ -77,6 +79,15 @@ void connectWidget(QWidget *widget, const ViewConnections &owner, ObservableDict
         connectAction(widget, action);
 }
 
+void silence(QWidget *part)
+{
+    if (!part)
+        return;
+    part->blockSignals(true);
+    for (QWidget *child : part->findChildren<QWidget *>())
+        child->blockSignals(true);
+}
+
 } // namespace
 
 LoadedView::LoadedView(QWidget *root, std::unique_ptr<ObservableDictionary> content,
@@ -89,6 +100,11 @@ LoadedView::LoadedView(QWidget *root, std::unique_ptr<ObservableDictionary> cont
 
 LoadedView::~LoadedView()
 {
+    // A field that holds typed text sends it when its window goes, to an owner that may be half
+    // gone by then.
+    for (const QPointer<QWidget> &outlet : std::as_const(m_outlets))
+        silence(outlet);
+    silence(m_root);
     // Outlets may live elsewhere by now: the dialog takes the panel's view into its own window.
     const auto outlets = std::exchange(m_outlets, {});
     for (const QPointer<QWidget> &outlet : outlets)

@@ -48,6 +48,14 @@
         <translation>Color enhancement</translation>
     </message>
     <message>
+        <source>Revert</source>
+        <translation>Revert</translation>
+    </message>
+    <message>
+        <source>Preview</source>
+        <translation>Preview</translation>
+    </message>
+    <message>
         <source>Layout</source>
         <translation>Layout</translation>
     </message>

@@ -48,6 +48,14 @@
         <translation>カラー調整</translation>
     </message>
     <message>
+        <source>Revert</source>
+        <translation>元に戻す</translation>
+    </message>
+    <message>
+        <source>Preview</source>
+        <translation>プレビュー</translation>
+    </message>
+    <message>
         <source>Layout</source>
         <translation>レイアウト</translation>
     </message>
@@ -102,7 +110,7 @@
     <!-- Printable discs -->
     <message>
         <source>DiscPrint Alert</source>
-        <translation>ディスクはディスクトレイにセットされていますか?</translation>
+        <translation>ディスクはディスクトレイにセットされていますか？</translation>
     </message>
     <message>
         <source>DiscPrint Alert2</source>

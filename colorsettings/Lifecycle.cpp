@@ -1,0 +1,102 @@
+#include "colorsettings/VKInkColorSettingPDE.h"
+
+#include "colorsettings/ColorTransformer.h"
+#include "platform/foundation/Bundle.h"
+#include "platform/foundation/NotificationCenter.h"
+#include "platform/imaging/CIFilter.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr auto kPrintSettingNotification = "VKInkPrintSettingNotification"_L1;
+constexpr auto kPaperDidChangeNotification = "PMPrintDestinationPaperDidChangeNotification"_L1;
+
+std::optional<QStringList> keywordList(const Bundle *bundle)
+{
+    const QVariant list =
+        bundle ? bundle->infoValue(u"PMPPDKeysSupported"_s + u"Color"_s) : QVariant();
+    return list.isValid() ? std::optional(list.toStringList()) : std::nullopt;
+}
+
+} // namespace
+
+VKInkColorSettingPDE::VKInkColorSettingPDE() = default;
+
+VKInkColorSettingPDE::~VKInkColorSettingPDE() = default;
+
+bool VKInkColorSettingPDE::initWithCallback(
+    const std::shared_ptr<PDEPluginCallback> &initWithCallback)
+{
+    if (!VKPrintQualityPDE::initWithCallback(initWithCallback))
+        return false;
+    setThePDEName(u"VKInkColorSetting"_s);
+    setPPDKeys(keywordList(pluginBundle.get()));
+    setEffectDefaults();
+    restoreEffectValues();
+    saveEffectValues();
+    ValueTransformer::setValueTransformer(std::make_shared<ColorTransformer>(),
+                                          u"VKColorTransformer"_s);
+    observeNotifications();
+    return true;
+}
+
+void VKInkColorSettingPDE::observeNotifications()
+{
+    auto &center = NotificationCenter::defaultCenter();
+    const void *host = pdePluginCallbackObject.get();
+    center.addObserver(
+        this, [this](const Notification &notification) { printSettingsNotified(notification); },
+        kPrintSettingNotification, host);
+    // The panel itself takes the colour mode of the ticket from this.
+    center.post(kPrintSettingNotification, host);
+    center.addObserver(
+        this, [this](const Notification &notification) { checkPageSizeChange(notification); },
+        kPaperDidChangeNotification);
+}
+
+QString VKInkColorSettingPDE::panelName() const
+{
+    return localized("Color Setting");
+}
+
+QString VKInkColorSettingPDE::helpBook() const
+{
+    return u"Velkaro Color Settings Help"_s;
+}
+
+void VKInkColorSettingPDE::willShow()
+{
+    VKPrintQualityPDE::willShow();
+    setContent(u"frameHeight"_s, 0.0);
+    updateUI();
+}
+
+bool VKInkColorSettingPDE::saveValuesAndReturnError(QString *error)
+{
+    VKPrintQualityPDE::saveValuesAndReturnError(error);
+    saveEffectValues();
+    return true;
+}
+
+void VKInkColorSettingPDE::saveAllValues()
+{
+    VKPrintQualityPDE::saveAllValues();
+    saveEffectValues();
+}
+
+void VKInkColorSettingPDE::checkConstraints()
+{
+    VKPrintQualityPDE::checkConstraints();
+    restoreEffectValues();
+}
+
+QString VKInkColorSettingPDE::inspectedClassName() const
+{
+    return u"VKInkColorSettingPDE"_s;
+}
+
+QString VKInkColorSettingPDE::inspectedName() const
+{
+    return u"color"_s;
+}

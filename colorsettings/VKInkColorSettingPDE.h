@@ -1,0 +1,193 @@
+#pragma once
+
+#include "panel/VKPrintQualityPDE.h"
+#include "platform/imaging/CIContext.h"
+
+#include <memory>
+
+class CIFilter;
+class CIImage;
+class NumberField;
+class QLabel;
+struct ColorJob;
+
+/// The Color Settings panel: colour matching, halftone pattern, the enhancement switch, five
+/// enhancement values from -20 to 20, and a picture that previews their effect.
+///
+/// What drives it:
+///   1. the PPD: the base panel fills the matrix, the pop-up and the check box, and commits picks;
+///   2. the Print Settings panel, through "VKInkPrintSettingNotification": colour mode and colour
+///      matching follow the medium;
+///   3. the page setup: a job that is scaled to a printable disc takes natural colour matching;
+///   4. the sliders and fields of the five values.
+///
+/// The five values are never marked in the PPD: they leave the panel as ticket values. They live in
+/// three places: `effectContent` holds what the sliders show, `outputBin` (as integer numbers) what
+/// was last read from or written to the ticket, and the ticket a decimal text.
+///
+/// Before the view is loaded there are no outlets and no `effectContent`: everything then works on
+/// `outputBin` and the ticket alone, and nothing is drawn.
+class VKInkColorSettingPDE : public VKPrintQualityPDE
+{
+public:
+    VKInkColorSettingPDE();
+    ~VKInkColorSettingPDE() override;
+
+    // --- Creation and the panel protocol ---------------------------------------------------------
+
+    /// The base panel's creation, then the panel's own: keywords, values, observers. When the base
+    /// panel cannot be created nothing more is done, and the panel must be dropped.
+    bool initWithCallback(const std::shared_ptr<PDEPluginCallback> &initWithCallback) override;
+
+    QString panelName() const override;
+    void willShow() override;
+    bool saveValuesAndReturnError(QString *error) override;
+    QVariantMap summaryInfo() override;
+
+    // --- What the base panel asks ----------------------------------------------------------------
+
+    void initializePopup() override;
+    void saveAllValues() override;
+    void checkConstraints() override;
+    void checkUIConstraints() override;
+    void toggleShowOption(QWidget *toggleShowOption) override;
+    QString determineKey(QWidget *determineKey) const override;
+    QWidget *determineUI(const QString &determineUI) const override;
+    QWidget *determineLabel(const QString &determineLabel) const override;
+    std::optional<QStringList> availablePPDOptionKeys() const override;
+    QString helpBook() const override;
+
+    /// The numeric field of an enhancement keyword; null for any other.
+    QWidget *determineField(const QString &determineField) const;
+
+    // --- Notifications ---------------------------------------------------------------------------
+
+    /// The Print Settings panel has decided something (the entry that "PointTo" names); without
+    /// user information the ticket says what holds.
+    void printSettingsNotified(const Notification &printSettingsNotified);
+
+    /// The page setup has changed.
+    void checkPageSizeChange(const Notification &checkPageSizeChange);
+
+    // --- Enhancement values ----------------------------------------------------------------------
+
+    /// The first call gives the panel its enhancement keywords, the PPD's defaults and the two
+    /// filters; every call shows the values of `outputBin` in the sliders.
+    void setEffectDefaults();
+
+    /// Reads the five values from the ticket, 0 for what is no number from -20 to 20, and shows
+    /// them. Without a ticket nothing changes.
+    void restoreEffectValues();
+
+    /// Takes the five values from the sliders, cut toward zero, and writes them to the ticket.
+    /// Without a ticket nothing changes.
+    void saveEffectValues();
+
+    /// The action of the sliders and fields: draws the picture anew when the value is a new one.
+    void effectValueDidChange(QWidget *effectValueDidChange);
+
+    /// The action of the revert button: puts the values back to those of the last ticket read or
+    /// write and switches enhancement off, without asking the dialog. The sender is ignored.
+    void revertEffectDialog(QWidget *revertEffectDialog);
+
+    // --- The picture -----------------------------------------------------------------------------
+
+    /// The reference image that the preview starts from; null: none.
+    std::shared_ptr<const CIImage> refImage() const { return refImage_; }
+    void setRefImage(const std::shared_ptr<const CIImage> &image);
+
+    /// Takes the "tiff" resource of this name as the reference image. Without such a resource the
+    /// image stays; a file that cannot be read gives none.
+    void setRefImageWithName(const QString &setRefImageWithName);
+
+    /// The image with brightness and contrast changed, as the sliders say; the image itself while
+    /// enhancement is off. `code`: 0 takes up brightness, 1 contrast, a negative one both. A single
+    /// one also puts the whole number back into `effectContent`.
+    std::shared_ptr<const CIImage>
+    applyColorControlFilter(const std::shared_ptr<const CIImage> &applyColorControlFilter,
+                            int code);
+
+    /// The image with the colour gains applied, as the sliders say; in mono its grey form; the
+    /// image itself while enhancement is off. `code`: 0 takes up red, 1 green, 2 blue, a negative
+    /// one all three. A single one also puts the whole number back into `effectContent`.
+    std::shared_ptr<const CIImage>
+    applyColorMatrixFilter(const std::shared_ptr<const CIImage> &applyColorMatrixFilter, int code);
+
+    /// Draws the whole picture: brightness and contrast first, then the gains; grey for fax.
+    void redrawEffectImage();
+
+    /// The action of the view's size watch: draws once the dialog's window, at another height, has
+    /// room for the panel. The sender is ignored.
+    void updateImage(QWidget *updateImage);
+
+    // --- Inspection ------------------------------------------------------------------------------
+
+    QString inspectedClassName() const override;
+    QString inspectedName() const override;
+    bool inspectedHasPicture() const override { return true; }
+    ImageView *inspectedPicture() const override { return effectImageView; }
+
+protected:
+    void connectView(ViewConnections &connections) override;
+
+private:
+    /// The view's parts of one enhancement value.
+    struct EffectOutlets
+    {
+        QLabel *label = nullptr;
+        NumberField *field = nullptr;
+    };
+
+    EffectOutlets effectOutlets(const QString &keyword) const;
+    void connectOutlets(ViewConnections &connections);
+    void observeNotifications();
+
+    void titleSection();
+    void titleEffects();
+    void nameControls();
+
+    void setContent(const QString &key, const QVariant &value);
+    long long contentInteger(const QString &key) const;
+    bool isEnhancementShown() const;
+    ColorJob job() const;
+    void dimTexts();
+
+    void followPrintSettings(const QVariantMap &userInfo);
+    void followTicket();
+
+    void readEffectDefaults();
+    void createFilters();
+
+    void setColorControl(int code);
+    void setGain(int color);
+    std::shared_ptr<const CIImage> withColorControlChanged(int code);
+    std::shared_ptr<const CIImage> withGainChanged(int color);
+    std::shared_ptr<const CIImage> monochrome(const std::shared_ptr<const CIImage> &image) const;
+    void drawEffect(const std::shared_ptr<const CIImage> &result);
+
+    ImageView *effectImageView = nullptr;
+    ImageView *colorModeImageView = nullptr;
+    RadioMatrix *colorMatchingMatrix = nullptr;
+    PopUpButton *ditherPopup = nullptr;
+    QLabel *colorMatchingLabel = nullptr;
+    QLabel *ditherLabel = nullptr;
+    QLabel *optionLabel = nullptr;
+    QAbstractButton *colorEnhanceButton = nullptr;
+    QLabel *brightnessLabel = nullptr;
+    QLabel *contrastLabel = nullptr;
+    QLabel *redLabel = nullptr;
+    QLabel *greenLabel = nullptr;
+    QLabel *blueLabel = nullptr;
+    NumberField *brightnessField = nullptr;
+    NumberField *contrastField = nullptr;
+    NumberField *redField = nullptr;
+    NumberField *greenField = nullptr;
+    NumberField *blueField = nullptr;
+
+    QStringList PPDEffectKeys; ///< empty until the first setEffectDefaults()
+    std::shared_ptr<const CIImage> refImage_;
+    QString refImagePath_; ///< the file that refImage_ was read from; null for any other image
+    std::unique_ptr<CIFilter> ccFilter;
+    std::unique_ptr<CIFilter> cmFilter;
+    CIContext context_;
+};

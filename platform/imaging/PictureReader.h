@@ -1,0 +1,21 @@
+#pragma once
+
+#include <QImage>
+#include <QString>
+
+namespace imaging {
+
+/// The most pixels that a file may have: 134 million, so that 100 megapixels fit. Decoded, that
+/// is 0.5 GiB, or 1 GiB with 16 bits a channel. A file that claims more is not decoded at all.
+inline constexpr qint64 maximumPixels = qint64(1) << 27;
+
+/// Decodes the first picture of a TIFF or PNG file (the kind is told by the contents, not by the
+/// name), turned the way up that the file asks for, and converted to sRGB if the file has a
+/// colour profile. Without a profile, or with one that cannot be used, the values are sRGB as
+/// they stand. Greyscale, palette and 16-bit files come as they are stored.
+///
+/// The null image if the path names no regular file, or the file is of another kind, damaged,
+/// cut short, or larger than maximumPixels.
+QImage readPicture(const QString &path);
+
+} // namespace imaging

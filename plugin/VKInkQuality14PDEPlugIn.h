@@ -1,0 +1,21 @@
+#pragma once
+
+#include "platform/pde/PDEPlugIn.h"
+
+/// The principal class of the plug-in: it hands out the panels of a print dialog. It keeps neither
+/// the bundle that it is given (the panels find theirs by themselves) nor the panels that it makes.
+class VKInkQuality14PDEPlugIn : public QObject, public PDEPlugIn
+{
+    Q_OBJECT
+    Q_PLUGIN_METADATA(IID PDEPlugIn_iid)
+    Q_INTERFACES(PDEPlugIn)
+
+public:
+    bool initWithBundle(Bundle *initWithBundle) override;
+
+    /// The Print Settings panel, then the Color Settings panel. A panel that cannot be created is
+    /// missing, the other is still there.
+    std::vector<std::unique_ptr<PDEPanel>>
+    PDEPanelsForType(const QString &PDEPanelsForType,
+                     const std::shared_ptr<PDEPluginCallback> &withHostInfo) override;
+};

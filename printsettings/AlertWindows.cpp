@@ -1,0 +1,127 @@
+#include "printsettings/VKInkPrintSetting14PDE.h"
+
+#include "platform/foundation/Bundle.h"
+#include "platform/pde/PPDText.h"
+#include "platform/toolkit/ImageView.h"
+#include "platform/toolkit/ModalSession.h"
+#include "platform/toolkit/PlainText.h"
+#include "printsettings/PaperNames.h"
+
+#include <QtGui/QFontDatabase>
+#include <QtGui/QImage>
+#include <QtWidgets/QCheckBox>
+#include <QtWidgets/QLabel>
+#include <QtWidgets/QPushButton>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr QSize kAlertImageSize(278, 243); // points
+constexpr int kInstructionFontSize = 12;   // points, which are pixels here
+constexpr double kMessageMargin = 6.0;     // points under the message
+
+QFont systemFont()
+{
+    return QFontDatabase::systemFont(QFontDatabase::GeneralFont);
+}
+
+void setInstruction(QLabel *label, const QString &text)
+{
+    if (!label)
+        return;
+    QFont font = systemFont();
+    font.setPixelSize(kInstructionFontSize);
+    label->setFont(font);
+    label->setText(text);
+}
+
+} // namespace
+
+bool VKInkPrintSetting14PDE::confirmEnvelope()
+{
+    readyToShowEnvelopeAlert();
+    return showDialog(envAlertWindow, QString()) == kModalOK;
+}
+
+void VKInkPrintSetting14PDE::readyToShowEnvelopeAlert()
+{
+    const bool multiPurposeTray = managesKeyword(u"VKInputSlot"_s) &&
+                                  findChoice(findOption(ppd, u"VKInputSlot"_s), u"MPTray"_s);
+    putAlertImage(envAlertImageView, multiPurposeTray ? u"QTLark22_Tray_Env"_s : u"QTLark22_Env"_s);
+    const QString loading =
+        localized(multiPurposeTray ? "Envelope Alert2 Lark22 MP" : "Envelope Alert2 Lark22");
+    setInstruction(envInstructionLabel1, localized("Envelope Alert1") + u"\n\n"_s + loading);
+    setInstruction(envInstructionLabel2, localized("Envelope Caution"));
+    titleButton(envAlertOKButton, "OK");
+    titleButton(envAlertCancelButton, "Cancel");
+    if (envAlertWindow)
+        envAlertWindow->setWindowTitle(localized("Envelope Alert Title"));
+}
+
+void VKInkPrintSetting14PDE::readyToShowPaperAlertWithKind(
+    const QString &kind, const QString &orientationMessage, QWidget *alertWindow,
+    ImageView *alertView, const QString &alertImage, QLabel *alertMessageLabel)
+{
+    putAlertImage(alertView, alertImage);
+    if (kind == "Normal Paper"_L1) {
+        titleButton(normalPaperAlertOKButton, "OK");
+        titleButton(normalPaperAlertCancelButton, "Cancel");
+        titleButton(suppressionButton, "Suppression");
+    }
+    titleButton(customPaperAlertOKButton, "OK");
+    titleButton(customPaperAlertCancelButton, "Cancel");
+
+    const QString message =
+        pluginBundle ? pluginBundle->localizedString(orientationMessage) : orientationMessage;
+    const QSize labelSize = alertMessageLabel ? alertMessageLabel->size() : QSize(0, 0);
+    const double needed = heightForSpecifiedFont(message, systemFont(), labelSize.width());
+    const int height = qRound(needed + kMessageMargin);
+    if (alertMessageLabel) {
+        alertMessageLabel->setText(message);
+        alertMessageLabel->resize(labelSize.width(), height);
+    }
+    if (!alertWindow)
+        return;
+    alertWindow->resize(alertWindow->width(), alertWindow->height() + height - labelSize.height());
+    alertWindow->setWindowTitle(localized("Paper Orientation Title"));
+    alertWindow->update();
+}
+
+void VKInkPrintSetting14PDE::putAlertImage(ImageView *view, const QString &name)
+{
+    const QString path = pluginBundle ? pluginBundle->pathForResource(name, u"tiff"_s) : QString();
+    const QImage image = path.isNull() ? QImage() : QImage(path);
+    if (!view || image.isNull())
+        return;
+    view->setImage(image, kAlertImageSize);
+    view->setImageName(name);
+}
+
+void VKInkPrintSetting14PDE::titleButton(QAbstractButton *button, const char *key)
+{
+    if (button)
+        setButtonTitle(button, localized(key));
+}
+
+int VKInkPrintSetting14PDE::showDialog(QWidget *showDialog, const QString &withAlertInfo)
+{
+    const int result = runModalForWindow(showDialog);
+    if (result == kModalOK) {
+        const bool suppressed = suppressionButton && suppressionButton->isChecked();
+        alertDidEnd({0, suppressed}, result, withAlertInfo);
+    }
+    if (showDialog)
+        showDialog->hide();
+    return result;
+}
+
+void VKInkPrintSetting14PDE::dialogOkDidClick(QWidget *)
+{
+    stopModalWithCode(kModalOK);
+}
+
+void VKInkPrintSetting14PDE::dialogCancelDidClick(QWidget *)
+{
+    stopModalWithCode(kModalCancel);
+}

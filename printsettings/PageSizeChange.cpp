@@ -1,0 +1,65 @@
+#include "printsettings/VKInkPrintSetting14PDE.h"
+
+#include "platform/foundation/NotificationCenter.h"
+#include "platform/toolkit/KeyWindow.h"
+
+#include <QtWidgets/QApplication>
+#include <QtWidgets/QComboBox>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+// A notification's object is an address that may be anybody's; it is a menu when a menu lives
+// there.
+const QComboBox *menuAt(const void *object)
+{
+    const auto widgets = QApplication::allWidgets();
+    for (const QWidget *widget : widgets) {
+        if (static_cast<const void *>(widget) == object)
+            return qobject_cast<const QComboBox *>(widget);
+    }
+    return nullptr;
+}
+
+} // namespace
+
+void VKInkPrintSetting14PDE::checkPageSizeChange(const Notification &checkPageSizeChange)
+{
+    try {
+        if (isPaperMenuAction(checkPageSizeChange) && readPageSetup())
+            followPageSize();
+    } catch (...) {
+        // The dialog posts this in the middle of its own work and must not be stopped by it. A
+        // panel that cannot follow the paper stops listening rather than failing every time.
+        NotificationCenter::defaultCenter().removeObserver(this);
+    }
+}
+
+// Of the menu notifications only those count that come from a menu with paper sizes.
+bool VKInkPrintSetting14PDE::isPaperMenuAction(const Notification &notification) const
+{
+    if (notification.name != QLatin1String(kMenuDidSendActionNotification))
+        return true;
+    const QComboBox *menu = menuAt(notification.object);
+    return menu &&
+           menu->findText(localized("A4"), Qt::MatchFixedString | Qt::MatchCaseSensitive) >= 0 &&
+           notification.userInfo && pluginBundle;
+}
+
+void VKInkPrintSetting14PDE::followPageSize()
+{
+    const QString mediaType = u"VKMediaType"_s;
+    const bool unusable = pendingValue(mediaType) == "Transparencies"_L1 ||
+                          pendingValue(u"VKResolution"_s) == "PlainFast"_L1;
+    const bool warned = hasFlag(BorderlessPaper) && unusable;
+    if (warned && popupInited)
+        runAlert(noticeAlert(AlertStyle::Critical, localized("Borderless Alert"),
+                             localized("Borderless Alert2")));
+    checkConstraints();
+    if (!popupInited)
+        return;
+    checkUIConstraints();
+    checkUIStateWithMediaType(warned || pendingValue(mediaType) == "PrintableDisc"_L1);
+    updateUI();
+}

@@ -1,0 +1,89 @@
+#include "printsettings/VKInkPrintSetting14PDE.h"
+
+#include "printsettings/PaperNames.h"
+
+#include <QtWidgets/QWidget>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+constexpr auto kBestAlert = "Best Alert"; // its text and its key in the alert memory
+}
+
+void VKInkPrintSetting14PDE::requestNewOutputBin(QWidget *requestNewOutputBin)
+{
+    VKPrintQualityPDE::requestNewOutputBin(requestNewOutputBin);
+    applyRulesAfterPick(determineKey(requestNewOutputBin));
+}
+
+void VKInkPrintSetting14PDE::applyRulesAfterPick(const QString &keyword)
+{
+    if (keyword == "VKMediaType"_L1) {
+        checkUIStateWithMediaType(true);
+        getUIValues();
+    } else if (keyword == "VKResolution"_L1) {
+        applyQualityPick();
+    } else if (keyword == "VKInputSlot"_L1) {
+        checkStateWithPaperFeed();
+    } else if (keyword == "VKMonoColor"_L1) {
+        canSelectColorMode();
+    } else if (keyword == "VKColorPaperThick"_L1) {
+        applyThicknessPick();
+    }
+}
+
+void VKInkPrintSetting14PDE::applyQualityPick()
+{
+    const bool best = pendingValue(u"VKResolution"_s) == "Best"_L1;
+    if (best && !isKindOfPlainPaper(pendingValue(u"VKMediaType"_s)) &&
+        shouldShowAlert(QString::fromLatin1(kBestAlert)))
+        beginBestAlert();
+    canSelectJpegPrint();
+}
+
+void VKInkPrintSetting14PDE::beginBestAlert()
+{
+    AlertContent content =
+        noticeAlert(AlertStyle::Informational, localized(kBestAlert), localized("Highest Alert2"));
+    content.suppression = true;
+    content.suppressionTitle = localized("Suppression");
+    beginAlertSheet(content, lifetime(), [this](const AlertResult &result) {
+        alertDidEnd(result, result.button, QString::fromLatin1(kBestAlert));
+    });
+}
+
+void VKInkPrintSetting14PDE::applyThicknessPick()
+{
+    if (paperSizeIsCustomEnv())
+        setAndMarkValue(u"OFF"_s, u"VKBiDir"_s);
+    else if (isKindOfPlainPaper(pendingValue(u"VKMediaType"_s)))
+        setAndMarkValue(u"ON"_s, u"VKBiDir"_s);
+    if (!popupInited)
+        return;
+    checkUIConstraints();
+    updateUIforKey(u"VKBiDir"_s);
+}
+
+void VKInkPrintSetting14PDE::updateUIforKey(const QString &updateUIforKey)
+{
+    VKPrintQualityPDE::updateUIforKey(updateUIforKey);
+    if (updateUIforKey == "VKMediaType"_L1)
+        checkUIStateWithMediaType(false);
+    else if (updateUIforKey == "VKResolution"_L1)
+        canSelectJpegPrint();
+    else if (updateUIforKey == "VKInputSlot"_L1)
+        checkStateWithPaperFeed();
+    else if (updateUIforKey == "VKMonoColor"_L1)
+        canSelectColorMode();
+}
+
+void VKInkPrintSetting14PDE::revertUI(QWidget *revertUI, const QString &forKey)
+{
+    VKPrintQualityPDE::revertUI(revertUI, forKey);
+    if (forKey == "VKMonoColor"_L1) {
+        canSelectColorMode();
+    } else if (forKey == "VKMediaType"_L1) {
+        checkUIStateWithMediaType(true);
+        setDefaultQuality(pendingValue(u"VKMediaType"_s));
+    }
+}

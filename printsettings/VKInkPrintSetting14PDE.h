@@ -1,0 +1,257 @@
+#pragma once
+
+#include "panel/VKPrintQualityPDE.h"
+
+#include <QtCore/QSizeF>
+
+#include <array>
+#include <memory>
+#include <optional>
+
+class AdvancedOptionList;
+struct PMPaper;
+class QCheckBox;
+class QLabel;
+class QListWidget;
+class QPushButton;
+class QStackedWidget;
+
+/// The Print Settings panel: medium, quality, paper feed, colour or mono, thickness, two-sided
+/// printing and the advanced options, and the rules that tie them together.
+///
+/// A person picks a medium:
+///   1. the base offers it to the dialog, records it and refreshes the pop-up, then commits what
+///      every control shows;
+///   2. checkUIStateWithMediaType() rebuilds the qualities, selects the medium's default, sets the
+///      boxes that depend on the medium, and tells the Color Settings panel about colour matching;
+///   3. getUIValues() commits whatever that has changed.
+///
+/// The decisions themselves are tables and pure functions beside this class (MediaQuality.h,
+/// PaperNames.h, PaperKind.h, DiscMedia.h, ModelClass.h, DuplexPapers.h, CustomSizes.h); this class
+/// applies them to the pending values and the controls. Every operation works without a view: then
+/// the pending values and the PPD change, and no control does.
+///
+/// The order of the steps within each operation is what the dialog and the other panel see (choices
+/// offered, notifications posted); it is part of the interface.
+class VKInkPrintSetting14PDE : public VKPrintQualityPDE
+{
+public:
+    VKInkPrintSetting14PDE();
+    ~VKInkPrintSetting14PDE() override;
+
+    // --- Lifecycle and the panel protocol ------------------------------------------------------
+
+    /// False when the base cannot be created; nothing else has happened then.
+    bool initWithCallback(const std::shared_ptr<PDEPluginCallback> &initWithCallback) override;
+    QString panelName() const override;
+    void willShow() override;
+    void PPDOptionKeyValueDidChange(const QString &PPDOptionKeyValueDidChange,
+                                    const QString &ppdChoice) override;
+    /// Swaps plain paper and its two-sided form, which the pop-up does not list. A panel that was
+    /// never shown sets it whatever the medium is, and with it the quality "PlainNormal".
+    bool saveValuesAndReturnError(QString *error) override;
+    /// Raises at most one alert, and vetoes the job when it is cancelled.
+    bool shouldPrint() override;
+    /// The base's summary with the printer's model as its first line.
+    QVariantMap summaryInfo() override;
+
+    void requestNewOutputBin(QWidget *requestNewOutputBin) override;
+    void updateUIforKey(const QString &updateUIforKey) override;
+    void revertUI(QWidget *revertUI, const QString &forKey) override;
+
+    /// Whether the choice "FAX" of `VKOutput` is marked.
+    bool checkIfOutputToFax() const;
+    /// The user's first preferred language, such as "ja".
+    QString firstLanguageSetting() const;
+
+    // --- Keywords, controls, labels ------------------------------------------------------------
+
+    QString determineKey(QWidget *determineKey) const override;
+    QWidget *determineUI(const QString &determineUI) const override;
+    QWidget *determineLabel(const QString &determineLabel) const override;
+    std::optional<QStringList> availablePPDOptionKeys() const override;
+    /// Brings the bit NewerModelClass up to date.
+    void checkModelName() override;
+    /// The string with "_on" behind it when the control is enabled and ticked, else with "_off".
+    QString addOnOffSuffix(QWidget *addOnOffSuffix, const QString &ToString) const;
+
+    // --- Rules of the media --------------------------------------------------------------------
+
+    /// The qualities for the medium, in order. A medium that the paper does not take is replaced,
+    /// with its default quality; the answer is for the medium asked about all the same.
+    QStringList allowedQuality(const QString &allowedQuality);
+    QString defaultQualityForMediaType(const QString &defaultQualityForMediaType) const;
+    void setDefaultQuality(const QString &setDefaultQuality);
+    void setDefaults() override;
+    /// Brings the bit MonoColorMode up to date and tells the Color Settings panel.
+    void canSelectColorMode();
+    void canSelectJpegPrint();
+    /// Brings the controls in line with the selected medium; `checkUIStateWithMediaType` says
+    /// whether the medium's defaults are applied too, as after a pick.
+    void checkUIStateWithMediaType(bool checkUIStateWithMediaType);
+    void checkStateWithPaperFeed();
+    /// Whether the paper is a custom size with the thickness of envelopes.
+    bool paperSizeIsCustomEnv();
+    void changeResolutionLetterB() override;
+
+    // --- Control states and constraints --------------------------------------------------------
+
+    /// Enables or disables the listed items of the pop-up and, where its selection must move (at
+    /// once with `toDefault`, else when the selected item is not enabled), selects its default.
+    /// Enabling a list on the quality pop-up leaves exactly the listed items.
+    void changeState(PopUpButton *changeState, const QStringList &forArray, bool toEnable,
+                     bool toDefault);
+    void checkConstraints() override;
+    void checkUIConstraints() override;
+
+    // --- Page setup ----------------------------------------------------------------------------
+
+    /// Takes the paper of the page setup. False when it is the one before, or cannot be read.
+    bool readPageSetup();
+    void checkPageSizeChange(const Notification &checkPageSizeChange);
+    /// Brings the bit DuplexOn up to date.
+    void checkDuplex();
+    void checkDuplexChange(const Notification &checkDuplexChange);
+
+    // --- Alerts; each check answers whether the job may be printed -----------------------------
+
+    bool checkCustomPaperSizeAlert();
+    bool checkShouldShowDiscAlert();
+    bool checkShouldShowEnvelopeAlert();
+
+    /// For other callers; the panel's own flow does not run the following three. The duplex check
+    /// is meant to be asked while two-sided printing is on: asked without, it vetoes.
+    bool checkShouldShowDuplexAlert();
+    /// Also writes the page's orientation into the ticket.
+    bool checkPaperAndShowOrientationAlert();
+    /// Prepares an alert window about a paper. `kind` "Normal Paper" names its own buttons too;
+    /// `orientationMessage` is the key of the text, `alertImage` the name of a picture resource.
+    void readyToShowPaperAlertWithKind(const QString &kind, const QString &orientationMessage,
+                                       QWidget *alertWindow, ImageView *alertView,
+                                       const QString &alertImage, QLabel *alertMessageLabel);
+
+    void readyToShowEnvelopeAlert();
+    /// Shows the window until one of its buttons is pressed: 1 for OK, 0 for Cancel. With an alert
+    /// key, OK stores whether the alert is to be shown again.
+    int showDialog(QWidget *showDialog, const QString &withAlertInfo);
+    void dialogOkDidClick(QWidget *dialogOkDidClick);
+    void dialogCancelDidClick(QWidget *dialogCancelDidClick);
+
+    // --- Advanced options ----------------------------------------------------------------------
+
+    /// Builds the panel the first time; later calls do nothing.
+    void initializePopup() override;
+    /// Fills and sizes the list of advanced options. The parts are hidden when there is no list.
+    void initializeAdvOption(const QList<QWidget *> &initializeAdvOption);
+    void addAdvOption(const QString &addAdvOption, const QString &forKey);
+    void toggleShowOption(QWidget *toggleShowOption) override;
+
+    // --- Inspection ----------------------------------------------------------------------------
+
+    QString inspectedClassName() const override;
+    QString inspectedName() const override;
+    std::optional<Rows> inspectedRows() const override;
+
+protected:
+    void connectView(ViewConnections &connections) override;
+
+private:
+    struct KeywordRow
+    {
+        QLatin1String keyword;
+        QWidget *control;
+        QWidget *label;
+    };
+    std::array<KeywordRow, 16> keywordRows() const;
+
+    void connectAlertWindows(ViewConnections &connections);
+
+    void applyRulesAfterPick(const QString &keyword);
+    void applyQualityPick();
+    void applyThicknessPick();
+    void beginBestAlert();
+
+    void restoreDefault(const QString &keyword);
+    void applySlowDrying(const QString &mediaType, bool applyDefaults);
+    void applyQualities(const QString &mediaType, bool applyDefaults);
+    void applyBiDir(const QString &mediaType);
+    void postNaturalColorMatching(bool natural, bool applyDefaults);
+    void applyTray2(const QString &mediaType);
+
+    QString selectedMediaType() const;
+    void rebuildQualities(PopUpButton &popup, const QStringList &qualities);
+    void setItemsEnabled(PopUpButton &popup, const QStringList &choices, bool enabled);
+    void showQualitiesAfterDisc();
+    void selectDefaultItem(PopUpButton &popup);
+    void selectDefaultMedium();
+
+    void constrainQuality();
+    void constrainBorderless();
+    void constrainDiscMedia();
+    void constrainBiDir();
+    void showDiscMedia();
+    void disableUnavailableControls();
+
+    QString pageSetupPaperName();
+    QString checkedPaperName(const QString &name) const;
+    const PMPaper *pageFormatPaper() const;
+    void trackDisc(const QString &name);
+    void applyDiscMedium();
+    QString applyPaperThickness();
+    void applyPaperBiDir();
+    bool isPaperMenuAction(const Notification &notification) const;
+    void followPageSize();
+    void setPlainDuplex();
+
+    bool confirmEnvelope();
+    bool refuseUnsupportedPaper();
+    std::optional<QSizeF> paperSizeInPoints() const;
+    bool isPaperWithinCustomSizes(const QSizeF &size) const;
+    bool writeOrientation(const QString &orientation);
+    void putAlertImage(ImageView *view, const QString &name);
+    void titleButton(QAbstractButton *button, const char *key);
+
+    void addGroupRow(const QString &keyword);
+    void addLocalizedRow(const char *key);
+
+    PopUpButton *resolutionPopup = nullptr;
+    PopUpButton *mediaTypePopup = nullptr;
+    PopUpButton *paperThickPopup = nullptr;
+    PopUpButton *paperFeedPopup = nullptr;
+    PopUpButton *monoColorPopup = nullptr;
+    QCheckBox *slowDryButton = nullptr;
+    QCheckBox *biDirButton = nullptr;
+    QCheckBox *mirrorButton = nullptr;
+    QCheckBox *reverseButton = nullptr;
+    PopUpButton *jpegPopup = nullptr;
+    PopUpButton *duplexPopup = nullptr;
+    QCheckBox *vertLineAlignA3Button = nullptr;
+    QCheckBox *vertLineAlignA4Button = nullptr;
+    QCheckBox *vertLineAlignOtherButton = nullptr;
+    QCheckBox *vertLineAlignQM43Button = nullptr;
+
+    QLabel *resolutionLabel = nullptr;
+    QLabel *mediaTypeLabel = nullptr;
+    QLabel *paperThickLabel = nullptr;
+    QLabel *paperFeedLabel = nullptr;
+    QLabel *monoColorLabel = nullptr;
+    QLabel *jpegLabel = nullptr;
+    QLabel *duplexLabel = nullptr;
+
+    QLabel *optionLabel = nullptr;
+    QStackedWidget *advancedTabView = nullptr; ///< its pages bear the ids of the list's rows
+    QListWidget *advancedTableView = nullptr;
+    std::unique_ptr<AdvancedOptionList> arrayController; ///< null without a list
+
+    QWidget *envAlertWindow = nullptr;
+    ImageView *envAlertImageView = nullptr;
+    QLabel *envInstructionLabel1 = nullptr;
+    QLabel *envInstructionLabel2 = nullptr;
+    QPushButton *envAlertOKButton = nullptr;
+    QPushButton *envAlertCancelButton = nullptr;
+    QPushButton *normalPaperAlertOKButton = nullptr;
+    QPushButton *normalPaperAlertCancelButton = nullptr;
+    QPushButton *customPaperAlertOKButton = nullptr;
+    QPushButton *customPaperAlertCancelButton = nullptr;
+    QCheckBox *suppressionButton = nullptr;
+};

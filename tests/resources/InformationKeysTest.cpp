@@ -1,0 +1,59 @@
+#include "tests/resources/Places.h"
+
+#include <QtCore/QJsonArray>
+#include <QtCore/QStringList>
+
+#include <gtest/gtest.h>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+QJsonObject information()
+{
+    return places::jsonObject(places::bundleFile(u"Info.json"_s));
+}
+
+QStringList list(const QString &key)
+{
+    QStringList result;
+    const QJsonArray array = information().value(key).toArray();
+    for (const QJsonValue &value : array)
+        result << value.toString();
+    return result;
+}
+
+TEST(InformationKeys, NameTheBundleItsClassAndItsHelp)
+{
+    const QJsonObject info = information();
+    EXPECT_EQ(info[u"CFBundleIdentifier"_s].toString(), u"com.velkaro.print.pde"_s);
+    EXPECT_EQ(info[u"CFBundleName"_s].toString(), u"VKInkPrintSetting14"_s);
+    EXPECT_EQ(info[u"CFBundleShortVersionString"_s].toString(), u"1.0.0"_s);
+    EXPECT_EQ(info[u"CFBundleExecutable"_s].toString(), u"libVKInkQuality14PDEPlugIn.so"_s);
+    EXPECT_EQ(info[u"NSPrincipalClass"_s].toString(), u"VKInkQuality14PDEPlugIn"_s);
+    EXPECT_EQ(info[u"CFBundleHelpBookName"_s].toString(), u"Velkaro Print Settings Help"_s);
+}
+
+TEST(InformationKeys, ListThePrintSettingsKeywordsWithTheMediumBeforeTheQuality)
+{
+    EXPECT_EQ(
+        list(u"PMPPDKeysSupported"_s),
+        (QStringList{u"VKMediaType"_s, u"VKResolution"_s, u"VKMonoColor"_s, u"VKColorPaperThick"_s,
+                     u"VKInputSlot"_s, u"VKMirror"_s, u"MirrorPrint"_s, u"VKReverse"_s, u"VKJpeg"_s,
+                     u"VKDuplexMode"_s, u"VKBiDir"_s, u"VKSlowDrying"_s,
+                     u"VKVertLineAlignA3B4Ledger"_s, u"VKVertLineAlignA4Letter"_s,
+                     u"VKVertLineAlignOther"_s, u"VKVertLineAlignDedicated"_s}));
+}
+
+TEST(InformationKeys, ListTheColorSettingsKeywordsWithoutTheEnhancementValues)
+{
+    EXPECT_EQ(list(u"PMPPDKeysSupportedColor"_s),
+              (QStringList{u"VKColorMatching"_s, u"VKHalfTonePattern"_s, u"VKColorEnhancement"_s}));
+}
+
+TEST(InformationKeys, WatchTheFaxOutput)
+{
+    EXPECT_EQ(list(u"PMPPDKeysWatched"_s), QStringList{u"VKOutput"_s});
+}
+
+} // namespace
