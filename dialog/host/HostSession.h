@@ -39,7 +39,8 @@ struct PrintAnswer
 ///   1. open() reads the PPD and loads the plug-in; nothing else in the process changes;
 ///   2. start() creates the panels and has them restore their values;
 ///   3. the operations, in any order, on the main thread;
-///   4. close() releases the panels; the PPD's marks and the ticket can still be read. Destroying the
+///   4. close() releases the panels; the PPD's marks and the ticket can still be read. Destroying
+///   the
 ///      session closes it.
 ///
 /// Notifications that the session posts have the callback object (notificationObject()) as their
