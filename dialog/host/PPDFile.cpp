@@ -1,5 +1,7 @@
 #include "dialog/host/PPDFile.h"
 
+#include "dialog/host/PPDCompleteness.h"
+
 #include <QtCore/QCoreApplication>
 #include <QtCore/QFile>
 #include <QtCore/QFileInfo>
@@ -31,11 +33,26 @@ QString reasonNotToRead(const QString &path)
 QString parserError(const QString &path)
 {
     int line = 0;
-    const ppd_status_t status = ppdLastError(&line);
+    const QString reason = QString::fromUtf8(ppdErrorString(ppdLastError(&line)));
+    if (line == 0)
+        return sentence(QT_TRANSLATE_NOOP("PPDFile", "%1 is not a PPD file (%2)."), path)
+            .arg(reason);
     return sentence(QT_TRANSLATE_NOOP("PPDFile", "%1 is not a usable PPD file (line %2: %3)."),
                     path)
         .arg(line)
-        .arg(QString::fromUtf8(ppdErrorString(status)));
+        .arg(reason);
+}
+
+// A cut within the comments at the beginning leaves a PPD that says nothing.
+bool saysNothing(const ppd_file_t &ppd)
+{
+    return ppd.num_groups == 0 && !ppd.modelname && !ppd.nickname && !ppd.manufacturer;
+}
+
+bool isIncomplete(const QString &path, const ppd_file_t &ppd)
+{
+    QFile file(path);
+    return saysNothing(ppd) || (file.open(QIODevice::ReadOnly) && isCutOff(file.readAll()));
 }
 
 } // namespace
@@ -48,6 +65,11 @@ OpenedPPD openPPD(const QString &path)
     PPDHandle ppd(ppdOpenFile(QFile::encodeName(path).constData()));
     if (!ppd)
         return {nullptr, parserError(path)};
+    if (isIncomplete(path, *ppd))
+        return {nullptr,
+                sentence(QT_TRANSLATE_NOOP("PPDFile", "The PPD file %1 is incomplete: it ends too "
+                                                      "early. Get it again."),
+                         path)};
     ppdMarkDefaults(ppd.get());
     return {std::move(ppd), QString()};
 }

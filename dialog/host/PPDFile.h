@@ -22,5 +22,6 @@ struct OpenedPPD
 };
 
 /// Opens the PPD file and marks its defaults. PPDs come from strangers: a file that is no regular
-/// file, larger than any printer's PPD, or not a PPD is refused before or by libcups' parser.
+/// file, larger than any printer's PPD, or not a PPD is refused before or by libcups' parser, and
+/// one that ends too early after it.
 OpenedPPD openPPD(const QString &path);

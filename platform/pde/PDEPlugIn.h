@@ -21,7 +21,7 @@ class PDEPlugIn
 public:
     virtual ~PDEPlugIn() = default;
 
-    /// Called once, before anything else. False: the plug-in cannot be used.
+    /// Called before anything else, once for each dialog. False: the plug-in cannot be used.
     virtual bool initWithBundle(Bundle *initWithBundle) = 0;
 
     /// New panels for a dialog of the type, in display order; the caller owns them. A type that the

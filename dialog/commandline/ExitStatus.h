@@ -1,0 +1,19 @@
+#pragma once
+
+/// What velkaro-print's exit status says. Scripts rely on the numbers: they are never given a new
+/// meaning. The help text and README list them.
+enum class ExitStatus {
+    Done = 0,      ///< the job was accepted, the file was written, or the script ran to its end
+    Cancelled = 1, ///< the user closed the dialog without printing
+    Usage = 2,     ///< a wrong option, setting or script, or a PPD that cannot be opened
+    Vetoed = 3,    ///< a check before printing stopped the job
+    Document = 4,  ///< a document cannot be read
+    Output = 5,    ///< the output file, picture or recording cannot be written
+    Server = 6,    ///< the server or the queue cannot be reached, or it refused the job
+    PlugIn = 7,    ///< the plug-in cannot be used
+};
+
+constexpr int exitCode(ExitStatus status)
+{
+    return static_cast<int>(status);
+}

@@ -1,0 +1,54 @@
+#include "dialog/commandline/HelpText.h"
+
+QString helpText()
+{
+    return QStringLiteral(R"(Usage: velkaro-print [options] [FILE...]
+Prints documents with the settings that you choose in a dialog.
+
+Printer
+  -d, --destination QUEUE[/INSTANCE]
+                          print to this queue (with the settings saved for
+                          the instance)
+  -h, --server HOST[:PORT]
+                          ask this print server instead of the usual one
+      --ppd FILE          take the printer from a PPD file instead of a queue
+
+Settings
+  -o, --option KEY=VALUE  make a setting of the printer; may be given again
+      --paper NAME        choose the paper by its name in the PPD, or
+                          Custom.WIDTHxHEIGHT with a unit: Custom.100x150mm
+
+Job
+      --output FILE       put the job into a file, settings and documents
+                          together; print it later with
+                          --no-dialog -d QUEUE FILE
+      --no-dialog         print without showing the dialog; every check is made
+      --yes               answer yes to what a check asks, instead of no
+
+Looking and testing
+      --screenshot FILE.png
+                          paint the dialog into a picture instead of showing it
+      --panel NAME        show this part first: print, color or summary
+      --record SCRIPT     note the session in a script
+      --replay SCRIPT     run a session from a script (-: standard input)
+                          and print what happens, a line of JSON an event
+      --plug-in FOLDER    load the plug-in from this bundle
+      --version           print the version
+      --help              print this text
+
+Exit status
+  0  printed, written, or the script ran to its end
+  1  cancelled in the dialog
+  2  a wrong option, setting or script, or a PPD that cannot be opened
+  3  a check stopped the job
+  4  a document cannot be read
+  5  an output file cannot be written
+  6  the server or the queue cannot be reached, or the job was refused
+  7  the plug-in cannot be used
+)");
+}
+
+QString versionText()
+{
+    return QStringLiteral("velkaro-print %1\n").arg(QStringLiteral(VELKARO_VERSION));
+}

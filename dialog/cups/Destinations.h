@@ -1,0 +1,32 @@
+#pragma once
+
+#include "dialog/cups/CallGuard.h"
+#include "dialog/cups/SavedOptions.h"
+#include "dialog/cups/ServerFault.h"
+
+#include <QtCore/QList>
+#include <QtCore/QString>
+
+/// A queue that can be printed to, or an instance of one.
+struct Destination
+{
+    QueueName name;
+    QString description; ///< what the queue's owner calls it; empty where he says nothing
+    QString location;    ///< empty where nobody says
+    bool isDefault = false;
+    bool isAccepting = true; ///< false: the queue rejects jobs at present
+    bool isStopped = false;  ///< jobs wait until somebody starts the queue
+};
+
+struct DestinationList
+{
+    QList<Destination> destinations; ///< by name, the queue itself before its instances
+    ServerAnswer answer;
+};
+
+/// Every destination of the server (null: the user's usual one), with the user's instances. Blocks:
+/// call it in a ServerCall.
+DestinationList listDestinations(const QString &server, CallGuard &guard);
+
+/// The queue that the server prints to by default; a null queue when it has none.
+QueueName serverDefault(const QString &server, CallGuard &guard);

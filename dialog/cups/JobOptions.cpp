@@ -1,0 +1,159 @@
+#include "dialog/cups/JobOptions.h"
+
+#include "dialog/cups/StandardAttributes.h"
+#include "platform/pde/PPDText.h"
+#include "platform/toolkit/PlainText.h"
+
+#include <QtCore/QCoreApplication>
+#include <QtCore/QLocale>
+
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr qsizetype kLongestText = 255; // bytes: an IPP name
+constexpr auto kMappedPaper = "com.apple.print.PageToPaperMappingMediaName"_L1;
+constexpr auto kColorMatching = "AP_ColorMatchingMode"_L1;
+constexpr auto kPlatformKeys = "com.apple."_L1;
+constexpr auto kLandscape = "4"_L1; // orientation-requested
+
+bool isNameCharacter(QChar character)
+{
+    return (character.unicode() < 0x80 && character.isLetterOrNumber()) || character == u'.' ||
+           character == u'_' || character == u'-';
+}
+
+bool isValueCharacter(QChar character)
+{
+    const bool breaksLine =
+        character == QChar::LineSeparator || character == QChar::ParagraphSeparator;
+    return (character.isPrint() || character.isSurrogate()) && !breaksLine;
+}
+
+/// The options of the PPD, without the doubles of `PageSize` that every PPD carries.
+template <typename Visit> void eachOption(ppd_group_t *groups, int count, Visit visit)
+{
+    for (int group = 0; group < count; ++group) {
+        for (int option = 0; option < groups[group].num_options; ++option)
+            if (qstrcmp(groups[group].options[option].keyword, "PageRegion") != 0)
+                visit(groups[group].options[option]);
+        eachOption(groups[group].subgroups, groups[group].num_subgroups, visit);
+    }
+}
+
+QList<JobOption> changedChoices(ppd_file_t *ppd)
+{
+    QList<JobOption> choices;
+    if (!ppd)
+        return choices;
+    eachOption(ppd->groups, ppd->num_groups, [&](ppd_option_t &option) {
+        const QString keyword = ppdName(option.keyword);
+        const QString marked = markedChoice(ppd, keyword);
+        if (!marked.isNull() && marked != ppdName(option.defchoice))
+            choices += JobOption{keyword, marked};
+    });
+    return choices;
+}
+
+void put(QList<JobOption> &options, const JobOption &option)
+{
+    options.removeIf([&](const JobOption &old) { return old.name == option.name; });
+    options += option;
+}
+
+/// The paper, where it is not simply the marked choice: a size of the user's, or the paper that the
+/// document is scaled to.
+void putPaper(QList<JobOption> &options, const JobValues &values)
+{
+    const std::optional<PMPaper> &paper = values.format.paper;
+    if (values.ppd && paper && paper->ppdName.isNull() && paper->width > 0 && paper->height > 0)
+        put(options, {u"PageSize"_s, customPageSize(paper->width, paper->height)});
+    const QString mapped = values.ticket.values().value(kMappedPaper).toString();
+    if (mapped.isEmpty())
+        return;
+    if (findChoice(findOption(values.ppd, u"PageSize"_s), mapped))
+        put(options, {u"PageSize"_s, mapped});
+    put(options, {u"fit-to-page"_s, u"true"_s});
+    put(options, {u"print-scaling"_s, u"fit"_s});
+}
+
+void putSettings(QList<JobOption> &options, const JobValues &values)
+{
+    if (values.settings.copies > 1)
+        put(options, {u"copies"_s, QString::number(values.settings.copies)});
+    if (!values.settings.pageRanges.isEmpty())
+        put(options, {u"page-ranges"_s, values.settings.pageRanges});
+    if (values.format.orientation == PMOrientation::Landscape)
+        put(options, {u"orientation-requested"_s, kLandscape});
+}
+
+QString ticketText(const QVariant &value)
+{
+    if (value.typeId() == QMetaType::Bool)
+        return value.toBool() ? u"true"_s : u"false"_s;
+    if (value.typeId() == QMetaType::Double || value.typeId() == QMetaType::Float)
+        return QString::number(value.toDouble(), 'g', QLocale::FloatingPointShortest);
+    return value.toString();
+}
+
+void putTicket(QList<JobOption> &options, const QVariantMap &ticket)
+{
+    for (auto entry = ticket.cbegin(); entry != ticket.cend(); ++entry) {
+        const QString &key = entry.key();
+        if (key == kColorMatching || (key.contains(u'.') && !key.startsWith(kPlatformKeys)))
+            put(options, {key, ticketText(entry.value())});
+    }
+}
+
+QString fault(const JobOption &option)
+{
+    return QCoreApplication::translate("JobOptions",
+                                       "The setting %1 cannot be sent: \"%2\" is no value that a "
+                                       "print server may be given.")
+        .arg(displayText(option.name.left(80)), displayText(option.value.left(80)));
+}
+
+} // namespace
+
+bool mayTravel(const JobOption &option)
+{
+    const bool nameIsGood =
+        !option.name.isEmpty() && std::ranges::all_of(option.name, isNameCharacter);
+    const bool valueIsGood =
+        !option.value.isEmpty() && std::ranges::all_of(option.value, isValueCharacter);
+    return nameIsGood && valueIsGood && option.name.size() <= kLongestText &&
+           option.value.toUtf8().size() <= kLongestText;
+}
+
+QString customPageSize(double width, double height)
+{
+    const auto number = [](double points) {
+        return QString::number(qRound(points * 100) / 100.0, 'g', 8);
+    };
+    return u"Custom.%1x%2"_s.arg(number(width), number(height));
+}
+
+JobOptions jobOptions(const JobValues &values)
+{
+    QList<JobOption> made;
+    for (const JobOption &option : values.saved)
+        if (option.name != "media"_L1 && !findOption(values.ppd, option.name))
+            put(made, option);
+    const QList<JobOption> choices = changedChoices(values.ppd);
+    for (const JobOption &option : choices + standardAttributesBeside(choices))
+        put(made, option);
+    putPaper(made, values);
+    putSettings(made, values);
+    putTicket(made, values.ticket.values());
+
+    JobOptions job;
+    for (const JobOption &option : made) {
+        if (mayTravel(option))
+            job.options += option;
+        else
+            job.faults += fault(option);
+    }
+    return job;
+}

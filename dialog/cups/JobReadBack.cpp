@@ -1,0 +1,82 @@
+#include "dialog/cups/JobReadBack.h"
+
+#include "dialog/cups/OptionAttribute.h"
+
+#include <QtCore/QCoreApplication>
+
+#include <vector>
+
+namespace {
+
+QString sentence(const char *text)
+{
+    return QCoreApplication::translate("JobReadBack", text);
+}
+
+ipp_attribute_t *find(ipp_t *job, const QByteArray &name)
+{
+    return ippFindAttribute(job, name.constData(), IPP_TAG_ZERO);
+}
+
+QString holdNote(ipp_t *job, int jobId)
+{
+    ipp_attribute_t *state = find(job, "job-state");
+    if (!state || ippGetInteger(state, 0) != IPP_JSTATE_HELD)
+        return {};
+    return sentence(QT_TRANSLATE_NOOP("JobReadBack", "The server holds job %1 (%2)."))
+        .arg(QString::number(jobId), attributeText(find(job, "job-state-reasons")));
+}
+
+QString difference(ipp_t *job, const JobOption &option)
+{
+    ipp_attribute_t *attribute = find(job, option.name.toUtf8());
+    if (!attribute)
+        return sentence(QT_TRANSLATE_NOOP("JobReadBack", "The server dropped the setting %1=%2."))
+            .arg(option.name, option.value);
+    const QString kept = attributeText(attribute);
+    if (kept == option.value)
+        return {};
+    return sentence(QT_TRANSLATE_NOOP("JobReadBack", "The server changed the setting %1 from %2 "
+                                                     "to %3."))
+        .arg(option.name, option.value, kept);
+}
+
+IppHandle jobRequest(const QString &queue, int jobId, const QList<JobOption> &sent)
+{
+    IppHandle request = queueRequest(IPP_OP_GET_JOB_ATTRIBUTES, queue);
+    ippAddInteger(request.get(), IPP_TAG_OPERATION, IPP_TAG_INTEGER, "job-id", jobId);
+    QList<QByteArray> names{"job-state", "job-state-reasons"};
+    for (const JobOption &option : sent)
+        names += option.name.toUtf8();
+    std::vector<const char *> wanted;
+    for (const QByteArray &name : names)
+        wanted.push_back(name.constData());
+    ippAddStrings(request.get(), IPP_TAG_OPERATION, IPP_TAG_KEYWORD, "requested-attributes",
+                  static_cast<int>(wanted.size()), nullptr, wanted.data());
+    return request;
+}
+
+} // namespace
+
+QStringList differences(ipp_t *job, int jobId, const QList<JobOption> &sent)
+{
+    QStringList notes;
+    const QString hold = holdNote(job, jobId);
+    if (!hold.isNull())
+        notes += hold;
+    for (const JobOption &option : sent) {
+        const QString note = difference(job, option);
+        if (!note.isNull())
+            notes += note;
+    }
+    return notes;
+}
+
+QStringList readJobBack(ServerConnection &connection, const QString &queue, int jobId,
+                        const QList<JobOption> &sent)
+{
+    const IppHandle job = connection.request(jobRequest(queue, jobId, sent), queueResource(queue));
+    if (!job || cupsLastError() > IPP_STATUS_OK_CONFLICTING)
+        return {};
+    return differences(job.get(), jobId, sent);
+}

@@ -1,0 +1,16 @@
+#pragma once
+
+#include "dialog/cups/JobOption.h"
+#include "dialog/cups/ServerConnection.h"
+
+#include <QtCore/QList>
+#include <QtCore/QStringList>
+
+/// Asks the server for the accepted job and compares it with the options that were sent. Gives one
+/// sentence for each option that the job lacks or has otherwise, and one when the job is held; none
+/// when all is as sent, or the server does not tell.
+QStringList readJobBack(ServerConnection &connection, const QString &queue, int jobId,
+                        const QList<JobOption> &sent);
+
+/// The same of an answer that is already here.
+QStringList differences(ipp_t *job, int jobId, const QList<JobOption> &sent);

@@ -1,0 +1,37 @@
+#pragma once
+
+#include "dialog/cups/CallGuard.h"
+#include "dialog/cups/JobOption.h"
+#include "dialog/cups/ServerFault.h"
+
+#include <QtCore/QList>
+#include <QtCore/QString>
+#include <QtCore/QStringList>
+
+/// A job as it is handed to a server.
+struct JobRequest
+{
+    QString server; ///< null: the user's usual one
+    QString queue;
+    QString title;
+    QList<JobOption> options;
+    QStringList documents; ///< paths, at least one
+};
+
+/// What became of a job. Without a fault it has been accepted, and `id` is its number.
+struct JobReceipt
+{
+    int id = 0;
+    ServerAnswer answer;
+    /// What a person should know of an accepted job: that it is held, or that the server did not
+    /// keep a setting. One sentence each.
+    QStringList notes;
+};
+
+/// Creates the job, sends its documents, and reads the job back to compare it with what was sent.
+/// A job whose documents did not all arrive is cancelled: nothing half is printed. Blocks: call it
+/// in a ServerCall.
+JobReceipt submitJob(const JobRequest &request, CallGuard &guard);
+
+/// The receipt for a server that was given up by whoever waited.
+JobReceipt givenUpReceipt(const JobRequest &request);

@@ -1,0 +1,105 @@
+#include "dialog/cups/OptionAttribute.h"
+
+#include <QtCore/QByteArray>
+#include <QtCore/QStringList>
+
+#include <array>
+#include <vector>
+
+namespace {
+
+struct Standard
+{
+    const char *name;
+    ipp_tag_t tag;
+};
+
+// The standard attributes that the dialog or lpoptions may send, with their syntax.
+constexpr std::array kStandard{
+    Standard{"copies", IPP_TAG_INTEGER},
+    Standard{"fit-to-page", IPP_TAG_BOOLEAN},
+    Standard{"finishings", IPP_TAG_ENUM},
+    Standard{"job-hold-until", IPP_TAG_KEYWORD},
+    Standard{"job-priority", IPP_TAG_INTEGER},
+    Standard{"multiple-document-handling", IPP_TAG_KEYWORD},
+    Standard{"number-up", IPP_TAG_INTEGER},
+    Standard{"number-up-layout", IPP_TAG_KEYWORD},
+    Standard{"orientation-requested", IPP_TAG_ENUM},
+    Standard{"output-bin", IPP_TAG_KEYWORD},
+    Standard{"page-ranges", IPP_TAG_RANGE},
+    Standard{"print-color-mode", IPP_TAG_KEYWORD},
+    Standard{"print-quality", IPP_TAG_ENUM},
+    Standard{"print-scaling", IPP_TAG_KEYWORD},
+    Standard{"sides", IPP_TAG_KEYWORD},
+};
+
+ipp_tag_t tagOf(const QByteArray &name)
+{
+    for (const Standard &standard : kStandard)
+        if (name == standard.name)
+            return standard.tag;
+    return IPP_TAG_NAME;
+}
+
+void addRanges(ipp_t *request, const char *name, const QString &value)
+{
+    std::vector<int> lower;
+    std::vector<int> upper;
+    for (const QString &range : value.split(u',')) {
+        lower.push_back(range.section(u'-', 0, 0).toInt());
+        upper.push_back(range.section(u'-', -1).toInt());
+    }
+    ippAddRanges(request, IPP_TAG_JOB, name, static_cast<int>(lower.size()), lower.data(),
+                 upper.data());
+}
+
+} // namespace
+
+void addOptionAttribute(ipp_t *request, const JobOption &option)
+{
+    const QByteArray name = option.name.toUtf8();
+    const ipp_tag_t tag = tagOf(name);
+    switch (tag) {
+    case IPP_TAG_INTEGER:
+    case IPP_TAG_ENUM:
+        ippAddInteger(request, IPP_TAG_JOB, tag, name.constData(), option.value.toInt());
+        return;
+    case IPP_TAG_BOOLEAN:
+        ippAddBoolean(request, IPP_TAG_JOB, name.constData(),
+                      option.value == QLatin1String("true") ? 1 : 0);
+        return;
+    case IPP_TAG_RANGE:
+        addRanges(request, name.constData(), option.value);
+        return;
+    default:
+        ippAddString(request, IPP_TAG_JOB, tag, name.constData(), nullptr,
+                     option.value.toUtf8().constData());
+    }
+}
+
+QString attributeText(ipp_attribute_t *attribute)
+{
+    QStringList values;
+    for (int index = 0; index < ippGetCount(attribute); ++index) {
+        int upper = 0;
+        switch (ippGetValueTag(attribute)) {
+        case IPP_TAG_INTEGER:
+        case IPP_TAG_ENUM:
+            values += QString::number(ippGetInteger(attribute, index));
+            break;
+        case IPP_TAG_BOOLEAN:
+            values +=
+                ippGetBoolean(attribute, index) ? QStringLiteral("true") : QStringLiteral("false");
+            break;
+        case IPP_TAG_RANGE: {
+            const int lower = ippGetRange(attribute, index, &upper);
+            values += lower == upper ? QString::number(lower)
+                                     : QStringLiteral("%1-%2").arg(lower).arg(upper);
+            break;
+        }
+        default:
+            values += QString::fromUtf8(ippGetString(attribute, index, nullptr));
+        }
+    }
+    return values.join(u',');
+}

@@ -1,0 +1,8 @@
+#pragma once
+
+#include <QtCore/QString>
+
+/// Page ranges as IPP wants them (ascending, none touching another: "1-3,7") from what a person
+/// typed ("7, 1-2, 3"). An open end ("5-") goes up to the last page. Empty for an empty text: all
+/// pages; null when the text is no list of page numbers from 1 on.
+QString normalizedPageRanges(const QString &typed);

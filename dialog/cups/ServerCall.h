@@ -1,0 +1,61 @@
+#pragma once
+
+#include "dialog/cups/CallGuard.h"
+
+#include <QtCore/QObject>
+
+#include <functional>
+#include <memory>
+#include <optional>
+
+/// Work that waits for a server, on a thread of its own, so that the dialog never does.
+///
+/// The work gets a guard, and gives back what is to happen on the thread that started it. Exactly
+/// one of three things happens: that, or `givenUp` when the guard ran out of patience although the
+/// work has not returned, or nothing at all when the call was destroyed first. A call destroys
+/// itself afterwards, or with its parent.
+class ServerCall : public QObject
+{
+public:
+    using Outcome = std::function<void()>;
+    using Work = std::function<Outcome(CallGuard &)>;
+
+    ServerCall(QObject *parent, std::chrono::milliseconds patience, Work work, Outcome givenUp);
+    ~ServerCall() override;
+
+    /// Asks the work to stop; its outcome still arrives.
+    void cancel();
+
+protected:
+    void timerEvent(QTimerEvent *event) override;
+
+private:
+    struct Shared;
+    void finish(const Outcome &outcome);
+
+    std::shared_ptr<Shared> m_shared;
+    Outcome m_givenUp;
+};
+
+/// Waits up to the time for the threads of all calls to end. At the end of the program, after the
+/// calls were destroyed: a thread must not run on while the process is taken down. False when one
+/// still runs.
+bool waitForServerThreads(std::chrono::milliseconds atMost);
+
+namespace server_call {
+void runLoop(std::chrono::milliseconds patience, const ServerCall::Work &work);
+}
+
+/// Runs the work on a thread of its own and an event loop here until there is a result. None when
+/// the server was given up. For commands without a window; a window never waits.
+template <typename Result>
+std::optional<Result> waitForServer(std::chrono::milliseconds patience,
+                                    const std::function<Result(CallGuard &)> &work)
+{
+    auto result = std::make_shared<std::optional<Result>>();
+    server_call::runLoop(patience, [work, result](CallGuard &guard) {
+        auto answer = std::make_shared<Result>(work(guard));
+        return [answer, result] { *result = std::move(*answer); };
+    });
+    return std::move(*result);
+}

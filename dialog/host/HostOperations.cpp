@@ -1,0 +1,125 @@
+#include "dialog/host/HostSession.h"
+#include "dialog/host/PPDMarks.h"
+#include "dialog/host/SessionObserver.h"
+#include "platform/foundation/NotificationCenter.h"
+#include "platform/pde/PDEPanelInspection.h"
+#include "platform/toolkit/KeyWindow.h"
+
+using namespace Qt::StringLiterals;
+
+using PanelOperation = SessionObserver::PanelOperation;
+
+QWidget *HostSession::show(const HostPanel &panel)
+{
+    QWidget *view = panel.panel->panelView();
+    if (!view)
+        return nullptr;
+    panel.panel->willShow();
+    if (m_observer)
+        m_observer->didShow(panel);
+    return view;
+}
+
+bool HostSession::hide(const HostPanel &panel)
+{
+    const bool hidden = panel.panel->shouldHide();
+    if (m_observer)
+        m_observer->didPerform(PanelOperation::Hide, panel);
+    return hidden;
+}
+
+bool HostSession::restore(const HostPanel &panel)
+{
+    const bool restored = panel.panel->restoreValuesAndReturnError(nullptr);
+    if (m_observer)
+        m_observer->didPerform(PanelOperation::Restore, panel);
+    return restored;
+}
+
+bool HostSession::save(const HostPanel &panel)
+{
+    const bool saved = panel.panel->saveValuesAndReturnError(nullptr);
+    if (m_observer)
+        m_observer->didPerform(PanelOperation::Save, panel);
+    return saved;
+}
+
+QVariantMap HostSession::summary(const HostPanel &panel)
+{
+    const QVariantMap summary = panel.panel->summaryInfo();
+    if (m_observer)
+        m_observer->didPerform(PanelOperation::Summary, panel);
+    return summary;
+}
+
+bool HostSession::help(const HostPanel &panel)
+{
+    const bool useOwn = panel.panel->shouldShowHelp();
+    if (m_observer)
+        m_observer->didPerform(PanelOperation::Help, panel);
+    return useOwn;
+}
+
+void HostSession::restoreAll()
+{
+    for (const HostPanel &panel : m_panels)
+        restore(panel);
+}
+
+bool HostSession::markElsewhere(const QString &keyword, const QString &choice)
+{
+    if (!forceChoice(m_ppd.get(), keyword, choice))
+        return false;
+    for (const HostPanel &panel : m_panels)
+        panel.panel->PPDOptionKeyValueDidChange(keyword, choice);
+    if (keyword == "Duplex"_L1)
+        post(u"PMPrintDuplexChangedNotification"_s);
+    if (m_observer)
+        m_observer->didMark(keyword, choice);
+    return true;
+}
+
+void HostSession::setPaper(const PMPaper &paper, const std::optional<QString> &mapped)
+{
+    pageFormat().paper = paper;
+    forceChoice(m_ppd.get(), u"PageSize"_s, paper.ppdName);
+    if (mapped)
+        PMPrintSettingsSetValue(&ticket(), u"com.apple.print.PageToPaperMappingMediaName"_s,
+                                mapped->isNull() ? QVariant() : QVariant(*mapped), false);
+    post(u"PMPrintDestinationPaperDidChangeNotification"_s);
+    if (m_observer)
+        m_observer->didSetPaper(paper, mapped);
+}
+
+void HostSession::writeTicket(const QString &key, const QVariant &value)
+{
+    PMPrintSettingsSetValue(&ticket(), key, value, false);
+    if (m_observer)
+        m_observer->didWriteTicket(key, value);
+}
+
+PrintAnswer HostSession::askShouldPrint()
+{
+    PrintAnswer answer;
+    for (const HostPanel &panel : m_panels) {
+        answer.asked << panel.name;
+        answer.proceed = panel.panel->shouldPrint();
+        if (!answer.proceed)
+            break;
+    }
+    if (m_observer)
+        m_observer->didAskShouldPrint();
+    return answer;
+}
+
+void HostSession::windowDidResize()
+{
+    for (const HostPanel &panel : m_panels) {
+        const QWidget *view = panel.inspection ? panel.inspection->inspectedView() : nullptr;
+        if (view)
+            NotificationCenter::defaultCenter().post(
+                QLatin1String(kViewDidUpdateTrackingAreasNotification), view);
+    }
+    if (m_observer)
+        m_observer->didResizeWindow();
+}

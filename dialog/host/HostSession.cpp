@@ -1,0 +1,120 @@
+#include "dialog/host/HostSession.h"
+
+#include "dialog/host/HostPaper.h"
+#include "dialog/host/PPDMarks.h"
+#include "dialog/host/SessionObserver.h"
+#include "platform/foundation/NotificationCenter.h"
+#include "platform/foundation/PreferredLanguages.h"
+#include "platform/foundation/UserDefaults.h"
+#include "platform/pde/PDEPanelInspection.h"
+#include "platform/pde/PPDText.h"
+
+#include <algorithm>
+#include <utility>
+
+using namespace Qt::StringLiterals;
+
+HostSession::HostSession(const SessionOptions &options) : m_options(options) {}
+
+HostSession::~HostSession()
+{
+    close();
+}
+
+HostSession::Opened HostSession::open(const SessionOptions &options)
+{
+    OpenedPPD opened = openPPD(options.ppdPath);
+    if (!opened.ppd)
+        return {nullptr, opened.error};
+    std::unique_ptr<HostSession> session(new HostSession(options));
+    session->m_ppd = std::move(opened.ppd);
+    session->m_plugIn = loadPlugIn(options.bundlePath, options.info);
+    session->prepareCallback();
+    return {std::move(session), QString()};
+}
+
+void HostSession::prepareCallback()
+{
+    for (auto mark = m_options.marks.cbegin(); mark != m_options.marks.cend(); ++mark)
+        forceChoice(m_ppd.get(), mark.key(), mark.value());
+    m_callback = std::make_shared<HostCallback>(m_ppd.get());
+    m_callback->setRefused(m_options.refused);
+    m_callback->setLacking(m_options.lacking);
+    m_callback->setCallObserver(m_options.callObserver);
+    m_callback->ticket().setValues(m_options.ticket);
+    m_callback->format().paper = m_options.paper ? m_options.paper : markedPaper(m_ppd.get());
+}
+
+void HostSession::start()
+{
+    if (m_options.languages)
+        setPreferredLanguages(*m_options.languages);
+    if (m_plugIn.bundle)
+        m_plugIn.bundle->setStrings(m_options.strings);
+    if (m_plugIn.bundle && m_options.alertMemory)
+        UserDefaults::standardUserDefaults().setPersistentDomain(
+            *m_options.alertMemory, m_plugIn.bundle->bundleIdentifier());
+    createPanels();
+    m_running = true;
+    if (!m_options.restore)
+        return;
+    for (const HostPanel &panel : m_panels)
+        panel.panel->restoreValuesAndReturnError(nullptr);
+}
+
+void HostSession::createPanels()
+{
+    m_reportedKeywords = QStringList{u"PageSize"_s, u"Duplex"_s};
+    if (!m_plugIn.plugIn)
+        return;
+    m_reportedKeywords += m_plugIn.bundle->infoValue(u"PMPPDKeysWatched"_s).toStringList();
+    for (auto &panel : m_plugIn.plugIn->PDEPanelsForType(m_options.dialogType, m_callback)) {
+        auto *inspection = dynamic_cast<PDEPanelInspection *>(panel.get());
+        const QString name = inspection ? inspection->inspectedName() : panel->panelKind();
+        m_reportedKeywords += panel->supportedPPDOptionKeys().value_or(QStringList());
+        m_panels.push_back({std::move(panel), inspection, name});
+    }
+}
+
+void HostSession::close()
+{
+    if (m_running && m_observer)
+        m_observer->willClose();
+    m_running = false;
+    m_panels.clear();
+}
+
+const HostPanel *HostSession::panelNamed(const QString &name) const
+{
+    const auto found = std::find_if(m_panels.begin(), m_panels.end(),
+                                    [&](const HostPanel &panel) { return panel.name == name; });
+    return found == m_panels.end() ? nullptr : &*found;
+}
+
+QMap<QString, QString> HostSession::reportedMarks() const
+{
+    QMap<QString, QString> marks;
+    for (const QString &keyword : m_reportedKeywords) {
+        const QString choice = markedChoice(m_ppd.get(), keyword);
+        if (!choice.isNull())
+            marks.insert(keyword, choice);
+    }
+    return marks;
+}
+
+QVariantMap HostSession::alertMemory() const
+{
+    const QString domain = m_plugIn.bundle ? m_plugIn.bundle->bundleIdentifier() : QString();
+    return domain.isNull() ? QVariantMap()
+                           : UserDefaults::standardUserDefaults().persistentDomainForName(domain);
+}
+
+const void *HostSession::notificationObject() const
+{
+    return static_cast<const PDEPluginCallback *>(m_callback.get());
+}
+
+void HostSession::post(const QString &name)
+{
+    NotificationCenter::defaultCenter().post(name, notificationObject());
+}

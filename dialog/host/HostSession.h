@@ -1,0 +1,149 @@
+#pragma once
+
+#include "dialog/host/HostCallback.h"
+#include "dialog/host/PPDFile.h"
+#include "dialog/host/PlugInLoader.h"
+#include "dialog/host/SessionOptions.h"
+#include "platform/pde/PDEPanel.h"
+
+#include <QtCore/QMap>
+
+#include <memory>
+#include <optional>
+#include <vector>
+
+class PDEPanelInspection;
+class SessionObserver;
+
+/// A panel of the session.
+struct HostPanel
+{
+    std::unique_ptr<PDEPanel> panel;
+    /// The panel's own look into itself; null when it has none.
+    PDEPanelInspection *inspection = nullptr;
+    /// Its name in scripts: what the inspection says, else the panel's kind.
+    QString name;
+};
+
+/// The answers of the panels when Print was pressed.
+struct PrintAnswer
+{
+    bool proceed = true;
+    QStringList asked; ///< names, in order; the last one vetoed unless `proceed`
+};
+
+/// The host of a plug-in's panels, without any window: the opened PPD, the callback object that the
+/// panels share, the plug-in, its bundle and its panels.
+///
+/// The order of calls:
+///   1. open() reads the PPD and loads the plug-in; nothing else in the process changes;
+///   2. start() creates the panels and has them restore their values;
+///   3. the operations, in any order, on the main thread;
+///   4. close() releases the panels; the PPD's marks and the ticket can still be read. Destroying
+///   the
+///      session closes it.
+///
+/// Notifications that the session posts have the callback object (notificationObject()) as their
+/// object, as the panels' own have.
+class HostSession
+{
+public:
+    /// What opening came to. Without a session, `ppdError` is one sentence for people. A session
+    /// whose plug-in could not be loaded has a fault, and will have no panels.
+    struct Opened
+    {
+        std::unique_ptr<HostSession> session;
+        QString ppdError;
+    };
+
+    static Opened open(const SessionOptions &options);
+
+    ~HostSession();
+    HostSession(const HostSession &) = delete;
+    HostSession &operator=(const HostSession &) = delete;
+
+    /// Not owned; null: nobody. Set it before start().
+    void setObserver(SessionObserver *observer) { m_observer = observer; }
+
+    void start();
+    void close();
+
+    const SessionOptions &options() const { return m_options; }
+    const std::optional<PlugInFault> &plugInFault() const { return m_plugIn.fault; }
+
+    ppd_file_t *ppd() const { return m_ppd.get(); }
+    PMPrintSettings &ticket() { return m_callback->ticket(); }
+    PMPageFormat &pageFormat() { return m_callback->format(); }
+    const PMPrintSettings &ticket() const { return m_callback->ticket(); }
+    const PMPageFormat &pageFormat() const { return m_callback->format(); }
+
+    /// Whether the panels live: between start() and close().
+    bool isRunning() const { return m_running; }
+
+    /// In display order; empty before start() and after close().
+    const std::vector<HostPanel> &panels() const { return m_panels; }
+
+    /// Null when there is no such panel.
+    const HostPanel *panelNamed(const QString &name) const;
+
+    /// What a script reports as marked: `PageSize`, `Duplex`, the keywords that the bundle wants
+    /// watched, and those of the panels; keyword to choice, without those where nothing is marked.
+    QMap<QString, QString> reportedMarks() const;
+
+    /// What the user asked the plug-in's alerts to remember.
+    QVariantMap alertMemory() const;
+
+    /// The object of the session's notifications; an address to compare with.
+    const void *notificationObject() const;
+
+    // --- Operations on one panel -----------------------------------------------------------------
+
+    /// Takes the panel's view on first use and tells the panel that it is about to be shown. Null,
+    /// and the panel is told nothing, when it has no view. The panel owns the view.
+    QWidget *show(const HostPanel &panel);
+    bool hide(const HostPanel &panel);
+    bool restore(const HostPanel &panel);
+    bool save(const HostPanel &panel);
+    QVariantMap summary(const HostPanel &panel);
+    bool help(const HostPanel &panel);
+
+    // --- Operations on the job -------------------------------------------------------------------
+
+    /// A choice made by the dialog itself: marked whatever it conflicts with, reported to every
+    /// panel, and for `Duplex` followed by the duplex-change notification. False, and nothing
+    /// happens, without such a choice.
+    bool markElsewhere(const QString &keyword, const QString &choice);
+
+    /// Another page setup: the format's paper, the marked `PageSize` where the PPD has a choice
+    /// named `ppdName`, and with `mapped` the name of the paper that the document is scaled to
+    /// (null: none any more); then the paper-change notification.
+    void setPaper(const PMPaper &paper, const std::optional<QString> &mapped = std::nullopt);
+
+    /// An invalid value removes the key.
+    void writeTicket(const QString &key, const QVariant &value);
+
+    /// Has every panel restore its values: after a change of the marks as a whole.
+    void restoreAll();
+
+    /// Asks the panels in order whether the job may be printed, up to the first veto.
+    PrintAnswer askShouldPrint();
+
+    /// The dialog's window has another height: every loaded view of a panel posts the toolkit's
+    /// tracking-areas notification.
+    void windowDidResize();
+
+private:
+    explicit HostSession(const SessionOptions &options);
+    void prepareCallback();
+    void createPanels();
+    void post(const QString &name);
+
+    SessionOptions m_options;
+    PPDHandle m_ppd; // outlives the panels, which read it
+    PlugInLoad m_plugIn;
+    std::shared_ptr<HostCallback> m_callback;
+    std::vector<HostPanel> m_panels;
+    QStringList m_reportedKeywords;
+    SessionObserver *m_observer = nullptr;
+    bool m_running = false;
+};

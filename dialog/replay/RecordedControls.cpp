@@ -1,0 +1,96 @@
+#include "dialog/replay/PanelParts.h"
+#include "dialog/replay/Recorder.h"
+#include "platform/toolkit/FractionSlider.h"
+#include "platform/toolkit/NumberField.h"
+#include "platform/toolkit/PopUpButton.h"
+#include "platform/toolkit/RadioMatrix.h"
+#include "platform/toolkit/SizeWatch.h"
+
+#include <QtWidgets/QRadioButton>
+
+using namespace Qt::StringLiterals;
+
+// The panel has connected its actions before: what is noted here has been done already. So what was
+// picked is taken from the signal; the control may show something else by now (the host refused).
+
+namespace {
+
+OrderedMembers pick(const QString &panel, const QString &control, const QString &field,
+                    const QJsonValue &value)
+{
+    return {{u"panel"_s, panel}, {u"control"_s, control}, {field, value}};
+}
+
+} // namespace
+
+void Recorder::followControls(const HostPanel &panel)
+{
+    const auto parts = outletsInView(*panel.inspection);
+    for (auto part = parts.cbegin(); part != parts.cend(); ++part) {
+        if (isReportedControl(part.value()))
+            followControl(panel.name, part.key(), part.value());
+    }
+    followOtherParts(panel.name, *panel.inspection->inspectedView());
+}
+
+void Recorder::followControl(const QString &panel, const QString &name, QWidget *control)
+{
+    if (auto *popup = qobject_cast<PopUpButton *>(control)) {
+        connect(popup, &PopUpButton::activated, this, [this, panel, name, popup](int index) {
+            note("pick", pick(panel, name, u"choice"_s, popup->representedObject(index)));
+        });
+    } else if (auto *matrix = qobject_cast<RadioMatrix *>(control)) {
+        followMatrix(panel, name, matrix);
+    } else if (auto *button = qobject_cast<QAbstractButton *>(control)) {
+        const bool disclosure = name == kOptionButton;
+        connect(button, &QAbstractButton::clicked, this,
+                [this, panel, name, disclosure](bool checked) {
+                    if (disclosure)
+                        note("fold", {{u"panel"_s, panel}, {u"open"_s, checked}});
+                    else
+                        note("pick", pick(panel, name, u"checked"_s, checked));
+                });
+    }
+}
+
+void Recorder::followMatrix(const QString &panel, const QString &name, RadioMatrix *matrix)
+{
+    const auto cells = matrix->findChildren<QRadioButton *>();
+    for (qsizetype row = 0; row < cells.size(); ++row) {
+        connect(cells[row], &QRadioButton::clicked, this, [this, panel, name, matrix, row] {
+            const QString choice = matrix->representedObject(static_cast<int>(row));
+            note("pick", pick(panel, name, u"choice"_s, choice));
+        });
+    }
+}
+
+void Recorder::followOtherParts(const QString &panel, const QWidget &view)
+{
+    const auto slide = [this](const QString &keyword, double value) {
+        note("slide", {{u"keyword"_s, keyword}, {u"value"_s, value}});
+    };
+    for (auto *slider : view.findChildren<FractionSlider *>()) {
+        connect(slider, &FractionSlider::movedByUser, this,
+                [slide, slider](double value) { slide(boundKeyOf(slider), value); });
+    }
+    // A field and the slider beside it show one value.
+    for (auto *field : view.findChildren<NumberField *>()) {
+        connect(field, &NumberField::editedByUser, this,
+                [slide, field] { slide(boundKeyOf(field), field->value()); });
+    }
+    for (auto *button : view.findChildren<QAbstractButton *>()) {
+        const QString action = actionOf(button);
+        if (action == kRevertAction)
+            connect(button, &QAbstractButton::clicked, this, [this] { note("revert"); });
+        else if (action == kHelpAction)
+            connect(button, &QAbstractButton::clicked, this, [this, panel] {
+                note("help", {{u"panel"_s, panel}});
+            });
+    }
+    for (auto *watch : view.findChildren<SizeWatch *>()) {
+        connect(watch, &SizeWatch::fired, this, [this] {
+            m_watchFired = true;
+            deferSurroundings();
+        });
+    }
+}

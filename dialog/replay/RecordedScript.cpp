@@ -1,0 +1,74 @@
+#include "dialog/replay/RecordedScript.h"
+
+#include <QtCore/QCoreApplication>
+#include <QtCore/QJsonArray>
+#include <QtCore/QJsonObject>
+
+#include <algorithm>
+#include <utility>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+QJsonObject answerReport(const RecordedAnswer &answer)
+{
+    QJsonObject report{{u"button"_s, answer.button}};
+    if (answer.suppression)
+        report.insert("suppress"_L1, answer.suppressed);
+    return report;
+}
+
+} // namespace
+
+bool RecordedScript::open(const QString &path, QString *error)
+{
+    m_file.setFileName(path);
+    if (m_file.open(QIODevice::WriteOnly | QIODevice::Truncate))
+        return true;
+    *error = QCoreApplication::translate("Recorder", "The script %1 cannot be written: %2")
+                 .arg(path, m_file.errorString());
+    return false;
+}
+
+void RecordedScript::addAnswer(const std::shared_ptr<RecordedAnswer> &answer)
+{
+    m_answers.push_back(answer);
+}
+
+void RecordedScript::note(const OrderedMembers &event)
+{
+    m_events.push_back({event, std::exchange(m_answers, {})});
+    writeAnswered();
+}
+
+void RecordedScript::writeAnswered()
+{
+    const auto isAnswered = [](const Event &event) {
+        return std::ranges::all_of(
+            event.answers, &RecordedAnswer::given,
+            [](const auto &answer) -> const RecordedAnswer & { return *answer; });
+    };
+    while (!m_events.empty() && isAnswered(m_events.front())) {
+        write(m_events.front());
+        m_events.pop_front();
+    }
+}
+
+void RecordedScript::writeAll()
+{
+    for (const Event &event : std::exchange(m_events, {}))
+        write(event);
+}
+
+void RecordedScript::write(const Event &event)
+{
+    OrderedMembers members = event.members;
+    QJsonArray answers;
+    for (const auto &answer : event.answers)
+        answers << answerReport(*answer);
+    if (!answers.isEmpty())
+        members << std::pair(u"answers"_s, QJsonValue(answers));
+    m_file.write(jsonLine(members) + '\n');
+    m_file.flush(); // a recording is read after a crash, too
+}

@@ -1,0 +1,59 @@
+#pragma once
+
+#include "dialog/replay/JsonText.h"
+
+#include <QtCore/QFile>
+
+#include <deque>
+#include <memory>
+#include <vector>
+
+/// The answer that an alert was given, filled in when it is given.
+struct RecordedAnswer
+{
+    int button = 0;
+    bool suppression = false; ///< whether the alert has the box at all
+    bool suppressed = false;
+    bool given = false;
+};
+
+/// A script that is being written. An event's line is written once the alerts that it raised have
+/// been answered: a sheet's answer comes after the event.
+class RecordedScript
+{
+public:
+    /// False, with one sentence, when the file cannot be written.
+    bool open(const QString &path, QString *error);
+
+    /// The alert has been raised by the event that is noted next.
+    void addAnswer(const std::shared_ptr<RecordedAnswer> &answer);
+
+    /// Notes an event, without its answers.
+    void note(const OrderedMembers &event);
+
+    /// Writes every event whose alerts have been answered.
+    void writeAnswered();
+
+    /// Writes all events, those too whose alerts nobody has answered.
+    void writeAll();
+
+    /// Whether everything could be written so far.
+    bool isWritten() const { return m_file.error() == QFileDevice::NoError; }
+
+    QString path() const { return m_file.fileName(); }
+
+private:
+    using Answers = std::vector<std::shared_ptr<RecordedAnswer>>;
+
+    struct Event
+    {
+        OrderedMembers members;
+        Answers answers;
+    };
+
+    void write(const Event &event);
+
+    QFile m_file;
+    Answers m_answers;
+    std::deque<Event> m_events;
+};

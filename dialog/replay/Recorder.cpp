@@ -1,0 +1,158 @@
+#include "dialog/replay/Recorder.h"
+
+#include "dialog/host/HostSession.h"
+#include "platform/toolkit/KeyWindow.h"
+
+#include <QtCore/QTimer>
+#include <QtWidgets/QAbstractButton>
+#include <QtWidgets/QCheckBox>
+#include <QtWidgets/QDialog>
+
+#include <iterator>
+#include <utility>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr double kNoWindow = -1;
+
+QJsonValue heightValue(double height)
+{
+    return height < 0 ? QJsonValue() : QJsonValue(height);
+}
+
+void followAnswer(const ShownAlert &alert, const std::shared_ptr<RecordedAnswer> &answer)
+{
+    for (int index = 0; index < alert.buttons.size(); ++index) {
+        const QPointer<QCheckBox> box = alert.suppressionBox;
+        QObject::connect(alert.buttons[index], &QAbstractButton::clicked, alert.window,
+                         [answer, box, index] {
+                             answer->button = index;
+                             answer->suppressed = box && box->isChecked();
+                         });
+    }
+}
+
+} // namespace
+
+Recorder::Recorder() : m_former(AlertObserver::alertObserver())
+{
+    AlertObserver::setAlertObserver(this);
+}
+
+Recorder::~Recorder()
+{
+    AlertObserver::setAlertObserver(m_former);
+    m_script.writeAll();
+}
+
+bool Recorder::open(const QString &path, QString *error)
+{
+    return m_script.open(path, error);
+}
+
+// A button that nobody pressed is the last one: it answers Escape and closing.
+void Recorder::alertShown(const ShownAlert &alert)
+{
+    auto answer = std::make_shared<RecordedAnswer>();
+    answer->button = std::max(0, static_cast<int>(alert.buttons.size()) - 1);
+    answer->suppression = alert.content.suppression;
+    auto *sheet = qobject_cast<QDialog *>(alert.window);
+    const bool waits = alert.kind == ShownAlert::Kind::Sheet && sheet;
+    answer->given = !waits; // the others are answered before their event is noted
+    m_script.addAnswer(answer);
+    followAnswer(alert, answer);
+    if (waits) {
+        connect(sheet, &QDialog::finished, this, [this, answer] {
+            answer->given = true;
+            m_script.writeAnswered();
+        });
+    }
+    if (m_former)
+        m_former->alertShown(alert);
+}
+
+void Recorder::note(const char *kind, const OrderedMembers &members)
+{
+    OrderedMembers event{{u"do"_s, QLatin1String(kind)}};
+    event << members;
+    m_script.note(event);
+}
+
+void Recorder::didShow(const HostPanel &panel)
+{
+    note("show", {{u"panel"_s, panel.name}});
+    if (panel.inspection && !m_followed.contains(panel.name))
+        followControls(panel);
+    m_followed.insert(panel.name);
+}
+
+void Recorder::didPerform(PanelOperation operation, const HostPanel &panel)
+{
+    // In the order of PanelOperation.
+    static constexpr const char *kinds[] = {"hide", "restore", "save", "summary", "help"};
+    note(kinds[static_cast<std::size_t>(operation)], {{u"panel"_s, panel.name}});
+}
+
+void Recorder::didMark(const QString &keyword, const QString &choice)
+{
+    note("mark", {{u"keyword"_s, keyword}, {u"choice"_s, choice}});
+}
+
+void Recorder::didSetPaper(const PMPaper &paper, const std::optional<QString> &mapped)
+{
+    OrderedMembers members{{u"name"_s, paper.name},
+                           {u"ppdName"_s, textOrNull(paper.ppdName)},
+                           {u"width"_s, paper.width},
+                           {u"height"_s, paper.height}};
+    if (mapped)
+        members << std::pair(u"mapped"_s, textOrNull(*mapped));
+    note("paper", members);
+}
+
+void Recorder::didWriteTicket(const QString &key, const QVariant &value)
+{
+    note("ticket", {{u"key"_s, key}, {u"value"_s, jsonValue(value)}});
+}
+
+void Recorder::didAskShouldPrint()
+{
+    note("print");
+}
+
+void Recorder::didResizeWindow()
+{
+    m_windowChanged = true;
+    deferSurroundings();
+}
+
+// A window that grows because a section unfolds does so in the midst of that event, which is noted
+// at its end: what happened to the window is noted after it.
+void Recorder::deferSurroundings()
+{
+    if (std::exchange(m_deferred, true))
+        return;
+    QTimer::singleShot(0, this, [this] { noteSurroundings(); });
+}
+
+void Recorder::noteSurroundings()
+{
+    m_deferred = false;
+    const double height = keyWindowHeight().value_or(kNoWindow);
+    if (std::exchange(m_windowChanged, false) || height != m_notedHeight)
+        note("window", {{u"height"_s, heightValue(height)}});
+    m_notedHeight = height;
+    if (std::exchange(m_watchFired, false))
+        note("watch");
+}
+
+void Recorder::willClose()
+{
+    if (m_deferred)
+        noteSurroundings();
+    note("close");
+    m_script.writeAll();
+    m_session = nullptr;
+    m_followed.clear();
+}

@@ -1,0 +1,69 @@
+#pragma once
+
+#include "dialog/host/SessionObserver.h"
+#include "dialog/replay/RecordedScript.h"
+#include "platform/toolkit/AlertObserver.h"
+
+#include <QtCore/QObject>
+#include <QtCore/QSet>
+#include <QtCore/QString>
+
+class HostSession;
+class QAbstractButton;
+class RadioMatrix;
+
+/// Notes a real session as a replay script: what the dialog does, what people do in the panels'
+/// controls (through the controls' own user signals, whichever panel it is), and how they answer
+/// alerts. Running the script leads to the same state.
+///
+/// The order of calls: open(); then for each session attach() between HostSession::open() and
+/// start(). The PPD is copied beside the script, so that both together can be sent elsewhere.
+/// While it lives it is the process's alert observer, and hands alerts on to the former one.
+class Recorder : public QObject, public SessionObserver, public AlertObserver
+{
+public:
+    Recorder();
+    ~Recorder() override;
+
+    /// False, with one sentence for people, when the script cannot be written.
+    bool open(const QString &path, QString *error);
+
+    /// Notes the session from its beginning. False, with one sentence, when its PPD cannot be
+    /// copied. The session must close before the recorder is destroyed.
+    bool attach(HostSession &session, QString *error);
+
+    /// Whether everything could be written so far.
+    bool isWritten() const { return m_script.isWritten(); }
+
+    void alertShown(const ShownAlert &alert) override;
+
+    void didShow(const HostPanel &panel) override;
+    void didPerform(PanelOperation operation, const HostPanel &panel) override;
+    void didMark(const QString &keyword, const QString &choice) override;
+    void didSetPaper(const PMPaper &paper, const std::optional<QString> &mapped) override;
+    void didWriteTicket(const QString &key, const QVariant &value) override;
+    void didResizeWindow() override;
+    void didAskShouldPrint() override;
+    void willClose() override;
+
+private:
+    QString copyPPD(QString *error);
+    OrderedMembers openEvent(const QString &ppd) const;
+    void note(const char *kind, const OrderedMembers &members = {});
+    void followControls(const HostPanel &panel);
+    void followControl(const QString &panel, const QString &name, QWidget *control);
+    void followMatrix(const QString &panel, const QString &name, RadioMatrix *matrix);
+    void followOtherParts(const QString &panel, const QWidget &view);
+    void deferSurroundings();
+    void noteSurroundings();
+
+    RecordedScript m_script;
+    HostSession *m_session = nullptr;
+    QSet<QString> m_followed; // the panels whose controls are followed
+    int m_sessions = 0;
+    double m_notedHeight = -1; // of the window; negative: no key window
+    bool m_windowChanged = false;
+    bool m_watchFired = false;
+    bool m_deferred = false;
+    AlertObserver *m_former;
+};

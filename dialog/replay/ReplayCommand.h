@@ -1,0 +1,16 @@
+#pragma once
+
+#include <QtCore/QString>
+
+#include <cstdio>
+
+/// Runs the script (a path, or "-": standard input) line by line: each event's line is on standard
+/// output before the next line of the script is read. Standard error gets one line when the script
+/// cannot go on. Needs a QApplication.
+///
+/// The exit status: 0, or 2 when the script cannot be read or is faulty, or a PPD cannot be opened.
+int runReplay(const QString &script, const QString &bundlePath = QString());
+
+/// The same with the program's own QApplication, without a display unless QT_QPA_PLATFORM names
+/// one.
+int runReplayCommand(int &argc, char **argv, const QString &script, const QString &bundlePath);

@@ -1,0 +1,139 @@
+#include "dialog/replay/ReplaySession.h"
+
+#include "dialog/replay/JsonText.h"
+#include "dialog/replay/StateReport.h"
+#include "platform/foundation/NotificationCenter.h"
+#include "platform/foundation/UserDefaults.h"
+#include "platform/pde/PDEPanelInspection.h"
+#include "platform/toolkit/KeyWindow.h"
+
+#include <algorithm>
+#include <cmath>
+#include <utility>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int kWindowWidth = 640; // of no consequence: nothing depends on a window's width
+
+bool needsSession(const ReplayAction &action)
+{
+    return !std::holds_alternative<ReplayOpen>(action) &&
+           !std::holds_alternative<ReplayState>(action);
+}
+
+// Windows have whole heights. Rounding up keeps "taller than" true for whole limits.
+int wholeHeight(double height)
+{
+    return static_cast<int>(std::ceil(std::clamp(height, 0.0, double(QWIDGETSIZE_MAX))));
+}
+
+} // namespace
+
+ReplaySession::ReplaySession(const QString &bundlePath) : m_bundlePath(bundlePath)
+{
+    UserDefaults::standardUserDefaults().setFolder(QString());
+}
+
+ReplaySession::~ReplaySession()
+{
+    closeSession();
+}
+
+ReplaySession::Outcome ReplaySession::run(const ReplayEvent &event)
+{
+    m_answerer.setAnswers(event.answers);
+    Work work = this->work(event.action);
+    if (!work.fatal.isNull())
+        return {QByteArray(), work.fatal};
+    m_answerer.answerSheets();
+    const QString answerFault = m_answerer.takeFault();
+    if (work.error.isNull())
+        work.error = answerFault;
+
+    OrderedMembers line{
+        {u"event"_s, ++m_events}, {u"do"_s, event.kind}, {u"result"_s, work.result}};
+    if (!work.error.isNull())
+        line << std::pair(u"error"_s, QJsonValue(work.error));
+    line << std::pair(u"calls"_s, QJsonValue(std::exchange(m_calls, {})));
+    line << std::pair(u"notifications"_s, QJsonValue(m_notifications.take()));
+    line << std::pair(u"alerts"_s, QJsonValue(m_answerer.takeReports()));
+    line << stateReport(m_session.get());
+    return {jsonLine(line), QString()};
+}
+
+ReplaySession::Work ReplaySession::work(const ReplayAction &action)
+{
+    if (needsSession(action) && !(m_session && m_session->isRunning()))
+        return {QJsonValue(), u"no dialog is open"_s, QString()};
+    return std::visit([this](const auto &event) { return perform(event); }, action);
+}
+
+ReplaySession::Work ReplaySession::perform(const ReplayOpen &event)
+{
+    SessionOptions options = event.options;
+    options.bundlePath = m_bundlePath;
+    options.callObserver = [this](const HostCallback::Call &call) { noteCall(call); };
+    HostSession::Opened opened = HostSession::open(options);
+    if (!opened.session)
+        return {QJsonValue(), QString(), opened.ppdError};
+    if (const auto &fault = opened.session->plugInFault())
+        return {QJsonValue(), fault->sentence, QString()};
+    closeSession();
+    openWindow(event.windowHeight);
+    m_session = std::move(opened.session);
+    m_session->start();
+    QJsonArray classes;
+    for (const HostPanel &panel : m_session->panels())
+        classes << (panel.inspection ? panel.inspection->inspectedClassName() : panel.name);
+    return {classes, QString(), QString()};
+}
+
+void ReplaySession::openWindow(std::optional<double> height)
+{
+    m_window = std::make_unique<QWidget>();
+    m_window->resize(kWindowWidth, wholeHeight(height.value_or(0)));
+    setKeyWindow(height ? m_window.get() : nullptr);
+}
+
+ReplaySession::Work ReplaySession::perform(const ReplayWindow &event)
+{
+    if (event.height)
+        m_window->resize(kWindowWidth, wholeHeight(*event.height));
+    setKeyWindow(event.height ? m_window.get() : nullptr);
+    if (event.height)
+        m_session->windowDidResize();
+    return {};
+}
+
+ReplaySession::Work ReplaySession::perform(const ReplayClose &)
+{
+    closeSession();
+    return {};
+}
+
+// The session itself stays: the job's marks and ticket can still be looked at.
+void ReplaySession::closeSession()
+{
+    if (!m_session || !m_session->isRunning())
+        return;
+    NotificationCenter::defaultCenter().post(QLatin1String(kWindowWillCloseNotification),
+                                             m_window.get());
+    m_session->close();
+    setKeyWindow(nullptr);
+    m_window.reset();
+}
+
+void ReplaySession::noteCall(const HostCallback::Call &call)
+{
+    using Kind = HostCallback::Call::Kind;
+    if (call.kind == Kind::PanelViewDidResize) {
+        m_calls << QJsonObject{{u"call"_s, u"panelViewDidResize"_s}};
+        return;
+    }
+    m_calls << QJsonObject{{u"call"_s, u"willChangePPDOptionKeyValue"_s},
+                           {u"keyword"_s, textOrNull(call.keyword)},
+                           {u"choice"_s, textOrNull(call.choice)},
+                           {u"accepted"_s, call.accepted}};
+}

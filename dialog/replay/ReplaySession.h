@@ -1,0 +1,80 @@
+#pragma once
+
+#include "dialog/host/HostSession.h"
+#include "dialog/replay/AlertAnswerer.h"
+#include "dialog/replay/NotificationLog.h"
+#include "dialog/replay/ReplayEvent.h"
+
+#include <QtCore/QByteArray>
+#include <QtCore/QJsonArray>
+#include <QtWidgets/QWidget>
+
+#include <memory>
+#include <optional>
+
+/// Runs the events of a replay script on a real session: the plug-in, its real widgets, real
+/// alerts. The dialog's window is a plain one that is never shown.
+///
+/// Needs a QApplication. From its creation on the process's user defaults are in memory alone.
+class ReplaySession
+{
+public:
+    /// `bundlePath` names the plug-in; null: the installed one.
+    explicit ReplaySession(const QString &bundlePath = QString());
+    ~ReplaySession();
+    ReplaySession(const ReplaySession &) = delete;
+    ReplaySession &operator=(const ReplaySession &) = delete;
+
+    /// What running an event came to: its line of output, or one sentence about why the script
+    /// cannot go on.
+    struct Outcome
+    {
+        QByteArray line;
+        QString fatal;
+    };
+
+    Outcome run(const ReplayEvent &event);
+
+    /// The session that is open at present, or was last; null before the first one.
+    HostSession *session() const { return m_session.get(); }
+
+private:
+    /// What an event's own work came to. With an error nothing has changed.
+    struct Work
+    {
+        QJsonValue result;
+        QString error;
+        QString fatal;
+    };
+
+    Work work(const ReplayAction &action);
+    Work perform(const ReplayOpen &event);
+    Work perform(const ReplayShow &event);
+    Work perform(const ReplayPanelCall &event);
+    Work perform(const ReplayPick &event);
+    Work perform(const ReplaySlide &event);
+    Work perform(const ReplayRevert &event);
+    Work perform(const ReplayFold &event);
+    Work perform(const ReplayPaper &event);
+    Work perform(const ReplayMark &event);
+    Work perform(const ReplayTicket &event);
+    Work perform(const ReplayWindow &event);
+    Work perform(const ReplayWatch &event);
+    Work perform(const ReplayPicture &event);
+    Work perform(const ReplayPost &event);
+    Work perform(const ReplayPrint &event);
+    Work perform(const ReplayState &event);
+    Work perform(const ReplayClose &event);
+
+    void openWindow(std::optional<double> height);
+    void closeSession();
+    void noteCall(const HostCallback::Call &call);
+
+    QString m_bundlePath;
+    NotificationLog m_notifications; // registered before any panel
+    AlertAnswerer m_answerer;
+    QJsonArray m_calls;
+    int m_events = 0;
+    std::unique_ptr<QWidget> m_window;
+    std::unique_ptr<HostSession> m_session;
+};

@@ -1,0 +1,14 @@
+#pragma once
+
+#include "dialog/replay/JsonText.h"
+
+#include <QtCore/QJsonObject>
+
+class HostSession;
+
+/// The state of every panel that can be inspected, by its name in scripts.
+QJsonObject panelReports(const HostSession &session);
+
+/// The session's whole state as the members `panels`, `marks`, `ticket` and `alertMemory` of a
+/// line. Reading it changes nothing and loads no view. Null: no session, everything empty.
+OrderedMembers stateReport(const HostSession *session);

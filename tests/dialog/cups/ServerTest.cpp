@@ -1,0 +1,350 @@
+#include "dialog/cups/Destinations.h"
+#include "dialog/cups/JobReadBack.h"
+#include "dialog/cups/JobSubmission.h"
+#include "dialog/cups/OptionAttribute.h"
+#include "dialog/cups/QueuePPD.h"
+#include "dialog/cups/ServerCall.h"
+#include "platform/pde/PPDText.h"
+#include "tests/endtoend/PrintServer.h"
+#include "tests/endtoend/QtPrinting.h"
+
+#include <QtCore/QDir>
+#include <QtCore/QElapsedTimer>
+#include <QtCore/QFile>
+#include <QtNetwork/QTcpServer>
+#include <QtTest/QTest>
+
+#include <gtest/gtest.h>
+
+using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
+
+namespace {
+
+/// One server for all tests of this file, with the queues that they ask for.
+class Server : public testing::Test
+{
+protected:
+    static void SetUpTestSuite()
+    {
+        s_server = new PrintServer;
+        ASSERT_EQ(s_server->fault(), QString()) << s_server->fault().toStdString();
+        ASSERT_TRUE(s_server->addQueue(u"photo"_s, samplePPD(u"velkaro-px-t900"_s)));
+        ASSERT_TRUE(s_server->addQueue(u"raw"_s, QString()));
+        ASSERT_TRUE(s_server->addQueue(u"closed"_s, samplePPD(u"velkaro-px-t900"_s)));
+        ASSERT_TRUE(s_server->command(u"cupsreject"_s, {u"closed"_s}));
+        ASSERT_TRUE(s_server->lpadmin({u"-p"_s, u"photo"_s, u"-c"_s, u"group"_s}));
+        ASSERT_TRUE(s_server->lpadmin({u"-d"_s, u"photo"_s}));
+        ASSERT_TRUE(s_server->command(u"cupsenable"_s, {u"group"_s}));
+        ASSERT_TRUE(s_server->command(u"cupsaccept"_s, {u"group"_s}));
+    }
+    static void TearDownTestSuite()
+    {
+        delete s_server;
+        s_server = nullptr;
+    }
+
+    void SetUp() override { ASSERT_NE(s_server, nullptr); }
+
+    QString document(const QByteArray &text)
+    {
+        QFile file(m_folder.filePath(u"document%1.ps"_s.arg(++m_documents)));
+        EXPECT_TRUE(file.open(QIODevice::WriteOnly));
+        file.write("%!PS-Adobe-3.0\n%%Pages: 1\n%%EndComments\n%%Page: 1 1\n% " + text +
+                   "\nshowpage\n%%EOF\n");
+        return file.fileName();
+    }
+
+    JobRequest job(const QString &queue)
+    {
+        JobRequest request;
+        request.server = s_server->address();
+        request.queue = queue;
+        request.title = u"A & B <i>"_s;
+        request.documents = {document("first")};
+        return request;
+    }
+
+    static PrintServer *s_server;
+    QTemporaryDir m_folder;
+    CallGuard m_guard;
+    int m_documents = 0;
+};
+
+PrintServer *Server::s_server = nullptr;
+
+TEST_F(Server, ListsItsQueuesAndNamesItsDefault)
+{
+    const DestinationList list = listDestinations(s_server->address(), m_guard);
+    EXPECT_TRUE(list.answer.isGood()) << list.answer.sentence.toStdString();
+    QStringList names;
+    for (const Destination &destination : list.destinations) {
+        names += destination.name.queue;
+        EXPECT_EQ(destination.isAccepting, destination.name.queue != u"closed"_s);
+        EXPECT_EQ(destination.isDefault, destination.name.queue == u"photo"_s);
+    }
+    EXPECT_EQ(names, (QStringList{u"closed"_s, u"group"_s, u"photo"_s, u"raw"_s}));
+    EXPECT_EQ(serverDefault(s_server->address(), m_guard), (QueueName{u"photo"_s, {}}));
+}
+
+TEST_F(Server, GivesThePPDOfAQueueAndLeavesNoFileBehind)
+{
+    const QStringList before = QDir::temp().entryList(QDir::Files);
+    const QueuePPD queue = fetchQueuePPD(s_server->address(), u"photo"_s, m_guard);
+    ASSERT_TRUE(queue.ppd) << queue.answer.sentence.toStdString();
+    EXPECT_EQ(ppdText(queue.ppd->nickname), u"Velkaro PX-T900, 1.0"_s);
+    EXPECT_EQ(markedChoice(queue.ppd.get(), u"PageSize"_s), u"A4"_s);
+    EXPECT_EQ(QDir::temp().entryList(QDir::Files), before);
+}
+
+TEST_F(Server, GivesTheFirstMembersPPDForAClass)
+{
+    const QueuePPD queue = fetchQueuePPD(s_server->address(), u"group"_s, m_guard);
+    ASSERT_TRUE(queue.ppd) << queue.answer.sentence.toStdString();
+    EXPECT_EQ(ppdText(queue.ppd->nickname), u"Velkaro PX-T900, 1.0"_s);
+}
+
+TEST_F(Server, SaysThatAQueueHasNoPPD)
+{
+    const QueuePPD queue = fetchQueuePPD(s_server->address(), u"raw"_s, m_guard);
+    EXPECT_FALSE(queue.ppd);
+    EXPECT_EQ(queue.answer.fault, ServerFault::None);
+    EXPECT_EQ(queue.answer.sentence, u"The queue raw has no PPD."_s);
+}
+
+TEST_F(Server, SaysThatThereIsNoSuchQueue)
+{
+    const QueuePPD queue = fetchQueuePPD(s_server->address(), u"no/such queue"_s, m_guard);
+    EXPECT_FALSE(queue.ppd);
+    EXPECT_EQ(queue.answer.fault, ServerFault::NotFound);
+    EXPECT_EQ(queue.answer.sentence,
+              u"The print server %1 has no queue no/such queue."_s.arg(s_server->address()));
+}
+
+TEST_F(Server, TakesAJobAsItWasSent)
+{
+    JobRequest request = job(u"photo"_s);
+    request.options = {{u"VKMediaType"_s, u"Glossy"_s},
+                       {u"VKBiDir"_s, u"ON"_s},
+                       {u"PageSize"_s, u"Custom.283.47x425.2"_s},
+                       {u"copies"_s, u"2"_s},
+                       {u"page-ranges"_s, u"1-2,4"_s},
+                       {u"orientation-requested"_s, u"4"_s},
+                       {u"fit-to-page"_s, u"true"_s},
+                       {u"com.velkaro.print.PrintSettings.T2T_Red"_s, u"-7"_s},
+                       {u"com.velkaro.text"_s, u"a, \"b\" 'c' \\d $(e)"_s}};
+    request.documents += document("second");
+    const JobReceipt receipt = submitJob(request, m_guard);
+    ASSERT_TRUE(receipt.answer.isGood()) << receipt.answer.sentence.toStdString();
+    EXPECT_EQ(receipt.notes, QStringList());
+    const QMap<QString, QString> kept = s_server->jobAttributes(u"photo"_s, receipt.id);
+    for (const JobOption &option : request.options)
+        EXPECT_EQ(kept.value(option.name), option.value) << option.name.toStdString();
+    EXPECT_EQ(kept.value(u"job-name"_s), u"A & B <i>"_s);
+    EXPECT_EQ(kept.value(u"number-of-documents"_s), u"2"_s);
+    EXPECT_FALSE(kept.contains(u"media"_s));
+    EXPECT_EQ(s_server->waitForJob(u"photo"_s, receipt.id), IPP_JSTATE_COMPLETED);
+}
+
+TEST_F(Server, RefusesAJobForAQueueThatIsClosed)
+{
+    const JobReceipt receipt = submitJob(job(u"closed"_s), m_guard);
+    EXPECT_EQ(receipt.id, 0);
+    EXPECT_EQ(receipt.answer.fault, ServerFault::Refused);
+    EXPECT_TRUE(receipt.answer.sentence.startsWith(
+        u"The print server %1 refused: "_s.arg(s_server->address())))
+        << receipt.answer.sentence.toStdString();
+    EXPECT_EQ(s_server->jobs(u"closed"_s), QList<int>());
+}
+
+TEST_F(Server, GetsNoJobWhoseDocumentIsMissing)
+{
+    const QList<int> before = s_server->jobs(u"photo"_s);
+    JobRequest request = job(u"photo"_s);
+    request.documents += m_folder.filePath(u"missing.pdf"_s);
+    const JobReceipt receipt = submitJob(request, m_guard);
+    EXPECT_EQ(receipt.answer.fault, ServerFault::Document);
+    EXPECT_EQ(receipt.answer.sentence,
+              u"The document %1 does not exist."_s.arg(request.documents.constLast()));
+    EXPECT_EQ(s_server->jobs(u"photo"_s), before);
+}
+
+TEST_F(Server, HoldsAJobAndItIsSaid)
+{
+    JobRequest request = job(u"photo"_s);
+    request.options = {{u"job-hold-until"_s, u"indefinite"_s}};
+    const JobReceipt receipt = submitJob(request, m_guard);
+    ASSERT_TRUE(receipt.answer.isGood());
+    EXPECT_EQ(
+        receipt.notes,
+        QStringList{u"The server holds job %1 (job-hold-until-specified)."_s.arg(receipt.id)});
+}
+
+TEST_F(Server, CancelsAJobThatTheUserStoppedSending)
+{
+    const QList<int> before = s_server->jobs(u"photo"_s);
+    QFile endless(m_folder.filePath(u"large.ps"_s));
+    ASSERT_TRUE(endless.open(QIODevice::WriteOnly));
+    ASSERT_TRUE(endless.resize(4096LL * 1024 * 1024));
+    JobRequest request = job(u"photo"_s);
+    request.documents = {endless.fileName()};
+    JobReceipt receipt;
+    bool isDone = false;
+    QObject owner;
+    auto *call = new ServerCall(
+        &owner, kServerPatience,
+        [&](CallGuard &guard) -> ServerCall::Outcome {
+            const JobReceipt got = submitJob(request, guard);
+            return [&, got] {
+                receipt = got;
+                isDone = true;
+            };
+        },
+        nullptr);
+    ASSERT_TRUE(QTest::qWaitFor([&] { return s_server->jobs(u"photo"_s).size() > before.size(); }));
+    call->cancel();
+    // The server's disk may be faster than the look at its jobs: then all has arrived.
+    ASSERT_TRUE(QTest::qWaitFor([&] { return isDone; }, 20000));
+    if (receipt.answer.isGood())
+        FAIL() << "the document was too short for this test";
+    EXPECT_EQ(receipt.answer.fault, ServerFault::Cancelled);
+    EXPECT_EQ(s_server->waitForJob(u"photo"_s, receipt.id), IPP_JSTATE_CANCELED);
+}
+
+TEST(ReadBack, NamesWhatTheServerDroppedOrChanged)
+{
+    const IppHandle kept(ippNew());
+    ippAddInteger(kept.get(), IPP_TAG_JOB, IPP_TAG_ENUM, "job-state", IPP_JSTATE_PENDING);
+    addOptionAttribute(kept.get(), {u"copies"_s, u"1"_s});
+    addOptionAttribute(kept.get(), {u"VKMediaType"_s, u"Glossy"_s});
+    EXPECT_EQ(
+        differences(
+            kept.get(), 7,
+            {{u"copies"_s, u"2"_s}, {u"VKMediaType"_s, u"Glossy"_s}, {u"com.velkaro.x"_s, u"1"_s}}),
+        (QStringList{u"The server changed the setting copies from 2 to 1."_s,
+                     u"The server dropped the setting com.velkaro.x=1."_s}));
+}
+
+// --- Servers that are not there, or do not answer
+// -------------------------------------------------
+
+/// Takes connections, and says nothing.
+class SilentServer
+{
+public:
+    SilentServer() { m_server.listen(QHostAddress::LocalHost); }
+    QString address() const { return u"127.0.0.1:%1"_s.arg(m_server.serverPort()); }
+
+private:
+    QTcpServer m_server; // never asked for its connections: the system accepts them
+};
+
+struct Call
+{
+    const char *name;
+    ServerAnswer (*make)(const QString &server, CallGuard &guard);
+};
+
+void PrintTo(const Call &row, std::ostream *out)
+{
+    *out << row.name;
+}
+
+class FaultyServer : public testing::TestWithParam<Call>
+{};
+
+TEST_P(FaultyServer, WithoutAnybodyIsUnreachable)
+{
+    CallGuard guard(500ms);
+    const QString server = u"127.0.0.1:%1"_s.arg(freePort());
+    const ServerAnswer answer = GetParam().make(server, guard);
+    EXPECT_EQ(answer.fault, ServerFault::Unreachable);
+    EXPECT_EQ(answer.sentence, u"The print server %1 cannot be reached."_s.arg(server));
+}
+
+TEST_P(FaultyServer, ThatIsSilentIsGivenUpInTime)
+{
+    const SilentServer server;
+    CallGuard guard(500ms);
+    QElapsedTimer clock;
+    clock.start();
+    const ServerAnswer answer = GetParam().make(server.address(), guard);
+    EXPECT_EQ(answer.fault, ServerFault::Silent);
+    EXPECT_EQ(answer.sentence, u"The print server %1 does not answer."_s.arg(server.address()));
+    EXPECT_LT(clock.elapsed(), 5000);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Table, FaultyServer,
+    testing::Values(Call{"ListingQueues",
+                         [](const QString &server, CallGuard &guard) {
+                             return listDestinations(server, guard).answer;
+                         }},
+                    Call{"FetchingThePPD",
+                         [](const QString &server, CallGuard &guard) {
+                             return fetchQueuePPD(server, u"photo"_s, guard).answer;
+                         }},
+                    Call{"SubmittingAJob",
+                         [](const QString &server, CallGuard &guard) {
+                             JobRequest request;
+                             request.server = server;
+                             request.queue = u"photo"_s;
+                             request.documents = {QStringLiteral("/proc/self/exe")};
+                             return submitJob(request, guard).answer;
+                         }}),
+    [](const auto &row) { return std::string(row.param.name); });
+
+TEST(ServerCallTest, GivesUpWorkThatDoesNotStop)
+{
+    std::atomic<bool> release = false;
+    bool gaveUp = false;
+    bool arrived = false;
+    QObject owner;
+    new ServerCall(
+        &owner, 200ms,
+        [&](CallGuard &) -> ServerCall::Outcome {
+            while (!release) // stands for a name look-up, which nothing can interrupt
+                std::this_thread::yield();
+            return [&] { arrived = true; };
+        },
+        [&] { gaveUp = true; });
+    EXPECT_TRUE(QTest::qWaitFor([&] { return gaveUp; }));
+    release = true;
+    EXPECT_TRUE(waitForServerThreads(5s));
+    QCoreApplication::processEvents();
+    EXPECT_FALSE(arrived);
+}
+
+TEST(ServerCallTest, DestroyedBeforeItsEndSaysNothing)
+{
+    bool arrived = false;
+    {
+        QObject owner;
+        new ServerCall(
+            &owner, 5s,
+            [&](CallGuard &guard) -> ServerCall::Outcome {
+                while (guard.mayWait())
+                    std::this_thread::yield();
+                return [&] { arrived = true; };
+            },
+            [&] { arrived = true; });
+    }
+    EXPECT_TRUE(waitForServerThreads(4s));
+    QCoreApplication::processEvents();
+    EXPECT_FALSE(arrived);
+}
+
+TEST(ServerCallTest, IsWaitedForWhereThereIsNoWindow)
+{
+    const auto answer = waitForServer<int>(5s, [](CallGuard &) { return 42; });
+    EXPECT_EQ(answer, 42);
+    const auto none = waitForServer<int>(100ms, [](CallGuard &guard) {
+        while (guard.silence() < 400ms)
+            std::this_thread::yield();
+        return 1;
+    });
+    EXPECT_EQ(none, std::nullopt);
+    EXPECT_TRUE(waitForServerThreads(5s));
+}
+
+} // namespace

@@ -1,0 +1,214 @@
+#include "tests/endtoend/PrintServer.h"
+
+#include "dialog/cups/OptionAttribute.h"
+#include "dialog/cups/ServerConnection.h"
+
+#include <QtCore/QDeadlineTimer>
+#include <QtCore/QDir>
+#include <QtCore/QFile>
+#include <QtCore/QStandardPaths>
+#include <QtCore/QThread>
+
+#include <arpa/inet.h>
+#include <grp.h>
+#include <netinet/in.h>
+#include <pwd.h>
+#include <sys/socket.h>
+#include <unistd.h>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int kPatience = 20000; // ms
+constexpr int kLook = 20;        // ms between two looks at a state
+
+QString programNamed(const QString &name)
+{
+    return QStandardPaths::findExecutable(
+        name, {u"/usr/sbin"_s, u"/usr/bin"_s, u"/usr/local/sbin"_s, u"/sbin"_s});
+}
+
+bool writeFile(const QString &path, const QString &text)
+{
+    QFile file(path);
+    return file.open(QIODevice::WriteOnly) && file.write(text.toUtf8()) > 0;
+}
+
+QString userName()
+{
+    return QString::fromLocal8Bit(getpwuid(getuid())->pw_name);
+}
+
+QString groupName()
+{
+    return QString::fromLocal8Bit(getgrgid(getgid())->gr_name);
+}
+
+} // namespace
+
+int freePort()
+{
+    const int descriptor = socket(AF_INET, SOCK_STREAM, 0);
+    sockaddr_in address{};
+    address.sin_family = AF_INET;
+    address.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
+    socklen_t length = sizeof address;
+    bind(descriptor, reinterpret_cast<sockaddr *>(&address), length);
+    getsockname(descriptor, reinterpret_cast<sockaddr *>(&address), &length);
+    close(descriptor);
+    return ntohs(address.sin_port);
+}
+
+QString samplePPD(const QString &name)
+{
+    return QStringLiteral(VELKARO_SHARE_DIR) + u"/ppd/"_s + name + u".ppd"_s;
+}
+
+PrintServer::PrintServer() : m_port(freePort())
+{
+    if (programNamed(u"cupsd"_s).isEmpty())
+        m_fault = u"cupsd is not installed"_s;
+    else if (!writeConfiguration())
+        m_fault = u"the server's folder cannot be written"_s;
+    else if (!start())
+        m_fault = u"cupsd does not start: "_s + QString::fromUtf8(m_process.readAll());
+}
+
+PrintServer::~PrintServer()
+{
+    stop();
+}
+
+void PrintServer::stop()
+{
+    if (m_process.state() == QProcess::NotRunning)
+        return;
+    m_process.terminate(); // by its process id
+    if (!m_process.waitForFinished(kPatience))
+        m_process.kill();
+    m_process.waitForFinished(kPatience);
+}
+
+QString PrintServer::address() const
+{
+    return u"127.0.0.1:%1"_s.arg(m_port);
+}
+
+bool PrintServer::writeConfiguration()
+{
+    const bool isRoot = geteuid() == 0;
+    const QDir root(folder());
+    for (const char *name :
+         {"spool", "spool/tmp", "cache", "run", "run/certs", "log", "ppd", "out"})
+        root.mkpath(QLatin1String(name));
+    // As root, filters and devices run as "lp", which must get into the folder.
+    const QString user = isRoot ? u"lp"_s : userName();
+    const QString group = isRoot ? u"lp"_s : groupName();
+    if (isRoot) {
+        const passwd *lp = getpwnam("lp");
+        QFile::setPermissions(folder(), QFile::Permissions(0x7755));
+        for (const char *name : {"out", "spool", "spool/tmp", "cache", "run"})
+            if (!lp || chown(QFile::encodeName(root.filePath(QLatin1String(name))).constData(),
+                             lp->pw_uid, lp->pw_gid) != 0)
+                return false;
+    }
+    const QString files = u"ServerRoot %1\nRequestRoot %1/spool\nTempDir %1/spool/tmp\n"
+                          "CacheDir %1/cache\nStateDir %1/run\nServerKeychain %1/run/certs\n"
+                          "AccessLog %1/log/access\nErrorLog %1/log/error\nPageLog %1/log/page\n"
+                          "FileDevice Yes\nUser %2\nGroup %3\nSystemGroup root %4\n"_s.arg(
+                              folder(), user, group, groupName());
+    const QString rules =
+        u"Listen 127.0.0.1:%1\nBrowsing Off\nWebInterface No\nLogLevel debug\n"
+        "DefaultAuthType None\nPreserveJobHistory Yes\nPreserveJobFiles Yes\n"
+        "<Location />\nOrder allow,deny\nAllow all\n</Location>\n"
+        "<Policy default>\nJobPrivateAccess all\nJobPrivateValues none\n"
+        "<Limit All>\nOrder allow,deny\nAllow all\n</Limit>\n</Policy>\n"_s.arg(m_port);
+    return writeFile(root.filePath(u"cups-files.conf"_s), files) &&
+           writeFile(root.filePath(u"cupsd.conf"_s), rules);
+}
+
+bool PrintServer::start()
+{
+    const QDir root(folder());
+    m_process.setProcessChannelMode(QProcess::MergedChannels);
+    m_process.start(programNamed(u"cupsd"_s), {u"-f"_s, u"-c"_s, root.filePath(u"cupsd.conf"_s),
+                                               u"-s"_s, root.filePath(u"cups-files.conf"_s)});
+    const QDeadlineTimer deadline(kPatience);
+    while (m_process.waitForStarted(kPatience) && !deadline.hasExpired()) {
+        CallGuard guard(std::chrono::milliseconds{1000});
+        if (ServerConnection(address(), guard).isConnected())
+            return true;
+        if (m_process.waitForFinished(kLook))
+            return false;
+    }
+    return false;
+}
+
+bool PrintServer::command(const QString &program, const QStringList &arguments)
+{
+    QProcess process;
+    process.setProcessChannelMode(QProcess::ForwardedChannels);
+    process.start(programNamed(program), QStringList{u"-h"_s, address()} + arguments);
+    return process.waitForFinished(kPatience) && process.exitStatus() == QProcess::NormalExit &&
+           process.exitCode() == 0;
+}
+
+bool PrintServer::lpadmin(const QStringList &arguments)
+{
+    return command(u"lpadmin"_s, arguments);
+}
+
+QString PrintServer::outputOf(const QString &queue) const
+{
+    return folder() + u"/out/"_s + queue;
+}
+
+bool PrintServer::addQueue(const QString &queue, const QString &ppd)
+{
+    QStringList arguments{u"-p"_s, queue, u"-E"_s, u"-v"_s, u"file:"_s + outputOf(queue)};
+    if (!ppd.isNull())
+        arguments += {u"-P"_s, ppd};
+    return lpadmin(arguments);
+}
+
+QList<int> PrintServer::jobs(const QString &queue)
+{
+    CallGuard guard;
+    ServerConnection connection(address(), guard);
+    IppHandle request = queueRequest(IPP_OP_GET_JOBS, queue);
+    ippAddString(request.get(), IPP_TAG_OPERATION, IPP_TAG_KEYWORD, "which-jobs", nullptr, "all");
+    const IppHandle response = connection.request(std::move(request), queueResource(queue));
+    QList<int> numbers;
+    for (ipp_attribute_t *id = ippFindAttribute(response.get(), "job-id", IPP_TAG_INTEGER); id;
+         id = ippFindNextAttribute(response.get(), "job-id", IPP_TAG_INTEGER))
+        numbers += ippGetInteger(id, 0);
+    return numbers;
+}
+
+QMap<QString, QString> PrintServer::jobAttributes(const QString &queue, int job)
+{
+    CallGuard guard;
+    ServerConnection connection(address(), guard);
+    IppHandle request = queueRequest(IPP_OP_GET_JOB_ATTRIBUTES, queue);
+    ippAddInteger(request.get(), IPP_TAG_OPERATION, IPP_TAG_INTEGER, "job-id", job);
+    const IppHandle response = connection.request(std::move(request), queueResource(queue));
+    QMap<QString, QString> attributes;
+    for (ipp_attribute_t *one = ippFirstAttribute(response.get()); one;
+         one = ippNextAttribute(response.get()))
+        if (ippGetGroupTag(one) == IPP_TAG_JOB)
+            attributes.insert(QString::fromUtf8(ippGetName(one)), attributeText(one));
+    return attributes;
+}
+
+int PrintServer::waitForJob(const QString &queue, int job)
+{
+    const QDeadlineTimer deadline(kPatience);
+    while (!deadline.hasExpired()) {
+        const int state = jobAttributes(queue, job).value(u"job-state"_s).toInt();
+        if (state >= IPP_JSTATE_CANCELED)
+            return state;
+        QThread::msleep(kLook);
+    }
+    return 0;
+}

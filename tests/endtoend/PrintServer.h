@@ -1,0 +1,61 @@
+#pragma once
+
+#include <QtCore/QByteArray>
+#include <QtCore/QMap>
+#include <QtCore/QProcess>
+#include <QtCore/QString>
+#include <QtCore/QStringList>
+#include <QtCore/QTemporaryDir>
+
+/// A real cupsd on a free port of the loopback, in a folder of its own, for as long as the object
+/// lives. It works for root and for anybody else.
+class PrintServer
+{
+public:
+    PrintServer();
+    ~PrintServer();
+
+    /// Why there is no server; null when it runs.
+    QString fault() const { return m_fault; }
+
+    /// "127.0.0.1:PORT", as velkaro-print -h takes it.
+    QString address() const;
+    QString folder() const { return m_folder.path(); }
+
+    /// Adds a queue whose jobs go to outputOf(queue), with the PPD (null: a raw queue).
+    bool addQueue(const QString &queue, const QString &ppd);
+    QString outputOf(const QString &queue) const;
+
+    /// lpadmin with more options, such as {"-p", "queue", "-o", "..."}.
+    bool lpadmin(const QStringList &arguments);
+
+    /// Stops the queue's printing, or its taking jobs.
+    bool command(const QString &program, const QStringList &arguments);
+
+    /// The numbers of all jobs of the queue, finished ones too; read over IPP.
+    QList<int> jobs(const QString &queue);
+
+    /// Every attribute of the job as text; read over IPP.
+    QMap<QString, QString> jobAttributes(const QString &queue, int job);
+
+    /// Waits until the job is over, and gives its job-state; 0 when it never is.
+    int waitForJob(const QString &queue, int job);
+
+    /// Ends the server; the object can be asked no more.
+    void stop();
+
+private:
+    bool writeConfiguration();
+    bool start();
+
+    QTemporaryDir m_folder;
+    QProcess m_process;
+    QString m_fault;
+    int m_port = 0;
+};
+
+/// A port of the loopback where nobody listens.
+int freePort();
+
+/// The sample printer's PPD of the build tree.
+QString samplePPD(const QString &name);
