@@ -16,7 +16,7 @@ std::optional<QStringList> keywordList(const Bundle *bundle)
 {
     const QVariant list =
         bundle ? bundle->infoValue(u"PMPPDKeysSupported"_s + u"Color"_s) : QVariant();
-    return list.isValid() ? std::optional(list.toStringList()) : std::nullopt;
+    return list.isValid() && !list.isNull() ? std::optional(list.toStringList()) : std::nullopt;
 }
 
 } // namespace

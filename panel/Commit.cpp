@@ -7,6 +7,16 @@
 
 using namespace Qt::StringLiterals;
 
+namespace {
+
+// Disabled by the panel, not by the dialog around it: that must not cost a setting.
+bool isSwitchedOff(const QWidget &control)
+{
+    return !control.isEnabledTo(control.parentWidget());
+}
+
+} // namespace
+
 bool VKPrintQualityPDE::setAndMarkValue(const QString &setAndMarkValue, const QString &forKey)
 {
     if (forKey.isNull())
@@ -73,7 +83,7 @@ void VKPrintQualityPDE::commitControl(QWidget &control, const QString &keyword)
     setAndMarkValue(value, keyword);
     // A box that is disabled counts as off, whatever it shows; the slow-drying box and a fax job
     // are the exceptions.
-    if (isCheckBox(&control) && !control.isEnabled() && keyword != "VKSlowDrying"_L1 &&
+    if (isCheckBox(&control) && isSwitchedOff(control) && keyword != "VKSlowDrying"_L1 &&
         !hasFlag(FaxOutput))
         setAndMarkValue(checkBoxValue(keyword, false), keyword);
 }

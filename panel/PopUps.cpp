@@ -119,6 +119,9 @@ void VKPrintQualityPDE::titleLabel(const QString &keyword, const QString &text)
         field->setText(text + u": "_s);
     else if (auto *box = qobject_cast<QGroupBox *>(label))
         box->setTitle(withoutMnemonic(text));
+    // A buddy would tell it too, but makes a mnemonic of an ampersand in the label.
+    if (QWidget *control = determineUI(keyword))
+        control->setAccessibleName(text);
 }
 
 void VKPrintQualityPDE::updateUI()

@@ -10,7 +10,8 @@ void VKInkPrintSetting14PDE::checkDuplex()
     const ppd_option_t *option = findOption(ppd, keyword);
     const bool offered = option && findChoice(findOption(ppd, u"VKMediaType"_s), u"PlainDuplex"_s);
     // The default of `Duplex` is one-sided printing, whatever it is called.
-    setFlag(DuplexOn, offered && markedChoice(ppd, keyword) != ppdName(option->defchoice));
+    const QString marked = markedChoice(ppd, keyword);
+    setFlag(DuplexOn, offered && (marked.isNull() || marked != ppdName(option->defchoice)));
 }
 
 void VKInkPrintSetting14PDE::checkDuplexChange(const Notification &)

@@ -18,7 +18,7 @@ namespace {
 
 std::optional<QStringList> keywordList(const QVariant &entry)
 {
-    if (entry.isValid())
+    if (entry.isValid() && !entry.isNull())
         return entry.toStringList();
     return std::nullopt;
 }

@@ -58,7 +58,9 @@ void VKInkPrintSetting14PDE::restoreDefault(const QString &keyword)
     if (!option)
         return;
     const QString defaultChoice = ppdName(option->defchoice);
-    if (pendingValue(keyword) == defaultChoice)
+    const QString pending = pendingValue(keyword);
+    // A missing value is not the empty name of a default that the PPD does not give.
+    if (!pending.isNull() && pending == defaultChoice)
         return;
     const QString marked = markedChoice(ppd, keyword);
     if (marked.isNull()) {

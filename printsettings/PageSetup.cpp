@@ -20,7 +20,7 @@ constexpr auto kMappedPaper = "com.apple.print.PageToPaperMappingMediaName";
 bool VKInkPrintSetting14PDE::readPageSetup()
 {
     const QString name = checkedPaperName(pageSetupPaperName());
-    if (name.isNull() || paperName == name)
+    if (name.isNull() || (!paperName.isNull() && paperName == name))
         return false;
     trackDisc(name);
     applyDiscMedium();

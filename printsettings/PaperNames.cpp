@@ -45,7 +45,7 @@ bool isKindOfPostcardPaperSize(const QString &paperName)
 
 bool allowTray2PaperSize(const QString &paperName)
 {
-    // The last four can never equal a name without its variant. They stand in the printer's own
+    // No paper comes to equal the last four without its variant. They stand in the printer's own
     // table, and this list is held against it: leave them.
     return isListed(withoutVariant(paperName),
                     {"A3"_L1, "B4"_L1, "Tabloid"_L1, "A4"_L1, "Letter"_L1, "Legal"_L1, "VkA3"_L1,

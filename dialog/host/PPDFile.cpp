@@ -23,7 +23,7 @@ QString reasonNotToRead(const QString &path)
         return sentence(QT_TRANSLATE_NOOP("PPDFile", "The PPD file %1 does not exist."), path);
     if (!file.isFile())
         return sentence(QT_TRANSLATE_NOOP("PPDFile", "%1 is not a PPD file."), path);
-    if (!file.isReadable())
+    if (!QFile(path).open(QIODevice::ReadOnly))
         return sentence(QT_TRANSLATE_NOOP("PPDFile", "The PPD file %1 cannot be read."), path);
     if (file.size() > kLargestPPD)
         return sentence(QT_TRANSLATE_NOOP("PPDFile", "The PPD file %1 is too large."), path);

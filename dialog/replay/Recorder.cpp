@@ -6,9 +6,9 @@
 #include <QtCore/QTimer>
 #include <QtWidgets/QAbstractButton>
 #include <QtWidgets/QCheckBox>
-#include <QtWidgets/QDialog>
+#include <QtWidgets/QMessageBox>
 
-#include <iterator>
+#include <algorithm>
 #include <utility>
 
 using namespace Qt::StringLiterals;
@@ -22,14 +22,19 @@ QJsonValue heightValue(double height)
     return height < 0 ? QJsonValue() : QJsonValue(height);
 }
 
-void followAnswer(const ShownAlert &alert, const std::shared_ptr<RecordedAnswer> &answer)
+bool isTicked(const ShownAlert &alert)
+{
+    return alert.suppressionBox && alert.suppressionBox->isChecked();
+}
+
+// A window of the panel's own; one that nobody pressed a button of was closed.
+void followButtons(const ShownAlert &alert, const std::shared_ptr<RecordedAnswer> &answer)
 {
     for (int index = 0; index < alert.buttons.size(); ++index) {
-        const QPointer<QCheckBox> box = alert.suppressionBox;
         QObject::connect(alert.buttons[index], &QAbstractButton::clicked, alert.window,
-                         [answer, box, index] {
+                         [answer, alert, index] {
                              answer->button = index;
-                             answer->suppressed = box && box->isChecked();
+                             answer->suppressed = isTicked(alert);
                          });
     }
 }
@@ -52,23 +57,25 @@ bool Recorder::open(const QString &path, QString *error)
     return m_script.open(path, error);
 }
 
-// A button that nobody pressed is the last one: it answers Escape and closing.
 void Recorder::alertShown(const ShownAlert &alert)
 {
     auto answer = std::make_shared<RecordedAnswer>();
+    // The last button answers Escape and closing.
     answer->button = std::max(0, static_cast<int>(alert.buttons.size()) - 1);
     answer->suppression = alert.content.suppression;
-    auto *sheet = qobject_cast<QDialog *>(alert.window);
-    const bool waits = alert.kind == ShownAlert::Kind::Sheet && sheet;
-    answer->given = !waits; // the others are answered before their event is noted
+    // Alerts that block are answered before their event is noted.
+    answer->given = alert.kind != ShownAlert::Kind::Sheet;
     m_script.addAnswer(answer);
-    followAnswer(alert, answer);
-    if (waits) {
-        connect(sheet, &QDialog::finished, this, [this, answer] {
+    if (const auto *box = qobject_cast<QMessageBox *>(alert.window))
+        connect(box, &QMessageBox::finished, this, [this, alert, answer, box] {
+            if (box->clickedButton())
+                answer->button = static_cast<int>(alert.buttons.indexOf(box->clickedButton()));
+            answer->suppressed = isTicked(alert);
             answer->given = true;
             m_script.writeAnswered();
         });
-    }
+    else
+        followButtons(alert, answer);
     if (m_former)
         m_former->alertShown(alert);
 }

@@ -4,6 +4,7 @@
 
 #include <QtCore/QDir>
 #include <QtCore/QFile>
+#include <QtCore/QFileInfo>
 #include <QtCore/QJsonDocument>
 #include <QtCore/QJsonObject>
 #include <QtCore/QTranslator>
@@ -107,7 +108,7 @@ QString Bundle::pathForResource(const QString &name, const QString &type) const
     if (name.isEmpty() || name.contains(u'/') || name.contains(QChar::Null))
         return {};
     const QString path = m_path + QStringLiteral("/Resources/") + name + u'.' + type;
-    return QFile::exists(path) ? path : QString();
+    return QFileInfo(path).isFile() ? path : QString();
 }
 
 QString Bundle::stringTable(const QString &language) const
@@ -117,13 +118,13 @@ QString Bundle::stringTable(const QString &language) const
 
 void Bundle::loadStringTable() const
 {
-    const QString first = preferredLanguages().constFirst();
-    if (m_table && m_tableLanguage == first)
+    const QStringList languages = preferredLanguages();
+    if (m_table && m_tableLanguages == languages)
         return;
     m_table = std::make_unique<QTranslator>();
-    m_tableLanguage = first;
+    m_tableLanguages = languages;
     QStringList candidates;
-    for (const QString &language : preferredLanguages())
+    for (const QString &language : languages)
         candidates << language << language.section(u'-', 0, 0);
     candidates << QStringLiteral("en");
     for (const QString &language : std::as_const(candidates)) {

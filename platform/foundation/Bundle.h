@@ -3,6 +3,7 @@
 #include "platform/Export.h"
 
 #include <QtCore/QString>
+#include <QtCore/QStringList>
 #include <QtCore/QVariant>
 
 #include <memory>
@@ -71,5 +72,5 @@ private:
     std::optional<QVariantMap> m_info;
     Strings m_strings = Strings::Tables;
     mutable std::unique_ptr<QTranslator> m_table;
-    mutable QString m_tableLanguage;
+    mutable QStringList m_tableLanguages;
 };

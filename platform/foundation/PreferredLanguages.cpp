@@ -49,7 +49,7 @@ void setPreferredLanguages(const QStringList &languages)
 QString languageTag(const QString &localeName)
 {
     static const QRegularExpression form(
-        QStringLiteral("^([a-z]{2,3})(?:[-_]([A-Z]{2}))?(?:[.@].*)?$"));
+        QStringLiteral("\\A([a-z]{2,3})(?:[-_]([A-Z]{2}))?(?:[.@].*)?\\z"));
     const auto match = form.match(localeName);
     if (!match.hasMatch())
         return {};

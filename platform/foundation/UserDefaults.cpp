@@ -48,7 +48,7 @@ void UserDefaults::setPersistentDomain(const QVariantMap &domain, const QString 
     for (auto entry = domain.cbegin(); entry != domain.cend(); ++entry)
         settings.setValue(entry.key(), entry.value());
     settings.sync();
-    m_failed = settings.status() != QSettings::NoError;
+    m_failed = m_failed || settings.status() != QSettings::NoError;
 }
 
 bool UserDefaults::synchronize()

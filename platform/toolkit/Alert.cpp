@@ -11,6 +11,7 @@
 #include <QtWidgets/QMessageBox>
 #include <QtWidgets/QPushButton>
 
+#include <algorithm>
 #include <memory>
 #include <utility>
 
@@ -90,9 +91,15 @@ ShownAlert describe(QMessageBox &box, const AlertContent &content, ShownAlert::K
     return {kind, content, &box, buttonsOf(box, content), box.checkBox()};
 }
 
+int answerOfDismissal(const AlertContent &content)
+{
+    return std::max(static_cast<int>(content.buttons.size()) - 1, 0);
+}
+
 AlertResult resultOf(const QMessageBox &box, const AlertContent &content)
 {
-    AlertResult result;
+    // A box that is closed has no clicked button yet when it says that it has finished.
+    AlertResult result{answerOfDismissal(content), false};
     const auto buttons = buttonsOf(box, content);
     for (int index = 0; index < buttons.size(); ++index) {
         if (buttons[index] == box.clickedButton())
@@ -106,15 +113,20 @@ AlertResult resultOf(const QMessageBox &box, const AlertContent &content)
 
 AlertResult runAlert(const AlertContent &content)
 {
-    const auto box = newBox(content);
+    // The box dies with the key window, which may go while the alert is up.
+    const QPointer<QMessageBox> box = newBox(content).release();
     box->setWindowModality(Qt::ApplicationModal);
     if (AlertObserver *observer = AlertObserver::alertObserver()) {
-        QTimer::singleShot(0, box.get(), [&] {
+        QTimer::singleShot(0, box, [&] {
             observer->alertShown(describe(*box, content, ShownAlert::Kind::Modal));
         });
     }
     box->exec();
-    return resultOf(*box, content);
+    if (!box)
+        return {answerOfDismissal(content), false};
+    const AlertResult result = resultOf(*box, content);
+    delete box;
+    return result;
 }
 
 void beginAlertSheet(const AlertContent &content, QObject *context,

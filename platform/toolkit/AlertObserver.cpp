@@ -16,7 +16,7 @@ AlertObserver *&registeredObserver()
 void ShownAlert::press(int button) const
 {
     QAbstractButton *pressed = buttons.value(button);
-    if (pressed)
+    if (pressed && pressed->isVisible())
         pressed->click();
 }
 

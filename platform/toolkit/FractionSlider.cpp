@@ -1,6 +1,7 @@
 #include "platform/toolkit/FractionSlider.h"
 
 #include <QtCore/QSignalBlocker>
+#include <QtGui/QWheelEvent>
 
 #include <algorithm>
 #include <cmath>
@@ -11,6 +12,7 @@ constexpr double kUnit = 100; // steps of the underlying slider for a whole numb
 
 FractionSlider::FractionSlider(QWidget *parent) : QSlider(Qt::Horizontal, parent)
 {
+    setFocusPolicy(Qt::StrongFocus);
     connect(this, &QSlider::actionTriggered, this, [this] {
         m_value = sliderPosition() / kUnit;
         Q_EMIT movedByUser(m_value);
@@ -30,4 +32,12 @@ void FractionSlider::moveByUser(double value)
 {
     setDoubleValue(value);
     Q_EMIT movedByUser(m_value);
+}
+
+void FractionSlider::wheelEvent(QWheelEvent *event)
+{
+    if (hasFocus())
+        QSlider::wheelEvent(event);
+    else
+        event->ignore();
 }

@@ -24,6 +24,10 @@ public:
     /// Moves the slider as a user does.
     void moveByUser(double value);
 
+protected:
+    /// A wheel that passes over the slider by chance must not change a setting.
+    void wheelEvent(QWheelEvent *event) override;
+
 Q_SIGNALS:
     /// The user has moved the slider to the value, be it the same one.
     void movedByUser(double value);

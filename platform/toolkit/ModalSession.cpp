@@ -15,9 +15,22 @@
 
 namespace {
 
-std::vector<QEventLoop *> &sessions()
+// The loop's own exit code is no answer: an application that quits sets it too.
+struct Session
 {
-    static std::vector<QEventLoop *> running;
+    QEventLoop loop;
+    int code = kModalCancel;
+
+    void stop(int answer)
+    {
+        code = answer;
+        loop.quit();
+    }
+};
+
+std::vector<Session *> &sessions()
+{
+    static std::vector<Session *> running;
     return running;
 }
 
@@ -25,19 +38,19 @@ std::vector<QEventLoop *> &sessions()
 class ClosingWatch : public QObject
 {
 public:
-    explicit ClosingWatch(QEventLoop &session) : m_session(session) {}
+    explicit ClosingWatch(Session &session) : m_session(session) {}
 
     bool eventFilter(QObject *, QEvent *event) override
     {
         const bool escape = event->type() == QEvent::KeyPress &&
                             static_cast<QKeyEvent *>(event)->key() == Qt::Key_Escape;
         if (escape || event->type() == QEvent::Close)
-            m_session.exit(kModalCancel);
+            m_session.stop(kModalCancel);
         return escape;
     }
 
 private:
-    QEventLoop &m_session;
+    Session &m_session;
 };
 
 ShownAlert describe(QWidget *window)
@@ -67,22 +80,23 @@ int runModalForWindow(QWidget *window)
 {
     if (!window)
         return kModalCancel;
-    QEventLoop session;
+    Session session;
     ClosingWatch closing(session);
     window->installEventFilter(&closing);
+    QObject::connect(window, &QObject::destroyed, &session.loop, &QEventLoop::quit);
     window->setWindowModality(Qt::ApplicationModal);
     window->show();
     if (AlertObserver *observer = AlertObserver::alertObserver())
-        QTimer::singleShot(0, window, [&] { observer->alertShown(describe(window)); });
+        QTimer::singleShot(0, &session.loop,
+                           [observer, window] { observer->alertShown(describe(window)); });
     sessions().push_back(&session);
-    const int code = session.exec();
+    session.loop.exec();
     std::erase(sessions(), &session);
-    window->removeEventFilter(&closing);
-    return code;
+    return session.code;
 }
 
 void stopModalWithCode(int code)
 {
     if (!sessions().empty())
-        sessions().back()->exit(code);
+        sessions().back()->stop(code);
 }

@@ -46,6 +46,9 @@ void PopUpButton::setItems(const std::vector<Item> &items)
 
 int PopUpButton::indexOfRepresentedObject(const QString &object) const
 {
+    // A missing string equals an empty one, and that of a cell without any.
+    if (object.isNull())
+        return -1;
     for (int index = 0; index < count(); ++index) {
         if (representedObject(index) == object)
             return index;

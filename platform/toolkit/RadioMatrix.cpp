@@ -67,6 +67,9 @@ int RadioMatrix::selectedRow() const
 
 int RadioMatrix::rowOfRepresentedObject(const QString &object) const
 {
+    // A missing string equals an empty one, and that of a cell without any.
+    if (object.isNull())
+        return -1;
     for (int row = 0; row < numberOfRows(); ++row) {
         if (representedObject(row) == object)
             return row;

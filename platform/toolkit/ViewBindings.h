@@ -1,5 +1,7 @@
 #pragma once
 
+#include "platform/Export.h"
+
 #include <QtCore/QString>
 
 class ObservableDictionary;
@@ -14,4 +16,4 @@ class QWidget;
 ///
 /// A key without an entry counts as false. What is bound is brought up to date at once, except for
 /// values: a control keeps what the view resource gave it until its key is first written.
-void bindView(QWidget *control, ObservableDictionary &dictionary);
+VELKARO_PLATFORM_EXPORT void bindView(QWidget *control, ObservableDictionary &dictionary);

@@ -1,0 +1,125 @@
+#include "dialog/host/PPDFile.h"
+#include "platform/pde/PPDText.h"
+#include "tests/dialog/support/SmallPPD.h"
+
+#include <QtCore/QFile>
+#include <QtCore/QTemporaryDir>
+
+#include <gtest/gtest.h>
+
+#include <sys/stat.h>
+#include <unistd.h>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// The first `length` bytes of a good PPD.
+QByteArray cut(const char *after)
+{
+    const QByteArray whole(kSmallPPD);
+    return whole.left(whole.indexOf(after) + qstrlen(after));
+}
+
+struct BadPPD
+{
+    const char *name;
+    QByteArray text;
+    const char *error; // %1: the file's path
+};
+
+class PPDThatIsNone : public testing::TestWithParam<BadPPD>
+{};
+
+/// Opens the PPD as a user who owns nothing: root may read everything.
+OpenedPPD openAsNobody(const QString &path)
+{
+    constexpr uid_t nobody = 65534;
+    const uid_t user = geteuid();
+    const bool changed = user == 0 && seteuid(nobody) == 0;
+    OpenedPPD opened = openPPD(path);
+    EXPECT_TRUE(!changed || seteuid(user) == 0);
+    return opened;
+}
+
+const char *const kNoAsterisk =
+    "%1 is not a usable PPD file (line 1: Missing asterisk in column 1).";
+const char *const kIncomplete = "The PPD file %1 is incomplete: it ends too early. Get it again.";
+
+} // namespace
+
+TEST_P(PPDThatIsNone, IsRefusedWithASentence)
+{
+    const QTemporaryDir folder;
+    const QString path = folder.filePath(u"the.ppd"_s);
+    writeFile(path, GetParam().text);
+    const OpenedPPD opened = openPPD(path);
+    EXPECT_EQ(opened.ppd, nullptr);
+    EXPECT_EQ(opened.error.toStdString(),
+              QString::fromUtf8(GetParam().error).arg(path).toStdString());
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Texts, PPDThatIsNone,
+    testing::Values(
+        BadPPD{"Empty", "", "%1 is not a PPD file (Missing PPD-Adobe-4.x header)."},
+        BadPPD{"OtherText", "Hello\n", kNoAsterisk},
+        BadPPD{"Binary", QByteArray("\x7f\x45LF\x02\x01\x01\x00\x00\xff\xfe\n\x80\x81", 14),
+               kNoAsterisk},
+        BadPPD{"CutInTheHeader", cut("*PPD-Ad"),
+               "%1 is not a PPD file (Missing PPD-Adobe-4.x header)."},
+        BadPPD{"CutAfterTheHeader", cut("*PPD-Adobe: \"4.3\"\n"), kIncomplete},
+        BadPPD{"CutInAKeyword", cut("*ShortNick"), kIncomplete},
+        BadPPD{"CutInAValue", cut("*NickName: \"Velkaro"), kIncomplete},
+        BadPPD{"CutInAChoice", cut("*Finish Shiny/Shiny: \""), kIncomplete},
+        BadPPD{"CutBetweenChoices", cut("*Finish Matt/Matt: \"\"\n"), kIncomplete},
+        BadPPD{"TooLarge", QByteArray(50 * 1024 * 1024, '\n'), "The PPD file %1 is too large."}),
+    [](const auto &testCase) { return std::string(testCase.param.name); });
+
+TEST(PPDFile, AMissingFileIsSaidToBeMissing)
+{
+    const OpenedPPD opened = openPPD(u"/nowhere/the.ppd"_s);
+    EXPECT_EQ(opened.ppd, nullptr);
+    EXPECT_EQ(opened.error, u"The PPD file /nowhere/the.ppd does not exist."_s);
+}
+
+TEST(PPDFile, AFolderAndAPipeAreNoPPDs)
+{
+    const QTemporaryDir folder;
+    EXPECT_EQ(openPPD(folder.path()).error, folder.path() + u" is not a PPD file."_s);
+    const QString pipe = folder.filePath(u"pipe"_s);
+    ASSERT_EQ(mkfifo(QFile::encodeName(pipe).constData(), 0600), 0);
+    EXPECT_EQ(openPPD(pipe).error, pipe + u" is not a PPD file."_s);
+}
+
+TEST(PPDFile, AFileThatThisUserMayNotReadIsSaidSo)
+{
+    const QTemporaryDir folder;
+    const QString path = folder.filePath(u"the.ppd"_s);
+    writeFile(path, kSmallPPD);
+    ASSERT_TRUE(QFile::setPermissions(path, {}));
+    ASSERT_EQ(chmod(QFile::encodeName(folder.path()).constData(), 0711), 0);
+    const OpenedPPD opened = openAsNobody(path);
+    EXPECT_EQ(opened.ppd, nullptr);
+    EXPECT_EQ(opened.error, u"The PPD file %1 cannot be read."_s.arg(path));
+}
+
+TEST(PPDFile, AGoodPPDIsOpenedWithItsDefaultsMarked)
+{
+    const QTemporaryDir folder;
+    const QString path = folder.filePath(u"the.ppd"_s);
+    writeFile(path, kSmallPPD);
+    const OpenedPPD opened = openPPD(path);
+    ASSERT_NE(opened.ppd, nullptr) << opened.error.toStdString();
+    EXPECT_TRUE(opened.error.isNull());
+    EXPECT_EQ(markedChoice(opened.ppd.get(), u"PageSize"_s), u"A4"_s);
+    EXPECT_EQ(markedChoice(opened.ppd.get(), u"Finish"_s), u"Matt"_s);
+}
+
+TEST(PPDFile, AMissingLineBreakAtTheEndIsNoCut)
+{
+    const QTemporaryDir folder;
+    const QString path = folder.filePath(u"the.ppd"_s);
+    writeFile(path, QByteArray(kSmallPPD).trimmed());
+    EXPECT_NE(openPPD(path).ppd, nullptr);
+}

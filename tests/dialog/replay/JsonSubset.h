@@ -1,0 +1,9 @@
+#pragma once
+
+#include <QtCore/QJsonValue>
+#include <QtCore/QStringList>
+
+/// Where the actual value lacks something of the expected one, a line each. Objects may have more
+/// members than expected; everything else must be equal, lists item by item.
+QStringList missingParts(const QJsonValue &expected, const QJsonValue &actual,
+                         const QString &path = QString());

@@ -1,0 +1,158 @@
+#include "platform/foundation/UserDefaults.h"
+
+#include "tests/support/CaseName.h"
+#include "tests/support/QStringPrinting.h"
+
+#include <gtest/gtest.h>
+
+#include <QtCore/QDir>
+#include <QtCore/QFile>
+#include <QtCore/QTemporaryDir>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr auto kDomain = "com.velkaro.test"_L1;
+
+class UserDefaultsTest : public testing::Test
+{
+protected:
+    UserDefaultsTest() { defaults.setFolder(folder.path()); }
+    ~UserDefaultsTest() override { defaults.setFolder(QString()); }
+
+    QVariantMap read(const QString &domain = kDomain) const
+    {
+        return defaults.persistentDomainForName(domain);
+    }
+
+    QByteArray fileText() const
+    {
+        QFile file(folder.filePath(kDomain + ".ini"_L1));
+        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    }
+
+    QTemporaryDir folder;
+    UserDefaults &defaults = UserDefaults::standardUserDefaults();
+};
+
+TEST_F(UserDefaultsTest, HasAnEmptyDomainBeforeTheFirstWrite)
+{
+    EXPECT_TRUE(read().isEmpty());
+    EXPECT_TRUE(QDir(folder.path()).isEmpty());
+}
+
+TEST_F(UserDefaultsTest, IsOnTheDiskWhenSynchronizeReturns)
+{
+    defaults.setPersistentDomain({{u"Best Alert"_s, false}}, kDomain);
+    EXPECT_TRUE(defaults.synchronize());
+    EXPECT_EQ(fileText(), "[General]\nBest%20Alert=false\n");
+}
+
+struct ValueCase
+{
+    const char *behaviour;
+    QString key;
+    bool value;
+};
+
+class StoredBoolean : public UserDefaultsTest, public testing::WithParamInterface<ValueCase>
+{};
+
+const ValueCase kValueCases[] = {
+    {"False", u"Best Alert"_s, false},
+    {"True", u"Best Alert"_s, true},
+    {"KeyWithASlash", u"a/b"_s, true},
+    {"KeyInJapanese", u"印刷"_s, true},
+    {"KeyWithSignsOfTheFormat", u"[x]=%;\\"_s, true},
+};
+
+TEST_P(StoredBoolean, ComesBackFromAnotherRunsFile)
+{
+    defaults.setPersistentDomain({{GetParam().key, GetParam().value}}, kDomain);
+    ASSERT_TRUE(defaults.synchronize());
+    // Another folder with a copy of the file: nothing of it can come from memory.
+    const QTemporaryDir elsewhere;
+    ASSERT_TRUE(
+        QFile::copy(folder.filePath(kDomain + ".ini"_L1), elsewhere.filePath(kDomain + ".ini"_L1)));
+    defaults.setFolder(elsewhere.path());
+    ASSERT_EQ(read().keys(), QStringList{GetParam().key});
+    EXPECT_EQ(read().value(GetParam().key).toBool(), GetParam().value);
+}
+
+INSTANTIATE_TEST_SUITE_P(Cases, StoredBoolean, testing::ValuesIn(kValueCases), CaseName());
+
+TEST_F(UserDefaultsTest, ReplacesADomainAsAWhole)
+{
+    defaults.setPersistentDomain({{u"Best Alert"_s, false}, {u"Other"_s, true}}, kDomain);
+    defaults.setPersistentDomain({{u"Other"_s, false}}, kDomain);
+    EXPECT_EQ(read().keys(), QStringList{u"Other"_s});
+    EXPECT_FALSE(read().value(u"Other"_s).toBool());
+}
+
+TEST_F(UserDefaultsTest, KeepsDomainsApart)
+{
+    defaults.setPersistentDomain({{u"Best Alert"_s, false}}, kDomain);
+    EXPECT_TRUE(read(u"com.velkaro.other"_s).isEmpty());
+}
+
+TEST_F(UserDefaultsTest, MakesTheFolder)
+{
+    defaults.setFolder(folder.filePath(u"a/b"_s));
+    defaults.setPersistentDomain({{u"Best Alert"_s, false}}, kDomain);
+    EXPECT_TRUE(defaults.synchronize());
+    EXPECT_TRUE(QFile::exists(folder.filePath(u"a/b/com.velkaro.test.ini"_s)));
+}
+
+TEST_F(UserDefaultsTest, SaysOnceThatItCannotWrite)
+{
+    // A file where the folder should be: not even an administrator can write below it.
+    QFile file(folder.filePath(u"file"_s));
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    defaults.setFolder(file.fileName() + u"/below"_s);
+    defaults.setPersistentDomain({{u"Best Alert"_s, false}}, kDomain);
+    EXPECT_FALSE(defaults.synchronize());
+    EXPECT_TRUE(defaults.synchronize());
+}
+
+TEST_F(UserDefaultsTest, RemembersAFailureUntilItIsAskedFor)
+{
+    QFile file(folder.filePath(u"file"_s));
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    defaults.setFolder(file.fileName() + u"/below"_s);
+    defaults.setPersistentDomain({{u"Best Alert"_s, false}}, kDomain);
+    defaults.setFolder(folder.path());
+    defaults.setPersistentDomain({{u"Best Alert"_s, false}}, kDomain);
+    EXPECT_FALSE(defaults.synchronize());
+}
+
+TEST_F(UserDefaultsTest, TakesADamagedFileForAnEmptyDomainAndReplacesIt)
+{
+    QFile file(folder.filePath(kDomain + ".ini"_L1));
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    file.write("\x00\xff garbage without any sense\n[", 31);
+    file.close();
+    EXPECT_FALSE(read().value(u"Best Alert"_s).isValid());
+    defaults.setPersistentDomain({{u"Best Alert"_s, false}}, kDomain);
+    EXPECT_TRUE(defaults.synchronize());
+    EXPECT_EQ(fileText(), "[General]\nBest%20Alert=false\n");
+}
+
+TEST_F(UserDefaultsTest, KeepsEverythingInMemoryWithoutAFolder)
+{
+    defaults.setFolder(QString());
+    defaults.setPersistentDomain({{u"Best Alert"_s, false}}, kDomain);
+    EXPECT_TRUE(defaults.synchronize());
+    EXPECT_EQ(read(), (QVariantMap{{u"Best Alert"_s, false}}));
+    EXPECT_TRUE(QDir(folder.path()).isEmpty());
+}
+
+TEST_F(UserDefaultsTest, ForgetsWhatWasInMemoryWhenTheFolderIsSetAgain)
+{
+    defaults.setFolder(QString());
+    defaults.setPersistentDomain({{u"Best Alert"_s, false}}, kDomain);
+    defaults.setFolder(QString());
+    EXPECT_TRUE(read().isEmpty());
+}
+
+} // namespace

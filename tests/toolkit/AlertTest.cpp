@@ -1,0 +1,259 @@
+#include "platform/toolkit/Alert.h"
+
+#include "platform/toolkit/KeyWindow.h"
+#include "tests/support/AlertAnswers.h"
+#include "tests/support/CaseName.h"
+#include "tests/support/QStringPrinting.h"
+
+#include <gtest/gtest.h>
+
+#include <QtTest/QTest>
+#include <QtWidgets/QAbstractButton>
+#include <QtWidgets/QApplication>
+#include <QtWidgets/QCheckBox>
+#include <QtWidgets/QLabel>
+#include <QtWidgets/QMessageBox>
+
+#include <memory>
+#include <optional>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+AlertContent question()
+{
+    AlertContent content;
+    content.text = u"Is the disc in the tray?"_s;
+    content.informative = u"Insert it now."_s;
+    content.buttons = {u"OK"_s, u"Cancel"_s};
+    content.suppression = true;
+    content.suppressionTitle = u"Do not ask again"_s;
+    return content;
+}
+
+AlertAnswers::Answer key(Qt::Key pressed)
+{
+    return [pressed](const ShownAlert &alert) { QTest::keyClick(alert.window, pressed); };
+}
+
+struct AnswerCase
+{
+    const char *behaviour;
+    AlertAnswers::Answer answer;
+    int button;
+    bool suppressed;
+};
+
+const AnswerCase kAnswerCases[] = {
+    {"FirstButton", AlertAnswers::button(0), 0, false},
+    {"SecondButton", AlertAnswers::button(1), 1, false},
+    {"FirstButtonAndBox", AlertAnswers::suppressing(0), 0, true},
+    {"SecondButtonAndBox", AlertAnswers::suppressing(1), 1, true},
+    {"ReturnIsTheFirst", key(Qt::Key_Return), 0, false},
+    {"EscapeIsTheLast", key(Qt::Key_Escape), 1, false},
+    {"ClosingIsTheLast", AlertAnswers::closing(), 1, false},
+};
+
+class Answered : public testing::TestWithParam<AnswerCase>
+{};
+
+TEST_P(Answered, ModalAlert)
+{
+    const AlertAnswers answers({GetParam().answer});
+    const AlertResult result = runAlert(question());
+    EXPECT_EQ(result.button, GetParam().button);
+    EXPECT_EQ(result.suppressed, GetParam().suppressed);
+    ASSERT_EQ(answers.shown.size(), 1U);
+    EXPECT_TRUE(answers.shown[0].window.isNull()) << "the alert has gone";
+}
+
+TEST_P(Answered, Sheet)
+{
+    QObject context;
+    std::optional<AlertResult> result;
+    const AlertAnswers answers({[](const ShownAlert &) {}});
+    beginAlertSheet(question(), &context, [&](const AlertResult &given) { result = given; });
+    ASSERT_EQ(answers.shown.size(), 1U);
+    EXPECT_FALSE(result.has_value()) << "the answer arrives later";
+    GetParam().answer(answers.shown[0]);
+    ASSERT_TRUE(result.has_value());
+    EXPECT_EQ(result->button, GetParam().button);
+    EXPECT_EQ(result->suppressed, GetParam().suppressed);
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    EXPECT_TRUE(answers.shown[0].window.isNull());
+}
+
+INSTANTIATE_TEST_SUITE_P(Cases, Answered, testing::ValuesIn(kAnswerCases), CaseName());
+
+TEST(AlertTest, BlocksTheApplicationWhileItIsModal)
+{
+    bool modal = false;
+    const AlertAnswers answers({[&](const ShownAlert &alert) {
+        modal = QApplication::activeModalWidget() == alert.window;
+        alert.press(0);
+    }});
+    runAlert(question());
+    EXPECT_TRUE(modal);
+}
+
+TEST(AlertTest, BlocksTheKeyWindowAloneAsASheet)
+{
+    QWidget window;
+    window.show();
+    setKeyWindow(&window);
+    QObject context;
+    const AlertAnswers answers({[](const ShownAlert &) {}});
+    beginAlertSheet(question(), &context, [](const AlertResult &) {});
+    EXPECT_EQ(answers.shown[0].window->windowModality(), Qt::WindowModal);
+    EXPECT_EQ(answers.shown[0].window->parentWidget(), &window);
+    answers.shown[0].press(0);
+    setKeyWindow(nullptr);
+}
+
+struct StyleCase
+{
+    const char *behaviour;
+    AlertStyle style;
+    QMessageBox::Icon icon;
+};
+
+class Style : public testing::TestWithParam<StyleCase>
+{};
+
+const StyleCase kStyleCases[] = {
+    {"None", AlertStyle::None, QMessageBox::NoIcon},
+    {"Informational", AlertStyle::Informational, QMessageBox::Information},
+    {"Warning", AlertStyle::Warning, QMessageBox::Warning},
+    {"Critical", AlertStyle::Critical, QMessageBox::Critical},
+};
+
+TEST_P(Style, HasItsIcon)
+{
+    QMessageBox::Icon icon = QMessageBox::Question;
+    const AlertAnswers answers({[&](const ShownAlert &alert) {
+        icon = qobject_cast<QMessageBox *>(alert.window.data())->icon();
+        alert.press(0);
+    }});
+    AlertContent content = question();
+    content.style = GetParam().style;
+    runAlert(content);
+    EXPECT_EQ(icon, GetParam().icon);
+}
+
+INSTANTIATE_TEST_SUITE_P(Cases, Style, testing::ValuesIn(kStyleCases), CaseName());
+
+TEST(AlertTest, ShowsMarkupAndAmpersandsAsTheyAre)
+{
+    AlertContent content;
+    content.text = u"<b>Bold</b> <img src=\"file:///etc/passwd\">"_s;
+    content.informative = u"<a href=\"http://localhost/\">Click</a> & more"_s;
+    content.buttons = {u"Black & White"_s, u"<i>Cancel</i>"_s};
+    content.suppression = true;
+    content.suppressionTitle = u"This & that"_s;
+    QStringList texts;
+    QStringList buttons;
+    QList<Qt::TextFormat> formats;
+    QString box;
+    const AlertAnswers answers({[&](const ShownAlert &alert) {
+        for (const QLabel *label : alert.window->findChildren<QLabel *>()) {
+            if (!label->text().isEmpty()) {
+                texts << label->text();
+                formats << label->textFormat();
+            }
+        }
+        for (const auto &button : alert.buttons)
+            buttons << button->text();
+        box = alert.suppressionBox->text();
+        alert.press(0);
+    }});
+    runAlert(content);
+    EXPECT_TRUE(texts.contains(content.text));
+    EXPECT_TRUE(texts.contains(content.informative));
+    EXPECT_EQ(formats, QList<Qt::TextFormat>(formats.size(), Qt::PlainText));
+    EXPECT_EQ(buttons, (QStringList{u"Black && White"_s, u"<i>Cancel</i>"_s}));
+    EXPECT_EQ(box, u"This && that"_s);
+}
+
+TEST(AlertTest, TellsTheObserverWhatItSays)
+{
+    const AlertAnswers answers;
+    runAlert(question());
+    const ShownAlert &shown = answers.shown.at(0);
+    EXPECT_EQ(shown.kind, ShownAlert::Kind::Modal);
+    EXPECT_EQ(shown.content.text, question().text);
+    EXPECT_EQ(shown.content.informative, question().informative);
+    EXPECT_EQ(shown.content.buttons, question().buttons);
+    EXPECT_EQ(shown.buttons.size(), 2);
+}
+
+TEST(AlertTest, HasNoBoxUnlessItIsAskedFor)
+{
+    const AlertAnswers answers({AlertAnswers::suppressing(0)});
+    AlertContent content = question();
+    content.suppression = false;
+    EXPECT_FALSE(runAlert(content).suppressed);
+    EXPECT_TRUE(answers.shown[0].suppressionBox.isNull());
+}
+
+TEST(AlertTest, TellsTwoButtonsOfOneTitleApart)
+{
+    const AlertAnswers answers({AlertAnswers::button(1)});
+    AlertContent content = question();
+    content.buttons = {u"OK"_s, u"OK"_s};
+    EXPECT_EQ(runAlert(content).button, 1);
+}
+
+TEST(AlertTest, AnswersItsOnlyButtonHoweverItIsDismissed)
+{
+    AlertContent content = question();
+    content.buttons = {u"OK"_s};
+    const AlertAnswers answers({key(Qt::Key_Escape), AlertAnswers::closing()});
+    EXPECT_EQ(runAlert(content).button, 0);
+    EXPECT_EQ(runAlert(content).button, 0);
+}
+
+TEST(AlertTest, IgnoresAPressOfAButtonThatIsNotThere)
+{
+    const AlertAnswers answers({[](const ShownAlert &alert) {
+        alert.press(7);
+        alert.press(-1);
+        alert.press(1);
+        alert.press(0);
+    }});
+    EXPECT_EQ(runAlert(question()).button, 1);
+}
+
+TEST(AlertTest, IsDismissedWhenTheKeyWindowIsDestroyedMeanwhile)
+{
+    auto window = std::make_unique<QWidget>();
+    window->show();
+    setKeyWindow(window.get());
+    const AlertAnswers answers({[&](const ShownAlert &) { window.reset(); }});
+    EXPECT_EQ(runAlert(question()).button, 1);
+}
+
+TEST(AlertTest, DoesNotCallBackWhoHasGoneMeanwhile)
+{
+    auto context = std::make_unique<QObject>();
+    bool called = false;
+    const AlertAnswers answers({[](const ShownAlert &) {}});
+    beginAlertSheet(question(), context.get(), [&](const AlertResult &) { called = true; });
+    context.reset();
+    answers.shown[0].press(0);
+    EXPECT_FALSE(called);
+    EXPECT_FALSE(answers.shown[0].window->isVisible());
+}
+
+TEST(AlertTest, CanRaiseAnotherFromItsAnswer)
+{
+    AlertAnswers answers({[](const ShownAlert &outer) {
+                              EXPECT_EQ(runAlert(question()).button, 1);
+                              outer.press(0);
+                          },
+                          AlertAnswers::button(1)});
+    EXPECT_EQ(runAlert(question()).button, 0);
+    EXPECT_EQ(answers.shown.size(), 2U);
+}
+
+} // namespace

@@ -1,0 +1,151 @@
+#include "platform/toolkit/ControlColor.h"
+#include "platform/toolkit/DisclosureButton.h"
+#include "platform/toolkit/KeyWindow.h"
+#include "platform/toolkit/SizeWatch.h"
+
+#include <gtest/gtest.h>
+
+#include <QtGui/QPalette>
+#include <QtTest/QSignalSpy>
+#include <QtTest/QTest>
+#include <QtWidgets/QLabel>
+
+#include <memory>
+
+namespace {
+
+TEST(ControlColorTest, IsOrdinaryUntilItIsDimmed)
+{
+    QLabel label;
+    EXPECT_EQ(textColor(&label), ControlColor::ControlText);
+    setTextColor(&label, disabledControlTextColor());
+    EXPECT_EQ(textColor(&label), ControlColor::DisabledControlText);
+    setTextColor(&label, controlTextColor());
+    EXPECT_EQ(textColor(&label), ControlColor::ControlText);
+}
+
+TEST(ControlColorTest, FollowsTheChangeFromLightToDark)
+{
+    QLabel label;
+    setTextColor(&label, disabledControlTextColor());
+    QPalette dark;
+    dark.setColor(QPalette::PlaceholderText, QColor(140, 140, 140));
+    label.setPalette(dark);
+    EXPECT_EQ(label.palette().color(label.foregroundRole()), QColor(140, 140, 140));
+    EXPECT_EQ(textColor(&label), ControlColor::DisabledControlText);
+}
+
+TEST(DisclosureButtonTest, TurnsItsArrowWithItsStateHoweverItCameToBe)
+{
+    DisclosureButton button;
+    EXPECT_TRUE(button.isCheckable());
+    EXPECT_EQ(button.arrowType(), Qt::RightArrow);
+    button.setChecked(true);
+    EXPECT_EQ(button.arrowType(), Qt::DownArrow);
+    button.click();
+    EXPECT_EQ(button.arrowType(), Qt::RightArrow);
+}
+
+TEST(DisclosureButtonTest, PointsAtTheTextAlsoWhereItIsWrittenFromTheRight)
+{
+    DisclosureButton button;
+    button.setLayoutDirection(Qt::RightToLeft);
+    EXPECT_EQ(button.arrowType(), Qt::LeftArrow);
+    button.setChecked(true);
+    EXPECT_EQ(button.arrowType(), Qt::DownArrow);
+}
+
+TEST(DisclosureButtonTest, WorksWithTheSpaceBar)
+{
+    DisclosureButton button;
+    button.show();
+    button.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&button));
+    button.setFocus(Qt::TabFocusReason);
+    QTest::keyClick(&button, Qt::Key_Space);
+    EXPECT_TRUE(button.isChecked());
+}
+
+TEST(DisclosureButtonTest, LooksFoldedAndUnfolded)
+{
+    DisclosureButton button;
+    button.resize(22, 22);
+    const QImage folded = button.grab().toImage();
+    button.setChecked(true);
+    EXPECT_NE(button.grab().toImage(), folded);
+}
+
+TEST(KeyWindowTest, IsNoneUntilTheDialogSaysSo)
+{
+    EXPECT_EQ(keyWindow(), nullptr);
+    EXPECT_FALSE(keyWindowHeight().has_value());
+}
+
+TEST(KeyWindowTest, HasTheHeightOfItsFrame)
+{
+    QWidget window;
+    window.resize(300, 420);
+    setKeyWindow(&window);
+    EXPECT_EQ(keyWindow(), &window);
+    EXPECT_EQ(keyWindowHeight(), 420.0);
+    setKeyWindow(nullptr);
+    EXPECT_EQ(keyWindow(), nullptr);
+}
+
+TEST(KeyWindowTest, IsNoneOnceItIsDestroyed)
+{
+    auto window = std::make_unique<QWidget>();
+    setKeyWindow(window.get());
+    window.reset();
+    EXPECT_EQ(keyWindow(), nullptr);
+    EXPECT_FALSE(keyWindowHeight().has_value());
+}
+
+TEST(SizeWatchTest, TellsWhenTheWindowComesOnScreenAndWhenItIsResized)
+{
+    QWidget window;
+    window.resize(300, 300);
+    auto *view = new QWidget(&window);
+    auto *watch = new SizeWatch(view);
+    QSignalSpy fired(watch, &SizeWatch::fired);
+    window.show();
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(&window));
+    EXPECT_GE(fired.size(), 1);
+    fired.clear();
+    window.resize(300, 400);
+    EXPECT_EQ(fired.size(), 1);
+}
+
+TEST(SizeWatchTest, TellsNothingWhileItIsHidden)
+{
+    QWidget window;
+    window.resize(300, 300);
+    auto *view = new QWidget(&window);
+    auto *watch = new SizeWatch(view);
+    window.show();
+    view->hide();
+    QSignalSpy fired(watch, &SizeWatch::fired);
+    window.resize(300, 400);
+    EXPECT_TRUE(fired.isEmpty());
+}
+
+TEST(SizeWatchTest, FollowsItsViewIntoAnotherWindow)
+{
+    QWidget first;
+    QWidget second;
+    auto *view = new QWidget(&first);
+    auto *watch = new SizeWatch(view);
+    first.resize(300, 300);
+    second.resize(300, 300);
+    first.show();
+    second.show();
+    view->setParent(&second);
+    view->show();
+    QSignalSpy fired(watch, &SizeWatch::fired);
+    first.resize(300, 400);
+    EXPECT_TRUE(fired.isEmpty());
+    second.resize(300, 400);
+    EXPECT_EQ(fired.size(), 1);
+}
+
+} // namespace
