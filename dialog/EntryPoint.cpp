@@ -1,6 +1,7 @@
 #include "dialog/commandline/CommandLine.h"
 #include "dialog/commandline/ExitStatus.h"
 #include "dialog/replay/ReplayCommand.h"
+#include "dialog/window/DialogCommand.h"
 
 #include <QtCore/QFile>
 
@@ -33,5 +34,5 @@ extern "C" Q_DECL_EXPORT int velkaroPrintMain(int argc, char **argv)
     const CommandLine &line = parsed.commandLine;
     if (!line.replay.isNull())
         return runReplayCommand(argc, argv, line.replay, line.plugIn);
-    return refuse(QStringLiteral("This build has no dialog: only --replay works."));
+    return runDialogCommand(argc, argv, line);
 }
