@@ -2,6 +2,7 @@
 #include "dialog/commandline/ExitStatus.h"
 #include "dialog/commandline/HelpText.h"
 #include "dialog/replay/ReplayCommand.h"
+#include "dialog/window/DialogCommand.h"
 
 #include <QtCore/QFile>
 
@@ -44,5 +45,5 @@ extern "C" Q_DECL_EXPORT int velkaroPrintMain(int argc, char **argv)
         return print(versionText());
     if (!line.replay.isNull())
         return runReplayCommand(argc, argv, line.replay, line.plugIn);
-    return refuse(QStringLiteral("This build has no dialog: only --replay works."));
+    return runDialogCommand(argc, argv, line);
 }

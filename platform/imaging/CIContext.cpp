@@ -1,8 +1,9 @@
 #include "platform/imaging/CIContext.h"
 
 #include "platform/imaging/CIImage.h"
+#include "platform/imaging/ChannelTables.h"
+#include "platform/imaging/LuminanceTable.h"
 #include "platform/imaging/PixelEvaluation.h"
-#include "platform/imaging/PixelTables.h"
 
 struct CIContext::Tables
 {

@@ -1,5 +1,6 @@
-#include "platform/imaging/PixelTables.h"
+#include "platform/imaging/ChannelTables.h"
 
+#include "platform/imaging/PixelPair.h"
 #include "platform/imaging/SrgbCurve.h"
 
 #include <cstring>

@@ -63,8 +63,11 @@ private:
         return static_cast<quint8>(value + unsigned(linear >= m_step[value]));
     }
 
-    std::array<quint8, (highest - lowest) * binsPerUnit> m_atBin; ///< value at the lower edge
-    std::array<double, 256> m_step; ///< where the value after the index begins; none after 255
+    /// The value at each bin's lower edge; one bin more for a value that was rounded up to the
+    /// upper end.
+    std::array<quint8, (highest - lowest) * binsPerUnit + 1> m_atBin;
+    /// Where the value after the index begins; nowhere after 255.
+    std::array<double, 256> m_step;
 };
 
 } // namespace imaging

@@ -46,6 +46,17 @@ void ColorPictures::write(const QString &name, QRgb color, const QSize &size) co
     EXPECT_TRUE(picture.save(path(name), "TIFF"));
 }
 
+void ColorPictures::editView(const QByteArray &text, const QByteArray &replacement) const
+{
+    QFile file(m_folder.filePath(u"Resources/VKInkColorSetting.ui"_s));
+    EXPECT_TRUE(file.open(QIODevice::ReadOnly));
+    QByteArray view = file.readAll();
+    EXPECT_TRUE(view.contains(text));
+    file.close();
+    EXPECT_TRUE(file.open(QIODevice::WriteOnly));
+    file.write(view.replace(text, replacement));
+}
+
 QRgb shownColor(const ImageView &view)
 {
     const QImage &image = view.image();

@@ -28,6 +28,9 @@ public:
 
     void write(const QString &name, QRgb color, const QSize &size = QSize(4, 3)) const;
 
+    /// Replaces a text throughout the panel's view resource.
+    void editView(const QByteArray &text, const QByteArray &replacement) const;
+
 private:
     QTemporaryDir m_folder;
     std::shared_ptr<Bundle> m_bundle;

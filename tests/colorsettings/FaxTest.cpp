@@ -40,6 +40,16 @@ TEST_F(FaxTest, DimsLabelsAndFields)
         EXPECT_FALSE(dialog.part<QWidget>(name).isEnabled()) << name;
 }
 
+TEST_F(FaxTest, DimsLabelsAndFieldsOfAViewThatBindsNoColours)
+{
+    pictures.editView("bind.textColor", "unbound");
+    show();
+    sendToFax();
+    for (const char *name : {"optionLabel", "colorMatchingLabel", "ditherLabel", "brightnessField",
+                             "contrastField", "redField", "greenField", "blueField"})
+        EXPECT_EQ(textColor(&dialog.part<QWidget>(name)), disabledControlTextColor()) << name;
+}
+
 TEST_F(FaxTest, LeavesTheStatesOfTheColourControlsAsTheyWere)
 {
     show();

@@ -1,6 +1,7 @@
 #include "platform/foundation/NotificationCenter.h"
 #include "platform/toolkit/KeyWindow.h"
 #include "tests/colorsettings/ColorPanelFixture.h"
+#include "tests/colorsettings/ColorPictures.h"
 
 #include <QtTest/QTest>
 #include <QtWidgets/QAbstractButton>
@@ -20,6 +21,15 @@ TEST_F(FoldingTest, ThePanelOpensFolded)
     EXPECT_EQ(panel.inspectedView()->size(), QSize(560, 110));
     EXPECT_FALSE(dialog.part<QAbstractButton>("optionButton").isChecked());
     EXPECT_TRUE(dialog.part<QWidget>("advancedSection").isHidden());
+}
+
+TEST_F(FoldingTest, ThePanelOpensFoldedWhateverTheHeightOfItsView)
+{
+    const ColorPictures pictures;
+    pictures.editView("<height>110</height>", "<height>250</height>");
+    Bundle::setMainBundle(pictures.bundle());
+    ColorDialog dialog;
+    EXPECT_EQ(dialog.show().inspectedView()->height(), 110);
 }
 
 TEST_F(FoldingTest, OnAndThenOffReturnsToTheFormerHeight)

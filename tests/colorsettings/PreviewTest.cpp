@@ -63,6 +63,22 @@ TEST_F(PreviewTest, AnUnreadablePictureShowsAnEmptyImageUntilTheNextReadableOne)
     EXPECT_EQ(shown(), QColor(100, 150, 200));
 }
 
+TEST_F(PreviewTest, ThePictureIsDecodedOnceWhileItStaysTheSame)
+{
+    show(false);
+    const auto image = dialog.panel->refImage();
+    dialog.panel->updateUI();
+    EXPECT_EQ(dialog.panel->refImage(), image);
+}
+
+TEST_F(PreviewTest, AnImageOfSomebodyElsesGivesWayToTheNamedOne)
+{
+    show(false);
+    dialog.panel->setRefImage(nullptr);
+    dialog.panel->updateUI();
+    EXPECT_EQ(shown(), QColor(100, 150, 200));
+}
+
 TEST_F(PreviewTest, WithoutAPendingMatchingNothingIsDrawn)
 {
     show(false);

@@ -49,7 +49,7 @@ TEST_F(RevertTest, ForgetsTheLastChangeAndDrawsTheReferencePicture)
     EXPECT_EQ(shown(), QColor(100, 150, 200));
 }
 
-TEST_F(RevertTest, PutsTheFiltersBackToTheirDefaults)
+TEST_F(RevertTest, LeavesNoGainBehindInTheFilters)
 {
     show();
     slide("redSlider", 20);

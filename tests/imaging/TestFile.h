@@ -1,0 +1,41 @@
+#pragma once
+
+#include <QFile>
+#include <QImage>
+#include <QImageWriter>
+#include <QTemporaryDir>
+
+#include <gtest/gtest.h>
+
+/// A file in a folder of its own, gone with the object.
+class TestFile
+{
+public:
+    explicit TestFile(const QByteArray &contents) { replace(contents); }
+
+    void replace(const QByteArray &contents)
+    {
+        QFile file(path());
+        EXPECT_TRUE(file.open(QIODevice::WriteOnly));
+        EXPECT_EQ(file.write(contents), contents.size());
+    }
+
+    TestFile(const QImage &picture, const QByteArray &format, int compression = 0)
+    {
+        QImageWriter writer(path(), format);
+        writer.setCompression(compression);
+        EXPECT_TRUE(writer.write(picture)) << qPrintable(writer.errorString());
+    }
+
+    QString path() const { return m_folder.filePath(QStringLiteral("picture")); }
+
+    QByteArray contents() const
+    {
+        QFile file(path());
+        EXPECT_TRUE(file.open(QIODevice::ReadOnly));
+        return file.readAll();
+    }
+
+private:
+    QTemporaryDir m_folder;
+};

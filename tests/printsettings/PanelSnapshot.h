@@ -1,0 +1,58 @@
+#pragma once
+
+#include "tests/printsettings/PrintPanel.h"
+
+#include <vector>
+
+/// The controls of the panel's keywords, found once.
+struct PanelControls
+{
+    explicit PanelControls(const TestedPanel &panel);
+
+    std::vector<PopUpButton *> popups;
+    std::vector<QAbstractButton *> boxes;
+};
+
+/// The whole state of a shown panel and of its PPD's marks: what a test can compare and bring back,
+/// so that thousands of picks can start from the same state without a new panel each time.
+class PanelSnapshot
+{
+public:
+    PanelSnapshot(const TestedPanel &panel, PanelSession &session, const PanelControls &controls);
+
+    /// Puts everything back as it was.
+    void restore(TestedPanel &panel, PanelSession &session, const PanelControls &controls) const;
+
+    /// What is different in `later`, as "WHAT: HOW IT IS THEN"; empty when nothing is.
+    QStringList differences(const PanelSnapshot &later) const;
+
+    const QVariantMap &pending() const { return pending_; }
+    const QVariantMap &marks() const { return marks_; }
+
+private:
+    struct PopUp
+    {
+        QString name;
+        std::vector<PopUpButton::Item> items;
+        std::vector<bool> itemsEnabled;
+        QString words;
+        int selected;
+        bool enabled;
+    };
+    struct Box
+    {
+        QString name;
+        QString words;
+        bool checked;
+        bool enabled;
+    };
+
+    static PopUp stateOfPopUp(const PopUpButton &popup);
+    static void restorePopUp(const PopUp &saved, PopUpButton &popup);
+
+    std::int32_t flags_;
+    QVariantMap pending_;
+    QVariantMap marks_;
+    std::vector<PopUp> popups_;
+    std::vector<Box> boxes_;
+};
