@@ -40,7 +40,7 @@ CustomSizeFields::CustomSizeFields(QWidget *parent)
     m_unit->setAccessibleName(tr("Unit"));
     auto *widthLabel = new QLabel(tr("&Width:"), this);
     widthLabel->setBuddy(m_width);
-    auto *heightLabel = new QLabel(tr("Hei&ght:"), this);
+    auto *heightLabel = new QLabel(tr("Heigh&t:"), this);
     heightLabel->setBuddy(m_height);
     auto *grid = new QGridLayout(this);
     grid->setContentsMargins(0, 0, 0, 0);
