@@ -44,5 +44,5 @@ struct ParsedCommandLine
 
 /// Reads the arguments, the program's name not among them. An option's value may be its own
 /// argument or follow it ("-dqueue", "--ppd=file"); "--" ends the options. --help and --version
-/// win over every fault. QtCore only: the launcher uses it before anything else is loaded.
+/// win over every fault.
 ParsedCommandLine parseCommandLine(const QStringList &arguments);
