@@ -1,6 +1,8 @@
 #include "dialog/commandline/CommandLine.h"
 #include "dialog/commandline/ExitStatus.h"
+#include "dialog/commandline/HelpText.h"
 #include "dialog/replay/ReplayCommand.h"
+#include "dialog/window/DialogCommand.h"
 
 #include <QtCore/QFile>
 
@@ -22,16 +24,26 @@ int refuse(const QString &sentence)
     return exitCode(ExitStatus::Usage);
 }
 
+int print(const char *text)
+{
+    std::fputs(text, stdout);
+    return exitCode(std::fflush(stdout) == 0 ? ExitStatus::Done : ExitStatus::Output);
+}
+
 } // namespace
 
-/// What the launcher calls: the whole program but --help and --version.
+/// What the launcher calls: the whole program.
 extern "C" Q_DECL_EXPORT int velkaroPrintMain(int argc, char **argv)
 {
     const ParsedCommandLine parsed = parseCommandLine(argumentsOf(argc, argv));
     if (!parsed.error.isNull())
         return refuse(parsed.error);
     const CommandLine &line = parsed.commandLine;
+    if (line.help)
+        return print(helpText());
+    if (line.version)
+        return print(versionText());
     if (!line.replay.isNull())
         return runReplayCommand(argc, argv, line.replay, line.plugIn);
-    return refuse(QStringLiteral("This build has no dialog: only --replay works."));
+    return runDialogCommand(argc, argv, line);
 }

@@ -187,6 +187,10 @@ public:
     const ObservableDictionary *inspectedEffectContent() const override { return effectContent; }
     QWidget *inspectedView() const override { return panelView_; }
     QHash<QString, QWidget *> inspectedOutlets() const override;
+    QWidget *inspectedControl(const QString &keyword) const override
+    {
+        return determineUI(keyword);
+    }
 
 protected:
     /// Names the outlets and actions that the view resource connects. A panel class adds its own.

@@ -44,18 +44,6 @@ QString takeChoice(CommandLine &line, const QString &value)
     return {};
 }
 
-QString takePanel(CommandLine &line, const QString &value)
-{
-    const QStringList panels{QStringLiteral("print"), QStringLiteral("color"),
-                             QStringLiteral("summary")};
-    line.panel = value;
-    if (!panels.contains(value))
-        return sentence(QT_TRANSLATE_NOOP("CommandLine",
-                                          "--panel knows print, color and summary, not \"%1\"."))
-            .arg(value);
-    return {};
-}
-
 constexpr std::array kOptions{
     Option{"destination", 'd', nullptr, nullptr, takeQueue},
     Option{"server", 'h', &CommandLine::server},
@@ -66,7 +54,7 @@ constexpr std::array kOptions{
     Option{"no-dialog", '\0', nullptr, &CommandLine::noDialog},
     Option{"yes", '\0', nullptr, &CommandLine::yes},
     Option{"screenshot", '\0', &CommandLine::screenshot},
-    Option{"panel", '\0', nullptr, nullptr, takePanel},
+    Option{"panel", '\0', &CommandLine::panel},
     Option{"record", '\0', &CommandLine::record},
     Option{"replay", '\0', &CommandLine::replay},
     Option{"plug-in", '\0', &CommandLine::plugIn},

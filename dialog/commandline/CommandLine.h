@@ -25,7 +25,7 @@ struct CommandLine
     QString paper;                  ///< --paper: a PageSize choice, or Custom.WIDTHxHEIGHT
     QString output;
     QString screenshot;
-    QString panel; ///< --panel: "print", "color" or "summary"
+    QString panel; ///< --panel: the name of a panel, or "summary"
     QString record;
     QString replay; ///< "-": standard input
     QString plugIn;
@@ -44,5 +44,5 @@ struct ParsedCommandLine
 
 /// Reads the arguments, the program's name not among them. An option's value may be its own
 /// argument or follow it ("-dqueue", "--ppd=file"); "--" ends the options. --help and --version
-/// win over every fault. QtCore only: the launcher uses it before anything else is loaded.
+/// win over every fault.
 ParsedCommandLine parseCommandLine(const QStringList &arguments);

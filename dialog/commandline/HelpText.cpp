@@ -1,8 +1,8 @@
 #include "dialog/commandline/HelpText.h"
 
-QString helpText()
+const char *helpText()
 {
-    return QStringLiteral(R"(Usage: velkaro-print [options] [FILE...]
+    return R"(Usage: velkaro-print [options] [FILE...]
 Prints documents with the settings that you choose in a dialog.
 
 Printer
@@ -45,10 +45,10 @@ Exit status
   5  an output file cannot be written
   6  the server or the queue cannot be reached, or the job was refused
   7  the plug-in cannot be used
-)");
+)";
 }
 
-QString versionText()
+const char *versionText()
 {
-    return QStringLiteral("velkaro-print %1\n").arg(QStringLiteral(VELKARO_VERSION));
+    return "velkaro-print " VELKARO_VERSION "\n";
 }

@@ -1,9 +1,9 @@
 #pragma once
 
-#include <QtCore/QString>
+// Without Qt: the launcher prints these texts before it loads anything.
 
 /// What --help prints, with the line break at its end.
-QString helpText();
+const char *helpText();
 
 /// What --version prints, with the line break at its end.
-QString versionText();
+const char *versionText();

@@ -46,15 +46,17 @@ DestinationList listDestinations(const QString &server, CallGuard &guard)
     return list;
 }
 
-QueueName serverDefault(const QString &server, CallGuard &guard)
+DefaultQueue serverDefault(const QString &server, CallGuard &guard)
 {
     ServerConnection connection(server, guard);
     if (!connection.isConnected())
-        return {};
+        return {{}, connection.lastAnswer()};
     IppHandle request(ippNewRequest(IPP_OP_CUPS_GET_DEFAULT));
     ippAddString(request.get(), IPP_TAG_OPERATION, IPP_TAG_KEYWORD, "requested-attributes", nullptr,
                  "printer-name");
     const IppHandle response = connection.request(std::move(request), "/");
+    if (!response || !guard.mayWait())
+        return {{}, connection.lastAnswer()};
     ipp_attribute_t *name = ippFindAttribute(response.get(), "printer-name", IPP_TAG_NAME);
-    return {QString::fromUtf8(name ? ippGetString(name, 0, nullptr) : nullptr), {}};
+    return {{QString::fromUtf8(name ? ippGetString(name, 0, nullptr) : nullptr), {}}, {}};
 }

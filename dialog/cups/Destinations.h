@@ -28,5 +28,12 @@ struct DestinationList
 /// call it in a ServerCall.
 DestinationList listDestinations(const QString &server, CallGuard &guard);
 
-/// The queue that the server prints to by default; a null queue when it has none.
-QueueName serverDefault(const QString &server, CallGuard &guard);
+/// The queue that a server prints to by default; a null queue when it has none.
+struct DefaultQueue
+{
+    QueueName queue;
+    ServerAnswer answer;
+};
+
+/// Asks the server. Blocks: call it in a ServerCall.
+DefaultQueue serverDefault(const QString &server, CallGuard &guard);

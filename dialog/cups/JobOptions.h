@@ -15,6 +15,8 @@ struct HostSettings
 {
     int copies = 1;
     QString pageRanges; ///< as normalizedPageRanges() gives them; empty: all
+
+    bool operator==(const HostSettings &) const = default;
 };
 
 /// Everything that a job's options are made from.

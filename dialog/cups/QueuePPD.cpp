@@ -3,7 +3,6 @@
 #include "dialog/cups/ServerConnection.h"
 
 #include <QtCore/QCoreApplication>
-#include <QtCore/QTemporaryFile>
 
 #include <array>
 
@@ -12,7 +11,7 @@ namespace {
 // libcups' own way (cupsGetPPD3) takes the file of the system's server for any server on this
 // machine, and asks one request more.
 
-constexpr qint64 kLargestPPD = 16LL * 1024 * 1024; // as openPPD() has it
+constexpr qint64 kLargestPPD = 16LL * 1024 * 1024; // more than openPPD() takes
 constexpr int kMostAttempts = 3;                   // a second one after an upgrade to TLS
 
 enum class Download { Done, Absent, TooLarge, Failed };
@@ -89,17 +88,6 @@ QueuePPD withoutPPD(ServerFault fault, const char *text, const QString &queue)
     return {nullptr, {fault, sentence(text).arg(queue)}};
 }
 
-QueuePPD open(QTemporaryFile &file, const QString &queue)
-{
-    file.close();
-    OpenedPPD opened = openPPD(file.fileName());
-    if (opened.ppd)
-        return {std::move(opened.ppd), {}};
-    return withoutPPD(ServerFault::Refused,
-                      QT_TRANSLATE_NOOP("Server", "The PPD of the queue %1 cannot be used."),
-                      queue);
-}
-
 } // namespace
 
 QueuePPD fetchQueuePPD(const QString &server, const QString &queue, CallGuard &guard)
@@ -107,23 +95,24 @@ QueuePPD fetchQueuePPD(const QString &server, const QString &queue, CallGuard &g
     ServerConnection connection(server, guard);
     if (!connection.isConnected())
         return {nullptr, connection.lastAnswer(queue)};
-    QTemporaryFile file;
-    if (!file.open())
+    const auto file = std::make_shared<QTemporaryFile>();
+    if (!file->open())
         return withoutPPD(ServerFault::Refused,
                           QT_TRANSLATE_NOOP("Server", "There is no room in the temporary folder "
                                                       "for the PPD of the queue %1."),
                           queue);
-    Download done = download(connection, queueResource(queue) + ".ppd", file);
+    Download done = download(connection, queueResource(queue) + ".ppd", *file);
     if (done == Download::Absent) {
         const QueueLook look = lookAt(connection, queue);
         if (!look.answer.isGood())
             return {nullptr, look.answer};
         if (!look.firstMember.isNull())
-            done = download(connection, queueResource(look.firstMember) + ".ppd", file);
+            done = download(connection, queueResource(look.firstMember) + ".ppd", *file);
     }
     switch (done) {
     case Download::Done:
-        return open(file, queue);
+        file->close();
+        return {file, {}};
     case Download::Absent:
         return withoutPPD(ServerFault::None,
                           QT_TRANSLATE_NOOP("Server", "The queue %1 has no PPD."), queue);

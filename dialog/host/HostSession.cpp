@@ -23,7 +23,7 @@ HostSession::~HostSession()
 
 HostSession::Opened HostSession::open(const SessionOptions &options)
 {
-    OpenedPPD opened = openPPD(options.ppdPath);
+    OpenedPPD opened = openPPD(options.ppdPath, options.ppdTexts);
     if (!opened.ppd)
         return {nullptr, opened.error};
     std::unique_ptr<HostSession> session(new HostSession(options));
@@ -67,7 +67,7 @@ void HostSession::createPanels()
     m_reportedKeywords = QStringList{u"PageSize"_s, u"Duplex"_s};
     if (!m_plugIn.plugIn)
         return;
-    m_reportedKeywords += m_plugIn.bundle->infoValue(u"PMPPDKeysWatched"_s).toStringList();
+    m_reportedKeywords += watchedKeywords();
     for (auto &panel : m_plugIn.plugIn->PDEPanelsForType(m_options.dialogType, m_callback)) {
         auto *inspection = dynamic_cast<PDEPanelInspection *>(panel.get());
         const QString name = inspection ? inspection->inspectedName() : panel->panelKind();
@@ -100,6 +100,12 @@ QMap<QString, QString> HostSession::reportedMarks() const
             marks.insert(keyword, choice);
     }
     return marks;
+}
+
+QStringList HostSession::watchedKeywords() const
+{
+    return m_plugIn.bundle ? m_plugIn.bundle->infoValue(u"PMPPDKeysWatched"_s).toStringList()
+                           : QStringList();
 }
 
 QVariantMap HostSession::alertMemory() const

@@ -90,6 +90,9 @@ public:
     /// watched, and those of the panels; keyword to choice, without those where nothing is marked.
     QMap<QString, QString> reportedMarks() const;
 
+    /// The PPD keywords that no panel shows and the plug-in wants the dialog to offer.
+    QStringList watchedKeywords() const;
+
     /// What the user asked the plug-in's alerts to remember.
     QVariantMap alertMemory() const;
 

@@ -1,39 +1,30 @@
-// The program itself answers --help and --version at once; whatever needs the dialog is in a
-// library of its own, so that nobody waits for widgets who sees none.
-#include "dialog/commandline/CommandLine.h"
+// The program itself answers --help and --version at once; whatever needs more is in a library of
+// its own, so that nobody waits for widgets who sees none. It links no Qt: a library that is loaded
+// later is searched after those of the program, and the dialog would start more slowly for it.
 #include "dialog/commandline/ExitStatus.h"
 #include "dialog/commandline/HelpText.h"
 
-#include <QtCore/QFile>
-#include <QtCore/QFileInfo>
-
 #include <cstdio>
 #include <dlfcn.h>
+#include <filesystem>
+#include <string_view>
 
 namespace {
 
 using EntryPoint = int (*)(int, char **);
 
-QStringList argumentsOf(int argc, char **argv)
+int print(const char *text)
 {
-    QStringList arguments;
-    for (int index = 1; index < argc; ++index)
-        arguments << QFile::decodeName(argv[index]);
-    return arguments;
-}
-
-int print(const QString &text)
-{
-    std::fputs(text.toLocal8Bit().constData(), stdout);
+    std::fputs(text, stdout);
     return exitCode(std::fflush(stdout) == 0 ? ExitStatus::Done : ExitStatus::Output);
 }
 
 int runDialogLibrary(int argc, char **argv)
 {
-    const QString program = QFile::symLinkTarget(QStringLiteral("/proc/self/exe"));
-    const QString path = QFileInfo(program).path() +
-                         QStringLiteral("/" VELKARO_PRIVATE_FROM_BIN "/libvelkaro-dialog.so");
-    void *library = dlopen(QFile::encodeName(path).constData(), RTLD_LAZY);
+    std::error_code error;
+    const auto program = std::filesystem::read_symlink("/proc/self/exe", error);
+    const auto path = program.parent_path() / VELKARO_PRIVATE_FROM_BIN / "libvelkaro-dialog.so";
+    void *library = dlopen(path.c_str(), RTLD_LAZY);
     void *entry = library ? dlsym(library, "velkaroPrintMain") : nullptr;
     if (!entry) {
         std::fprintf(stderr, "velkaro-print: the installation is incomplete: %s\n", dlerror());
@@ -46,10 +37,11 @@ int runDialogLibrary(int argc, char **argv)
 
 int main(int argc, char **argv)
 {
-    const CommandLine line = parseCommandLine(argumentsOf(argc, argv)).commandLine;
-    if (line.help)
+    // Further behind, either might be an option's value: the library reads the whole line.
+    const std::string_view first = argc > 1 ? argv[1] : "";
+    if (first == "--help")
         return print(helpText());
-    if (line.version)
+    if (first == "--version")
         return print(versionText());
     return runDialogLibrary(argc, argv);
 }

@@ -61,6 +61,10 @@ public:
     /// are not connected are absent.
     virtual QHash<QString, QWidget *> inspectedOutlets() const = 0;
 
+    /// The control that picks a choice of the PPD keyword; null without one, or before the view is
+    /// loaded.
+    virtual QWidget *inspectedControl(const QString &) const { return nullptr; }
+
     /// The list of advanced options; none for a panel that has no such list.
     virtual std::optional<Rows> inspectedRows() const { return std::nullopt; }
 

@@ -1,6 +1,7 @@
 #include "platform/toolkit/ViewLoader.h"
 
 #include "platform/toolkit/DisclosureButton.h"
+#include "platform/toolkit/ElidedLabel.h"
 #include "platform/toolkit/FractionSlider.h"
 #include "platform/toolkit/ImageView.h"
 #include "platform/toolkit/NumberField.h"
@@ -9,6 +10,7 @@
 #include "platform/toolkit/SizeWatch.h"
 #include "platform/toolkit/ViewBindings.h"
 
+#include <QtCore/QCoreApplication>
 #include <QtCore/QFile>
 #include <QtUiTools/QUiLoader>
 #include <QtWidgets/QAbstractButton>
@@ -21,6 +23,7 @@ ViewConnections toolkitClasses()
 {
     ViewConnections classes;
     classes.widgetClass<DisclosureButton>(QStringLiteral("DisclosureButton"));
+    classes.widgetClass<ElidedLabel>(QStringLiteral("ElidedLabel"));
     classes.widgetClass<PopUpButton>(QStringLiteral("PopUpButton"));
     classes.widgetClass<RadioMatrix>(QStringLiteral("RadioMatrix"));
     classes.widgetClass<ImageView>(QStringLiteral("ImageView"));
@@ -50,6 +53,29 @@ private:
     const ViewConnections &m_owner;
     ViewConnections m_toolkit;
 };
+
+// A QUiLoader loads every Designer plug-in of the system when it is created: libraries that no view
+// here uses and that cost more than all views together. Without library paths it finds none.
+class NoDesignerPlugIns
+{
+public:
+    NoDesignerPlugIns() : m_paths(QCoreApplication::libraryPaths())
+    {
+        QCoreApplication::setLibraryPaths({});
+    }
+    ~NoDesignerPlugIns() { QCoreApplication::setLibraryPaths(m_paths); }
+    NoDesignerPlugIns(const NoDesignerPlugIns &) = delete;
+    NoDesignerPlugIns &operator=(const NoDesignerPlugIns &) = delete;
+
+private:
+    QStringList m_paths;
+};
+
+std::unique_ptr<Loader> newLoader(const ViewConnections &owner)
+{
+    const NoDesignerPlugIns none;
+    return std::make_unique<Loader>(owner);
+}
 
 // A bound value is written by the control's user signal too; bindings connect first, so that the
 // action already finds it in the dictionary.
@@ -126,11 +152,11 @@ std::unique_ptr<LoadedView> loadView(const QString &path, const ViewConnections 
                                      QString *error)
 {
     QFile file(path);
-    Loader loader(owner);
-    QWidget *root = file.open(QIODevice::ReadOnly) ? loader.load(&file) : nullptr;
+    const auto loader = newLoader(owner);
+    QWidget *root = file.open(QIODevice::ReadOnly) ? loader->load(&file) : nullptr;
     if (!root) {
         if (error)
-            *error = file.isOpen() ? loader.errorString() : file.errorString();
+            *error = file.isOpen() ? loader->errorString() : file.errorString();
         return nullptr;
     }
     auto content = std::make_unique<ObservableDictionary>();

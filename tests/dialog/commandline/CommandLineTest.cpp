@@ -45,9 +45,6 @@ INSTANTIATE_TEST_SUITE_P(
         Refused{"ChoiceWithoutValue", {u"-o"_s, u"x="_s}, "-o needs KEY=VALUE, not \"x=\"."},
         Refused{"EmptyInstance", {u"-d"_s, u"q/"_s}, "\"q/\" is not the name of a queue."},
         Refused{"EmptyQueue", {u"-d"_s, u"/i"_s}, "\"/i\" is not the name of a queue."},
-        Refused{"UnknownPanel",
-                {u"--panel"_s, u"paper"_s},
-                "--panel knows print, color and summary, not \"paper\"."},
         Refused{"ReplayAndRecord",
                 {u"--replay=a"_s, u"--record=b"_s},
                 "--replay and --record do not go together."},
@@ -111,7 +108,7 @@ TEST(CommandLine, GivesHelpAndVersionDespiteFaults)
 
 TEST(HelpText, NamesEveryOptionAndEveryStatus)
 {
-    const QString text = helpText();
+    const QString text = QString::fromUtf8(helpText());
     for (const char *option :
          {"-d,", "-h,", "-o,", "--ppd", "--paper", "--output", "--no-dialog", "--yes",
           "--screenshot", "--panel", "--record", "--replay", "--plug-in", "--version", "--help"})
@@ -120,7 +117,7 @@ TEST(HelpText, NamesEveryOptionAndEveryStatus)
         EXPECT_TRUE(text.contains(QStringLiteral("\n  %1  ").arg(status))) << status;
     for (const QString &line : text.split(u'\n'))
         EXPECT_LE(line.size(), 80) << line.toStdString();
-    EXPECT_EQ(versionText(), u"velkaro-print 1.0.0\n"_s);
+    EXPECT_STREQ(versionText(), "velkaro-print 1.0.0\n");
 }
 
 } // namespace

@@ -4,6 +4,7 @@
 #include "dialog/cups/OptionAttribute.h"
 #include "dialog/cups/QueuePPD.h"
 #include "dialog/cups/ServerCall.h"
+#include "dialog/host/PPDFile.h"
 #include "platform/pde/PPDText.h"
 #include "tests/endtoend/PrintServer.h"
 #include "tests/endtoend/QtPrinting.h"
@@ -73,6 +74,12 @@ protected:
 
 PrintServer *Server::s_server = nullptr;
 
+QString nickname(const QueuePPD &queue)
+{
+    const OpenedPPD opened = openPPD(queue.file->fileName());
+    return opened.ppd ? ppdText(opened.ppd->nickname) : opened.error;
+}
+
 TEST_F(Server, ListsItsQueuesAndNamesItsDefault)
 {
     const DestinationList list = listDestinations(s_server->address(), m_guard);
@@ -84,30 +91,32 @@ TEST_F(Server, ListsItsQueuesAndNamesItsDefault)
         EXPECT_EQ(destination.isDefault, destination.name.queue == u"photo"_s);
     }
     EXPECT_EQ(names, (QStringList{u"closed"_s, u"group"_s, u"photo"_s, u"raw"_s}));
-    EXPECT_EQ(serverDefault(s_server->address(), m_guard), (QueueName{u"photo"_s, {}}));
+    EXPECT_EQ(serverDefault(s_server->address(), m_guard).queue, (QueueName{u"photo"_s, {}}));
 }
 
 TEST_F(Server, GivesThePPDOfAQueueAndLeavesNoFileBehind)
 {
     const QStringList before = QDir::temp().entryList(QDir::Files);
-    const QueuePPD queue = fetchQueuePPD(s_server->address(), u"photo"_s, m_guard);
-    ASSERT_TRUE(queue.ppd) << queue.answer.sentence.toStdString();
-    EXPECT_EQ(ppdText(queue.ppd->nickname), u"Velkaro PX-T900, 1.0"_s);
-    EXPECT_EQ(markedChoice(queue.ppd.get(), u"PageSize"_s), u"A4"_s);
+    QueuePPD queue = fetchQueuePPD(s_server->address(), u"photo"_s, m_guard);
+    ASSERT_TRUE(queue.file) << queue.answer.sentence.toStdString();
+    EXPECT_EQ(nickname(queue), u"Velkaro PX-T900, 1.0"_s);
+    const QString path = queue.file->fileName();
+    queue.file.reset();
+    EXPECT_FALSE(QFile::exists(path));
     EXPECT_EQ(QDir::temp().entryList(QDir::Files), before);
 }
 
 TEST_F(Server, GivesTheFirstMembersPPDForAClass)
 {
     const QueuePPD queue = fetchQueuePPD(s_server->address(), u"group"_s, m_guard);
-    ASSERT_TRUE(queue.ppd) << queue.answer.sentence.toStdString();
-    EXPECT_EQ(ppdText(queue.ppd->nickname), u"Velkaro PX-T900, 1.0"_s);
+    ASSERT_TRUE(queue.file) << queue.answer.sentence.toStdString();
+    EXPECT_EQ(nickname(queue), u"Velkaro PX-T900, 1.0"_s);
 }
 
 TEST_F(Server, SaysThatAQueueHasNoPPD)
 {
     const QueuePPD queue = fetchQueuePPD(s_server->address(), u"raw"_s, m_guard);
-    EXPECT_FALSE(queue.ppd);
+    EXPECT_FALSE(queue.file);
     EXPECT_EQ(queue.answer.fault, ServerFault::None);
     EXPECT_EQ(queue.answer.sentence, u"The queue raw has no PPD."_s);
 }
@@ -115,7 +124,7 @@ TEST_F(Server, SaysThatAQueueHasNoPPD)
 TEST_F(Server, SaysThatThereIsNoSuchQueue)
 {
     const QueuePPD queue = fetchQueuePPD(s_server->address(), u"no/such queue"_s, m_guard);
-    EXPECT_FALSE(queue.ppd);
+    EXPECT_FALSE(queue.file);
     EXPECT_EQ(queue.answer.fault, ServerFault::NotFound);
     EXPECT_EQ(queue.answer.sentence,
               u"The print server %1 has no queue no/such queue."_s.arg(s_server->address()));

@@ -1,0 +1,23 @@
+#include "dialog/job/CommandOutput.h"
+
+#include "platform/toolkit/PlainText.h"
+
+#include <cstdio>
+
+void warn(const QString &sentence)
+{
+    const QByteArray line = "velkaro-print: " + displayText(sentence).toLocal8Bit() + '\n';
+    std::fputs(line.constData(), stderr);
+}
+
+ExitStatus failWith(ExitStatus status, const QString &sentence)
+{
+    warn(sentence);
+    return status;
+}
+
+void report(const QString &sentence)
+{
+    std::fputs((displayText(sentence).toLocal8Bit() + '\n').constData(), stdout);
+    std::fflush(stdout);
+}

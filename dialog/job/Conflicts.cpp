@@ -1,0 +1,69 @@
+#include "dialog/job/Conflicts.h"
+
+#include "platform/pde/PPDText.h"
+#include "platform/toolkit/PlainText.h"
+
+#include <QtCore/QCoreApplication>
+
+#include <cups/cups.h>
+
+namespace {
+
+QString sentence(const char *text)
+{
+    return QCoreApplication::translate("Conflicts", text);
+}
+
+QString quotedList(const QStringList &texts)
+{
+    QStringList quoted;
+    for (const QString &text : texts)
+        quoted += sentence(QT_TRANSLATE_NOOP("Conflicts", "\"%1\"")).arg(text);
+    return quoted.join(sentence(QT_TRANSLATE_NOOP("Conflicts", ", ")));
+}
+
+} // namespace
+
+QString choiceText(ppd_file_t *ppd, const QString &keyword, const QString &choice)
+{
+    ppd_option_t *option = findOption(ppd, keyword);
+    const ppd_choice_t *found = findChoice(option, choice);
+    return QStringLiteral("%1: %2").arg(displayText(option ? ppdText(option->text) : keyword),
+                                        displayText(found ? ppdText(found->text) : choice));
+}
+
+QStringList clashesWith(ppd_file_t *ppd, const QString &keyword, const QString &choice)
+{
+    cups_option_t *options = nullptr;
+    const int count = cupsGetConflicts(ppd, ppdBytes(keyword).constData(),
+                                       ppdBytes(choice).constData(), &options);
+    QStringList clashes;
+    for (int index = 0; index < count; ++index) {
+        const QString other = ppdName(options[index].name);
+        // The paper stands in the PPD twice; people know one of them.
+        if (other != QLatin1String("PageRegion"))
+            clashes += choiceText(ppd, other, ppdName(options[index].value));
+    }
+    cupsFreeOptions(count, options);
+    return clashes;
+}
+
+QString refusalSentence(ppd_file_t *ppd, const QString &keyword, const QString &choice)
+{
+    const QStringList clashes = clashesWith(ppd, keyword, choice);
+    if (clashes.isEmpty())
+        return {};
+    return sentence(QT_TRANSLATE_NOOP("Conflicts", "\"%1\" cannot be chosen: the printer does not "
+                                                   "allow it together with %2."))
+        .arg(choiceText(ppd, keyword, choice), quotedList(clashes));
+}
+
+QString clashSentence(ppd_file_t *ppd, const QString &keyword, const QString &choice)
+{
+    const QStringList clashes = clashesWith(ppd, keyword, choice);
+    if (clashes.isEmpty())
+        return {};
+    return sentence(QT_TRANSLATE_NOOP("Conflicts",
+                                      "The printer does not allow \"%1\" together with %2."))
+        .arg(choiceText(ppd, keyword, choice), quotedList(clashes));
+}

@@ -1,0 +1,20 @@
+#pragma once
+
+#include <QtCore/QString>
+#include <QtCore/QStringList>
+
+#include <cups/ppd.h>
+
+/// "Media Type: Glossy", the way people read a choice; plain text.
+QString choiceText(ppd_file_t *ppd, const QString &keyword, const QString &choice);
+
+/// The marked choices that the choice would not go together with, as choiceText() gives them; none
+/// when the PPD's constraints allow it. Marks nothing.
+QStringList clashesWith(ppd_file_t *ppd, const QString &keyword, const QString &choice);
+
+/// One sentence on why the choice was refused; null when the PPD's constraints allow it.
+QString refusalSentence(ppd_file_t *ppd, const QString &keyword, const QString &choice);
+
+/// One sentence on the choice, which is marked, and what it does not go together with; null when
+/// nothing clashes.
+QString clashSentence(ppd_file_t *ppd, const QString &keyword, const QString &choice);

@@ -1,0 +1,24 @@
+#pragma once
+
+#include "dialog/commandline/CommandLine.h"
+#include "dialog/commandline/ExitStatus.h"
+#include "dialog/cups/JobSubmission.h"
+
+#include <QtCore/QString>
+
+/// The ends of a job where there is no window. Each writes its lines on standard output and
+/// standard error.
+
+/// Sends the job and waits for the server's answer.
+ExitStatus sendJob(const JobRequest &request);
+
+/// Puts the job into a file.
+ExitStatus keepJob(const QString &path, const JobRequest &request);
+
+/// Sends a job that was kept in a file, to the queue of the command line or, without one, to the
+/// queue that it was made for. Its settings were checked when it was made and travel as they are;
+/// other settings on the command line are refused.
+ExitStatus sendJobFile(const CommandLine &line);
+
+/// The exit status for what a server answered.
+ExitStatus statusOf(const ServerAnswer &answer);

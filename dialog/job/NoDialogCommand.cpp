@@ -1,0 +1,187 @@
+#include "dialog/job/NoDialogCommand.h"
+
+#include "dialog/cups/DocumentFile.h"
+#include "dialog/cups/ServerCall.h"
+#include "dialog/cups/ServerConnection.h"
+#include "dialog/job/CommandOutput.h"
+#include "dialog/job/JobDelivery.h"
+#include "dialog/job/PrintJob.h"
+#include "dialog/job/ScriptedAnswers.h"
+#include "dialog/job/SettingRequests.h"
+#include "dialog/replay/Recorder.h"
+
+#include <QtCore/QCoreApplication>
+
+using enum ExitStatus;
+
+namespace {
+
+QString sentence(const char *text)
+{
+    return QCoreApplication::translate("NoDialogCommand", text);
+}
+
+/// One run of the command. Each step gives Done when the next one may follow.
+class Run
+{
+public:
+    explicit Run(const CommandLine &line)
+        : m_line(line), m_answers(line.yes), m_job(line.files, jobTitle(line.files))
+    {}
+
+    ExitStatus print();
+
+private:
+    ExitStatus checkDocuments();
+    ExitStatus record();
+    ExitStatus findPrinter();
+    ExitStatus open();
+    ExitStatus makeSettings();
+    ExitStatus askPanels();
+    ExitStatus finish();
+
+    const CommandLine &m_line;
+    ScriptedAnswers m_answers;
+    std::unique_ptr<Recorder> m_recorder; // hands alerts on to the answers
+    Refusal m_refusal;
+    FetchedPrinter m_printer;
+    PrintJob m_job;
+};
+
+PrinterSource sourceOf(const CommandLine &line)
+{
+    PrinterSource source;
+    source.server = line.server;
+    source.ppdPath = line.ppd;
+    if (line.ppd.isNull() || !line.queue.isNull())
+        source.queue = wantedQueue(line.queue, line.instance);
+    return source;
+}
+
+ExitStatus Run::checkDocuments()
+{
+    const QString error = openDocuments(m_line.files).error;
+    return error.isNull() ? Done : failWith(Document, error);
+}
+
+ExitStatus Run::record()
+{
+    if (m_line.record.isNull())
+        return Done;
+    m_recorder = std::make_unique<Recorder>();
+    QString error;
+    return m_recorder->open(m_line.record, &error) ? Done : failWith(Output, error);
+}
+
+ExitStatus Run::findPrinter()
+{
+    const PrinterSource source = sourceOf(m_line);
+    m_printer.queue = source.queue;
+    if (!source.ppdPath.isNull())
+        return Done;
+    const auto fetched = waitForServer<FetchedPrinter>(
+        kServerPatience, [source](CallGuard &guard) { return fetchPrinter(source, guard); });
+    if (!fetched)
+        return failWith(Server, silentServer(source.server).sentence);
+    m_printer = *fetched;
+    if (!m_printer.ppd.answer.isGood())
+        return failWith(Server, m_printer.ppd.answer.sentence);
+    if (m_printer.queue.queue.isEmpty())
+        return failWith(Usage, sentence(QT_TRANSLATE_NOOP("NoDialogCommand",
+                                                          "No printer was chosen and there is no "
+                                                          "default one; -d QUEUE names one.")));
+    return Done;
+}
+
+ExitStatus Run::open()
+{
+    PrinterSource source = sourceOf(m_line);
+    source.queue = m_printer.queue;
+    const QList<JobOption> saved = savedOptions(source.queue);
+    if (source.ppdPath.isNull() && !m_printer.ppd.file) {
+        m_job.setPrinter(source, {nullptr, applySavedOptions(nullptr, saved), {}});
+        return Done;
+    }
+    SessionOptions options;
+    options.ppdPath = source.ppdPath.isNull() ? m_printer.ppd.file->fileName() : source.ppdPath;
+    options.bundlePath = m_line.plugIn;
+    options.callObserver = [this](const HostCallback::Call &call) {
+        if (call.kind == HostCallback::Call::Kind::WillChangePPDOptionKeyValue && !call.accepted)
+            m_refusal = {call.keyword, call.choice};
+    };
+    QString recordError;
+    OpenedPrinter printer = openPrinter(options, saved, [&](HostSession &session) {
+        if (m_recorder)
+            m_recorder->attach(session, &recordError);
+    });
+    if (!printer.session)
+        return failWith(Usage, printer.error);
+    if (!recordError.isNull())
+        return failWith(Output, recordError);
+    const std::optional<PlugInFault> fault = printer.session->plugInFault();
+    m_job.setPrinter(source, std::move(printer));
+    return fault ? failWith(PlugIn, fault->sentence) : Done;
+}
+
+ExitStatus Run::makeSettings()
+{
+    if (!m_line.paper.isNull()) {
+        const QString error = choosePaper(m_job, m_line.paper);
+        if (!error.isNull())
+            return failWith(Usage, error);
+    }
+    for (const RequestedChoice &wanted : m_line.choices) {
+        const QString error = makeSetting(m_job, wanted.keyword, wanted.choice, m_refusal);
+        m_answers.answerSheets();
+        if (!error.isNull())
+            return failWith(Usage, error);
+    }
+    for (const QString &said : m_answers.takeSentences())
+        warn(said);
+    return Done;
+}
+
+ExitStatus Run::askPanels()
+{
+    if (!m_job.session())
+        return Done;
+    const bool proceed = m_job.session()->askShouldPrint().proceed;
+    m_answers.answerSheets();
+    const QStringList said = m_answers.takeSentences();
+    if (proceed)
+        return Done;
+    return failWith(Vetoed, said.isEmpty() ? sentence(QT_TRANSLATE_NOOP(
+                                                 "NoDialogCommand",
+                                                 "The printer's settings do not allow this job."))
+                                           : said.constLast());
+}
+
+ExitStatus Run::finish()
+{
+    const JobOptions options = m_job.options();
+    if (!options.faults.isEmpty())
+        return failWith(Vetoed, options.faults.constFirst());
+    const JobRequest request = m_job.request(options.options);
+    return m_line.output.isNull() ? sendJob(request) : keepJob(m_line.output, request);
+}
+
+ExitStatus Run::print()
+{
+    using Step = ExitStatus (Run::*)();
+    for (const Step step : {&Run::checkDocuments, &Run::record, &Run::findPrinter, &Run::open,
+                            &Run::makeSettings, &Run::askPanels, &Run::finish}) {
+        const ExitStatus status = (this->*step)();
+        if (status != Done)
+            return status;
+    }
+    return Done;
+}
+
+} // namespace
+
+ExitStatus runNoDialogCommand(const CommandLine &line)
+{
+    if (line.files.size() == 1 && isJobFile(line.files.constFirst()))
+        return sendJobFile(line);
+    return Run(line).print();
+}

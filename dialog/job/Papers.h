@@ -1,0 +1,49 @@
+#pragma once
+
+#include "platform/printmanager/PMPageFormat.h"
+
+#include <QtCore/QList>
+#include <QtCore/QString>
+
+#include <cups/ppd.h>
+
+#include <optional>
+
+/// The papers of a printer and the sizes that a user may give. All sizes are in points unless a
+/// name says otherwise.
+
+inline constexpr double kPointsPerInch = 72.0;
+inline constexpr double kPointsPerMillimetre = 72.0 / 25.4;
+
+/// The PPD's paper of that `PageSize` choice; none when the PPD has no such choice.
+std::optional<PMPaper> paperOfChoice(ppd_file_t *ppd, const QString &choice);
+
+/// A paper of a size that the user gave.
+PMPaper customPaper(double width, double height);
+
+/// The text of a paper for people: the PPD's text of the choice, else the size in millimetres.
+QString paperText(ppd_file_t *ppd, const PMPaper &paper);
+
+/// The sizes that the PPD lets a user give.
+struct CustomLimits
+{
+    double minWidth = 0;
+    double maxWidth = 0;
+    double minHeight = 0;
+    double maxHeight = 0;
+};
+
+/// None when the PPD takes no custom sizes.
+std::optional<CustomLimits> customLimits(ppd_file_t *ppd);
+
+/// What is wrong with a length beside the limits.
+enum class LengthFault { None, TooSmall, TooLarge };
+
+LengthFault faultOfLength(double length, double least, double most);
+
+/// Whether both lengths are within the limits.
+bool isWithin(const CustomLimits &limits, double width, double height);
+
+/// "Custom.100x150mm" read: the unit may be pt (also meant without one), mm, cm, in. None for any
+/// other text.
+std::optional<PMPaper> parseCustomPaper(const QString &text);

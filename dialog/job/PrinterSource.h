@@ -1,0 +1,47 @@
+#pragma once
+
+#include "dialog/cups/CallGuard.h"
+#include "dialog/cups/QueuePPD.h"
+#include "dialog/cups/SavedOptions.h"
+#include "dialog/cups/SavedSettings.h"
+#include "dialog/host/HostSession.h"
+
+#include <QtCore/QString>
+
+#include <functional>
+#include <memory>
+
+/// Which printer a job is for: a queue of a server, or a PPD file alone.
+struct PrinterSource
+{
+    QString server;  ///< null: the user's usual one
+    QueueName queue; ///< a null queue: none, or not known yet
+    QString ppdPath; ///< null: the queue's own
+};
+
+/// What a server told of a queue.
+struct FetchedPrinter
+{
+    QueueName queue; ///< null: none was named, and the server has no default
+    QueuePPD ppd;
+};
+
+/// Asks the server for the PPD of the source's queue, or of the server's default queue when none is
+/// named. Blocks: call it in a ServerCall.
+FetchedPrinter fetchPrinter(const PrinterSource &source, CallGuard &guard);
+
+/// The queue that was asked for on the command line, else the user's usual one.
+QueueName wantedQueue(const QString &queue, const QString &instance);
+
+/// A printer whose panels run.
+struct OpenedPrinter
+{
+    std::unique_ptr<HostSession> session; ///< null: no PPD that can be used
+    SavedSettings saved;
+    QString error; ///< why the PPD cannot be used; null otherwise
+};
+
+/// Opens the PPD, marks what the user has saved for the queue, takes the PPD's texts in the user's
+/// language, and starts the panels. `beforeStart` may follow the session from its beginning.
+OpenedPrinter openPrinter(const SessionOptions &options, const QList<JobOption> &saved,
+                          const std::function<void(HostSession &)> &beforeStart = {});

@@ -1,0 +1,150 @@
+#include "dialog/window/CustomSizeFields.h"
+
+#include <QtCore/QLocale>
+#include <QtCore/QSignalBlocker>
+#include <QtWidgets/QComboBox>
+#include <QtWidgets/QDoubleSpinBox>
+#include <QtWidgets/QGridLayout>
+#include <QtWidgets/QLabel>
+
+#include <array>
+
+namespace {
+
+struct Unit
+{
+    double points;
+    int decimals;
+    double step;
+};
+
+// In the order of the unit pop-up: millimetres, inches.
+constexpr std::array kUnits{Unit{kPointsPerMillimetre, 1, 1.0}, Unit{kPointsPerInch, 2, 0.1}};
+
+// Lengths out of the printer's range can be typed, so that the word beside can say the limit.
+constexpr double kLongest = 9999;
+
+} // namespace
+
+CustomSizeFields::CustomSizeFields(QWidget *parent)
+    : QWidget(parent),
+      m_width(newField(QStringLiteral("customWidth"))),
+      m_height(newField(QStringLiteral("customHeight"))),
+      m_widthWord(newWord(QStringLiteral("customWidthWord"))),
+      m_heightWord(newWord(QStringLiteral("customHeightWord"))),
+      m_unit(new QComboBox(this))
+{
+    m_unit->setObjectName(QStringLiteral("customUnit"));
+    m_unit->addItems({tr("mm"), tr("inches")});
+    m_unit->setCurrentIndex(QLocale().measurementSystem() == QLocale::ImperialUSSystem ? 1 : 0);
+    m_unit->setAccessibleName(tr("Unit"));
+    auto *widthLabel = new QLabel(tr("&Width:"), this);
+    widthLabel->setBuddy(m_width);
+    auto *heightLabel = new QLabel(tr("Hei&ght:"), this);
+    heightLabel->setBuddy(m_height);
+    auto *grid = new QGridLayout(this);
+    grid->setContentsMargins(0, 0, 0, 0);
+    grid->addWidget(widthLabel, 0, 0);
+    grid->addWidget(m_width, 0, 1);
+    grid->addWidget(m_unit, 0, 2);
+    grid->addWidget(m_widthWord, 0, 3);
+    grid->addWidget(heightLabel, 1, 0);
+    grid->addWidget(m_height, 1, 1);
+    grid->addWidget(m_heightWord, 1, 3);
+    grid->setColumnStretch(3, 1);
+    connect(m_unit, &QComboBox::activated, this, &CustomSizeFields::changeUnit);
+    changeUnit();
+}
+
+QDoubleSpinBox *CustomSizeFields::newField(const QString &name)
+{
+    auto *field = new QDoubleSpinBox(this);
+    field->setObjectName(name);
+    field->setRange(0, kLongest);
+    field->setKeyboardTracking(true);
+    connect(field, &QDoubleSpinBox::valueChanged, this, [this] {
+        m_widthPoints = m_width->value() * pointsPerUnit();
+        m_heightPoints = m_height->value() * pointsPerUnit();
+        judge();
+        Q_EMIT edited();
+    });
+    return field;
+}
+
+QLabel *CustomSizeFields::newWord(const QString &name)
+{
+    auto *word = new QLabel(this);
+    word->setObjectName(name);
+    word->setTextFormat(Qt::PlainText);
+    return word;
+}
+
+double CustomSizeFields::pointsPerUnit() const
+{
+    return kUnits[static_cast<std::size_t>(m_unit->currentIndex())].points;
+}
+
+void CustomSizeFields::setLimits(const CustomLimits &limits)
+{
+    m_limits = limits;
+    judge();
+}
+
+void CustomSizeFields::setSize(double width, double height)
+{
+    m_widthPoints = width;
+    m_heightPoints = height;
+    changeUnit();
+}
+
+double CustomSizeFields::paperWidth() const
+{
+    return m_widthPoints;
+}
+
+double CustomSizeFields::paperHeight() const
+{
+    return m_heightPoints;
+}
+
+bool CustomSizeFields::isAcceptable() const
+{
+    return isWithin(m_limits, m_widthPoints, m_heightPoints);
+}
+
+/// Shows the size in the chosen unit; the size itself stays as exact as it is.
+void CustomSizeFields::changeUnit()
+{
+    const Unit &unit = kUnits[static_cast<std::size_t>(m_unit->currentIndex())];
+    for (QDoubleSpinBox *field : {m_width, m_height}) {
+        const QSignalBlocker quiet(field);
+        field->setDecimals(unit.decimals);
+        field->setSingleStep(unit.step);
+        field->setValue((field == m_width ? m_widthPoints : m_heightPoints) / unit.points);
+    }
+    judge();
+}
+
+void CustomSizeFields::judge()
+{
+    m_widthWord->setText(word(m_widthPoints, m_limits.minWidth, m_limits.maxWidth));
+    m_heightWord->setText(word(m_heightPoints, m_limits.minHeight, m_limits.maxHeight));
+}
+
+QString CustomSizeFields::word(double length, double least, double most) const
+{
+    const Unit &unit = kUnits[static_cast<std::size_t>(m_unit->currentIndex())];
+    const auto text = [&](double points) {
+        return QLocale().toString(points / unit.points, 'f', unit.decimals) + u' ' +
+               m_unit->currentText();
+    };
+    switch (faultOfLength(length, least, most)) {
+    case LengthFault::TooSmall:
+        return tr("Too small: at least %1.").arg(text(least));
+    case LengthFault::TooLarge:
+        return tr("Too large: at most %1.").arg(text(most));
+    case LengthFault::None:
+        break;
+    }
+    return {};
+}

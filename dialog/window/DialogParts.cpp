@@ -1,0 +1,182 @@
+#include "dialog/job/Papers.h"
+#include "dialog/window/DialogWindow.h"
+#include "dialog/window/PageSetupPane.h"
+#include "dialog/window/PanelPane.h"
+#include "platform/pde/PPDText.h"
+#include "platform/toolkit/PlainText.h"
+
+#include <QtCore/QSignalBlocker>
+#include <QtCore/QTimer>
+#include <QtGui/QScreen>
+#include <QtWidgets/QLayout>
+#include <QtWidgets/QTabWidget>
+
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr auto kSummary = "summary"_L1;
+
+/// Whether the panel has anything to show for this PPD.
+bool hasKeywords(const HostPanel &panel)
+{
+    return !panel.panel->supportedPPDOptionKeys().value_or(QStringList()).isEmpty();
+}
+
+QString tabTitle(const QString &text)
+{
+    return withoutMnemonic(displayText(text));
+}
+
+} // namespace
+
+/// The tabs for the printer that is open now, the first panel in front.
+void DialogWindow::buildParts()
+{
+    removeParts();
+    const QSignalBlocker quiet(m_tabs);
+    m_pageSetup->reload();
+    m_parts.push_back({QString(), m_pageSetup, nullptr});
+    m_tabs->addTab(m_pageSetup, tr("Page Setup"));
+    if (m_job.session())
+        for (const HostPanel &panel : m_job.session()->panels()) {
+            if (!hasKeywords(panel))
+                continue;
+            auto *pane = new PanelPane(m_tabs);
+            connect(pane, &PanelPane::viewResized, this,
+                    [this] { QTimer::singleShot(0, this, &DialogWindow::followView); });
+            m_parts.push_back({panel.name, pane, &panel});
+            m_tabs->addTab(pane, tabTitle(panel.panel->panelName()));
+        }
+    m_parts.push_back({kSummary, m_summary, nullptr});
+    m_tabs->addTab(m_summary, tr("Summary"));
+    m_tabs->setCurrentIndex(m_parts[1].panel ? 1 : 0);
+    changePart();
+    setHeight(std::max(height(), layout()->totalSizeHint().height()));
+}
+
+void DialogWindow::removeParts()
+{
+    const QSignalBlocker quiet(m_tabs);
+    m_shownPanel = nullptr;
+    m_tabs->clear(); // the pages themselves stay
+    for (const Part &part : m_parts)
+        if (part.panel)
+            delete part.page; // gives the view back to its panel
+    m_parts.clear();
+}
+
+const DialogWindow::Part *DialogWindow::currentPart() const
+{
+    const auto found = std::ranges::find(m_parts, m_tabs->currentWidget(), &Part::page);
+    return found == m_parts.end() ? nullptr : &*found;
+}
+
+bool DialogWindow::showPart(const QString &name)
+{
+    const auto found = std::ranges::find(m_parts, name, &Part::name);
+    if (name.isEmpty() || found == m_parts.end())
+        return false;
+    m_tabs->setCurrentWidget(found->page);
+    return true;
+}
+
+QWidget *DialogWindow::shownPart() const
+{
+    const auto *pane = qobject_cast<PanelPane *>(m_tabs->currentWidget());
+    return pane && pane->view() ? pane->view() : m_tabs->currentWidget();
+}
+
+void DialogWindow::changePart()
+{
+    const Part *part = currentPart();
+    if (!part)
+        return;
+    hideShownPanel();
+    if (part->panel) {
+        m_shownPanel = part->panel;
+        QWidget *view = m_job.session()->show(*part->panel);
+        static_cast<PanelPane *>(part->page)->setView(view);
+        if (!view)
+            m_notice->tell(NoticeBar::Kind::Error,
+                           tr("The settings of this panel cannot be shown: a part of the plug-in "
+                              "is missing. Install Velkaro Print again."));
+    }
+    if (part->page == m_summary)
+        m_summary->setSections(summarySections());
+    fitToPart();
+}
+
+void DialogWindow::hideShownPanel()
+{
+    if (m_shownPanel)
+        m_job.session()->hide(*m_shownPanel);
+    m_shownPanel = nullptr;
+}
+
+/// The part that has come in front gets the height that it needs.
+void DialogWindow::fitToPart()
+{
+    const Part *part = currentPart();
+    m_partHeight = part ? part->page->sizeHint().height() : 0;
+    layout()->activate();
+    if (part && part->panel && isVisible())
+        setHeight(height() + std::max(0, m_partHeight - part->page->height()));
+}
+
+/// The view in front has grown or shrunk by itself: the window goes with it. Its panel may wait to
+/// hear that the window has come to its size.
+void DialogWindow::followView()
+{
+    const Part *part = currentPart();
+    if (!part || !part->panel || !m_job.session() || !m_job.session()->isRunning())
+        return;
+    const int wanted = part->page->sizeHint().height();
+    const int change = wanted - m_partHeight;
+    m_partHeight = wanted;
+    layout()->activate();
+    if (change < 0)
+        setHeight(std::max(height() + change, minimumSizeHint().height()));
+    else if (wanted > part->page->height())
+        setHeight(height() + wanted - part->page->height());
+    m_job.session()->windowDidResize();
+}
+
+void DialogWindow::setHeight(int height)
+{
+    const int most = screen()->availableGeometry().height();
+    resize(width(), std::min(height, most));
+}
+
+QList<SummarySection> DialogWindow::summarySections()
+{
+    QList<SummarySection> sections{ownSection()};
+    for (const Part &part : m_parts)
+        if (part.panel)
+            sections +=
+                sectionOf(part.panel->panel->panelName(), m_job.session()->summary(*part.panel));
+    return sections;
+}
+
+SummarySection DialogWindow::ownSection() const
+{
+    const HostSettings &settings = m_job.settings();
+    SummarySection own{tr("Page Setup"), {}};
+    if (const std::optional<PMPaper> paper = m_job.paper())
+        own.lines += {tr("Paper"), paperText(m_job.ppd(), *paper)};
+    if (const std::optional<PMPaper> mapped = paperOfChoice(m_job.ppd(), m_job.mappedPaper()))
+        own.lines += {tr("Scaled to fit"), paperText(m_job.ppd(), *mapped)};
+    const bool isLandscape = m_job.orientation() == PMOrientation::Landscape;
+    own.lines += {tr("Orientation"), isLandscape ? tr("Landscape") : tr("Portrait")};
+    own.lines += {tr("Copies"), QString::number(settings.copies)};
+    own.lines += {tr("Pages"), settings.pageRanges.isEmpty() ? tr("All") : settings.pageRanges};
+    for (const QString &keyword : m_job.ownKeywords()) {
+        ppd_option_t *option = findOption(m_job.ppd(), keyword);
+        const ppd_choice_t *choice = findChoice(option, markedChoice(m_job.ppd(), keyword));
+        if (choice)
+            own.lines += {ppdText(option->text), ppdText(choice->text)};
+    }
+    return own;
+}

@@ -1,0 +1,231 @@
+#include "dialog/window/DialogWindow.h"
+
+#include "dialog/cups/DocumentFile.h"
+#include "dialog/cups/ServerCall.h"
+#include "dialog/job/Conflicts.h"
+#include "dialog/replay/Recorder.h"
+#include "dialog/window/HostHelp.h"
+#include "dialog/window/JobHeader.h"
+#include "dialog/window/PageSetupPane.h"
+#include "dialog/window/PrinterPopUp.h"
+#include "platform/foundation/NotificationCenter.h"
+#include "platform/toolkit/KeyWindow.h"
+
+#include <QtCore/QTimer>
+#include <QtWidgets/QFileDialog>
+#include <QtWidgets/QHBoxLayout>
+#include <QtWidgets/QPushButton>
+#include <QtWidgets/QTabWidget>
+#include <QtWidgets/QVBoxLayout>
+
+#include <utility>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr QSize kFirstSize(640, 560);
+constexpr int kMargin = 14;
+
+QPushButton *newButton(const QString &name, const QString &title, QWidget *parent)
+{
+    auto *button = new QPushButton(title, parent);
+    button->setObjectName(name);
+    button->setAutoDefault(false);
+    return button;
+}
+
+} // namespace
+
+DialogWindow::DialogWindow(const CommandLine &line, QWidget *parent)
+    : QDialog(parent), m_line(line), m_job(line.files, jobTitle(line.files))
+{
+    setObjectName(u"dialogWindow"_s);
+    setWindowTitle(tr("Print"));
+    buildLayout();
+    resize(kFirstSize);
+    setState(State::Searching);
+}
+
+DialogWindow::~DialogWindow()
+{
+    delete m_call;
+    closePrinter();
+}
+
+void DialogWindow::buildLayout()
+{
+    m_header = new JobHeader(m_job, this);
+    m_notice = new NoticeBar(this);
+    m_tabs = new QTabWidget(this);
+    m_tabs->setObjectName(u"parts"_s);
+    m_pageSetup = new PageSetupPane(m_job);
+    m_summary = new SummaryPane;
+    auto *layout = new QVBoxLayout(this);
+    layout->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
+    layout->setSpacing(kMargin);
+    layout->addWidget(m_header);
+    layout->addWidget(m_notice);
+    layout->addWidget(m_tabs, 1);
+    layout->addWidget(newButtons());
+    buildParts();
+    connect(m_tabs, &QTabWidget::currentChanged, this, &DialogWindow::changePart);
+    connect(m_header, &JobHeader::documentsWanted, this, &DialogWindow::chooseDocuments);
+    connect(m_header, &JobHeader::changed, this, &DialogWindow::tellStanding);
+    connect(m_pageSetup, &PageSetupPane::changed, this, &DialogWindow::tellStanding);
+    connect(m_pageSetup, &PageSetupPane::refused, this, [this](const QString &sentence) {
+        m_notice->tell(NoticeBar::Kind::Warning, sentence);
+    });
+    connect(m_header->printers(), &PrinterPopUp::picked, this, [this](const QueueName &queue) {
+        closePrinter();
+        findPrinter({m_line.server, queue, QString()});
+    });
+}
+
+QWidget *DialogWindow::newButtons()
+{
+    auto *row = new QWidget(this);
+    m_help = newButton(u"helpButton"_s, tr("Help"), row);
+    m_save = newButton(u"saveButton"_s, tr("Save to &File…"), row);
+    m_cancel = newButton(u"cancelButton"_s, tr("Cancel"), row);
+    m_print = newButton(u"printButton"_s, m_line.output.isNull() ? tr("Print") : tr("Save"), row);
+    m_print->setAutoDefault(true);
+    m_print->setDefault(true);
+    m_save->setVisible(m_line.output.isNull());
+    auto *layout = new QHBoxLayout(row);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addWidget(m_help);
+    layout->addStretch(1);
+    layout->addWidget(m_save);
+    layout->addWidget(m_cancel);
+    layout->addWidget(m_print);
+    connect(m_help, &QPushButton::clicked, this, &DialogWindow::showHelp);
+    connect(m_save, &QPushButton::clicked, this, &DialogWindow::saveToFile);
+    connect(m_cancel, &QPushButton::clicked, this, &DialogWindow::reject);
+    connect(m_print, &QPushButton::clicked, this, &DialogWindow::print);
+    return row;
+}
+
+bool DialogWindow::beginRecording()
+{
+    if (m_line.record.isNull())
+        return true;
+    m_recorder = std::make_unique<Recorder>();
+    return m_recorder->open(m_line.record, &m_recordingError);
+}
+
+void DialogWindow::start()
+{
+    setKeyWindow(this);
+    PrinterSource source{m_line.server, {}, m_line.ppd};
+    if (m_line.ppd.isNull() || !m_line.queue.isNull())
+        source.queue = wantedQueue(m_line.queue, m_line.instance);
+    if (source.ppdPath.isNull())
+        findPrinter(source);
+    else
+        openPPD(source, source.ppdPath);
+}
+
+void DialogWindow::setState(State state)
+{
+    m_state = state;
+    const bool isUsable = state == State::Ready || state == State::NoPrinter;
+    m_header->setEnabled(isUsable || state == State::Searching);
+    m_tabs->setEnabled(state == State::Ready);
+    m_cancel->setText(state == State::Done ? tr("Close") : tr("Cancel"));
+    m_print->setVisible(state != State::Done);
+    updateButtons();
+    Q_EMIT stateChanged();
+}
+
+bool DialogWindow::mayPrint() const
+{
+    return m_state == State::Ready && !m_job.documents().isEmpty() && m_header->isAcceptable() &&
+           m_pageSetup->isAcceptable();
+}
+
+void DialogWindow::updateButtons()
+{
+    const bool hasEnd = !m_line.output.isNull() || !m_job.source().queue.queue.isEmpty();
+    m_print->setEnabled(mayPrint() && hasEnd);
+    m_save->setEnabled(mayPrint());
+}
+
+/// Shows what holds on, in place of what was news.
+void DialogWindow::tellStanding()
+{
+    if (m_standing.sentence.isNull())
+        m_notice->clear();
+    else
+        m_notice->tell(m_standing.kind, m_standing.sentence);
+    updateButtons();
+}
+
+/// A panel has asked for a choice. A pick asks for the user's own first, and its rules for more:
+/// what is told when all is over is the first refusal, or that there was none.
+void DialogWindow::noteAnswer(const HostCallback::Call &call)
+{
+    if (call.kind == HostCallback::Call::Kind::PanelViewDidResize) {
+        QTimer::singleShot(0, this, &DialogWindow::followView);
+        return;
+    }
+    if (!call.accepted) {
+        m_refusal = {call.keyword, call.choice};
+        if (m_refusalToTell.isNull())
+            m_refusalToTell = refusalSentence(m_job.ppd(), call.keyword, call.choice);
+    }
+    if (!std::exchange(m_answersAreNoted, true))
+        QTimer::singleShot(0, this, &DialogWindow::tellAnswers);
+}
+
+void DialogWindow::tellAnswers()
+{
+    m_answersAreNoted = false;
+    const QString refusal = std::exchange(m_refusalToTell, QString());
+    if (m_state != State::Ready)
+        return;
+    tellStanding();
+    if (!refusal.isNull())
+        m_notice->tell(NoticeBar::Kind::Warning, refusal);
+}
+
+void DialogWindow::chooseDocuments()
+{
+    const QStringList paths = QFileDialog::getOpenFileNames(
+        this, tr("Choose Documents"), QString(),
+        tr("Documents (*.pdf *.ps *.txt *.png *.jpg *.jpeg);;All files (*)"));
+    if (paths.isEmpty())
+        return;
+    m_job.setDocuments(paths, jobTitle(paths));
+    m_header->reload();
+    m_standing = whatIsMissing();
+    tellStanding();
+}
+
+void DialogWindow::showHelp()
+{
+    const Part *part = currentPart();
+    const bool ownHelp = !part || !part->panel || m_job.session()->help(*part->panel);
+    if (ownHelp)
+        showHostHelp(this);
+}
+
+void DialogWindow::resizeEvent(QResizeEvent *event)
+{
+    QDialog::resizeEvent(event);
+    if (m_job.session() && m_job.session()->isRunning())
+        m_job.session()->windowDidResize();
+}
+
+void DialogWindow::done(int result)
+{
+    if (m_state == State::Sending && m_call) {
+        m_call->cancel();
+        return;
+    }
+    NotificationCenter::defaultCenter().post(QLatin1String(kWindowWillCloseNotification),
+                                             static_cast<QWidget *>(this));
+    closePrinter();
+    setKeyWindow(nullptr);
+    QDialog::done(result);
+}

@@ -1,0 +1,51 @@
+#include "dialog/window/HostHelp.h"
+
+#include <QtCore/QCoreApplication>
+#include <QtWidgets/QDialog>
+#include <QtWidgets/QDialogButtonBox>
+#include <QtWidgets/QLabel>
+#include <QtWidgets/QVBoxLayout>
+
+#include <array>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int kTextWidth = 460;
+
+constexpr std::array kParagraphs{
+    QT_TRANSLATE_NOOP("HostHelp",
+                      "Page Setup holds the paper, its orientation, two-sided printing and what "
+                      "else the printer leaves to this dialog. A size of your own is entered below "
+                      "the paper; a word beside the field says when the printer cannot take it."),
+    QT_TRANSLATE_NOOP("HostHelp", "\"Scale to fit\" prints the document on another paper than it "
+                                  "was made for, and makes it larger or smaller to fill that."),
+    QT_TRANSLATE_NOOP("HostHelp", "When the printer does not allow two settings together, the "
+                                  "second one is not made, and a line above the tabs names both."),
+    QT_TRANSLATE_NOOP("HostHelp",
+                      "Summary lists everything that will be printed with. \"Save to File\" keeps "
+                      "the job with its documents; send it later with velkaro-print --no-dialog."),
+};
+
+} // namespace
+
+void showHostHelp(QWidget *parent)
+{
+    auto *window = new QDialog(parent);
+    window->setObjectName(u"hostHelp"_s);
+    window->setAttribute(Qt::WA_DeleteOnClose);
+    window->setWindowTitle(QCoreApplication::translate("HostHelp", "Print Help"));
+    auto *layout = new QVBoxLayout(window);
+    for (const char *paragraph : kParagraphs) {
+        auto *label = new QLabel(QCoreApplication::translate("HostHelp", paragraph), window);
+        label->setTextFormat(Qt::PlainText);
+        label->setWordWrap(true);
+        label->setFixedWidth(kTextWidth);
+        layout->addWidget(label);
+    }
+    auto *buttons = new QDialogButtonBox(QDialogButtonBox::Close, window);
+    QObject::connect(buttons, &QDialogButtonBox::rejected, window, &QDialog::reject);
+    layout->addWidget(buttons);
+    window->show();
+}

@@ -1,0 +1,105 @@
+#include "dialog/window/JobHeader.h"
+
+#include "dialog/cups/PageRanges.h"
+#include "dialog/job/PrintJob.h"
+#include "dialog/window/PrinterPopUp.h"
+#include "platform/toolkit/NumberField.h"
+#include "platform/toolkit/PlainText.h"
+
+#include <QtCore/QFileInfo>
+#include <QtCore/QSignalBlocker>
+#include <QtWidgets/QFormLayout>
+#include <QtWidgets/QHBoxLayout>
+#include <QtWidgets/QLabel>
+#include <QtWidgets/QLineEdit>
+#include <QtWidgets/QPushButton>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int kMostCopies = 999;
+constexpr int kPagesWidth = 160;
+
+QWidget *row(std::initializer_list<QWidget *> widgets, int stretched)
+{
+    auto *made = new QWidget;
+    auto *layout = new QHBoxLayout(made);
+    layout->setContentsMargins(0, 0, 0, 0);
+    int index = 0;
+    for (QWidget *widget : widgets)
+        layout->addWidget(widget, index++ == stretched ? 1 : 0);
+    return made;
+}
+
+QLabel *label(const QString &text, QWidget *buddy)
+{
+    auto *made = new QLabel(text);
+    made->setBuddy(buddy);
+    return made;
+}
+
+} // namespace
+
+JobHeader::JobHeader(PrintJob &job, QWidget *parent)
+    : QWidget(parent),
+      m_job(job),
+      m_documents(new QLabel(this)),
+      m_choose(new QPushButton(tr("C&hoose…"), this)),
+      m_printers(new PrinterPopUp(this)),
+      m_copies(new NumberField(this)),
+      m_pages(new QLineEdit(this)),
+      m_pagesWord(new QLabel(this))
+{
+    m_documents->setObjectName(u"documentsLabel"_s);
+    m_documents->setTextFormat(Qt::PlainText);
+    m_documents->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+    m_choose->setObjectName(u"chooseButton"_s);
+    m_choose->setAutoDefault(false);
+    m_copies->setObjectName(u"copiesField"_s);
+    m_copies->setRange(1, kMostCopies);
+    m_pages->setObjectName(u"pagesField"_s);
+    m_pages->setPlaceholderText(tr("All, or 1-3, 5"));
+    m_pages->setFixedWidth(kPagesWidth);
+    m_pagesWord->setObjectName(u"pagesWord"_s);
+    auto *form = new QFormLayout(this);
+    form->setContentsMargins(0, 0, 0, 0);
+    form->setLabelAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    form->setFieldGrowthPolicy(QFormLayout::AllNonFixedFieldsGrow);
+    form->addRow(label(tr("Document:"), m_choose), row({m_documents, m_choose}, 0));
+    form->addRow(label(tr("Pri&nter:"), m_printers), m_printers);
+    form->addRow(label(tr("&Copies:"), m_copies),
+                 row({m_copies, label(tr("Pa&ges:"), m_pages), m_pages, m_pagesWord}, 3));
+    connect(m_choose, &QPushButton::clicked, this, &JobHeader::documentsWanted);
+    connect(m_copies, &NumberField::editedByUser, this, [this] {
+        m_job.settings().copies = m_copies->value();
+        Q_EMIT changed();
+    });
+    connect(m_pages, &QLineEdit::textEdited, this, &JobHeader::takePages);
+    reload();
+}
+
+void JobHeader::reload()
+{
+    QStringList names;
+    for (const QString &path : m_job.documents())
+        names += displayText(QFileInfo(path).fileName());
+    m_documents->setText(names.isEmpty() ? tr("No document") : names.join(u", "_s));
+    m_copies->setDoubleValue(m_job.settings().copies);
+    m_pages->setText(m_job.settings().pageRanges);
+    m_pagesWord->clear();
+}
+
+void JobHeader::takePages()
+{
+    const QString ranges = normalizedPageRanges(m_pages->text());
+    m_pagesWord->setText(ranges.isNull() ? tr("Pages look like this: 1-3, 5") : QString());
+    if (!ranges.isNull())
+        m_job.settings().pageRanges = ranges;
+    Q_EMIT changed();
+}
+
+bool JobHeader::isAcceptable() const
+{
+    return !normalizedPageRanges(m_pages->text()).isNull();
+}

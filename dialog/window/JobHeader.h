@@ -1,0 +1,44 @@
+#pragma once
+
+#include <QtWidgets/QWidget>
+
+class NumberField;
+class PrinterPopUp;
+class PrintJob;
+class QLabel;
+class QLineEdit;
+class QPushButton;
+
+/// The head of the dialog: what is printed, where, how often, and which pages of it.
+class JobHeader : public QWidget
+{
+    Q_OBJECT
+
+public:
+    /// The job must outlive the header.
+    explicit JobHeader(PrintJob &job, QWidget *parent = nullptr);
+
+    PrinterPopUp *printers() const { return m_printers; }
+
+    /// Shows the job's documents and settings.
+    void reload();
+
+    /// Whether the pages that were typed are a list of pages.
+    bool isAcceptable() const;
+
+Q_SIGNALS:
+    void changed();
+    /// The user wants to choose the documents.
+    void documentsWanted();
+
+private:
+    void takePages();
+
+    PrintJob &m_job;
+    QLabel *m_documents;
+    QPushButton *m_choose;
+    PrinterPopUp *m_printers;
+    NumberField *m_copies;
+    QLineEdit *m_pages;
+    QLabel *m_pagesWord;
+};

@@ -1,0 +1,71 @@
+#include "dialog/window/PanelPane.h"
+
+#include <QtCore/QEvent>
+#include <QtWidgets/QScrollBar>
+
+namespace {
+
+constexpr int kLeastHeight = 80; // of a pane on a very small screen
+constexpr int kTopMargin = 8;
+
+} // namespace
+
+PanelPane::PanelPane(QWidget *parent) : QScrollArea(parent)
+{
+    setFrameShape(QFrame::NoFrame);
+    setAlignment(Qt::AlignHCenter | Qt::AlignTop);
+    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    setViewportMargins(0, kTopMargin, 0, 0);
+    // The tab's own background lies behind the view.
+    viewport()->setAutoFillBackground(false);
+}
+
+PanelPane::~PanelPane()
+{
+    releaseView();
+}
+
+void PanelPane::setView(QWidget *view)
+{
+    if (view == m_view)
+        return;
+    releaseView();
+    m_view = view;
+    if (!view)
+        return;
+    setWidget(view);
+    view->setAutoFillBackground(false);
+    view->show();
+    view->installEventFilter(this);
+    updateGeometry();
+}
+
+void PanelPane::releaseView()
+{
+    if (!m_view)
+        return;
+    m_view->removeEventFilter(this);
+    m_view->hide();
+    takeWidget()->setParent(nullptr);
+    m_view = nullptr;
+}
+
+QSize PanelPane::sizeHint() const
+{
+    const QSize view = m_view ? m_view->size() : QSize(0, 0);
+    return view + QSize(0, 2 * kTopMargin);
+}
+
+QSize PanelPane::minimumSizeHint() const
+{
+    return {sizeHint().width(), std::min(sizeHint().height(), kLeastHeight)};
+}
+
+bool PanelPane::eventFilter(QObject *watched, QEvent *event)
+{
+    if (watched == m_view && event->type() == QEvent::Resize) {
+        updateGeometry();
+        Q_EMIT viewResized();
+    }
+    return QScrollArea::eventFilter(watched, event);
+}

@@ -1,0 +1,35 @@
+#pragma once
+
+#include <QtCore/QPointer>
+#include <QtWidgets/QScrollArea>
+
+/// Holds the view of a panel, which the panel owns: the pane never destroys it. A view that is
+/// taller than the pane can be scrolled.
+class PanelPane : public QScrollArea
+{
+    Q_OBJECT
+
+public:
+    explicit PanelPane(QWidget *parent = nullptr);
+    ~PanelPane() override;
+
+    /// The view comes to lie in the pane. Null: none.
+    void setView(QWidget *view);
+    QWidget *view() const { return m_view; }
+
+    /// Gives the view back; its panel may then be destroyed.
+    void releaseView();
+
+    QSize sizeHint() const override;
+    QSize minimumSizeHint() const override;
+
+Q_SIGNALS:
+    /// The view has come to another size by itself.
+    void viewResized();
+
+protected:
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
+private:
+    QPointer<QWidget> m_view;
+};

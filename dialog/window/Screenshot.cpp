@@ -1,0 +1,63 @@
+#include "dialog/window/Screenshot.h"
+
+#include "dialog/job/CommandOutput.h"
+#include "dialog/window/DialogWindow.h"
+
+#include <QtCore/QEventLoop>
+#include <QtCore/QSaveFile>
+#include <QtGui/QPixmap>
+#include <QtWidgets/QApplication>
+
+using enum ExitStatus;
+
+namespace {
+
+void waitForPrinter(DialogWindow &window)
+{
+    QEventLoop loop;
+    QObject::connect(&window, &DialogWindow::stateChanged, &loop, [&] {
+        if (window.state() != DialogWindow::State::Searching)
+            loop.quit();
+    });
+    window.start();
+    if (window.state() == DialogWindow::State::Searching)
+        loop.exec();
+}
+
+QPixmap picture(DialogWindow &window, const CommandLine &line)
+{
+    if (line.panel.isNull())
+        return window.grab();
+    QWidget *part = window.shownPart();
+    // A panel's view lets the tab behind it shine through.
+    QPixmap painted(part->size() * part->devicePixelRatioF());
+    painted.setDevicePixelRatio(part->devicePixelRatioF());
+    painted.fill(part->palette().color(QPalette::Window));
+    part->render(&painted, QPoint(), QRegion(), QWidget::DrawChildren);
+    return painted;
+}
+
+ExitStatus write(const QPixmap &painted, const QString &path)
+{
+    QSaveFile file(path);
+    if (file.open(QIODevice::WriteOnly) && painted.save(&file, "PNG") && file.commit())
+        return Done;
+    return failWith(
+        Output, QCoreApplication::translate("Screenshot", "The picture %1 cannot be written: %2.")
+                    .arg(path, file.errorString()));
+}
+
+} // namespace
+
+ExitStatus takeScreenshot(const CommandLine &line)
+{
+    DialogWindow window(line);
+    window.show();
+    waitForPrinter(window);
+    if (window.state() == DialogWindow::State::NoPrinter)
+        return failWith(window.exitStatus() == Usage ? Usage : Server, window.notice().sentence());
+    if (!window.settingError().isNull())
+        return failWith(Usage, window.settingError());
+    QApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+    return write(picture(window, line), line.screenshot);
+}

@@ -1,0 +1,90 @@
+#include "dialog/window/SummaryPane.h"
+
+#include "platform/toolkit/PlainText.h"
+
+#include <QtWidgets/QGridLayout>
+#include <QtWidgets/QLabel>
+
+namespace {
+
+constexpr int kMargin = 16;
+constexpr int kLineSpacing = 4;
+constexpr int kSectionSpacing = 12;
+
+QLabel *label(const QString &text, QWidget *parent)
+{
+    auto *made = new QLabel(parent);
+    made->setTextFormat(Qt::PlainText);
+    made->setText(displayText(text));
+    made->setWordWrap(true);
+    made->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    return made;
+}
+
+QLabel *heading(const QString &text, QWidget *parent)
+{
+    QLabel *made = label(text, parent);
+    QFont bold = made->font();
+    bold.setBold(true);
+    made->setFont(bold);
+    return made;
+}
+
+} // namespace
+
+SummarySection sectionOf(const QString &heading, const QVariantMap &summaryInfo)
+{
+    SummarySection section{heading, {}};
+    const QStringList order =
+        summaryInfo.value(QStringLiteral("Summary Display Order")).toStringList();
+    for (const QString &title : order) {
+        const QVariant value = summaryInfo.value(title);
+        if (value.isValid())
+            section.lines += {title, value.toString()};
+    }
+    return section;
+}
+
+SummaryPane::SummaryPane(QWidget *parent) : QScrollArea(parent)
+{
+    setObjectName(QStringLiteral("summaryPane"));
+    setFrameShape(QFrame::NoFrame);
+    setWidgetResizable(true);
+    viewport()->setAutoFillBackground(false);
+}
+
+void SummaryPane::setSections(const QList<SummarySection> &sections)
+{
+    auto *page = new QWidget;
+    page->setAutoFillBackground(false);
+    auto *grid = new QGridLayout(page);
+    grid->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
+    grid->setHorizontalSpacing(kMargin);
+    grid->setVerticalSpacing(kLineSpacing);
+    grid->setColumnStretch(0, 2);
+    grid->setColumnStretch(1, 3);
+    for (const SummarySection &section : sections)
+        addSection(grid, section);
+    grid->setRowStretch(grid->rowCount(), 1);
+    setWidget(page); // the former page goes
+    page->setAutoFillBackground(false);
+}
+
+void SummaryPane::addSection(QGridLayout *grid, const SummarySection &section)
+{
+    if (section.lines.isEmpty())
+        return;
+    QWidget *page = grid->parentWidget();
+    int row = grid->rowCount();
+    if (row > 1)
+        grid->setRowMinimumHeight(row++, kSectionSpacing);
+    grid->addWidget(heading(section.heading, page), row++, 0, 1, 2);
+    for (const SummarySection::Line &line : section.lines) {
+        QLabel *title = label(line.title, page);
+        title->setAlignment(Qt::AlignRight | Qt::AlignTop);
+        grid->addWidget(title, row, 0);
+        QLabel *value = label(line.value, page);
+        value->setAlignment(Qt::AlignLeft | Qt::AlignTop);
+        grid->addWidget(value, row++, 1);
+    }
+}
