@@ -1,6 +1,7 @@
 #include "platform/toolkit/ViewLoader.h"
 
 #include "platform/toolkit/DisclosureButton.h"
+#include "platform/toolkit/ElidedLabel.h"
 #include "platform/toolkit/FractionSlider.h"
 #include "platform/toolkit/ImageView.h"
 #include "platform/toolkit/NumberField.h"
@@ -22,6 +23,7 @@ ViewConnections toolkitClasses()
 {
     ViewConnections classes;
     classes.widgetClass<DisclosureButton>(QStringLiteral("DisclosureButton"));
+    classes.widgetClass<ElidedLabel>(QStringLiteral("ElidedLabel"));
     classes.widgetClass<PopUpButton>(QStringLiteral("PopUpButton"));
     classes.widgetClass<RadioMatrix>(QStringLiteral("RadioMatrix"));
     classes.widgetClass<ImageView>(QStringLiteral("ImageView"));
