@@ -1,6 +1,6 @@
+#include "tests/endtoend/JobPrinting.h"
 #include "tests/endtoend/PrintServerFixture.h"
 #include "tests/endtoend/ProgramRun.h"
-#include "tests/endtoend/QtPrinting.h"
 
 #include <QtNetwork/QTcpServer>
 

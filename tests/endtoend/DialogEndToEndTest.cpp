@@ -1,8 +1,8 @@
 #include "dialog/window/DialogWindow.h"
 #include "platform/foundation/UserDefaults.h"
 #include "platform/toolkit/PopUpButton.h"
+#include "tests/endtoend/JobPrinting.h"
 #include "tests/endtoend/PrintServerFixture.h"
-#include "tests/endtoend/QtPrinting.h"
 
 #include <QtCore/QTimer>
 #include <QtNetwork/QTcpServer>

@@ -2,7 +2,7 @@
 #include "dialog/host/PPDFile.h"
 #include "dialog/host/PPDMarks.h"
 #include "tests/dialog/window/ClashingPPD.h"
-#include "tests/endtoend/QtPrinting.h"
+#include "tests/endtoend/JobPrinting.h"
 
 #include <gtest/gtest.h>
 

@@ -1,5 +1,5 @@
 #include "dialog/window/CustomSizeFields.h"
-#include "tests/endtoend/QtPrinting.h"
+#include "tests/endtoend/JobPrinting.h"
 
 #include <QtTest/QTest>
 #include <QtWidgets/QComboBox>
@@ -50,13 +50,13 @@ TEST_F(CustomSize, SaysBesideTheFieldWhatIsWrongWithALength)
 {
     chooseUnit(0);
     type("customWidth", "50");
-    EXPECT_EQ(word("customWidthWord"), u"Too small: at least 64.2 mm."_s);
+    EXPECT_EQ(word("customWidthWord"), u"Too small: at least 64.3 mm."_s);
     EXPECT_EQ(word("customHeightWord"), u""_s);
     EXPECT_FALSE(m_fields.isAcceptable());
     type("customHeight", "500");
-    EXPECT_EQ(word("customHeightWord"), u"Too large: at most 483.0 mm."_s);
-    type("customWidth", "64.2"); // the limit, as the word has it
-    type("customHeight", "483");
+    EXPECT_EQ(word("customHeightWord"), u"Too large: at most 482.9 mm."_s);
+    type("customWidth", "64.3"); // the limits, as the words have them
+    type("customHeight", "482.9");
     EXPECT_EQ(word("customWidthWord"), u""_s);
     EXPECT_EQ(word("customHeightWord"), u""_s);
     EXPECT_TRUE(m_fields.isAcceptable());
@@ -74,7 +74,7 @@ TEST_F(CustomSize, KeepsTheSizeWhenTheUnitChanges)
     type("customWidth", "1");
     EXPECT_EQ(word("customWidthWord"), u"Too small: at least 2.53 inches."_s);
     chooseUnit(0);
-    EXPECT_EQ(word("customWidthWord"), u"Too small: at least 64.2 mm."_s);
+    EXPECT_EQ(word("customWidthWord"), u"Too small: at least 64.3 mm."_s);
 }
 
 } // namespace

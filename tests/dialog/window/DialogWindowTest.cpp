@@ -4,7 +4,7 @@
 #include "platform/toolkit/KeyWindow.h"
 #include "platform/toolkit/PopUpButton.h"
 #include "tests/dialog/window/ClashingPPD.h"
-#include "tests/endtoend/QtPrinting.h"
+#include "tests/endtoend/JobPrinting.h"
 
 #include <QtCore/QDir>
 #include <QtCore/QFile>

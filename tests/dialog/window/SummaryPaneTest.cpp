@@ -1,5 +1,5 @@
 #include "dialog/window/SummaryPane.h"
-#include "tests/endtoend/QtPrinting.h"
+#include "tests/endtoend/JobPrinting.h"
 
 #include <QtWidgets/QLabel>
 
