@@ -8,6 +8,8 @@
 
 #include <vector>
 
+class PopUpModel;
+
 /// A combo box whose items carry a represented object and can be disabled singly.
 ///
 /// Items are found by their represented object; the title is what people read. A user's pick is the
@@ -52,4 +54,7 @@ public:
 protected:
     /// A wheel that passes over the button by chance must not change a setting.
     void wheelEvent(QWheelEvent *event) override;
+
+private:
+    PopUpModel *m_items;
 };
