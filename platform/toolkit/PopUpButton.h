@@ -17,6 +17,8 @@ class PopUpModel;
 class VELKARO_PLATFORM_EXPORT PopUpButton : public QComboBox
 {
     Q_OBJECT
+    /// The control's tag; a view resource gives it (ViewLoader.h). The rules ask for it often.
+    Q_PROPERTY(int tag MEMBER m_tag)
 
 public:
     struct Item
@@ -34,6 +36,8 @@ public:
     /// The index of the first item with the represented object, or title; -1 when there is none.
     int indexOfRepresentedObject(const QString &object) const;
     int indexOfTitle(const QString &title) const;
+
+    int tag() const { return m_tag; }
 
     /// Null for an index that is not there.
     QString representedObject(int index) const;
@@ -57,4 +61,5 @@ protected:
 
 private:
     PopUpModel *m_items;
+    int m_tag = 0;
 };
