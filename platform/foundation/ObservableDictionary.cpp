@@ -2,21 +2,29 @@
 
 #include <utility>
 
+ObservableDictionary::Entry &ObservableDictionary::entryOf(const QString &key)
+{
+    std::shared_ptr<Entry> &entry = m_entries[key];
+    if (!entry)
+        entry = std::make_shared<Entry>();
+    return *entry;
+}
+
 QVariant ObservableDictionary::value(const QString &key) const
 {
-    const auto entry = m_entries.find(key);
-    return entry == m_entries.end() ? QVariant() : entry->second.value();
+    const auto entry = m_entries.constFind(key);
+    return entry == m_entries.constEnd() ? QVariant() : (*entry)->value();
 }
 
 bool ObservableDictionary::boolValue(const QString &key) const
 {
-    const auto entry = m_entries.find(key);
-    return entry != m_entries.end() && entry->second.isTrue();
+    const auto entry = m_entries.constFind(key);
+    return entry != m_entries.constEnd() && (*entry)->isTrue();
 }
 
 void ObservableDictionary::setValue(const QString &key, const QVariant &value)
 {
-    Entry &entry = m_entries[key];
+    Entry &entry = entryOf(key);
     entry.m_value = value;
     entry.m_isTrue = value.toBool();
     for (const Observer &observer : entry.m_observers)
@@ -25,15 +33,15 @@ void ObservableDictionary::setValue(const QString &key, const QVariant &value)
 
 void ObservableDictionary::observe(const QString &key, Observer observer)
 {
-    m_entries[key].m_observers.push_back(std::move(observer));
+    entryOf(key).m_observers.push_back(std::move(observer));
 }
 
 QVariantMap ObservableDictionary::values() const
 {
     QVariantMap values;
-    for (const auto &[key, entry] : m_entries) {
-        if (entry.value().isValid())
-            values.insert(key, entry.value());
+    for (auto entry = m_entries.cbegin(); entry != m_entries.cend(); ++entry) {
+        if (entry.value()->value().isValid())
+            values.insert(entry.key(), entry.value()->value());
     }
     return values;
 }

@@ -2,11 +2,12 @@
 
 #include "platform/Export.h"
 
+#include <QtCore/QHash>
 #include <QtCore/QString>
 #include <QtCore/QVariant>
 
 #include <functional>
-#include <unordered_map>
+#include <memory>
 #include <vector>
 
 /// A dictionary of mixed values that tells its observers of every write.
@@ -40,7 +41,7 @@ public:
 
     /// The entry of the key, for whoever reads it often: it can be had before the first write to
     /// the key, and stays valid for as long as the dictionary lives.
-    const Entry &entry(const QString &key) { return m_entries[key]; }
+    const Entry &entry(const QString &key) { return entryOf(key); }
 
     /// The value under the key; invalid when there is none.
     QVariant value(const QString &key) const;
@@ -58,5 +59,7 @@ public:
     QVariantMap values() const;
 
 private:
-    std::unordered_map<QString, Entry> m_entries;
+    Entry &entryOf(const QString &key);
+
+    QHash<QString, std::shared_ptr<Entry>> m_entries;
 };

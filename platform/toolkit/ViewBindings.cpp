@@ -65,12 +65,14 @@ private:
 };
 
 // Calls `apply` with the control now and after each write to one of the keys.
+template <typename Apply>
 void follow(QWidget *control, ObservableDictionary &dictionary, const QStringList &keys,
-            const std::function<void(QWidget *)> &apply)
+            Apply apply)
 {
-    const auto update = [guarded = QPointer<QWidget>(control), apply] {
+    const ObservableDictionary::Observer update = [guarded = QPointer<QWidget>(control),
+                                                   apply]() mutable {
         if (guarded)
-            apply(guarded);
+            apply(guarded.data());
     };
     for (const QString &key : keys)
         dictionary.observe(key, update);
