@@ -1,5 +1,7 @@
 #pragma once
 
+#include "platform/Export.h"
+
 #include <QImage>
 #include <QString>
 
@@ -18,6 +20,6 @@ inline constexpr qint64 maximumPixels = qint64(1) << 27;
 ///
 /// The null image if the path names no regular file, or the file is of another kind, damaged,
 /// cut short, or larger than maximumPixels.
-QImage readPicture(const QString &path);
+VELKARO_PLATFORM_EXPORT QImage readPicture(const QString &path);
 
 } // namespace imaging
