@@ -34,7 +34,7 @@ void VKInkColorSettingPDE::checkUIConstraints()
 void VKInkColorSettingPDE::dimTexts()
 {
     QList<QWidget *> texts{optionLabel};
-    for (const QString &keyword : PPDKeys.value_or(QStringList()))
+    for (const QString &keyword : managedKeywords())
         texts << determineLabel(keyword);
     for (const QString &keyword : std::as_const(PPDEffectKeys))
         texts << determineField(keyword);

@@ -30,21 +30,32 @@ QString gainKeyword(int color)
 
 } // namespace
 
+std::shared_ptr<const CIImage> VKInkColorSettingPDE::refImage() const
+{
+    if (refImageName_.isNull())
+        return refImage_;
+    const auto known = readPictures_.constFind(refImageName_);
+    if (known != readPictures_.constEnd())
+        return *known;
+    const QString path = pluginBundle->pathForResource(refImageName_, u"tiff"_s);
+    return *readPictures_.insert(refImageName_, CIImage::imageWithContentsOfFile(path));
+}
+
 void VKInkColorSettingPDE::setRefImage(const std::shared_ptr<const CIImage> &image)
 {
     refImage_ = image;
-    refImagePath_ = QString();
+    refImageName_ = QString();
 }
 
+// The controls' rules name the picture at every step, mostly while nobody sees it: it is read when
+// it is first drawn.
 void VKInkColorSettingPDE::setRefImageWithName(const QString &setRefImageWithName)
 {
-    const QString path =
-        pluginBundle ? pluginBundle->pathForResource(setRefImageWithName, u"tiff"_s) : QString();
-    // The controls' rules name the picture at every step; it is decoded when it is another one.
-    if (path.isNull() || path == refImagePath_)
+    if (setRefImageWithName == refImageName_ || !pluginBundle ||
+        pluginBundle->pathForResource(setRefImageWithName, u"tiff"_s).isNull())
         return;
-    setRefImage(CIImage::imageWithContentsOfFile(path));
-    refImagePath_ = path;
+    setRefImage(nullptr);
+    refImageName_ = setRefImageWithName;
 }
 
 std::shared_ptr<const CIImage> VKInkColorSettingPDE::applyColorControlFilter(
@@ -117,11 +128,11 @@ void VKInkColorSettingPDE::redrawEffectImage()
 {
     if (hasFlag(FaxOutput)) {
         setRefImageWithName(u"None"_s);
-        drawEffect(monochrome(refImage_));
+        drawEffect(monochrome(refImage()));
         return;
     }
     constexpr int all = -1;
-    drawEffect(applyColorMatrixFilter(applyColorControlFilter(refImage_, all), all));
+    drawEffect(applyColorMatrixFilter(applyColorControlFilter(refImage(), all), all));
 }
 
 void VKInkColorSettingPDE::drawEffect(const std::shared_ptr<const CIImage> &result)
@@ -153,7 +164,7 @@ void VKInkColorSettingPDE::effectValueDidChange(QWidget *effectValueDidChange)
 
 std::shared_ptr<const CIImage> VKInkColorSettingPDE::withColorControlChanged(int code)
 {
-    const auto first = applyColorControlFilter(refImage_, code);
+    const auto first = applyColorControlFilter(refImage(), code);
     if (hasFlag(MonoColorMode))
         return monochrome(first);
     cmFilter->setValue(first, kCIInputImageKey);
@@ -164,7 +175,7 @@ std::shared_ptr<const CIImage> VKInkColorSettingPDE::withColorControlChanged(int
 // round.
 std::shared_ptr<const CIImage> VKInkColorSettingPDE::withGainChanged(int color)
 {
-    const auto first = applyColorMatrixFilter(refImage_, color);
+    const auto first = applyColorMatrixFilter(refImage(), color);
     ccFilter->setValue(first, kCIInputImageKey);
     return ccFilter->outputImage();
 }

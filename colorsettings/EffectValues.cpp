@@ -34,8 +34,8 @@ void VKInkColorSettingPDE::createFilters()
 {
     ccFilter = CIFilter::filterWithName(u"CIColorControls"_s);
     cmFilter = CIFilter::filterWithName(u"CIColorMatrix"_s);
-    ccFilter->setValue(refImage_, kCIInputImageKey);
-    cmFilter->setValue(refImage_, kCIInputImageKey);
+    ccFilter->setValue(refImage(), kCIInputImageKey);
+    cmFilter->setValue(refImage(), kCIInputImageKey);
 }
 
 void VKInkColorSettingPDE::restoreEffectValues()

@@ -3,6 +3,8 @@
 #include "panel/VKPrintQualityPDE.h"
 #include "platform/imaging/CIContext.h"
 
+#include <QtCore/QHash>
+
 #include <memory>
 
 class CIFilter;
@@ -93,7 +95,7 @@ public:
     // --- The picture -----------------------------------------------------------------------------
 
     /// The reference image that the preview starts from; null: none.
-    std::shared_ptr<const CIImage> refImage() const { return refImage_; }
+    std::shared_ptr<const CIImage> refImage() const;
     void setRefImage(const std::shared_ptr<const CIImage> &image);
 
     /// Takes the "tiff" resource of this name as the reference image. Without such a resource the
@@ -185,8 +187,10 @@ private:
     NumberField *blueField = nullptr;
 
     QStringList PPDEffectKeys; ///< empty until the first setEffectDefaults()
+    QString refImageName_; ///< the resource that is the reference image; null: refImage_ is
     std::shared_ptr<const CIImage> refImage_;
-    QString refImagePath_; ///< the file that refImage_ was read from; null for any other image
+    /// The resources that have been read, null for one that cannot be; by name.
+    mutable QHash<QString, std::shared_ptr<const CIImage>> readPictures_;
     std::unique_ptr<CIFilter> ccFilter;
     std::unique_ptr<CIFilter> cmFilter;
     CIContext context_;

@@ -102,7 +102,7 @@ void VKInkColorSettingPDE::titleEffects()
 // PPD's texts.
 void VKInkColorSettingPDE::nameControls()
 {
-    for (const QString &keyword : PPDKeys.value_or(QStringList())) {
+    for (const QString &keyword : managedKeywords()) {
         const ppd_option_t *option = findOption(ppd, keyword);
         QWidget *control = determineUI(keyword);
         if (control && option)

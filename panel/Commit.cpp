@@ -66,7 +66,7 @@ void VKPrintQualityPDE::saveAllValues()
 void VKPrintQualityPDE::getUIValues()
 {
     checkUIConstraints();
-    for (const QString &keyword : PPDKeys.value_or(QStringList())) {
+    for (const QString &keyword : managedKeywords()) {
         if (QWidget *control = determineUI(keyword))
             commitControl(*control, keyword);
     }

@@ -10,7 +10,10 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr auto kTicketPrefix = "com.velkaro.print.PrintSettings"_L1;
+bool isColorPanel(const QString &panelName)
+{
+    return panelName == "VKInkColorSetting"_L1;
+}
 
 } // namespace
 
@@ -34,12 +37,13 @@ void VKPrintQualityPDE::checkColorSync()
 
 QString VKPrintQualityPDE::optionName() const
 {
-    return thePDEName_ == "VKInkColorSetting"_L1 ? u"advancedcolorItem"_s : u"advancedItem"_s;
+    return isColorPanel(thePDEName_) ? u"advancedcolorItem"_s : u"advancedItem"_s;
 }
 
 QString VKPrintQualityPDE::optionStateKey() const
 {
-    return kTicketPrefix + u'.' + optionName();
+    return isColorPanel(thePDEName_) ? u"com.velkaro.print.PrintSettings.advancedcolorItem"_s
+                                     : u"com.velkaro.print.PrintSettings.advancedItem"_s;
 }
 
 void VKPrintQualityPDE::saveOptionState()

@@ -74,7 +74,7 @@ bool VKPrintQualityPDE::restoreValuesAndReturnError(QString *)
 
 void VKPrintQualityPDE::readMarkedChoices()
 {
-    for (const QString &keyword : PPDKeys.value_or(QStringList())) {
+    for (const QString &keyword : managedKeywords()) {
         const QString marked = markedChoice(ppd, keyword);
         const ppd_option_t *option = findOption(ppd, keyword);
         if (!marked.isNull())
@@ -121,13 +121,20 @@ void VKPrintQualityPDE::setFlag(ImageModeFlag flag, bool on)
 
 QString VKPrintQualityPDE::pendingValue(const QString &keyword) const
 {
-    const QVariant value = outputBin_.value(keyword);
-    return value.typeId() == QMetaType::QString ? value.toString() : QString();
+    const auto value = outputBin_.constFind(keyword);
+    const bool text = value != outputBin_.constEnd() && value->typeId() == QMetaType::QString;
+    return text ? value->toString() : QString();
 }
 
 void VKPrintQualityPDE::recordPendingValue(const QString &keyword, const QVariant &value)
 {
     outputBin_.insert(keyword, value);
+}
+
+const QStringList &VKPrintQualityPDE::managedKeywords() const
+{
+    static const QStringList none;
+    return PPDKeys ? *PPDKeys : none;
 }
 
 bool VKPrintQualityPDE::managesKeyword(const QString &keyword) const

@@ -47,7 +47,7 @@ void VKPrintQualityPDE::initializePopup()
         this,
         [this](const Notification &notification) { removeNotificationObserver(notification); },
         QLatin1String(kWindowWillCloseNotification), keyWindow());
-    for (const QString &keyword : PPDKeys.value_or(QStringList()))
+    for (const QString &keyword : managedKeywords())
         buildControl(keyword);
     if (effectContent)
         effectContent->setValue(optionName(), false);
@@ -127,7 +127,7 @@ void VKPrintQualityPDE::titleLabel(const QString &keyword, const QString &text)
 
 void VKPrintQualityPDE::updateUI()
 {
-    for (const QString &keyword : PPDKeys.value_or(QStringList()))
+    for (const QString &keyword : managedKeywords())
         updateUIforKey(keyword);
     checkUIConstraints();
 }
@@ -157,10 +157,14 @@ void VKPrintQualityPDE::checkUIConstraints()
     if (effectContent)
         effectContent->setValue(u"VKOutput"_s, enabled);
     const ControlColor color = enabled ? controlTextColor() : disabledControlTextColor();
-    for (const QString &keyword : PPDKeys.value_or(QStringList())) {
-        if (QWidget *control = determineUI(keyword))
+    for (const QString &keyword : managedKeywords()) {
+        // What the view binds has just followed "VKOutput", and other keys beside it: set here, it
+        // would change back and forth at every pick.
+        QWidget *control = determineUI(keyword);
+        if (control && !(view_ && view_->bindsEnabled(control)))
             control->setEnabled(enabled);
-        if (auto *label = qobject_cast<QLabel *>(determineLabel(keyword)))
+        auto *label = qobject_cast<QLabel *>(determineLabel(keyword));
+        if (label && !(view_ && view_->bindsTextColor(label)))
             setTextColor(label, color);
     }
 }

@@ -203,6 +203,9 @@ protected:
     QString pendingValue(const QString &keyword) const;
     void recordPendingValue(const QString &keyword, const QVariant &value);
 
+    /// `PPDKeys`; empty without a list.
+    const QStringList &managedKeywords() const;
+
     /// Whether the panel manages the keyword.
     bool managesKeyword(const QString &keyword) const;
 

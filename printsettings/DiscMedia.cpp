@@ -4,24 +4,29 @@ using namespace Qt::StringLiterals;
 
 QStringList constrainedDiscMedia()
 {
-    return {u"PrintableDisc"_s};
+    static const QStringList media = {u"PrintableDisc"_s};
+    return media;
 }
 
 QStringList constrainedOtherMedia()
 {
-    return {u"Plain"_s,          u"PlainDuplex"_s,      u"Inkjet"_s,
-            u"VelkaroGlossyR"_s, u"VelkaroQM41Matte"_s, u"Glossy"_s,
-            u"HagakiAtena"_s,    u"HagakiUra"_s};
+    static const QStringList media = {u"Plain"_s,          u"PlainDuplex"_s,      u"Inkjet"_s,
+                                      u"VelkaroGlossyR"_s, u"VelkaroQM41Matte"_s, u"Glossy"_s,
+                                      u"HagakiAtena"_s,    u"HagakiUra"_s};
+    return media;
 }
 
 QStringList shownDiscMedia()
 {
-    return {u"PrintableDisc"_s, u"GlossyPrintableDisc"_s};
+    static const QStringList media = {u"PrintableDisc"_s, u"GlossyPrintableDisc"_s};
+    return media;
 }
 
 QStringList shownOtherMedia()
 {
-    return {u"Plain"_s,          u"Inkjet"_s,           u"Transparencies"_s,
-            u"VelkaroGlossyR"_s, u"VelkaroQM41Matte"_s, u"Glossy"_s,
-            u"HagakiAtena"_s,    u"HagakiUra"_s};
+    static const QStringList media = {
+        u"Plain"_s,          u"Inkjet"_s,           u"Transparencies"_s,
+        u"VelkaroGlossyR"_s, u"VelkaroQM41Matte"_s, u"Glossy"_s,
+        u"HagakiAtena"_s,    u"HagakiUra"_s};
+    return media;
 }

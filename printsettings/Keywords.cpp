@@ -8,15 +8,25 @@
 #include <QtWidgets/QCheckBox>
 #include <QtWidgets/QLabel>
 
-#include <array>
+#include <algorithm>
 
 using namespace Qt::StringLiterals;
 
+namespace {
+
+// The box for the dedicated media is for the Japanese market alone.
+constexpr auto kDedicatedMedia = "VKVertLineAlignDedicated"_L1;
+constexpr auto kDedicatedMediaLanguage = "ja"_L1;
+
+} // namespace
+
 // Mirror printing has two keywords and one box: both lead to the box, and the box leads back to the
 // one that the printer has.
-std::array<VKInkPrintSetting14PDE::KeywordRow, 16> VKInkPrintSetting14PDE::keywordRows() const
+const std::vector<VKInkPrintSetting14PDE::KeywordRow> &VKInkPrintSetting14PDE::keywordRows() const
 {
-    return {{
+    if (!keywordRows_.empty() || !effectContent)
+        return keywordRows_;
+    keywordRows_ = {
         {"VKResolution"_L1, resolutionPopup, resolutionLabel},
         {"VKMediaType"_L1, mediaTypePopup, mediaTypeLabel},
         {"VKColorPaperThick"_L1, paperThickPopup, paperThickLabel},
@@ -32,17 +42,10 @@ std::array<VKInkPrintSetting14PDE::KeywordRow, 16> VKInkPrintSetting14PDE::keywo
         {"VKVertLineAlignA3B4Ledger"_L1, vertLineAlignA3Button, nullptr},
         {"VKVertLineAlignA4Letter"_L1, vertLineAlignA4Button, nullptr},
         {"VKVertLineAlignOther"_L1, vertLineAlignOtherButton, nullptr},
-        {"VKVertLineAlignDedicated"_L1, vertLineAlignQM43Button, nullptr},
-    }};
+        {kDedicatedMedia, vertLineAlignQM43Button, nullptr},
+    };
+    return keywordRows_;
 }
-
-namespace {
-
-// The box for the dedicated media is for the Japanese market alone.
-constexpr auto kDedicatedMedia = "VKVertLineAlignDedicated"_L1;
-constexpr auto kDedicatedMediaLanguage = "ja"_L1;
-
-} // namespace
 
 QString VKInkPrintSetting14PDE::determineKey(QWidget *determineKey) const
 {
@@ -62,24 +65,29 @@ QString VKInkPrintSetting14PDE::determineKey(QWidget *determineKey) const
     return {};
 }
 
+const VKInkPrintSetting14PDE::KeywordRow *
+VKInkPrintSetting14PDE::keywordRow(const QString &keyword) const
+{
+    const auto &rows = keywordRows();
+    const auto row = std::find_if(rows.begin(), rows.end(), [&](const KeywordRow &candidate) {
+        return candidate.keyword == keyword;
+    });
+    return row == rows.end() ? nullptr : &*row;
+}
+
 QWidget *VKInkPrintSetting14PDE::determineUI(const QString &determineUI) const
 {
-    if (determineUI == kDedicatedMedia && firstLanguageSetting() != kDedicatedMediaLanguage)
+    const KeywordRow *row = keywordRow(determineUI);
+    if (!row ||
+        (row->keyword == kDedicatedMedia && firstLanguageSetting() != kDedicatedMediaLanguage))
         return nullptr;
-    for (const KeywordRow &row : keywordRows()) {
-        if (row.keyword == determineUI)
-            return row.control;
-    }
-    return nullptr;
+    return row->control;
 }
 
 QWidget *VKInkPrintSetting14PDE::determineLabel(const QString &determineLabel) const
 {
-    for (const KeywordRow &row : keywordRows()) {
-        if (row.keyword == determineLabel)
-            return row.label;
-    }
-    return nullptr;
+    const KeywordRow *row = keywordRow(determineLabel);
+    return row ? row->label : nullptr;
 }
 
 std::optional<QStringList> VKInkPrintSetting14PDE::availablePPDOptionKeys() const

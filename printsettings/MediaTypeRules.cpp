@@ -48,7 +48,7 @@ void VKInkPrintSetting14PDE::setDefaultQuality(const QString &setDefaultQuality)
 
 void VKInkPrintSetting14PDE::setDefaults()
 {
-    for (const QString &keyword : PPDKeys.value_or(QStringList()))
+    for (const QString &keyword : managedKeywords())
         restoreDefault(keyword);
 }
 

@@ -4,9 +4,9 @@
 
 #include <QtCore/QSizeF>
 
-#include <array>
 #include <memory>
 #include <optional>
+#include <vector>
 
 class AdvancedOptionList;
 struct PMPaper;
@@ -162,7 +162,9 @@ private:
         QWidget *control;
         QWidget *label;
     };
-    std::array<KeywordRow, 16> keywordRows() const;
+    /// Empty before the view is loaded; kept from then on.
+    const std::vector<KeywordRow> &keywordRows() const;
+    const KeywordRow *keywordRow(const QString &keyword) const;
 
     void connectAlertWindows(ViewConnections &connections);
 
@@ -213,6 +215,8 @@ private:
 
     void addGroupRow(const QString &keyword);
     void addLocalizedRow(const char *key);
+
+    mutable std::vector<KeywordRow> keywordRows_;
 
     PopUpButton *resolutionPopup = nullptr;
     PopUpButton *mediaTypePopup = nullptr;

@@ -25,7 +25,7 @@ struct CommandLine
     QString paper;                  ///< --paper: a PageSize choice, or Custom.WIDTHxHEIGHT
     QString output;
     QString screenshot;
-    QString panel; ///< --panel: the name of a panel, or "summary"
+    QString panel; ///< --panel: the name of a panel, "setup" or "summary"
     QString record;
     QString replay; ///< "-": standard input
     QString plugIn;

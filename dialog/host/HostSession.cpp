@@ -23,7 +23,7 @@ HostSession::~HostSession()
 
 HostSession::Opened HostSession::open(const SessionOptions &options)
 {
-    OpenedPPD opened = openPPD(options.ppdPath);
+    OpenedPPD opened = openPPD(options.ppdPath, options.ppdTexts);
     if (!opened.ppd)
         return {nullptr, opened.error};
     std::unique_ptr<HostSession> session(new HostSession(options));

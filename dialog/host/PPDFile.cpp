@@ -57,7 +57,7 @@ bool isIncomplete(const QString &path, const ppd_file_t &ppd)
 
 } // namespace
 
-OpenedPPD openPPD(const QString &path)
+OpenedPPD openPPD(const QString &path, PPDTexts texts)
 {
     const QString reason = reasonNotToRead(path);
     if (!reason.isNull())
@@ -70,6 +70,8 @@ OpenedPPD openPPD(const QString &path)
                 sentence(QT_TRANSLATE_NOOP("PPDFile", "The PPD file %1 is incomplete: it ends too "
                                                       "early. Get it again."),
                          path)};
+    if (texts == PPDTexts::InUserLanguage)
+        ppdLocalize(ppd.get());
     ppdMarkDefaults(ppd.get());
     return {std::move(ppd), QString()};
 }

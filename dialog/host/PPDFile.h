@@ -21,7 +21,13 @@ struct OpenedPPD
     QString error;
 };
 
+/// In which language the PPD's texts are.
+enum class PPDTexts {
+    InUserLanguage, ///< where the PPD has the texts of the user's locale
+    AsWritten,      ///< the same for everybody
+};
+
 /// Opens the PPD file and marks its defaults. PPDs come from strangers: a file that is no regular
 /// file, larger than any printer's PPD, or not a PPD is refused before or by libcups' parser, and
 /// one that ends too early after it.
-OpenedPPD openPPD(const QString &path);
+OpenedPPD openPPD(const QString &path, PPDTexts texts = PPDTexts::AsWritten);

@@ -32,20 +32,22 @@ void unmark(ppd_file_t *ppd, ppd_choice_t *choice)
 
 bool forceChoice(ppd_file_t *ppd, const QString &keyword, const QString &choice)
 {
-    if (!findChoice(findOption(ppd, keyword), choice))
-        return false;
-    ppdMarkOption(ppd, ppdBytes(keyword).constData(), ppdBytes(choice).constData());
-    return true;
+    ppd_option_t *option = findOption(ppd, keyword);
+    const ppd_choice_t *wanted = findChoice(option, choice);
+    if (wanted)
+        ppdMarkOption(ppd, option->keyword, wanted->choice);
+    return wanted != nullptr;
 }
 
 bool markChoice(ppd_file_t *ppd, const QString &keyword, const QString &choice)
 {
-    ppd_choice_t *wanted = findChoice(findOption(ppd, keyword), choice);
+    ppd_option_t *option = findOption(ppd, keyword);
+    ppd_choice_t *wanted = findChoice(option, choice);
     const QString before = markedChoice(ppd, keyword);
     if (!wanted || before == choice)
         return wanted != nullptr;
     const auto conflictsBefore = conflictingOptions(ppd);
-    forceChoice(ppd, keyword, choice);
+    ppdMarkOption(ppd, option->keyword, wanted->choice);
     if (std::ranges::includes(conflictsBefore, conflictingOptions(ppd)))
         return true;
     if (!forceChoice(ppd, keyword, before))

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "dialog/host/HostCallback.h"
+#include "dialog/host/PPDFile.h"
 #include "platform/foundation/Bundle.h"
 #include "platform/pde/PDEPlugIn.h"
 #include "platform/printmanager/PMPageFormat.h"
@@ -31,6 +32,7 @@ struct SessionOptions
     /// The preferred languages of the process from then on; none: they are left alone.
     std::optional<QStringList> languages;
     Bundle::Strings strings = Bundle::Strings::Tables;
+    PPDTexts ppdTexts = PPDTexts::InUserLanguage;
     /// Replaces the stored alert memory of the plug-in; none: it is left alone.
     std::optional<QVariantMap> alertMemory;
 

@@ -57,13 +57,3 @@ QString refusalSentence(ppd_file_t *ppd, const QString &keyword, const QString &
                                                    "allow it together with %2."))
         .arg(choiceText(ppd, keyword, choice), quotedList(clashes));
 }
-
-QString clashSentence(ppd_file_t *ppd, const QString &keyword, const QString &choice)
-{
-    const QStringList clashes = clashesWith(ppd, keyword, choice);
-    if (clashes.isEmpty())
-        return {};
-    return sentence(QT_TRANSLATE_NOOP("Conflicts",
-                                      "The printer does not allow \"%1\" together with %2."))
-        .arg(choiceText(ppd, keyword, choice), quotedList(clashes));
-}

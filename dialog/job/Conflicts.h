@@ -14,7 +14,3 @@ QStringList clashesWith(ppd_file_t *ppd, const QString &keyword, const QString &
 
 /// One sentence on why the choice was refused; null when the PPD's constraints allow it.
 QString refusalSentence(ppd_file_t *ppd, const QString &keyword, const QString &choice);
-
-/// One sentence on the choice, which is marked, and what it does not go together with; null when
-/// nothing clashes.
-QString clashSentence(ppd_file_t *ppd, const QString &keyword, const QString &choice);

@@ -7,6 +7,21 @@
 
 #include <utility>
 
+namespace {
+
+/// Headline and explanation on one line.
+QString sentenceOf(const AlertContent &content)
+{
+    const QString headline = displayText(content.text).simplified();
+    const QString explanation = displayText(content.informative).simplified();
+    if (headline.isEmpty() || explanation.isEmpty())
+        return headline + explanation;
+    const bool isOpen = headline.back().isLetterOrNumber();
+    return headline + (isOpen ? QStringLiteral(". ") : QStringLiteral(" ")) + explanation;
+}
+
+} // namespace
+
 ScriptedAnswers::ScriptedAnswers(bool yes) : m_yes(yes), m_former(AlertObserver::alertObserver())
 {
     AlertObserver::setAlertObserver(this);
@@ -19,8 +34,7 @@ ScriptedAnswers::~ScriptedAnswers()
 
 void ScriptedAnswers::alertShown(const ShownAlert &alert)
 {
-    const QString said = alert.content.text + u' ' + alert.content.informative;
-    m_sentences += displayText(said).simplified();
+    m_sentences += sentenceOf(alert.content);
     if (alert.kind == ShownAlert::Kind::Sheet)
         m_sheets.push_back(alert);
     else

@@ -27,12 +27,6 @@ QString sentence(const char *text)
     return QCoreApplication::translate("SettingRequests", text);
 }
 
-QString cannotBeMade(const QString &keyword, const QString &choice, const QString &reason)
-{
-    return sentence(QT_TRANSLATE_NOOP("SettingRequests", "The setting %1=%2 cannot be made: %3."))
-        .arg(displayText(keyword), displayText(choice), reason);
-}
-
 QString badValue(const QString &keyword, const QString &choice)
 {
     return sentence(QT_TRANSLATE_NOOP("SettingRequests", "%2 is no value for %1."))
@@ -144,8 +138,9 @@ QString markByHost(PrintJob &job, const QString &keyword, const QString &choice)
 QString missing(PrintJob &job, const QString &keyword, const QString &choice)
 {
     if (!job.session())
-        return cannotBeMade(keyword, choice,
-                            sentence(QT_TRANSLATE_NOOP("SettingRequests", "the queue has no PPD")));
+        return sentence(
+                   QT_TRANSLATE_NOOP("SettingRequests", "%1 cannot be set: the queue has no PPD."))
+            .arg(displayText(keyword));
     ppd_option_t *option = findOption(job.ppd(), keyword);
     if (!option)
         return sentence(QT_TRANSLATE_NOOP("SettingRequests", "The printer has no setting %1."))
@@ -170,8 +165,11 @@ QString makeSetting(PrintJob &job, const QString &keyword, const QString &choice
     const std::optional<QString> picked = pickInPanel(*job.session(), keyword, choice);
     if (!picked)
         return markByHost(job, keyword, choice);
+    // The reason names parts of the view, which nobody knows by name.
     if (!picked->isNull())
-        return cannotBeMade(keyword, choice, *picked);
+        return sentence(QT_TRANSLATE_NOOP("SettingRequests", "%1=%2 cannot be chosen while the "
+                                                             "other settings are as they are."))
+            .arg(displayText(keyword), displayText(choice));
     if (refusal.keyword == keyword && refusal.choice == choice)
         return refusalSentence(job.ppd(), keyword, choice);
     return {};

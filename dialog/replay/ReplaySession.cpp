@@ -74,6 +74,7 @@ ReplaySession::Work ReplaySession::perform(const ReplayOpen &event)
 {
     SessionOptions options = event.options;
     options.bundlePath = m_bundlePath;
+    options.ppdTexts = PPDTexts::AsWritten; // a script gives the same on every machine
     options.callObserver = [this](const HostCallback::Call &call) { noteCall(call); };
     HostSession::Opened opened = HostSession::open(options);
     if (!opened.session)

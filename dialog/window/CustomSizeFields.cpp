@@ -8,6 +8,7 @@
 #include <QtWidgets/QLabel>
 
 #include <array>
+#include <cmath>
 
 namespace {
 
@@ -40,7 +41,7 @@ CustomSizeFields::CustomSizeFields(QWidget *parent)
     m_unit->setAccessibleName(tr("Unit"));
     auto *widthLabel = new QLabel(tr("&Width:"), this);
     widthLabel->setBuddy(m_width);
-    auto *heightLabel = new QLabel(tr("Hei&ght:"), this);
+    auto *heightLabel = new QLabel(tr("Heigh&t:"), this);
     heightLabel->setBuddy(m_height);
     auto *grid = new QGridLayout(this);
     grid->setContentsMargins(0, 0, 0, 0);
@@ -133,18 +134,22 @@ void CustomSizeFields::judge()
 
 QString CustomSizeFields::word(double length, double least, double most) const
 {
-    const Unit &unit = kUnits[static_cast<std::size_t>(m_unit->currentIndex())];
-    const auto text = [&](double points) {
-        return QLocale().toString(points / unit.points, 'f', unit.decimals) + u' ' +
-               m_unit->currentText();
-    };
     switch (faultOfLength(length, least, most)) {
     case LengthFault::TooSmall:
-        return tr("Too small: at least %1.").arg(text(least));
+        return tr("Too small: at least %1.").arg(limitText(least, std::ceil));
     case LengthFault::TooLarge:
-        return tr("Too large: at most %1.").arg(text(most));
+        return tr("Too large: at most %1.").arg(limitText(most, std::floor));
     case LengthFault::None:
         break;
     }
     return {};
+}
+
+/// The limit in the chosen unit, rounded to the side on which it can be typed.
+QString CustomSizeFields::limitText(double points, double (*round)(double)) const
+{
+    const Unit &unit = kUnits[static_cast<std::size_t>(m_unit->currentIndex())];
+    const double scale = std::pow(10, unit.decimals);
+    const double limit = round(points / unit.points * scale) / scale;
+    return QLocale().toString(limit, 'f', unit.decimals) + u' ' + m_unit->currentText();
 }

@@ -38,6 +38,7 @@ private:
     void changeUnit();
     void judge();
     QString word(double length, double least, double most) const;
+    QString limitText(double points, double (*round)(double)) const;
 
     QDoubleSpinBox *m_width;
     QDoubleSpinBox *m_height;

@@ -17,6 +17,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
+constexpr auto kPageSetup = "setup"_L1;
 constexpr auto kSummary = "summary"_L1;
 
 /// Whether the panel has anything to show for this PPD.
@@ -38,7 +39,7 @@ void DialogWindow::buildParts()
     removeParts();
     const QSignalBlocker quiet(m_tabs);
     m_pageSetup->reload();
-    m_parts.push_back({QString(), m_pageSetup, nullptr});
+    m_parts.push_back({kPageSetup, m_pageSetup, nullptr});
     m_tabs->addTab(m_pageSetup, tr("Page Setup"));
     if (m_job.session())
         for (const HostPanel &panel : m_job.session()->panels()) {

@@ -19,7 +19,7 @@ constexpr std::array kParagraphs{
                       "Page Setup holds the paper, its orientation, two-sided printing and what "
                       "else the printer leaves to this dialog. A size of your own is entered below "
                       "the paper; a word beside the field says when the printer cannot take it."),
-    QT_TRANSLATE_NOOP("HostHelp", "\"Scale to fit\" prints the document on another paper than it "
+    QT_TRANSLATE_NOOP("HostHelp", "\"Scale to Fit\" prints the document on another paper than it "
                                   "was made for, and makes it larger or smaller to fill that."),
     QT_TRANSLATE_NOOP("HostHelp", "When the printer does not allow two settings together, the "
                                   "second one is not made, and a line above the tabs names both."),

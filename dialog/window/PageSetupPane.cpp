@@ -177,11 +177,11 @@ void PageSetupPane::addOrientation(QFormLayout *form)
 void PageSetupPane::addScaling(QFormLayout *form)
 {
     std::vector<PopUpButton::Item> items = paperItems(m_job.ppd());
-    items.insert(items.begin(), {tr("Do not scale"), QString(), {}});
+    items.insert(items.begin(), {tr("Do Not Scale"), QString(), {}});
     PopUpButton *popup = newPopUp(u"scalePopup"_s);
     popup->setItems(items);
     popup->selectObject(m_job.mappedPaper());
-    form->addRow(tr("&Scale to fit:"), popup);
+    form->addRow(tr("&Scale to Fit:"), popup);
     connect(popup, &QComboBox::activated, this, [this, popup] {
         const QString paper = popup->selectedObject();
         m_job.setMappedPaper(paper.isEmpty() ? QString() : paper);
@@ -216,10 +216,10 @@ void PageSetupPane::chooseOption(const QString &keyword, PopUpButton *popup)
 void PageSetupPane::addColorMatching(QFormLayout *form)
 {
     const std::array<std::pair<QString, QString>, 2> titles{
-        {{u"matchByPrinterButton"_s, tr("By the p&rinter")},
-         {u"matchByApplicationButton"_s, tr("By the appl&ication")}}};
+        {{u"matchByPrinterButton"_s, tr("By the P&rinter")},
+         {u"matchByApplicationButton"_s, tr("By the Appl&ication")}}};
     const bool byApplication = m_job.colorMatching() == PrintJob::ColorMatching::Application;
-    form->addRow(tr("Color matching:"), newRadioPair(titles, byApplication ? 1 : 0, [this](int id) {
+    form->addRow(tr("Color Matching:"), newRadioPair(titles, byApplication ? 1 : 0, [this](int id) {
                      m_job.setColorMatching(id == 1 ? PrintJob::ColorMatching::Application
                                                     : PrintJob::ColorMatching::Printer);
                      Q_EMIT changed();

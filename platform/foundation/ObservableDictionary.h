@@ -7,6 +7,7 @@
 #include <QtCore/QVariant>
 
 #include <functional>
+#include <memory>
 #include <vector>
 
 /// A dictionary of mixed values that tells its observers of every write.
@@ -18,15 +19,35 @@ class VELKARO_PLATFORM_EXPORT ObservableDictionary
 public:
     using Observer = std::function<void()>;
 
+    /// What stands under one key.
+    class Entry
+    {
+    public:
+        /// Invalid when nothing does.
+        const QVariant &value() const { return m_value; }
+        /// The boolean value; false when nothing does.
+        bool isTrue() const { return m_isTrue; }
+
+    private:
+        friend class ObservableDictionary;
+        QVariant m_value;
+        bool m_isTrue = false;
+        std::vector<Observer> m_observers;
+    };
+
     ObservableDictionary() = default;
     ObservableDictionary(const ObservableDictionary &) = delete;
     ObservableDictionary &operator=(const ObservableDictionary &) = delete;
 
+    /// The entry of the key, for whoever reads it often: it can be had before the first write to
+    /// the key, and stays valid for as long as the dictionary lives.
+    const Entry &entry(const QString &key) { return entryOf(key); }
+
     /// The value under the key; invalid when there is none.
-    QVariant value(const QString &key) const { return m_values.value(key); }
+    QVariant value(const QString &key) const;
 
     /// The boolean value under the key; false when there is none.
-    bool boolValue(const QString &key) const { return value(key).toBool(); }
+    bool boolValue(const QString &key) const;
 
     /// Writes a value and tells the observers of the key. An invalid value removes the entry.
     void setValue(const QString &key, const QVariant &value);
@@ -34,9 +55,11 @@ public:
     /// Calls `observer` after every write to the key, for as long as the dictionary lives.
     void observe(const QString &key, Observer observer);
 
-    const QVariantMap &values() const { return m_values; }
+    /// All values.
+    QVariantMap values() const;
 
 private:
-    QVariantMap m_values;
-    QHash<QString, std::vector<Observer>> m_observers;
+    Entry &entryOf(const QString &key);
+
+    QHash<QString, std::shared_ptr<Entry>> m_entries;
 };

@@ -3,6 +3,9 @@
 #include <QtCore/QLocale>
 #include <QtCore/QRegularExpression>
 
+#include <cstdlib>
+#include <string>
+
 namespace {
 
 QStringList &chosenLanguages()
@@ -23,15 +26,39 @@ QStringList localeNames()
     return names;
 }
 
-QStringList systemLanguages()
+QStringList tagsOf(const QStringList &localeNames)
 {
     QStringList tags;
-    for (const QString &name : localeNames()) {
+    for (const QString &name : localeNames) {
         const QString tag = languageTag(name);
         if (!tag.isNull() && !tags.contains(tag))
             tags << tag;
     }
     return tags.isEmpty() ? QStringList{QStringLiteral("en")} : tags;
+}
+
+// The whole environment that the languages depend on.
+std::string environmentText()
+{
+    std::string text;
+    for (const char *variable : {"LANGUAGE", "LC_ALL", "LC_MESSAGES", "LANG"}) {
+        const char *value = std::getenv(variable);
+        text.append(value ? value : "").push_back('\n');
+    }
+    return text;
+}
+
+// Asked for at every pick: worked out again only when the environment has changed.
+QStringList systemLanguages()
+{
+    static std::string environment;
+    static QStringList tags;
+    const std::string now = environmentText();
+    if (tags.isEmpty() || environment != now) {
+        environment = now;
+        tags = tagsOf(localeNames());
+    }
+    return tags;
 }
 
 } // namespace

@@ -117,7 +117,7 @@ AlertResult runAlert(const AlertContent &content)
     const QPointer<QMessageBox> box = newBox(content).release();
     box->setWindowModality(Qt::ApplicationModal);
     if (AlertObserver *observer = AlertObserver::alertObserver()) {
-        QTimer::singleShot(0, box, [&] {
+        QTimer::singleShot(0, box, [observer, box, &content] {
             observer->alertShown(describe(*box, content, ShownAlert::Kind::Modal));
         });
     }

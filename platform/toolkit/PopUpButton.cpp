@@ -1,33 +1,20 @@
 #include "platform/toolkit/PopUpButton.h"
 
-#include <QtGui/QStandardItemModel>
+#include "platform/toolkit/PopUpModel.h"
+
 #include <QtGui/QWheelEvent>
 #include <QtWidgets/QStyle>
 #include <QtWidgets/QStyleOptionComboBox>
 
 namespace {
 
-constexpr int kRepresentedObject = Qt::UserRole;
 constexpr int kContentsLength = 12; // characters: wide enough for an ordinary choice
-
-QStandardItemModel *modelOf(const PopUpButton *button)
-{
-    return static_cast<QStandardItemModel *>(button->model());
-}
-
-QStandardItem *newItem(const PopUpButton::Item &item)
-{
-    auto *row = new QStandardItem(item.title);
-    row->setData(item.representedObject, kRepresentedObject);
-    if (!item.image.isNull())
-        row->setIcon(item.image);
-    return row;
-}
 
 } // namespace
 
-PopUpButton::PopUpButton(QWidget *parent) : QComboBox(parent)
+PopUpButton::PopUpButton(QWidget *parent) : QComboBox(parent), m_items(new PopUpModel(this))
 {
+    setModel(m_items);
     setFocusPolicy(Qt::StrongFocus);
 }
 
@@ -50,39 +37,23 @@ QSize PopUpButton::minimumSizeHint() const
 
 void PopUpButton::setItems(const std::vector<Item> &items)
 {
-    clear();
-    QList<QStandardItem *> rows;
-    rows.reserve(static_cast<qsizetype>(items.size()));
-    for (const Item &item : items)
-        rows << newItem(item);
-    modelOf(this)->invisibleRootItem()->appendRows(rows);
+    m_items->setItems(items);
     setCurrentIndex(items.empty() ? -1 : 0);
 }
 
 int PopUpButton::indexOfRepresentedObject(const QString &object) const
 {
-    // A missing string equals an empty one, and that of a cell without any.
-    if (object.isNull())
-        return -1;
-    for (int index = 0; index < count(); ++index) {
-        if (representedObject(index) == object)
-            return index;
-    }
-    return -1;
+    return m_items->rowOfObject(object);
 }
 
 int PopUpButton::indexOfTitle(const QString &title) const
 {
-    for (int index = 0; index < count(); ++index) {
-        if (itemText(index) == title)
-            return index;
-    }
-    return -1;
+    return m_items->rowOfTitle(title);
 }
 
 QString PopUpButton::representedObject(int index) const
 {
-    return itemData(index, kRepresentedObject).toString();
+    return m_items->representedObject(index);
 }
 
 bool PopUpButton::selectObject(const QString &object)
@@ -96,15 +67,12 @@ bool PopUpButton::selectObject(const QString &object)
 
 bool PopUpButton::isItemEnabled(int index) const
 {
-    const QStandardItem *item = modelOf(this)->item(index);
-    return item && item->isEnabled();
+    return m_items->isEnabled(index);
 }
 
 void PopUpButton::setItemEnabled(int index, bool enabled)
 {
-    QStandardItem *item = modelOf(this)->item(index);
-    if (item && item->isEnabled() != enabled)
-        item->setEnabled(enabled);
+    m_items->setEnabled(index, enabled);
 }
 
 void PopUpButton::pick(int index)

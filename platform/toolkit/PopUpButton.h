@@ -8,6 +8,8 @@
 
 #include <vector>
 
+class PopUpModel;
+
 /// A combo box whose items carry a represented object and can be disabled singly.
 ///
 /// Items are found by their represented object; the title is what people read. A user's pick is the
@@ -15,6 +17,8 @@
 class VELKARO_PLATFORM_EXPORT PopUpButton : public QComboBox
 {
     Q_OBJECT
+    /// The control's tag; a view resource gives it (ViewLoader.h). The rules ask for it often.
+    Q_PROPERTY(int tag MEMBER m_tag)
 
 public:
     struct Item
@@ -32,6 +36,8 @@ public:
     /// The index of the first item with the represented object, or title; -1 when there is none.
     int indexOfRepresentedObject(const QString &object) const;
     int indexOfTitle(const QString &title) const;
+
+    int tag() const { return m_tag; }
 
     /// Null for an index that is not there.
     QString representedObject(int index) const;
@@ -57,4 +63,8 @@ public:
 protected:
     /// A wheel that passes over the button by chance must not change a setting.
     void wheelEvent(QWheelEvent *event) override;
+
+private:
+    PopUpModel *m_items;
+    int m_tag = 0;
 };

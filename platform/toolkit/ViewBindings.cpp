@@ -10,6 +10,9 @@
 #include <QtWidgets/QAbstractButton>
 
 #include <algorithm>
+#include <array>
+#include <optional>
+#include <vector>
 
 namespace {
 
@@ -18,19 +21,58 @@ QString bindingOf(const QWidget *control, const char *property)
     return control->property(property).toString();
 }
 
-bool allTrue(const ObservableDictionary &dictionary, const QStringList &keys)
+// Several keys, all of which must be true.
+class Conjunction
 {
-    return std::all_of(keys.begin(), keys.end(),
-                       [&](const QString &key) { return dictionary.boolValue(key); });
-}
+public:
+    Conjunction(ObservableDictionary &dictionary, const QStringList &keys)
+    {
+        for (const QString &key : keys)
+            m_entries.push_back(&dictionary.entry(key));
+    }
+
+    bool holds() const
+    {
+        return std::all_of(m_entries.begin(), m_entries.end(),
+                           [](const auto *entry) { return entry->isTrue(); });
+    }
+
+private:
+    std::vector<const ObservableDictionary::Entry *> m_entries;
+};
+
+// The text colour that the named transformer gives for a condition. The rules write the same keys
+// again at every pick: the transformer is asked once for each of the two answers.
+class ConditionColor
+{
+public:
+    explicit ConditionColor(const QString &name) : m_name(name) {}
+
+    // None before the transformer is registered.
+    std::optional<ControlColor> color(bool holds)
+    {
+        std::optional<ControlColor> &color = m_colors[holds ? 1 : 0];
+        const auto transformer =
+            color ? nullptr : ValueTransformer::valueTransformerForName(m_name);
+        if (transformer)
+            color = transformer->transformedValue(holds).value<ControlColor>();
+        return color;
+    }
+
+private:
+    QString m_name;
+    std::array<std::optional<ControlColor>, 2> m_colors;
+};
 
 // Calls `apply` with the control now and after each write to one of the keys.
+template <typename Apply>
 void follow(QWidget *control, ObservableDictionary &dictionary, const QStringList &keys,
-            const std::function<void(QWidget *)> &apply)
+            Apply apply)
 {
-    const auto update = [guarded = QPointer<QWidget>(control), apply] {
+    const ObservableDictionary::Observer update = [guarded = QPointer<QWidget>(control),
+                                                   apply]() mutable {
         if (guarded)
-            apply(guarded);
+            apply(guarded.data());
     };
     for (const QString &key : keys)
         dictionary.observe(key, update);
@@ -40,16 +82,17 @@ void follow(QWidget *control, ObservableDictionary &dictionary, const QStringLis
 void bindEnabled(QWidget *control, ObservableDictionary &dictionary, const QString &binding)
 {
     const QStringList keys = binding.split(u',');
-    follow(control, dictionary, keys,
-           [&dictionary, keys](QWidget *bound) { bound->setEnabled(allTrue(dictionary, keys)); });
+    follow(control, dictionary, keys, [condition = Conjunction(dictionary, keys)](QWidget *bound) {
+        bound->setEnabled(condition.holds());
+    });
 }
 
 void bindHidden(QWidget *control, ObservableDictionary &dictionary, const QString &binding)
 {
     const bool negated = binding.startsWith(u'!');
     const QString key = negated ? binding.mid(1) : binding;
-    follow(control, dictionary, {key}, [&dictionary, key, negated](QWidget *bound) {
-        bound->setHidden(dictionary.boolValue(key) != negated);
+    follow(control, dictionary, {key}, [&entry = dictionary.entry(key), negated](QWidget *bound) {
+        bound->setHidden(entry.isTrue() != negated);
     });
 }
 
@@ -57,13 +100,12 @@ void bindTextColor(QWidget *control, ObservableDictionary &dictionary, const QSt
 {
     const QString name = binding.section(u':', 0, 0);
     const QStringList keys = binding.section(u':', 1).split(u',');
-    follow(control, dictionary, keys, [&dictionary, name, keys](QWidget *bound) {
-        const auto transformer = ValueTransformer::valueTransformerForName(name);
-        if (transformer)
-            setTextColor(
-                bound,
-                transformer->transformedValue(allTrue(dictionary, keys)).value<ControlColor>());
-    });
+    follow(control, dictionary, keys,
+           [condition = Conjunction(dictionary, keys),
+            colors = ConditionColor(name)](QWidget *bound) mutable {
+               if (const auto color = colors.color(condition.holds()))
+                   setTextColor(bound, *color);
+           });
 }
 
 void showValue(QWidget *control, const QVariant &value)

@@ -1,6 +1,7 @@
 #include "platform/toolkit/ViewLoader.h"
 
 #include "platform/toolkit/DisclosureButton.h"
+#include "platform/toolkit/ElidedLabel.h"
 #include "platform/toolkit/FractionSlider.h"
 #include "platform/toolkit/ImageView.h"
 #include "platform/toolkit/NumberField.h"
@@ -22,6 +23,7 @@ ViewConnections toolkitClasses()
 {
     ViewConnections classes;
     classes.widgetClass<DisclosureButton>(QStringLiteral("DisclosureButton"));
+    classes.widgetClass<ElidedLabel>(QStringLiteral("ElidedLabel"));
     classes.widgetClass<PopUpButton>(QStringLiteral("PopUpButton"));
     classes.widgetClass<RadioMatrix>(QStringLiteral("RadioMatrix"));
     classes.widgetClass<ImageView>(QStringLiteral("ImageView"));
@@ -118,8 +120,13 @@ LoadedView::LoadedView(QWidget *root, std::unique_ptr<ObservableDictionary> cont
                        const QHash<QString, QWidget *> &outlets)
     : m_content(std::move(content)), m_root(root)
 {
-    for (auto outlet = outlets.cbegin(); outlet != outlets.cend(); ++outlet)
+    for (auto outlet = outlets.cbegin(); outlet != outlets.cend(); ++outlet) {
         m_outlets.insert(outlet.key(), outlet.value());
+        if (outlet.value()->property("bind.enabled").isValid())
+            m_enabledBound.insert(outlet.value());
+        if (outlet.value()->property("bind.textColor").isValid())
+            m_textColorBound.insert(outlet.value());
+    }
 }
 
 LoadedView::~LoadedView()
@@ -171,6 +178,8 @@ std::unique_ptr<LoadedView> loadView(const QString &path, const ViewConnections 
 
 int tagOf(const QWidget *control)
 {
+    if (const auto *popup = qobject_cast<const PopUpButton *>(control))
+        return popup->tag();
     return control ? control->property("tag").toInt() : 0;
 }
 

@@ -6,6 +6,7 @@
 
 #include <QtCore/QHash>
 #include <QtCore/QPointer>
+#include <QtCore/QSet>
 #include <QtCore/QString>
 #include <QtWidgets/QWidget>
 
@@ -27,10 +28,16 @@ public:
     /// The widgets that became outlets of the owner, by name.
     QHash<QString, QWidget *> outlets() const;
 
+    /// Whether the view binds this state of the outlet.
+    bool bindsEnabled(const QWidget *outlet) const { return m_enabledBound.contains(outlet); }
+    bool bindsTextColor(const QWidget *outlet) const { return m_textColorBound.contains(outlet); }
+
 private:
     std::unique_ptr<ObservableDictionary> m_content;
     QPointer<QWidget> m_root;
     QHash<QString, QPointer<QWidget>> m_outlets;
+    QSet<const QWidget *> m_enabledBound;
+    QSet<const QWidget *> m_textColorBound;
 };
 
 /// Loads a view resource (a .ui file of Qt Designer) and connects it to its owner:

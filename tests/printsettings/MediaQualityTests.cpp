@@ -1,7 +1,7 @@
 #include "printsettings/MediaQuality.h"
 
 #include "tests/printsettings/MediaTable.h"
-#include "tests/support/QtPrinters.h"
+#include "tests/support/QStringPrinting.h"
 
 #include <gtest/gtest.h>
 

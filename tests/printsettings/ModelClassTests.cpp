@@ -1,6 +1,6 @@
 #include "printsettings/ModelClass.h"
 
-#include "tests/support/QtPrinters.h"
+#include "tests/support/QStringPrinting.h"
 
 #include <gtest/gtest.h>
 

@@ -3,7 +3,7 @@
 #include "printsettings/CustomSizes.h"
 #include "printsettings/DuplexPapers.h"
 #include "tests/support/PanelSession.h"
-#include "tests/support/QtPrinters.h"
+#include "tests/support/QStringPrinting.h"
 
 #include <gtest/gtest.h>
 

@@ -1,6 +1,6 @@
 #include "printsettings/PaperNames.h"
 
-#include "tests/support/QtPrinters.h"
+#include "tests/support/QStringPrinting.h"
 
 #include <QtCore/QStringList>
 #include <QtGui/QFont>

@@ -2,7 +2,7 @@
 #include "platform/pde/PDEPanelInspection.h"
 #include "plugin/VKInkQuality14PDEPlugIn.h"
 #include "tests/support/PanelSession.h"
-#include "tests/support/QtPrinters.h"
+#include "tests/support/QStringPrinting.h"
 
 #include <gtest/gtest.h>
 

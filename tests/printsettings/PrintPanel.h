@@ -3,7 +3,7 @@
 #include "platform/toolkit/PopUpButton.h"
 #include "printsettings/VKInkPrintSetting14PDE.h"
 #include "tests/support/PanelSession.h"
-#include "tests/support/QtPrinters.h"
+#include "tests/support/QStringPrinting.h"
 
 #include <QtWidgets/QAbstractButton>
 

@@ -1,7 +1,11 @@
 #include "platform/toolkit/ControlColor.h"
 #include "platform/toolkit/DisclosureButton.h"
+#include "platform/toolkit/ElidedLabel.h"
 #include "platform/toolkit/KeyWindow.h"
 #include "platform/toolkit/SizeWatch.h"
+
+#include "tests/support/CaseName.h"
+#include "tests/support/QStringPrinting.h"
 
 #include <gtest/gtest.h>
 
@@ -11,6 +15,8 @@
 #include <QtWidgets/QLabel>
 
 #include <memory>
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -73,6 +79,55 @@ TEST(DisclosureButtonTest, LooksFoldedAndUnfolded)
     const QImage folded = button.grab().toImage();
     button.setChecked(true);
     EXPECT_NE(button.grab().toImage(), folded);
+}
+
+struct ElideCase
+{
+    const char *behaviour;
+    QString text;
+    int characters; ///< the width, in widths of the letter n
+    QString tip;    ///< null: the text is shown whole
+};
+
+class Elided : public testing::TestWithParam<ElideCase>
+{};
+
+const ElideCase kElideCases[] = {
+    {"ShortTextIsWhole", u"nnnn"_s, 6, QString()},
+    {"LongTextIsCut", u"nnnnnnnnnnnn: "_s, 6, u"<p>nnnnnnnnnnnn:</p>"_s},
+    {"MarkupIsShown", u"<b>n & n</b>"_s, 40, QString()},
+    {"MarkupIsHarmlessInTheTip", u"nnnnnnnnn<b>&%1"_s, 6, u"<p>nnnnnnnnn&lt;b&gt;&amp;%1</p>"_s},
+};
+
+TEST_P(Elided, ShowsWhatFits)
+{
+    ElidedLabel label;
+    label.setText(GetParam().text);
+    label.resize(GetParam().characters * label.fontMetrics().horizontalAdvance(u'n') + 4, 20);
+    EXPECT_EQ(label.wholeTextTip(), GetParam().tip);
+    const QString shown = label.shownText();
+    if (GetParam().tip.isNull()) {
+        EXPECT_EQ(shown, GetParam().text);
+    } else {
+        EXPECT_TRUE(shown.endsWith(u'…')) << shown.toStdString();
+        EXPECT_TRUE(GetParam().text.startsWith(shown.chopped(1))) << shown.toStdString();
+    }
+    EXPECT_EQ(label.text(), GetParam().text);
+    EXPECT_EQ(label.textFormat(), Qt::PlainText);
+}
+
+INSTANTIATE_TEST_SUITE_P(Cases, Elided, testing::ValuesIn(kElideCases), CaseName());
+
+TEST(ElidedLabelTest, PaintsWithTheTextColourItIsGiven)
+{
+    ElidedLabel label;
+    label.setText(u"nnnn"_s);
+    label.resize(80, 20);
+    const QImage ordinary = label.grab().toImage();
+    setTextColor(&label, disabledControlTextColor());
+    EXPECT_NE(label.grab().toImage(), ordinary);
+    label.setText(QString());
+    EXPECT_NE(label.grab().toImage(), ordinary);
 }
 
 TEST(KeyWindowTest, IsNoneUntilTheDialogSaysSo)

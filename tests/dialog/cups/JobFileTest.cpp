@@ -1,5 +1,5 @@
 #include "dialog/cups/JobFile.h"
-#include "tests/endtoend/QtPrinting.h"
+#include "tests/endtoend/JobPrinting.h"
 
 #include <QtCore/QDir>
 #include <QtCore/QFile>

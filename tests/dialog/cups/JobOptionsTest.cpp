@@ -2,8 +2,8 @@
 #include "dialog/cups/StandardAttributes.h"
 #include "dialog/host/PPDFile.h"
 #include "dialog/host/PPDMarks.h"
+#include "tests/endtoend/JobPrinting.h"
 #include "tests/endtoend/PrintServer.h"
-#include "tests/endtoend/QtPrinting.h"
 
 #include <gtest/gtest.h>
 

@@ -1,5 +1,5 @@
 #include "dialog/cups/PageRanges.h"
-#include "tests/endtoend/QtPrinting.h"
+#include "tests/endtoend/JobPrinting.h"
 
 #include <gtest/gtest.h>
 

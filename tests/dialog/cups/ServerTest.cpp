@@ -6,8 +6,8 @@
 #include "dialog/cups/ServerCall.h"
 #include "dialog/host/PPDFile.h"
 #include "platform/pde/PPDText.h"
+#include "tests/endtoend/JobPrinting.h"
 #include "tests/endtoend/PrintServer.h"
-#include "tests/endtoend/QtPrinting.h"
 
 #include <QtCore/QDir>
 #include <QtCore/QElapsedTimer>

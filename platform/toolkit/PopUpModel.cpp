@@ -1,0 +1,88 @@
+#include "platform/toolkit/PopUpModel.h"
+
+#include <algorithm>
+
+void PopUpModel::setItems(const std::vector<PopUpButton::Item> &items)
+{
+    beginResetModel();
+    m_rows.clear();
+    m_rows.reserve(items.size());
+    m_rowOfObject.clear();
+    m_rowOfObject.reserve(static_cast<qsizetype>(items.size()));
+    for (const PopUpButton::Item &item : items) {
+        const bool isFirst = !m_rowOfObject.contains(item.representedObject);
+        if (isFirst && !item.representedObject.isNull())
+            m_rowOfObject.insert(item.representedObject, static_cast<int>(m_rows.size()));
+        m_rows.push_back({item});
+    }
+    endResetModel();
+}
+
+const PopUpModel::Row *PopUpModel::rowAt(int row) const
+{
+    const bool there = row >= 0 && row < static_cast<int>(m_rows.size());
+    return there ? &m_rows[static_cast<std::size_t>(row)] : nullptr;
+}
+
+int PopUpModel::rowOfObject(const QString &object) const
+{
+    // A missing string equals an empty one, which an item may have.
+    return object.isNull() ? -1 : m_rowOfObject.value(object, -1);
+}
+
+int PopUpModel::rowOfTitle(const QString &title) const
+{
+    const auto row = std::find_if(m_rows.begin(), m_rows.end(), [&](const Row &candidate) {
+        return candidate.item.title == title;
+    });
+    return row == m_rows.end() ? -1 : static_cast<int>(row - m_rows.begin());
+}
+
+QString PopUpModel::representedObject(int row) const
+{
+    const Row *found = rowAt(row);
+    return found ? found->item.representedObject : QString();
+}
+
+bool PopUpModel::isEnabled(int row) const
+{
+    const Row *found = rowAt(row);
+    return found && found->enabled;
+}
+
+void PopUpModel::setEnabled(int row, bool enabled)
+{
+    const Row *found = rowAt(row);
+    if (!found || found->enabled == enabled)
+        return;
+    m_rows[static_cast<std::size_t>(row)].enabled = enabled;
+    Q_EMIT dataChanged(index(row), index(row));
+}
+
+int PopUpModel::rowCount(const QModelIndex &parent) const
+{
+    return parent.isValid() ? 0 : static_cast<int>(m_rows.size());
+}
+
+QVariant PopUpModel::data(const QModelIndex &index, int role) const
+{
+    const Row *row = rowAt(index.row());
+    if (!row)
+        return {};
+    switch (role) {
+    case Qt::DisplayRole:
+        return row->item.title;
+    case Qt::DecorationRole:
+        return row->item.image;
+    case Qt::UserRole:
+        return row->item.representedObject;
+    default:
+        return {};
+    }
+}
+
+Qt::ItemFlags PopUpModel::flags(const QModelIndex &index) const
+{
+    const Qt::ItemFlags selectable = Qt::ItemIsSelectable | Qt::ItemNeverHasChildren;
+    return isEnabled(index.row()) ? selectable | Qt::ItemIsEnabled : selectable;
+}

@@ -1,0 +1,47 @@
+#pragma once
+
+#include "platform/toolkit/PopUpButton.h"
+
+#include <QtCore/QAbstractListModel>
+#include <QtCore/QHash>
+
+#include <vector>
+
+/// The items of a pop-up button. A printer may have thousands of choices, and the rules look a
+/// dozen of them up at every pick: they are found by a hash of their represented objects.
+class PopUpModel : public QAbstractListModel
+{
+public:
+    using QAbstractListModel::QAbstractListModel;
+
+    /// Replaces all items, all of them enabled.
+    void setItems(const std::vector<PopUpButton::Item> &items);
+
+    /// The row of the first item with the represented object or title; -1 without one. No item is
+    /// found by a null object.
+    int rowOfObject(const QString &object) const;
+    int rowOfTitle(const QString &title) const;
+
+    /// Null for a row that is not there.
+    QString representedObject(int row) const;
+
+    /// False for a row that is not there.
+    bool isEnabled(int row) const;
+    void setEnabled(int row, bool enabled);
+
+    int rowCount(const QModelIndex &parent = QModelIndex()) const override;
+    QVariant data(const QModelIndex &index, int role) const override;
+    Qt::ItemFlags flags(const QModelIndex &index) const override;
+
+private:
+    struct Row
+    {
+        PopUpButton::Item item;
+        bool enabled = true;
+    };
+
+    const Row *rowAt(int row) const;
+
+    std::vector<Row> m_rows;
+    QHash<QString, int> m_rowOfObject;
+};

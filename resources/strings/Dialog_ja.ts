@@ -1,0 +1,588 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="ja" sourcelanguage="en">
+<context>
+    <name>CommandLine</name>
+    <message>
+        <source>&quot;%1&quot; is not the name of a queue.</source>
+        <translation>「%1」はプリンターキューの名前ではありません。</translation>
+    </message>
+    <message>
+        <source>-o needs KEY=VALUE, not &quot;%1&quot;.</source>
+        <translation>-o には KEY=VALUE の形で指定してください（「%1」は使えません）。</translation>
+    </message>
+    <message>
+        <source>%1 needs a value.</source>
+        <translation>%1 には値が必要です。</translation>
+    </message>
+    <message>
+        <source>There is no option %1.</source>
+        <translation>%1 というオプションはありません。</translation>
+    </message>
+    <message>
+        <source>%1 takes no value.</source>
+        <translation>%1 に値は指定できません。</translation>
+    </message>
+    <message>
+        <source>--replay and --record do not go together.</source>
+        <translation>--replay と --record は同時に使えません。</translation>
+    </message>
+    <message>
+        <source>--no-dialog and --screenshot do not go together.</source>
+        <translation>--no-dialog と --screenshot は同時に使えません。</translation>
+    </message>
+    <message>
+        <source>--no-dialog needs a document to print.</source>
+        <translation>--no-dialog には印刷する書類が必要です。</translation>
+    </message>
+    <message>
+        <source>--yes is for --no-dialog.</source>
+        <translation>--yes は --no-dialog と一緒に使います。</translation>
+    </message>
+</context>
+<context>
+    <name>Conflicts</name>
+    <message>
+        <source>&quot;%1&quot;</source>
+        <translation>「%1」</translation>
+    </message>
+    <message>
+        <source>, </source>
+        <translation>、</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; cannot be chosen: the printer does not allow it together with %2.</source>
+        <translation>「%1」は選べません。このプリンターでは %2 と同時に使えません。</translation>
+    </message>
+</context>
+<context>
+    <name>CustomSizeFields</name>
+    <message>
+        <source>mm</source>
+        <translation>mm</translation>
+    </message>
+    <message>
+        <source>inches</source>
+        <translation>インチ</translation>
+    </message>
+    <message>
+        <source>Unit</source>
+        <translation>単位</translation>
+    </message>
+    <message>
+        <source>&amp;Width:</source>
+        <translation>幅(&amp;W):</translation>
+    </message>
+    <message>
+        <source>Too small: at least %1.</source>
+        <translation>小さすぎます（%1 以上）。</translation>
+    </message>
+    <message>
+        <source>Too large: at most %1.</source>
+        <translation>大きすぎます（%1 以下）。</translation>
+    </message>
+    <message>
+        <source>Heigh&amp;t:</source>
+        <translation>高さ(&amp;T):</translation>
+    </message>
+</context>
+<context>
+    <name>DialogWindow</name>
+    <message>
+        <source>Velkaro Print</source>
+        <translation>Velkaro Print</translation>
+    </message>
+    <message>
+        <source>Page Setup</source>
+        <translation>ページ設定</translation>
+    </message>
+    <message>
+        <source>Summary</source>
+        <translation>設定一覧</translation>
+    </message>
+    <message>
+        <source>The settings of this panel cannot be shown: a part of the plug-in is missing. Install Velkaro Print again.</source>
+        <translation>プラグインの一部が見つからないため、この設定画面を表示できません。Velkaro Print をインストールし直してください。</translation>
+    </message>
+    <message>
+        <source>Paper</source>
+        <translation>用紙</translation>
+    </message>
+    <message>
+        <source>Scaled to fit</source>
+        <translation>拡大縮小先の用紙</translation>
+    </message>
+    <message>
+        <source>Orientation</source>
+        <translation>向き</translation>
+    </message>
+    <message>
+        <source>Landscape</source>
+        <translation>横</translation>
+    </message>
+    <message>
+        <source>Portrait</source>
+        <translation>縦</translation>
+    </message>
+    <message>
+        <source>Copies</source>
+        <translation>部数</translation>
+    </message>
+    <message>
+        <source>Pages</source>
+        <translation>ページ</translation>
+    </message>
+    <message>
+        <source>All</source>
+        <translation>すべて</translation>
+    </message>
+    <message>
+        <source>Save Job</source>
+        <translation>印刷ジョブの保存</translation>
+    </message>
+    <message>
+        <source>Print jobs (*.velkaro-job);;All files (*)</source>
+        <translation>印刷ジョブ (*.velkaro-job);;すべてのファイル (*)</translation>
+    </message>
+    <message>
+        <source>Sending the job to %1…</source>
+        <translation>%1 に送信しています…</translation>
+    </message>
+    <message>
+        <source>Job %1 was accepted. %2</source>
+        <translation>ジョブ %1 は受け付けられました。%2</translation>
+    </message>
+    <message>
+        <source>Looking for a printer…</source>
+        <translation>プリンターを探しています…</translation>
+    </message>
+    <message>
+        <source>Asking %1 about its settings…</source>
+        <translation>%1 の設定を読み込んでいます…</translation>
+    </message>
+    <message>
+        <source>%1 It prints with the settings of this dialog alone.</source>
+        <translation>%1 この画面の設定だけで印刷します。</translation>
+    </message>
+    <message>
+        <source>There is no printer to print to.</source>
+        <translation>印刷できるプリンターがありません。</translation>
+    </message>
+    <message>
+        <source>There is no panel %1.</source>
+        <translation>%1 という設定画面はありません。</translation>
+    </message>
+    <message>
+        <source>This printer has none of the settings that the panels are for. It prints with the settings of this dialog alone.</source>
+        <translation>このプリンターには専用の設定項目がありません。この画面の設定だけで印刷します。</translation>
+    </message>
+    <message>
+        <source>Choose a document to print.</source>
+        <translation>印刷する書類を選んでください。</translation>
+    </message>
+    <message>
+        <source>No queue was chosen: the job can be saved to a file.</source>
+        <translation>プリンターキューが選ばれていません。ジョブはファイルに保存できます。</translation>
+    </message>
+    <message>
+        <source>Print</source>
+        <translation>プリント</translation>
+    </message>
+    <message>
+        <source>Help</source>
+        <translation>ヘルプ</translation>
+    </message>
+    <message>
+        <source>Save to &amp;File…</source>
+        <translation>ファイルに保存(&amp;F)…</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>キャンセル</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>保存</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>閉じる</translation>
+    </message>
+    <message>
+        <source>Choose Documents</source>
+        <translation>書類の選択</translation>
+    </message>
+    <message>
+        <source>Documents (*.pdf *.ps *.txt *.png *.jpg *.jpeg);;All files (*)</source>
+        <translation>書類 (*.pdf *.ps *.txt *.png *.jpg *.jpeg);;すべてのファイル (*)</translation>
+    </message>
+</context>
+<context>
+    <name>DocumentFile</name>
+    <message>
+        <source>The document %1 does not exist.</source>
+        <translation>書類 %1 がありません。</translation>
+    </message>
+    <message>
+        <source>%1 is a folder, not a document.</source>
+        <translation>%1 は書類ではなくフォルダーです。</translation>
+    </message>
+    <message>
+        <source>The document %1 is empty.</source>
+        <translation>書類 %1 は空です。</translation>
+    </message>
+    <message>
+        <source>The document %1 cannot be read: %2.</source>
+        <translation>書類 %1 を読み込めません（%2）。</translation>
+    </message>
+</context>
+<context>
+    <name>HostHelp</name>
+    <message>
+        <source>Page Setup holds the paper, its orientation, two-sided printing and what else the printer leaves to this dialog. A size of your own is entered below the paper; a word beside the field says when the printer cannot take it.</source>
+        <translation>「ページ設定」では、用紙、向き、両面印刷など、この画面で決める項目を選びます。任意の用紙サイズは用紙の下に入力します。プリンターで使えない大きさのときは、入力欄の横に表示されます。</translation>
+    </message>
+    <message>
+        <source>When the printer does not allow two settings together, the second one is not made, and a line above the tabs names both.</source>
+        <translation>同時に使えない設定を選んだときは、後から選んだ設定は変更されず、両方の名前がタブの上に表示されます。</translation>
+    </message>
+    <message>
+        <source>Summary lists everything that will be printed with. &quot;Save to File&quot; keeps the job with its documents; send it later with velkaro-print --no-dialog.</source>
+        <translation>「設定一覧」には、印刷に使われるすべての設定が表示されます。「ファイルに保存」を選ぶと、ジョブを書類と一緒に保存します。保存したジョブは velkaro-print --no-dialog で後から送信できます。</translation>
+    </message>
+    <message>
+        <source>Print Help</source>
+        <translation>プリントのヘルプ</translation>
+    </message>
+    <message>
+        <source>&quot;Scale to Fit&quot; prints the document on another paper than it was made for, and makes it larger or smaller to fill that.</source>
+        <translation>「用紙に合わせる」を選ぶと、書類を別の用紙に合わせて拡大または縮小して印刷します。</translation>
+    </message>
+</context>
+<context>
+    <name>JobDelivery</name>
+    <message>
+        <source>No queue was named to print to; -d QUEUE names one, --output FILE keeps the job.</source>
+        <translation>印刷先のキューが指定されていません。-d QUEUE で指定するか、--output FILE でファイルに保存してください。</translation>
+    </message>
+    <message>
+        <source>%1 accepted job %2.</source>
+        <translation>%1 がジョブ %2 を受け付けました。</translation>
+    </message>
+    <message>
+        <source>The job was written to %1.</source>
+        <translation>ジョブを %1 に保存しました。</translation>
+    </message>
+    <message>
+        <source>%1 is a saved job: it is sent as it was saved, without -o, --paper and --output.</source>
+        <translation>%1 は保存されたジョブです。保存したときの設定で送信するため、-o、--paper、--output は使えません。</translation>
+    </message>
+</context>
+<context>
+    <name>JobFile</name>
+    <message>
+        <source>The file %1 cannot be written: %2.</source>
+        <translation>ファイル %1 に書き込めません（%2）。</translation>
+    </message>
+    <message>
+        <source>%1 is no ordinary file: it cannot be kept in a job.</source>
+        <translation>%1 は通常のファイルではないため、ジョブに保存できません。</translation>
+    </message>
+    <message>
+        <source>The document %1 cannot be read to its end.</source>
+        <translation>書類 %1 を最後まで読み込めません。</translation>
+    </message>
+    <message>
+        <source>%1 is no saved job.</source>
+        <translation>%1 は保存されたジョブではありません。</translation>
+    </message>
+    <message>
+        <source>The saved job %1 is damaged.</source>
+        <translation>保存されたジョブ %1 は壊れています。</translation>
+    </message>
+</context>
+<context>
+    <name>JobHeader</name>
+    <message>
+        <source>C&amp;hoose…</source>
+        <translation>選択(&amp;H)…</translation>
+    </message>
+    <message>
+        <source>All, or 1-3, 5</source>
+        <translation>すべて、または 1-3, 5</translation>
+    </message>
+    <message>
+        <source>Document:</source>
+        <translation>書類:</translation>
+    </message>
+    <message>
+        <source>Pri&amp;nter:</source>
+        <translation>プリンター(&amp;N):</translation>
+    </message>
+    <message>
+        <source>&amp;Copies:</source>
+        <translation>部数(&amp;C):</translation>
+    </message>
+    <message>
+        <source>Pa&amp;ges:</source>
+        <translation>ページ(&amp;G):</translation>
+    </message>
+    <message>
+        <source>No document</source>
+        <translation>書類なし</translation>
+    </message>
+    <message>
+        <source>Pages look like this: 1-3, 5</source>
+        <translation>「1-3, 5」のように入力してください</translation>
+    </message>
+</context>
+<context>
+    <name>JobOptions</name>
+    <message>
+        <source>The setting %1 cannot be sent: &quot;%2&quot; is no value that a print server may be given.</source>
+        <translation>設定 %1 は送信できません。「%2」はプリントサーバーに渡せない値です。</translation>
+    </message>
+</context>
+<context>
+    <name>JobReadBack</name>
+    <message>
+        <source>The server holds job %1 (%2).</source>
+        <translation>サーバーがジョブ %1 を保留しています（%2）。</translation>
+    </message>
+    <message>
+        <source>The server dropped the setting %1=%2.</source>
+        <translation>サーバーが設定 %1=%2 を受け付けませんでした。</translation>
+    </message>
+    <message>
+        <source>The server changed the setting %1 from %2 to %3.</source>
+        <translation>サーバーが設定 %1 を %2 から %3 に変更しました。</translation>
+    </message>
+</context>
+<context>
+    <name>NoDialogCommand</name>
+    <message>
+        <source>No printer was chosen and there is no default one; -d QUEUE names one.</source>
+        <translation>プリンターが選ばれておらず、デフォルトのプリンターもありません。-d QUEUE で指定してください。</translation>
+    </message>
+    <message>
+        <source>The printer&apos;s settings do not allow this job.</source>
+        <translation>プリンターの設定により、このジョブは印刷できません。</translation>
+    </message>
+</context>
+<context>
+    <name>PPDFile</name>
+    <message>
+        <source>The PPD file %1 does not exist.</source>
+        <translation>PPD ファイル %1 がありません。</translation>
+    </message>
+    <message>
+        <source>%1 is not a PPD file.</source>
+        <translation>%1 は PPD ファイルではありません。</translation>
+    </message>
+    <message>
+        <source>The PPD file %1 cannot be read.</source>
+        <translation>PPD ファイル %1 を読み込めません。</translation>
+    </message>
+    <message>
+        <source>The PPD file %1 is too large.</source>
+        <translation>PPD ファイル %1 は大きすぎます。</translation>
+    </message>
+    <message>
+        <source>%1 is not a PPD file (%2).</source>
+        <translation>%1 は PPD ファイルではありません（%2）。</translation>
+    </message>
+    <message>
+        <source>%1 is not a usable PPD file (line %2: %3).</source>
+        <translation>%1 は使用できない PPD ファイルです（%2 行目: %3）。</translation>
+    </message>
+    <message>
+        <source>The PPD file %1 is incomplete: it ends too early. Get it again.</source>
+        <translation>PPD ファイル %1 は途中で終わっています。入手し直してください。</translation>
+    </message>
+</context>
+<context>
+    <name>PageSetupPane</name>
+    <message>
+        <source>Custom Size</source>
+        <translation>カスタムサイズ</translation>
+    </message>
+    <message>
+        <source>&amp;Paper:</source>
+        <translation>用紙(&amp;P):</translation>
+    </message>
+    <message>
+        <source>P&amp;ortrait</source>
+        <translation>縦(&amp;O)</translation>
+    </message>
+    <message>
+        <source>&amp;Landscape</source>
+        <translation>横(&amp;L)</translation>
+    </message>
+    <message>
+        <source>Orientation:</source>
+        <translation>向き:</translation>
+    </message>
+    <message>
+        <source>%1:</source>
+        <translation>%1:</translation>
+    </message>
+    <message>
+        <source>Do Not Scale</source>
+        <translation>拡大縮小しない</translation>
+    </message>
+    <message>
+        <source>&amp;Scale to Fit:</source>
+        <translation>用紙に合わせる(&amp;S):</translation>
+    </message>
+    <message>
+        <source>By the P&amp;rinter</source>
+        <translation>プリンター(&amp;R)</translation>
+    </message>
+    <message>
+        <source>By the Appl&amp;ication</source>
+        <translation>アプリケーション(&amp;I)</translation>
+    </message>
+    <message>
+        <source>Color Matching:</source>
+        <translation>カラーマッチング:</translation>
+    </message>
+</context>
+<context>
+    <name>PlugInLoader</name>
+    <message>
+        <source>The printer&apos;s settings are missing: there is no plug-in at %1. Install Velkaro Print again.</source>
+        <translation>プリンターの設定が見つかりません。%1 にプラグインがありません。Velkaro Print をインストールし直してください。</translation>
+    </message>
+    <message>
+        <source>The plug-in %1 is incomplete: it has no readable Info.json. Install Velkaro Print again.</source>
+        <translation>プラグイン %1 が不完全です。Info.json を読み込めません。Velkaro Print をインストールし直してください。</translation>
+    </message>
+    <message>
+        <source>The plug-in %1 is incomplete: its library is missing. Install Velkaro Print again.</source>
+        <translation>プラグイン %1 が不完全です。ライブラリがありません。Velkaro Print をインストールし直してください。</translation>
+    </message>
+    <message>
+        <source>%1 is not a plug-in of this print dialog.</source>
+        <translation>%1 はこのプリント画面のプラグインではありません。</translation>
+    </message>
+    <message>
+        <source>The plug-in %1 was made for another version of this print dialog. Install the same version of both.</source>
+        <translation>プラグイン %1 は別のバージョンのプリント画面用です。同じバージョンをインストールしてください。</translation>
+    </message>
+    <message>
+        <source>The plug-in %1 could not be loaded.</source>
+        <translation>プラグイン %1 を読み込めませんでした。</translation>
+    </message>
+    <message>
+        <source>The plug-in %1 cannot be used with this print dialog.</source>
+        <translation>プラグイン %1 はこのプリント画面では使用できません。</translation>
+    </message>
+</context>
+<context>
+    <name>PrinterPopUp</name>
+    <message>
+        <source>No printer</source>
+        <translation>プリンターなし</translation>
+    </message>
+    <message>
+        <source>Searching for printers…</source>
+        <translation>プリンターを検索しています…</translation>
+    </message>
+    <message>
+        <source>Takes no jobs at present</source>
+        <translation>現在ジョブを受け付けていません</translation>
+    </message>
+    <message>
+        <source>Stopped: jobs wait</source>
+        <translation>停止中: ジョブは待機します</translation>
+    </message>
+</context>
+<context>
+    <name>Recorder</name>
+    <message>
+        <source>The PPD cannot be copied to %1: %2</source>
+        <translation>PPD を %1 にコピーできません（%2）</translation>
+    </message>
+    <message>
+        <source>The script %1 cannot be written: %2</source>
+        <translation>スクリプト %1 に書き込めません（%2）</translation>
+    </message>
+</context>
+<context>
+    <name>Screenshot</name>
+    <message>
+        <source>The picture %1 cannot be written: %2.</source>
+        <translation>画像 %1 を保存できません（%2）。</translation>
+    </message>
+</context>
+<context>
+    <name>Server</name>
+    <message>
+        <source>There is no room in the temporary folder for the PPD of the queue %1.</source>
+        <translation>一時フォルダーに空きがないため、キュー %1 の PPD を保存できません。</translation>
+    </message>
+    <message>
+        <source>The queue %1 has no PPD.</source>
+        <translation>キュー %1 には PPD がありません。</translation>
+    </message>
+    <message>
+        <source>The PPD of the queue %1 is too large.</source>
+        <translation>キュー %1 の PPD は大きすぎます。</translation>
+    </message>
+    <message>
+        <source>The print server %1 cannot be reached.</source>
+        <translation>プリントサーバー %1 に接続できません。</translation>
+    </message>
+    <message>
+        <source>The print server %1 broke off: %2.</source>
+        <translation>プリントサーバー %1 との接続が切れました（%2）。</translation>
+    </message>
+    <message>
+        <source>Printing was cancelled.</source>
+        <translation>印刷はキャンセルされました。</translation>
+    </message>
+    <message>
+        <source>The print server %1 has no queue %2.</source>
+        <translation>プリントサーバー %1 に %2 というキューはありません。</translation>
+    </message>
+    <message>
+        <source>The print server %1 lets nobody print to %2 without a password.</source>
+        <translation>プリントサーバー %1 では、パスワードなしで %2 に印刷できません。</translation>
+    </message>
+    <message>
+        <source>The print server %1 refused: %2</source>
+        <translation>プリントサーバー %1 に拒否されました: %2</translation>
+    </message>
+    <message>
+        <source>The print server %1 does not answer.</source>
+        <translation>プリントサーバー %1 が応答しません。</translation>
+    </message>
+</context>
+<context>
+    <name>SettingRequests</name>
+    <message>
+        <source>%2 is no value for %1.</source>
+        <translation>%2 は %1 の値として使えません。</translation>
+    </message>
+    <message>
+        <source>%1 cannot be set: the queue has no PPD.</source>
+        <translation>キューに PPD がないため、%1 は設定できません。</translation>
+    </message>
+    <message>
+        <source>The printer has no setting %1.</source>
+        <translation>プリンターに %1 という設定はありません。</translation>
+    </message>
+    <message>
+        <source>%1=%2 cannot be chosen while the other settings are as they are.</source>
+        <translation>現在のほかの設定では、%1=%2 は選べません。</translation>
+    </message>
+    <message>
+        <source>The printer has no paper %1.</source>
+        <translation>プリンターに %1 という用紙はありません。</translation>
+    </message>
+    <message>
+        <source>The printer takes no paper of a size of your own.</source>
+        <translation>このプリンターではカスタムサイズの用紙は使えません。</translation>
+    </message>
+</context>
+</TS>

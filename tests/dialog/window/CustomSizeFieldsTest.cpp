@@ -1,0 +1,80 @@
+#include "dialog/window/CustomSizeFields.h"
+#include "tests/endtoend/JobPrinting.h"
+
+#include <QtTest/QTest>
+#include <QtWidgets/QComboBox>
+#include <QtWidgets/QDoubleSpinBox>
+#include <QtWidgets/QLabel>
+
+#include <gtest/gtest.h>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+class CustomSize : public testing::Test
+{
+protected:
+    CustomSize()
+    {
+        m_fields.setLimits({182, 936, 298, 1369}); // 64.2 × 105.1 mm to 330.2 × 483 mm
+        m_fields.setSize(595, 842);
+        QObject::connect(&m_fields, &CustomSizeFields::edited, &m_fields, [this] { ++m_edits; });
+        m_fields.show();
+    }
+
+    QString word(const char *name)
+    {
+        return m_fields.findChild<QLabel *>(QLatin1String(name))->text();
+    }
+
+    void type(const char *name, const char *text)
+    {
+        auto *field = m_fields.findChild<QDoubleSpinBox *>(QLatin1String(name));
+        field->selectAll();
+        QTest::keyClicks(field, QLatin1String(text));
+    }
+
+    void chooseUnit(int index)
+    {
+        auto *unit = m_fields.findChild<QComboBox *>(u"customUnit"_s);
+        unit->setCurrentIndex(index);
+        Q_EMIT unit->activated(index);
+    }
+
+    CustomSizeFields m_fields;
+    int m_edits = 0;
+};
+
+TEST_F(CustomSize, SaysBesideTheFieldWhatIsWrongWithALength)
+{
+    chooseUnit(0);
+    type("customWidth", "50");
+    EXPECT_EQ(word("customWidthWord"), u"Too small: at least 64.3 mm."_s);
+    EXPECT_EQ(word("customHeightWord"), u""_s);
+    EXPECT_FALSE(m_fields.isAcceptable());
+    type("customHeight", "500");
+    EXPECT_EQ(word("customHeightWord"), u"Too large: at most 482.9 mm."_s);
+    type("customWidth", "64.3"); // the limits, as the words have them
+    type("customHeight", "482.9");
+    EXPECT_EQ(word("customWidthWord"), u""_s);
+    EXPECT_EQ(word("customHeightWord"), u""_s);
+    EXPECT_TRUE(m_fields.isAcceptable());
+    EXPECT_GT(m_edits, 0);
+}
+
+TEST_F(CustomSize, KeepsTheSizeWhenTheUnitChanges)
+{
+    chooseUnit(1);
+    EXPECT_EQ(m_fields.paperWidth(), 595);
+    EXPECT_EQ(m_fields.paperHeight(), 842);
+    EXPECT_EQ(m_edits, 0);
+    type("customWidth", "8.5");
+    EXPECT_DOUBLE_EQ(m_fields.paperWidth(), 612);
+    type("customWidth", "1");
+    EXPECT_EQ(word("customWidthWord"), u"Too small: at least 2.53 inches."_s);
+    chooseUnit(0);
+    EXPECT_EQ(word("customWidthWord"), u"Too small: at least 64.3 mm."_s);
+}
+
+} // namespace

@@ -1,0 +1,250 @@
+#include "tests/endtoend/JobPrinting.h"
+#include "tests/endtoend/PrintServerFixture.h"
+#include "tests/endtoend/ProgramRun.h"
+
+#include <QtNetwork/QTcpServer>
+
+#include <cups/ipp.h>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+class Command : public PrintServerFixture
+{
+protected:
+    /// Prints a PDF to the queue with these options besides.
+    ProgramRun print(const QStringList &options)
+    {
+        return runProgram(
+            QStringList{u"--no-dialog"_s, u"-h"_s, server().address(), u"-d"_s, u"photo"_s} +
+            options + QStringList{pdf()});
+    }
+
+    /// Every option of the job that is the printer's or the plug-in's.
+    QMap<QString, QString> settingsOf(int job)
+    {
+        QMap<QString, QString> settings;
+        const QMap<QString, QString> all = server().jobAttributes(u"photo"_s, job);
+        for (auto one = all.cbegin(); one != all.cend(); ++one)
+            if (one.key().startsWith(u"VK"_s) || one.key().startsWith(u"com."_s) ||
+                one.key() == u"Duplex"_s || one.key() == u"PageSize"_s)
+                settings.insert(one.key(), one.value());
+        return settings;
+    }
+};
+
+/// The vendor values of a job whose panels nobody has touched.
+QMap<QString, QString> plainTicket()
+{
+    QMap<QString, QString> ticket;
+    for (const char *name : {"Brightness", "Contrast", "Red", "Green", "Blue"})
+        ticket.insert(u"com.velkaro.print.PrintSettings.T2T_"_s + QLatin1String(name), u"0"_s);
+    return ticket;
+}
+
+TEST_F(Command, AChoiceArrivesInTheJobAndInThePrinter)
+{
+    const ProgramRun run = print({u"-o"_s, u"VKMediaType=Glossy"_s});
+    EXPECT_EQ(run.status, 0) << run.errors.toStdString();
+    EXPECT_EQ(run.errors, u""_s);
+    const QList<int> jobs = newJobs();
+    ASSERT_EQ(jobs.size(), 1);
+    EXPECT_EQ(run.output, u"photo accepted job %1.\n"_s.arg(jobs[0]));
+
+    QMap<QString, QString> expected = plainTicket();
+    expected.insert(u"com.velkaro.print.PrintSettings.advancedItem"_s, u"false"_s);
+    expected.insert(u"VKMediaType"_s, u"Glossy"_s);
+    expected.insert(u"VKResolution"_s, u"Photo"_s);
+    expected.insert(u"VKBiDir"_s, u"OFF"_s);
+    expected.insert(u"VKColorMatching"_s, u"Natural"_s);
+    EXPECT_EQ(settingsOf(jobs[0]), expected);
+
+    EXPECT_EQ(server().waitForJob(u"photo"_s, jobs[0]), IPP_JSTATE_COMPLETED);
+    EXPECT_TRUE(printed().contains("%% VKMediaType=Glossy"));
+    EXPECT_FALSE(printed().contains("%% VKMediaType=Plain"));
+}
+
+TEST_F(Command, TwoSidedPlainPaperArrivesAsTheTwoSidedMedium)
+{
+    ASSERT_EQ(print({u"-o"_s, u"Duplex=DuplexNoTumble"_s}).status, 0);
+    ASSERT_EQ(newJobs().size(), 1);
+    QMap<QString, QString> expected = plainTicket();
+    expected.insert(u"Duplex"_s, u"DuplexNoTumble"_s);
+    expected.insert(u"VKMediaType"_s, u"PlainDuplex"_s);
+    EXPECT_EQ(settingsOf(newJobs()[0]), expected);
+}
+
+TEST_F(Command, ABorderlessPhotoJobArrivesAsPicked)
+{
+    const ProgramRun run =
+        print({u"--paper"_s, u"A4.Fullbleed"_s, u"-o"_s, u"VKMediaType=Glossy"_s, u"-o"_s,
+               u"VKColorEnhancement=ON"_s, u"-o"_s, u"VKBrightness=-7"_s, u"-o"_s, u"copies=2"_s});
+    ASSERT_EQ(run.status, 0) << run.errors.toStdString();
+    ASSERT_EQ(newJobs().size(), 1);
+    const QMap<QString, QString> job = server().jobAttributes(u"photo"_s, newJobs()[0]);
+    EXPECT_EQ(job.value(u"PageSize"_s), u"A4.Fullbleed"_s);
+    EXPECT_FALSE(job.contains(u"media"_s));
+    EXPECT_EQ(job.value(u"VKMediaType"_s), u"Glossy"_s);
+    EXPECT_EQ(job.value(u"VKColorEnhancement"_s), u"ON"_s);
+    EXPECT_EQ(job.value(u"com.velkaro.print.PrintSettings.T2T_Brightness"_s), u"-7"_s);
+    EXPECT_EQ(job.value(u"copies"_s), u"2"_s);
+}
+
+TEST_F(Command, AJobThatACheckVetoesIsNotInTheQueue)
+{
+    const ProgramRun run = print({u"--paper"_s, u"120x120mm"_s});
+    EXPECT_EQ(run.status, 3);
+    EXPECT_EQ(run.output, u""_s);
+    EXPECT_TRUE(run.errors.startsWith(u"velkaro-print: Is the disc in the disc tray?"_s))
+        << run.errors.toStdString();
+    EXPECT_EQ(run.errors.count(u'\n'), 1);
+    EXPECT_EQ(newJobs(), QList<int>());
+}
+
+TEST_F(Command, YesAnswersTheCheck)
+{
+    ASSERT_EQ(print({u"--paper"_s, u"120x120mm"_s, u"--yes"_s}).status, 0);
+    ASSERT_EQ(newJobs().size(), 1);
+    const QMap<QString, QString> settings = settingsOf(newJobs()[0]);
+    EXPECT_EQ(settings.value(u"PageSize"_s), u"120x120mm"_s);
+    EXPECT_EQ(settings.value(u"VKMediaType"_s), u"PrintableDisc"_s);
+}
+
+TEST_F(Command, AJobInAFileIsSentLater)
+{
+    const QString file = inFolder(u"later.velkaro-job"_s);
+    ASSERT_EQ(print({u"-o"_s, u"VKMediaType=Glossy"_s, u"--output"_s, file}).status, 0);
+    EXPECT_EQ(newJobs(), QList<int>());
+    const ProgramRun run = runProgram({u"--no-dialog"_s, u"-h"_s, server().address(), file});
+    ASSERT_EQ(run.status, 0) << run.errors.toStdString();
+    ASSERT_EQ(newJobs().size(), 1);
+    EXPECT_EQ(settingsOf(newJobs()[0]).value(u"VKMediaType"_s), u"Glossy"_s);
+    EXPECT_EQ(server().jobAttributes(u"photo"_s, newJobs()[0]).value(u"job-name"_s),
+              u"document.pdf"_s);
+}
+
+TEST_F(Command, AQueueWithoutAPPDPrintsWithTheHostsOwnSettings)
+{
+    ASSERT_TRUE(server().addQueue(u"raw"_s, QString()));
+    const ProgramRun run = runProgram({u"--no-dialog"_s, u"-h"_s, server().address(), u"-d"_s,
+                                       u"raw"_s, u"-o"_s, u"copies=3"_s, pdf()});
+    ASSERT_EQ(run.status, 0) << run.errors.toStdString();
+    ASSERT_EQ(server().jobs(u"raw"_s).size(), 1);
+    EXPECT_EQ(server().jobAttributes(u"raw"_s, server().jobs(u"raw"_s)[0]).value(u"copies"_s),
+              u"3"_s);
+    const ProgramRun refused = runProgram({u"--no-dialog"_s, u"-h"_s, server().address(), u"-d"_s,
+                                           u"raw"_s, u"-o"_s, u"VKMediaType=Glossy"_s, pdf()});
+    EXPECT_EQ(refused.status, 2);
+    EXPECT_EQ(refused.errors,
+              u"velkaro-print: VKMediaType cannot be set: the queue has no PPD.\n"_s);
+}
+
+struct Fault
+{
+    const char *name;
+    QStringList options;
+    int status;
+    const char *sentence;
+};
+
+void PrintTo(const Fault &row, std::ostream *out)
+{
+    *out << row.name;
+}
+
+class FaultyCommand : public Command, public testing::WithParamInterface<Fault>
+{};
+
+TEST_P(FaultyCommand, IsSaidInOneSentenceAndPrintsNothing)
+{
+    const ProgramRun run = print(GetParam().options);
+    EXPECT_EQ(run.status, GetParam().status);
+    EXPECT_EQ(run.output, u""_s);
+    EXPECT_EQ(run.errors.toStdString(),
+              std::string("velkaro-print: ") + GetParam().sentence + '\n');
+    EXPECT_EQ(newJobs(), QList<int>());
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Table, FaultyCommand,
+    testing::Values(
+        Fault{"UnknownSetting", {u"-o"_s, u"NoSuch=1"_s}, 2, "The printer has no setting NoSuch."},
+        Fault{"UnknownChoice",
+              {u"-o"_s, u"VKMediaType=NoSuch"_s},
+              2,
+              "NoSuch is no value for VKMediaType."},
+        Fault{"UnknownPaper", {u"--paper"_s, u"NoSuch"_s}, 2, "The printer has no paper NoSuch."},
+        Fault{"DisabledSlider",
+              {u"-o"_s, u"VKBrightness=3"_s},
+              2,
+              "VKBrightness=3 cannot be chosen while the other settings are as they are."},
+        Fault{"BadCopies", {u"-o"_s, u"copies=0"_s}, 2, "0 is no value for copies."},
+        Fault{"UnknownQueue",
+              {u"--ppd"_s, u"/nonexistent.ppd"_s},
+              2,
+              "The PPD file /nonexistent.ppd does not exist."},
+        Fault{"NoPlugIn",
+              {u"--plug-in"_s, u"/nonexistent.bundle"_s},
+              7,
+              "The printer's settings are missing: there is no plug-in at /nonexistent.bundle. "
+              "Install Velkaro Print again."},
+        Fault{"MissingDocument",
+              {u"/nonexistent.pdf"_s},
+              4,
+              "The document /nonexistent.pdf does not exist."},
+        Fault{"OutputFolderMissing",
+              {u"--output"_s, u"/nonexistent/job"_s},
+              5,
+              "The file /nonexistent/job cannot be written: No such file or directory."}),
+    [](const auto &row) { return std::string(row.param.name); });
+
+TEST_F(Command, AServerThatIsDownIsSaid)
+{
+    const QString address = u"127.0.0.1:%1"_s.arg(freePort());
+    const ProgramRun run =
+        runProgram({u"--no-dialog"_s, u"-h"_s, address, u"-d"_s, u"photo"_s, pdf()});
+    EXPECT_EQ(run.status, 6);
+    EXPECT_EQ(run.errors,
+              u"velkaro-print: The print server %1 cannot be reached.\n"_s.arg(address));
+}
+
+TEST_F(Command, AServerThatIsDownWhenTheJobIsReadyIsSaid)
+{
+    const QString address = u"127.0.0.1:%1"_s.arg(freePort());
+    const ProgramRun run = runProgram({u"--no-dialog"_s, u"-h"_s, address, u"-d"_s, u"photo"_s,
+                                       u"--ppd"_s, samplePPD(u"velkaro-px-t900"_s), pdf()});
+    EXPECT_EQ(run.status, 6);
+    EXPECT_EQ(run.errors,
+              u"velkaro-print: The print server %1 cannot be reached.\n"_s.arg(address));
+}
+
+TEST_F(Command, AServerThatNeverAnswersIsGivenUp)
+{
+    QTcpServer silent; // the system accepts connections, nobody answers
+    ASSERT_TRUE(silent.listen(QHostAddress::LocalHost));
+    const QString address = u"127.0.0.1:%1"_s.arg(silent.serverPort());
+    const ProgramRun run =
+        runProgram({u"--no-dialog"_s, u"-h"_s, address, u"-d"_s, u"photo"_s, pdf()});
+    EXPECT_EQ(run.status, 6);
+    EXPECT_EQ(run.errors, u"velkaro-print: The print server %1 does not answer.\n"_s.arg(address));
+}
+
+TEST_F(Command, AnUnknownQueueIsSaid)
+{
+    const ProgramRun run =
+        runProgram({u"--no-dialog"_s, u"-h"_s, server().address(), u"-d"_s, u"nobody"_s, pdf()});
+    EXPECT_EQ(run.status, 6);
+    EXPECT_EQ(run.errors, u"velkaro-print: The print server %1 has no queue nobody.\n"_s.arg(
+                              server().address()));
+}
+
+TEST_F(Command, WithoutAnyDefaultQueueAQueueMustBeNamed)
+{
+    const ProgramRun run = runProgram({u"--no-dialog"_s, u"-h"_s, server().address(), pdf()});
+    EXPECT_EQ(run.status, 2);
+    EXPECT_EQ(run.errors, u"velkaro-print: No printer was chosen and there is no default one; -d "
+                          "QUEUE names one.\n"_s);
+}
+
+} // namespace

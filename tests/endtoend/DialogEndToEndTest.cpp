@@ -1,0 +1,215 @@
+#include "dialog/window/DialogWindow.h"
+#include "platform/foundation/UserDefaults.h"
+#include "platform/toolkit/PopUpButton.h"
+#include "tests/endtoend/JobPrinting.h"
+#include "tests/endtoend/PrintServerFixture.h"
+
+#include <QtCore/QTimer>
+#include <QtNetwork/QTcpServer>
+#include <QtTest/QTest>
+#include <QtWidgets/QAbstractButton>
+#include <QtWidgets/QAbstractItemView>
+#include <QtWidgets/QApplication>
+#include <QtWidgets/QMessageBox>
+#include <QtWidgets/QTabWidget>
+
+#include <cups/ipp.h>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int kPatience = 20000; // ms
+
+/// The real dialog on a queue of a real server, used with the mouse and the keyboard.
+class Dialog : public PrintServerFixture
+{
+protected:
+    Dialog() { UserDefaults::standardUserDefaults().setFolder(QString()); }
+
+    CommandLine lineFor(const QString &address, const QString &queue)
+    {
+        CommandLine line;
+        line.server = address;
+        line.queue = queue;
+        line.plugIn = QStringLiteral(VELKARO_BUNDLE);
+        line.files = {pdf()};
+        return line;
+    }
+
+    /// The dialog on the screen, when its printer has been found or not.
+    std::unique_ptr<DialogWindow> open(const CommandLine &line)
+    {
+        auto window = std::make_unique<DialogWindow>(line);
+        window->start();
+        window->show();
+        EXPECT_TRUE(QTest::qWaitForWindowActive(window.get()));
+        waitWhile(*window, DialogWindow::State::Searching);
+        return window;
+    }
+
+    static void waitWhile(const DialogWindow &window, DialogWindow::State state)
+    {
+        EXPECT_TRUE(QTest::qWaitFor([&] { return window.state() != state; }, kPatience));
+    }
+
+    template <typename Widget> static Widget *part(const QWidget &window, const char *name)
+    {
+        auto *found = window.findChild<Widget *>(QLatin1String(name));
+        EXPECT_NE(found, nullptr) << name;
+        return found;
+    }
+
+    static void click(const QWidget &window, const char *button)
+    {
+        QTest::mouseClick(part<QAbstractButton>(window, button), Qt::LeftButton);
+    }
+
+    /// Opens the pop-up's list with a click and takes the item with Return.
+    static void pick(const QWidget &window, const char *name, const QString &choice)
+    {
+        auto *popup = part<PopUpButton>(window, name);
+        ASSERT_TRUE(popup->isVisible()) << name;
+        const int index = popup->indexOfRepresentedObject(choice);
+        ASSERT_GE(index, 0) << choice.toStdString();
+        QTest::mouseClick(popup, Qt::LeftButton);
+        QAbstractItemView *list = popup->view();
+        ASSERT_TRUE(QTest::qWaitFor([&] { return list->isVisible(); }));
+        list->setCurrentIndex(list->model()->index(index, 0));
+        QTest::keyClick(list, Qt::Key_Return);
+        ASSERT_EQ(popup->currentIndex(), index);
+    }
+};
+
+TEST_F(Dialog, APickThatIsPrintedArrivesInTheJobAndInThePrinter)
+{
+    const auto window = open(lineFor(server().address(), u"photo"_s));
+    ASSERT_EQ(window->state(), DialogWindow::State::Ready)
+        << window->notice().sentence().toStdString();
+    pick(*window, "mediaTypePopup", u"Glossy"_s);
+    click(*window, "printButton");
+    waitWhile(*window, DialogWindow::State::Sending);
+    EXPECT_EQ(window->exitStatus(), ExitStatus::Done) << window->notice().sentence().toStdString();
+    EXPECT_FALSE(window->isVisible());
+    ASSERT_EQ(newJobs().size(), 1);
+    const QMap<QString, QString> job = server().jobAttributes(u"photo"_s, newJobs()[0]);
+    EXPECT_EQ(job.value(u"VKMediaType"_s), u"Glossy"_s);
+    EXPECT_EQ(job.value(u"VKResolution"_s), u"Photo"_s);
+    EXPECT_EQ(job.value(u"com.velkaro.print.PrintSettings.T2T_Brightness"_s), u"0"_s);
+    EXPECT_EQ(job.value(u"com.velkaro.print.PrintSettings.advancedItem"_s), u"false"_s);
+    EXPECT_EQ(server().waitForJob(u"photo"_s, newJobs()[0]), IPP_JSTATE_COMPLETED);
+    EXPECT_TRUE(printed().contains("%% VKMediaType=Glossy"));
+}
+
+TEST_F(Dialog, APaperThatIsPickedReachesThePanelsAndTheJob)
+{
+    const auto window = open(lineFor(server().address(), u"photo"_s));
+    part<QTabWidget>(*window, "parts")->setCurrentIndex(0);
+    pick(*window, "paperPopup", u"A4.Fullbleed"_s);
+    pick(*window, "DuplexPopup", u"DuplexTumble"_s);
+    click(*window, "landscapeButton");
+    QTest::keyClick(window.get(), Qt::Key_Return); // Print is the default button
+    waitWhile(*window, DialogWindow::State::Sending);
+    ASSERT_EQ(newJobs().size(), 1) << window->notice().sentence().toStdString();
+    const QMap<QString, QString> job = server().jobAttributes(u"photo"_s, newJobs()[0]);
+    EXPECT_EQ(job.value(u"PageSize"_s), u"A4.Fullbleed"_s);
+    EXPECT_EQ(job.value(u"Duplex"_s), u"DuplexTumble"_s);
+    EXPECT_EQ(job.value(u"VKMediaType"_s), u"PlainDuplex"_s);
+    EXPECT_EQ(job.value(u"orientation-requested"_s), u"4"_s);
+}
+
+TEST_F(Dialog, AVetoedJobIsNotInTheQueueAndTheDialogStaysOpen)
+{
+    CommandLine line = lineFor(server().address(), u"photo"_s);
+    line.paper = u"120x120mm"_s;
+    const auto window = open(line);
+    QTimer::singleShot(0, window.get(), [&] {
+        ASSERT_TRUE(QTest::qWaitFor([] { return QApplication::activeModalWidget() != nullptr; }));
+        auto *alert = qobject_cast<QMessageBox *>(QApplication::activeModalWidget());
+        ASSERT_NE(alert, nullptr);
+        QTest::keyClick(alert, Qt::Key_Escape);
+    });
+    click(*window, "printButton");
+    EXPECT_EQ(window->state(), DialogWindow::State::Ready);
+    EXPECT_TRUE(window->isVisible());
+    EXPECT_EQ(newJobs(), QList<int>());
+    QTest::keyClick(window.get(), Qt::Key_Escape);
+    EXPECT_FALSE(window->isVisible());
+    EXPECT_EQ(window->exitStatus(), ExitStatus::Cancelled);
+}
+
+TEST_F(Dialog, AQueueWithoutAPPDIsSaidAndPrintsWithTheDialogsOwnSettings)
+{
+    ASSERT_TRUE(server().addQueue(u"plain"_s, QString()));
+    const auto window = open(lineFor(server().address(), u"plain"_s));
+    ASSERT_EQ(window->state(), DialogWindow::State::Ready);
+    EXPECT_EQ(window->notice().sentence(),
+              u"The queue plain has no PPD. It prints with the settings "
+              "of this dialog alone."_s);
+    QTest::keyClick(part<QWidget>(*window, "copiesField"), Qt::Key_Up);
+    click(*window, "printButton");
+    waitWhile(*window, DialogWindow::State::Sending);
+    ASSERT_EQ(server().jobs(u"plain"_s).size(), 1);
+    EXPECT_EQ(server().jobAttributes(u"plain"_s, server().jobs(u"plain"_s)[0]).value(u"copies"_s),
+              u"2"_s);
+}
+
+TEST_F(Dialog, AServerThatIsDownAtTheStartIsSaid)
+{
+    const QString address = u"127.0.0.1:%1"_s.arg(freePort());
+    const auto window = open(lineFor(address, u"photo"_s));
+    EXPECT_EQ(window->state(), DialogWindow::State::NoPrinter);
+    EXPECT_EQ(window->notice().sentence(),
+              u"The print server %1 cannot be reached."_s.arg(address));
+    EXPECT_FALSE(part<QAbstractButton>(*window, "printButton")->isEnabled());
+}
+
+TEST_F(Dialog, AServerThatGoesDownLosesNothingOfTheJob)
+{
+    PrintServer other;
+    ASSERT_EQ(other.fault(), QString());
+    ASSERT_TRUE(other.addQueue(u"photo"_s, samplePPD(u"velkaro-px-t900"_s)));
+    const auto window = open(lineFor(other.address(), u"photo"_s));
+    ASSERT_EQ(window->state(), DialogWindow::State::Ready);
+    pick(*window, "mediaTypePopup", u"Glossy"_s);
+    other.stop();
+    click(*window, "printButton");
+    waitWhile(*window, DialogWindow::State::Sending);
+    EXPECT_EQ(window->state(), DialogWindow::State::Ready);
+    EXPECT_EQ(window->notice().sentence(),
+              u"The print server %1 cannot be reached."_s.arg(other.address()));
+    EXPECT_EQ(part<PopUpButton>(*window, "mediaTypePopup")->selectedObject(), u"Glossy"_s);
+    EXPECT_EQ(window->exitStatus(), ExitStatus::Cancelled);
+}
+
+TEST_F(Dialog, StaysUsableWhileAServerIsSilent)
+{
+    QTcpServer silent; // the system accepts connections, nobody answers
+    ASSERT_TRUE(silent.listen(QHostAddress::LocalHost));
+    const QString address = u"127.0.0.1:%1"_s.arg(silent.serverPort());
+    DialogWindow window(lineFor(address, u"photo"_s));
+    window.start();
+    window.show();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
+    EXPECT_EQ(window.state(), DialogWindow::State::Searching);
+    EXPECT_EQ(window.notice().sentence(), u"Asking photo about its settings…"_s);
+    QTest::keyClick(&window, Qt::Key_Escape);
+    EXPECT_FALSE(window.isVisible());
+}
+
+TEST_F(Dialog, ListsThePrintersAndTakesAnotherOne)
+{
+    ASSERT_TRUE(server().addQueue(u"home"_s, samplePPD(u"velkaro-mx-j710dw"_s)));
+    const auto window = open(lineFor(server().address(), u"photo"_s));
+    auto *printers = part<PopUpButton>(*window, "printerPopup");
+    ASSERT_TRUE(
+        QTest::qWaitFor([&] { return printers->indexOfRepresentedObject(u"home"_s) >= 0; }));
+    EXPECT_EQ(printers->selectedObject(), u"photo"_s);
+    pick(*window, "printerPopup", u"home"_s);
+    waitWhile(*window, DialogWindow::State::Searching);
+    EXPECT_EQ(window->state(), DialogWindow::State::Ready);
+    EXPECT_EQ(window->job().source().queue.queue, u"home"_s);
+    EXPECT_TRUE(part<PopUpButton>(*window, "mediaTypePopup")->isVisible());
+}
+
+} // namespace

@@ -1,0 +1,29 @@
+#include "tests/endtoend/ProgramRun.h"
+
+#include <QtCore/QProcess>
+#include <QtCore/QTemporaryDir>
+
+namespace {
+
+constexpr int kPatience = 60000; // ms
+
+} // namespace
+
+ProgramRun runProgram(const QStringList &arguments)
+{
+    const QTemporaryDir home;
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert(QStringLiteral("HOME"), home.path());
+    environment.remove(QStringLiteral("XDG_CONFIG_HOME"));
+    QProcess process;
+    process.setProcessEnvironment(environment);
+    process.start(QStringLiteral(VELKARO_PROGRAM), arguments);
+    if (!process.waitForFinished(kPatience) || process.exitStatus() != QProcess::NormalExit) {
+        process.kill();
+        process.waitForFinished();
+        return {-1, QString::fromUtf8(process.readAllStandardOutput()),
+                QString::fromUtf8(process.readAllStandardError())};
+    }
+    return {process.exitCode(), QString::fromUtf8(process.readAllStandardOutput()),
+            QString::fromUtf8(process.readAllStandardError())};
+}

@@ -1,0 +1,15 @@
+#pragma once
+
+#include <QtCore/QString>
+#include <QtCore/QStringList>
+
+/// What a run of the program came to.
+struct ProgramRun
+{
+    int status = -1; ///< -1: it did not start, crashed, or never ended
+    QString output;
+    QString errors;
+};
+
+/// Runs velkaro-print of the build tree, without a display and with an empty home.
+ProgramRun runProgram(const QStringList &arguments);
