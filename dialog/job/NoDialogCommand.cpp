@@ -115,7 +115,10 @@ ExitStatus Run::open()
             m_recorder->attach(session, &recordError);
     });
     if (!printer.session)
-        return failWith(Usage, printer.error);
+        return failWith(Usage,
+                        source.ppdPath.isNull()
+                            ? errorOfQueue(printer.error, options.ppdPath, source.queue.queue)
+                            : printer.error);
     if (!recordError.isNull())
         return failWith(Output, recordError);
     const std::optional<PlugInFault> fault = printer.session->plugInFault();

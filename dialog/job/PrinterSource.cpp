@@ -3,6 +3,8 @@
 #include "dialog/cups/Destinations.h"
 #include "dialog/host/HostPaper.h"
 
+#include <QtCore/QCoreApplication>
+
 FetchedPrinter fetchPrinter(const PrinterSource &source, CallGuard &guard)
 {
     FetchedPrinter fetched;
@@ -20,6 +22,13 @@ FetchedPrinter fetchPrinter(const PrinterSource &source, CallGuard &guard)
 QueueName wantedQueue(const QString &queue, const QString &instance)
 {
     return queue.isNull() ? usualQueue() : QueueName{queue, instance};
+}
+
+QString errorOfQueue(const QString &error, const QString &path, const QString &queue)
+{
+    return QCoreApplication::translate("PrinterSource",
+                                       "The PPD of the queue %1 cannot be used. %2")
+        .arg(queue, QString(error).replace(path, queue + QStringLiteral(".ppd")));
 }
 
 OpenedPrinter openPrinter(const SessionOptions &options, const QList<JobOption> &saved,

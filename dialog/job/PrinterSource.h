@@ -41,6 +41,9 @@ struct OpenedPrinter
     QString error; ///< why the PPD cannot be used; null otherwise
 };
 
+/// The error of a PPD that was fetched into the file at `path`, as it concerns the queue.
+QString errorOfQueue(const QString &error, const QString &path, const QString &queue);
+
 /// Opens the PPD, marks what the user has saved for the queue, takes the PPD's texts in the user's
 /// language, and starts the panels. `beforeStart` may follow the session from its beginning.
 OpenedPrinter openPrinter(const SessionOptions &options, const QList<JobOption> &saved,

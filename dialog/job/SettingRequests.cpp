@@ -27,6 +27,13 @@ QString sentence(const char *text)
     return QCoreApplication::translate("SettingRequests", text);
 }
 
+QString notNow(const QString &keyword, const QString &choice)
+{
+    return sentence(QT_TRANSLATE_NOOP("SettingRequests", "%1=%2 cannot be chosen while the other "
+                                                         "settings are as they are."))
+        .arg(displayText(keyword), displayText(choice));
+}
+
 QString badValue(const QString &keyword, const QString &choice)
 {
     return sentence(QT_TRANSLATE_NOOP("SettingRequests", "%2 is no value for %1."))
@@ -167,12 +174,11 @@ QString makeSetting(PrintJob &job, const QString &keyword, const QString &choice
         return markByHost(job, keyword, choice);
     // The reason names parts of the view, which nobody knows by name.
     if (!picked->isNull())
-        return sentence(QT_TRANSLATE_NOOP("SettingRequests", "%1=%2 cannot be chosen while the "
-                                                             "other settings are as they are."))
-            .arg(displayText(keyword), displayText(choice));
-    if (refusal.keyword == keyword && refusal.choice == choice)
-        return refusalSentence(job.ppd(), keyword, choice);
-    return {};
+        return notNow(keyword, choice);
+    if (refusal.keyword != keyword || refusal.choice != choice)
+        return {};
+    const QString clash = refusalSentence(job.ppd(), keyword, choice);
+    return clash.isNull() ? notNow(keyword, choice) : clash;
 }
 
 QString choosePaper(PrintJob &job, const QString &paper)

@@ -26,7 +26,7 @@ QString kindName(ShownAlert::Kind kind)
     return u"window"_s;
 }
 
-// A window of the panel's own has no style; what it says is information.
+// Null for a window of the panel's own, which has no style.
 QString styleName(AlertStyle style)
 {
     switch (style) {
@@ -34,11 +34,12 @@ QString styleName(AlertStyle style)
         return u"warning"_s;
     case AlertStyle::Critical:
         return u"critical"_s;
-    case AlertStyle::None:
     case AlertStyle::Informational:
+        return u"informational"_s;
+    case AlertStyle::None:
         break;
     }
-    return u"informational"_s;
+    return {};
 }
 
 } // namespace
@@ -98,13 +99,7 @@ void AlertAnswerer::answer(std::size_t index)
 int AlertAnswerer::buttonFor(const Raised &raised)
 {
     const int wanted = raised.wanted.button.value_or(0);
-    if (wanted == 0 || wanted < raised.alert.buttons.size())
-        return wanted;
-    if (m_fault.isNull())
-        m_fault = u"the alert \"%1\" has no button %2: it got its first one"_s
-                      .arg(raised.alert.content.text)
-                      .arg(wanted);
-    return 0;
+    return wanted < raised.alert.buttons.size() ? wanted : 0;
 }
 
 QJsonObject AlertAnswerer::report(const Raised &raised)
@@ -112,7 +107,7 @@ QJsonObject AlertAnswerer::report(const Raised &raised)
     const AlertContent &content = raised.alert.content;
     return {
         {u"kind"_s, kindName(raised.alert.kind)},
-        {u"style"_s, styleName(content.style)},
+        {u"style"_s, textOrNull(styleName(content.style))},
         {u"title"_s, textOrNull(content.title)},
         {u"text"_s, content.text},
         {u"informative"_s, content.informative},
@@ -129,9 +124,4 @@ QJsonArray AlertAnswerer::takeReports()
     for (const Raised &raised : std::exchange(m_raised, {}))
         reports << report(raised);
     return reports;
-}
-
-QString AlertAnswerer::takeFault()
-{
-    return std::exchange(m_fault, QString());
 }

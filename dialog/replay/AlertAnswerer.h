@@ -30,10 +30,6 @@ public:
     /// sheet has been answered.
     QJsonArray takeReports();
 
-    /// One sentence about the first answer since the last call that named a button that the alert
-    /// does not have (it got its first one instead); null without one.
-    QString takeFault();
-
     void alertShown(const ShownAlert &alert) override;
 
 private:
@@ -47,11 +43,11 @@ private:
     };
 
     void answer(std::size_t index);
-    int buttonFor(const Raised &raised);
+    /// The wanted button; the first one where the alert has no such button.
+    static int buttonFor(const Raised &raised);
     static QJsonObject report(const Raised &raised);
 
     QList<ReplayAnswer> m_answers;
     std::vector<Raised> m_raised;
-    QString m_fault;
     AlertObserver *m_former;
 };

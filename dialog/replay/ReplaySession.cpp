@@ -7,26 +7,16 @@
 #include "platform/pde/PDEPanelInspection.h"
 #include "platform/toolkit/KeyWindow.h"
 
-#include <algorithm>
-#include <cmath>
 #include <utility>
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int kWindowWidth = 640; // of no consequence: nothing depends on a window's width
-
 bool needsSession(const ReplayAction &action)
 {
     return !std::holds_alternative<ReplayOpen>(action) &&
            !std::holds_alternative<ReplayState>(action);
-}
-
-// Windows have whole heights. Rounding up keeps "taller than" true for whole limits.
-int wholeHeight(double height)
-{
-    return static_cast<int>(std::ceil(std::clamp(height, 0.0, double(QWIDGETSIZE_MAX))));
 }
 
 } // namespace
@@ -44,13 +34,10 @@ ReplaySession::~ReplaySession()
 ReplaySession::Outcome ReplaySession::run(const ReplayEvent &event)
 {
     m_answerer.setAnswers(event.answers);
-    Work work = this->work(event.action);
+    const Work work = this->work(event.action);
     if (!work.fatal.isNull())
         return {QByteArray(), work.fatal};
     m_answerer.answerSheets();
-    const QString answerFault = m_answerer.takeFault();
-    if (work.error.isNull())
-        work.error = answerFault;
 
     OrderedMembers line{
         {u"event"_s, ++m_events}, {u"do"_s, event.kind}, {u"result"_s, work.result}};
@@ -94,15 +81,18 @@ ReplaySession::Work ReplaySession::perform(const ReplayOpen &event)
 void ReplaySession::openWindow(std::optional<double> height)
 {
     m_window = std::make_unique<QWidget>();
-    m_window->resize(kWindowWidth, wholeHeight(height.value_or(0)));
-    setKeyWindow(height ? m_window.get() : nullptr);
+    setWindowHeight(height);
+}
+
+// The window itself is never shown: only its height is spoken of, and alerts take it as their own.
+void ReplaySession::setWindowHeight(std::optional<double> height)
+{
+    setKeyWindow(height ? m_window.get() : nullptr, height);
 }
 
 ReplaySession::Work ReplaySession::perform(const ReplayWindow &event)
 {
-    if (event.height)
-        m_window->resize(kWindowWidth, wholeHeight(*event.height));
-    setKeyWindow(event.height ? m_window.get() : nullptr);
+    setWindowHeight(event.height);
     if (event.height)
         m_session->windowDidResize();
     return {};

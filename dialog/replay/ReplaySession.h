@@ -67,6 +67,7 @@ private:
     Work perform(const ReplayClose &event);
 
     void openWindow(std::optional<double> height);
+    void setWindowHeight(std::optional<double> height);
     void closeSession();
     void noteCall(const HostCallback::Call &call);
 

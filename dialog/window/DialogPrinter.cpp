@@ -80,7 +80,8 @@ void DialogWindow::openPPD(const PrinterSource &source, const QString &path)
     const QString title =
         printer.session ? ppdText(printer.session->ppd()->nickname) : QFileInfo(path).fileName();
     m_header->printers()->setCurrent(source.queue, isFile ? title : QString());
-    const QString error = printer.error;
+    const QString error =
+        isFile ? printer.error : errorOfQueue(printer.error, path, source.queue.queue);
     const bool isOpen = printer.session != nullptr;
     m_job.setPrinter(source, std::move(printer));
     buildParts();

@@ -77,6 +77,9 @@ void DialogWindow::buildLayout()
         m_notice->tell(NoticeBar::Kind::Warning, sentence);
     });
     connect(m_header->printers(), &PrinterPopUp::picked, this, [this](const QueueName &queue) {
+        // One that could not be reached may be tried again.
+        if (m_state == State::Ready && queue == m_job.source().queue)
+            return;
         closePrinter();
         findPrinter({m_line.server, queue, QString()});
     });

@@ -46,7 +46,7 @@ PrinterPopUp::PrinterPopUp(QWidget *parent)
     layout->addWidget(m_state, 1);
     connect(m_popup, &QComboBox::activated, this, [this](int index) {
         const QString key = m_popup->representedObject(index);
-        if (!key.isEmpty() && key != keyOf(m_current))
+        if (!key.isEmpty())
             Q_EMIT picked(queueName(key));
     });
 }

@@ -27,7 +27,7 @@ public:
     PopUpButton *popup() const { return m_popup; }
 
 Q_SIGNALS:
-    /// The user has picked another one.
+    /// The user has picked a queue, perhaps the one that is open.
     void picked(const QueueName &queue);
 
 private:

@@ -5,27 +5,35 @@
 
 namespace {
 
-QPointer<QWidget> &registeredWindow()
+struct RegisteredWindow
 {
-    static QPointer<QWidget> window;
-    return window;
+    QPointer<QWidget> window;
+    std::optional<double> height;
+};
+
+RegisteredWindow &registeredWindow()
+{
+    static RegisteredWindow registered;
+    return registered;
 }
 
 } // namespace
 
 QWidget *keyWindow()
 {
-    return registeredWindow();
+    return registeredWindow().window;
 }
 
-void setKeyWindow(QWidget *window)
+void setKeyWindow(QWidget *window, std::optional<double> height)
 {
-    registeredWindow() = window;
+    registeredWindow() = {window, height};
 }
 
 std::optional<double> keyWindowHeight()
 {
     if (!keyWindow())
         return std::nullopt;
+    if (registeredWindow().height)
+        return registeredWindow().height;
     return keyWindow()->frameGeometry().height();
 }

@@ -11,7 +11,9 @@ VELKARO_PLATFORM_EXPORT QWidget *keyWindow();
 
 /// Says which window it is; the dialog does so when it opens. Null: none from now on. A window that
 /// is destroyed is none.
-VELKARO_PLATFORM_EXPORT void setKeyWindow(QWidget *window);
+/// `height` (points) stands for the height of the frame of a window that is never on screen.
+VELKARO_PLATFORM_EXPORT void setKeyWindow(QWidget *window,
+                                          std::optional<double> height = std::nullopt);
 
 /// The height of the key window's frame in points; none without a key window.
 VELKARO_PLATFORM_EXPORT std::optional<double> keyWindowHeight();

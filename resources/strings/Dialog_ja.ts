@@ -498,6 +498,13 @@
     </message>
 </context>
 <context>
+    <name>PrinterSource</name>
+    <message>
+        <source>The PPD of the queue %1 cannot be used. %2</source>
+        <translation>キュー %1 の PPD は使用できません。%2</translation>
+    </message>
+</context>
+<context>
     <name>Recorder</name>
     <message>
         <source>The PPD cannot be copied to %1: %2</source>

@@ -91,6 +91,20 @@ TEST_F(Command, ABorderlessPhotoJobArrivesAsPicked)
     EXPECT_EQ(job.value(u"copies"_s), u"2"_s);
 }
 
+TEST_F(Command, AnInstancePrintsWithItsSavedSettings)
+{
+    const ProgramRun run = runProgram(
+        {u"--no-dialog"_s, u"-h"_s, server().address(), u"-d"_s, u"photo/borderless"_s, pdf()},
+        "Dest photo copies=2\nDest photo/borderless PageSize=A4.Fullbleed "
+        "VKMediaType=VelkaroQM41Matte\n");
+    ASSERT_EQ(run.status, 0) << run.errors.toStdString();
+    ASSERT_EQ(newJobs().size(), 1);
+    const QMap<QString, QString> job = server().jobAttributes(u"photo"_s, newJobs()[0]);
+    EXPECT_EQ(job.value(u"PageSize"_s), u"A4.Fullbleed"_s);
+    EXPECT_EQ(job.value(u"VKMediaType"_s), u"VelkaroQM41Matte"_s);
+    EXPECT_EQ(job.value(u"copies"_s), u"2"_s);
+}
+
 TEST_F(Command, AJobThatACheckVetoesIsNotInTheQueue)
 {
     const ProgramRun run = print({u"--paper"_s, u"120x120mm"_s});

@@ -1,5 +1,7 @@
 #include "tests/endtoend/ProgramRun.h"
 
+#include <QtCore/QDir>
+#include <QtCore/QFile>
 #include <QtCore/QProcess>
 #include <QtCore/QTemporaryDir>
 
@@ -9,9 +11,14 @@ constexpr int kPatience = 60000; // ms
 
 } // namespace
 
-ProgramRun runProgram(const QStringList &arguments)
+ProgramRun runProgram(const QStringList &arguments, const QByteArray &lpoptions)
 {
     const QTemporaryDir home;
+    QFile saved(home.filePath(QStringLiteral(".cups/lpoptions")));
+    if (!QDir(home.path()).mkdir(QStringLiteral(".cups")) || !saved.open(QIODevice::WriteOnly) ||
+        saved.write(lpoptions) != lpoptions.size())
+        return {};
+    saved.close();
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
     environment.insert(QStringLiteral("HOME"), home.path());
     environment.remove(QStringLiteral("XDG_CONFIG_HOME"));

@@ -11,5 +11,6 @@ struct ProgramRun
     QString errors;
 };
 
-/// Runs velkaro-print of the build tree, without a display and with an empty home.
-ProgramRun runProgram(const QStringList &arguments);
+/// Runs velkaro-print of the build tree, without a display and with a home of its own, which has
+/// nothing in it but these lpoptions.
+ProgramRun runProgram(const QStringList &arguments, const QByteArray &lpoptions = QByteArray());

@@ -1,0 +1,93 @@
+// From Print to an accepted job: the dialog's way (a thread of its own, the job read back), against
+// creating, sending and finishing the same job through libcups in this thread. Both against one
+// private cupsd, in turn.
+#include "bench/support/ProcessCost.h"
+#include "dialog/cups/JobSubmission.h"
+#include "dialog/cups/ServerCall.h"
+#include "tests/endtoend/PrintServer.h"
+
+#include <QtCore/QCoreApplication>
+#include <QtCore/QElapsedTimer>
+#include <QtCore/QFile>
+
+#include <cups/cups.h>
+
+#include <cstdio>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int kRuns = 40;
+constexpr double kReach = 1.5;
+
+bool submitByLibcups(const JobRequest &job)
+{
+    http_t *http = httpConnect2(cupsServer(), ippPort(), nullptr, AF_UNSPEC, cupsEncryption(), 1,
+                                5000, nullptr);
+    cups_option_t *options = nullptr;
+    int count = 0;
+    for (const JobOption &option : job.options)
+        count = cupsAddOption(option.name.toUtf8().constData(), option.value.toUtf8().constData(),
+                              count, &options);
+    const QByteArray queue = job.queue.toUtf8();
+    const int id = cupsCreateJob(http, queue.constData(), "bench", count, options);
+    QFile file(job.documents.constFirst());
+    bool sent = id > 0 && file.open(QIODevice::ReadOnly) &&
+                cupsStartDocument(http, queue.constData(), id, "bench", "application/octet-stream",
+                                  1) == HTTP_STATUS_CONTINUE;
+    const QByteArray bytes = file.readAll();
+    sent = sent &&
+           cupsWriteRequestData(http, bytes.constData(), static_cast<std::size_t>(bytes.size())) ==
+               HTTP_STATUS_CONTINUE;
+    sent = sent && cupsFinishDocument(http, queue.constData()) == IPP_STATUS_OK;
+    cupsFreeOptions(count, options);
+    httpClose(http);
+    return sent;
+}
+
+bool submitByDialog(const JobRequest &job)
+{
+    const auto receipt = waitForServer<JobReceipt>(
+        kServerPatience, [job](CallGuard &guard) { return submitJob(job, guard); });
+    return receipt && receipt->answer.isGood();
+}
+
+double milliseconds(bool (*submit)(const JobRequest &), const JobRequest &job, bool &good)
+{
+    QElapsedTimer clock;
+    clock.start();
+    good = submit(job) && good;
+    return static_cast<double>(clock.nsecsElapsed()) / 1e6;
+}
+
+} // namespace
+
+int main(int argc, char **argv)
+{
+    const QCoreApplication application(argc, argv);
+    PrintServer server;
+    if (!server.fault().isNull() || !server.addQueue(u"photo"_s, samplePPD(u"velkaro-px-t900"_s)) ||
+        !server.command(u"cupsdisable"_s, {u"photo"_s}))
+        return 1;
+    cupsSetServer(server.address().toUtf8().constData());
+    JobRequest job;
+    job.server = server.address();
+    job.queue = u"photo"_s;
+    job.title = u"bench"_s;
+    job.options = {{u"VKMediaType"_s, u"Glossy"_s},
+                   {u"VKResolution"_s, u"Photo"_s},
+                   {u"PageSize"_s, u"A4.Fullbleed"_s},
+                   {u"com.velkaro.print.PrintSettings.T2T_Red"_s, u"3"_s}};
+    job.documents = {samplePPD(u"velkaro-px-t900"_s)}; // any 50 kB of text
+    bool good = true;
+    std::vector<double> ours;
+    std::vector<double> peers;
+    for (int run = 0; run < kRuns; ++run) {
+        peers.push_back(milliseconds(submitByLibcups, job, good));
+        ours.push_back(milliseconds(submitByDialog, job, good));
+    }
+    std::printf("Print to job accepted: %.2f ms, libcups %.2f ms, ratio %.2f (at most %.1f)\n",
+                median(ours), median(peers), median(ours) / median(peers), kReach);
+    return good ? 0 : 1;
+}
