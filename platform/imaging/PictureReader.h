@@ -15,8 +15,9 @@ inline constexpr qint64 maximumPixels = qint64(1) << 27;
 /// name), turned the way up that the file asks for, and converted to sRGB if the file has a
 /// colour profile. Without a profile, or with one that cannot be used, the values are sRGB as
 /// they stand. Greyscale, palette and 16-bit files come as they are stored. (Of a TIFF with 8 bits
-/// and alpha the decoder answers colours with the alpha multiplied in: the colours of its nearly
-/// transparent pixels are coarse, by no more than can be seen.)
+/// and alpha that readPlainTiff() leaves to it, Qt's decoder answers colours with the alpha
+/// multiplied in: the colours of its nearly transparent pixels are coarse, by no more than can be
+/// seen.)
 ///
 /// The null image if the path names no regular file, or the file is of another kind, damaged,
 /// cut short, or larger than maximumPixels.

@@ -62,5 +62,8 @@ TEST_P(ReplayCase, DoesWhatItsEventsExpect)
 }
 
 INSTANTIATE_TEST_SUITE_P(Scripts, ReplayCase,
-                         testing::Values("everyday", "alerts", "enhancement", "refusals", "host"),
-                         [](const auto &testCase) { return std::string(testCase.param); });
+                         testing::Values("everyday", "alerts", "enhancement", "refusals", "host",
+                                         "window-height"),
+                         [](const auto &testCase) {
+                             return std::string(testCase.param).substr(0, 6);
+                         });
