@@ -4,6 +4,7 @@
 #include "panel/ListedChoices.h"
 #include "platform/foundation/Bundle.h"
 #include "platform/foundation/NotificationCenter.h"
+#include "platform/imaging/PictureReader.h"
 #include "platform/pde/PPDText.h"
 #include "platform/toolkit/ControlColor.h"
 #include "platform/toolkit/KeyWindow.h"
@@ -100,7 +101,7 @@ void VKPrintQualityPDE::buildPopUp(PopUpButton &popup, const QString &keyword)
                 ? pluginBundle->pathForResource(item.representedObject, u"tiff"_s)
                 : QString();
         if (!picture.isNull())
-            item.image = QIcon(QPixmap(picture));
+            item.image = QIcon(QPixmap::fromImage(imaging::readPicture(picture)));
     }
     popup.setItems(items);
 }

@@ -4,10 +4,12 @@
 #include "dialog/commandline/ExitStatus.h"
 #include "dialog/commandline/HelpText.h"
 
+#include <climits>
 #include <cstdio>
+#include <cstring>
 #include <dlfcn.h>
-#include <filesystem>
 #include <string_view>
+#include <unistd.h>
 
 namespace {
 
@@ -19,15 +21,36 @@ int print(const char *text)
     return exitCode(std::fflush(stdout) == 0 ? ExitStatus::Done : ExitStatus::Output);
 }
 
+// Libraries that bring many others, loaded one after the other: each then looks its symbols up
+// among its own, and not among all seventy of the dialog's. One that is not there is not missed
+// here.
+void loadLargeLibraries()
+{
+    for (const char *name :
+         {"libgnutls.so.30", "libcups.so.2", "libQt6Core.so.6", "libQt6Widgets.so.6"})
+        dlopen(name, RTLD_LAZY);
+}
+
+void *loadDialogLibrary()
+{
+    constexpr char place[] = "/" VELKARO_PRIVATE_FROM_BIN "/libvelkaro-dialog.so";
+    char path[PATH_MAX + sizeof place] = "";
+    if (readlink("/proc/self/exe", path, PATH_MAX - 1) < 0)
+        return nullptr;
+    char *folder = std::strrchr(path, '/');
+    std::strcpy(folder ? folder : path, place);
+    return dlopen(path, RTLD_LAZY);
+}
+
 int runDialogLibrary(int argc, char **argv)
 {
-    std::error_code error;
-    const auto program = std::filesystem::read_symlink("/proc/self/exe", error);
-    const auto path = program.parent_path() / VELKARO_PRIVATE_FROM_BIN / "libvelkaro-dialog.so";
-    void *library = dlopen(path.c_str(), RTLD_LAZY);
+    loadLargeLibraries();
+    void *library = loadDialogLibrary();
     void *entry = library ? dlsym(library, "velkaroPrintMain") : nullptr;
     if (!entry) {
-        std::fprintf(stderr, "velkaro-print: the installation is incomplete: %s\n", dlerror());
+        const char *reason = dlerror();
+        std::fprintf(stderr, "velkaro-print: the installation is incomplete: %s\n",
+                     reason ? reason : "the program's own place is unknown");
         return exitCode(ExitStatus::PlugIn);
     }
     return reinterpret_cast<EntryPoint>(entry)(argc, argv);

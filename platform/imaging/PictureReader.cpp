@@ -1,8 +1,13 @@
 #include "platform/imaging/PictureReader.h"
 
+#include "platform/imaging/PlainTiff.h"
+
 #include <QColorSpace>
+#include <QFile>
 #include <QFileInfo>
 #include <QImageReader>
+
+using namespace Qt::StringLiterals;
 
 namespace imaging {
 
@@ -25,11 +30,31 @@ private:
     int m_former;
 };
 
+/// The format that the file's first bytes tell; empty for any other. Qt would ask every image
+/// plug-in of the system, and loading those costs more than reading a picture.
+QByteArray formatOf(const QString &path)
+{
+    QFile file(path);
+    const QByteArray start = file.open(QIODevice::ReadOnly) ? file.read(8) : QByteArray();
+    if (start.startsWith("II*") || start.startsWith("MM\0*"_ba) || start.startsWith("II+") ||
+        start.startsWith("MM\0+"_ba))
+        return "tiff";
+    return start == "\x89PNG\r\n\x1a\n" ? "png" : "";
+}
+
+/// The whole file where it may be a plain one; larger files take their time in any case.
+QByteArray contentsIfSmall(const QString &path)
+{
+    constexpr qint64 largestPlainFile = 1 << 20;
+    QFile file(path);
+    const bool small = file.size() <= largestPlainFile;
+    return small && file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
 bool isAcceptable(QImageReader &reader)
 {
-    const QByteArray format = reader.format();
     const QSize size = reader.size();
-    return (format == "tiff" || format == "png") && size.isValid() && !size.isEmpty() &&
+    return size.isValid() && !size.isEmpty() &&
            qint64(size.width()) * size.height() <= maximumPixels;
 }
 
@@ -59,9 +84,15 @@ QImage readPicture(const QString &path)
     // A pipe or a device would block or never end.
     if (!QFileInfo(path).isFile())
         return {};
+    const QByteArray format = formatOf(path);
+    if (format.isEmpty())
+        return {};
+    const QImage plain = format == "tiff" ? readPlainTiff(contentsIfSmall(path)) : QImage();
+    if (!plain.isNull())
+        return plain;
     const AllocationLimit limit;
-    QImageReader reader(path);
-    reader.setDecideFormatFromContent(true);
+    QImageReader reader(path, format);
+    reader.setAutoDetectImageFormat(false);
     reader.setAutoTransform(true);
     if (!isAcceptable(reader))
         return {};

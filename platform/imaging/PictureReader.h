@@ -1,5 +1,7 @@
 #pragma once
 
+#include "platform/Export.h"
+
 #include <QImage>
 #include <QString>
 
@@ -13,11 +15,12 @@ inline constexpr qint64 maximumPixels = qint64(1) << 27;
 /// name), turned the way up that the file asks for, and converted to sRGB if the file has a
 /// colour profile. Without a profile, or with one that cannot be used, the values are sRGB as
 /// they stand. Greyscale, palette and 16-bit files come as they are stored. (Of a TIFF with 8 bits
-/// and alpha the decoder answers colours with the alpha multiplied in: the colours of its nearly
-/// transparent pixels are coarse, by no more than can be seen.)
+/// and alpha that readPlainTiff() leaves to it, Qt's decoder answers colours with the alpha
+/// multiplied in: the colours of its nearly transparent pixels are coarse, by no more than can be
+/// seen.)
 ///
 /// The null image if the path names no regular file, or the file is of another kind, damaged,
 /// cut short, or larger than maximumPixels.
-QImage readPicture(const QString &path);
+VELKARO_PLATFORM_EXPORT QImage readPicture(const QString &path);
 
 } // namespace imaging

@@ -3,21 +3,36 @@
 #include "platform/toolkit/PopUpModel.h"
 
 #include <QtGui/QWheelEvent>
+#include <QtWidgets/QStyle>
+#include <QtWidgets/QStyleOptionComboBox>
 
 namespace {
 
-// Wide enough for an ordinary choice. A fixed length also spares measuring the text of every item,
-// which is what showing a panel with many choices would spend its time on.
-constexpr int kContentsLength = 12;
+constexpr int kContentsLength = 12; // characters: wide enough for an ordinary choice
 
 } // namespace
 
 PopUpButton::PopUpButton(QWidget *parent) : QComboBox(parent), m_items(new PopUpModel(this))
 {
     setModel(m_items);
-    setSizeAdjustPolicy(AdjustToMinimumContentsLengthWithIcon);
-    setMinimumContentsLength(kContentsLength);
     setFocusPolicy(Qt::StrongFocus);
+}
+
+// A combo box would measure the text of every item, which is what showing a panel with many choices
+// would spend its time on; its own policy for a fixed length makes the list that opens, at once.
+QSize PopUpButton::sizeHint() const
+{
+    const QFontMetrics metrics = fontMetrics();
+    const int length = minimumContentsLength() > 0 ? minimumContentsLength() : kContentsLength;
+    const QSize contents(length * metrics.horizontalAdvance(u'X'), metrics.height() + 2);
+    QStyleOptionComboBox option;
+    initStyleOption(&option);
+    return style()->sizeFromContents(QStyle::CT_ComboBox, &option, contents, this);
+}
+
+QSize PopUpButton::minimumSizeHint() const
+{
+    return sizeHint();
 }
 
 void PopUpButton::setItems(const std::vector<Item> &items)

@@ -55,6 +55,11 @@ public:
     /// already. The item must be there.
     void pick(int index);
 
+    /// Wide enough for minimumContentsLength() characters, or an ordinary choice without it,
+    /// whatever the items are.
+    QSize sizeHint() const override;
+    QSize minimumSizeHint() const override;
+
 protected:
     /// A wheel that passes over the button by chance must not change a setting.
     void wheelEvent(QWheelEvent *event) override;
