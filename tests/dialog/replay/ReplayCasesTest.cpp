@@ -10,6 +10,9 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <string>
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -63,7 +66,9 @@ TEST_P(ReplayCase, DoesWhatItsEventsExpect)
 
 INSTANTIATE_TEST_SUITE_P(Scripts, ReplayCase,
                          testing::Values("everyday", "alerts", "enhancement", "refusals", "host",
-                                         "window-height"),
+                                         "window-height", "two-panels"),
                          [](const auto &testCase) {
-                             return std::string(testCase.param).substr(0, 6);
+                             std::string name = testCase.param;
+                             std::ranges::replace(name, '-', '_');
+                             return name;
                          });
