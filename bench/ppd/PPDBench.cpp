@@ -1,0 +1,51 @@
+// What opening a PPD costs, with every check that a stranger's file gets, against the bare parser
+// and the marking of its defaults.
+#include "bench/support/BenchPrinter.h"
+#include "bench/support/Timing.h"
+#include "dialog/host/PPDFile.h"
+
+#include <QtCore/QFile>
+#include <QtCore/QTemporaryDir>
+
+#include <cstdio>
+#include <cstdlib>
+
+namespace {
+
+constexpr int kRounds = 20;
+constexpr int kOpenings = 10;
+constexpr double kReach = 1.5;
+
+void openOurs(const QString &path)
+{
+    if (const OpenedPPD opened = openPPD(path); !opened.ppd) {
+        std::fprintf(stderr, "%s\n", qPrintable(opened.error));
+        std::exit(1);
+    }
+}
+
+void openBare(const QString &path)
+{
+    const PPDHandle ppd(ppdOpenFile(QFile::encodeName(path).constData()));
+    ppdMarkDefaults(ppd.get());
+}
+
+void measure(const char *what, const QString &path)
+{
+    Contender ours{[&path] { openOurs(path); }};
+    Contender bare{[&path] { openBare(path); }};
+    compare({&ours, &bare}, kRounds, kOpenings);
+    printRatio(what, ours.microseconds, bare.microseconds, kReach);
+}
+
+} // namespace
+
+int main()
+{
+    const QTemporaryDir folder;
+    printHead("Opening a PPD against ppdOpenFile with ppdMarkDefaults", "ours", "libcups");
+    measure("46 choices", writeBenchPrinter(folder.path(), kFewestChoices));
+    measure("2000 choices", writeBenchPrinter(folder.path(), 2000));
+    measure("a sample printer", QStringLiteral(SAMPLE_PPD));
+    return 0;
+}
