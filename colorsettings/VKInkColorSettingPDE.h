@@ -187,7 +187,7 @@ private:
     NumberField *blueField = nullptr;
 
     QStringList PPDEffectKeys; ///< empty until the first setEffectDefaults()
-    QString refImageName_; ///< the resource that is the reference image; null: refImage_ is
+    QString refImageName_;     ///< the resource that is the reference image; null: refImage_ is
     std::shared_ptr<const CIImage> refImage_;
     /// The resources that have been read, null for one that cannot be; by name.
     mutable QHash<QString, std::shared_ptr<const CIImage>> readPictures_;
