@@ -4,14 +4,12 @@
 #include "panel/ListedChoices.h"
 #include "platform/foundation/Bundle.h"
 #include "platform/foundation/NotificationCenter.h"
-#include "platform/imaging/PictureReader.h"
 #include "platform/pde/PPDText.h"
 #include "platform/toolkit/ControlColor.h"
 #include "platform/toolkit/KeyWindow.h"
 #include "platform/toolkit/PlainText.h"
 #include "platform/toolkit/RadioMatrix.h"
 
-#include <QtGui/QPixmap>
 #include <QtWidgets/QAbstractButton>
 #include <QtWidgets/QGroupBox>
 #include <QtWidgets/QLabel>
@@ -96,12 +94,8 @@ void VKPrintQualityPDE::buildPopUp(PopUpButton &popup, const QString &keyword)
     for (PopUpButton::Item &item : items) {
         if (tagOf(&popup) == kTagTitlesInContent && effectContent)
             effectContent->setValue(item.representedObject, item.title);
-        const QString picture =
-            tagOf(&popup) == kTagPictures && pluginBundle
-                ? pluginBundle->pathForResource(item.representedObject, u"tiff"_s)
-                : QString();
-        if (!picture.isNull())
-            item.image = QIcon(QPixmap::fromImage(imaging::readPicture(picture)));
+        if (tagOf(&popup) == kTagPictures && pluginBundle)
+            item.picture = pluginBundle->pathForResource(item.representedObject, u"tiff"_s);
     }
     popup.setItems(items);
 }

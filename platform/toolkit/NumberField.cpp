@@ -9,6 +9,7 @@
 NumberField::NumberField(QWidget *parent) : QSpinBox(parent)
 {
     setFocusPolicy(Qt::StrongFocus);
+    setAlignment(Qt::AlignRight | Qt::AlignTrailing | Qt::AlignVCenter);
     // A number that is typed counts when it is complete, not after each digit.
     setKeyboardTracking(false);
     connect(this, &QSpinBox::valueChanged, this, &NumberField::editedByUser);

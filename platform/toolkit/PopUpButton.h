@@ -3,7 +3,6 @@
 #include "platform/Export.h"
 
 #include <QtCore/QString>
-#include <QtGui/QIcon>
 #include <QtWidgets/QComboBox>
 
 #include <vector>
@@ -25,12 +24,13 @@ public:
     {
         QString title;
         QString representedObject;
-        QIcon image;
+        QString picture; ///< path of the picture before the title; null: none
     };
 
     explicit PopUpButton(QWidget *parent = nullptr);
 
-    /// Replaces all items; the first one is then selected. All items are enabled.
+    /// Replaces all items; the first one is then selected. All items are enabled. A picture is read
+    /// when it is first drawn: of a closed list that is the selected item's only.
     void setItems(const std::vector<Item> &items);
 
     /// The index of the first item with the represented object, or title; -1 when there is none.

@@ -1,5 +1,9 @@
 #include "platform/toolkit/PopUpModel.h"
 
+#include "platform/imaging/PictureReader.h"
+
+#include <QtGui/QPixmap>
+
 #include <algorithm>
 
 void PopUpModel::setItems(const std::vector<PopUpButton::Item> &items)
@@ -38,6 +42,13 @@ int PopUpModel::rowOfTitle(const QString &title) const
     return row == m_rows.end() ? -1 : static_cast<int>(row - m_rows.begin());
 }
 
+const QIcon &PopUpModel::iconOf(const Row &row)
+{
+    if (!row.icon)
+        row.icon = QIcon(QPixmap::fromImage(imaging::readPicture(row.item.picture)));
+    return *row.icon;
+}
+
 QString PopUpModel::representedObject(int row) const
 {
     const Row *found = rowAt(row);
@@ -73,7 +84,7 @@ QVariant PopUpModel::data(const QModelIndex &index, int role) const
     case Qt::DisplayRole:
         return row->item.title;
     case Qt::DecorationRole:
-        return row->item.image;
+        return iconOf(*row);
     case Qt::UserRole:
         return row->item.representedObject;
     default:

@@ -4,7 +4,9 @@
 
 #include <QtCore/QAbstractListModel>
 #include <QtCore/QHash>
+#include <QtGui/QIcon>
 
+#include <optional>
 #include <vector>
 
 /// The items of a pop-up button. A printer may have thousands of choices, and the rules look a
@@ -38,7 +40,10 @@ private:
     {
         PopUpButton::Item item;
         bool enabled = true;
+        mutable std::optional<QIcon> icon = std::nullopt; ///< none until it is first drawn
     };
+
+    static const QIcon &iconOf(const Row &row);
 
     const Row *rowAt(int row) const;
 
