@@ -18,9 +18,10 @@ endif()
 set(VELKARO_PRIVATE_DIR ${CMAKE_INSTALL_LIBDIR}/velkaro-print)
 set(CMAKE_RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/${CMAKE_INSTALL_BINDIR})
 set(CMAKE_LIBRARY_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/${VELKARO_PRIVATE_DIR})
-set(CMAKE_BUILD_RPATH_USE_ORIGIN ON)
-# From the programs, from the private libraries, and from a plug-in's bundle.
-set(CMAKE_INSTALL_RPATH "$ORIGIN/../${VELKARO_PRIVATE_DIR};$ORIGIN;$ORIGIN/../..")
+# From the programs. The build tree takes the installed one: CMake would leave room for it there with
+# empty entries, which are the folder that the user happens to be in.
+set(CMAKE_INSTALL_RPATH "$ORIGIN/../${VELKARO_PRIVATE_DIR}")
+set(CMAKE_BUILD_WITH_INSTALL_RPATH ON)
 
 add_library(velkaro_build_rules INTERFACE)
 target_include_directories(velkaro_build_rules INTERFACE ${CMAKE_SOURCE_DIR})
