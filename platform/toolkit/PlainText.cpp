@@ -2,7 +2,17 @@
 
 #include <QtWidgets/QAbstractButton>
 
+#include <algorithm>
+
 namespace {
+
+// Whatever breaks or ends a line, or rings a bell.
+bool isControl(QChar character)
+{
+    const char16_t code = character.unicode();
+    return code < 0x20 || (code >= 0x7F && code < 0xA0) || code == QChar::LineSeparator ||
+           code == QChar::ParagraphSeparator;
+}
 
 // Marks, embeddings, overrides and isolates: they reorder what stands around them.
 bool turnsDirection(QChar character)
@@ -16,15 +26,13 @@ bool turnsDirection(QChar character)
 
 QString displayText(const QString &text)
 {
-    QString shown;
-    shown.reserve(text.size());
-    for (const QChar character : text) {
-        if (character.category() == QChar::Other_Control || character == QChar::LineSeparator ||
-            character == QChar::ParagraphSeparator)
-            shown += u' ';
-        else if (!turnsDirection(character))
-            shown += character;
-    }
+    // Nearly every text is fine, and a printer may have thousands of them.
+    if (std::none_of(text.begin(), text.end(), isControl) &&
+        std::none_of(text.begin(), text.end(), turnsDirection))
+        return text;
+    QString shown = text;
+    std::replace_if(shown.begin(), shown.end(), isControl, u' ');
+    shown.removeIf(turnsDirection);
     return shown;
 }
 
