@@ -68,7 +68,7 @@ int main(int argc, char **argv)
     qputenv("QT_QPA_PLATFORM", "offscreen");
     const QApplication application(argc, argv);
     const QTemporaryDir folder;
-    PanelWindow window(writeBenchPrinter(folder.path(), kFewestChoices));
+    PanelWindow window(openBenchPPD(writeBenchPrinter(folder.path(), kFewestChoices)));
     window.showColor();
     window.showPrint();
     Answerer answerer;

@@ -9,10 +9,9 @@
 #include <QtCore/QCoreApplication>
 
 #include <cstdlib>
+#include <utility>
 
-namespace {
-
-PPDHandle openOrEnd(const QString &path)
+PPDHandle openBenchPPD(const QString &path)
 {
     OpenedPPD opened = openPPD(path);
     if (opened.ppd)
@@ -21,10 +20,8 @@ PPDHandle openOrEnd(const QString &path)
     std::exit(1);
 }
 
-} // namespace
-
-PanelWindow::PanelWindow(const QString &ppdPath)
-    : m_ppd(openOrEnd(ppdPath)),
+PanelWindow::PanelWindow(PPDHandle ppd)
+    : m_ppd(std::move(ppd)),
       m_bundle(Bundle::open(QStringLiteral(BENCH_BUNDLE))),
       m_host(std::make_shared<HostCallback>(m_ppd.get())),
       m_print(std::make_unique<VKInkPrintSetting14PDE>()),

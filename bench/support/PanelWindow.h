@@ -12,13 +12,16 @@ class Bundle;
 class VKInkColorSettingPDE;
 class VKInkPrintSetting14PDE;
 
+/// Opens the PPD, defaults marked. Ends the program when it cannot.
+PPDHandle openBenchPPD(const QString &path);
+
 /// Both panels over a PPD in a window, as the dialog has them: the real host object, the real
 /// bundle and its views; one panel on screen, the other behind it.
 class PanelWindow
 {
 public:
-    /// Opens the PPD, creates both panels and has them read their values. Nothing is shown yet.
-    explicit PanelWindow(const QString &ppdPath);
+    /// Creates both panels over the PPD and has them read their values. Nothing is shown yet.
+    explicit PanelWindow(PPDHandle ppd);
     ~PanelWindow();
     PanelWindow(const PanelWindow &) = delete;
     PanelWindow &operator=(const PanelWindow &) = delete;
