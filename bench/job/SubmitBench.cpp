@@ -4,7 +4,7 @@
 #include "bench/support/ProcessCost.h"
 #include "dialog/cups/JobSubmission.h"
 #include "dialog/cups/ServerCall.h"
-#include "tests/endtoend/PrintServer.h"
+#include "tests/printserver/PrintServer.h"
 
 #include <QtCore/QCoreApplication>
 #include <QtCore/QElapsedTimer>

@@ -3,7 +3,7 @@
 #include "dialog/host/PPDFile.h"
 #include "platform/pde/PPDText.h"
 #include "tests/endtoend/JobPrinting.h"
-#include "tests/endtoend/PrintServer.h"
+#include "tests/printserver/PrintServer.h"
 
 #include <QtCore/QDir>
 #include <QtCore/QFile>

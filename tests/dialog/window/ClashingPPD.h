@@ -1,6 +1,6 @@
 #pragma once
 
-#include "tests/endtoend/PrintServer.h"
+#include "tests/printserver/PrintServer.h"
 
 #include <QtCore/QFile>
 #include <QtCore/QTemporaryDir>

@@ -1,4 +1,4 @@
-#include "tests/endtoend/PrintServer.h"
+#include "tests/printserver/PrintServer.h"
 
 #include "dialog/cups/OptionAttribute.h"
 #include "dialog/cups/ServerConnection.h"
