@@ -28,15 +28,15 @@ int main()
     const std::string program = PROGRAM;
     const std::string bench = BENCH_FOLDER;
     const std::string script = writeScript(bench);
-    const std::vector<std::string> core = {bench + "/empty-core-program"};
-    const std::vector<std::string> widgets = {bench + "/empty-widgets-program"};
+    const Command core{{bench + "/empty-core-program"}};
+    const Command widgets{{bench + "/empty-widgets-program"}};
 
     std::printf("CPU time of whole processes, median of %d runs in turn\n", kRuns);
     printRow("--help against an empty core program",
-             compareProcesses({program, "--help"}, core, kRuns), 1.5);
+             compareProcesses({{program, "--help"}}, core, kRuns), 1.5);
     printRow("--version against an empty core program",
-             compareProcesses({program, "--version"}, core, kRuns), 1.5);
+             compareProcesses({{program, "--version"}}, core, kRuns), 1.5);
     printRow("replay of both panels against an empty window",
-             compareProcesses({program, "--replay", script}, widgets, kRuns), 1.7);
+             compareProcesses({{program, "--replay", script}}, widgets, kRuns), 1.7);
     return 0;
 }

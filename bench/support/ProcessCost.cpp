@@ -16,21 +16,32 @@ double milliseconds(const timeval &time)
     return static_cast<double>(time.tv_sec) * 1000.0 + static_cast<double>(time.tv_usec) / 1000.0;
 }
 
-[[noreturn]] void becomeProgram(const std::vector<std::string> &command)
+[[noreturn]] void becomeProgram(const Command &command)
 {
     const int nowhere = open("/dev/null", O_WRONLY);
     dup2(nowhere, STDOUT_FILENO);
+    for (const auto &[name, value] : command.environment)
+        setenv(name.c_str(), value.c_str(), 1);
     std::vector<char *> arguments;
-    for (const std::string &argument : command)
-        arguments.push_back(const_cast<char *>(argument.c_str()));
+    for (const std::string &word : command.words)
+        arguments.push_back(const_cast<char *>(word.c_str()));
     arguments.push_back(nullptr);
     execv(arguments[0], arguments.data());
     _exit(127);
 }
 
+ProcessCost runOrEnd(const Command &command)
+{
+    const ProcessCost cost = runProcess(command);
+    if (cost.exitStatus == command.exitStatus)
+        return cost;
+    std::fprintf(stderr, "%s ended with status %d\n", command.words[0].c_str(), cost.exitStatus);
+    std::exit(1);
+}
+
 } // namespace
 
-ProcessCost runProcess(const std::vector<std::string> &command)
+ProcessCost runProcess(const Command &command)
 {
     const pid_t child = fork();
     if (child == 0)
@@ -50,21 +61,16 @@ double median(std::vector<double> values)
     return values[values.size() / 2];
 }
 
-Comparison compareProcesses(const std::vector<std::string> &measured,
-                            const std::vector<std::string> &reference, int runs)
+Comparison compareProcesses(const Command &measured, const Command &reference, int runs)
 {
+    const Command *commands[2] = {&measured, &reference};
     std::vector<double> cpu[2];
     std::vector<double> peak[2];
     for (int run = 0; run < runs; ++run) {
-        const ProcessCost costs[2] = {runProcess(measured), runProcess(reference)};
         for (int side = 0; side < 2; ++side) {
-            if (costs[side].exitStatus != 0) {
-                std::fprintf(stderr, "%s ended with status %d\n",
-                             (side == 0 ? measured : reference)[0].c_str(), costs[side].exitStatus);
-                std::exit(1);
-            }
-            cpu[side].push_back(costs[side].cpuMilliseconds);
-            peak[side].push_back(static_cast<double>(costs[side].peakKilobytes));
+            const ProcessCost cost = runOrEnd(*commands[side]);
+            cpu[side].push_back(cost.cpuMilliseconds);
+            peak[side].push_back(static_cast<double>(cost.peakKilobytes));
         }
     }
     Comparison result;
@@ -78,7 +84,8 @@ Comparison compareProcesses(const std::vector<std::string> &measured,
 
 void printRow(const char *what, const Comparison &comparison, double reach)
 {
-    std::printf("%-44s %8.2f ms %8.2f ms %6.2f (at most %.1f) %8.0f KB %8.0f KB\n", what,
+    std::printf("%-44s %8.2f ms %8.2f ms %6.2f (at most %.1f)%s %8.0f KB %8.0f KB\n", what,
                 comparison.cpuMilliseconds[0], comparison.cpuMilliseconds[1], comparison.cpuRatio,
-                reach, comparison.peakKilobytes[0], comparison.peakKilobytes[1]);
+                reach, comparison.cpuRatio <= reach ? "" : " MISSED", comparison.peakKilobytes[0],
+                comparison.peakKilobytes[1]);
 }

@@ -1,7 +1,16 @@
 #pragma once
 
+#include <map>
 #include <string>
 #include <vector>
+
+/// A program to run.
+struct Command
+{
+    std::vector<std::string> words;                      ///< its path and its arguments
+    std::map<std::string, std::string> environment = {}; ///< beside what this process has
+    int exitStatus = 0;                                  ///< what it is to end with
+};
 
 /// What one run of a program has cost.
 struct ProcessCost
@@ -13,11 +22,12 @@ struct ProcessCost
 
 /// Runs the program with its output thrown away, and waits for it. Exit status 127 when it cannot
 /// be started.
-ProcessCost runProcess(const std::vector<std::string> &command);
+ProcessCost runProcess(const Command &command);
 
 double median(std::vector<double> values);
 
-/// Two commands and the medians of their cost, run in turn so that both see the same machine.
+/// Two commands and the medians of their cost, run in turn so that both see the same machine. Ends
+/// this program when one of them fails.
 struct Comparison
 {
     double cpuRatio = 0;
@@ -25,8 +35,7 @@ struct Comparison
     double peakKilobytes[2] = {0, 0};
 };
 
-Comparison compareProcesses(const std::vector<std::string> &measured,
-                            const std::vector<std::string> &reference, int runs);
+Comparison compareProcesses(const Command &measured, const Command &reference, int runs);
 
 /// Prints one row: what was compared, both costs, the ratio and how far it may reach.
 void printRow(const char *what, const Comparison &comparison, double reach);

@@ -44,11 +44,11 @@ void printHead(const char *title, const char *measured, const char *reference)
     std::printf("\n%s\n  %-42s %14s %14s %8s\n", title, "", measured, reference, "ratio");
 }
 
-bool printRatio(const char *what, double measured, double reference, double reach)
+bool printRatio(const char *what, double measured, double reference, double reach, const char *unit)
 {
     const double ratio = measured / reference;
     const bool met = ratio <= reach;
-    std::printf("  %-42s %11.1f us %11.1f us %8.2f (at most %.2f)%s\n", what, measured, reference,
-                ratio, reach, met ? "" : " MISSED");
+    std::printf("  %-42s %11.1f %s %11.1f %s %8.2f (at most %.2f)%s\n", what, measured, unit,
+                reference, unit, ratio, reach, met ? "" : " MISSED");
     return met;
 }

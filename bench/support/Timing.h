@@ -19,7 +19,8 @@ void compare(std::vector<Contender *> contenders, int rounds, int steps);
 
 /// Prints one row: what was compared, both figures, their ratio, and how far it may reach. The
 /// answer says whether it is within reach.
-bool printRatio(const char *what, double measured, double reference, double reach);
+bool printRatio(const char *what, double measured, double reference, double reach,
+                const char *unit = "us");
 
 /// The head of such rows.
 void printHead(const char *title, const char *measured, const char *reference);
