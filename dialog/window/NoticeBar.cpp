@@ -1,11 +1,11 @@
 #include "dialog/window/NoticeBar.h"
 
+#include "dialog/window/NoticeSign.h"
 #include "platform/toolkit/PlainText.h"
 
 #include <QtCore/QEvent>
 #include <QtWidgets/QHBoxLayout>
 #include <QtWidgets/QLabel>
-#include <QtWidgets/QStyle>
 
 #include <array>
 
@@ -15,14 +15,14 @@ constexpr qreal kTint = 0.16; // of the accent in the window's colour, light or 
 
 struct Look
 {
-    QStyle::StandardPixmap icon;
+    NoticeSign::Mark mark;
     QRgb accent;
 };
 
 // Indexed by NoticeBar::Kind.
-constexpr std::array kLooks{Look{QStyle::SP_MessageBoxInformation, 0xff3478c8},
-                            Look{QStyle::SP_MessageBoxWarning, 0xffe0a000},
-                            Look{QStyle::SP_MessageBoxCritical, 0xffd03030}};
+constexpr std::array kLooks{Look{NoticeSign::Mark::LetterI, 0xff3478c8},
+                            Look{NoticeSign::Mark::Exclamation, 0xffe0a000},
+                            Look{NoticeSign::Mark::Cross, 0xffd03030}};
 
 const Look &lookOf(NoticeBar::Kind kind)
 {
@@ -41,7 +41,7 @@ QColor mixed(const QColor &base, const QColor &accent, qreal share)
 } // namespace
 
 NoticeBar::NoticeBar(QWidget *parent)
-    : QFrame(parent), m_icon(new QLabel(this)), m_label(new QLabel(this))
+    : QFrame(parent), m_sign(new NoticeSign(this)), m_label(new QLabel(this))
 {
     setObjectName(QStringLiteral("noticeBar"));
     setAutoFillBackground(true);
@@ -52,7 +52,7 @@ NoticeBar::NoticeBar(QWidget *parent)
     auto *layout = new QHBoxLayout(this);
     layout->setContentsMargins(10, 6, 10, 6);
     layout->setSpacing(10);
-    layout->addWidget(m_icon, 0, Qt::AlignTop);
+    layout->addWidget(m_sign, 0, Qt::AlignTop);
     layout->addWidget(m_label, 1);
     hide();
 }
@@ -63,8 +63,7 @@ void NoticeBar::tell(Kind kind, const QString &sentence)
     m_sentence = displayText(sentence);
     m_label->setText(m_sentence);
     setAccessibleName(m_sentence);
-    const int size = style()->pixelMetric(QStyle::PM_SmallIconSize);
-    m_icon->setPixmap(style()->standardIcon(lookOf(kind).icon).pixmap(size));
+    m_sign->setSign(lookOf(kind).mark, QColor::fromRgb(lookOf(kind).accent));
     applyColors();
     show();
 }

@@ -2,6 +2,7 @@
 
 #include <QtWidgets/QFrame>
 
+class NoticeSign;
 class QLabel;
 
 /// A strip that tells one thing at a time, in plain text: what the dialog waits for, why a choice
@@ -28,7 +29,7 @@ protected:
 private:
     void applyColors();
 
-    QLabel *m_icon;
+    NoticeSign *m_sign;
     QLabel *m_label;
     Kind m_kind = Kind::Information;
     QString m_sentence;
