@@ -111,8 +111,10 @@ void DialogWindow::makeRequestedSettings()
     }
     if (!m_line.panel.isNull() && !showPart(m_line.panel) && m_settingError.isNull())
         m_settingError = tr("There is no panel %1.").arg(m_line.panel);
-    m_pageSetup->reload();
-    m_header->reload();
+    if (!m_line.paper.isNull() || !m_line.choices.empty()) {
+        m_pageSetup->reload();
+        m_header->reload();
+    }
     if (!m_settingError.isNull())
         m_notice->tell(NoticeBar::Kind::Warning, m_settingError);
 }

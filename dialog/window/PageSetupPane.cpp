@@ -101,7 +101,6 @@ PopUpButton *PageSetupPane::newPopUp(const QString &name)
 {
     auto *popup = new PopUpButton(m_page);
     popup->setObjectName(name);
-    popup->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     popup->setMinimumContentsLength(kContentsLength);
     return popup;
 }

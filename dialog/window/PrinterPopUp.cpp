@@ -35,7 +35,6 @@ PrinterPopUp::PrinterPopUp(QWidget *parent)
     : QWidget(parent), m_popup(new PopUpButton(this)), m_state(new QLabel(this))
 {
     m_popup->setObjectName(u"printerPopup"_s);
-    m_popup->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     m_popup->setMinimumContentsLength(kContentsLength);
     m_state->setObjectName(u"printerState"_s);
     m_state->setTextFormat(Qt::PlainText);

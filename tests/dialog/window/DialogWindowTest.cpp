@@ -2,6 +2,7 @@
 #include "platform/foundation/NotificationCenter.h"
 #include "platform/pde/PPDText.h"
 #include "platform/toolkit/KeyWindow.h"
+#include "platform/toolkit/NumberField.h"
 #include "platform/toolkit/PopUpButton.h"
 #include "tests/dialog/window/ClashingPPD.h"
 #include "tests/endtoend/JobPrinting.h"
@@ -178,6 +179,19 @@ TEST_F(Window, ExplainsARefusedChoiceOfAPanel)
     EXPECT_NE(marked(u"VKMediaType"_s), u"Transparencies"_s);
     EXPECT_EQ(notice(), u"\"Media Type: Transparencies\" cannot be chosen: the printer does not "
                         "allow it together with \"Two-Sided Printing: Short-Edge Binding\"."_s);
+}
+
+TEST_F(Window, ShowsTheSettingsOfTheCommandLine)
+{
+    m_line.paper = u"A3"_s;
+    open();
+    EXPECT_EQ(part<PopUpButton>("paperPopup")->selectedObject(), u"A3"_s);
+
+    m_line.paper = QString();
+    m_line.choices = {{u"Duplex"_s, u"DuplexTumble"_s}, {u"copies"_s, u"3"_s}};
+    open();
+    EXPECT_EQ(part<PopUpButton>("DuplexPopup")->selectedObject(), u"DuplexTumble"_s);
+    EXPECT_EQ(part<NumberField>("copiesField")->value(), 3);
 }
 
 TEST_F(Window, SummarizesTheWholeJob)
