@@ -7,6 +7,9 @@
 #include <QtWidgets/QComboBox>
 #include <QtWidgets/QDialog>
 
+#include <algorithm>
+#include <cstdlib>
+
 using namespace Qt::StringLiterals;
 
 namespace {

@@ -2,15 +2,13 @@
 // and to paint: in the dialog, with all rules of the panels, and in Qt's own print dialog, which
 // shows the same options of the same queue. Both in this process, on a real X server.
 #include "bench/dialog/QtDialog.h"
-#include "bench/support/DisplayServer.h"
+#include "bench/support/DialogStage.h"
 #include "bench/support/Timing.h"
 #include "dialog/window/DialogWindow.h"
 #include "platform/pde/PPDText.h"
 #include "platform/toolkit/PopUpButton.h"
-#include "tests/printserver/PrintServer.h"
 
 #include <QtCore/QAbstractEventDispatcher>
-#include <QtCore/QTemporaryDir>
 #include <QtWidgets/QApplication>
 
 #include <cstdio>
@@ -138,29 +136,17 @@ void openDialog(DialogWindow &window)
 
 int main(int argc, char **argv)
 {
-    const QTemporaryDir home; // nobody's saved settings
-    qputenv("HOME", home.path().toLocal8Bit());
-    qputenv("XDG_RUNTIME_DIR", home.path().toLocal8Bit());
-    qunsetenv("XDG_CONFIG_HOME");
-    const DisplayServer display;
-    PrintServer server;
-    for (const QString &fault : {display.fault(), server.fault()})
-        if (!fault.isNull())
-            endWith(fault);
-    const QString queue = u"photo"_s;
-    if (!server.addQueue(queue, samplePPD(u"velkaro-px-t900"_s)))
-        return 1;
-    display.use();
-    qputenv("CUPS_SERVER", server.address().toLocal8Bit());
-
+    const DialogStage stage;
+    qputenv("CUPS_SERVER", stage.server().toLocal8Bit());
     const QApplication application(argc, argv);
     CommandLine line;
-    line.server = server.address();
-    line.queue = queue;
+    line.server = stage.server();
+    line.queue = DialogStage::queue();
+    line.files = {DialogStage::document()};
     DialogWindow window(line);
     openDialog(window);
     printHead("One option change, painted", "dialog", "QPrintDialog");
-    const bool isShown = withQtOptionsPage(queue, [&window](const QWidget &page) {
+    const bool isShown = withQtOptionsPage(line.queue, [&window](const QWidget &page) {
         for (const Pick &option : kOptions)
             measure(window, page, option);
     });

@@ -2,6 +2,7 @@
 // creating, sending and finishing the same job through libcups in this thread. Both against one
 // private cupsd, in turn.
 #include "bench/support/ProcessCost.h"
+#include "bench/support/Timing.h"
 #include "dialog/cups/JobSubmission.h"
 #include "dialog/cups/ServerCall.h"
 #include "tests/printserver/PrintServer.h"
@@ -11,8 +12,6 @@
 #include <QtCore/QFile>
 
 #include <cups/cups.h>
-
-#include <cstdio>
 
 using namespace Qt::StringLiterals;
 
@@ -53,12 +52,12 @@ bool submitByDialog(const JobRequest &job)
     return receipt && receipt->answer.isGood();
 }
 
-double milliseconds(bool (*submit)(const JobRequest &), const JobRequest &job, bool &good)
+double microseconds(bool (*submit)(const JobRequest &), const JobRequest &job, bool &good)
 {
     QElapsedTimer clock;
     clock.start();
     good = submit(job) && good;
-    return static_cast<double>(clock.nsecsElapsed()) / 1e6;
+    return static_cast<double>(clock.nsecsElapsed()) / 1e3;
 }
 
 } // namespace
@@ -84,10 +83,10 @@ int main(int argc, char **argv)
     std::vector<double> ours;
     std::vector<double> peers;
     for (int run = 0; run < kRuns; ++run) {
-        peers.push_back(milliseconds(submitByLibcups, job, good));
-        ours.push_back(milliseconds(submitByDialog, job, good));
+        peers.push_back(microseconds(submitByLibcups, job, good));
+        ours.push_back(microseconds(submitByDialog, job, good));
     }
-    std::printf("Print to job accepted: %.2f ms, libcups %.2f ms, ratio %.2f (at most %.1f)\n",
-                median(ours), median(peers), median(ours) / median(peers), kReach);
+    printHead("From Print to the accepted job", "dialog", "libcups");
+    printRatio("a job of 50 kB", median(ours), median(peers), kReach);
     return good ? 0 : 1;
 }

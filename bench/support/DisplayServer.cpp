@@ -1,5 +1,8 @@
 #include "bench/support/DisplayServer.h"
 
+#include <csignal>
+#include <sys/prctl.h>
+
 namespace {
 
 constexpr int kPatience = 20000; // ms
@@ -22,6 +25,8 @@ DisplayServer::~DisplayServer()
 // The server picks a number that is free, and says it when clients may connect.
 bool DisplayServer::start()
 {
+    // Also when this process ends without destructors.
+    m_process.setChildProcessModifier([] { prctl(PR_SET_PDEATHSIG, SIGTERM); });
     m_process.start(QStringLiteral("Xvfb"),
                     {QStringLiteral("-displayfd"), QStringLiteral("1"), QStringLiteral("-screen"),
                      QStringLiteral("0"), QStringLiteral("1280x1024x24"),

@@ -10,9 +10,11 @@
 #include <QtCore/QThread>
 
 #include <arpa/inet.h>
+#include <csignal>
 #include <grp.h>
 #include <netinet/in.h>
 #include <pwd.h>
+#include <sys/prctl.h>
 #include <sys/socket.h>
 #include <unistd.h>
 
@@ -132,6 +134,8 @@ bool PrintServer::start()
 {
     const QDir root(folder());
     m_process.setProcessChannelMode(QProcess::MergedChannels);
+    // Also when this process ends without destructors.
+    m_process.setChildProcessModifier([] { prctl(PR_SET_PDEATHSIG, SIGTERM); });
     m_process.start(programNamed(u"cupsd"_s), {u"-f"_s, u"-c"_s, root.filePath(u"cupsd.conf"_s),
                                                u"-s"_s, root.filePath(u"cups-files.conf"_s)});
     const QDeadlineTimer deadline(kPatience);
