@@ -1,7 +1,7 @@
 // What a user waits for while dragging a slider: from the slider's signal to the painted picture of
 // 256 x 256 pixels, in the real panel with its real view, against a bare repaint of the same
-// picture. Medians; look at the ratios. At most 11 times the bare repaint is what is promised.
-
+// picture.
+#include "bench/support/Timing.h"
 #include "colorsettings/VKInkColorSettingPDE.h"
 #include "dialog/host/HostCallback.h"
 #include "dialog/host/PPDFile.h"
@@ -11,17 +11,13 @@
 #include "platform/toolkit/ImageView.h"
 #include "platform/toolkit/KeyWindow.h"
 
-#include <QtCore/QElapsedTimer>
 #include <QtWidgets/QApplication>
-
-#include <algorithm>
-#include <array>
-#include <cstdio>
-#include <functional>
 
 namespace {
 
 constexpr int kSide = 256; // pixels
+constexpr int kRounds = 5;
+constexpr int kMoves = 200;
 
 QImage somePicture()
 {
@@ -31,19 +27,6 @@ QImage somePicture()
             picture.setPixel(x, y, qRgb(x, y, (x * y) & 255));
     }
     return picture;
-}
-
-double medianMicroseconds(const std::function<void(int)> &step)
-{
-    std::array<double, 1001> times{};
-    for (std::size_t i = 0; i < times.size(); ++i) {
-        QElapsedTimer timer;
-        timer.start();
-        step(static_cast<int>(i));
-        times[i] = static_cast<double>(timer.nsecsElapsed()) / 1000.0;
-    }
-    std::nth_element(times.begin(), times.begin() + times.size() / 2, times.end());
-    return times[times.size() / 2];
 }
 
 void showPanel(VKInkColorSettingPDE &panel, QWidget &window)
@@ -65,15 +48,16 @@ void showPanel(VKInkColorSettingPDE &panel, QWidget &window)
 void measure(VKInkColorSettingPDE &panel)
 {
     ImageView &picture = *panel.inspectedPicture();
-    const double bare = medianMicroseconds([&](int) { picture.repaint(); });
-    std::printf("%-24s %8.1f us\n", "bare repaint", bare);
+    printHead("Picture painted, 256 x 256", "slider", "bare repaint");
     for (const char *name : {"brightnessSlider", "redSlider"}) {
         auto &slider = *panel.inspectedView()->findChild<FractionSlider *>(QLatin1String(name));
-        const double change = medianMicroseconds([&](int i) {
-            slider.moveByUser(i % 2 == 0 ? 5 : -5);
+        Contender bare{[&picture] { picture.repaint(); }};
+        Contender change{[&slider] {
+            slider.moveByUser(slider.doubleValue() > 0 ? -5 : 5);
             QApplication::processEvents(); // paints the picture, the slider and its field
-        });
-        std::printf("%-24s %8.1f us %6.1f times\n", name, change, change / bare);
+        }};
+        compare({&change, &bare}, kRounds, kMoves);
+        printRatio(name, change.microseconds, bare.microseconds, 11);
     }
 }
 
