@@ -46,6 +46,10 @@ void NoticeSign::paintEvent(QPaintEvent *)
     painter.drawEllipse(QRectF(0, 0, kSide, kSide));
     painter.setPen(QPen(Qt::white, kStroke, Qt::SolidLine, Qt::RoundCap));
     const Strokes &strokes = kMarks[static_cast<std::size_t>(m_mark)];
-    for (const QLineF &line : {strokes.first, strokes.second})
-        line.isNull() ? painter.drawPoint(line.p1()) : painter.drawLine(line);
+    for (const QLineF &line : {strokes.first, strokes.second}) {
+        if (line.isNull())
+            painter.drawPoint(line.p1());
+        else
+            painter.drawLine(line);
+    }
 }

@@ -72,7 +72,7 @@ std::shared_ptr<Bundle> Bundle::bundleContaining(const void *code)
     const QString library = libraryOf(code);
     const auto &bundles = openBundles();
     for (auto known = bundles.rbegin(); known != bundles.rend(); ++known) {
-        const auto bundle = known->lock();
+        auto bundle = known->lock();
         const QString folder = bundle ? QFileInfo(bundle->m_path).canonicalFilePath() : QString();
         if (!folder.isEmpty() && library.startsWith(folder + u'/'))
             return bundle;

@@ -80,7 +80,7 @@ QString languageTag(const QString &localeName)
     const auto match = form.match(localeName);
     if (!match.hasMatch())
         return {};
-    const QString language = match.captured(1);
+    QString language = match.captured(1);
     const QString region = match.captured(2);
     const QString ownRegion = QLocale(language).name().section(u'_', 1, 1);
     if (region.isEmpty() || region == ownRegion)
