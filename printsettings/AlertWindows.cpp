@@ -1,10 +1,12 @@
 #include "printsettings/VKInkPrintSetting14PDE.h"
 
 #include "platform/foundation/Bundle.h"
+#include "platform/imaging/PictureReader.h"
 #include "platform/pde/PPDText.h"
 #include "platform/toolkit/ImageView.h"
 #include "platform/toolkit/ModalSession.h"
 #include "platform/toolkit/PlainText.h"
+#include "platform/toolkit/ViewLoader.h"
 #include "printsettings/PaperNames.h"
 
 #include <QtGui/QFontDatabase>
@@ -38,6 +40,45 @@ void setInstruction(QLabel *label, const QString &text)
 
 } // namespace
 
+void VKInkPrintSetting14PDE::connectAlertWindows(ViewConnections &connections)
+{
+    connections.outlet(u"envAlertWindow"_s, envAlertWindow);
+    connections.outlet(u"envAlertImageView"_s, envAlertImageView);
+    connections.outlet(u"envInstructionLabel1"_s, envInstructionLabel1);
+    connections.outlet(u"envInstructionLabel2"_s, envInstructionLabel2);
+    connections.outlet(u"envAlertOKButton"_s, envAlertOKButton);
+    connections.outlet(u"envAlertCancelButton"_s, envAlertCancelButton);
+    connections.outlet(u"normalPaperAlertOKButton"_s, normalPaperAlertOKButton);
+    connections.outlet(u"normalPaperAlertCancelButton"_s, normalPaperAlertCancelButton);
+    connections.outlet(u"customPaperAlertOKButton"_s, customPaperAlertOKButton);
+    connections.outlet(u"customPaperAlertCancelButton"_s, customPaperAlertCancelButton);
+    connections.outlet(u"suppressionButton"_s, suppressionButton);
+    connections.action(u"dialogOkDidClick:"_s,
+                       [this](QWidget *sender) { dialogOkDidClick(sender); });
+    connections.action(u"dialogCancelDidClick:"_s,
+                       [this](QWidget *sender) { dialogCancelDidClick(sender); });
+}
+
+// Hardly any job needs them, and every dialog would wait for them.
+void VKInkPrintSetting14PDE::loadAlertWindows()
+{
+    const bool viewIsLoaded = effectContent != nullptr;
+    if (!viewIsLoaded || alertWindows_)
+        return;
+    ViewConnections connections;
+    connectAlertWindows(connections);
+    alertWindows_ =
+        loadView(pluginBundle->pathForResource(thePDEName() + u"Alerts"_s, u"ui"_s), connections);
+}
+
+QHash<QString, QWidget *> VKInkPrintSetting14PDE::inspectedOutlets() const
+{
+    auto outlets = VKPrintQualityPDE::inspectedOutlets();
+    if (alertWindows_)
+        outlets.insert(alertWindows_->outlets());
+    return outlets;
+}
+
 bool VKInkPrintSetting14PDE::confirmEnvelope()
 {
     readyToShowEnvelopeAlert();
@@ -46,6 +87,7 @@ bool VKInkPrintSetting14PDE::confirmEnvelope()
 
 void VKInkPrintSetting14PDE::readyToShowEnvelopeAlert()
 {
+    loadAlertWindows();
     const bool multiPurposeTray = managesKeyword(u"VKInputSlot"_s) &&
                                   findChoice(findOption(ppd, u"VKInputSlot"_s), u"MPTray"_s);
     putAlertImage(envAlertImageView, multiPurposeTray ? u"QTLark22_Tray_Env"_s : u"QTLark22_Env"_s);
@@ -63,6 +105,7 @@ void VKInkPrintSetting14PDE::readyToShowPaperAlertWithKind(
     const QString &kind, const QString &orientationMessage, QWidget *alertWindow,
     ImageView *alertView, const QString &alertImage, QLabel *alertMessageLabel)
 {
+    loadAlertWindows();
     putAlertImage(alertView, alertImage);
     if (kind == "Normal Paper"_L1) {
         titleButton(normalPaperAlertOKButton, "OK");
@@ -91,7 +134,7 @@ void VKInkPrintSetting14PDE::readyToShowPaperAlertWithKind(
 void VKInkPrintSetting14PDE::putAlertImage(ImageView *view, const QString &name)
 {
     const QString path = pluginBundle ? pluginBundle->pathForResource(name, u"tiff"_s) : QString();
-    const QImage image = path.isNull() ? QImage() : QImage(path);
+    const QImage image = imaging::readPicture(path);
     if (!view || image.isNull())
         return;
     view->setImage(image, kAlertImageSize);

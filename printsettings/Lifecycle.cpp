@@ -97,26 +97,6 @@ void VKInkPrintSetting14PDE::connectView(ViewConnections &connections)
     connections.outlet(u"optionLabel"_s, optionLabel);
     connections.outlet(u"advancedTabView"_s, advancedTabView);
     connections.outlet(u"advancedTableView"_s, advancedTableView);
-    connectAlertWindows(connections);
-}
-
-void VKInkPrintSetting14PDE::connectAlertWindows(ViewConnections &connections)
-{
-    connections.outlet(u"envAlertWindow"_s, envAlertWindow);
-    connections.outlet(u"envAlertImageView"_s, envAlertImageView);
-    connections.outlet(u"envInstructionLabel1"_s, envInstructionLabel1);
-    connections.outlet(u"envInstructionLabel2"_s, envInstructionLabel2);
-    connections.outlet(u"envAlertOKButton"_s, envAlertOKButton);
-    connections.outlet(u"envAlertCancelButton"_s, envAlertCancelButton);
-    connections.outlet(u"normalPaperAlertOKButton"_s, normalPaperAlertOKButton);
-    connections.outlet(u"normalPaperAlertCancelButton"_s, normalPaperAlertCancelButton);
-    connections.outlet(u"customPaperAlertOKButton"_s, customPaperAlertOKButton);
-    connections.outlet(u"customPaperAlertCancelButton"_s, customPaperAlertCancelButton);
-    connections.outlet(u"suppressionButton"_s, suppressionButton);
-    connections.action(u"dialogOkDidClick:"_s,
-                       [this](QWidget *sender) { dialogOkDidClick(sender); });
-    connections.action(u"dialogCancelDidClick:"_s,
-                       [this](QWidget *sender) { dialogCancelDidClick(sender); });
 }
 
 QString VKInkPrintSetting14PDE::inspectedClassName() const

@@ -151,6 +151,8 @@ public:
     QString inspectedClassName() const override;
     QString inspectedName() const override;
     std::optional<Rows> inspectedRows() const override;
+    /// Those of the alert windows too, once they are loaded.
+    QHash<QString, QWidget *> inspectedOutlets() const override;
 
 protected:
     void connectView(ViewConnections &connections) override;
@@ -165,8 +167,6 @@ private:
     /// Empty before the view is loaded; kept from then on.
     const std::vector<KeywordRow> &keywordRows() const;
     const KeywordRow *keywordRow(const QString &keyword) const;
-
-    void connectAlertWindows(ViewConnections &connections);
 
     void applyRulesAfterPick(const QString &keyword);
     void applyQualityPick();
@@ -205,6 +205,9 @@ private:
     void followPageSize();
     void setPlainDuplex();
 
+    /// Connects the outlets of the alert windows, if the panel's view is loaded.
+    void loadAlertWindows();
+    void connectAlertWindows(ViewConnections &connections);
     bool confirmEnvelope();
     bool refuseUnsupportedPaper();
     std::optional<QSizeF> paperSizeInPoints() const;
@@ -247,6 +250,8 @@ private:
     QListWidget *advancedTableView = nullptr;
     std::unique_ptr<AdvancedOptionList> arrayController; ///< null without a list
 
+    // The outlets of the alert windows: null until the first alert of their kind.
+    std::unique_ptr<LoadedView> alertWindows_;
     QWidget *envAlertWindow = nullptr;
     ImageView *envAlertImageView = nullptr;
     QLabel *envInstructionLabel1 = nullptr;

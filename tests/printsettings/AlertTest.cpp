@@ -175,6 +175,28 @@ TEST_F(Alerts, AJapaneseEnvelopeIsConfirmedInItsWindow)
     EXPECT_EQ(memory(), QVariantMap());
 }
 
+TEST_F(Alerts, TheAlertWindowsAreLoadedForTheFirstAlertThatNeedsThem)
+{
+    open();
+    panel->readyToShowEnvelopeAlert();
+    EXPECT_EQ(panel->outlet(u"envAlertWindow"_s), nullptr) << "the panel's view is not loaded";
+    ASSERT_TRUE(panel->panelView());
+    EXPECT_EQ(panel->outlet(u"envAlertWindow"_s), nullptr);
+    panel->readyToShowEnvelopeAlert();
+    QWidget *window = panel->outlet(u"envAlertWindow"_s);
+    EXPECT_NE(window, nullptr);
+    panel->readyToShowEnvelopeAlert();
+    EXPECT_EQ(panel->outlet(u"envAlertWindow"_s), window);
+}
+
+TEST_F(Alerts, WithoutItsWindowAnEnvelopeIsNotPrinted)
+{
+    open();
+    usePaper(u"EnvChou3"_s);
+    EXPECT_FALSE(panel->checkShouldShowEnvelopeAlert());
+    EXPECT_TRUE(takeAlerts().empty());
+}
+
 TEST_F(Alerts, OtherEnvelopesPrintWithoutAnAlert)
 {
     show();
@@ -253,6 +275,7 @@ struct Remembered
 TEST_F(Alerts, AWindowWithAKeyIsRememberedWhenItIsConfirmed)
 {
     show();
+    panel->readyToShowEnvelopeAlert();
     QWidget *window = panel->outlet(u"suppressionButton"_s)->window();
     const QString key = u"Paper Alert"_s;
     for (const Remembered &row :
@@ -426,6 +449,7 @@ TEST_F(PaperWindow, GrowsWithItsMessage)
 
 TEST_F(PaperWindow, NamesTheButtonsOfItsKindAndAlwaysTheCustomOnes)
 {
+    panel->readyToShowEnvelopeAlert();
     for (const QString &name :
          {u"normalPaperAlertOKButton"_s, u"normalPaperAlertCancelButton"_s, u"suppressionButton"_s,
           u"customPaperAlertOKButton"_s, u"customPaperAlertCancelButton"_s})

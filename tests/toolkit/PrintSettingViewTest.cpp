@@ -1,5 +1,4 @@
 #include "platform/toolkit/DisclosureButton.h"
-#include "platform/toolkit/ImageView.h"
 #include "platform/toolkit/PopUpButton.h"
 #include "platform/toolkit/ViewLoader.h"
 #include "tests/support/QStringPrinting.h"
@@ -9,10 +8,8 @@
 #include <QtTest/QTest>
 #include <QtWidgets/QApplication>
 #include <QtWidgets/QCheckBox>
-#include <QtWidgets/QDialog>
 #include <QtWidgets/QLabel>
 #include <QtWidgets/QListWidget>
-#include <QtWidgets/QPushButton>
 #include <QtWidgets/QStackedWidget>
 
 using namespace Qt::StringLiterals;
@@ -46,8 +43,7 @@ protected:
         ViewConnections owner;
         owner.outlet(u"panelView"_s, panelView);
         owner.outlet(u"VKInkPrintSetting14"_s, root);
-        for (const char *action : {"requestNewOutputBin:", "toggleShowOption:", "dialogOkDidClick:",
-                                   "dialogCancelDidClick:"}) {
+        for (const char *action : {"requestNewOutputBin:", "toggleShowOption:"}) {
             owner.action(QString::fromLatin1(action), [this, action](QWidget *sender) {
                 sent << QString::fromLatin1(action) + sender->objectName();
             });
@@ -91,8 +87,7 @@ TEST_F(PrintSettingViewTest, ShowsTextsOfThePrinterAsTheyAre)
         // A buddy makes a mnemonic of an ampersand.
         EXPECT_EQ(find<QLabel>(name)->buddy(), nullptr) << name;
     }
-    for (const char *name : {"optionLabel", "envInstructionLabel1", "envInstructionLabel2"})
-        EXPECT_EQ(find<QLabel>(name)->textFormat(), Qt::PlainText) << name;
+    EXPECT_EQ(find<QLabel>("optionLabel")->textFormat(), Qt::PlainText);
 }
 
 TEST_F(PrintSettingViewTest, TagsTheQualityForTitlesAndTheMediumForPictures)
@@ -115,13 +110,6 @@ TEST_F(PrintSettingViewTest, SendsTheActionOfEveryControl)
         find<PopUpButton>(name)->setItems({{u"A"_s, u"a"_s, {}}});
         find<PopUpButton>(name)->pick(0);
         expected << u"requestNewOutputBin:"_s + QString::fromLatin1(name);
-    }
-    for (const char *prefix : {"envAlert", "normalPaperAlert", "customPaperAlert"}) {
-        const QString name = QString::fromLatin1(prefix);
-        root->findChild<QPushButton *>(name + u"OKButton"_s)->click();
-        root->findChild<QPushButton *>(name + u"CancelButton"_s)->click();
-        expected << u"dialogOkDidClick:"_s + name + u"OKButton"_s
-                 << u"dialogCancelDidClick:"_s + name + u"CancelButton"_s;
     }
     EXPECT_EQ(sent, expected);
 }
@@ -248,46 +236,6 @@ TEST_F(PrintSettingViewTest, ReachesEveryControlWithTheTabKey)
         QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
     }
     EXPECT_EQ(visited, order);
-}
-
-TEST_F(PrintSettingViewTest, HasItsAlertWindowsAsWindowsOfTheirOwn)
-{
-    for (const char *name :
-         {"envAlertWindow", "normalPaperAlertWindow", "customPaperAlertWindow"}) {
-        auto *window = find<QDialog>(name);
-        ASSERT_NE(window, nullptr) << name;
-        EXPECT_TRUE(window->isWindow()) << name;
-        EXPECT_TRUE(window->isHidden()) << name;
-    }
-    auto *envelope = find<QDialog>("envAlertWindow");
-    EXPECT_EQ(envelope->findChild<ImageView *>()->minimumSize(), QSize(278, 243));
-    QStringList texts;
-    for (const QLabel *label : envelope->findChildren<QLabel *>())
-        texts << label->objectName();
-    EXPECT_EQ(texts, (QStringList{u"envInstructionLabel1"_s, u"envInstructionLabel2"_s}));
-    QStringList buttons;
-    for (const QPushButton *button : envelope->findChildren<QPushButton *>())
-        buttons << button->objectName();
-    EXPECT_EQ(buttons, (QStringList{u"envAlertOKButton"_s, u"envAlertCancelButton"_s}));
-    EXPECT_TRUE(find<QDialog>("normalPaperAlertWindow")
-                    ->isAncestorOf(find<QCheckBox>("suppressionButton")));
-}
-
-TEST_F(PrintSettingViewTest, GivesTheEnvelopeWindowRoomForItsTexts)
-{
-    auto *window = find<QDialog>("envAlertWindow");
-    for (const char *name : {"envInstructionLabel1", "envInstructionLabel2"}) {
-        QFont font;
-        font.setPointSize(12);
-        find<QLabel>(name)->setFont(font);
-        find<QLabel>(name)->setText(QString(u"Envelopes with windows "_s).repeated(20));
-    }
-    window->show();
-    ASSERT_TRUE(QTest::qWaitForWindowExposed(window));
-    for (const char *name : {"envInstructionLabel1", "envInstructionLabel2"}) {
-        const auto *label = find<QLabel>(name);
-        EXPECT_GE(label->height(), label->heightForWidth(label->width())) << name;
-    }
 }
 
 } // namespace
