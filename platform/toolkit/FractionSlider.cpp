@@ -7,16 +7,30 @@
 #include <cmath>
 
 namespace {
-constexpr double kUnit = 100; // steps of the underlying slider for a whole number
+constexpr int kUnit = 100; // steps of the underlying slider for a whole number
 }
 
 FractionSlider::FractionSlider(QWidget *parent) : QSlider(Qt::Horizontal, parent)
 {
     setFocusPolicy(Qt::StrongFocus);
     connect(this, &QSlider::actionTriggered, this, [this] {
-        m_value = sliderPosition() / kUnit;
+        m_value = double(sliderPosition()) / kUnit;
         Q_EMIT movedByUser(m_value);
     });
+}
+
+int FractionSlider::limit() const
+{
+    return maximum() / kUnit;
+}
+
+void FractionSlider::setLimit(int limit)
+{
+    setRange(-limit * kUnit, limit * kUnit);
+    setSingleStep(kUnit);
+    setPageStep(5 * kUnit);
+    setTickPosition(QSlider::TicksBelow);
+    setTickInterval(limit * kUnit);
 }
 
 void FractionSlider::setDoubleValue(double value)

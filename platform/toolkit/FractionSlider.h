@@ -6,14 +6,21 @@
 
 /// A slider whose value is a number with fractions.
 ///
-/// setRange(), setSingleStep() and the like of QSlider count hundredths: a range of -20 to 20 is
-/// -2000 to 2000 in the view resource.
+/// The ranges and steps that it has from QSlider count hundredths; setLimit() sets all of them.
 class VELKARO_PLATFORM_EXPORT FractionSlider : public QSlider
 {
     Q_OBJECT
+    /// The slider runs from -limit to limit, which must be above 0.
+    Q_PROPERTY(int limit READ limit WRITE setLimit)
 
 public:
     explicit FractionSlider(QWidget *parent = nullptr);
+
+    int limit() const;
+
+    /// Also makes keys move the slider by one, clicks beside the knob by five, and puts a tick at
+    /// both ends and in the middle.
+    void setLimit(int limit);
 
     double doubleValue() const { return m_value; }
 

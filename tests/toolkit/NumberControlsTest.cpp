@@ -28,9 +28,7 @@ protected:
         for (QWidget *control : {static_cast<QWidget *>(slider), static_cast<QWidget *>(field),
                                  static_cast<QWidget *>(elsewhere)})
             layout->addWidget(control);
-        slider->setRange(-2000, 2000);
-        slider->setSingleStep(100);
-        slider->setPageStep(500);
+        slider->setLimit(20);
         field->setRange(-20, 20);
         window.resize(400, 120);
         window.show();
@@ -57,6 +55,14 @@ protected:
     NumberField *field = new NumberField;
     QLineEdit *elsewhere = new QLineEdit;
 };
+
+TEST_F(NumberControlsTest, ASliderHasTicksAtItsEndsAndInTheMiddle)
+{
+    EXPECT_EQ(slider->limit(), 20);
+    EXPECT_EQ(slider->maximum(), -slider->minimum());
+    EXPECT_EQ(slider->tickInterval(), slider->maximum());
+    EXPECT_EQ(slider->tickPosition(), QSlider::TicksBelow);
+}
 
 struct SetCase
 {

@@ -105,7 +105,7 @@ TEST(ViewBindingsTest, ShowsAValueInEachKindOfControl)
     const auto box = bound<QCheckBox>(dictionary, "bind.value", u"key"_s);
     const auto slider = bound<FractionSlider>(dictionary, "bind.value", u"key"_s);
     const auto field = bound<NumberField>(dictionary, "bind.value", u"key"_s);
-    slider->setRange(-2000, 2000);
+    slider->setLimit(20);
     field->setRange(-20, 20);
     dictionary.setValue(u"key"_s, -7.5);
     EXPECT_TRUE(box->isChecked());
@@ -135,7 +135,7 @@ TEST(ViewBindingsTest, WritesWhatTheUserDoesInItsOwnKind)
     const auto slider = bound<FractionSlider>(dictionary, "bind.value", u"slider"_s);
     const auto field = bound<NumberField>(dictionary, "bind.value", u"field"_s);
     box->setCheckable(true);
-    slider->setRange(-2000, 2000);
+    slider->setLimit(20);
     field->setRange(-20, 20);
     box->click();
     slider->moveByUser(2.25);
@@ -152,7 +152,7 @@ TEST(ViewBindingsTest, TiesTwoControlsOfOneKeyTogether)
     ObservableDictionary dictionary;
     const auto slider = bound<FractionSlider>(dictionary, "bind.value", u"key"_s);
     const auto field = bound<NumberField>(dictionary, "bind.value", u"key"_s);
-    slider->setRange(-2000, 2000);
+    slider->setLimit(20);
     field->setRange(-20, 20);
     slider->moveByUser(4.75);
     EXPECT_EQ(field->value(), 4);
