@@ -34,7 +34,6 @@ enum Tag : quint16 {
 };
 
 constexpr quint32 kUncompressed = 1;
-constexpr quint32 kDeflate = 8;
 constexpr quint32 kRgb = 2;
 constexpr quint32 kAlphaNotMultipliedIn = 2;
 constexpr quint32 kMostStrips = 1U << 16;
@@ -116,9 +115,8 @@ bool isPlain(const Directory &directory)
     const bool alpha =
         samples == Values{4} && directory.value(ExtraSamples) == Values{kAlphaNotMultipliedIn};
     const Values bits = directory.value(BitsPerSample);
-    const Values compression = directory.value(Compression);
     return (opaque || alpha) && bits == Values(samples.constFirst(), 8) &&
-           (compression == Values{kUncompressed} || compression == Values{kDeflate}) &&
+           directory.value(Compression) == Values{kUncompressed} &&
            directory.value(Photometric) == Values{kRgb} && is(PlanarConfiguration, 1) &&
            is(Predictor, 1) && is(Orientation, 1) && is(FillOrder, 1) &&
            !directory.contains(SampleFormat) && !directory.contains(ColorProfile) &&
@@ -131,7 +129,6 @@ struct Layout
     qint64 height = 0;
     qint64 samples = 0;
     qint64 rowsPerStrip = 0;
-    bool deflated = false;
     Values offsets;
     Values sizes;
 };
@@ -143,13 +140,9 @@ std::optional<Layout> layoutOf(const Directory &directory)
         const Values values = directory.value(tag);
         return values.size() == 1 ? qint64(values.constFirst()) : 0;
     };
-    Layout layout{single(ImageWidth),
-                  single(ImageLength),
-                  single(SamplesPerPixel),
-                  single(RowsPerStrip),
-                  single(Compression) == kDeflate,
-                  directory.value(StripOffsets),
-                  directory.value(StripByteCounts)};
+    Layout layout{
+        single(ImageWidth),   single(ImageLength),           single(SamplesPerPixel),
+        single(RowsPerStrip), directory.value(StripOffsets), directory.value(StripByteCounts)};
     const qint64 largest = 1 << 15;
     if (layout.width < 1 || layout.width > largest || layout.height < 1 ||
         layout.height > largest || layout.width * layout.height > maximumPixels)
@@ -165,20 +158,12 @@ std::optional<Layout> layoutOf(const Directory &directory)
     return layout;
 }
 
-/// The bytes of the strip, exactly `size` of them; empty when the file has others.
-QByteArray stripOf(const QByteArray &file, const Layout &layout, qsizetype strip, qint64 size)
+/// The bytes of the strip; none when the file has not exactly `size` of them.
+const uchar *stripOf(const QByteArray &file, const Layout &layout, qsizetype strip, qint64 size)
 {
     const qint64 offset = layout.offsets[strip];
-    const qint64 stored = layout.sizes[strip];
-    if (offset + stored > file.size())
-        return {};
-    QByteArray bytes = file.mid(offset, stored);
-    if (layout.deflated) {
-        QByteArray length(4, '\0');
-        qToBigEndian(static_cast<quint32>(size), length.data());
-        bytes = qUncompress(length + bytes);
-    }
-    return bytes.size() == size ? bytes : QByteArray();
+    const bool complete = layout.sizes[strip] == size && offset + size <= file.size();
+    return complete ? reinterpret_cast<const uchar *>(file.constData()) + offset : nullptr;
 }
 
 void copyRow(const uchar *source, qint64 samples, QImage &image, int y)
@@ -201,12 +186,11 @@ QImage readPlainTiff(const QByteArray &file)
                  layout->samples == 4 ? QImage::Format_ARGB32 : QImage::Format_RGB32);
     for (int y = 0; y < image.height(); y += static_cast<int>(layout->rowsPerStrip)) {
         const qint64 rows = std::min<qint64>(layout->rowsPerStrip, image.height() - y);
-        const QByteArray strip = stripOf(file, *layout, y / layout->rowsPerStrip, rows * rowSize);
-        if (strip.isEmpty())
+        const uchar *strip = stripOf(file, *layout, y / layout->rowsPerStrip, rows * rowSize);
+        if (!strip)
             return {};
         for (int row = 0; row < rows; ++row)
-            copyRow(reinterpret_cast<const uchar *>(strip.constData()) + row * rowSize,
-                    layout->samples, image, y + row);
+            copyRow(strip + row * rowSize, layout->samples, image, y + row);
     }
     return image;
 }

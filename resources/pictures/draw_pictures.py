@@ -45,8 +45,9 @@ def encoded(colours):
     return Image.fromarray((srgb * 255 + 0.5).astype(np.uint8), "RGB")
 
 
-def save(picture, name):
-    picture.save(FOLDER / f"{name}.tiff", compression="tiff_adobe_deflate", dpi=(72, 72))
+# A photograph hardly gets smaller, and an icon not enough to be worth a decoder at every start.
+def save(picture, name, compression=None):
+    picture.save(FOLDER / f"{name}.tiff", compression=compression, dpi=(72, 72))
 
 
 def main():
@@ -55,8 +56,8 @@ def main():
         save(encoded(look(colours, *settings)), name)
     photograph = encoded(scene.render(*PHOTOGRAPH, 2))
     photograph.save(FOLDER.parent / "sample" / "photograph.jpg", quality=88)
-    save(envelopes.into_cassette(), "QTLark22_Env")
-    save(envelopes.into_tray(), "QTLark22_Tray_Env")
+    save(envelopes.into_cassette(), "QTLark22_Env", "tiff_adobe_deflate")
+    save(envelopes.into_tray(), "QTLark22_Tray_Env", "tiff_adobe_deflate")
     for name, picture in media.all_media().items():
         save(picture, name)
 

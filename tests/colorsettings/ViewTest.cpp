@@ -3,6 +3,7 @@
 #include "tests/colorsettings/ColorPanelFixture.h"
 
 #include <QtTest/QTest>
+#include <QtWidgets/QApplication>
 
 using namespace Qt::StringLiterals;
 
@@ -30,4 +31,36 @@ TEST(ColorSettingsView, SendsNothingWhileItIsDestroyed)
     ASSERT_EQ(field.text(), u"8"_s);
     view.reset();
     EXPECT_EQ(sent, 0) << "the typed number was complete when the field lost the focus";
+}
+
+TEST(ColorSettingsView, IsWalkedThroughInReadingOrder)
+{
+    QWidget *panelView = nullptr;
+    ViewConnections owner;
+    owner.outlet(u"panelView"_s, panelView);
+    const auto view =
+        loadView(QStringLiteral(VELKARO_TEST_BUNDLE "/Resources/VKInkColorSetting.ui"), owner);
+    ASSERT_TRUE(view);
+    for (const char *key :
+         {"VKOutput", "VKMonoColor", "VKColorMatching", "VKColorEnhancement", "Color"})
+        view->content()->setValue(QLatin1String(key), true);
+    view->content()->setValue(u"advancedcolorItem"_s, true);
+    for (const QString &name : {u"ditherPopup"_s, u"colorEnhanceButton"_s})
+        panelView->findChild<QWidget *>(name)->show();
+    panelView->setParent(nullptr);
+    panelView->setFixedSize(560, 312);
+    panelView->show();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(panelView));
+    const QStringList order{u"ditherPopup"_s,      u"optionButton"_s,    u"colorEnhanceButton"_s,
+                            u"brightnessSlider"_s, u"brightnessField"_s, u"contrastSlider"_s,
+                            u"contrastField"_s,    u"redSlider"_s,       u"redField"_s,
+                            u"greenSlider"_s,      u"greenField"_s,      u"blueSlider"_s,
+                            u"blueField"_s,        u"revertButton"_s};
+    panelView->findChild<QWidget *>(order[0])->setFocus();
+    QStringList visited;
+    for (qsizetype step = 0; step < order.size(); ++step) {
+        visited << QApplication::focusWidget()->objectName();
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+    }
+    EXPECT_EQ(visited, order);
 }

@@ -42,11 +42,6 @@ QList<QRgb> pixelsOf(const QImage &image)
 const QList<QRgb> opaquePixels = {0xff010203, 0xff0a0b0c, 0xfffffefd, 0xff000000};
 const QList<QRgb> alphaPixels = {0x00010203, 0x010a0b0c, 0x80fffefd, 0xff000000};
 
-QByteArray deflated(const QByteArray &bytes)
-{
-    return qCompress(bytes).mid(4);
-}
-
 } // namespace
 
 TEST(PlainTiff, GivesTheBytesAsTheyStand)
@@ -64,12 +59,6 @@ TEST(PlainTiff, KeepsTheColorsOfTransparentPixels)
     EXPECT_EQ(pixelsOf(image), alphaPixels);
 }
 
-TEST(PlainTiff, InflatesItsStrips)
-{
-    const auto file = colorFile(3, deflated(opaqueBytes)).set(Tag::Compression, {8}).file();
-    EXPECT_EQ(pixelsOf(imaging::readPlainTiff(file)), opaquePixels);
-}
-
 TEST(PlainTiff, ReadsStripAfterStrip)
 {
     const auto file =
@@ -81,9 +70,9 @@ TEST(PlainTiff, ReadsStripAfterStrip)
     EXPECT_EQ(pixelsOf(imaging::readPlainTiff(file)), opaquePixels);
 }
 
-TEST(PlainTiff, ReadsEveryPictureOfTheBundle)
+TEST(PlainTiff, ReadsThePicturesThatThePanelsShow)
 {
-    for (const char *name : {"Natural", "Vivid", "None", "Glossy", "QTLark22_Env"}) {
+    for (const char *name : {"Natural", "Vivid", "None", "Glossy"}) {
         QFile file(QStringLiteral(PICTURE_FOLDER "/%1.tiff").arg(QLatin1String(name)));
         ASSERT_TRUE(file.open(QIODevice::ReadOnly)) << name;
         const QImage plain = imaging::readPlainTiff(file.readAll());
@@ -100,7 +89,7 @@ TEST(PlainTiff, LeavesEverythingElseToAnotherDecoder)
     const std::pair<const char *, std::function<void(TiffBuilder &)>> changes[] = {
         {"turned", [](TiffBuilder &tiff) { tiff.set(Tag::Orientation, {3}); }},
         {"another compression", [](TiffBuilder &tiff) { tiff.set(Tag::Compression, {5}); }},
-        {"no deflated strip", [](TiffBuilder &tiff) { tiff.set(Tag::Compression, {8}); }},
+        {"deflated", [](TiffBuilder &tiff) { tiff.set(Tag::Compression, {8}); }},
         {"16 bits",
          [](TiffBuilder &tiff) {
              tiff.set(Tag::BitsPerSample, {16, 16, 16});
