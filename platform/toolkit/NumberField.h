@@ -9,9 +9,13 @@
 class VELKARO_PLATFORM_EXPORT NumberField : public QSpinBox
 {
     Q_OBJECT
+    /// The numbers run from -limit to limit, which must be above 0.
+    Q_PROPERTY(int limit READ maximum WRITE setLimit)
 
 public:
     explicit NumberField(QWidget *parent = nullptr);
+
+    void setLimit(int limit) { setRange(-limit, limit); }
 
     /// Shows the number, cut toward zero, without telling anybody.
     void setDoubleValue(double value);

@@ -16,11 +16,6 @@
 
 namespace {
 
-QString bindingOf(const QWidget *control, const char *property)
-{
-    return control->property(property).toString();
-}
-
 // Several keys, all of which must be true.
 class Conjunction
 {
@@ -148,9 +143,9 @@ void bindView(QWidget *control, ObservableDictionary &dictionary)
         {"bind.hidden", bindHidden},
         {"bind.textColor", bindTextColor},
     };
+    const QByteArrayList given = control->dynamicPropertyNames();
     for (const auto &[property, bind] : kinds) {
-        const QString binding = bindingOf(control, property);
-        if (!binding.isEmpty())
-            bind(control, dictionary, binding);
+        if (given.contains(property))
+            bind(control, dictionary, control->property(property).toString());
     }
 }

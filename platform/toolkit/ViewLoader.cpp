@@ -1,7 +1,7 @@
 #include "platform/toolkit/ViewLoader.h"
 
+#include "platform/toolkit/CaptionLabel.h"
 #include "platform/toolkit/DisclosureButton.h"
-#include "platform/toolkit/ElidedLabel.h"
 #include "platform/toolkit/FractionSlider.h"
 #include "platform/toolkit/ImageView.h"
 #include "platform/toolkit/NumberField.h"
@@ -23,7 +23,7 @@ ViewConnections toolkitClasses()
 {
     ViewConnections classes;
     classes.widgetClass<DisclosureButton>(QStringLiteral("DisclosureButton"));
-    classes.widgetClass<ElidedLabel>(QStringLiteral("ElidedLabel"));
+    classes.widgetClass<CaptionLabel>(QStringLiteral("CaptionLabel"));
     classes.widgetClass<PopUpButton>(QStringLiteral("PopUpButton"));
     classes.widgetClass<RadioMatrix>(QStringLiteral("RadioMatrix"));
     classes.widgetClass<ImageView>(QStringLiteral("ImageView"));
@@ -122,9 +122,10 @@ LoadedView::LoadedView(QWidget *root, std::unique_ptr<ObservableDictionary> cont
 {
     for (auto outlet = outlets.cbegin(); outlet != outlets.cend(); ++outlet) {
         m_outlets.insert(outlet.key(), outlet.value());
-        if (outlet.value()->property("bind.enabled").isValid())
+        const QByteArrayList given = outlet.value()->dynamicPropertyNames();
+        if (given.contains("bind.enabled"))
             m_enabledBound.insert(outlet.value());
-        if (outlet.value()->property("bind.textColor").isValid())
+        if (given.contains("bind.textColor"))
             m_textColorBound.insert(outlet.value());
     }
 }

@@ -1,6 +1,6 @@
+#include "platform/toolkit/CaptionLabel.h"
 #include "platform/toolkit/ControlColor.h"
 #include "platform/toolkit/DisclosureButton.h"
-#include "platform/toolkit/ElidedLabel.h"
 #include "platform/toolkit/KeyWindow.h"
 #include "platform/toolkit/SizeWatch.h"
 
@@ -101,7 +101,7 @@ const ElideCase kElideCases[] = {
 
 TEST_P(Elided, ShowsWhatFits)
 {
-    ElidedLabel label;
+    CaptionLabel label;
     label.setText(GetParam().text);
     label.resize(GetParam().characters * label.fontMetrics().horizontalAdvance(u'n') + 4, 20);
     EXPECT_EQ(label.wholeTextTip(), GetParam().tip);
@@ -118,9 +118,19 @@ TEST_P(Elided, ShowsWhatFits)
 
 INSTANTIATE_TEST_SUITE_P(Cases, Elided, testing::ValuesIn(kElideCases), CaseName());
 
-TEST(ElidedLabelTest, PaintsWithTheTextColourItIsGiven)
+TEST(CaptionLabelTest, AsksForTheWidthOfItsTextUntilTheControlNeedsTheRoom)
 {
-    ElidedLabel label;
+    CaptionLabel label;
+    label.setText(u"Tray:"_s);
+    EXPECT_EQ(label.sizeHint().width(), label.fontMetrics().horizontalAdvance(u"Tray:"_s));
+    label.setText(QString(500, u'n'));
+    EXPECT_EQ(label.sizeHint().width(), 130);
+    EXPECT_EQ(label.minimumSizeHint(), label.sizeHint());
+}
+
+TEST(CaptionLabelTest, PaintsWithTheTextColourItIsGiven)
+{
+    CaptionLabel label;
     label.setText(u"nnnn"_s);
     label.resize(80, 20);
     const QImage ordinary = label.grab().toImage();

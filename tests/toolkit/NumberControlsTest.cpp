@@ -29,7 +29,7 @@ protected:
                                  static_cast<QWidget *>(elsewhere)})
             layout->addWidget(control);
         slider->setLimit(20);
-        field->setRange(-20, 20);
+        field->setLimit(20);
         window.resize(400, 120);
         window.show();
         window.activateWindow();
@@ -55,6 +55,13 @@ protected:
     NumberField *field = new NumberField;
     QLineEdit *elsewhere = new QLineEdit;
 };
+
+TEST_F(NumberControlsTest, AFieldRunsFromMinusItsLimitToIt)
+{
+    EXPECT_EQ(field->property("limit").toInt(), 20);
+    EXPECT_EQ(field->minimum(), -20);
+    EXPECT_EQ(field->maximum(), 20);
+}
 
 TEST_F(NumberControlsTest, ASliderHasTicksAtItsEndsAndInTheMiddle)
 {

@@ -1,28 +1,47 @@
-#include "platform/toolkit/ElidedLabel.h"
+#include "platform/toolkit/CaptionLabel.h"
 
 #include <QtGui/QHelpEvent>
 #include <QtWidgets/QStyle>
 #include <QtWidgets/QStylePainter>
 #include <QtWidgets/QToolTip>
 
-ElidedLabel::ElidedLabel(QWidget *parent) : QLabel(parent)
+#include <algorithm>
+
+namespace {
+
+constexpr int kWidest = 130; // pixels: the column of captions in the panels
+
+} // namespace
+
+CaptionLabel::CaptionLabel(QWidget *parent) : QLabel(parent)
 {
     setTextFormat(Qt::PlainText);
+    setAlignment(Qt::AlignRight | Qt::AlignVCenter);
 }
 
-QString ElidedLabel::shownText() const
+QSize CaptionLabel::sizeHint() const
+{
+    return {std::min(fontMetrics().horizontalAdvance(text()), kWidest), fontMetrics().height()};
+}
+
+QSize CaptionLabel::minimumSizeHint() const
+{
+    return sizeHint();
+}
+
+QString CaptionLabel::shownText() const
 {
     return fontMetrics().elidedText(text(), Qt::ElideRight, contentsRect().width());
 }
 
-QString ElidedLabel::wholeTextTip() const
+QString CaptionLabel::wholeTextTip() const
 {
     // A tool tip guesses at rich text, so it gets some that says what the plain text says.
     const bool whole = shownText() == text();
     return whole ? QString() : QStringLiteral("<p>%1</p>").arg(text().trimmed().toHtmlEscaped());
 }
 
-bool ElidedLabel::event(QEvent *event)
+bool CaptionLabel::event(QEvent *event)
 {
     if (event->type() != QEvent::ToolTip)
         return QLabel::event(event);
@@ -30,7 +49,7 @@ bool ElidedLabel::event(QEvent *event)
     return true;
 }
 
-void ElidedLabel::paintEvent(QPaintEvent *)
+void CaptionLabel::paintEvent(QPaintEvent *)
 {
     QStylePainter painter(this);
     painter.drawItemText(contentsRect(), static_cast<int>(alignment()), palette(), isEnabled(),
