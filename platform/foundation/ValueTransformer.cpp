@@ -19,7 +19,7 @@ Registry &registry()
 void ValueTransformer::setValueTransformer(std::shared_ptr<const ValueTransformer> transformer,
                                            const QString &forName)
 {
-    registry().insert(forName, std::move(transformer));
+    registry()[forName] = std::move(transformer);
 }
 
 std::shared_ptr<const ValueTransformer>

@@ -37,7 +37,7 @@ void ChannelTables::build(const ColorTransform &change, bool opaque)
 // come out of a register, red by a load of its own, and two pixels leave in one store.
 template <quint64 keptBits> void ChannelTables::map(const QRgb *in, QRgb *out, int count) const
 {
-    for (const QRgb *end = in + count / 2 * 2; in != end; in += 2, out += 2) {
+    for (const QRgb *end = in + (count - count % 2); in != end; in += 2, out += 2) {
         const quint64 first = in[0];
         const quint64 second = in[1];
         const auto *bytes = reinterpret_cast<const uchar *>(in);

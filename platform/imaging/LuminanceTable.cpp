@@ -71,7 +71,7 @@ QRgb LuminanceTable::color(std::size_t step) const
 void LuminanceTable::mapNeutral(const quint16 *luminance, QRgb *out, int count) const
 {
     const Levels &levels = m_levels[0];
-    for (const QRgb *end = out + count / 2 * 2; out != end; out += 2, luminance += 2) {
+    for (const QRgb *end = out + (count - count % 2); out != end; out += 2, luminance += 2) {
         const quint64 pair = quint64(levels[luminance[0]]) << pixelShift[0] |
                              quint64(levels[luminance[1]]) << pixelShift[1];
         const quint64 both = pair * 0x010101U | 0xff000000'ff000000;

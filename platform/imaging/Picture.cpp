@@ -27,7 +27,7 @@ quint16 luminanceStep(double red, double green, double blue)
 {
     const double luminance =
         luminanceWeights[0] * red + luminanceWeights[1] * green + luminanceWeights[2] * blue;
-    return static_cast<quint16>(luminance * Picture::luminanceSteps + 0.5);
+    return static_cast<quint16>(qRound(luminance * Picture::luminanceSteps));
 }
 
 } // namespace

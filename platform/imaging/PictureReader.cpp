@@ -87,7 +87,7 @@ QImage readPicture(const QString &path)
     const QByteArray format = formatOf(path);
     if (format.isEmpty())
         return {};
-    const QImage plain = format == "tiff" ? readPlainTiff(contentsIfSmall(path)) : QImage();
+    QImage plain = format == "tiff" ? readPlainTiff(contentsIfSmall(path)) : QImage();
     if (!plain.isNull())
         return plain;
     const AllocationLimit limit;

@@ -33,7 +33,7 @@ quint8 encodedAlpha(double alpha)
 {
     if (!(alpha > 0.0))
         return 0;
-    return alpha >= 1.0 ? quint8(255) : static_cast<quint8>(alpha * 255.0 + 0.5);
+    return alpha >= 1.0 ? quint8(255) : static_cast<quint8>(qRound(alpha * 255.0));
 }
 
 template <typename Pixel, typename Linear>

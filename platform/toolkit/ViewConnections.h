@@ -27,7 +27,7 @@ public:
         });
     }
 
-    void action(const QString &name, Action action) { m_actions.insert(name, std::move(action)); }
+    void action(const QString &name, Action action) { m_actions[name] = std::move(action); }
 
     /// Makes a widget class of the owner's own known to the loader.
     template <typename Widget> void widgetClass(const QString &className)

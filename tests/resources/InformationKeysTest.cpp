@@ -18,7 +18,7 @@ QStringList list(const QString &key)
 {
     QStringList result;
     const QJsonArray array = information().value(key).toArray();
-    for (const QJsonValue &value : array)
+    for (const auto &value : array)
         result << value.toString();
     return result;
 }
