@@ -308,7 +308,7 @@ TEST_F(Creation, AFaxJobIsOneWhoseOutputIsMarkedFax)
     EXPECT_FALSE(panel->checkIfOutputToFax());
     session->mark(u"VKOutput"_s, u"FAX"_s);
     EXPECT_TRUE(panel->checkIfOutputToFax());
-    usePrinter(PPDSource().option(u"VKOutput"_s, {u"fax"_s}).open());
+    usePrinter(PPDSource().option("VKOutput", {"fax"}).open());
     open();
     EXPECT_FALSE(panel->checkIfOutputToFax());
     useSample(u"velkaro-mx-j710dw"_s);

@@ -362,8 +362,8 @@ TEST_F(MediaTypeRules, NoSelectedMediumCountsAsOneThatNobodyKnows)
 TEST_F(MediaTypeRules, TheSecondTrayIsFoundByItsTitle)
 {
     usePrinter(PPDSource()
-                   .option(u"VKMediaType"_s, {u"Plain"_s, u"Glossy"_s})
-                   .option(u"VKInputSlot"_s, {u"Tray1/Upper"_s, u"Lower/Same"_s, u"Tray2/Same"_s})
+                   .option("VKMediaType", {"Plain", "Glossy"})
+                   .option("VKInputSlot", {"Tray1/Upper", "Lower/Same", "Tray2/Same"})
                    .open());
     show();
     ASSERT_TRUE(popup(u"mediaTypePopup"_s)->selectObject(u"Glossy"_s));
@@ -435,14 +435,6 @@ TEST_F(MediaTypeRules, ACustomPaperIsAnEnvelopeByItsThickness)
 
 // --- Keeping the PPD's defaults ------------------------------------------------------------------
 
-void unmark(ppd_file_t *ppd, const char *keyword)
-{
-    ppd_choice_t *choice = ppdFindMarkedChoice(ppd, keyword);
-    ASSERT_TRUE(choice);
-    choice->marked = 0;
-    cupsArrayRemove(ppd->marked, choice);
-}
-
 TEST_F(MediaTypeRules, ADefaultIsOfferedWhereNothingIsMarked)
 {
     open();
@@ -477,9 +469,9 @@ TEST_F(MediaTypeRules, AnotherMarkedChoiceIsLeftAlone)
 TEST_F(MediaTypeRules, AnEnvelopeKeepsItsThicknessAndDirectionWhereTheDefaultIsMarked)
 {
     usePrinter(PPDSource()
-                   .option(u"VKColorPaperThick"_s, {u"Regular"_s, u"Thick"_s, u"Env"_s})
-                   .option(u"VKBiDir"_s, {u"OFF"_s, u"ON"_s})
-                   .option(u"VKReverse"_s, {u"OFF"_s, u"ON"_s})
+                   .option("VKColorPaperThick", {"Regular", "Thick", "Env"})
+                   .option("VKBiDir", {"OFF", "ON"})
+                   .option("VKReverse", {"OFF", "ON"})
                    .open());
     open();
     for (const auto &[keyword, value] :
@@ -499,7 +491,7 @@ TEST_F(MediaTypeRules, AnEnvelopeKeepsItsThicknessAndDirectionWhereTheDefaultIsM
 
 TEST_F(MediaTypeRules, KeywordsThatThePPDLacksHaveNoDefault)
 {
-    usePrinter(PPDSource().option(u"VKBiDir"_s, {u"OFF"_s, u"ON"_s}).open());
+    usePrinter(PPDSource().option("VKBiDir", {"OFF", "ON"}).open());
     open();
     panel->setOutputBin({});
     panel->setDefaults();
@@ -526,7 +518,7 @@ TEST_F(MediaTypeRules, BorderlessLetterResetsTheQualityOnModelTwelve)
           LetterRule{13, u"Letter.Fullbleed"_s, u"Best"_s}}) {
         usePrinter(PPDSource()
                        .modelNumber(row.modelNumber)
-                       .option(kQuality, {u"PlainNormal"_s, u"Best"_s})
+                       .option("VKResolution", {"PlainNormal", "Best"})
                        .open());
         open();
         panel->recordPendingValue(kQuality, u"Best"_s);

@@ -297,19 +297,20 @@ TEST_P(BorderlessWarning, IsRaisedOncePerChangeWhereSomethingMustGiveWay)
     if (row.shown)
         panel->updateUI();
     for (int announced = 0; announced < row.alerts; ++announced)
-        session->alerts().expect({});
+        session->alerts().expect();
     session->changePaper(row.paper);
     session->changePaper(row.paper);
     const auto alerts = session->alerts().take();
     ASSERT_EQ(alerts.size(), static_cast<std::size_t>(row.alerts));
     if (alerts.empty())
         return;
-    EXPECT_EQ(session->alerts().kinds().front(), ShownAlert::Kind::Modal);
-    EXPECT_EQ(alerts[0].style, AlertStyle::Critical);
-    EXPECT_EQ(alerts[0].text, u"Borderless Alert"_s);
-    EXPECT_EQ(alerts[0].informative, u"Borderless Alert2"_s);
-    EXPECT_EQ(alerts[0].buttons, QStringList({u"OK"_s}));
-    EXPECT_FALSE(alerts[0].suppression);
+    EXPECT_EQ(alerts[0].kind, ShownAlert::Kind::Modal);
+    const AlertContent &content = alerts[0].content;
+    EXPECT_EQ(content.style, AlertStyle::Critical);
+    EXPECT_EQ(content.text, u"Borderless Alert"_s);
+    EXPECT_EQ(content.informative, u"Borderless Alert2"_s);
+    EXPECT_EQ(content.buttons, QStringList({u"OK"_s}));
+    EXPECT_FALSE(content.suppression);
 }
 
 INSTANTIATE_TEST_SUITE_P(
@@ -331,7 +332,7 @@ TEST_F(PageSetup, AWarnedChangeAppliesTheDefaultsOfTheMedium)
     show();
     pickChoice(panel->outlet(u"mediaTypePopup"_s), u"Transparencies"_s);
     log();
-    session->alerts().expect({});
+    session->alerts().expect();
     session->changePaper(u"Letter.Fullbleed"_s);
     session->alerts().take();
     EXPECT_EQ(panel->pending(), u"Plain/PlainNormal"_s);
@@ -495,7 +496,7 @@ TEST_F(TwoSided, IsNeverOnForAPrinterWithoutTheTwoSidedMedium)
 
 TEST_F(TwoSided, IsNeverOnForAPrinterWithoutDuplex)
 {
-    usePrinter(PPDSource().option(u"VKMediaType"_s, {u"Plain"_s, u"PlainDuplex"_s}).open());
+    usePrinter(PPDSource().option("VKMediaType", {"Plain", "PlainDuplex"}).open());
     open();
     panel->setFlag(DuplexOn, true);
     panel->checkDuplex();

@@ -73,7 +73,7 @@ protected:
         session = std::make_unique<PanelSession>(std::move(ppd));
         panel = std::make_unique<TestedPanel>();
     }
-    void useSample(const QString &name) { usePrinter(PanelSession::samplePrinter(name)); }
+    void useSample(const QString &name) { usePrinter(openSample(name)); }
 
     /// Creates the panel and lets it read its values, as a dialog does when it opens.
     void open()
@@ -97,7 +97,7 @@ protected:
     PopUpButton *popup(const QString &name) const { return panel->popup(name); }
     QAbstractButton *box(const QString &name) const { return panel->box(name); }
 
-    std::unique_ptr<PanelSession> session = std::make_unique<PanelSession>(
-        PanelSession::samplePrinter(QStringLiteral("velkaro-px-t900")));
+    std::unique_ptr<PanelSession> session =
+        std::make_unique<PanelSession>(openSample(QStringLiteral("velkaro-px-t900")));
     std::unique_ptr<TestedPanel> panel = std::make_unique<TestedPanel>();
 };

@@ -35,13 +35,6 @@ PanelSession::~PanelSession()
     setKeyWindow(nullptr);
 }
 
-PPDHandle PanelSession::samplePrinter(const QString &name)
-{
-    OpenedPPD opened = openPPD(samplePPD(name));
-    EXPECT_TRUE(opened.ppd) << qPrintable(opened.error);
-    return std::move(opened.ppd);
-}
-
 void PanelSession::setBundle(std::shared_ptr<Bundle> bundle)
 {
     m_bundle = std::move(bundle);

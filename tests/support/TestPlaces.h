@@ -8,8 +8,14 @@ inline QString builtBundle()
     return QStringLiteral(VELKARO_TEST_BUNDLE);
 }
 
+/// The folder of the sample printers' PPDs.
+inline QString samplePPDFolder()
+{
+    return QStringLiteral(VELKARO_TEST_PPDS);
+}
+
 /// A sample printer's PPD by the name of the file without its ending, such as "velkaro-px-t900".
 inline QString samplePPD(const QString &name)
 {
-    return QStringLiteral(VELKARO_TEST_PPDS "/") + name + QStringLiteral(".ppd");
+    return samplePPDFolder() + QStringLiteral("/%1.ppd").arg(name);
 }
