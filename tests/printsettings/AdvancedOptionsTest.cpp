@@ -129,13 +129,13 @@ TEST_F(AdvancedOptions, BringUpThePageOfTheSelectedRow)
 TEST_F(AdvancedOptions, AreBuiltOnce)
 {
     show();
-    const QString before = rows();
-    const int registrations = NotificationCenter::defaultCenter().registrationCount(panel.get());
+    const QString rowsBefore = rows();
+    const int registrationsBefore = registrations();
     popup(u"monoColorPopup"_s)->setItems({});
     panel->shouldHide();
     panel->willShow();
-    EXPECT_EQ(rows(), before);
-    EXPECT_EQ(NotificationCenter::defaultCenter().registrationCount(panel.get()), registrations);
+    EXPECT_EQ(rows(), rowsBefore);
+    EXPECT_EQ(registrations(), registrationsBefore);
     EXPECT_EQ(popup(u"monoColorPopup"_s)->count(), 0);
 }
 

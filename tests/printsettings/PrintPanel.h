@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/foundation/NotificationCenter.h"
 #include "platform/toolkit/PopUpButton.h"
 #include "printsettings/VKInkPrintSetting14PDE.h"
 #include "tests/support/PanelSession.h"
@@ -90,6 +91,12 @@ protected:
         ASSERT_TRUE(panel->panelView());
         panel->willShow();
         session->log().take();
+    }
+
+    /// How many notifications the panel is registered for.
+    int registrations() const
+    {
+        return NotificationCenter::defaultCenter().registrationCount(panel.get());
     }
 
     QStringList log() { return session->log().take(); }
