@@ -3,9 +3,9 @@
 #include "colorsettings/VKInkColorSettingPDE.h"
 #include "dialog/host/HostCallback.h"
 #include "dialog/host/PPDFile.h"
+#include "tests/built/BuiltFiles.h"
 #include "tests/support/PPDSource.h"
 #include "tests/support/QStringPrinting.h"
-#include "tests/support/TestPlaces.h"
 
 #include <QtWidgets/QWidget>
 

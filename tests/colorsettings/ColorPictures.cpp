@@ -1,7 +1,7 @@
 #include "tests/colorsettings/ColorPictures.h"
 
 #include "platform/toolkit/ImageView.h"
-#include "tests/support/TestPlaces.h"
+#include "tests/built/BuiltFiles.h"
 
 #include <QtCore/QDirIterator>
 

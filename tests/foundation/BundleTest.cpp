@@ -1,9 +1,9 @@
 #include "platform/foundation/Bundle.h"
 
 #include "platform/foundation/PreferredLanguages.h"
+#include "tests/built/BuiltFiles.h"
 #include "tests/support/CaseName.h"
 #include "tests/support/QStringPrinting.h"
-#include "tests/support/TestPlaces.h"
 #include "tests/support/WriteFile.h"
 
 #include <gtest/gtest.h>

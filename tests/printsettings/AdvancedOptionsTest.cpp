@@ -2,9 +2,9 @@
 #include "platform/foundation/NotificationCenter.h"
 #include "platform/printmanager/PMPrintSettings.h"
 #include "platform/toolkit/KeyWindow.h"
+#include "tests/built/BuiltFiles.h"
 #include "tests/printsettings/PrintPanel.h"
 #include "tests/support/PPDSource.h"
-#include "tests/support/TestPlaces.h"
 
 #include <QtCore/QDir>
 #include <QtCore/QFile>

@@ -1,6 +1,6 @@
 #include "tests/support/PPDSource.h"
 
-#include "tests/support/TestPlaces.h"
+#include "tests/built/BuiltFiles.h"
 #include "tests/support/WriteFile.h"
 
 #include <QtCore/QTemporaryDir>

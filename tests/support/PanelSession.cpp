@@ -8,7 +8,7 @@
 #include "platform/pde/PPDText.h"
 #include "platform/toolkit/KeyWindow.h"
 #include "platform/toolkit/PopUpButton.h"
-#include "tests/support/TestPlaces.h"
+#include "tests/built/BuiltFiles.h"
 
 #include <QtWidgets/QAbstractButton>
 

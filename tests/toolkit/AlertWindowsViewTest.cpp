@@ -1,7 +1,7 @@
 #include "platform/toolkit/ImageView.h"
 #include "platform/toolkit/ViewLoader.h"
+#include "tests/built/BuiltFiles.h"
 #include "tests/support/QStringPrinting.h"
-#include "tests/support/TestPlaces.h"
 
 #include <gtest/gtest.h>
 

@@ -1,8 +1,8 @@
 #include "platform/toolkit/DisclosureButton.h"
 #include "platform/toolkit/PopUpButton.h"
 #include "platform/toolkit/ViewLoader.h"
+#include "tests/built/BuiltFiles.h"
 #include "tests/support/QStringPrinting.h"
-#include "tests/support/TestPlaces.h"
 
 #include <gtest/gtest.h>
 

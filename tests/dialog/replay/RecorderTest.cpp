@@ -12,9 +12,9 @@
 #include "platform/toolkit/KeyWindow.h"
 #include "platform/toolkit/PopUpButton.h"
 #include "platform/toolkit/SizeWatch.h"
+#include "tests/built/BuiltFiles.h"
 #include "tests/dialog/replay/JsonSubset.h"
 #include "tests/support/AlertAnswers.h"
-#include "tests/support/TestPlaces.h"
 
 #include <QtCore/QJsonDocument>
 #include <QtCore/QTemporaryDir>

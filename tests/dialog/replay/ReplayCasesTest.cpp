@@ -1,8 +1,8 @@
 // Whole scripts, each a file in cases/ whose events say what they expect.
 #include "dialog/replay/ReplayScript.h"
 #include "dialog/replay/ReplaySession.h"
+#include "tests/built/BuiltFiles.h"
 #include "tests/dialog/replay/JsonSubset.h"
-#include "tests/support/TestPlaces.h"
 
 #include <QtCore/QFile>
 #include <QtCore/QJsonDocument>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "tests/printserver/PrintServer.h"
+#include "tests/built/BuiltFiles.h"
 
 #include <QtCore/QFile>
 #include <QtCore/QTemporaryDir>

@@ -4,6 +4,7 @@
 #include "platform/toolkit/KeyWindow.h"
 #include "platform/toolkit/NumberField.h"
 #include "platform/toolkit/PopUpButton.h"
+#include "tests/built/BuiltFiles.h"
 #include "tests/dialog/window/ClashingPPD.h"
 #include "tests/endtoend/JobPrinting.h"
 
@@ -29,7 +30,7 @@ protected:
     Window()
     {
         m_line.ppd = samplePPD(u"velkaro-px-t900"_s);
-        m_line.plugIn = QStringLiteral(VELKARO_BUNDLE);
+        m_line.plugIn = builtBundle();
         m_line.output = m_folder.filePath(u"out.job"_s);
         m_line.files = {m_folder.filePath(u"Holiday & <b>.ps"_s)};
         QFile file(m_line.files[0]);

@@ -2,16 +2,16 @@
 
 #include <QtCore/QString>
 
-/// The plug-in's bundle as it was built.
+/// The plug-in's bundle as the build makes it.
 inline QString builtBundle()
 {
-    return QStringLiteral(VELKARO_TEST_BUNDLE);
+    return QStringLiteral(VELKARO_BUILT_BUNDLE);
 }
 
 /// The folder of the sample printers' PPDs.
 inline QString samplePPDFolder()
 {
-    return QStringLiteral(VELKARO_TEST_PPDS);
+    return QStringLiteral(VELKARO_BUILT_PPDS);
 }
 
 /// A sample printer's PPD by the name of the file without its ending, such as "velkaro-px-t900".
