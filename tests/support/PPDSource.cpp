@@ -132,15 +132,39 @@ QByteArray PPDSource::text() const
 
 PPDHandle PPDSource::open() const
 {
-    const QTemporaryDir folder;
-    const QString path = folder.filePath(QStringLiteral("test.ppd"));
-    writeFile(path, text());
-    return openOrFail(path);
+    return openText(text());
 }
 
 PPDHandle openSample(const QString &name)
 {
     return openOrFail(samplePPD(name));
+}
+
+QByteArray sampleText(const QString &name)
+{
+    QFile file(samplePPD(name));
+    EXPECT_TRUE(file.open(QIODevice::ReadOnly)) << qPrintable(file.fileName());
+    return file.readAll();
+}
+
+QByteArray sampleWithoutDefaults(const QString &name, const QByteArrayList &keywords)
+{
+    QByteArrayList lines = sampleText(name).split('\n');
+    for (const QByteArray &keyword : keywords) {
+        const auto tellsDefault = [&](const QByteArray &line) {
+            return line.startsWith("*Default" + keyword + ':');
+        };
+        EXPECT_EQ(lines.removeIf(tellsDefault), 1) << keyword.constData();
+    }
+    return lines.join('\n');
+}
+
+PPDHandle openText(const QByteArray &text)
+{
+    const QTemporaryDir folder;
+    const QString path = folder.filePath(QStringLiteral("test.ppd"));
+    writeFile(path, text);
+    return openOrFail(path);
 }
 
 void unmark(ppd_file_t *ppd, const char *keyword)

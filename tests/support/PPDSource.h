@@ -39,7 +39,7 @@ public:
 
     QByteArray text() const;
 
-    /// The opened PPD with its defaults marked. Fails the test when the parser does not take it.
+    /// See openText().
     PPDHandle open() const;
 
 private:
@@ -49,6 +49,15 @@ private:
 
 /// A sample printer's PPD by its name, such as "velkaro-px-t900", with its defaults marked.
 PPDHandle openSample(const QString &name);
+
+/// The text of a sample printer's PPD, and the same without the lines that tell the defaults of
+/// these keywords.
+QByteArray sampleText(const QString &name);
+QByteArray sampleWithoutDefaults(const QString &name, const QByteArrayList &keywords);
+
+/// Opens a PPD from its text, with its defaults marked. Fails the test when the parser does not
+/// take it.
+PPDHandle openText(const QByteArray &text);
 
 /// Takes the mark from the option's choice, so that nothing is marked. Fails the test when there is
 /// no mark.
