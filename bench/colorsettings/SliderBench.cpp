@@ -10,6 +10,7 @@
 #include "platform/toolkit/FractionSlider.h"
 #include "platform/toolkit/ImageView.h"
 #include "platform/toolkit/KeyWindow.h"
+#include "tests/built/BuiltFiles.h"
 
 #include <QtWidgets/QApplication>
 
@@ -67,8 +68,8 @@ int main(int argc, char **argv)
 {
     qputenv("QT_QPA_PLATFORM", "offscreen");
     const QApplication application(argc, argv);
-    Bundle::setMainBundle(Bundle::open(QStringLiteral(PLUGIN_BUNDLE)));
-    const OpenedPPD opened = openPPD(QStringLiteral(SAMPLE_PPD));
+    Bundle::setMainBundle(Bundle::open(builtBundle()));
+    const OpenedPPD opened = openPPD(samplePPD(QStringLiteral("velkaro-px-t900")));
     const auto host = std::make_shared<HostCallback>(opened.ppd.get());
     host->willChangePPDOptionKeyValue(QStringLiteral("VKColorEnhancement"), QStringLiteral("ON"));
     PMPrintSettingsSetValue(&host->ticket(),

@@ -5,6 +5,7 @@
 #include "bench/support/Timing.h"
 #include "dialog/cups/JobSubmission.h"
 #include "dialog/cups/ServerCall.h"
+#include "tests/built/BuiltFiles.h"
 #include "tests/printserver/PrintServer.h"
 
 #include <QtCore/QCoreApplication>

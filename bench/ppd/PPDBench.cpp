@@ -3,6 +3,7 @@
 #include "bench/support/BenchPrinter.h"
 #include "bench/support/Timing.h"
 #include "dialog/host/PPDFile.h"
+#include "tests/built/BuiltFiles.h"
 
 #include <QtCore/QFile>
 #include <QtCore/QTemporaryDir>
@@ -46,6 +47,6 @@ int main()
     printHead("Opening a PPD against ppdOpenFile with ppdMarkDefaults", "ours", "libcups");
     measure("46 choices", writeBenchPrinter(folder.path(), kFewestChoices));
     measure("2000 choices", writeBenchPrinter(folder.path(), 2000));
-    measure("a sample printer", QStringLiteral(SAMPLE_PPD));
+    measure("a sample printer", samplePPD(QStringLiteral("velkaro-px-t900")));
     return 0;
 }

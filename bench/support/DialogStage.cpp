@@ -1,5 +1,7 @@
 #include "bench/support/DialogStage.h"
 
+#include "tests/built/BuiltFiles.h"
+
 #include <cstdlib>
 
 DialogStage::DialogStage()

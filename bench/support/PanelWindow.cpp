@@ -5,6 +5,7 @@
 #include "platform/foundation/UserDefaults.h"
 #include "platform/toolkit/KeyWindow.h"
 #include "printsettings/VKInkPrintSetting14PDE.h"
+#include "tests/built/BuiltFiles.h"
 
 #include <QtCore/QCoreApplication>
 
@@ -22,7 +23,7 @@ PPDHandle openBenchPPD(const QString &path)
 
 PanelWindow::PanelWindow(PPDHandle ppd)
     : m_ppd(std::move(ppd)),
-      m_bundle(Bundle::open(QStringLiteral(BENCH_BUNDLE))),
+      m_bundle(Bundle::open(builtBundle())),
       m_host(std::make_shared<HostCallback>(m_ppd.get())),
       m_print(std::make_unique<VKInkPrintSetting14PDE>()),
       m_color(std::make_unique<VKInkColorSettingPDE>())

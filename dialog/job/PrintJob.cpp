@@ -55,7 +55,11 @@ void PrintJob::setOrientation(PMOrientation orientation)
 
 std::optional<PMPaper> PrintJob::paper() const
 {
-    return m_session ? std::as_const(*m_session).pageFormat().paper : std::nullopt;
+    if (!m_session)
+        return std::nullopt;
+    const std::optional<PMPaper> &paper = std::as_const(*m_session).pageFormat().paper;
+    // Scaling a page of no known paper has left one without a name.
+    return paper && !paper->name.isEmpty() ? paper : std::nullopt;
 }
 
 void PrintJob::setPaper(const PMPaper &paper)

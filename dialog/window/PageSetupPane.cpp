@@ -44,6 +44,12 @@ std::vector<PopUpButton::Item> paperItems(ppd_file_t *ppd)
     return items;
 }
 
+/// Selects the choice, or nothing where nothing is marked: a PPD need not tell a default.
+void showChoice(PopUpButton *popup, const QString &choice)
+{
+    popup->setCurrentIndex(popup->indexOfRepresentedObject(choice));
+}
+
 /// Two radio buttons side by side; `chosen` is called with the id of the one that was clicked.
 QWidget *newRadioPair(const std::array<std::pair<QString, QString>, 2> &namesAndTitles, int checked,
                       const std::function<void(int)> &chosen)
@@ -116,16 +122,23 @@ void PageSetupPane::addPaper(QFormLayout *form)
     form->addRow(tr("&Paper:"), m_paper);
     connect(m_paper, &QComboBox::activated, this, &PageSetupPane::choosePaper);
 
-    const PMPaper paper = m_job.paper().value_or(PMPaper());
-    m_paper->selectObject(paper.ppdName.isNull() ? QString(kCustom) : paper.ppdName);
+    showPaper();
     if (!limits)
         return;
+    const PMPaper paper = m_job.paper().value_or(PMPaper());
     m_customSize = new CustomSizeFields(m_page);
     m_customSize->setLimits(*limits);
     m_customSize->setSize(paper.width, paper.height);
     form->addRow(QString(), m_customSize);
     m_customSize->setVisible(m_paper->selectedObject() == kCustom);
     connect(m_customSize, &CustomSizeFields::edited, this, &PageSetupPane::useCustomSize);
+}
+
+void PageSetupPane::showPaper()
+{
+    const std::optional<PMPaper> paper = m_job.paper();
+    const bool isCustom = paper && paper->ppdName.isNull();
+    showChoice(m_paper, isCustom ? QString(kCustom) : paper.value_or(PMPaper()).ppdName);
 }
 
 void PageSetupPane::choosePaper()
@@ -145,7 +158,7 @@ void PageSetupPane::choosePaper()
         Q_EMIT changed();
         return;
     }
-    m_paper->selectObject(m_job.paper().value_or(PMPaper()).ppdName);
+    showPaper();
     Q_EMIT refused(clash);
 }
 
@@ -193,7 +206,7 @@ void PageSetupPane::addOption(QFormLayout *form, const QString &keyword)
     const ppd_option_t *option = findOption(m_job.ppd(), keyword);
     PopUpButton *popup = newPopUp(keyword + u"Popup"_s);
     popup->setItems(itemsOf(option));
-    popup->selectObject(markedChoice(m_job.ppd(), keyword));
+    showChoice(popup, markedChoice(m_job.ppd(), keyword));
     form->addRow(tr("%1:").arg(withoutMnemonic(displayText(ppdText(option->text)))), popup);
     connect(popup, &QComboBox::activated, this,
             [this, keyword, popup] { chooseOption(keyword, popup); });
@@ -208,7 +221,7 @@ void PageSetupPane::chooseOption(const QString &keyword, PopUpButton *popup)
         Q_EMIT changed();
         return;
     }
-    popup->selectObject(markedChoice(m_job.ppd(), keyword));
+    showChoice(popup, markedChoice(m_job.ppd(), keyword));
     Q_EMIT refused(clash);
 }
 

@@ -38,6 +38,7 @@ private:
     void addOption(QFormLayout *form, const QString &keyword);
     void addColorMatching(QFormLayout *form);
     PopUpButton *newPopUp(const QString &name);
+    void showPaper();
     void choosePaper();
     void useCustomSize();
     void chooseOption(const QString &keyword, PopUpButton *popup);

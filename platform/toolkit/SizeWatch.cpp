@@ -1,6 +1,18 @@
 #include "platform/toolkit/SizeWatch.h"
 
-#include <QtCore/QEvent>
+#include <QtGui/QResizeEvent>
+
+namespace {
+
+bool isNewHeight(const QEvent &event)
+{
+    if (event.type() != QEvent::Resize)
+        return false;
+    const auto &resize = static_cast<const QResizeEvent &>(event);
+    return resize.size().height() != resize.oldSize().height();
+}
+
+} // namespace
 
 SizeWatch::SizeWatch(QWidget *parent) : QWidget(parent)
 {
@@ -30,7 +42,7 @@ void SizeWatch::followWindow()
 
 bool SizeWatch::eventFilter(QObject *watched, QEvent *event)
 {
-    if (watched == m_window && event->type() == QEvent::Resize && isVisible())
+    if (watched == m_window && isNewHeight(*event) && isVisible())
         fire();
     return QWidget::eventFilter(watched, event);
 }

@@ -5,8 +5,8 @@
 #include <QtCore/QPointer>
 #include <QtWidgets/QWidget>
 
-/// An invisible part of a view that tells when the window around the view changes its height or
-/// comes on screen.
+/// An invisible part of a view that tells when it comes on screen and, while it is there, when the
+/// window around the view changes its height. A change of the width alone is not told.
 class VELKARO_PLATFORM_EXPORT SizeWatch : public QWidget
 {
     Q_OBJECT

@@ -5,20 +5,15 @@
 #include "platform/foundation/Bundle.h"
 #include "platform/foundation/NotificationCenter.h"
 #include "platform/foundation/PreferredLanguages.h"
+#include "platform/foundation/UserDefaults.h"
 #include "platform/pde/PPDText.h"
 #include "platform/toolkit/KeyWindow.h"
 
-#include <QtCore/QFile>
 #include <QtTest/QTest>
 
 using namespace Qt::StringLiterals;
 
 namespace {
-
-QString pathOf(const QString &ppd)
-{
-    return ppd.contains(u'/') ? ppd : QStringLiteral(VELKARO_TEST_PPDS "/") + ppd + u".ppd"_s;
-}
 
 QString describe(const HostCallback::Call &call)
 {
@@ -29,12 +24,11 @@ QString describe(const HostCallback::Call &call)
 
 } // namespace
 
-ColorDialog::ColorDialog(const QString &ppdName)
+ColorDialog::ColorDialog(const QString &sample) : ColorDialog(openSample(sample)) {}
+
+ColorDialog::ColorDialog(PPDHandle printer)
+    : ppd(std::move(printer)), host(std::make_shared<HostCallback>(ppd.get()))
 {
-    OpenedPPD opened = openPPD(pathOf(ppdName));
-    EXPECT_TRUE(opened.ppd) << opened.error.toStdString();
-    ppd = std::move(opened.ppd);
-    host = std::make_shared<HostCallback>(ppd.get());
     host->setCallObserver([this](const HostCallback::Call &call) { calls << describe(call); });
 }
 
@@ -122,8 +116,9 @@ void ColorDialog::postPaper()
 ColorPanelTest::ColorPanelTest()
 {
     EffectVal = {};
+    UserDefaults::standardUserDefaults().setFolder(QString());
     setPreferredLanguages({u"en"_s});
-    Bundle::setMainBundle(Bundle::open(QStringLiteral(VELKARO_TEST_BUNDLE)));
+    Bundle::setMainBundle(Bundle::open(builtBundle()));
 }
 
 ColorPanelTest::~ColorPanelTest()
@@ -131,39 +126,4 @@ ColorPanelTest::~ColorPanelTest()
     setKeyWindow(nullptr);
     setPreferredLanguages({});
     Bundle::setMainBundle(nullptr);
-}
-
-SmallPPD::SmallPPD(const QByteArray &options)
-{
-    QFile file(path());
-    EXPECT_TRUE(file.open(QIODevice::WriteOnly));
-    file.write("*PPD-Adobe: \"4.3\"\n"
-               "*FormatVersion: \"4.3\"\n"
-               "*FileVersion: \"1.0\"\n"
-               "*LanguageVersion: English\n"
-               "*LanguageEncoding: ISOLatin1\n"
-               "*PCFileName: \"SMALL.PPD\"\n"
-               "*Manufacturer: \"Velkaro\"\n"
-               "*Product: \"(Small)\"\n"
-               "*ModelName: \"Velkaro Small\"\n"
-               "*ShortNickName: \"Velkaro Small\"\n"
-               "*NickName: \"Velkaro Small\"\n"
-               "*PSVersion: \"(3010.000) 0\"\n"
-               "*LanguageLevel: \"3\"\n"
-               "*OpenUI *PageSize/Media Size: PickOne\n"
-               "*DefaultPageSize: A4\n"
-               "*PageSize A4/A4: \"\"\n"
-               "*CloseUI: *PageSize\n"
-               "*DefaultPageRegion: A4\n"
-               "*PageRegion A4/A4: \"\"\n"
-               "*DefaultImageableArea: A4\n"
-               "*ImageableArea A4/A4: \"0 0 595 842\"\n"
-               "*DefaultPaperDimension: A4\n"
-               "*PaperDimension A4/A4: \"595 842\"\n" +
-               options);
-}
-
-QString SmallPPD::path() const
-{
-    return m_folder.filePath(u"small.ppd"_s);
 }

@@ -3,24 +3,20 @@
 #include "colorsettings/VKInkColorSettingPDE.h"
 #include "dialog/host/HostCallback.h"
 #include "dialog/host/PPDFile.h"
+#include "tests/built/BuiltFiles.h"
+#include "tests/support/PPDSource.h"
+#include "tests/support/QStringPrinting.h"
 
-#include <QtCore/QTemporaryDir>
 #include <QtWidgets/QWidget>
 
 #include <gtest/gtest.h>
 
-#include <ostream>
-
-inline void PrintTo(const QString &text, std::ostream *out)
-{
-    *out << '"' << text.toStdString() << '"';
-}
-
 /// A print dialog with a Color Settings panel: a real PPD, the real host, ticket and view.
 struct ColorDialog
 {
-    /// Opens the PPD: a name of one of the sample printers, or the path of a file.
-    explicit ColorDialog(const QString &ppd = QStringLiteral("velkaro-px-t900"));
+    /// The sample printer with this name, or a printer of the test's own.
+    explicit ColorDialog(const QString &sample = QStringLiteral("velkaro-px-t900"));
+    explicit ColorDialog(PPDHandle printer);
     ~ColorDialog();
 
     /// Creates the panel; what a dialog does first with it is left to the test.
@@ -75,14 +71,3 @@ inline constexpr const char *kEffectTicketKeys[] = {
     "com.velkaro.print.PrintSettings.T2T_Brightness",
     "com.velkaro.print.PrintSettings.T2T_Contrast", "com.velkaro.print.PrintSettings.T2T_Red",
     "com.velkaro.print.PrintSettings.T2T_Green", "com.velkaro.print.PrintSettings.T2T_Blue"};
-
-/// A PPD file with nothing but the given main part, alive as long as the object.
-class SmallPPD
-{
-public:
-    explicit SmallPPD(const QByteArray &options);
-    QString path() const;
-
-private:
-    QTemporaryDir m_folder;
-};

@@ -1,6 +1,7 @@
 #include "tests/colorsettings/ColorPictures.h"
 
 #include "platform/toolkit/ImageView.h"
+#include "tests/built/BuiltFiles.h"
 
 #include <QtCore/QDirIterator>
 
@@ -27,7 +28,7 @@ void copyFolder(const QString &from, const QString &to)
 
 ColorPictures::ColorPictures()
 {
-    copyFolder(QStringLiteral(VELKARO_TEST_BUNDLE), m_folder.path());
+    copyFolder(builtBundle(), m_folder.path());
     write(u"Natural"_s, kNatural);
     write(u"Vivid"_s, kVivid);
     write(u"None"_s, kNone);

@@ -149,12 +149,10 @@ TEST_F(ControlsTest, HaveNamesForScreenReaders)
 
 TEST_F(ControlsTest, AKeywordThatThePrinterLacksLeavesNoLabelBehind)
 {
-    const SmallPPD small("*APSupportsCustomColorMatching: \"true\"\n"
-                         "*OpenUI *VKRed/Red & Rosy: PickOne\n"
-                         "*DefaultVKRed: 0\n"
-                         "*VKRed 0/0: \"\"\n"
-                         "*CloseUI: *VKRed\n");
-    ColorDialog dialog(small.path());
+    ColorDialog dialog(PPDSource()
+                           .attribute("APSupportsCustomColorMatching", "true")
+                           .option("VKRed/Red & Rosy", {"0"})
+                           .open());
     dialog.show();
     for (const char *name : {"colorMatchingMatrix", "colorMatchingLabel", "ditherPopup",
                              "ditherLabel", "colorEnhanceButton"})

@@ -11,12 +11,7 @@ using CreationTest = ColorPanelTest;
 
 TEST_F(CreationTest, ANewJobHasZeroUnderAllFiveKeysWhateverThePrinterSays)
 {
-    const SmallPPD small("*OpenUI *VKBrightness/Brightness: PickOne\n"
-                         "*DefaultVKBrightness: 5\n"
-                         "*VKBrightness 0/0: \"\"\n"
-                         "*VKBrightness 5/5: \"\"\n"
-                         "*CloseUI: *VKBrightness\n");
-    ColorDialog dialog(small.path());
+    ColorDialog dialog(PPDSource().option("VKBrightness", {"5", "0"}).open());
     dialog.create();
     for (std::size_t i = 0; i < 5; ++i) {
         EXPECT_EQ(dialog.pending(kEffectKeywords[i]), QVariant(0LL));
@@ -26,19 +21,11 @@ TEST_F(CreationTest, ANewJobHasZeroUnderAllFiveKeysWhateverThePrinterSays)
 
 TEST_F(CreationTest, WithoutATicketTheValuesAreThePrintersDefaults)
 {
-    const SmallPPD small("*OpenUI *VKBrightness/Brightness: PickOne\n"
-                         "*DefaultVKBrightness: 5\n"
-                         "*VKBrightness 5/5: \"\"\n"
-                         "*CloseUI: *VKBrightness\n"
-                         "*OpenUI *VKRed/Red: PickOne\n"
-                         "*DefaultVKRed: -3x\n"
-                         "*VKRed -3x/Odd: \"\"\n"
-                         "*CloseUI: *VKRed\n"
-                         "*OpenUI *VKBlue/Blue: PickOne\n"
-                         "*DefaultVKBlue: Much\n"
-                         "*VKBlue Much/Much: \"\"\n"
-                         "*CloseUI: *VKBlue\n");
-    ColorDialog dialog(small.path());
+    ColorDialog dialog(PPDSource()
+                           .option("VKBrightness", {"5"})
+                           .option("VKRed", {"-3x"})
+                           .option("VKBlue", {"Much"})
+                           .open());
     dialog.host->setLacking({HostOperation::PrintSettings});
     dialog.create();
     EXPECT_EQ(dialog.pending("VKBrightness"), QVariant(5LL));
@@ -84,11 +71,7 @@ TEST_F(CreationTest, TakesItsKeywordsFromTheBundleAndDropsThoseThePrinterLacks)
     ColorDialog full;
     EXPECT_EQ(full.create().supportedPPDOptionKeys(),
               QStringList({u"VKColorMatching"_s, u"VKHalfTonePattern"_s, u"VKColorEnhancement"_s}));
-    const SmallPPD small("*OpenUI *VKHalfTonePattern/Halftone: PickOne\n"
-                         "*DefaultVKHalfTonePattern: Dither\n"
-                         "*VKHalfTonePattern Dither/Dither: \"\"\n"
-                         "*CloseUI: *VKHalfTonePattern\n");
-    ColorDialog one(small.path());
+    ColorDialog one(PPDSource().option("VKHalfTonePattern", {"Dither"}).open());
     EXPECT_EQ(one.create().supportedPPDOptionKeys(), QStringList{u"VKHalfTonePattern"_s});
 }
 

@@ -295,7 +295,7 @@ TEST_F(PreviewTest, APictureOfAnotherSizeIsShownWhole)
 
 TEST_F(PreviewTest, TheBundlesOwnPicturesAreThere)
 {
-    Bundle::setMainBundle(Bundle::open(QStringLiteral(VELKARO_TEST_BUNDLE)));
+    Bundle::setMainBundle(Bundle::open(builtBundle()));
     ColorDialog real;
     real.show();
     for (const QString &name : {u"Natural"_s, u"Vivid"_s, u"None"_s}) {

@@ -108,17 +108,11 @@ using SummaryOfSmallPrinter = ColorPanelTest;
 
 TEST_F(SummaryOfSmallPrinter, LeavesOutValuesThatThePrinterDoesNotName)
 {
-    const SmallPPD small("*APSupportsCustomColorMatching: \"true\"\n"
-                         "*OpenUI *VKColorEnhancement/Enhance: PickOne\n"
-                         "*DefaultVKColorEnhancement: ON\n"
-                         "*VKColorEnhancement OFF/Off: \"\"\n"
-                         "*VKColorEnhancement ON/On: \"\"\n"
-                         "*CloseUI: *VKColorEnhancement\n"
-                         "*OpenUI *VKGreen/Leafy: PickOne\n"
-                         "*DefaultVKGreen: 0\n"
-                         "*VKGreen 0/0: \"\"\n"
-                         "*CloseUI: *VKGreen\n");
-    ColorDialog dialog(small.path());
+    ColorDialog dialog(PPDSource()
+                           .attribute("APSupportsCustomColorMatching", "true")
+                           .option("VKColorEnhancement/Enhance", {"ON/On", "OFF/Off"})
+                           .option("VKGreen/Leafy", {"0"})
+                           .open());
     dialog.setTicket(kEffectTicketKeys[3], u"-4"_s);
     const QVariantMap expected{{u"Enhance"_s, u"On"_s},
                                {u"Leafy"_s, -4LL},

@@ -14,8 +14,7 @@ TEST(ColorSettingsView, SendsNothingWhileItIsDestroyed)
     ViewConnections owner;
     owner.outlet(u"panelView"_s, panelView);
     owner.action(u"effectValueDidChange:"_s, [&](QWidget *) { ++sent; });
-    auto view =
-        loadView(QStringLiteral(VELKARO_TEST_BUNDLE "/Resources/VKInkColorSetting.ui"), owner);
+    auto view = loadView(builtBundle() + u"/Resources/VKInkColorSetting.ui"_s, owner);
     ASSERT_TRUE(view);
     view->content()->setValue(u"VKOutput"_s, true);
     view->content()->setValue(u"Color"_s, true);
@@ -38,8 +37,7 @@ TEST(ColorSettingsView, IsWalkedThroughInReadingOrder)
     QWidget *panelView = nullptr;
     ViewConnections owner;
     owner.outlet(u"panelView"_s, panelView);
-    const auto view =
-        loadView(QStringLiteral(VELKARO_TEST_BUNDLE "/Resources/VKInkColorSetting.ui"), owner);
+    const auto view = loadView(builtBundle() + u"/Resources/VKInkColorSetting.ui"_s, owner);
     ASSERT_TRUE(view);
     for (const char *key :
          {"VKOutput", "VKMonoColor", "VKColorMatching", "VKColorEnhancement", "Color"})

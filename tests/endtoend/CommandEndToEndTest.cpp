@@ -1,3 +1,4 @@
+#include "tests/built/BuiltFiles.h"
 #include "tests/endtoend/JobPrinting.h"
 #include "tests/endtoend/PrintServerFixture.h"
 #include "tests/endtoend/ProgramRun.h"

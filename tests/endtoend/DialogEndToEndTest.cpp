@@ -1,6 +1,7 @@
 #include "dialog/window/DialogWindow.h"
 #include "platform/foundation/UserDefaults.h"
 #include "platform/toolkit/PopUpButton.h"
+#include "tests/built/BuiltFiles.h"
 #include "tests/endtoend/JobPrinting.h"
 #include "tests/endtoend/PrintServerFixture.h"
 
@@ -32,7 +33,7 @@ protected:
         CommandLine line;
         line.server = address;
         line.queue = queue;
-        line.plugIn = QStringLiteral(VELKARO_BUNDLE);
+        line.plugIn = builtBundle();
         line.files = {pdf()};
         return line;
     }

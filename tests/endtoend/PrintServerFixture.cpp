@@ -1,5 +1,7 @@
 #include "tests/endtoend/PrintServerFixture.h"
 
+#include "tests/built/BuiltFiles.h"
+
 #include <QtCore/QFile>
 #include <QtGui/QPainter>
 #include <QtGui/QPdfWriter>

@@ -1,8 +1,10 @@
 #include "platform/foundation/Bundle.h"
 
 #include "platform/foundation/PreferredLanguages.h"
+#include "tests/built/BuiltFiles.h"
 #include "tests/support/CaseName.h"
 #include "tests/support/QStringPrinting.h"
+#include "tests/support/WriteFile.h"
 
 #include <gtest/gtest.h>
 
@@ -15,14 +17,6 @@
 using namespace Qt::StringLiterals;
 
 namespace {
-
-void writeFile(const QString &path, const QByteArray &content)
-{
-    QDir().mkpath(QFileInfo(path).path());
-    QFile file(path);
-    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-    file.write(content);
-}
 
 class BundleTest : public testing::Test
 {
@@ -155,7 +149,7 @@ const TextCase kTextCases[] = {
 TEST_P(StringTable, IsThatOfTheUsersLanguage)
 {
     setPreferredLanguages(GetParam().languages);
-    const auto bundle = Bundle::open(QStringLiteral(PANEL_BUNDLE));
+    const auto bundle = Bundle::open(builtBundle());
     bundle->setStrings(GetParam().strings);
     EXPECT_EQ(bundle->localizedString(u"Cancel"_s), GetParam().text);
     EXPECT_EQ(bundle->localizedString(u"No such key"_s), u"No such key"_s);
@@ -166,7 +160,7 @@ INSTANTIATE_TEST_SUITE_P(Cases, StringTable, testing::ValuesIn(kTextCases), Case
 TEST_F(BundleTest, GivesTheKeyInKeysModeWhereTheTableHasAnotherText)
 {
     setPreferredLanguages({u"en"_s});
-    const auto bundle = Bundle::open(QStringLiteral(PANEL_BUNDLE));
+    const auto bundle = Bundle::open(builtBundle());
     EXPECT_EQ(bundle->localizedString(u"ON"_s), u"On"_s);
     bundle->setStrings(Bundle::Strings::Keys);
     EXPECT_EQ(bundle->localizedString(u"ON"_s), u"ON"_s);
@@ -174,7 +168,7 @@ TEST_F(BundleTest, GivesTheKeyInKeysModeWhereTheTableHasAnotherText)
 
 TEST_F(BundleTest, FollowsAChangeOfTheLanguages)
 {
-    const auto bundle = Bundle::open(QStringLiteral(PANEL_BUNDLE));
+    const auto bundle = Bundle::open(builtBundle());
     setPreferredLanguages({u"fr"_s, u"ja"_s});
     EXPECT_EQ(bundle->localizedString(u"Cancel"_s), u"キャンセル"_s);
     setPreferredLanguages({u"fr"_s, u"en"_s});
@@ -184,7 +178,7 @@ TEST_F(BundleTest, FollowsAChangeOfTheLanguages)
 TEST_F(BundleTest, PassesOverADamagedStringTable)
 {
     writeFile(folder.filePath(u"Resources/Localizable_ja.qm"_s), "no table");
-    ASSERT_TRUE(QFile::copy(QStringLiteral(PANEL_BUNDLE "/Resources/Localizable_en.qm"),
+    ASSERT_TRUE(QFile::copy(builtBundle() + u"/Resources/Localizable_en.qm"_s,
                             folder.filePath(u"Resources/Localizable_en.qm"_s)));
     setPreferredLanguages({u"ja"_s});
     EXPECT_EQ(Bundle::open(folder.path())->localizedString(u"ON"_s), u"On"_s);

@@ -47,7 +47,8 @@ INSTANTIATE_TEST_SUITE_P(Cases, Fax, testing::ValuesIn(kFaxCases), CaseName());
 
 TEST_F(JobStateTest, HasNoFaxOutputWhereNothingIsMarked)
 {
-    ppd = testPPD(ppdOption("VKOutput/Output", {"FAX/Fax", "PRINTER/Printer"}));
+    ppd = PPDSource().option("VKOutput", {"FAX", "PRINTER"}).open();
+    unmark(ppd.get(), "VKOutput");
     host = std::make_shared<HostCallback>(ppd.get());
     ASSERT_TRUE(panel->initWithCallback(host));
     panel->setFlag(FaxOutput, true);
@@ -84,7 +85,7 @@ TEST_P(ColorSync, DecidesWhoseColourSettingsApply)
     if (!GetParam().ticket)
         host->setLacking({HostOperation::PrintSettings});
     createPanel();
-    const PPDHandle without = testPPD("");
+    const PPDHandle without = PPDSource().open();
     if (!GetParam().attribute)
         panel->ppd = without.get();
     if (GetParam().mode.isValid())

@@ -9,30 +9,29 @@
 #include "platform/toolkit/PopUpButton.h"
 #include "platform/toolkit/RadioMatrix.h"
 #include "tests/support/ViewText.h"
-
-#include <QtCore/QDir>
-#include <QtCore/QFileInfo>
+#include "tests/support/WriteFile.h"
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
-QByteArray printerOptions()
+PPDHandle testPrinter()
 {
-    const QList<QByteArray> offOn{"OFF/Off", "ON/On"};
-    return QByteArray("*APSupportsCustomColorMatching: true\n") +
-           ppdOption("VKMediaType/Media & Type",
-                     {"Plain/Plain <3C>b<3E>Paper<3C>/b<3E>", "PlainDuplex/Plain, Two-Sided",
-                      "Glossy/Glossy", "HagakiUra/Hagaki Ura", "HagakiAtena/hagaki Atena",
-                      "Short/Hagak"}) +
-           ppdOption("VKResolution/Quality", {"Normal/Normal", "Best/Best & Slow"}) +
-           ppdOption("VKColorMatching/Color & Matching",
-                     {"Natural/Natural", "Vivid/Vivid", "None/None & Nothing"}) +
-           ppdOption("MirrorPrint/Mirror & Back", {"False/No", "True/Yes"}) +
-           ppdOption("VKBiDir/Both Ways", offOn) + ppdOption("VKSlowDrying/Slow Drying", offOn) +
-           ppdOption("VKVertLineAlignOther/Align Lines", offOn) +
-           ppdOption("VKNoControl/No Control", {"A/Choice A", "B/Choice B"}) +
-           ppdOption("VKOutput/Output", {"PRINTER/Printer", "FAX/Fax", "None/None"});
+    const QByteArrayList offOn{"OFF/Off", "ON/On"};
+    return PPDSource()
+        .attribute("APSupportsCustomColorMatching", "true")
+        .option("VKMediaType/Media & Type",
+                {"Plain/Plain <3C>b<3E>Paper<3C>/b<3E>", "PlainDuplex/Plain, Two-Sided", "Glossy",
+                 "HagakiUra/Hagaki Ura", "HagakiAtena/hagaki Atena", "Short/Hagak"})
+        .option("VKResolution/Quality", {"Normal", "Best/Best & Slow"})
+        .option("VKColorMatching/Color & Matching", {"Natural", "Vivid", "None/None & Nothing"})
+        .option("MirrorPrint/Mirror & Back", {"False/No", "True/Yes"})
+        .option("VKBiDir/Both Ways", offOn)
+        .option("VKSlowDrying/Slow Drying", offOn)
+        .option("VKVertLineAlignOther/Align Lines", offOn)
+        .option("VKNoControl/No Control", {"A/Choice A", "B/Choice B"})
+        .option("VKOutput/Output", {"PRINTER/Printer", "FAX/Fax", "None"})
+        .open();
 }
 
 QByteArray viewOfThePanel()
@@ -146,11 +145,10 @@ void TestPanel::connectView(ViewConnections &connections)
     connections.outlet(u"freePart"_s, freePart);
 }
 
-PanelFixture::PanelFixture() : ppd(testPPD(printerOptions()))
+PanelFixture::PanelFixture() : ppd(testPrinter())
 {
     UserDefaults::standardUserDefaults().setFolder(QString());
     setPreferredLanguages({u"en"_s});
-    ppdMarkDefaults(ppd.get());
     writeBundleFile(u"Info.json"_s, R"({"CFBundleIdentifier": "com.velkaro.test",
         "CFBundleName": "TestView", "CFBundleHelpBookName": "Test Help"})");
     writeBundleFile(u"Resources/TestView.ui"_s, viewOfThePanel());
@@ -181,10 +179,7 @@ QString PanelFixture::bundleFile(const QString &name) const
 
 void PanelFixture::writeBundleFile(const QString &name, const QByteArray &content)
 {
-    QDir().mkpath(QFileInfo(bundleFile(name)).path());
-    QFile file(bundleFile(name));
-    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-    file.write(content);
+    writeFile(bundleFile(name), content);
 }
 
 QStringList PanelFixture::allKeywords()

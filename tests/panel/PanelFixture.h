@@ -3,7 +3,7 @@
 #include "dialog/host/HostCallback.h"
 #include "panel/VKPrintQualityPDE.h"
 #include "platform/foundation/Bundle.h"
-#include "tests/support/TestPPD.h"
+#include "tests/support/PPDSource.h"
 
 #include <gtest/gtest.h>
 

@@ -158,7 +158,8 @@ TEST_F(ReadBackTest, RestoresTheMarkedChoices)
 
 TEST_F(ReadBackTest, TakesTheDefaultWhereNothingIsMarked)
 {
-    ppd = testPPD(ppdOption("VKResolution/Quality", {"Normal/Normal", "Best/Best"}));
+    ppd = PPDSource().option("VKResolution", {"Normal", "Best"}).open();
+    unmark(ppd.get(), "VKResolution");
     host = std::make_shared<HostCallback>(ppd.get());
     ASSERT_TRUE(panel->initWithCallback(host));
     panel->setPPDKeys(QStringList{u"VKResolution"_s});

@@ -63,10 +63,10 @@ INSTANTIATE_TEST_SUITE_P(Cases, SummaryText, testing::ValuesIn(kTextCases), Case
 
 TEST_F(SummaryTest, LeavesOutAValueThatNoChoiceHas)
 {
-    // Without choices marked the default stands, and this one names no choice.
-    ppd = testPPD("*OpenUI *VKResolution/Quality: PickOne\n*DefaultVKResolution: Photo\n"
-                  "*VKResolution Normal/Normal: \"\"\n*CloseUI: *VKResolution\n" +
-                  ppdOption("VKBiDir/Both Ways", {"OFF/Off", "ON/On"}));
+    ppd = PPDSource()
+              .optionWithDefault("VKResolution/Quality", {"Normal"}, "Photo")
+              .option("VKBiDir/Both Ways", {"OFF/Off", "ON/On"})
+              .open();
     host = std::make_shared<HostCallback>(ppd.get());
     ASSERT_TRUE(panel->initWithCallback(host));
     panel->setPPDKeys(QStringList{u"VKResolution"_s, u"VKBiDir"_s});

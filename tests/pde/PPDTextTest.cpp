@@ -1,8 +1,8 @@
 #include "platform/pde/PPDText.h"
 
 #include "tests/support/CaseName.h"
+#include "tests/support/PPDSource.h"
 #include "tests/support/QStringPrinting.h"
-#include "tests/support/TestPPD.h"
 
 #include <gtest/gtest.h>
 
@@ -68,7 +68,7 @@ TEST(PPDTextTest, TakesAsciiNamesAlone)
 class PPDLookUpTest : public testing::Test
 {
 protected:
-    PPDHandle ppd = testPPD(ppdOption("VKMediaType/Media Type", {"Plain/Plain", "Glossy/Glossy"}));
+    PPDHandle ppd = PPDSource().option("VKMediaType/Media Type", {"Plain", "Glossy"}).open();
 };
 
 TEST_F(PPDLookUpTest, FindsOptionsAndChoicesByTheirExactNames)
@@ -90,21 +90,21 @@ TEST_F(PPDLookUpTest, FindsOptionsAndChoicesByTheirExactNames)
 
 TEST_F(PPDLookUpTest, TellsTheMarkedChoice)
 {
-    EXPECT_TRUE(markedChoice(ppd.get(), u"VKMediaType"_s).isNull());
-    ppdMarkDefaults(ppd.get());
     EXPECT_EQ(markedChoice(ppd.get(), u"VKMediaType"_s), u"Plain"_s);
     ppdMarkOption(ppd.get(), "VKMediaType", "Glossy");
     EXPECT_EQ(markedChoice(ppd.get(), u"VKMediaType"_s), u"Glossy"_s);
     EXPECT_TRUE(markedChoice(ppd.get(), u"vkmediatype"_s).isNull());
     EXPECT_TRUE(markedChoice(ppd.get(), u"NoSuchOption"_s).isNull());
     EXPECT_TRUE(markedChoice(nullptr, u"VKMediaType"_s).isNull());
+    unmark(ppd.get(), "VKMediaType");
+    EXPECT_TRUE(markedChoice(ppd.get(), u"VKMediaType"_s).isNull());
 }
 
 TEST(PPDCutTest, ReadsATextThatLibcupsCutInTheMiddleOfACharacter)
 {
     // 27 characters of three bytes: libcups keeps 80 bytes, and with them two thirds of the last.
     const QByteArray text = QString(27, u'紙').toUtf8();
-    const PPDHandle ppd = testPPD(ppdOption("VKMediaType/Media Type", {"Plain/" + text}));
+    const PPDHandle ppd = PPDSource().option("VKMediaType/Media Type", {"Plain/" + text}).open();
     ASSERT_NE(ppd, nullptr);
     const ppd_option_t *option = findOption(ppd.get(), u"VKMediaType"_s);
     ASSERT_NE(option, nullptr);
@@ -114,7 +114,7 @@ TEST(PPDCutTest, ReadsATextThatLibcupsCutInTheMiddleOfACharacter)
 TEST(PPDCutTest, ReadsHexEscapesAsPlainText)
 {
     const PPDHandle ppd =
-        testPPD(ppdOption("VKMediaType/Media <3C>b<3E>", {"Plain/A<0A>B<1B>C & <22>D<22>"}));
+        PPDSource().option("VKMediaType/Media <3C>b<3E>", {"Plain/A<0A>B<1B>C & <22>D<22>"}).open();
     ASSERT_NE(ppd, nullptr);
     const ppd_option_t *option = findOption(ppd.get(), u"VKMediaType"_s);
     ASSERT_NE(option, nullptr);

@@ -62,11 +62,6 @@ int freePort()
     return ntohs(address.sin_port);
 }
 
-QString samplePPD(const QString &name)
-{
-    return QStringLiteral(VELKARO_SHARE_DIR) + u"/ppd/"_s + name + u".ppd"_s;
-}
-
 PrintServer::PrintServer() : m_port(freePort())
 {
     if (programNamed(u"cupsd"_s).isEmpty())

@@ -56,6 +56,3 @@ private:
 
 /// A port of the loopback where nobody listens.
 int freePort();
-
-/// The sample printer's PPD of the build tree.
-QString samplePPD(const QString &name);

@@ -2,9 +2,9 @@
 #include "platform/foundation/NotificationCenter.h"
 #include "platform/printmanager/PMPrintSettings.h"
 #include "platform/toolkit/KeyWindow.h"
+#include "tests/built/BuiltFiles.h"
 #include "tests/printsettings/PrintPanel.h"
 #include "tests/support/PPDSource.h"
-#include "tests/support/TestPlaces.h"
 
 #include <QtCore/QDir>
 #include <QtCore/QFile>
@@ -93,19 +93,18 @@ TEST_F(AdvancedOptions, OfAPrinterWithoutJpegAndDuplexModeAreTwoGroups)
 TEST_F(AdvancedOptions, HaveALayoutGroupForAnyOfItsThreeKeywords)
 {
     for (const QString &keyword : {u"VKReverse"_s, u"VKMirror"_s, u"MirrorPrint"_s}) {
-        usePrinter(PPDSource().option(keyword, {u"OFF"_s, u"ON"_s}).open());
+        usePrinter(PPDSource().option(keyword.toUtf8(), {"OFF", "ON"}).open());
         show();
         EXPECT_EQ(rows(), u"Layout=Layout*, OtherOption=OtherOption"_s) << qPrintable(keyword);
     }
-    usePrinter(PPDSource().option(u"VKBiDir"_s, {u"OFF"_s, u"ON"_s}).open());
+    usePrinter(PPDSource().option("VKBiDir", {"OFF", "ON"}).open());
     show();
     EXPECT_EQ(rows(), u"OtherOption=OtherOption*"_s);
 }
 
 TEST_F(AdvancedOptions, NameAGroupByTheTextOfItsOption)
 {
-    usePrinter(
-        PPDSource().option(u"VKJpeg/Bilder & <3C>b<3E>JPEG"_s, {u"Auto"_s, u"Fine"_s}).open());
+    usePrinter(PPDSource().option("VKJpeg/Bilder & <3C>b<3E>JPEG", {"Auto", "Fine"}).open());
     show();
     EXPECT_EQ(rows(), u"Bilder & <b>JPEG=VKJpeg*, OtherOption=OtherOption"_s);
 }
@@ -130,13 +129,13 @@ TEST_F(AdvancedOptions, BringUpThePageOfTheSelectedRow)
 TEST_F(AdvancedOptions, AreBuiltOnce)
 {
     show();
-    const QString before = rows();
-    const int registrations = NotificationCenter::defaultCenter().registrationCount(panel.get());
+    const QString rowsBefore = rows();
+    const int registrationsBefore = registrations();
     popup(u"monoColorPopup"_s)->setItems({});
     panel->shouldHide();
     panel->willShow();
-    EXPECT_EQ(rows(), before);
-    EXPECT_EQ(NotificationCenter::defaultCenter().registrationCount(panel.get()), registrations);
+    EXPECT_EQ(rows(), rowsBefore);
+    EXPECT_EQ(registrations(), registrationsBefore);
     EXPECT_EQ(popup(u"monoColorPopup"_s)->count(), 0);
 }
 
@@ -192,7 +191,7 @@ TEST_F(AdvancedOptions, WithShortLabelsHideTheirScrollBars)
 TEST_F(AdvancedOptions, WithALongLabelGetAColumnTwelvePointsWider)
 {
     const QString text = u"A description of JPEG printing that no list is wide enough for"_s;
-    usePrinter(PPDSource().option(u"VKJpeg/"_s + text, {u"Auto"_s, u"Fine"_s}).open());
+    usePrinter(PPDSource().option("VKJpeg/" + text.toUtf8(), {"Auto", "Fine"}).open());
     show();
     const int widest = qCeil(QFontMetricsF(list()->font()).horizontalAdvance(text) + 12);
     ASSERT_GT(widest, list()->width());

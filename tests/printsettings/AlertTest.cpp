@@ -6,7 +6,6 @@
 #include "tests/printsettings/PrintPanel.h"
 
 #include <QtGui/QFontDatabase>
-#include <QtTest/QTest>
 #include <QtWidgets/QLabel>
 
 using namespace Qt::StringLiterals;
@@ -25,14 +24,15 @@ protected:
         panel->paperName = name;
     }
 
-    std::vector<AlertContent> takeAlerts() { return session->alerts().take(); }
-
-    // The one alert that came; fails when it was not exactly one.
-    AlertContent takeAlert()
+    // What the one alert said; fails when it was not exactly one of this kind.
+    AlertContent takeAlert(ShownAlert::Kind kind = ShownAlert::Kind::Modal)
     {
-        const auto alerts = takeAlerts();
+        const auto alerts = session->alerts().take();
         EXPECT_EQ(alerts.size(), 1u);
-        return alerts.empty() ? AlertContent() : alerts.front();
+        if (alerts.empty())
+            return {};
+        EXPECT_EQ(alerts[0].kind, kind);
+        return alerts[0].content;
     }
 
     void expectUnsupportedPaperAlert()
@@ -71,7 +71,7 @@ TEST_F(Alerts, ACustomSizeIsRoundedToPointsAndHeldAgainstThePrintersLimits)
           CustomSize{{936, 1369}, false}}) {
         usePaper(u"Custom.1x1"_s, row.size);
         if (!row.printed)
-            session->alerts().expect({});
+            session->alerts().expect();
         EXPECT_EQ(panel->checkCustomPaperSizeAlert(), row.printed)
             << row.size.width() << " x " << row.size.height();
         if (!row.printed)
@@ -104,7 +104,7 @@ TEST_F(Alerts, ADialogWithoutATicketHasASizeThatNoPrinterTakes)
     open();
     usePaper(u"Custom.1x1"_s);
     session->host()->setLacking({HostOperation::PrintSettings});
-    session->alerts().expect({});
+    session->alerts().expect();
     EXPECT_FALSE(panel->checkCustomPaperSizeAlert());
     expectUnsupportedPaperAlert();
 }
@@ -118,10 +118,9 @@ TEST_F(Alerts, ADiscIsConfirmedOnEveryJob)
     for (const QString &medium : {u"PrintableDisc"_s, u"GlossyPrintableDisc"_s}) {
         session->mark(u"VKMediaType"_s, medium);
         for (const int button : {0, 1, 0}) {
-            session->alerts().expect({button, false});
+            session->alerts().expect(AlertAnswers::button(button));
             EXPECT_EQ(panel->checkShouldShowDiscAlert(), button == 0);
             const AlertContent alert = takeAlert();
-            EXPECT_EQ(session->alerts().kinds().front(), ShownAlert::Kind::Modal);
             EXPECT_EQ(alert.style, AlertStyle::Informational);
             EXPECT_EQ(alert.text, u"DiscPrint Alert"_s);
             EXPECT_EQ(alert.informative, u"DiscPrint Alert2"_s);
@@ -160,10 +159,9 @@ TEST_F(Alerts, AJapaneseEnvelopeIsConfirmedInItsWindow)
     for (const QString &name : {u"EnvChou3"_s, u"EnvChou4.Fullbleed"_s}) {
         usePaper(name);
         for (const int button : {0, 1}) {
-            session->alerts().expect({button, false});
+            session->alerts().expect(AlertAnswers::button(button));
             EXPECT_EQ(panel->checkShouldShowEnvelopeAlert(), button == 0);
-            const AlertContent alert = takeAlert();
-            EXPECT_EQ(session->alerts().kinds().front(), ShownAlert::Kind::Window);
+            const AlertContent alert = takeAlert(ShownAlert::Kind::Window);
             EXPECT_EQ(alert.style, AlertStyle::None);
             EXPECT_EQ(alert.title, u"Envelope Alert Title"_s);
             EXPECT_EQ(alert.text, u"Envelope Alert1\n\nEnvelope Alert2 Lark22 MP"_s);
@@ -194,7 +192,7 @@ TEST_F(Alerts, WithoutItsWindowAnEnvelopeIsNotPrinted)
     open();
     usePaper(u"EnvChou3"_s);
     EXPECT_FALSE(panel->checkShouldShowEnvelopeAlert());
-    EXPECT_TRUE(takeAlerts().empty());
+    EXPECT_TRUE(session->alerts().shown().empty());
 }
 
 TEST_F(Alerts, OtherEnvelopesPrintWithoutAnAlert)
@@ -206,34 +204,19 @@ TEST_F(Alerts, OtherEnvelopesPrintWithoutAnAlert)
     }
 }
 
-// Answers the envelope window as a person does who presses Escape or closes it.
-class WindowCloser : public AlertObserver
-{
-public:
-    explicit WindowCloser(bool escape) : m_escape(escape) { setAlertObserver(this); }
-    ~WindowCloser() override { setAlertObserver(nullptr); }
-    void alertShown(const ShownAlert &alert) override
-    {
-        if (m_escape)
-            QTest::keyClick(alert.window, Qt::Key_Escape);
-        else
-            alert.window->close();
-    }
-
-private:
-    bool m_escape;
-};
-
 TEST_F(Alerts, EscapeAndClosingCountAsCancel)
 {
     show();
     usePaper(u"EnvChou3"_s);
-    for (const bool escape : {true, false}) {
-        const WindowCloser closer(escape);
+    panel->setFlag(DiscPaper, true);
+    session->mark(u"VKMediaType"_s, u"PrintableDisc"_s);
+    for (const auto &answer : {AlertAnswers::key(Qt::Key_Escape), AlertAnswers::closing()}) {
+        session->alerts().expect(answer);
         EXPECT_FALSE(panel->checkShouldShowEnvelopeAlert());
-        panel->setFlag(DiscPaper, true);
-        session->mark(u"VKMediaType"_s, u"PrintableDisc"_s);
+        takeAlert(ShownAlert::Kind::Window);
+        session->alerts().expect(answer);
         EXPECT_FALSE(panel->checkShouldShowDiscAlert());
+        takeAlert();
     }
 }
 
@@ -282,9 +265,9 @@ TEST_F(Alerts, AWindowWithAKeyIsRememberedWhenItIsConfirmed)
          {Remembered{1, true, key, {}}, Remembered{1, false, key, {}},
           Remembered{0, true, QString(), {}}, Remembered{0, false, key, {{key, true}}},
           Remembered{0, true, key, {{key, false}}}, Remembered{1, false, key, {{key, false}}}}) {
-        session->alerts().expect({row.button, row.suppress});
+        session->alerts().expect(AlertAnswers::button(row.button, row.suppress));
         EXPECT_EQ(panel->showDialog(window, row.key), row.button == 0 ? 1 : 0);
-        EXPECT_EQ(takeAlerts().size(), 1u);
+        takeAlert(ShownAlert::Kind::Window);
         EXPECT_EQ(memory(), row.memory);
         EXPECT_FALSE(window->isVisible());
     }
@@ -311,7 +294,7 @@ TEST_F(Alerts, TheDuplexCheckAcceptsItsPapersAndVetoesAllElse)
     }
     for (const QString &name : {u"A4.Fullbleed"_s, u"a4"_s, u"EnvDL"_s, QString()}) {
         usePaper(name);
-        session->alerts().expect({});
+        session->alerts().expect();
         EXPECT_FALSE(panel->checkShouldShowDuplexAlert()) << qPrintable(name);
         const AlertContent alert = takeAlert();
         EXPECT_EQ(alert.style, AlertStyle::Critical);
@@ -325,7 +308,7 @@ TEST_F(Alerts, TheDuplexCheckVetoesAlsoWhereTwoSidedPrintingIsOff)
 {
     open();
     usePaper(u"A4"_s);
-    session->alerts().expect({});
+    session->alerts().expect();
     EXPECT_FALSE(panel->checkShouldShowDuplexAlert());
     takeAlert();
 }
@@ -350,7 +333,7 @@ TEST_P(PaperOrientation, IsWrittenIntoTheTicket)
     open();
     usePaper(row.paperName, row.size);
     if (row.unsupported)
-        session->alerts().expect({});
+        session->alerts().expect();
     EXPECT_EQ(panel->checkPaperAndShowOrientationAlert(), row.printed);
     if (row.unsupported)
         expectUnsupportedPaperAlert();
@@ -384,9 +367,9 @@ TEST_F(Alerts, TheOrientationCheckConfirmsJapaneseEnvelopes)
     show();
     usePaper(u"EnvChou3"_s);
     for (const int button : {0, 1}) {
-        session->alerts().expect({button, false});
+        session->alerts().expect(AlertAnswers::button(button));
         EXPECT_EQ(panel->checkPaperAndShowOrientationAlert(), button == 0);
-        EXPECT_EQ(takeAlert().title, u"Envelope Alert Title"_s);
+        EXPECT_EQ(takeAlert(ShownAlert::Kind::Window).title, u"Envelope Alert Title"_s);
     }
 }
 

@@ -166,7 +166,7 @@ TEST_F(Keywords, TheModelClassIsReadFromThePPD)
                                       ClassOfPrinter{0, u"Velkaro MX-J710DW"_s, true},
                                       ClassOfPrinter{0, u"Velkaro MX-J605DW"_s, false},
                                       ClassOfPrinter{7, u"Velkaro PX-330C"_s, false}}) {
-        usePrinter(PPDSource().modelName(row.name).modelNumber(row.number).open());
+        usePrinter(PPDSource().modelName(row.name.toUtf8()).modelNumber(row.number).open());
         open();
         EXPECT_EQ(panel->hasFlag(NewerModelClass), row.newer) << qPrintable(row.name);
         panel->setFlag(NewerModelClass, !row.newer);

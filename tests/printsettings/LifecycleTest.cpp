@@ -8,11 +8,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-int registrations(const TestedPanel &panel)
-{
-    return NotificationCenter::defaultCenter().registrationCount(&panel);
-}
-
 class Creation : public PrintPanelTest
 {};
 
@@ -23,7 +18,7 @@ TEST_F(Creation, ReadsTheKeywordsAndThePaperAndObservesThePageSetup)
     EXPECT_EQ(panel->paperName, u"A4"_s);
     EXPECT_EQ(panel->outputBin(),
               QVariantMap({{u"VKColorPaperThick"_s, u"Regular"_s}, {u"VKBiDir"_s, u"OFF"_s}}));
-    EXPECT_EQ(registrations(*panel), 2);
+    EXPECT_EQ(registrations(), 2);
     EXPECT_FALSE(panel->popupInited);
     EXPECT_EQ(panel->inspectedView(), nullptr);
 }
@@ -43,7 +38,7 @@ TEST_F(Creation, WithoutAHostThatMarksChoicesDoesNothingAtAll)
     session->host()->setLacking({HostOperation::WillChangePPDOptionKeyValue});
     EXPECT_FALSE(panel->initWithCallback(session->host()));
     EXPECT_EQ(log(), QStringList());
-    EXPECT_EQ(registrations(*panel), 0);
+    EXPECT_EQ(registrations(), 0);
     EXPECT_TRUE(panel->paperName.isNull());
     EXPECT_EQ(panel->supportedPPDOptionKeys(), std::nullopt);
 }
@@ -308,7 +303,7 @@ TEST_F(Creation, AFaxJobIsOneWhoseOutputIsMarkedFax)
     EXPECT_FALSE(panel->checkIfOutputToFax());
     session->mark(u"VKOutput"_s, u"FAX"_s);
     EXPECT_TRUE(panel->checkIfOutputToFax());
-    usePrinter(PPDSource().option(u"VKOutput"_s, {u"fax"_s}).open());
+    usePrinter(PPDSource().option("VKOutput", {"fax"}).open());
     open();
     EXPECT_FALSE(panel->checkIfOutputToFax());
     useSample(u"velkaro-mx-j710dw"_s);

@@ -86,7 +86,7 @@ TEST(DuplexPapers, AreExactlyTheListedOnes)
 // The limits of this printer are 182 to 936 points by 254 to 1368 points.
 TEST(CustomSizes, IncludeTheirLimits)
 {
-    const PPDHandle ppd = PanelSession::samplePrinter(u"velkaro-px-t900"_s);
+    const PPDHandle ppd = openSample(u"velkaro-px-t900"_s);
     EXPECT_TRUE(isWithinCustomSizes(*ppd, {182, 254}));
     EXPECT_TRUE(isWithinCustomSizes(*ppd, {936, 1368}));
     EXPECT_FALSE(isWithinCustomSizes(*ppd, {181, 254}));
@@ -97,7 +97,7 @@ TEST(CustomSizes, IncludeTheirLimits)
 
 TEST(CustomSizes, HoldNothingWhereThePrinterTakesNone)
 {
-    const PPDHandle ppd = PanelSession::samplePrinter(u"velkaro-mx-j710dw"_s);
+    const PPDHandle ppd = openSample(u"velkaro-mx-j710dw"_s);
     EXPECT_FALSE(isWithinCustomSizes(*ppd, {595, 842}));
     EXPECT_TRUE(isWithinCustomSizes(*ppd, {0, 0}));
 }

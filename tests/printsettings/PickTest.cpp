@@ -80,17 +80,18 @@ TEST_F(Picks, TheBestQualityOfPlainPaperRaisesNoAlert)
 TEST_F(Picks, TheBestQualityOfPhotoPaperRaisesASheetAndStaysSelected)
 {
     pick(u"mediaTypePopup"_s, u"Glossy"_s);
-    session->alerts().expect({0, false});
+    session->alerts().expect();
     pick(u"resolutionPopup"_s, u"Best"_s);
     const auto alerts = session->alerts().take();
     ASSERT_EQ(alerts.size(), 1u);
-    EXPECT_EQ(session->alerts().kinds().front(), ShownAlert::Kind::Sheet);
-    EXPECT_EQ(alerts[0].style, AlertStyle::Informational);
-    EXPECT_EQ(alerts[0].text, u"Best Alert"_s);
-    EXPECT_EQ(alerts[0].informative, u"Highest Alert2"_s);
-    EXPECT_EQ(alerts[0].buttons, QStringList({u"OK"_s}));
-    EXPECT_TRUE(alerts[0].suppression);
-    EXPECT_EQ(alerts[0].suppressionTitle, u"Suppression"_s);
+    EXPECT_EQ(alerts[0].kind, ShownAlert::Kind::Sheet);
+    const AlertContent &content = alerts[0].content;
+    EXPECT_EQ(content.style, AlertStyle::Informational);
+    EXPECT_EQ(content.text, u"Best Alert"_s);
+    EXPECT_EQ(content.informative, u"Highest Alert2"_s);
+    EXPECT_EQ(content.buttons, QStringList({u"OK"_s}));
+    EXPECT_TRUE(content.suppression);
+    EXPECT_EQ(content.suppressionTitle, u"Suppression"_s);
     EXPECT_EQ(panel->pending(), u"Glossy/Best"_s);
 }
 
@@ -98,7 +99,7 @@ TEST_F(Picks, TheBestQualityAlertComesAgainUntilItIsSuppressed)
 {
     pick(u"mediaTypePopup"_s, u"Glossy"_s);
     for (const bool suppress : {false, true}) {
-        session->alerts().expect({0, suppress});
+        session->alerts().expect(AlertAnswers::button(0, suppress));
         pick(u"resolutionPopup"_s, u"Best"_s);
         EXPECT_EQ(session->alerts().take().size(), 1u);
         pick(u"resolutionPopup"_s, u"Photo"_s);
@@ -127,7 +128,7 @@ TEST_F(Picks, AQualityMakesJpegPrintingSelectable)
 TEST_F(Picks, TheSheetMayOutliveThePanel)
 {
     pick(u"mediaTypePopup"_s, u"Glossy"_s);
-    session->alerts().expect({0, true});
+    session->alerts().expect(AlertAnswers::button(0, true));
     pick(u"resolutionPopup"_s, u"Best"_s);
     panel.reset();
     EXPECT_EQ(session->alerts().take().size(), 1u);
@@ -141,7 +142,7 @@ TEST_F(Picks, TheSuppressionLastsFromRunToRun)
     const QTemporaryDir folder;
     UserDefaults::standardUserDefaults().setFolder(folder.path());
     pick(u"mediaTypePopup"_s, u"Glossy"_s);
-    session->alerts().expect({0, true});
+    session->alerts().expect(AlertAnswers::button(0, true));
     pick(u"resolutionPopup"_s, u"Best"_s);
     session->alerts().take();
 

@@ -21,7 +21,7 @@ protected:
         return classes;
     }
 
-    PanelSession session{PanelSession::samplePrinter(u"velkaro-px-t900"_s)};
+    PanelSession session{openSample(u"velkaro-px-t900"_s)};
     VKInkQuality14PDEPlugIn plugIn;
 };
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/foundation/NotificationCenter.h"
 #include "platform/toolkit/PopUpButton.h"
 #include "printsettings/VKInkPrintSetting14PDE.h"
 #include "tests/support/PanelSession.h"
@@ -73,7 +74,7 @@ protected:
         session = std::make_unique<PanelSession>(std::move(ppd));
         panel = std::make_unique<TestedPanel>();
     }
-    void useSample(const QString &name) { usePrinter(PanelSession::samplePrinter(name)); }
+    void useSample(const QString &name) { usePrinter(openSample(name)); }
 
     /// Creates the panel and lets it read its values, as a dialog does when it opens.
     void open()
@@ -92,12 +93,18 @@ protected:
         session->log().take();
     }
 
+    /// How many notifications the panel is registered for.
+    int registrations() const
+    {
+        return NotificationCenter::defaultCenter().registrationCount(panel.get());
+    }
+
     QStringList log() { return session->log().take(); }
     QString pending(const QString &keyword) const { return panel->pendingValue(keyword); }
     PopUpButton *popup(const QString &name) const { return panel->popup(name); }
     QAbstractButton *box(const QString &name) const { return panel->box(name); }
 
-    std::unique_ptr<PanelSession> session = std::make_unique<PanelSession>(
-        PanelSession::samplePrinter(QStringLiteral("velkaro-px-t900")));
+    std::unique_ptr<PanelSession> session =
+        std::make_unique<PanelSession>(openSample(QStringLiteral("velkaro-px-t900")));
     std::unique_ptr<TestedPanel> panel = std::make_unique<TestedPanel>();
 };

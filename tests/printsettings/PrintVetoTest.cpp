@@ -34,11 +34,11 @@ protected:
         if (row.fax)
             session->mark(u"VKOutput"_s, u"FAX"_s);
         for (const int button : row.answers)
-            session->alerts().expect({button, false});
+            session->alerts().expect(AlertAnswers::button(button));
         EXPECT_EQ(panel->shouldPrint(), row.printed);
         QStringList texts;
-        for (const AlertContent &alert : session->alerts().take())
-            texts << (alert.title.isNull() ? alert.text : alert.title);
+        for (const ShownAlert &alert : session->alerts().take())
+            texts << (alert.content.title.isNull() ? alert.content.text : alert.content.title);
         EXPECT_EQ(texts, row.alerts);
     }
 };
@@ -203,7 +203,7 @@ TEST_F(PrintFlow, SavesTheValuesBeforeTheChecks)
     ppdMarkOption(session->ppd(), "Duplex", "DuplexNoTumble");
     session->changePaper(u"Custom.9x9"_s, {}, {9, 9});
     log();
-    session->alerts().expect({});
+    session->alerts().expect();
     EXPECT_FALSE(panel->shouldPrint());
     session->alerts().take();
     EXPECT_EQ(session->log().takeOffers(), QStringList({u"VKMediaType=PlainDuplex"_s}));

@@ -1,30 +1,72 @@
 #include "tests/support/PPDSource.h"
 
-#include <QtCore/QTemporaryFile>
+#include "tests/built/BuiltFiles.h"
+#include "tests/support/WriteFile.h"
+
+#include <QtCore/QTemporaryDir>
 
 #include <gtest/gtest.h>
 
 #include <utility>
 
-using namespace Qt::StringLiterals;
-
 namespace {
 
-QString withText(const QString &nameAndText)
+PPDHandle openOrFail(const QString &path)
 {
-    return nameAndText.contains(u'/') ? nameAndText : nameAndText + u'/' + nameAndText;
+    OpenedPPD opened = openPPD(path);
+    EXPECT_TRUE(opened.ppd) << qPrintable(opened.error);
+    return std::move(opened.ppd);
 }
 
-QString nameOf(const QString &nameAndText)
+const char kHead[] = R"ppd(*PPD-Adobe: "4.3"
+*FormatVersion: "4.3"
+*FileVersion: "1.0"
+*LanguageVersion: English
+*LanguageEncoding: UTF-8
+*PCFileName: "TEST.PPD"
+*Manufacturer: "Velkaro"
+*Product: "(Test)"
+*PSVersion: "(3010.000) 0"
+)ppd";
+
+QByteArray nameOf(const QByteArray &nameAndText)
 {
-    return nameAndText.section(u'/', 0, 0);
+    return nameAndText.split('/').constFirst();
+}
+
+QByteArray withText(const QByteArray &nameAndText)
+{
+    return nameAndText.contains('/') ? nameAndText : nameAndText + '/' + nameAndText;
+}
+
+QByteArray defaultLine(const QByteArray &keyword, const QByteArray &choice)
+{
+    return "*Default" + keyword + ": " + choice + '\n';
+}
+
+QByteArray choiceLine(const QByteArray &keyword, const QByteArray &choice, const QByteArray &value)
+{
+    return "*" + keyword + ' ' + withText(choice) + ": \"" + value + "\"\n";
+}
+
+QByteArray optionLines(const QByteArray &option, const QByteArrayList &choices,
+                       const QByteArray &defaultLine)
+{
+    const QByteArray keyword = nameOf(option);
+    QByteArray lines = "*OpenUI *" + withText(option) + ": PickOne\n" + defaultLine;
+    for (const QByteArray &choice : choices)
+        lines += choiceLine(keyword, choice, {});
+    return lines + "*CloseUI: *" + keyword + '\n';
+}
+
+QByteArray area(const QByteArray &origin, int right, int top)
+{
+    return origin + QByteArray::number(right) + ' ' + QByteArray::number(top);
 }
 
 } // namespace
 
-PPDSource::PPDSource() : m_modelName(u"Velkaro Test"_s) {}
-
-PPDSource &PPDSource::modelName(const QString &name)
+PPDSource &PPDSource::modelName(const QByteArray &name)
 {
     m_modelName = name;
     return *this;
@@ -32,39 +74,103 @@ PPDSource &PPDSource::modelName(const QString &name)
 
 PPDSource &PPDSource::modelNumber(int number)
 {
-    return attribute(u"cupsModelNumber"_s, QString::number(number));
+    return attribute("cupsModelNumber", QByteArray::number(number));
 }
 
-PPDSource &PPDSource::attribute(const QString &keyword, const QString &value)
+PPDSource &PPDSource::attribute(const QByteArray &keyword, const QByteArray &value)
 {
-    m_body += u"*%1: \"%2\"\n"_s.arg(keyword, value);
+    m_body += "*" + keyword + ": \"" + value + "\"\n";
     return *this;
 }
 
-PPDSource &PPDSource::option(const QString &option, const QStringList &choices)
+PPDSource &PPDSource::option(const QByteArray &option, const QByteArrayList &choices)
 {
-    const QString keyword = nameOf(option);
-    m_body += u"*OpenUI *%1: PickOne\n"_s.arg(withText(option));
-    m_body += u"*Default%1: %2\n"_s.arg(keyword, nameOf(choices.value(0)));
-    for (const QString &choice : choices)
-        m_body += u"*%1 %2: \"\"\n"_s.arg(keyword, withText(choice));
-    m_body += u"*CloseUI: *%1\n"_s.arg(keyword);
+    return optionWithDefault(option, choices, nameOf(choices.value(0)));
+}
+
+PPDSource &PPDSource::optionWithDefault(const QByteArray &option, const QByteArrayList &choices,
+                                        const QByteArray &defaultChoice)
+{
+    m_body += optionLines(option, choices, defaultLine(nameOf(option), defaultChoice));
     return *this;
+}
+
+PPDSource &PPDSource::optionWithoutDefault(const QByteArray &option, const QByteArrayList &choices)
+{
+    m_body += optionLines(option, choices, {});
+    return *this;
+}
+
+PPDSource &PPDSource::papers(const QList<Paper> &papers)
+{
+    QByteArrayList names;
+    for (const Paper &paper : papers)
+        names << paper.name;
+    option("PageSize", names).option("PageRegion", names);
+    m_body += defaultLine("PaperDimension", names.value(0));
+    m_body += defaultLine("ImageableArea", names.value(0));
+    for (const Paper &paper : papers) {
+        m_body += choiceLine("PaperDimension", paper.name, area({}, paper.width, paper.height));
+        m_body += choiceLine("ImageableArea", paper.name,
+                             area("10 10 ", paper.width - 10, paper.height - 10));
+    }
+    return *this;
+}
+
+PPDSource &PPDSource::constraint(const QByteArray &one, const QByteArray &other)
+{
+    m_body += "*UIConstraints: *" + one + " *" + other + "\n";
+    m_body += "*UIConstraints: *" + other + " *" + one + "\n";
+    return *this;
+}
+
+QByteArray PPDSource::text() const
+{
+    return kHead + ("*ModelName: \"" + m_modelName) + "\"\n*ShortNickName: \"" + m_modelName +
+           "\"\n*NickName: \"" + m_modelName + ", 1.0\"\n" + m_body;
 }
 
 PPDHandle PPDSource::open() const
 {
-    QTemporaryFile file;
-    if (!file.open())
-        return {};
-    const QString head = u"*PPD-Adobe: \"4.3\"\n*FormatVersion: \"4.3\"\n*FileVersion: \"1.0\"\n"
-                         "*LanguageVersion: English\n*LanguageEncoding: UTF-8\n"
-                         "*PCFileName: \"TEST.PPD\"\n*Manufacturer: \"Velkaro\"\n"
-                         "*Product: \"(Test)\"\n*PSVersion: \"(3010.000) 0\"\n"
-                         "*ModelName: \"%1\"\n*ShortNickName: \"%1\"\n*NickName: \"%1, 1.0\"\n"_s;
-    file.write((head.arg(m_modelName) + m_body).toUtf8());
-    file.flush();
-    OpenedPPD opened = openPPD(file.fileName());
-    EXPECT_TRUE(opened.ppd) << qPrintable(opened.error);
-    return std::move(opened.ppd);
+    return openText(text());
+}
+
+PPDHandle openSample(const QString &name)
+{
+    return openOrFail(samplePPD(name));
+}
+
+QByteArray sampleText(const QString &name)
+{
+    QFile file(samplePPD(name));
+    EXPECT_TRUE(file.open(QIODevice::ReadOnly)) << qPrintable(file.fileName());
+    return file.readAll();
+}
+
+QByteArray sampleWithoutDefaults(const QString &name, const QByteArrayList &keywords)
+{
+    QByteArrayList lines = sampleText(name).split('\n');
+    for (const QByteArray &keyword : keywords) {
+        const auto tellsDefault = [&](const QByteArray &line) {
+            return line.startsWith("*Default" + keyword + ':');
+        };
+        EXPECT_EQ(lines.removeIf(tellsDefault), 1) << keyword.constData();
+    }
+    return lines.join('\n');
+}
+
+PPDHandle openText(const QByteArray &text)
+{
+    const QTemporaryDir folder;
+    const QString path = folder.filePath(QStringLiteral("test.ppd"));
+    writeFile(path, text);
+    return openOrFail(path);
+}
+
+void unmark(ppd_file_t *ppd, const char *keyword)
+{
+    ppd_choice_t *choice = ppdFindMarkedChoice(ppd, keyword);
+    ASSERT_TRUE(choice) << keyword;
+    choice->marked = 0;
+    cupsArrayRemove(ppd->marked, choice);
 }

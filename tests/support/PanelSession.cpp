@@ -8,7 +8,7 @@
 #include "platform/pde/PPDText.h"
 #include "platform/toolkit/KeyWindow.h"
 #include "platform/toolkit/PopUpButton.h"
-#include "tests/support/TestPlaces.h"
+#include "tests/built/BuiltFiles.h"
 
 #include <QtWidgets/QAbstractButton>
 
@@ -33,13 +33,6 @@ PanelSession::~PanelSession()
     Bundle::setMainBundle(nullptr);
     setPreferredLanguages({});
     setKeyWindow(nullptr);
-}
-
-PPDHandle PanelSession::samplePrinter(const QString &name)
-{
-    OpenedPPD opened = openPPD(samplePPD(name));
-    EXPECT_TRUE(opened.ppd) << qPrintable(opened.error);
-    return std::move(opened.ppd);
 }
 
 void PanelSession::setBundle(std::shared_ptr<Bundle> bundle)

@@ -1,9 +1,8 @@
 #pragma once
 
 #include "dialog/host/HostCallback.h"
-#include "dialog/host/PPDFile.h"
-#include "panel/VKPrintQualityPDE.h"
-#include "tests/support/AlertAnswerer.h"
+#include "tests/support/AlertAnswers.h"
+#include "tests/support/PPDSource.h"
 #include "tests/support/SessionLog.h"
 
 #include <QtCore/QSizeF>
@@ -24,9 +23,6 @@ public:
     PanelSession(const PanelSession &) = delete;
     PanelSession &operator=(const PanelSession &) = delete;
 
-    /// A session with a sample printer's PPD and the A4 paper.
-    static PPDHandle samplePrinter(const QString &name);
-
     /// Replaces the bundle that a panel which is created from now on finds.
     void setBundle(std::shared_ptr<Bundle> bundle);
     Bundle &bundle() { return *m_bundle; }
@@ -34,7 +30,7 @@ public:
     ppd_file_t *ppd() { return m_ppd.get(); }
     const std::shared_ptr<HostCallback> &host() const { return m_host; }
     SessionLog &log() { return m_log; }
-    AlertAnswerer &alerts() { return m_alerts; }
+    AlertAnswers &alerts() { return m_alerts; }
 
     /// Puts the paper into the page format. `setPaper` tells nobody; `changePaper` posts the
     /// paper-change notification. A size that is left out is that of A4.
@@ -52,7 +48,7 @@ private:
     std::shared_ptr<HostCallback> m_host;
     std::shared_ptr<Bundle> m_bundle;
     SessionLog m_log;
-    AlertAnswerer m_alerts;
+    AlertAnswers m_alerts;
 };
 
 /// Picks the item with the choice through the pop-up's user signal. Fails the test when the pop-up

@@ -1,6 +1,7 @@
 #pragma once
 
-#include <QtCore/QFile>
+#include "tests/support/WriteFile.h"
+
 #include <QtCore/QString>
 #include <QtCore/QTemporaryDir>
 
@@ -18,9 +19,7 @@ public:
     ViewText(const QByteArray &text, const QString &name)
     {
         m_path = m_folder.filePath(name);
-        QFile file(m_path);
-        if (file.open(QIODevice::WriteOnly))
-            file.write(text);
+        writeFile(m_path, text);
     }
 
     const QString &path() const { return m_path; }

@@ -32,11 +32,6 @@ AlertContent question()
     return content;
 }
 
-AlertAnswers::Answer key(Qt::Key pressed)
-{
-    return [pressed](const ShownAlert &alert) { QTest::keyClick(alert.window, pressed); };
-}
-
 struct AnswerCase
 {
     const char *behaviour;
@@ -48,10 +43,10 @@ struct AnswerCase
 const AnswerCase kAnswerCases[] = {
     {"FirstButton", AlertAnswers::button(0), 0, false},
     {"SecondButton", AlertAnswers::button(1), 1, false},
-    {"FirstButtonAndBox", AlertAnswers::suppressing(0), 0, true},
-    {"SecondButtonAndBox", AlertAnswers::suppressing(1), 1, true},
-    {"ReturnIsTheFirst", key(Qt::Key_Return), 0, false},
-    {"EscapeIsTheLast", key(Qt::Key_Escape), 1, false},
+    {"FirstButtonAndBox", AlertAnswers::button(0, true), 0, true},
+    {"SecondButtonAndBox", AlertAnswers::button(1, true), 1, true},
+    {"ReturnIsTheFirst", AlertAnswers::key(Qt::Key_Return), 0, false},
+    {"EscapeIsTheLast", AlertAnswers::key(Qt::Key_Escape), 1, false},
     {"ClosingIsTheLast", AlertAnswers::closing(), 1, false},
 };
 
@@ -64,24 +59,24 @@ TEST_P(Answered, ModalAlert)
     const AlertResult result = runAlert(question());
     EXPECT_EQ(result.button, GetParam().button);
     EXPECT_EQ(result.suppressed, GetParam().suppressed);
-    ASSERT_EQ(answers.shown.size(), 1U);
-    EXPECT_TRUE(answers.shown[0].window.isNull()) << "the alert has gone";
+    ASSERT_EQ(answers.shown().size(), 1U);
+    EXPECT_TRUE(answers.shown()[0].window.isNull()) << "the alert has gone";
 }
 
 TEST_P(Answered, Sheet)
 {
     QObject context;
     std::optional<AlertResult> result;
-    const AlertAnswers answers({[](const ShownAlert &) {}});
+    AlertAnswers answers({GetParam().answer});
     beginAlertSheet(question(), &context, [&](const AlertResult &given) { result = given; });
-    ASSERT_EQ(answers.shown.size(), 1U);
     EXPECT_FALSE(result.has_value()) << "the answer arrives later";
-    GetParam().answer(answers.shown[0]);
+    const auto shown = answers.take();
     ASSERT_TRUE(result.has_value());
     EXPECT_EQ(result->button, GetParam().button);
     EXPECT_EQ(result->suppressed, GetParam().suppressed);
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-    EXPECT_TRUE(answers.shown[0].window.isNull());
+    ASSERT_EQ(shown.size(), 1U);
+    EXPECT_TRUE(shown[0].window.isNull()) << "the sheet has gone";
 }
 
 INSTANTIATE_TEST_SUITE_P(Cases, Answered, testing::ValuesIn(kAnswerCases), CaseName());
@@ -103,11 +98,12 @@ TEST(AlertTest, BlocksTheKeyWindowAloneAsASheet)
     window.show();
     setKeyWindow(&window);
     QObject context;
-    const AlertAnswers answers({[](const ShownAlert &) {}});
+    AlertAnswers answers({AlertAnswers::button(0)});
     beginAlertSheet(question(), &context, [](const AlertResult &) {});
-    EXPECT_EQ(answers.shown[0].window->windowModality(), Qt::WindowModal);
-    EXPECT_EQ(answers.shown[0].window->parentWidget(), &window);
-    answers.shown[0].press(0);
+    const QWidget *sheet = answers.shown().at(0).window;
+    EXPECT_EQ(sheet->windowModality(), Qt::WindowModal);
+    EXPECT_EQ(sheet->parentWidget(), &window);
+    answers.take();
     setKeyWindow(nullptr);
 }
 
@@ -177,9 +173,9 @@ TEST(AlertTest, ShowsMarkupAndAmpersandsAsTheyAre)
 
 TEST(AlertTest, TellsTheObserverWhatItSays)
 {
-    const AlertAnswers answers;
+    const AlertAnswers answers({AlertAnswers::button(0)});
     runAlert(question());
-    const ShownAlert &shown = answers.shown.at(0);
+    const ShownAlert &shown = answers.shown().at(0);
     EXPECT_EQ(shown.kind, ShownAlert::Kind::Modal);
     EXPECT_EQ(shown.content.text, question().text);
     EXPECT_EQ(shown.content.informative, question().informative);
@@ -189,11 +185,11 @@ TEST(AlertTest, TellsTheObserverWhatItSays)
 
 TEST(AlertTest, HasNoBoxUnlessItIsAskedFor)
 {
-    const AlertAnswers answers({AlertAnswers::suppressing(0)});
+    const AlertAnswers answers({AlertAnswers::button(0, true)});
     AlertContent content = question();
     content.suppression = false;
     EXPECT_FALSE(runAlert(content).suppressed);
-    EXPECT_TRUE(answers.shown[0].suppressionBox.isNull());
+    EXPECT_TRUE(answers.shown()[0].suppressionBox.isNull());
 }
 
 TEST(AlertTest, TellsTwoButtonsOfOneTitleApart)
@@ -208,7 +204,7 @@ TEST(AlertTest, AnswersItsOnlyButtonHoweverItIsDismissed)
 {
     AlertContent content = question();
     content.buttons = {u"OK"_s};
-    const AlertAnswers answers({key(Qt::Key_Escape), AlertAnswers::closing()});
+    const AlertAnswers answers({AlertAnswers::key(Qt::Key_Escape), AlertAnswers::closing()});
     EXPECT_EQ(runAlert(content).button, 0);
     EXPECT_EQ(runAlert(content).button, 0);
 }
@@ -237,12 +233,12 @@ TEST(AlertTest, DoesNotCallBackWhoHasGoneMeanwhile)
 {
     auto context = std::make_unique<QObject>();
     bool called = false;
-    const AlertAnswers answers({[](const ShownAlert &) {}});
+    AlertAnswers answers({AlertAnswers::button(0)});
     beginAlertSheet(question(), context.get(), [&](const AlertResult &) { called = true; });
     context.reset();
-    answers.shown[0].press(0);
+    const auto shown = answers.take();
     EXPECT_FALSE(called);
-    EXPECT_FALSE(answers.shown[0].window->isVisible());
+    EXPECT_FALSE(shown.at(0).window->isVisible());
 }
 
 TEST(AlertTest, CanRaiseAnotherFromItsAnswer)
@@ -253,7 +249,7 @@ TEST(AlertTest, CanRaiseAnotherFromItsAnswer)
                           },
                           AlertAnswers::button(1)});
     EXPECT_EQ(runAlert(question()).button, 0);
-    EXPECT_EQ(answers.shown.size(), 2U);
+    EXPECT_EQ(answers.shown().size(), 2U);
 }
 
 } // namespace

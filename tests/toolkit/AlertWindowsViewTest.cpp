@@ -1,5 +1,6 @@
 #include "platform/toolkit/ImageView.h"
 #include "platform/toolkit/ViewLoader.h"
+#include "tests/built/BuiltFiles.h"
 #include "tests/support/QStringPrinting.h"
 
 #include <gtest/gtest.h>
@@ -29,8 +30,7 @@ protected:
                 sent << QString::fromLatin1(action) + sender->objectName();
             });
         }
-        loaded =
-            loadView(QStringLiteral(PANEL_BUNDLE "/Resources/VKInkPrintSetting14Alerts.ui"), owner);
+        loaded = loadView(builtBundle() + u"/Resources/VKInkPrintSetting14Alerts.ui"_s, owner);
     }
 
     QWidget *root = nullptr;

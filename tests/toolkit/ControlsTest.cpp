@@ -166,7 +166,7 @@ TEST(KeyWindowTest, IsNoneOnceItIsDestroyed)
     EXPECT_FALSE(keyWindowHeight().has_value());
 }
 
-TEST(SizeWatchTest, TellsWhenTheWindowComesOnScreenAndWhenItIsResized)
+TEST(SizeWatchTest, TellsWhenTheWindowComesOnScreenAndWhenItsHeightChanges)
 {
     QWidget window;
     window.resize(300, 300);
@@ -178,7 +178,11 @@ TEST(SizeWatchTest, TellsWhenTheWindowComesOnScreenAndWhenItIsResized)
     EXPECT_GE(fired.size(), 1);
     fired.clear();
     window.resize(300, 400);
-    EXPECT_EQ(fired.size(), 1);
+    EXPECT_EQ(fired.size(), 1) << "taller";
+    window.resize(350, 400);
+    EXPECT_EQ(fired.size(), 1) << "wider alone";
+    window.resize(300, 300);
+    EXPECT_EQ(fired.size(), 2) << "narrower and lower";
 }
 
 TEST(SizeWatchTest, TellsNothingWhileItIsHidden)

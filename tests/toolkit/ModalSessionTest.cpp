@@ -40,11 +40,6 @@ public:
     }
 };
 
-AlertAnswers::Answer key(Qt::Key pressed)
-{
-    return [pressed](const ShownAlert &alert) { QTest::keyClick(alert.window, pressed); };
-}
-
 struct EndCase
 {
     const char *behaviour;
@@ -59,8 +54,8 @@ class SessionEnd : public testing::TestWithParam<EndCase>
 const EndCase kEndCases[] = {
     {"OK", AlertAnswers::button(0), kModalOK, true},
     {"Cancel", AlertAnswers::button(1), kModalCancel, true},
-    {"Return", key(Qt::Key_Return), kModalOK, true},
-    {"Escape", key(Qt::Key_Escape), kModalCancel, true},
+    {"Return", AlertAnswers::key(Qt::Key_Return), kModalOK, true},
+    {"Escape", AlertAnswers::key(Qt::Key_Escape), kModalCancel, true},
     {"EscapeInAButton",
      [](const ShownAlert &alert) { QTest::keyClick(alert.buttons[0], Qt::Key_Escape); },
      kModalCancel, true},
@@ -100,9 +95,9 @@ TEST(ModalSessionTest, BlocksTheApplication)
 TEST(ModalSessionTest, TellsTheObserverWhatTheWindowSays)
 {
     AlertWindow window;
-    const AlertAnswers answers;
+    const AlertAnswers answers({AlertAnswers::button(0)});
     runModalForWindow(&window);
-    const ShownAlert &shown = answers.shown.at(0);
+    const ShownAlert &shown = answers.shown().at(0);
     EXPECT_EQ(shown.kind, ShownAlert::Kind::Window);
     EXPECT_EQ(shown.content.style, AlertStyle::None);
     EXPECT_EQ(shown.content.title, u"Load the envelopes"_s);
@@ -117,9 +112,9 @@ TEST(ModalSessionTest, OffersTheSuppressionBoxOfTheWindow)
     AlertWindow window;
     auto *box = new QCheckBox(u"Do not ask again"_s);
     window.layout()->addWidget(box);
-    const AlertAnswers answers({AlertAnswers::suppressing(0)});
+    const AlertAnswers answers({AlertAnswers::button(0, true)});
     EXPECT_EQ(runModalForWindow(&window), kModalOK);
-    EXPECT_TRUE(answers.shown[0].content.suppression);
+    EXPECT_TRUE(answers.shown()[0].content.suppression);
     EXPECT_TRUE(box->isChecked());
 }
 

@@ -1,6 +1,7 @@
 #include "platform/toolkit/DisclosureButton.h"
 #include "platform/toolkit/PopUpButton.h"
 #include "platform/toolkit/ViewLoader.h"
+#include "tests/built/BuiltFiles.h"
 #include "tests/support/QStringPrinting.h"
 
 #include <gtest/gtest.h>
@@ -48,7 +49,7 @@ protected:
                 sent << QString::fromLatin1(action) + sender->objectName();
             });
         }
-        loaded = loadView(QStringLiteral(PANEL_BUNDLE "/Resources/VKInkPrintSetting14.ui"), owner);
+        loaded = loadView(builtBundle() + u"/Resources/VKInkPrintSetting14.ui"_s, owner);
     }
 
     template <typename Widget> Widget *find(const char *name) const

@@ -2,8 +2,8 @@
 #include "dialog/cups/StandardAttributes.h"
 #include "dialog/host/PPDFile.h"
 #include "dialog/host/PPDMarks.h"
+#include "tests/built/BuiltFiles.h"
 #include "tests/endtoend/JobPrinting.h"
-#include "tests/printserver/PrintServer.h"
 
 #include <gtest/gtest.h>
 

@@ -2,8 +2,8 @@
 #include "dialog/cups/SavedSettings.h"
 #include "dialog/host/PPDFile.h"
 #include "platform/pde/PPDText.h"
+#include "tests/built/BuiltFiles.h"
 #include "tests/endtoend/JobPrinting.h"
-#include "tests/printserver/PrintServer.h"
 
 #include <QtCore/QDir>
 #include <QtCore/QFile>

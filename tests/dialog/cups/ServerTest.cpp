@@ -6,6 +6,7 @@
 #include "dialog/cups/ServerCall.h"
 #include "dialog/host/PPDFile.h"
 #include "platform/pde/PPDText.h"
+#include "tests/built/BuiltFiles.h"
 #include "tests/endtoend/JobPrinting.h"
 #include "tests/printserver/PrintServer.h"
 

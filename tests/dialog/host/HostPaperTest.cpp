@@ -1,29 +1,14 @@
 #include "dialog/host/HostPaper.h"
-#include "dialog/host/PPDFile.h"
 #include "dialog/host/PPDMarks.h"
-#include "tests/dialog/support/SmallPPD.h"
-
-#include <QtCore/QTemporaryDir>
+#include "tests/support/SmallPrinter.h"
 
 #include <gtest/gtest.h>
 
 using namespace Qt::StringLiterals;
 
-namespace {
-
-PPDHandle openText(const QByteArray &text)
-{
-    const QTemporaryDir folder;
-    const QString path = folder.filePath(u"the.ppd"_s);
-    writeFile(path, text);
-    return openPPD(path).ppd;
-}
-
-} // namespace
-
 TEST(HostPaper, IsTheMarkedPageSize)
 {
-    const PPDHandle ppd = openText(kSmallPPD);
+    const PPDHandle ppd = smallPrinter().open();
     ASSERT_TRUE(forceChoice(ppd.get(), u"PageSize"_s, u"A5"_s));
     const auto paper = markedPaper(ppd.get());
     ASSERT_TRUE(paper);
@@ -35,9 +20,7 @@ TEST(HostPaper, IsTheMarkedPageSize)
 
 TEST(HostPaper, WithoutADimensionHasNoSize)
 {
-    const PPDHandle ppd = openText(QByteArray(kSmallPPD)
-                                       .replace("*PaperDimension A4/A4: \"595 842\"\n", "")
-                                       .replace("*ImageableArea A4/A4: \"10 10 585 832\"\n", ""));
+    const PPDHandle ppd = PPDSource().option("PageSize", {"A4"}).open();
     const auto paper = markedPaper(ppd.get());
     ASSERT_TRUE(paper);
     EXPECT_EQ(paper->name, u"A4"_s);
@@ -47,9 +30,7 @@ TEST(HostPaper, WithoutADimensionHasNoSize)
 
 TEST(HostPaper, IsNoneWithoutAMarkedPageSize)
 {
-    QByteArray text = kSmallPPD;
-    text.replace("PageSize", "SheetSize");
-    const PPDHandle ppd = openText(text);
+    const PPDHandle ppd = PPDSource().option("SheetSize", {"A4"}).open();
     ASSERT_NE(ppd, nullptr);
     EXPECT_FALSE(markedPaper(ppd.get()));
 }

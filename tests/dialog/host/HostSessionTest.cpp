@@ -2,7 +2,8 @@
 #include "platform/foundation/UserDefaults.h"
 #include "platform/pde/PDEPanelInspection.h"
 #include "platform/pde/PPDText.h"
-#include "tests/dialog/support/SmallPPD.h"
+#include "tests/support/SmallPrinter.h"
+#include "tests/support/WriteFile.h"
 
 #include <QtCore/QTemporaryDir>
 
@@ -20,7 +21,7 @@ protected:
     {
         m_options.ppdPath = m_folder.filePath(u"the.ppd"_s);
         m_options.bundlePath = QLatin1String(FIXTURE_FOLDER) + u"/Spy.bundle"_s;
-        writeFile(m_options.ppdPath, kSmallPPD);
+        writeFile(m_options.ppdPath, smallPrinter().text());
     }
 
     HostSession &start()

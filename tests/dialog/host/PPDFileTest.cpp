@@ -1,6 +1,7 @@
 #include "dialog/host/PPDFile.h"
 #include "platform/pde/PPDText.h"
-#include "tests/dialog/support/SmallPPD.h"
+#include "tests/support/SmallPrinter.h"
+#include "tests/support/WriteFile.h"
 
 #include <QtCore/QFile>
 #include <QtCore/QTemporaryDir>
@@ -17,7 +18,7 @@ namespace {
 /// The first `length` bytes of a good PPD.
 QByteArray cut(const char *after)
 {
-    const QByteArray whole(kSmallPPD);
+    const QByteArray whole = smallPrinter().text();
     return whole.left(whole.indexOf(after) + qstrlen(after));
 }
 
@@ -96,7 +97,7 @@ TEST(PPDFile, AFileThatThisUserMayNotReadIsSaidSo)
 {
     const QTemporaryDir folder;
     const QString path = folder.filePath(u"the.ppd"_s);
-    writeFile(path, kSmallPPD);
+    writeFile(path, smallPrinter().text());
     ASSERT_TRUE(QFile::setPermissions(path, {}));
     ASSERT_EQ(chmod(QFile::encodeName(folder.path()).constData(), 0711), 0);
     const OpenedPPD opened = openAsNobody(path);
@@ -108,7 +109,7 @@ TEST(PPDFile, AGoodPPDIsOpenedWithItsDefaultsMarked)
 {
     const QTemporaryDir folder;
     const QString path = folder.filePath(u"the.ppd"_s);
-    writeFile(path, kSmallPPD);
+    writeFile(path, smallPrinter().text());
     const OpenedPPD opened = openPPD(path);
     ASSERT_NE(opened.ppd, nullptr) << opened.error.toStdString();
     EXPECT_TRUE(opened.error.isNull());
@@ -120,6 +121,6 @@ TEST(PPDFile, AMissingLineBreakAtTheEndIsNoCut)
 {
     const QTemporaryDir folder;
     const QString path = folder.filePath(u"the.ppd"_s);
-    writeFile(path, QByteArray(kSmallPPD).trimmed());
+    writeFile(path, smallPrinter().text().trimmed());
     EXPECT_NE(openPPD(path).ppd, nullptr);
 }

@@ -12,7 +12,9 @@
 #include "platform/toolkit/KeyWindow.h"
 #include "platform/toolkit/PopUpButton.h"
 #include "platform/toolkit/SizeWatch.h"
+#include "tests/built/BuiltFiles.h"
 #include "tests/dialog/replay/JsonSubset.h"
+#include "tests/support/AlertAnswers.h"
 
 #include <QtCore/QJsonDocument>
 #include <QtCore/QTemporaryDir>
@@ -27,34 +29,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// Answers alerts as a person would: blocking ones with a button, sheets when the test says so.
-class Person : public AlertObserver
-{
-public:
-    Person() { setAlertObserver(this); }
-    ~Person() override { setAlertObserver(nullptr); }
-
-    void alertShown(const ShownAlert &alert) override
-    {
-        if (alert.kind == ShownAlert::Kind::Sheet)
-            m_sheet = alert;
-        else
-            alert.press(m_button);
-    }
-
-    void willPress(int button) { m_button = button; }
-
-    void answerSheet(bool suppressed)
-    {
-        m_sheet.setSuppressed(suppressed);
-        m_sheet.press(0);
-    }
-
-private:
-    int m_button = 0;
-    ShownAlert m_sheet;
-};
-
 class RecorderTest : public testing::Test
 {
 protected:
@@ -63,7 +37,7 @@ protected:
         UserDefaults::standardUserDefaults().setFolder(QString());
         m_window.resize(640, 700);
         setKeyWindow(&m_window);
-        m_options.ppdPath = QStringLiteral(SAMPLE_PPD_FOLDER "/velkaro-px-t900.ppd");
+        m_options.ppdPath = samplePPD(u"velkaro-px-t900"_s);
         m_options.languages = QStringList{u"ja"_s};
         m_options.marks = {{u"PageSize"_s, u"A3"_s}};
         m_options.ticket = {{u"number"_s, 7}};
@@ -152,7 +126,7 @@ protected:
         return last;
     }
 
-    Person m_person;
+    AlertAnswers m_answers;
     QWidget m_window;
     QTemporaryDir m_folder;
     SessionOptions m_options;
@@ -172,8 +146,9 @@ TEST_F(RecorderTest, ABusySessionLeadsToTheSameStateWhenItIsReplayed)
     HostSession &session = record();
     session.show(panel(u"print"_s));
     pickChoice(*panel(u"print"_s).inspection, u"mediaTypePopup"_s, u"Glossy"_s);
+    m_answers.expect(AlertAnswers::button(0, true));
     pickChoice(*panel(u"print"_s).inspection, u"resolutionPopup"_s, u"Best"_s);
-    m_person.answerSheet(true);
+    m_answers.take();
     pickChecked(*panel(u"print"_s).inspection, u"mirrorButton"_s, true);
     foldSection(*panel(u"print"_s).inspection, true);
     session.hide(panel(u"print"_s));
@@ -191,7 +166,7 @@ TEST_F(RecorderTest, ABusySessionLeadsToTheSameStateWhenItIsReplayed)
     session.writeTicket(u"number"_s, QVariant());
     session.restoreAll();
     session.summary(panel(u"color"_s));
-    m_person.willPress(1);
+    m_answers.expect(AlertAnswers::button(1));
     EXPECT_FALSE(session.askShouldPrint().proceed);
     const QJsonObject expected = state();
     finish();
@@ -279,10 +254,11 @@ TEST_F(RecorderTest, ASheetsAnswerBelongsToTheEventThatRaisedIt)
 {
     record().show(panel(u"print"_s));
     pickChoice(*panel(u"print"_s).inspection, u"mediaTypePopup"_s, u"Glossy"_s);
+    m_answers.expect(AlertAnswers::button(0, true));
     pickChoice(*panel(u"print"_s).inspection, u"resolutionPopup"_s, u"Best"_s);
     m_session->windowDidResize();
     QApplication::processEvents();
-    m_person.answerSheet(true);
+    m_answers.take();
     finish();
     const QJsonArray answers{QJsonObject{{u"button"_s, 0}, {u"suppress"_s, true}}};
     EXPECT_EQ(lastOf(u"pick"_s)["answers"_L1], answers);
@@ -318,7 +294,7 @@ TEST_F(RecorderTest, ASecondSessionGoesOnInTheSameScript)
 {
     record();
     m_session.reset();
-    m_options.ppdPath = QStringLiteral(SAMPLE_PPD_FOLDER "/velkaro-mx-j710dw.ppd");
+    m_options.ppdPath = samplePPD(u"velkaro-mx-j710dw"_s);
     m_session = HostSession::open(m_options).session;
     QString error;
     ASSERT_TRUE(m_recorder->attach(*m_session, &error));

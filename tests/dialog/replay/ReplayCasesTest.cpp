@@ -1,6 +1,7 @@
 // Whole scripts, each a file in cases/ whose events say what they expect.
 #include "dialog/replay/ReplayScript.h"
 #include "dialog/replay/ReplaySession.h"
+#include "tests/built/BuiltFiles.h"
 #include "tests/dialog/replay/JsonSubset.h"
 
 #include <QtCore/QFile>
@@ -23,7 +24,7 @@ protected:
     /// A folder of its own with the sample PPDs in it.
     ReplayCase() : m_folder(m_scratch.path())
     {
-        const QDir samples(QStringLiteral(SAMPLE_PPD_FOLDER));
+        const QDir samples(samplePPDFolder());
         for (const QString &name : samples.entryList({u"*.ppd"_s}))
             QFile::link(samples.filePath(name), m_folder.filePath(name));
     }

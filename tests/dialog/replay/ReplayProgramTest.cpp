@@ -1,5 +1,6 @@
 // The program as it is installed: output, standard error and exit status of a replay.
-#include "tests/dialog/support/SmallPPD.h"
+#include "tests/support/SmallPrinter.h"
+#include "tests/support/WriteFile.h"
 
 #include <QtCore/QJsonDocument>
 #include <QtCore/QJsonObject>
@@ -47,7 +48,7 @@ Result runProgram(const QStringList &arguments, const QString &folder, const QBy
 class ReplayProgram : public testing::Test
 {
 protected:
-    ReplayProgram() { writeFile(m_folder.filePath(u"small.ppd"_s), kSmallPPD); }
+    ReplayProgram() { writeFile(m_folder.filePath(u"small.ppd"_s), smallPrinter().text()); }
 
     Result replay(const QByteArray &script)
     {
@@ -162,7 +163,7 @@ TEST_F(ReplayProgram, ALineBreakInANameStaysOnOneLine)
 TEST_F(ReplayProgram, APPDThatCannotBeOpenedEndsTheScript)
 {
     writeFile(path(u"rubbish.ppd"_s), QByteArray("\xfe\xff\x80\n\x90\n"));
-    writeFile(path(u"cut.ppd"_s), QByteArray(kSmallPPD).left(1000));
+    writeFile(path(u"cut.ppd"_s), smallPrinter().text().chopped(100));
     const std::pair<const char *, QString> cases[] = {
         {"none.ppd", u"The PPD file %1 does not exist."_s},
         {"rubbish.ppd", u"%1 is not a usable PPD file (line 1: Missing asterisk in column 1)."_s},

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "tests/printserver/PrintServer.h"
+#include "tests/support/PPDSource.h"
+#include "tests/support/WriteFile.h"
 
-#include <QtCore/QFile>
 #include <QtCore/QTemporaryDir>
 
 /// The full sample printer, which moreover does not print both sides of transparencies.
@@ -11,12 +11,9 @@ class ClashingPPD
 public:
     ClashingPPD()
     {
-        QFile sample(samplePPD(QStringLiteral("velkaro-px-t900")));
-        QFile file(path());
-        if (sample.open(QIODevice::ReadOnly) && file.open(QIODevice::WriteOnly))
-            file.write(sample.readAll() +
-                       "*UIConstraints: *Duplex DuplexTumble *VKMediaType Transparencies\n"
-                       "*UIConstraints: *VKMediaType Transparencies *Duplex DuplexTumble\n");
+        writeFile(path(), sampleText(QStringLiteral("velkaro-px-t900")) +
+                              "*UIConstraints: *Duplex DuplexTumble *VKMediaType Transparencies\n"
+                              "*UIConstraints: *VKMediaType Transparencies *Duplex DuplexTumble\n");
     }
 
     QString path() const { return m_folder.filePath(QStringLiteral("clashing.ppd")); }

@@ -1,90 +1,18 @@
-#include "dialog/window/DialogWindow.h"
 #include "platform/foundation/NotificationCenter.h"
-#include "platform/pde/PPDText.h"
 #include "platform/toolkit/KeyWindow.h"
 #include "platform/toolkit/NumberField.h"
-#include "platform/toolkit/PopUpButton.h"
 #include "tests/dialog/window/ClashingPPD.h"
-#include "tests/endtoend/JobPrinting.h"
+#include "tests/dialog/window/DialogWindowFixture.h"
+#include "tests/support/PPDSource.h"
 
-#include <QtCore/QDir>
-#include <QtCore/QFile>
-#include <QtTest/QTest>
-#include <QtWidgets/QAbstractButton>
 #include <QtWidgets/QDoubleSpinBox>
-#include <QtWidgets/QLabel>
 #include <QtWidgets/QLineEdit>
-#include <QtWidgets/QTabWidget>
-
-#include <gtest/gtest.h>
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
-/// The dialog on a PPD file, its job going to a file.
-class Window : public testing::Test
-{
-protected:
-    Window()
-    {
-        m_line.ppd = samplePPD(u"velkaro-px-t900"_s);
-        m_line.plugIn = QStringLiteral(VELKARO_BUNDLE);
-        m_line.output = m_folder.filePath(u"out.job"_s);
-        m_line.files = {m_folder.filePath(u"Holiday & <b>.ps"_s)};
-        QFile file(m_line.files[0]);
-        EXPECT_TRUE(file.open(QIODevice::WriteOnly));
-        file.write("%!PS\n");
-    }
-
-    void open()
-    {
-        m_window = std::make_unique<DialogWindow>(m_line);
-        m_window->start();
-        m_window->show();
-        ASSERT_TRUE(QTest::qWaitForWindowActive(m_window.get()));
-    }
-
-    template <typename Widget> Widget *part(const char *name)
-    {
-        auto *found = m_window->findChild<Widget *>(QLatin1String(name));
-        EXPECT_NE(found, nullptr) << name;
-        return found;
-    }
-
-    void click(const char *name) { QTest::mouseClick(part<QAbstractButton>(name), Qt::LeftButton); }
-
-    void pick(const char *name, const QString &choice)
-    {
-        auto *popup = part<PopUpButton>(name);
-        const int index = popup->indexOfRepresentedObject(choice);
-        ASSERT_GE(index, 0) << choice.toStdString();
-        popup->pick(index);
-        QCoreApplication::processEvents();
-    }
-
-    QStringList tabs()
-    {
-        QStringList titles;
-        const auto *bar = part<QTabWidget>("parts");
-        for (int index = 0; index < bar->count(); ++index)
-            titles += bar->tabText(index);
-        return titles;
-    }
-
-    QString marked(const QString &keyword) { return markedChoice(m_window->job().ppd(), keyword); }
-    QString notice() { return m_window->notice().sentence(); }
-
-    QByteArray written()
-    {
-        QFile file(m_line.output);
-        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-    }
-
-    QTemporaryDir m_folder;
-    CommandLine m_line;
-    std::unique_ptr<DialogWindow> m_window;
-};
+using Window = DialogWindowFixture;
 
 TEST_F(Window, ShowsThePanelsBetweenPageSetupAndSummary)
 {
@@ -263,16 +191,7 @@ TEST_F(Window, WithoutAPlugInSaysSoAndPrintsWithItsOwnSettings)
 TEST_F(Window, WithAPrinterOfAnotherKindSaysSo)
 {
     m_line.ppd = m_folder.filePath(u"other.ppd"_s);
-    QFile file(m_line.ppd);
-    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-    file.write("*PPD-Adobe: \"4.3\"\n*FormatVersion: \"4.3\"\n*FileVersion: \"1.0\"\n"
-               "*LanguageVersion: English\n*LanguageEncoding: ISOLatin1\n*PCFileName: \"O.PPD\"\n"
-               "*Product: \"(Other)\"\n*Manufacturer: \"Other\"\n*ModelName: \"Other\"\n"
-               "*ShortNickName: \"Other\"\n*NickName: \"Other 1\"\n*PSVersion: \"(3010) 0\"\n"
-               "*OpenUI *PageSize/Size: PickOne\n*DefaultPageSize: A4\n*PageSize A4/A4: \"\"\n"
-               "*PageSize A5/A5: \"\"\n*CloseUI: *PageSize\n*DefaultPaperDimension: A4\n"
-               "*PaperDimension A4: \"595 842\"\n*PaperDimension A5: \"420 595\"\n");
-    file.close();
+    writeFile(m_line.ppd, PPDSource().papers({{"A4", 595, 842}, {"A5", 420, 595}}).text());
     open();
     EXPECT_EQ(m_window->state(), DialogWindow::State::Ready);
     EXPECT_EQ(tabs(), (QStringList{u"Page Setup"_s, u"Summary"_s}));

@@ -1,7 +1,7 @@
 #include "dialog/job/Papers.h"
 #include "dialog/host/PPDFile.h"
+#include "tests/built/BuiltFiles.h"
 #include "tests/endtoend/JobPrinting.h"
-#include "tests/printserver/PrintServer.h"
 
 #include <gtest/gtest.h>
 

@@ -1,0 +1,78 @@
+#pragma once
+
+#include "dialog/window/DialogWindow.h"
+#include "platform/pde/PPDText.h"
+#include "platform/toolkit/PopUpButton.h"
+#include "tests/built/BuiltFiles.h"
+#include "tests/support/QStringPrinting.h"
+#include "tests/support/WriteFile.h"
+
+#include <QtCore/QTemporaryDir>
+#include <QtTest/QTest>
+#include <QtWidgets/QAbstractButton>
+#include <QtWidgets/QLabel>
+#include <QtWidgets/QTabWidget>
+
+#include <gtest/gtest.h>
+
+/// The dialog on a PPD file, its job going to a file.
+class DialogWindowFixture : public testing::Test
+{
+protected:
+    DialogWindowFixture()
+    {
+        m_line.ppd = samplePPD(QStringLiteral("velkaro-px-t900"));
+        m_line.plugIn = builtBundle();
+        m_line.output = m_folder.filePath(QStringLiteral("out.job"));
+        m_line.files = {m_folder.filePath(QStringLiteral("Holiday & <b>.ps"))};
+        writeFile(m_line.files[0], "%!PS\n");
+    }
+
+    void open()
+    {
+        m_window = std::make_unique<DialogWindow>(m_line);
+        m_window->start();
+        m_window->show();
+        ASSERT_TRUE(QTest::qWaitForWindowActive(m_window.get()));
+    }
+
+    template <typename Widget> Widget *part(const char *name)
+    {
+        auto *found = m_window->findChild<Widget *>(QLatin1String(name));
+        EXPECT_NE(found, nullptr) << name;
+        return found;
+    }
+
+    void click(const char *name) { QTest::mouseClick(part<QAbstractButton>(name), Qt::LeftButton); }
+
+    void pick(const char *name, const QString &choice)
+    {
+        auto *popup = part<PopUpButton>(name);
+        const int index = popup->indexOfRepresentedObject(choice);
+        ASSERT_GE(index, 0) << choice.toStdString();
+        popup->pick(index);
+        QCoreApplication::processEvents();
+    }
+
+    QStringList tabs()
+    {
+        QStringList titles;
+        const auto *bar = part<QTabWidget>("parts");
+        for (int index = 0; index < bar->count(); ++index)
+            titles += bar->tabText(index);
+        return titles;
+    }
+
+    QString marked(const QString &keyword) { return markedChoice(m_window->job().ppd(), keyword); }
+    QString notice() { return m_window->notice().sentence(); }
+
+    QByteArray written()
+    {
+        QFile file(m_line.output);
+        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    }
+
+    QTemporaryDir m_folder;
+    CommandLine m_line;
+    std::unique_ptr<DialogWindow> m_window;
+};

@@ -1,0 +1,118 @@
+#include "dialog/window/DialogWindow.h"
+#include "tests/dialog/window/DialogWindowFixture.h"
+#include "tests/support/PPDSource.h"
+
+#include <QtWidgets/QDoubleSpinBox>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// The dialog on a printer whose PPD leaves some defaults out: nothing is marked there, and nothing
+/// may look as if it were.
+class NoDefault : public DialogWindowFixture
+{
+protected:
+    void open(const QByteArray &ppd)
+    {
+        m_line.ppd = m_folder.filePath(u"no-default.ppd"_s);
+        writeFile(m_line.ppd, ppd);
+        DialogWindowFixture::open();
+        part<QTabWidget>("parts")->setCurrentIndex(0);
+    }
+
+    QString selected(const char *popup) { return part<PopUpButton>(popup)->selectedObject(); }
+
+    /// The choice of the keyword in the job that is printed; null when the job has none.
+    QString printed(const QString &keyword)
+    {
+        click("printButton");
+        EXPECT_EQ(m_window->exitStatus(), ExitStatus::Done) << notice().toStdString();
+        const QString head = u"Option: "_s + keyword + u'=';
+        for (const QString &line : QString::fromUtf8(written()).split(u'\n'))
+            if (line.startsWith(head))
+                return line.mid(head.size());
+        return {};
+    }
+
+    QStringList summary()
+    {
+        EXPECT_TRUE(m_window->showPart(u"summary"_s));
+        QStringList texts;
+        for (const QLabel *label : part<QWidget>("summaryPane")->findChildren<QLabel *>())
+            texts += label->text();
+        return texts;
+    }
+};
+
+QByteArray printerWithoutDuplexDefault()
+{
+    return PPDSource()
+        .papers({{"A4", 595, 842}, {"A5", 420, 595}})
+        .optionWithoutDefault("Duplex/Two-Sided", {"None/Off", "DuplexNoTumble/Long Edge"})
+        .text();
+}
+
+QByteArray printerWithoutPaperDefault()
+{
+    return sampleWithoutDefaults(u"velkaro-px-t900"_s, {"PageSize"});
+}
+
+TEST_F(NoDefault, OfAnOptionShowsNothingAndSendsNothing)
+{
+    open(printerWithoutDuplexDefault());
+    EXPECT_EQ(part<PopUpButton>("DuplexPopup")->count(), 2);
+    EXPECT_EQ(selected("DuplexPopup"), QString());
+    EXPECT_EQ(summary(), QStringList({u"Page Setup"_s, u"Paper"_s, u"A4"_s, u"Orientation"_s,
+                                      u"Portrait"_s, u"Copies"_s, u"1"_s, u"Pages"_s, u"All"_s}));
+    EXPECT_EQ(printed(u"Duplex"_s), QString());
+}
+
+TEST_F(NoDefault, OfAnOptionSendsEveryPickAlsoOfTheFirstChoice)
+{
+    open(printerWithoutDuplexDefault());
+    pick("DuplexPopup", u"None"_s);
+    EXPECT_EQ(selected("DuplexPopup"), u"None"_s);
+    EXPECT_EQ(marked(u"Duplex"_s), u"None"_s);
+    EXPECT_EQ(printed(u"Duplex"_s), u"None"_s);
+}
+
+TEST_F(NoDefault, OfThePaperShowsNoneAndIsNoCustomSize)
+{
+    open(printerWithoutPaperDefault());
+    EXPECT_EQ(selected("paperPopup"), QString());
+    EXPECT_FALSE(part<QDoubleSpinBox>("customWidth")->isVisible());
+    EXPECT_FALSE(summary().contains(u"Paper"_s));
+    EXPECT_TRUE(part<QAbstractButton>("printButton")->isEnabled());
+    EXPECT_EQ(printed(u"PageSize"_s), QString());
+}
+
+TEST_F(NoDefault, OfThePaperLetsAPaperBePicked)
+{
+    open(printerWithoutPaperDefault());
+    pick("paperPopup", u"A4"_s);
+    EXPECT_EQ(selected("paperPopup"), u"A4"_s);
+    EXPECT_EQ(printed(u"PageSize"_s), u"A4"_s);
+}
+
+TEST_F(NoDefault, OfThePaperStaysNoneWhereTheDocumentIsScaled)
+{
+    open(printerWithoutPaperDefault());
+    pick("scalePopup", u"A3"_s);
+    const QStringList lines = summary();
+    EXPECT_FALSE(lines.contains(u"Paper"_s)) << qPrintable(lines.join(u'|'));
+    EXPECT_TRUE(lines.contains(u"Scaled to fit"_s));
+    EXPECT_EQ(printed(u"PageSize"_s), u"A3"_s);
+}
+
+TEST_F(NoDefault, OfThePaperComesBackWhereAPickIsRefused)
+{
+    open(printerWithoutPaperDefault() + "*UIConstraints: *PageSize A3 *VKMediaType Glossy\n"
+                                        "*UIConstraints: *VKMediaType Glossy *PageSize A3\n");
+    pick("mediaTypePopup", u"Glossy"_s);
+    pick("paperPopup", u"A3"_s);
+    EXPECT_NE(notice(), QString());
+    EXPECT_EQ(selected("paperPopup"), QString());
+}
+
+} // namespace
