@@ -122,44 +122,49 @@ void PageSetupPane::addPaper(QFormLayout *form)
     form->addRow(tr("&Paper:"), m_paper);
     connect(m_paper, &QComboBox::activated, this, &PageSetupPane::choosePaper);
 
+    if (limits)
+        addCustomSize(form, *limits);
     showPaper();
-    if (!limits)
-        return;
+}
+
+void PageSetupPane::addCustomSize(QFormLayout *form, const CustomLimits &limits)
+{
     const PMPaper paper = m_job.paper().value_or(PMPaper());
     m_customSize = new CustomSizeFields(m_page);
-    m_customSize->setLimits(*limits);
+    m_customSize->setLimits(limits);
     m_customSize->setSize(paper.width, paper.height);
     form->addRow(QString(), m_customSize);
-    m_customSize->setVisible(m_paper->selectedObject() == kCustom);
     connect(m_customSize, &CustomSizeFields::edited, this, &PageSetupPane::useCustomSize);
 }
 
+/// Shows the paper that the job has.
 void PageSetupPane::showPaper()
 {
     const std::optional<PMPaper> paper = m_job.paper();
     const bool isCustom = paper && paper->ppdName.isNull();
     showChoice(m_paper, isCustom ? QString(kCustom) : paper.value_or(PMPaper()).ppdName);
+    if (m_customSize)
+        m_customSize->setVisible(isCustom);
 }
 
 void PageSetupPane::choosePaper()
 {
     const QString choice = m_paper->selectedObject();
-    if (m_customSize)
-        m_customSize->setVisible(choice == kCustom);
     if (choice == kCustom) {
         const PMPaper paper = m_job.paper().value_or(PMPaper());
         m_customSize->setSize(paper.width, paper.height);
+        m_customSize->setVisible(true);
         useCustomSize();
         return;
     }
     const QString clash = refusalSentence(m_job.ppd(), kPageSize, choice);
-    if (clash.isNull()) {
+    if (clash.isNull())
         m_job.setPaper(paperOfChoice(m_job.ppd(), choice).value_or(PMPaper()));
-        Q_EMIT changed();
-        return;
-    }
     showPaper();
-    Q_EMIT refused(clash);
+    if (clash.isNull())
+        Q_EMIT changed();
+    else
+        Q_EMIT refused(clash);
 }
 
 void PageSetupPane::useCustomSize()

@@ -6,6 +6,7 @@ class CustomSizeFields;
 class PopUpButton;
 class PrintJob;
 class QFormLayout;
+struct CustomLimits;
 
 /// The page setup: paper, orientation, scaling, two-sided printing, colour matching, and the
 /// options that the plug-in leaves to the dialog. Shows what the job has, and changes the job
@@ -33,6 +34,7 @@ Q_SIGNALS:
 
 private:
     void addPaper(QFormLayout *form);
+    void addCustomSize(QFormLayout *form, const CustomLimits &limits);
     void addOrientation(QFormLayout *form);
     void addScaling(QFormLayout *form);
     void addOption(QFormLayout *form, const QString &keyword);

@@ -95,6 +95,24 @@ TEST_F(Window, ExplainsARefusedChoiceOfItsOwn)
     EXPECT_EQ(notice(), QString());
 }
 
+TEST_F(Window, GoesBackToTheCustomSizeWhereAPaperIsRefused)
+{
+    m_line.ppd = m_folder.filePath(u"clashing.ppd"_s);
+    writeFile(m_line.ppd, sampleText(u"velkaro-px-t900"_s) +
+                              "*UIConstraints: *PageSize A3 *VKMediaType Glossy\n"
+                              "*UIConstraints: *VKMediaType Glossy *PageSize A3\n");
+    open();
+    pick("mediaTypePopup", u"Glossy"_s);
+    part<QTabWidget>("parts")->setCurrentIndex(0);
+    pick("paperPopup", u"Custom"_s);
+    const QString paper = m_window->job().paper()->name;
+    pick("paperPopup", u"A3"_s);
+    EXPECT_NE(notice(), QString());
+    EXPECT_EQ(part<PopUpButton>("paperPopup")->selectedObject(), u"Custom"_s);
+    EXPECT_TRUE(part<QDoubleSpinBox>("customWidth")->isVisible());
+    EXPECT_EQ(m_window->job().paper()->name, paper);
+}
+
 TEST_F(Window, ExplainsARefusedChoiceOfAPanel)
 {
     const ClashingPPD ppd;
