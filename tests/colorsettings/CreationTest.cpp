@@ -25,12 +25,14 @@ TEST_F(CreationTest, WithoutATicketTheValuesAreThePrintersDefaults)
                            .option("VKBrightness", {"5"})
                            .option("VKRed", {"-3x"})
                            .option("VKBlue", {"Much"})
+                           .optionWithoutDefault("VKGreen", {"7"})
                            .open());
     dialog.host->setLacking({HostOperation::PrintSettings});
     dialog.create();
     EXPECT_EQ(dialog.pending("VKBrightness"), QVariant(5LL));
     EXPECT_EQ(dialog.pending("VKRed"), QVariant(-3LL));
     EXPECT_EQ(dialog.pending("VKBlue"), QVariant(0LL));
+    EXPECT_EQ(dialog.pending("VKGreen"), QVariant(0LL));
     EXPECT_FALSE(dialog.pending("VKContrast").isValid());
     EXPECT_TRUE(dialog.host->ticket().values().isEmpty());
 }

@@ -47,9 +47,7 @@ INSTANTIATE_TEST_SUITE_P(Cases, Fax, testing::ValuesIn(kFaxCases), CaseName());
 
 TEST_F(JobStateTest, HasNoFaxOutputWhereNothingIsMarked)
 {
-    ppd = PPDSource().option("VKOutput", {"FAX", "PRINTER"}).open();
-    unmark(ppd.get(), "VKOutput");
-    host = std::make_shared<HostCallback>(ppd.get());
+    usePrinter(PPDSource().optionWithoutDefault("VKOutput", {"FAX", "PRINTER"}).open());
     ASSERT_TRUE(panel->initWithCallback(host));
     panel->setFlag(FaxOutput, true);
     panel->checkFax();

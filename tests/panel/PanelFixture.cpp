@@ -145,7 +145,7 @@ void TestPanel::connectView(ViewConnections &connections)
     connections.outlet(u"freePart"_s, freePart);
 }
 
-PanelFixture::PanelFixture() : ppd(testPrinter())
+PanelFixture::PanelFixture()
 {
     UserDefaults::standardUserDefaults().setFolder(QString());
     setPreferredLanguages({u"en"_s});
@@ -154,6 +154,13 @@ PanelFixture::PanelFixture() : ppd(testPrinter())
     writeBundleFile(u"Resources/TestView.ui"_s, viewOfThePanel());
     bundle = Bundle::open(folder.filePath(u"PlugIns/Test.bundle"_s));
     Bundle::setMainBundle(bundle);
+    usePrinter(testPrinter());
+    panel = std::make_unique<TestPanel>();
+}
+
+void PanelFixture::usePrinter(PPDHandle printer)
+{
+    ppd = std::move(printer);
     host = std::make_shared<HostCallback>(ppd.get());
     host->setCallObserver([this](const HostCallback::Call &call) {
         if (call.kind == HostCallback::Call::Kind::PanelViewDidResize)
@@ -161,7 +168,6 @@ PanelFixture::PanelFixture() : ppd(testPrinter())
         else
             calls << (call.accepted ? QString() : u"!"_s) + call.keyword + u'=' + call.choice;
     });
-    panel = std::make_unique<TestPanel>();
 }
 
 PanelFixture::~PanelFixture()

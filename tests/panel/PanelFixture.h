@@ -73,6 +73,9 @@ protected:
     PanelFixture();
     ~PanelFixture() override;
 
+    /// Goes on with this PPD instead; before the panel is created.
+    void usePrinter(PPDHandle printer);
+
     /// A panel with all keywords of the test printer, created and restored as a dialog does it.
     TestPanel &createPanel();
     /// The same, with its view and its controls built, and the notes of all that thrown away.

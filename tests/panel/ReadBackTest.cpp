@@ -158,14 +158,33 @@ TEST_F(ReadBackTest, RestoresTheMarkedChoices)
 
 TEST_F(ReadBackTest, TakesTheDefaultWhereNothingIsMarked)
 {
-    ppd = PPDSource().option("VKResolution", {"Normal", "Best"}).open();
+    usePrinter(PPDSource().option("VKResolution", {"Normal", "Best"}).open());
     unmark(ppd.get(), "VKResolution");
-    host = std::make_shared<HostCallback>(ppd.get());
-    ASSERT_TRUE(panel->initWithCallback(host));
-    panel->setPPDKeys(QStringList{u"VKResolution"_s});
-    panel->restoreValuesAndReturnError(nullptr);
+    createPanel();
     EXPECT_TRUE(marked(u"VKResolution"_s).isNull());
-    EXPECT_EQ(pending(u"VKResolution"_s), u"Normal"_s);
+    EXPECT_EQ(panel->outputBin(), (QVariantMap{{u"VKResolution"_s, u"Normal"_s}}));
+}
+
+TEST_F(ReadBackTest, TakesAnEmptyValueWithoutADefaultUntilTheControlsAreReadBack)
+{
+    usePrinter(PPDSource()
+                   .optionWithoutDefault("VKResolution", {"Normal", "Best"})
+                   .optionWithoutDefault("VKColorMatching", {"Natural", "Vivid"})
+                   .optionWithoutDefault("VKBiDir", {"ON", "OFF"})
+                   .open());
+    createPanel();
+    EXPECT_EQ(panel->outputBin(), (QVariantMap{{u"VKResolution"_s, u""_s},
+                                               {u"VKColorMatching"_s, u""_s},
+                                               {u"VKBiDir"_s, u""_s}}));
+    ASSERT_NE(panel->panelView(), nullptr);
+    EXPECT_EQ(takeCalls(), QStringList());
+    panel->willShow();
+    panel->saveAllValues();
+    EXPECT_EQ(takeCalls(), QStringList({u"VKResolution=Normal"_s, u"VKBiDir=OFF"_s}));
+    EXPECT_EQ(panel->matrix->selectedRow(), -1);
+    EXPECT_EQ(panel->outputBin(), (QVariantMap{{u"VKResolution"_s, u"Normal"_s},
+                                               {u"VKColorMatching"_s, u""_s},
+                                               {u"VKBiDir"_s, u"OFF"_s}}));
 }
 
 TEST_F(ReadBackTest, KeepsEntriesOfKeywordsThatThePPDLacks)

@@ -63,15 +63,16 @@ INSTANTIATE_TEST_SUITE_P(Cases, SummaryText, testing::ValuesIn(kTextCases), Case
 
 TEST_F(SummaryTest, LeavesOutAValueThatNoChoiceHas)
 {
-    ppd = PPDSource()
-              .optionWithDefault("VKResolution/Quality", {"Normal"}, "Photo")
-              .option("VKBiDir/Both Ways", {"OFF/Off", "ON/On"})
-              .open();
-    host = std::make_shared<HostCallback>(ppd.get());
-    ASSERT_TRUE(panel->initWithCallback(host));
-    panel->setPPDKeys(QStringList{u"VKResolution"_s, u"VKBiDir"_s});
+    usePrinter(PPDSource()
+                   .optionWithDefault("VKResolution/Quality", {"Normal"}, "Photo")
+                   .optionWithoutDefault("VKMediaType", {"Plain"})
+                   .option("VKBiDir/Both Ways", {"OFF/Off", "ON/On"})
+                   .open());
+    createPanel();
     const QVariantMap summary = panel->summaryInfo();
-    EXPECT_EQ(panel->outputBin().value(u"VKResolution"_s), u"Photo"_s);
+    EXPECT_EQ(panel->outputBin(), (QVariantMap{{u"VKMediaType"_s, u""_s},
+                                               {u"VKResolution"_s, u"Photo"_s},
+                                               {u"VKBiDir"_s, u"OFF"_s}}));
     EXPECT_EQ(summary, (QVariantMap{{u"Both Ways"_s, u"OFF"_s},
                                     {u"Summary Display Order"_s, QStringList{u"Both Ways"_s}}}));
 }

@@ -100,6 +100,15 @@ TEST_F(PPDLookUpTest, TellsTheMarkedChoice)
     EXPECT_TRUE(markedChoice(ppd.get(), u"VKMediaType"_s).isNull());
 }
 
+TEST(PPDWithoutDefaultTest, HasNoMarkedChoice)
+{
+    const PPDHandle ppd = PPDSource().optionWithoutDefault("VKMediaType", {"Plain"}).open();
+    const ppd_option_t *option = findOption(ppd.get(), u"VKMediaType"_s);
+    ASSERT_NE(option, nullptr);
+    EXPECT_STREQ(option->defchoice, "");
+    EXPECT_TRUE(markedChoice(ppd.get(), u"VKMediaType"_s).isNull());
+}
+
 TEST(PPDCutTest, ReadsATextThatLibcupsCutInTheMiddleOfACharacter)
 {
     // 27 characters of three bytes: libcups keeps 80 bytes, and with them two thirds of the last.

@@ -18,6 +18,17 @@ TEST_F(TwoSided, IsOnWhereAnotherChoiceThanTheDefaultIsMarked)
     }
 }
 
+// Nothing tells the panel which choice is the one-sided one.
+TEST_F(TwoSided, IsOnWhateverIsMarkedWhereThePPDTellsNoDefault)
+{
+    usePrinter(openText(sampleWithoutDefaults(u"velkaro-px-t900"_s, {"Duplex"})));
+    open();
+    panel->checkDuplex();
+    EXPECT_TRUE(panel->hasFlag(DuplexOn));
+    session->mark(u"Duplex"_s, u"None"_s);
+    EXPECT_TRUE(panel->hasFlag(DuplexOn));
+}
+
 TEST_F(TwoSided, IsNeverOnForAPrinterWithoutTheTwoSidedMedium)
 {
     useSample(u"velkaro-px-330c"_s);
