@@ -2,6 +2,7 @@
 
 #include "platform/toolkit/ImageView.h"
 #include "tests/built/BuiltFiles.h"
+#include "tests/support/Files.h"
 
 #include <QtCore/QDirIterator>
 
@@ -49,13 +50,10 @@ void ColorPictures::write(const QString &name, QRgb color, const QSize &size) co
 
 void ColorPictures::editView(const QByteArray &text, const QByteArray &replacement) const
 {
-    QFile file(m_folder.filePath(u"Resources/VKInkColorSetting.ui"_s));
-    EXPECT_TRUE(file.open(QIODevice::ReadOnly));
-    QByteArray view = file.readAll();
+    const QString path = m_folder.filePath(u"Resources/VKInkColorSetting.ui"_s);
+    QByteArray view = readFile(path);
     EXPECT_TRUE(view.contains(text));
-    file.close();
-    EXPECT_TRUE(file.open(QIODevice::WriteOnly));
-    file.write(view.replace(text, replacement));
+    writeFile(path, view.replace(text, replacement));
 }
 
 QRgb shownColor(const ImageView &view)

@@ -1,6 +1,7 @@
 #include "platform/imaging/CIImage.h"
 #include "platform/toolkit/RadioMatrix.h"
 #include "tests/colorsettings/PictureFixture.h"
+#include "tests/support/Files.h"
 
 #include <QtCore/QFile>
 
@@ -49,10 +50,7 @@ TEST_F(PreviewTest, AMatchingWithoutPictureKeepsTheFormerOne)
 TEST_F(PreviewTest, AnUnreadablePictureShowsAnEmptyImageUntilTheNextReadableOne)
 {
     show(false);
-    QFile file(pictures.path(u"Natural"_s));
-    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-    file.write("no picture");
-    file.close();
+    writeFile(pictures.path(u"Natural"_s), "no picture");
     dialog.postNatural(true);
     EXPECT_TRUE(view().image().isNull());
     EXPECT_EQ(dialog.panel->refImage(), nullptr);

@@ -1,6 +1,7 @@
 #include "platform/toolkit/NumberField.h"
 #include "platform/toolkit/ViewLoader.h"
 #include "tests/colorsettings/ColorPanelFixture.h"
+#include "tests/support/TabWalk.h"
 
 #include <QtTest/QTest>
 #include <QtWidgets/QApplication>
@@ -54,11 +55,5 @@ TEST(ColorSettingsView, IsWalkedThroughInReadingOrder)
                             u"contrastField"_s,    u"redSlider"_s,       u"redField"_s,
                             u"greenSlider"_s,      u"greenField"_s,      u"blueSlider"_s,
                             u"blueField"_s,        u"revertButton"_s};
-    panelView->findChild<QWidget *>(order[0])->setFocus();
-    QStringList visited;
-    for (qsizetype step = 0; step < order.size(); ++step) {
-        visited << QApplication::focusWidget()->objectName();
-        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
-    }
-    EXPECT_EQ(visited, order);
+    EXPECT_EQ(visitedByTab(*panelView->findChild<QWidget *>(order[0]), order.size()), order);
 }

@@ -3,8 +3,8 @@
 #include "platform/foundation/PreferredLanguages.h"
 #include "tests/built/BuiltFiles.h"
 #include "tests/support/CaseName.h"
+#include "tests/support/Files.h"
 #include "tests/support/QStringPrinting.h"
-#include "tests/support/WriteFile.h"
 
 #include <gtest/gtest.h>
 

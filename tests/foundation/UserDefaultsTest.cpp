@@ -1,6 +1,7 @@
 #include "platform/foundation/UserDefaults.h"
 
 #include "tests/support/CaseName.h"
+#include "tests/support/Files.h"
 #include "tests/support/QStringPrinting.h"
 
 #include <gtest/gtest.h>
@@ -26,11 +27,7 @@ protected:
         return defaults.persistentDomainForName(domain);
     }
 
-    QByteArray fileText() const
-    {
-        QFile file(folder.filePath(kDomain + ".ini"_L1));
-        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-    }
+    QString path() const { return folder.filePath(kDomain + ".ini"_L1); }
 
     QTemporaryDir folder;
     UserDefaults &defaults = UserDefaults::standardUserDefaults();
@@ -46,7 +43,7 @@ TEST_F(UserDefaultsTest, IsOnTheDiskWhenSynchronizeReturns)
 {
     defaults.setPersistentDomain({{u"Best Alert"_s, false}}, kDomain);
     EXPECT_TRUE(defaults.synchronize());
-    EXPECT_EQ(fileText(), "[General]\nBest%20Alert=false\n");
+    EXPECT_EQ(readFile(path()), "[General]\nBest%20Alert=false\n");
 }
 
 struct ValueCase
@@ -107,9 +104,8 @@ TEST_F(UserDefaultsTest, MakesTheFolder)
 TEST_F(UserDefaultsTest, SaysOnceThatItCannotWrite)
 {
     // A file where the folder should be: not even an administrator can write below it.
-    QFile file(folder.filePath(u"file"_s));
-    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-    defaults.setFolder(file.fileName() + u"/below"_s);
+    writeFile(folder.filePath(u"file"_s), {});
+    defaults.setFolder(folder.filePath(u"file/below"_s));
     defaults.setPersistentDomain({{u"Best Alert"_s, false}}, kDomain);
     EXPECT_FALSE(defaults.synchronize());
     EXPECT_TRUE(defaults.synchronize());
@@ -117,9 +113,8 @@ TEST_F(UserDefaultsTest, SaysOnceThatItCannotWrite)
 
 TEST_F(UserDefaultsTest, RemembersAFailureUntilItIsAskedFor)
 {
-    QFile file(folder.filePath(u"file"_s));
-    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-    defaults.setFolder(file.fileName() + u"/below"_s);
+    writeFile(folder.filePath(u"file"_s), {});
+    defaults.setFolder(folder.filePath(u"file/below"_s));
     defaults.setPersistentDomain({{u"Best Alert"_s, false}}, kDomain);
     defaults.setFolder(folder.path());
     defaults.setPersistentDomain({{u"Best Alert"_s, false}}, kDomain);
@@ -128,14 +123,11 @@ TEST_F(UserDefaultsTest, RemembersAFailureUntilItIsAskedFor)
 
 TEST_F(UserDefaultsTest, TakesADamagedFileForAnEmptyDomainAndReplacesIt)
 {
-    QFile file(folder.filePath(kDomain + ".ini"_L1));
-    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-    file.write("\x00\xff garbage without any sense\n[", 31);
-    file.close();
+    writeFile(path(), QByteArray("\x00\xff garbage without any sense\n[", 31));
     EXPECT_FALSE(read().value(u"Best Alert"_s).isValid());
     defaults.setPersistentDomain({{u"Best Alert"_s, false}}, kDomain);
     EXPECT_TRUE(defaults.synchronize());
-    EXPECT_EQ(fileText(), "[General]\nBest%20Alert=false\n");
+    EXPECT_EQ(readFile(path()), "[General]\nBest%20Alert=false\n");
 }
 
 TEST_F(UserDefaultsTest, KeepsEverythingInMemoryWithoutAFolder)

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "tests/support/Files.h"
+
 #include <QFile>
 #include <QImage>
 #include <QImageWriter>
@@ -13,12 +15,7 @@ class TestFile
 public:
     explicit TestFile(const QByteArray &contents) { replace(contents); }
 
-    void replace(const QByteArray &contents)
-    {
-        QFile file(path());
-        EXPECT_TRUE(file.open(QIODevice::WriteOnly));
-        EXPECT_EQ(file.write(contents), contents.size());
-    }
+    void replace(const QByteArray &contents) { writeFile(path(), contents); }
 
     TestFile(const QImage &picture, const QByteArray &format, int compression = 0)
     {
@@ -29,12 +26,7 @@ public:
 
     QString path() const { return m_folder.filePath(QStringLiteral("picture")); }
 
-    QByteArray contents() const
-    {
-        QFile file(path());
-        EXPECT_TRUE(file.open(QIODevice::ReadOnly));
-        return file.readAll();
-    }
+    QByteArray contents() const { return readFile(path()); }
 
 private:
     QTemporaryDir m_folder;

@@ -8,8 +8,8 @@
 #include "platform/toolkit/KeyWindow.h"
 #include "platform/toolkit/PopUpButton.h"
 #include "platform/toolkit/RadioMatrix.h"
+#include "tests/support/Files.h"
 #include "tests/support/ViewText.h"
-#include "tests/support/WriteFile.h"
 
 using namespace Qt::StringLiterals;
 

@@ -4,6 +4,7 @@
 #include "platform/toolkit/KeyWindow.h"
 #include "tests/built/BuiltFiles.h"
 #include "tests/printsettings/PrintPanel.h"
+#include "tests/support/Files.h"
 #include "tests/support/PPDSource.h"
 
 #include <QtCore/QDir>
@@ -151,13 +152,10 @@ TEST_F(AdvancedOptions, BeforeTheViewIsLoadedAreNone)
 std::shared_ptr<Bundle> bundleWithChangedView(const QTemporaryDir &folder, const QString &name,
                                               const QString &replacement)
 {
-    QDir(folder.path()).mkpath(u"Resources"_s);
     QFile::copy(builtBundle() + u"/Info.json"_s, folder.filePath(u"Info.json"_s));
     const QString view = u"/Resources/VKInkPrintSetting14.ui"_s;
-    QFile original(builtBundle() + view);
-    QFile changed(folder.path() + view);
-    EXPECT_TRUE(original.open(QIODevice::ReadOnly) && changed.open(QIODevice::WriteOnly));
-    changed.write(original.readAll().replace(name.toUtf8(), replacement.toUtf8()));
+    writeFile(folder.path() + view,
+              readFile(builtBundle() + view).replace(name.toUtf8(), replacement.toUtf8()));
     return Bundle::open(folder.path());
 }
 

@@ -1,5 +1,7 @@
 #include "tests/printsettings/PrintPanel.h"
 
+#include "tests/support/Files.h"
+
 #include <QtCore/QFile>
 
 using namespace Qt::StringLiterals;
@@ -121,17 +123,14 @@ private:
 
 QStringList readTable()
 {
-    QFile file(QStringLiteral(VELKARO_TEST_SOURCE "/PageSetupTable.txt"));
-    EXPECT_TRUE(file.open(QIODevice::ReadOnly)) << qPrintable(file.fileName());
-    return QString::fromUtf8(file.readAll()).split(u'\n', Qt::SkipEmptyParts);
+    const QByteArray text = readFile(QStringLiteral(VELKARO_TEST_SOURCE "/PageSetupTable.txt"));
+    return QString::fromUtf8(text).split(u'\n', Qt::SkipEmptyParts);
 }
 
 // For looking at, and for taking over where a change was meant.
 void writeTable(const QStringList &lines)
 {
-    QFile file(u"PageSetupTable.actual.txt"_s);
-    EXPECT_TRUE(file.open(QIODevice::WriteOnly));
-    file.write((lines.join(u'\n') + u'\n').toUtf8());
+    writeFile(u"PageSetupTable.actual.txt"_s, (lines.join(u'\n') + u'\n').toUtf8());
 }
 
 TEST_F(PageSetupTable, HoldsForEveryChangeOfPaper)

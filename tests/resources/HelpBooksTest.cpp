@@ -1,4 +1,5 @@
 #include "tests/resources/Places.h"
+#include "tests/support/Files.h"
 
 #include <QtGui/QTextBlock>
 #include <QtGui/QTextDocument>
@@ -27,7 +28,7 @@ protected:
     {
         const QString path = u"%1.help/%2/index.html"_s.arg(QLatin1String(GetParam().book),
                                                             QLatin1String(GetParam().language));
-        document.setHtml(QString::fromUtf8(places::contents(places::helpFile(path))));
+        document.setHtml(QString::fromUtf8(readFile(places::helpFile(path))));
         for (QTextBlock block = document.begin(); block.isValid(); block = block.next())
             for (auto piece = block.begin(); !piece.atEnd(); ++piece)
                 read(piece.fragment());

@@ -1,6 +1,7 @@
 #include "tests/resources/Places.h"
 
-#include <QtCore/QFile>
+#include "tests/support/Files.h"
+
 #include <QtCore/QJsonDocument>
 
 #include <gtest/gtest.h>
@@ -29,16 +30,9 @@ QString sharedFile(const QString &name)
     return QStringLiteral(VELKARO_SHARE_FOLDER) + u'/' + name;
 }
 
-QByteArray contents(const QString &path)
-{
-    QFile file(path);
-    EXPECT_TRUE(file.open(QIODevice::ReadOnly)) << qPrintable(path);
-    return file.readAll();
-}
-
 QJsonObject jsonObject(const QString &path)
 {
-    const QJsonDocument document = QJsonDocument::fromJson(contents(path));
+    const QJsonDocument document = QJsonDocument::fromJson(readFile(path));
     EXPECT_TRUE(document.isObject()) << qPrintable(path);
     return document.object();
 }

@@ -1,10 +1,9 @@
 #pragma once
 
-#include <QtCore/QByteArray>
 #include <QtCore/QJsonObject>
 #include <QtCore/QString>
 
-// Where the build puts the resources, and their contents.
+// Where the build puts the resources.
 namespace places {
 
 // A file of the bundle, its help books and the sample folder, as a path.
@@ -13,9 +12,7 @@ QString bundleResource(const QString &name);
 QString helpFile(const QString &name);
 QString sharedFile(const QString &name);
 
-// What a file holds. Fails the test, and gives nothing, when it cannot be read or is no JSON
-// object.
-QByteArray contents(const QString &path);
+// Fails the test, and gives nothing, when the file cannot be read or is no JSON object.
 QJsonObject jsonObject(const QString &path);
 
 } // namespace places

@@ -1,4 +1,5 @@
 #include "tests/resources/Places.h"
+#include "tests/support/Files.h"
 
 #include <gtest/gtest.h>
 
@@ -8,7 +9,7 @@ namespace {
 
 TEST(SampleDocument, IsASmallPdfOfTwoA4Pages)
 {
-    const QByteArray document = places::contents(places::sharedFile(u"sample/welcome.pdf"_s));
+    const QByteArray document = readFile(places::sharedFile(u"sample/welcome.pdf"_s));
     EXPECT_TRUE(document.startsWith("%PDF-1."));
     EXPECT_TRUE(document.trimmed().endsWith("%%EOF"));
     EXPECT_LT(document.size(), 200'000);

@@ -1,4 +1,5 @@
 #include "tests/resources/Places.h"
+#include "tests/support/Files.h"
 
 #include <QtCore/QFile>
 #include <QtCore/QProcess>
@@ -184,7 +185,7 @@ TEST(FullModel, NamesTheOptionForDedicatedMediaAsTheSummaryKnowsIt)
 // Read as text: libcups keeps only the language that its process runs in.
 TEST(FullModel, HasJapaneseTexts)
 {
-    const QString lines = QString::fromUtf8(places::contents(path(u"velkaro-px-t900"_s)));
+    const QString lines = QString::fromUtf8(readFile(path(u"velkaro-px-t900"_s)));
     EXPECT_TRUE(lines.contains(u"*cupsLanguages: \"en ja\"\n"_s));
     EXPECT_TRUE(lines.contains(u"*ja.Translation VKMediaType/用紙種類: \"\"\n"_s));
     EXPECT_TRUE(lines.contains(u"*ja.VKMediaType Plain/普通紙: \"\"\n"_s));

@@ -1,7 +1,7 @@
 #include "tests/support/PPDSource.h"
 
 #include "tests/built/BuiltFiles.h"
-#include "tests/support/WriteFile.h"
+#include "tests/support/Files.h"
 
 #include <QtCore/QTemporaryDir>
 
@@ -142,9 +142,7 @@ PPDHandle openSample(const QString &name)
 
 QByteArray sampleText(const QString &name)
 {
-    QFile file(samplePPD(name));
-    EXPECT_TRUE(file.open(QIODevice::ReadOnly)) << qPrintable(file.fileName());
-    return file.readAll();
+    return readFile(samplePPD(name));
 }
 
 QByteArray sampleWithoutDefaults(const QString &name, const QByteArrayList &keywords)

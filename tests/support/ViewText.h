@@ -1,6 +1,6 @@
 #pragma once
 
-#include "tests/support/WriteFile.h"
+#include "tests/support/Files.h"
 
 #include <QtCore/QString>
 #include <QtCore/QTemporaryDir>

@@ -2,6 +2,7 @@
 
 #include "platform/foundation/PreferredLanguages.h"
 #include "tests/support/CaseName.h"
+#include "tests/support/Files.h"
 #include "tests/support/QStringPrinting.h"
 
 #include <gtest/gtest.h>
@@ -38,9 +39,7 @@ protected:
 
     void write(const QString &name, const QByteArray &text)
     {
-        QFile file(folder.filePath(name));
-        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-        file.write(text);
+        writeFile(folder.filePath(name), text);
     }
 
     QTextBrowser *browser() const { return qobject_cast<QTextBrowser *>(manager.window()); }

@@ -3,6 +3,7 @@
 #include "platform/toolkit/ViewLoader.h"
 #include "tests/built/BuiltFiles.h"
 #include "tests/support/QStringPrinting.h"
+#include "tests/support/TabWalk.h"
 
 #include <gtest/gtest.h>
 
@@ -230,13 +231,7 @@ TEST_F(PrintSettingViewTest, ReachesEveryControlWithTheTabKey)
         u"advancedTableView"_s,      u"biDirButton"_s,           u"slowDryButton"_s,
         u"vertLineAlignA3Button"_s,  u"vertLineAlignA4Button"_s, u"vertLineAlignOtherButton"_s,
         u"vertLineAlignQM43Button"_s};
-    panelView->findChild<QWidget *>(order[0])->setFocus();
-    QStringList visited;
-    for (qsizetype step = 0; step < order.size(); ++step) {
-        visited << QApplication::focusWidget()->objectName();
-        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
-    }
-    EXPECT_EQ(visited, order);
+    EXPECT_EQ(visitedByTab(*panelView->findChild<QWidget *>(order[0]), order.size()), order);
 }
 
 } // namespace

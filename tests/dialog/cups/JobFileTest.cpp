@@ -1,5 +1,6 @@
 #include "dialog/cups/JobFile.h"
 #include "tests/endtoend/JobPrinting.h"
+#include "tests/support/Files.h"
 
 #include <QtCore/QDir>
 #include <QtCore/QFile>
@@ -42,17 +43,8 @@ class JobFileAt : public testing::Test
 protected:
     QString write(const QString &name, const QByteArray &bytes)
     {
-        QFile file(m_folder.filePath(name));
-        EXPECT_TRUE(file.open(QIODevice::WriteOnly));
-        file.write(bytes);
-        return file.fileName();
-    }
-
-    static QByteArray contents(const QString &path)
-    {
-        QFile file(path);
-        EXPECT_TRUE(file.open(QIODevice::ReadOnly)) << path.toStdString();
-        return file.readAll();
+        writeFile(m_folder.filePath(name), bytes);
+        return m_folder.filePath(name);
     }
 
     JobRequest job()
@@ -73,7 +65,7 @@ protected:
 TEST_F(JobFileAt, HoldsSettingsAndDocumentsForPeopleToRead)
 {
     ASSERT_EQ(writeJobFile(m_path, job()).error, QString());
-    EXPECT_EQ(contents(m_path), QByteArray("Velkaro-Print-Job: 1\n"
+    EXPECT_EQ(readFile(m_path), QByteArray("Velkaro-Print-Job: 1\n"
                                            "Title: Holiday\n"
                                            "Queue: photo\n"
                                            "Option: PageSize=A4.Fullbleed\n"
@@ -96,8 +88,8 @@ TEST_F(JobFileAt, GivesTheJobBack)
     EXPECT_EQ(read.job.options, written.options);
     ASSERT_EQ(read.job.documents.size(), 2);
     EXPECT_TRUE(read.job.documents[0].endsWith(u"/one.pdf"_s));
-    EXPECT_EQ(contents(read.job.documents[0]), contents(written.documents[0]));
-    EXPECT_EQ(contents(read.job.documents[1]), "second");
+    EXPECT_EQ(readFile(read.job.documents[0]), readFile(written.documents[0]));
+    EXPECT_EQ(readFile(read.job.documents[1]), "second");
 }
 
 TEST_F(JobFileAt, LeavesWhatStoodThereWhenADocumentIsMissing)
@@ -109,7 +101,7 @@ TEST_F(JobFileAt, LeavesWhatStoodThereWhenADocumentIsMissing)
     EXPECT_EQ(written.fault, JobFileFault::Document);
     EXPECT_EQ(written.error,
               u"The document %1 does not exist."_s.arg(broken.documents.constLast()));
-    EXPECT_EQ(contents(m_path), "precious");
+    EXPECT_EQ(readFile(m_path), "precious");
 }
 
 TEST_F(JobFileAt, AFolderThatIsNotThereIsSaid)
@@ -130,7 +122,7 @@ TEST_F(JobFileAt, ADiskWithoutRoomKeepsWhatStoodThere)
     const WrittenJobFile written = writeJobFile(m_path, large);
     EXPECT_EQ(written.fault, JobFileFault::Output);
     EXPECT_EQ(written.error, u"The file %1 cannot be written: File too large."_s.arg(m_path));
-    EXPECT_EQ(contents(m_path), "precious");
+    EXPECT_EQ(readFile(m_path), "precious");
 }
 
 TEST_F(JobFileAt, ADeviceWithoutRoomIsSaidAndStaysADevice)
@@ -181,7 +173,7 @@ TEST_F(JobFileAt, KeepsDocumentsInTheirFolderWhateverTheyAreCalled)
     ASSERT_EQ(read.error, QString());
     for (const QString &document : read.job.documents)
         EXPECT_TRUE(QDir::cleanPath(document).startsWith(read.folder->path() + u'/'));
-    EXPECT_EQ(contents(read.job.documents[1]), "b");
+    EXPECT_EQ(readFile(read.job.documents[1]), "b");
 }
 
 TEST_F(JobFileAt, AnyOtherFileIsNoJob)

@@ -4,6 +4,7 @@
 #include "platform/pde/PPDText.h"
 #include "tests/built/BuiltFiles.h"
 #include "tests/endtoend/JobPrinting.h"
+#include "tests/support/Files.h"
 
 #include <QtCore/QDir>
 #include <QtCore/QFile>
@@ -33,10 +34,7 @@ protected:
 private:
     void write(const QString &folder, const char *text)
     {
-        QDir(m_folder.path()).mkpath(folder);
-        QFile file(m_folder.filePath(folder + u"/lpoptions"_s));
-        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-        file.write(text);
+        writeFile(m_folder.filePath(folder + u"/lpoptions"_s), text);
     }
 
     QTemporaryDir m_folder;

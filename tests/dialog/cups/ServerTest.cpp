@@ -9,6 +9,7 @@
 #include "tests/built/BuiltFiles.h"
 #include "tests/endtoend/JobPrinting.h"
 #include "tests/printserver/PrintServer.h"
+#include "tests/support/Files.h"
 
 #include <QtCore/QDir>
 #include <QtCore/QElapsedTimer>
@@ -50,11 +51,10 @@ protected:
 
     QString document(const QByteArray &text)
     {
-        QFile file(m_folder.filePath(u"document%1.ps"_s.arg(++m_documents)));
-        EXPECT_TRUE(file.open(QIODevice::WriteOnly));
-        file.write("%!PS-Adobe-3.0\n%%Pages: 1\n%%EndComments\n%%Page: 1 1\n% " + text +
-                   "\nshowpage\n%%EOF\n");
-        return file.fileName();
+        const QString path = m_folder.filePath(u"document%1.ps"_s.arg(++m_documents));
+        writeFile(path, "%!PS-Adobe-3.0\n%%Pages: 1\n%%EndComments\n%%Page: 1 1\n% " + text +
+                            "\nshowpage\n%%EOF\n");
+        return path;
     }
 
     JobRequest job(const QString &queue)

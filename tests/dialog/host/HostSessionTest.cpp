@@ -2,8 +2,8 @@
 #include "platform/foundation/UserDefaults.h"
 #include "platform/pde/PDEPanelInspection.h"
 #include "platform/pde/PPDText.h"
+#include "tests/support/Files.h"
 #include "tests/support/SmallPrinter.h"
-#include "tests/support/WriteFile.h"
 
 #include <QtCore/QTemporaryDir>
 

@@ -1,7 +1,7 @@
 #include "dialog/host/PPDFile.h"
 #include "platform/pde/PPDText.h"
+#include "tests/support/Files.h"
 #include "tests/support/SmallPrinter.h"
-#include "tests/support/WriteFile.h"
 
 #include <QtCore/QFile>
 #include <QtCore/QTemporaryDir>

@@ -2,7 +2,7 @@
 #include "platform/foundation/Bundle.h"
 #include "platform/pde/PDEPanel.h"
 #include "platform/pde/PDEPlugIn.h"
-#include "tests/support/WriteFile.h"
+#include "tests/support/Files.h"
 
 #include <QtCore/QDir>
 #include <QtCore/QTemporaryDir>

@@ -15,6 +15,7 @@
 #include "tests/built/BuiltFiles.h"
 #include "tests/dialog/replay/JsonSubset.h"
 #include "tests/support/AlertAnswers.h"
+#include "tests/support/Files.h"
 
 #include <QtCore/QJsonDocument>
 #include <QtCore/QTemporaryDir>
@@ -193,11 +194,7 @@ TEST_F(RecorderTest, KeepsThePPDBesideTheScript)
 {
     record();
     finish();
-    QFile copy(m_folder.filePath(u"session.ppd"_s));
-    QFile original(m_options.ppdPath);
-    ASSERT_TRUE(copy.open(QIODevice::ReadOnly));
-    ASSERT_TRUE(original.open(QIODevice::ReadOnly));
-    EXPECT_EQ(copy.readAll(), original.readAll());
+    EXPECT_EQ(readFile(m_folder.filePath(u"session.ppd"_s)), readFile(m_options.ppdPath));
 }
 
 TEST_F(RecorderTest, NotesWhatWasPickedThoughTheHostRefusedIt)

@@ -1,6 +1,6 @@
 // The program as it is installed: output, standard error and exit status of a replay.
+#include "tests/support/Files.h"
 #include "tests/support/SmallPrinter.h"
-#include "tests/support/WriteFile.h"
 
 #include <QtCore/QJsonDocument>
 #include <QtCore/QJsonObject>

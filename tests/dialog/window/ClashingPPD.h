@@ -1,7 +1,7 @@
 #pragma once
 
+#include "tests/support/Files.h"
 #include "tests/support/PPDSource.h"
-#include "tests/support/WriteFile.h"
 
 #include <QtCore/QTemporaryDir>
 

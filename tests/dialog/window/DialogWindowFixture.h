@@ -4,8 +4,8 @@
 #include "platform/pde/PPDText.h"
 #include "platform/toolkit/PopUpButton.h"
 #include "tests/built/BuiltFiles.h"
+#include "tests/support/Files.h"
 #include "tests/support/QStringPrinting.h"
-#include "tests/support/WriteFile.h"
 
 #include <QtCore/QTemporaryDir>
 #include <QtTest/QTest>
@@ -66,11 +66,7 @@ protected:
     QString marked(const QString &keyword) { return markedChoice(m_window->job().ppd(), keyword); }
     QString notice() { return m_window->notice().sentence(); }
 
-    QByteArray written()
-    {
-        QFile file(m_line.output);
-        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-    }
+    QByteArray written() { return readFile(m_line.output); }
 
     QTemporaryDir m_folder;
     CommandLine m_line;

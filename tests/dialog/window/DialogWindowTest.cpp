@@ -252,9 +252,7 @@ TEST_F(Window, CanBeRecordedForReplay)
     pick("mediaTypePopup", u"Glossy"_s);
     m_window->reject();
     m_window.reset();
-    QFile script(m_line.record);
-    ASSERT_TRUE(script.open(QIODevice::ReadOnly));
-    const QByteArray text = script.readAll();
+    const QByteArray text = readFile(m_line.record);
     EXPECT_TRUE(text.contains("\"Glossy\"")) << text.toStdString();
     EXPECT_TRUE(text.contains("\"close\"")) << text.toStdString();
 }

@@ -11,6 +11,14 @@ inline void writeFile(const QString &path, const QByteArray &text)
 {
     ASSERT_TRUE(QDir().mkpath(QFileInfo(path).path()));
     QFile file(path);
-    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly)) << qPrintable(path);
     ASSERT_EQ(file.write(text), text.size());
+}
+
+/// What the file holds. The test fails, and gets nothing, when it cannot be read.
+inline QByteArray readFile(const QString &path)
+{
+    QFile file(path);
+    EXPECT_TRUE(file.open(QIODevice::ReadOnly)) << qPrintable(path);
+    return file.readAll();
 }
