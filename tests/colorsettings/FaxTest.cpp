@@ -70,7 +70,7 @@ TEST_F(FaxTest, ThePictureIsDrawnOffScreenToo)
     EXPECT_TRUE(showsGrey(125));
 }
 
-TEST_F(FaxTest, BeforeTheViewIsLoadedNothingHappens)
+TEST_F(FaxTest, BeforeTheViewIsLoadedItIsOnlyNoted)
 {
     dialog.create();
     sendToFax();

@@ -192,7 +192,7 @@ TEST_F(SlidersTest, AFieldRefusesTextThatIsNoNumberAndKeepsToTheRange)
 TEST_F(SlidersTest, ASummaryDiscardsWhatWasNotSavedYet)
 {
     slider("redSlider").moveByUser(9);
-    dialog.panel->restoreEffectValues();
+    dialog.panel->summaryInfo();
     EXPECT_EQ(dialog.content("VKRed"), QVariant(0LL));
     EXPECT_EQ(slider("redSlider").doubleValue(), 0.0);
 }

@@ -175,9 +175,4 @@ TEST_F(NotificationCenterTest, DeliversANotificationPostedFromAHandlerBeforeItRe
     EXPECT_EQ(heard, (std::vector<std::string>{"inner", "outer"}));
 }
 
-TEST_F(NotificationCenterTest, HasOneCenterForTheProcess)
-{
-    EXPECT_EQ(&NotificationCenter::defaultCenter(), &NotificationCenter::defaultCenter());
-}
-
 } // namespace

@@ -93,7 +93,9 @@ TEST_F(AlertWindowsViewTest, SendsTheActionOfEveryButton)
 
 TEST_F(AlertWindowsViewTest, ShowsItsTextsAsTheyAre)
 {
-    for (const QLabel *label : root->findChildren<QLabel *>())
+    const auto labels = root->findChildren<QLabel *>();
+    EXPECT_FALSE(labels.isEmpty());
+    for (const QLabel *label : labels)
         EXPECT_EQ(label->textFormat(), Qt::PlainText) << qPrintable(label->objectName());
 }
 

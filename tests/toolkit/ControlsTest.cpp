@@ -140,7 +140,7 @@ TEST(CaptionLabelTest, PaintsWithTheTextColourItIsGiven)
     EXPECT_NE(label.grab().toImage(), ordinary);
 }
 
-TEST(KeyWindowTest, IsNoneUntilTheDialogSaysSo)
+TEST(KeyWindowTest, IsNoneAtFirst)
 {
     EXPECT_EQ(keyWindow(), nullptr);
     EXPECT_FALSE(keyWindowHeight().has_value());

@@ -85,6 +85,7 @@ TEST_F(PopUpButtonTest, TellsAMissingObjectFromAnEmptyOne)
 {
     popup.setItems({{u"Nameless"_s, QString(), {}}, {u"Empty"_s, u""_s, {}}});
     EXPECT_EQ(popup.indexOfRepresentedObject(QString()), -1);
+    EXPECT_EQ(popup.indexOfRepresentedObject(u""_s), 1);
 }
 
 TEST_F(PopUpButtonTest, FindsTheFirstItemOfATitle)

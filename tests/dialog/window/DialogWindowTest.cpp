@@ -225,6 +225,9 @@ TEST_F(Window, WithAPPDThatCannotBeUsedSaysSo)
     open();
     EXPECT_EQ(m_window->state(), DialogWindow::State::NoPrinter);
     EXPECT_EQ(m_window->notice().kind(), NoticeBar::Kind::Error);
+    EXPECT_EQ(
+        notice(),
+        u"%1 is not a usable PPD file (line 1: Missing asterisk in column 1)."_s.arg(m_line.ppd));
     EXPECT_FALSE(part<QAbstractButton>("printButton")->isEnabled());
 }
 

@@ -67,7 +67,7 @@ TEST(Papers, OfAPPDHaveItsTextsAndSizes)
     EXPECT_EQ(customLimits(nullptr), std::nullopt);
 }
 
-TEST(Papers, AtTheLimitsPass)
+TEST(Papers, PassUpToTheLimits)
 {
     const CustomLimits limits{182, 936, 298, 1369};
     EXPECT_TRUE(isWithin(limits, 182, 1369));
