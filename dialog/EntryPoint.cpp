@@ -1,6 +1,7 @@
 #include "dialog/commandline/CommandLine.h"
 #include "dialog/commandline/ExitStatus.h"
 #include "dialog/commandline/HelpText.h"
+#include "dialog/commandline/ToolkitMessages.h"
 #include "dialog/replay/ReplayCommand.h"
 #include "dialog/window/DialogCommand.h"
 
@@ -43,6 +44,7 @@ extern "C" Q_DECL_EXPORT int velkaroPrintMain(int argc, char **argv)
         return print(helpText());
     if (line.version)
         return print(versionText());
+    tellToolkitFaultsOnly();
     if (!line.replay.isNull())
         return runReplayCommand(argc, argv, line.replay, line.plugIn);
     return runDialogCommand(argc, argv, line);

@@ -18,14 +18,6 @@ namespace {
 // The threads of calls that were given up may wait for a name server; nobody wants to.
 constexpr std::chrono::milliseconds kPatienceAtTheEnd{300};
 
-// Without a window, standard error is for what is wrong with the job: what the toolkit remarks
-// about the machine (a missing runtime folder, say) would be taken for that.
-void dropRemarks(QtMsgType type, const QMessageLogContext &, const QString &message)
-{
-    if (type == QtCriticalMsg || type == QtFatalMsg)
-        warn(message);
-}
-
 ExitStatus runDialog(const CommandLine &line)
 {
     const QString error = openDocuments(line.files).error;
@@ -54,8 +46,6 @@ int runDialogCommand(int &argc, char **argv, const CommandLine &line)
     const bool showsWindow = !line.noDialog && line.screenshot.isNull();
     if (!showsWindow && !qEnvironmentVariableIsSet("QT_QPA_PLATFORM"))
         qputenv("QT_QPA_PLATFORM", "offscreen");
-    if (!showsWindow)
-        qInstallMessageHandler(dropRemarks);
     QApplication application(argc, argv);
     QApplication::setApplicationName(QStringLiteral("velkaro-print"));
     installTranslations();
