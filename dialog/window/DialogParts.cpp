@@ -9,6 +9,7 @@
 #include <QtCore/QTimer>
 #include <QtGui/QScreen>
 #include <QtWidgets/QLayout>
+#include <QtWidgets/QPushButton>
 #include <QtWidgets/QTabWidget>
 
 #include <algorithm>
@@ -52,6 +53,7 @@ void DialogWindow::buildParts()
             m_tabs->addTab(pane, tabTitle(panel.panel->panelName()));
         }
     m_parts.push_back({kSummary, m_summary, nullptr});
+    m_summary->setAccessibleName(tr("Summary"));
     m_tabs->addTab(m_summary, tr("Summary"));
     m_tabs->setCurrentIndex(m_parts[1].panel ? 1 : 0);
     changePart();
@@ -107,7 +109,16 @@ void DialogWindow::changePart()
     }
     if (part->page == m_summary)
         m_summary->setSections(summarySections());
+    moveButtonsLast();
     fitToPart();
+}
+
+/// What a part has made of late has come behind the buttons in the tab order.
+void DialogWindow::moveButtonsLast()
+{
+    for (QPushButton *button : {m_help, m_save, m_cancel, m_print})
+        if (QWidget *last = previousInFocusChain(); last != button)
+            setTabOrder(last, button);
 }
 
 void DialogWindow::hideShownPanel()
