@@ -179,7 +179,7 @@ SummarySection DialogWindow::ownSection() const
     if (const std::optional<PMPaper> paper = m_job.paper())
         own.lines += {tr("Paper"), paperText(m_job.ppd(), *paper)};
     if (const std::optional<PMPaper> mapped = paperOfChoice(m_job.ppd(), m_job.mappedPaper()))
-        own.lines += {tr("Scaled to fit"), paperText(m_job.ppd(), *mapped)};
+        own.lines += {tr("Scaled to Fit"), paperText(m_job.ppd(), *mapped)};
     const bool isLandscape = m_job.orientation() == PMOrientation::Landscape;
     own.lines += {tr("Orientation"), isLandscape ? tr("Landscape") : tr("Portrait")};
     own.lines += {tr("Copies"), QString::number(settings.copies)};
@@ -189,6 +189,11 @@ SummarySection DialogWindow::ownSection() const
         const ppd_choice_t *choice = findChoice(option, markedChoice(m_job.ppd(), keyword));
         if (choice)
             own.lines += {ppdText(option->text), ppdText(choice->text)};
+    }
+    if (m_job.offersColorMatching()) {
+        const bool byPrinter = m_job.colorMatching() == PrintJob::ColorMatching::Printer;
+        own.lines +=
+            {tr("Color Matching"), byPrinter ? tr("By the Printer") : tr("By the Application")};
     }
     return own;
 }

@@ -131,7 +131,9 @@ TEST_F(Window, SummarizesTheWholeJob)
     for (const QLabel *label : part<QWidget>("summaryPane")->findChildren<QLabel *>())
         texts += label->text();
     const QString all = texts.join(u'|');
-    EXPECT_TRUE(all.startsWith(u"Page Setup|Paper|A4|Orientation|Portrait|Copies|3|Pages|All|"_s))
+    EXPECT_TRUE(all.startsWith(u"Page Setup|Paper|A4|Orientation|Portrait|Copies|3|Pages|All|"
+                               "Two-Sided Printing|Off|Output|Printer|"
+                               "Color Matching|By the Printer|Print Settings|"_s))
         << all.toStdString();
     EXPECT_TRUE(all.contains(u"|Print Settings|"_s)) << all.toStdString();
     EXPECT_TRUE(all.contains(u"|Media Type|Other Glossy Paper|"_s)) << all.toStdString();

@@ -73,11 +73,11 @@ INSTANTIATE_TEST_SUITE_P(
                           u"Two-Sided Printing:"_s, u"Output:"_s, u"By the Printer"_s}},
                     Walk{1,
                          {u"Print Settings"_s, u"Media Type"_s, u"Print Quality"_s, u"Color Mode"_s,
-                          u"Paper Thickness"_s, u"Paper Source"_s, u"Advanced settings"_s,
-                          u"Advanced settings"_s, u"Mirror Image"_s, u"Rotate by 180 Degrees"_s}},
+                          u"Paper Thickness"_s, u"Paper Source"_s, u"Advanced Settings"_s,
+                          u"Advanced Settings"_s, u"Mirror Image"_s, u"Rotate by 180 Degrees"_s}},
                     Walk{2,
                          {u"Color Settings"_s, u"Natural"_s, u"Halftone Pattern"_s,
-                          u"Color enhancement"_s, u"Color Enhancement"_s}},
+                          u"Color Enhancement"_s, u"Color Enhancement"_s}},
                     Walk{3, {u"Summary"_s, u"Summary"_s}}));
 
 } // namespace
