@@ -110,6 +110,8 @@ void DialogWindow::changePart()
     if (part->page == m_summary)
         m_summary->setSections(summarySections());
     moveButtonsLast();
+    if (!m_pageSetup->isAcceptable())
+        tellStanding();
     fitToPart();
 }
 

@@ -109,6 +109,10 @@
         <translation>用紙</translation>
     </message>
     <message>
+        <source>The printer cannot take the paper size in Page Setup. Correct it there to print.</source>
+        <translation>「ページ設定」の用紙サイズは、このプリンターでは使用できません。印刷するには、サイズを直してください。</translation>
+    </message>
+    <message>
         <source>Color Matching</source>
         <translation>カラーマッチング</translation>
     </message>

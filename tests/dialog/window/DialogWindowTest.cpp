@@ -70,6 +70,12 @@ TEST_F(Window, TakesNothingFromAPaneThatCannotBeUsed)
     width->setValue(5);
     EXPECT_FALSE(part<QAbstractButton>("printButton")->isEnabled());
     EXPECT_FALSE(part<QLabel>("customWidthWord")->text().isEmpty());
+    EXPECT_EQ(notice(), QString()) << "the word beside the field says it";
+    part<QTabWidget>("parts")->setCurrentIndex(1);
+    EXPECT_EQ(notice(), u"The printer cannot take the paper size in Page Setup. Correct it there "
+                        "to print."_s);
+    part<QTabWidget>("parts")->setCurrentIndex(0);
+    EXPECT_EQ(notice(), QString());
     width->setValue(210);
     EXPECT_TRUE(part<QAbstractButton>("printButton")->isEnabled());
     EXPECT_TRUE(m_window->job().paper()->name.startsWith(u"Custom"_s));

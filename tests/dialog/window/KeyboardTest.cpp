@@ -47,6 +47,13 @@ protected:
     }
 };
 
+TEST_F(Keyboard, OpensTheHelpOfThePartInFront)
+{
+    show(3);
+    QTest::keyClick(m_window.get(), Qt::Key_F1);
+    EXPECT_TRUE(QTest::qWaitFor([this] { return m_window->findChild<QDialog *>(u"hostHelp"_s); }));
+}
+
 // What every part has before and after its own controls.
 const QStringList kBefore{u"Choose…"_s, u"Printer:"_s, u"Copies:"_s, u"Pages:"_s};
 const QStringList kAfter{u"Help"_s, u"Cancel"_s, u"Save"_s};
