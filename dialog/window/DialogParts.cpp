@@ -125,8 +125,11 @@ void DialogWindow::moveButtonsLast()
 
 void DialogWindow::hideShownPanel()
 {
-    if (m_shownPanel)
+    if (m_shownPanel) {
+        // A panel may read the ticket again behind its user's back: for the summary, say.
+        m_job.session()->save(*m_shownPanel);
         m_job.session()->hide(*m_shownPanel);
+    }
     m_shownPanel = nullptr;
 }
 

@@ -132,11 +132,7 @@ TEST_F(Window, SummarizesTheWholeJob)
 {
     m_line.choices = {{u"VKMediaType"_s, u"Glossy"_s}, {u"copies"_s, u"3"_s}};
     open();
-    ASSERT_TRUE(m_window->showPart(u"summary"_s));
-    QStringList texts;
-    for (const QLabel *label : part<QWidget>("summaryPane")->findChildren<QLabel *>())
-        texts += label->text();
-    const QString all = texts.join(u'|');
+    const QString all = summary().join(u'|');
     EXPECT_TRUE(all.startsWith(u"Page Setup|Paper|A4|Orientation|Portrait|Copies|3|Pages|All|"
                                "Two-Sided Printing|Off|Output|Printer|"
                                "Color Matching|By the Printer|Print Settings|"_s))
@@ -144,6 +140,25 @@ TEST_F(Window, SummarizesTheWholeJob)
     EXPECT_TRUE(all.contains(u"|Print Settings|"_s)) << all.toStdString();
     EXPECT_TRUE(all.contains(u"|Media Type|Other Glossy Paper|"_s)) << all.toStdString();
     EXPECT_LT(all.indexOf(u"|Print Settings|"_s), all.indexOf(u"|Color Settings|"_s));
+}
+
+TEST_F(Window, KeepsWhatAPanelHasWhenAnotherPartIsLookedAt)
+{
+    open();
+    auto *parts = part<QTabWidget>("parts");
+    parts->setCurrentIndex(2);
+    click("colorEnhanceButton");
+    auto *field = part<NumberField>("brightnessField");
+    field->setFocus();
+    field->selectAll();
+    QTest::keyClicks(field, u"4\t"_s);
+    ASSERT_EQ(field->value(), 4);
+    parts->setCurrentIndex(0);
+    pick("paperPopup", u"A3"_s);
+    EXPECT_EQ(field->value(), 4) << "after another paper";
+    const QStringList texts = summary();
+    EXPECT_EQ(texts.value(texts.indexOf(u"Brightness"_s) + 1), u"4"_s);
+    EXPECT_EQ(field->value(), 4) << "after the summary";
 }
 
 TEST_F(Window, TellsThePanelsWhenItsSizeChangesAndWhenItCloses)
