@@ -4,6 +4,7 @@
 #include <QtCore/QDir>
 #include <QtCore/QFile>
 #include <QtCore/QProcess>
+#include <QtCore/QProcessEnvironment>
 #include <QtCore/QTemporaryDir>
 
 #include <gmock/gmock.h>
@@ -20,9 +21,14 @@ struct Result
     std::string error;
 };
 
-Result runProgram(const QString &program, const QStringList &arguments)
+Result runProgram(const QString &program, const QStringList &arguments,
+                  const QString &language = u"en"_s)
 {
     QProcess process;
+    auto environment = QProcessEnvironment::systemEnvironment();
+    environment.insert(u"LANGUAGE"_s, language);
+    environment.insert(u"LC_ALL"_s, u"C.UTF-8"_s);
+    process.setProcessEnvironment(environment);
     process.start(program, arguments);
     EXPECT_TRUE(process.waitForFinished());
     return {process.exitCode(), process.readAllStandardOutput().toStdString(),
@@ -54,6 +60,13 @@ TEST(Launcher, RefusesAnUnknownOption)
     EXPECT_EQ(result.status, 2);
     EXPECT_EQ(result.output, "");
     EXPECT_EQ(result.error, "velkaro-print: There is no option --nonsense.\n");
+}
+
+TEST(Launcher, RefusesInTheUsersLanguage)
+{
+    const Result result = runProgram(QStringLiteral(PROGRAM), {u"--nonsense"_s}, u"ja"_s);
+    EXPECT_EQ(result.status, 2);
+    EXPECT_EQ(result.error, "velkaro-print: --nonsense というオプションはありません。\n");
 }
 
 TEST(Launcher, SaysSoWhenTheInstallationIsIncomplete)
