@@ -40,7 +40,8 @@ Looking and testing
 Exit status
   0  printed, written, or the script ran to its end
   1  cancelled in the dialog
-  2  a wrong option, setting or script, or a PPD that cannot be opened
+  2  a wrong option, setting or script, a PPD that cannot be opened, or no
+     display for the dialog
   3  a check stopped the job
   4  a document cannot be read
   5  an output file cannot be written

@@ -11,6 +11,8 @@
 
 #include <QtWidgets/QApplication>
 
+#include <algorithm>
+
 using enum ExitStatus;
 
 namespace {
@@ -32,6 +34,23 @@ ExitStatus runDialog(const CommandLine &line)
     return window.exitStatus();
 }
 
+bool hasDisplay()
+{
+    const auto names = {"QT_QPA_PLATFORM", "DISPLAY", "WAYLAND_DISPLAY"};
+    return std::ranges::any_of(names,
+                               [](const char *name) { return !qEnvironmentVariableIsEmpty(name); });
+}
+
+/// The toolkit would abort, and advise to install the program again.
+int refuseToShow(int &argc, char **argv)
+{
+    const QCoreApplication application(argc, argv);
+    installTranslations();
+    return exitCode(failWith(
+        Usage, QCoreApplication::translate("DialogCommand", "There is no display for the dialog; "
+                                                            "--no-dialog prints without it.")));
+}
+
 ExitStatus run(const CommandLine &line)
 {
     if (line.noDialog)
@@ -44,6 +63,8 @@ ExitStatus run(const CommandLine &line)
 int runDialogCommand(int &argc, char **argv, const CommandLine &line)
 {
     const bool showsWindow = !line.noDialog && line.screenshot.isNull();
+    if (showsWindow && !hasDisplay())
+        return refuseToShow(argc, argv);
     if (!showsWindow && !qEnvironmentVariableIsSet("QT_QPA_PLATFORM"))
         qputenv("QT_QPA_PLATFORM", "offscreen");
     QApplication application(argc, argv);

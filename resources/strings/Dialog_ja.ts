@@ -87,6 +87,13 @@
     </message>
 </context>
 <context>
+    <name>DialogCommand</name>
+    <message>
+        <source>There is no display for the dialog; --no-dialog prints without it.</source>
+        <translation>画面を表示できるディスプレイがありません。--no-dialog を付けると、画面を表示せずに印刷します。</translation>
+    </message>
+</context>
+<context>
     <name>DialogWindow</name>
     <message>
         <source>Velkaro Print</source>

@@ -28,6 +28,8 @@ Result runProgram(const QString &program, const QStringList &arguments,
     auto environment = QProcessEnvironment::systemEnvironment();
     environment.insert(u"LANGUAGE"_s, language);
     environment.insert(u"LC_ALL"_s, u"C.UTF-8"_s);
+    for (const QString &display : {u"DISPLAY"_s, u"WAYLAND_DISPLAY"_s, u"QT_QPA_PLATFORM"_s})
+        environment.remove(display);
     process.setProcessEnvironment(environment);
     process.start(program, arguments);
     EXPECT_TRUE(process.waitForFinished());
@@ -67,6 +69,14 @@ TEST(Launcher, RefusesInTheUsersLanguage)
     const Result result = runProgram(QStringLiteral(PROGRAM), {u"--nonsense"_s}, u"ja"_s);
     EXPECT_EQ(result.status, 2);
     EXPECT_EQ(result.error, "velkaro-print: --nonsense というオプションはありません。\n");
+}
+
+TEST(Launcher, SaysSoWhenThereIsNoDisplayForTheDialog)
+{
+    const Result result = runProgram(QStringLiteral(PROGRAM), {u"--ppd"_s, u"small.ppd"_s});
+    EXPECT_EQ(result.status, 2);
+    EXPECT_EQ(result.error, "velkaro-print: There is no display for the dialog; --no-dialog prints "
+                            "without it.\n");
 }
 
 TEST(Launcher, SaysSoWhenTheInstallationIsIncomplete)
