@@ -7,6 +7,7 @@
 #include "platform/toolkit/PlainText.h"
 #include "platform/toolkit/PopUpButton.h"
 #include "platform/toolkit/RadioMatrix.h"
+#include "platform/toolkit/SpokenName.h"
 
 #include <QtWidgets/QAbstractButton>
 #include <QtWidgets/QLabel>
@@ -79,9 +80,9 @@ void VKInkColorSettingPDE::titleSection()
     if (optionLabel && !title.isNull())
         optionLabel->setText(title);
     if (optionButton)
-        optionButton->setAccessibleName(title);
+        setSpokenName(optionButton, title);
     if (effectImageView)
-        effectImageView->setAccessibleName(localized("Preview"));
+        setSpokenName(effectImageView, localized("Preview"));
     QWidget *view = inspectedView();
     // The text of the view resource is in one language only.
     if (auto *button = view ? view->findChild<QAbstractButton *>(u"revertButton"_s) : nullptr)
@@ -98,15 +99,13 @@ void VKInkColorSettingPDE::titleEffects()
     }
 }
 
-// The labels are no buddies of their controls: that would make mnemonics of the ampersands in the
-// PPD's texts.
 void VKInkColorSettingPDE::nameControls()
 {
     for (const QString &keyword : managedKeywords()) {
         const ppd_option_t *option = findOption(ppd, keyword);
         QWidget *control = determineUI(keyword);
         if (control && option)
-            control->setAccessibleName(ppdText(option->text));
+            setSpokenName(control, ppdText(option->text));
     }
     const QWidget *view = inspectedView();
     const auto parts = view ? view->findChildren<QWidget *>() : QList<QWidget *>();
@@ -114,7 +113,7 @@ void VKInkColorSettingPDE::nameControls()
         // A slider and its field are bound to the same value.
         const QString keyword = part->property("bind.value").toString();
         if (const QLabel *label = effectOutlets(keyword).label)
-            part->setAccessibleName(label->text());
+            setSpokenName(part, label->text());
     }
 }
 

@@ -1,9 +1,13 @@
 #include "dialog/commandline/CommandLine.h"
 #include "dialog/commandline/ExitStatus.h"
 #include "dialog/commandline/HelpText.h"
+#include "dialog/commandline/ToolkitMessages.h"
+#include "dialog/job/CommandOutput.h"
 #include "dialog/replay/ReplayCommand.h"
 #include "dialog/window/DialogCommand.h"
+#include "dialog/window/Translations.h"
 
+#include <QtCore/QCoreApplication>
 #include <QtCore/QFile>
 
 #include <cstdio>
@@ -18,10 +22,12 @@ QStringList argumentsOf(int argc, char **argv)
     return arguments;
 }
 
-int refuse(const QString &sentence)
+/// Reads the arguments once more, with the user's language at hand: only what is wrong needs it.
+int refuse(int argc, char **argv, const QStringList &arguments)
 {
-    std::fprintf(stderr, "velkaro-print: %s\n", sentence.toLocal8Bit().constData());
-    return exitCode(ExitStatus::Usage);
+    const QCoreApplication application(argc, argv);
+    installTranslations();
+    return exitCode(failWith(ExitStatus::Usage, parseCommandLine(arguments).error));
 }
 
 int print(const char *text)
@@ -35,14 +41,16 @@ int print(const char *text)
 /// What the launcher calls: the whole program.
 extern "C" Q_DECL_EXPORT int velkaroPrintMain(int argc, char **argv)
 {
-    const ParsedCommandLine parsed = parseCommandLine(argumentsOf(argc, argv));
+    const QStringList arguments = argumentsOf(argc, argv);
+    const ParsedCommandLine parsed = parseCommandLine(arguments);
     if (!parsed.error.isNull())
-        return refuse(parsed.error);
+        return refuse(argc, argv, arguments);
     const CommandLine &line = parsed.commandLine;
     if (line.help)
         return print(helpText());
     if (line.version)
         return print(versionText());
+    tellToolkitFaultsOnly();
     if (!line.replay.isNull())
         return runReplayCommand(argc, argv, line.replay, line.plugIn);
     return runDialogCommand(argc, argv, line);

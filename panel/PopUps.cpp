@@ -9,6 +9,7 @@
 #include "platform/toolkit/KeyWindow.h"
 #include "platform/toolkit/PlainText.h"
 #include "platform/toolkit/RadioMatrix.h"
+#include "platform/toolkit/SpokenName.h"
 
 #include <QtWidgets/QAbstractButton>
 #include <QtWidgets/QGroupBox>
@@ -114,9 +115,8 @@ void VKPrintQualityPDE::titleLabel(const QString &keyword, const QString &text)
         field->setText(text + u": "_s);
     else if (auto *box = qobject_cast<QGroupBox *>(label))
         box->setTitle(withoutMnemonic(text));
-    // A buddy would tell it too, but makes a mnemonic of an ampersand in the label.
     if (QWidget *control = determineUI(keyword))
-        control->setAccessibleName(text);
+        setSpokenName(control, text);
 }
 
 void VKPrintQualityPDE::updateUI()

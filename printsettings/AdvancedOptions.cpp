@@ -1,6 +1,7 @@
 #include "printsettings/VKInkPrintSetting14PDE.h"
 
 #include "platform/pde/PPDText.h"
+#include "platform/toolkit/SpokenName.h"
 #include "printsettings/AdvancedOptionList.h"
 
 #include <QtWidgets/QAbstractButton>
@@ -53,10 +54,19 @@ void VKInkPrintSetting14PDE::initializeAdvOption(const QList<QWidget *> &initial
         return;
     }
     arrayController->selectRow(0);
-    if (optionLabel)
-        optionLabel->setText(localized("advancedItem"));
+    titleSection(localized("advancedItem"));
     if (initializeAdvOption.contains(advancedTableView))
         arrayController->fitColumn();
+}
+
+void VKInkPrintSetting14PDE::titleSection(const QString &title)
+{
+    if (optionLabel)
+        optionLabel->setText(title);
+    if (optionButton)
+        setSpokenName(optionButton, title);
+    if (advancedTableView)
+        setSpokenName(advancedTableView, title);
 }
 
 void VKInkPrintSetting14PDE::addLocalizedRow(const char *key)

@@ -216,6 +216,7 @@ private:
     void putAlertImage(ImageView *view, const QString &name);
     void titleButton(QAbstractButton *button, const char *key);
 
+    void titleSection(const QString &title);
     void addGroupRow(const QString &keyword);
     void addLocalizedRow(const char *key);
 

@@ -5,7 +5,7 @@
 enum class ExitStatus {
     Done = 0,      ///< the job was accepted, the file was written, or the script ran to its end
     Cancelled = 1, ///< the user closed the dialog without printing
-    Usage = 2,     ///< a wrong option, setting or script, or a PPD that cannot be opened
+    Usage = 2,     ///< a wrong option, setting or script, a bad PPD, or no display for the dialog
     Vetoed = 3,    ///< a check before printing stopped the job
     Document = 4,  ///< a document cannot be read
     Output = 5,    ///< the output file, picture or recording cannot be written

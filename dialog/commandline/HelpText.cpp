@@ -28,8 +28,8 @@ Job
 Looking and testing
       --screenshot FILE.png
                           paint the dialog into a picture instead of showing it
-      --panel NAME        show this part first: setup, summary or a panel,
-                          print or color; in a picture, this part alone
+      --panel NAME        show this part first: setup, print, color or
+                          summary; in a picture, this part alone
       --record SCRIPT     note the session in a script
       --replay SCRIPT     run a session from a script (-: standard input)
                           and print what happens, a line of JSON an event
@@ -40,7 +40,8 @@ Looking and testing
 Exit status
   0  printed, written, or the script ran to its end
   1  cancelled in the dialog
-  2  a wrong option, setting or script, or a PPD that cannot be opened
+  2  a wrong option, setting or script, a PPD that cannot be opened, or no
+     display for the dialog
   3  a check stopped the job
   4  a document cannot be read
   5  an output file cannot be written

@@ -12,6 +12,7 @@ constexpr auto kDuplex = "Duplex"_L1;
 constexpr auto kColorMatching = "AP_ColorMatchingMode"_L1;
 constexpr auto kByPrinter = "AP_VendorColorMatching"_L1;
 constexpr auto kByApplication = "AP_ApplicationColorMatching"_L1;
+constexpr auto kSupportsColorMatching = "APSupportsCustomColorMatching";
 constexpr auto kMappedPaper = "com.apple.print.PageToPaperMappingMediaName"_L1;
 
 } // namespace
@@ -75,6 +76,11 @@ QString PrintJob::mappedPaper() const
 void PrintJob::setMappedPaper(const QString &paper)
 {
     m_session->setPaper(this->paper().value_or(PMPaper()), paper);
+}
+
+bool PrintJob::offersColorMatching() const
+{
+    return ppd() && ppdFindAttr(ppd(), kSupportsColorMatching, nullptr);
 }
 
 PrintJob::ColorMatching PrintJob::colorMatching() const

@@ -51,6 +51,8 @@ public:
     QString mappedPaper() const;
     void setMappedPaper(const QString &paper);
 
+    /// Whether the printer leaves the choice who matches the colors.
+    bool offersColorMatching() const;
     ColorMatching colorMatching() const;
     void setColorMatching(ColorMatching matching);
 

@@ -44,14 +44,6 @@ bool print(const QByteArray &line)
     return std::fflush(stdout) == 0;
 }
 
-// Standard error is for what is wrong with the script: what the toolkit remarks about the machine
-// (a missing runtime folder, say) would be taken for that.
-void dropRemarks(QtMsgType type, const QMessageLogContext &, const QString &message)
-{
-    if (type == QtCriticalMsg || type == QtFatalMsg)
-        std::fputs(message.toLocal8Bit() + '\n', stderr);
-}
-
 ExitStatus runLines(QFile &file, const QString &name, const QDir &folder, ReplaySession &session)
 {
     for (int number = 1;; ++number) {
@@ -91,7 +83,6 @@ int runReplayCommand(int &argc, char **argv, const QString &script, const QStrin
 {
     if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM"))
         qputenv("QT_QPA_PLATFORM", "offscreen");
-    qInstallMessageHandler(dropRemarks);
     const QApplication application(argc, argv);
     return runReplay(script, bundlePath);
 }

@@ -1,5 +1,7 @@
 #include "dialog/window/CustomSizeFields.h"
 
+#include "platform/toolkit/SpokenName.h"
+
 #include <QtCore/QLocale>
 #include <QtCore/QSignalBlocker>
 #include <QtWidgets/QComboBox>
@@ -38,7 +40,7 @@ CustomSizeFields::CustomSizeFields(QWidget *parent)
     m_unit->setObjectName(QStringLiteral("customUnit"));
     m_unit->addItems({tr("mm"), tr("inches")});
     m_unit->setCurrentIndex(QLocale().measurementSystem() == QLocale::ImperialUSSystem ? 1 : 0);
-    m_unit->setAccessibleName(tr("Unit"));
+    setSpokenName(m_unit, tr("Unit"));
     auto *widthLabel = new QLabel(tr("&Width:"), this);
     widthLabel->setBuddy(m_width);
     auto *heightLabel = new QLabel(tr("Heigh&t:"), this);

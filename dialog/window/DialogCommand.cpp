@@ -11,20 +11,14 @@
 
 #include <QtWidgets/QApplication>
 
+#include <algorithm>
+
 using enum ExitStatus;
 
 namespace {
 
 // The threads of calls that were given up may wait for a name server; nobody wants to.
 constexpr std::chrono::milliseconds kPatienceAtTheEnd{300};
-
-// Without a window, standard error is for what is wrong with the job: what the toolkit remarks
-// about the machine (a missing runtime folder, say) would be taken for that.
-void dropRemarks(QtMsgType type, const QMessageLogContext &, const QString &message)
-{
-    if (type == QtCriticalMsg || type == QtFatalMsg)
-        warn(message);
-}
 
 ExitStatus runDialog(const CommandLine &line)
 {
@@ -40,6 +34,23 @@ ExitStatus runDialog(const CommandLine &line)
     return window.exitStatus();
 }
 
+bool hasDisplay()
+{
+    const auto names = {"QT_QPA_PLATFORM", "DISPLAY", "WAYLAND_DISPLAY"};
+    return std::ranges::any_of(names,
+                               [](const char *name) { return !qEnvironmentVariableIsEmpty(name); });
+}
+
+/// The toolkit would abort, and advise to install the program again.
+int refuseToShow(int &argc, char **argv)
+{
+    const QCoreApplication application(argc, argv);
+    installTranslations();
+    return exitCode(failWith(
+        Usage, QCoreApplication::translate("DialogCommand", "There is no display for the dialog; "
+                                                            "--no-dialog prints without it.")));
+}
+
 ExitStatus run(const CommandLine &line)
 {
     if (line.noDialog)
@@ -52,10 +63,10 @@ ExitStatus run(const CommandLine &line)
 int runDialogCommand(int &argc, char **argv, const CommandLine &line)
 {
     const bool showsWindow = !line.noDialog && line.screenshot.isNull();
+    if (showsWindow && !hasDisplay())
+        return refuseToShow(argc, argv);
     if (!showsWindow && !qEnvironmentVariableIsSet("QT_QPA_PLATFORM"))
         qputenv("QT_QPA_PLATFORM", "offscreen");
-    if (!showsWindow)
-        qInstallMessageHandler(dropRemarks);
     QApplication application(argc, argv);
     QApplication::setApplicationName(QStringLiteral("velkaro-print"));
     installTranslations();

@@ -9,6 +9,7 @@
 #include <QtCore/QTimer>
 #include <QtGui/QScreen>
 #include <QtWidgets/QLayout>
+#include <QtWidgets/QPushButton>
 #include <QtWidgets/QTabWidget>
 
 #include <algorithm>
@@ -52,6 +53,7 @@ void DialogWindow::buildParts()
             m_tabs->addTab(pane, tabTitle(panel.panel->panelName()));
         }
     m_parts.push_back({kSummary, m_summary, nullptr});
+    m_summary->setAccessibleName(tr("Summary"));
     m_tabs->addTab(m_summary, tr("Summary"));
     m_tabs->setCurrentIndex(m_parts[1].panel ? 1 : 0);
     changePart();
@@ -107,13 +109,27 @@ void DialogWindow::changePart()
     }
     if (part->page == m_summary)
         m_summary->setSections(summarySections());
+    moveButtonsLast();
+    if (!m_pageSetup->isAcceptable())
+        tellStanding();
     fitToPart();
+}
+
+/// What a part has made of late has come behind the buttons in the tab order.
+void DialogWindow::moveButtonsLast()
+{
+    for (QPushButton *button : {m_help, m_save, m_cancel, m_print})
+        if (QWidget *last = previousInFocusChain(); last != button)
+            setTabOrder(last, button);
 }
 
 void DialogWindow::hideShownPanel()
 {
-    if (m_shownPanel)
+    if (m_shownPanel) {
+        // A panel may read the ticket again behind its user's back: for the summary, say.
+        m_job.session()->save(*m_shownPanel);
         m_job.session()->hide(*m_shownPanel);
+    }
     m_shownPanel = nullptr;
 }
 
@@ -168,7 +184,7 @@ SummarySection DialogWindow::ownSection() const
     if (const std::optional<PMPaper> paper = m_job.paper())
         own.lines += {tr("Paper"), paperText(m_job.ppd(), *paper)};
     if (const std::optional<PMPaper> mapped = paperOfChoice(m_job.ppd(), m_job.mappedPaper()))
-        own.lines += {tr("Scaled to fit"), paperText(m_job.ppd(), *mapped)};
+        own.lines += {tr("Scaled to Fit"), paperText(m_job.ppd(), *mapped)};
     const bool isLandscape = m_job.orientation() == PMOrientation::Landscape;
     own.lines += {tr("Orientation"), isLandscape ? tr("Landscape") : tr("Portrait")};
     own.lines += {tr("Copies"), QString::number(settings.copies)};
@@ -178,6 +194,11 @@ SummarySection DialogWindow::ownSection() const
         const ppd_choice_t *choice = findChoice(option, markedChoice(m_job.ppd(), keyword));
         if (choice)
             own.lines += {ppdText(option->text), ppdText(choice->text)};
+    }
+    if (m_job.offersColorMatching()) {
+        const bool byPrinter = m_job.colorMatching() == PrintJob::ColorMatching::Printer;
+        own.lines +=
+            {tr("Color Matching"), byPrinter ? tr("By the Printer") : tr("By the Application")};
     }
     return own;
 }

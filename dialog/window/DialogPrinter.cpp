@@ -113,6 +113,7 @@ void DialogWindow::makeRequestedSettings()
         m_settingError = tr("There is no panel %1.").arg(m_line.panel);
     if (!m_line.paper.isNull() || !m_line.choices.empty()) {
         m_pageSetup->reload();
+        moveButtonsLast();
         m_header->reload();
     }
     if (!m_settingError.isNull())

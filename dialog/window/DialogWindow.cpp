@@ -89,6 +89,7 @@ QWidget *DialogWindow::newButtons()
 {
     auto *row = new QWidget(this);
     m_help = newButton(u"helpButton"_s, tr("Help"), row);
+    m_help->setShortcut(QKeySequence::HelpContents);
     m_save = newButton(u"saveButton"_s, tr("Save to &File…"), row);
     m_cancel = newButton(u"cancelButton"_s, tr("Cancel"), row);
     m_print = newButton(u"printButton"_s, m_line.output.isNull() ? tr("Print") : tr("Save"), row);
@@ -157,7 +158,12 @@ void DialogWindow::updateButtons()
 /// Shows what holds on, in place of what was news.
 void DialogWindow::tellStanding()
 {
-    if (m_standing.sentence.isNull())
+    const bool hidesFault = !m_pageSetup->isAcceptable() && m_tabs->currentWidget() != m_pageSetup;
+    if (hidesFault)
+        m_notice->tell(NoticeBar::Kind::Warning,
+                       tr("The printer cannot take the paper size in Page Setup. Correct it there "
+                          "to print."));
+    else if (m_standing.sentence.isNull())
         m_notice->clear();
     else
         m_notice->tell(m_standing.kind, m_standing.sentence);

@@ -112,6 +112,7 @@ private:
     void removeParts();
     const Part *currentPart() const;
     void changePart();
+    void moveButtonsLast();
     void hideShownPanel();
     void fitToPart();
     void followView();

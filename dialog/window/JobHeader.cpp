@@ -5,6 +5,8 @@
 #include "dialog/window/PrinterPopUp.h"
 #include "platform/toolkit/NumberField.h"
 #include "platform/toolkit/PlainText.h"
+#include "platform/toolkit/PopUpButton.h"
+#include "platform/toolkit/SpokenName.h"
 
 #include <QtCore/QFileInfo>
 #include <QtCore/QSignalBlocker>
@@ -36,6 +38,8 @@ QLabel *label(const QString &text, QWidget *buddy)
 {
     auto *made = new QLabel(text);
     made->setBuddy(buddy);
+    // They stand in rows of their own: assistive technology would not find the label.
+    setSpokenName(buddy, QString(text).remove(u'&'));
     return made;
 }
 
@@ -66,10 +70,11 @@ JobHeader::JobHeader(PrintJob &job, QWidget *parent)
     form->setContentsMargins(0, 0, 0, 0);
     form->setLabelAlignment(Qt::AlignRight | Qt::AlignVCenter);
     form->setFieldGrowthPolicy(QFormLayout::AllNonFixedFieldsGrow);
-    form->addRow(label(tr("Document:"), m_choose), row({m_documents, m_choose}, 0));
-    form->addRow(label(tr("Pri&nter:"), m_printers), m_printers);
+    form->addRow(tr("Document:"), row({m_documents, m_choose}, 0));
+    form->addRow(label(tr("Pri&nter:"), m_printers->popup()), m_printers);
     form->addRow(label(tr("&Copies:"), m_copies),
                  row({m_copies, label(tr("Pa&ges:"), m_pages), m_pages, m_pagesWord}, 3));
+    setTabOrder(m_choose, m_printers->popup());
     connect(m_choose, &QPushButton::clicked, this, &JobHeader::documentsWanted);
     connect(m_copies, &NumberField::editedByUser, this, [this] {
         m_job.settings().copies = m_copies->value();

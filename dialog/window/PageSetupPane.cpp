@@ -23,7 +23,6 @@ constexpr int kMargin = 16;
 constexpr int kContentsLength = 30; // characters: a pop-up does not measure hundreds of texts
 constexpr auto kPageSize = "PageSize"_L1;
 constexpr auto kCustom = "Custom"_L1;
-constexpr auto kSupportsColorMatching = "APSupportsCustomColorMatching";
 
 /// The choices of the PPD option, by their texts.
 std::vector<PopUpButton::Item> itemsOf(const ppd_option_t *option)
@@ -98,7 +97,7 @@ void PageSetupPane::reload()
         addScaling(form);
     for (const QString &keyword : m_job.ownKeywords())
         addOption(form, keyword);
-    if (m_job.ppd() && ppdFindAttr(m_job.ppd(), kSupportsColorMatching, nullptr))
+    if (m_job.offersColorMatching())
         addColorMatching(form);
     static_cast<QVBoxLayout *>(layout())->addWidget(m_page, 1);
 }

@@ -13,6 +13,7 @@ constexpr int kTopMargin = 8;
 PanelPane::PanelPane(QWidget *parent) : QScrollArea(parent)
 {
     setFrameShape(QFrame::NoFrame);
+    setFocusPolicy(Qt::NoFocus); // it scrolls to the control that has it
     setAlignment(Qt::AlignHCenter | Qt::AlignTop);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setViewportMargins(0, kTopMargin, 0, 0);

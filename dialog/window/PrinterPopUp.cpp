@@ -38,7 +38,6 @@ PrinterPopUp::PrinterPopUp(QWidget *parent)
     m_popup->setMinimumContentsLength(kContentsLength);
     m_state->setObjectName(u"printerState"_s);
     m_state->setTextFormat(Qt::PlainText);
-    setFocusProxy(m_popup);
     auto *layout = new QHBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(m_popup);

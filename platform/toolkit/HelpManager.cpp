@@ -6,6 +6,7 @@
 #include <QtCore/QFile>
 #include <QtCore/QJsonDocument>
 #include <QtCore/QJsonObject>
+#include <QtGui/QKeyEvent>
 #include <QtWidgets/QTextBrowser>
 
 namespace {
@@ -24,6 +25,14 @@ public:
     }
 
 protected:
+    void keyPressEvent(QKeyEvent *event) override
+    {
+        if (event->matches(QKeySequence::Cancel))
+            close();
+        else
+            QTextBrowser::keyPressEvent(event);
+    }
+
     void doSetSource(const QUrl &url, QTextDocument::ResourceType type) override
     {
         if (url.isRelative() || url.isLocalFile())
@@ -81,9 +90,12 @@ bool HelpManager::openHelpAnchor(const QString &anchor, const QString &inBook)
     if (!m_window)
         m_window = new HelpWindow(keyWindow());
     auto *browser = static_cast<QTextBrowser *>(m_window.data());
-    browser->setWindowTitle(inBook);
     browser->setSource(page);
+    // The name of the book is in one language only.
+    const QString title = browser->documentTitle();
+    browser->setWindowTitle(title.isEmpty() ? inBook : title);
     browser->show();
     browser->raise();
+    browser->activateWindow();
     return true;
 }

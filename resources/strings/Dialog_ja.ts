@@ -9,7 +9,7 @@
     </message>
     <message>
         <source>-o needs KEY=VALUE, not &quot;%1&quot;.</source>
-        <translation>-o には KEY=VALUE の形で指定してください（「%1」は使えません）。</translation>
+        <translation>-o は KEY=VALUE の形で指定してください（「%1」は使えません）。</translation>
     </message>
     <message>
         <source>%1 needs a value.</source>
@@ -33,7 +33,7 @@
     </message>
     <message>
         <source>--no-dialog needs a document to print.</source>
-        <translation>--no-dialog には印刷する書類が必要です。</translation>
+        <translation>--no-dialog には印刷する文書が必要です。</translation>
     </message>
     <message>
         <source>--yes is for --no-dialog.</source>
@@ -87,6 +87,13 @@
     </message>
 </context>
 <context>
+    <name>DialogCommand</name>
+    <message>
+        <source>There is no display for the dialog; --no-dialog prints without it.</source>
+        <translation>画面を表示できるディスプレイがありません。--no-dialog を付けると、画面を表示せずに印刷します。</translation>
+    </message>
+</context>
+<context>
     <name>DialogWindow</name>
     <message>
         <source>Velkaro Print</source>
@@ -109,7 +116,23 @@
         <translation>用紙</translation>
     </message>
     <message>
-        <source>Scaled to fit</source>
+        <source>The printer cannot take the paper size in Page Setup. Correct it there to print.</source>
+        <translation>「ページ設定」の用紙サイズは、このプリンターでは使用できません。印刷するには、サイズを直してください。</translation>
+    </message>
+    <message>
+        <source>Color Matching</source>
+        <translation>カラーマッチング</translation>
+    </message>
+    <message>
+        <source>By the Printer</source>
+        <translation>プリンター</translation>
+    </message>
+    <message>
+        <source>By the Application</source>
+        <translation>アプリケーション</translation>
+    </message>
+    <message>
+        <source>Scaled to Fit</source>
         <translation>拡大縮小先の用紙</translation>
     </message>
     <message>
@@ -178,7 +201,7 @@
     </message>
     <message>
         <source>Choose a document to print.</source>
-        <translation>印刷する書類を選んでください。</translation>
+        <translation>印刷する文書を選んでください。</translation>
     </message>
     <message>
         <source>No queue was chosen: the job can be saved to a file.</source>
@@ -186,7 +209,7 @@
     </message>
     <message>
         <source>Print</source>
-        <translation>プリント</translation>
+        <translation>印刷</translation>
     </message>
     <message>
         <source>Help</source>
@@ -210,30 +233,30 @@
     </message>
     <message>
         <source>Choose Documents</source>
-        <translation>書類の選択</translation>
+        <translation>文書の選択</translation>
     </message>
     <message>
         <source>Documents (*.pdf *.ps *.txt *.png *.jpg *.jpeg);;All files (*)</source>
-        <translation>書類 (*.pdf *.ps *.txt *.png *.jpg *.jpeg);;すべてのファイル (*)</translation>
+        <translation>文書 (*.pdf *.ps *.txt *.png *.jpg *.jpeg);;すべてのファイル (*)</translation>
     </message>
 </context>
 <context>
     <name>DocumentFile</name>
     <message>
         <source>The document %1 does not exist.</source>
-        <translation>書類 %1 がありません。</translation>
+        <translation>文書 %1 がありません。</translation>
     </message>
     <message>
         <source>%1 is a folder, not a document.</source>
-        <translation>%1 は書類ではなくフォルダーです。</translation>
+        <translation>%1 は文書ではなくフォルダーです。</translation>
     </message>
     <message>
         <source>The document %1 is empty.</source>
-        <translation>書類 %1 は空です。</translation>
+        <translation>文書 %1 は空です。</translation>
     </message>
     <message>
         <source>The document %1 cannot be read: %2.</source>
-        <translation>書類 %1 を読み込めません（%2）。</translation>
+        <translation>文書 %1 を読み込めません（%2）。</translation>
     </message>
 </context>
 <context>
@@ -248,15 +271,15 @@
     </message>
     <message>
         <source>Summary lists everything that will be printed with. &quot;Save to File&quot; keeps the job with its documents; send it later with velkaro-print --no-dialog.</source>
-        <translation>「設定一覧」には、印刷に使われるすべての設定が表示されます。「ファイルに保存」を選ぶと、ジョブを書類と一緒に保存します。保存したジョブは velkaro-print --no-dialog で後から送信できます。</translation>
+        <translation>「設定一覧」には、印刷に使われるすべての設定が表示されます。「ファイルに保存」を選ぶと、ジョブを文書と一緒に保存します。保存したジョブは velkaro-print --no-dialog で後から送信できます。</translation>
     </message>
     <message>
         <source>Print Help</source>
-        <translation>プリントのヘルプ</translation>
+        <translation>印刷のヘルプ</translation>
     </message>
     <message>
         <source>&quot;Scale to Fit&quot; prints the document on another paper than it was made for, and makes it larger or smaller to fill that.</source>
-        <translation>「用紙に合わせる」を選ぶと、書類を別の用紙に合わせて拡大または縮小して印刷します。</translation>
+        <translation>「用紙に合わせる」を選ぶと、文書を別の用紙に合わせて拡大または縮小して印刷します。</translation>
     </message>
 </context>
 <context>
@@ -290,7 +313,7 @@
     </message>
     <message>
         <source>The document %1 cannot be read to its end.</source>
-        <translation>書類 %1 を最後まで読み込めません。</translation>
+        <translation>文書 %1 を最後まで読み込めません。</translation>
     </message>
     <message>
         <source>%1 is no saved job.</source>
@@ -313,7 +336,7 @@
     </message>
     <message>
         <source>Document:</source>
-        <translation>書類:</translation>
+        <translation>文書:</translation>
     </message>
     <message>
         <source>Pri&amp;nter:</source>
@@ -329,7 +352,7 @@
     </message>
     <message>
         <source>No document</source>
-        <translation>書類なし</translation>
+        <translation>文書なし</translation>
     </message>
     <message>
         <source>Pages look like this: 1-3, 5</source>
@@ -463,11 +486,11 @@
     </message>
     <message>
         <source>%1 is not a plug-in of this print dialog.</source>
-        <translation>%1 はこのプリント画面のプラグインではありません。</translation>
+        <translation>%1 はこの印刷画面のプラグインではありません。</translation>
     </message>
     <message>
         <source>The plug-in %1 was made for another version of this print dialog. Install the same version of both.</source>
-        <translation>プラグイン %1 は別のバージョンのプリント画面用です。同じバージョンをインストールしてください。</translation>
+        <translation>プラグイン %1 は別のバージョンの印刷画面用です。同じバージョンをインストールしてください。</translation>
     </message>
     <message>
         <source>The plug-in %1 could not be loaded.</source>
@@ -475,7 +498,7 @@
     </message>
     <message>
         <source>The plug-in %1 cannot be used with this print dialog.</source>
-        <translation>プラグイン %1 はこのプリント画面では使用できません。</translation>
+        <translation>プラグイン %1 はこの印刷画面では使用できません。</translation>
     </message>
 </context>
 <context>

@@ -36,16 +36,16 @@
     <!-- Summary -->
     <message>
         <source>Model</source>
-        <translation>Printer model</translation>
+        <translation>Printer Model</translation>
     </message>
     <!-- Advanced sections -->
     <message>
         <source>advancedItem</source>
-        <translation>Advanced settings</translation>
+        <translation>Advanced Settings</translation>
     </message>
     <message>
         <source>advancedcolorItem</source>
-        <translation>Color enhancement</translation>
+        <translation>Color Enhancement</translation>
     </message>
     <message>
         <source>Revert</source>
@@ -61,7 +61,7 @@
     </message>
     <message>
         <source>OtherOption</source>
-        <translation>Other options</translation>
+        <translation>Other Options</translation>
     </message>
     <!-- Paper names, as the page setup's menu has them -->
     <message>

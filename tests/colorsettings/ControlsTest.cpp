@@ -131,7 +131,7 @@ TEST_F(ControlsTest, AreFilledFromThePrinter)
     EXPECT_EQ(dialog.part<QLabel>("colorMatchingLabel").text(), u"Color Matching: "_s);
     EXPECT_EQ(dialog.part<QLabel>("ditherLabel").text(), u"Halftone Pattern: "_s);
     EXPECT_EQ(dialog.part<QLabel>("contrastLabel").text(), u"Contrast"_s);
-    EXPECT_EQ(dialog.part<QLabel>("optionLabel").text(), u"Color enhancement"_s);
+    EXPECT_EQ(dialog.part<QLabel>("optionLabel").text(), u"Color Enhancement"_s);
     EXPECT_EQ(dialog.part<QPushButton>("revertButton").text(), u"Revert"_s);
 }
 
@@ -143,7 +143,7 @@ TEST_F(ControlsTest, HaveNamesForScreenReaders)
         EXPECT_EQ(dialog.part<QWidget>(name).accessibleName(), u"Red"_s);
     EXPECT_EQ(dialog.part<QWidget>("ditherPopup").accessibleName(), u"Halftone Pattern"_s);
     EXPECT_EQ(dialog.part<QWidget>("colorMatchingMatrix").accessibleName(), u"Color Matching"_s);
-    EXPECT_EQ(dialog.part<QWidget>("optionButton").accessibleName(), u"Color enhancement"_s);
+    EXPECT_EQ(dialog.part<QWidget>("optionButton").accessibleName(), u"Color Enhancement"_s);
     EXPECT_EQ(dialog.part<QWidget>("effectImageView").accessibleName(), u"Preview"_s);
 }
 

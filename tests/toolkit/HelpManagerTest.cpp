@@ -12,6 +12,7 @@
 #include <QtCore/QEvent>
 #include <QtCore/QFile>
 #include <QtCore/QTemporaryDir>
+#include <QtTest/QTest>
 #include <QtWidgets/QTextBrowser>
 
 using namespace Qt::StringLiterals;
@@ -29,7 +30,8 @@ protected:
               R"({"CFBundleHelpBookName": "Test Help", "HPDBookAccessPath": "index.html"})");
         write(u"en/index.html"_s, R"(<html><body><p>English</p><p><a name="VkHelpAnchor">Here</a>
               <a href="http://localhost/">away</a></p></body></html>)");
-        write(u"ja/index.html"_s, R"(<html><body><p>Japanese</p></body></html>)");
+        write(u"ja/index.html"_s, R"(<html><head><title>Japanese Title</title></head>
+              <body><p>Japanese</p></body></html>)");
     }
     ~HelpManagerTest() override
     {
@@ -71,6 +73,7 @@ TEST_F(HelpManagerTest, ShowsTheNextPageInTheSameWindow)
     manager.openHelpAnchor(u"VkHelpAnchor"_s, u"Test Help"_s);
     EXPECT_EQ(manager.window(), first);
     EXPECT_EQ(browser()->toPlainText(), u"Japanese"_s);
+    EXPECT_EQ(browser()->windowTitle(), u"Japanese Title"_s);
 }
 
 struct LanguageCase
@@ -159,7 +162,8 @@ TEST_F(HelpManagerTest, ForgetsItsWindowWhenTheUserClosesIt)
     setPreferredLanguages({u"en"_s});
     manager.registerBook(folder.path());
     manager.openHelpAnchor(u"VkHelpAnchor"_s, u"Test Help"_s);
-    manager.window()->close();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(manager.window()));
+    QTest::keyClick(manager.window(), Qt::Key_Escape);
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     EXPECT_EQ(manager.window(), nullptr);
     EXPECT_TRUE(manager.openHelpAnchor(u"VkHelpAnchor"_s, u"Test Help"_s));

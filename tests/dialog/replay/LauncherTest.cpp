@@ -4,6 +4,7 @@
 #include <QtCore/QDir>
 #include <QtCore/QFile>
 #include <QtCore/QProcess>
+#include <QtCore/QProcessEnvironment>
 #include <QtCore/QTemporaryDir>
 
 #include <gmock/gmock.h>
@@ -20,9 +21,16 @@ struct Result
     std::string error;
 };
 
-Result runProgram(const QString &program, const QStringList &arguments)
+Result runProgram(const QString &program, const QStringList &arguments,
+                  const QString &language = u"en"_s)
 {
     QProcess process;
+    auto environment = QProcessEnvironment::systemEnvironment();
+    environment.insert(u"LANGUAGE"_s, language);
+    environment.insert(u"LC_ALL"_s, u"C.UTF-8"_s);
+    for (const QString &display : {u"DISPLAY"_s, u"WAYLAND_DISPLAY"_s, u"QT_QPA_PLATFORM"_s})
+        environment.remove(display);
+    process.setProcessEnvironment(environment);
     process.start(program, arguments);
     EXPECT_TRUE(process.waitForFinished());
     return {process.exitCode(), process.readAllStandardOutput().toStdString(),
@@ -54,6 +62,21 @@ TEST(Launcher, RefusesAnUnknownOption)
     EXPECT_EQ(result.status, 2);
     EXPECT_EQ(result.output, "");
     EXPECT_EQ(result.error, "velkaro-print: There is no option --nonsense.\n");
+}
+
+TEST(Launcher, RefusesInTheUsersLanguage)
+{
+    const Result result = runProgram(QStringLiteral(PROGRAM), {u"--nonsense"_s}, u"ja"_s);
+    EXPECT_EQ(result.status, 2);
+    EXPECT_EQ(result.error, "velkaro-print: --nonsense というオプションはありません。\n");
+}
+
+TEST(Launcher, SaysSoWhenThereIsNoDisplayForTheDialog)
+{
+    const Result result = runProgram(QStringLiteral(PROGRAM), {u"--ppd"_s, u"small.ppd"_s});
+    EXPECT_EQ(result.status, 2);
+    EXPECT_EQ(result.error, "velkaro-print: There is no display for the dialog; --no-dialog prints "
+                            "without it.\n");
 }
 
 TEST(Launcher, SaysSoWhenTheInstallationIsIncomplete)

@@ -63,6 +63,16 @@ protected:
         return titles;
     }
 
+    /// Looks at the summary: its texts, title and value in turn.
+    QStringList summary()
+    {
+        EXPECT_TRUE(m_window->showPart(QStringLiteral("summary")));
+        QStringList texts;
+        for (const QLabel *label : part<QWidget>("summaryPane")->findChildren<QLabel *>())
+            texts += label->text();
+        return texts;
+    }
+
     QString marked(const QString &keyword) { return markedChoice(m_window->job().ppd(), keyword); }
     QString notice() { return m_window->notice().sentence(); }
 

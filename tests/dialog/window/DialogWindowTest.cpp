@@ -70,6 +70,12 @@ TEST_F(Window, TakesNothingFromAPaneThatCannotBeUsed)
     width->setValue(5);
     EXPECT_FALSE(part<QAbstractButton>("printButton")->isEnabled());
     EXPECT_FALSE(part<QLabel>("customWidthWord")->text().isEmpty());
+    EXPECT_EQ(notice(), QString()) << "the word beside the field says it";
+    part<QTabWidget>("parts")->setCurrentIndex(1);
+    EXPECT_EQ(notice(), u"The printer cannot take the paper size in Page Setup. Correct it there "
+                        "to print."_s);
+    part<QTabWidget>("parts")->setCurrentIndex(0);
+    EXPECT_EQ(notice(), QString());
     width->setValue(210);
     EXPECT_TRUE(part<QAbstractButton>("printButton")->isEnabled());
     EXPECT_TRUE(m_window->job().paper()->name.startsWith(u"Custom"_s));
@@ -144,16 +150,33 @@ TEST_F(Window, SummarizesTheWholeJob)
 {
     m_line.choices = {{u"VKMediaType"_s, u"Glossy"_s}, {u"copies"_s, u"3"_s}};
     open();
-    ASSERT_TRUE(m_window->showPart(u"summary"_s));
-    QStringList texts;
-    for (const QLabel *label : part<QWidget>("summaryPane")->findChildren<QLabel *>())
-        texts += label->text();
-    const QString all = texts.join(u'|');
-    EXPECT_TRUE(all.startsWith(u"Page Setup|Paper|A4|Orientation|Portrait|Copies|3|Pages|All|"_s))
+    const QString all = summary().join(u'|');
+    EXPECT_TRUE(all.startsWith(u"Page Setup|Paper|A4|Orientation|Portrait|Copies|3|Pages|All|"
+                               "Two-Sided Printing|Off|Output|Printer|"
+                               "Color Matching|By the Printer|Print Settings|"_s))
         << all.toStdString();
     EXPECT_TRUE(all.contains(u"|Print Settings|"_s)) << all.toStdString();
     EXPECT_TRUE(all.contains(u"|Media Type|Other Glossy Paper|"_s)) << all.toStdString();
     EXPECT_LT(all.indexOf(u"|Print Settings|"_s), all.indexOf(u"|Color Settings|"_s));
+}
+
+TEST_F(Window, KeepsWhatAPanelHasWhenAnotherPartIsLookedAt)
+{
+    open();
+    auto *parts = part<QTabWidget>("parts");
+    parts->setCurrentIndex(2);
+    click("colorEnhanceButton");
+    auto *field = part<NumberField>("brightnessField");
+    field->setFocus();
+    field->selectAll();
+    QTest::keyClicks(field, u"4\t"_s);
+    ASSERT_EQ(field->value(), 4);
+    parts->setCurrentIndex(0);
+    pick("paperPopup", u"A3"_s);
+    EXPECT_EQ(field->value(), 4) << "after another paper";
+    const QStringList texts = summary();
+    EXPECT_EQ(texts.value(texts.indexOf(u"Brightness"_s) + 1), u"4"_s);
+    EXPECT_EQ(field->value(), 4) << "after the summary";
 }
 
 TEST_F(Window, TellsThePanelsWhenItsSizeChangesAndWhenItCloses)

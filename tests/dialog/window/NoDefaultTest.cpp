@@ -34,15 +34,6 @@ protected:
                 return line.mid(head.size());
         return {};
     }
-
-    QStringList summary()
-    {
-        EXPECT_TRUE(m_window->showPart(u"summary"_s));
-        QStringList texts;
-        for (const QLabel *label : part<QWidget>("summaryPane")->findChildren<QLabel *>())
-            texts += label->text();
-        return texts;
-    }
 };
 
 QByteArray printerWithoutDuplexDefault()
