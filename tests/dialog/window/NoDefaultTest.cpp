@@ -92,7 +92,7 @@ TEST_F(NoDefault, OfThePaperStaysNoneWhereTheDocumentIsScaled)
     pick("scalePopup", u"A3"_s);
     const QStringList lines = summary();
     EXPECT_FALSE(lines.contains(u"Paper"_s)) << qPrintable(lines.join(u'|'));
-    EXPECT_TRUE(lines.contains(u"Scaled to fit"_s));
+    EXPECT_TRUE(lines.contains(u"Scaled to Fit"_s));
     EXPECT_EQ(printed(u"PageSize"_s), u"A3"_s);
 }
 
