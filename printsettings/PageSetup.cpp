@@ -110,7 +110,7 @@ void VKInkPrintSetting14PDE::applyDiscMedium()
 
 QString VKInkPrintSetting14PDE::applyPaperThickness()
 {
-    const QString thickness = hasFlag(EnvelopePaper) ? u"Env"_s : u"Regular"_s;
+    QString thickness = hasFlag(EnvelopePaper) ? u"Env"_s : u"Regular"_s;
     setAndMarkValue(thickness, u"VKColorPaperThick"_s);
     return thickness;
 }

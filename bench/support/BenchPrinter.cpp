@@ -119,7 +119,7 @@ QByteArray benchPrinter(int choices)
 
 QString writeBenchPrinter(const QString &folder, int choices)
 {
-    const QString path = folder + QStringLiteral("/bench-%1.ppd").arg(choices);
+    QString path = folder + QStringLiteral("/bench-%1.ppd").arg(choices);
     QFile file(path);
     if (!file.open(QIODevice::WriteOnly) || file.write(benchPrinter(choices)) < 0) {
         qCritical("%s cannot be written", qPrintable(path));

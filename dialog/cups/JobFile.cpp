@@ -208,7 +208,7 @@ WrittenJobFile writeJobFile(const QString &path, const JobRequest &job)
     QSaveFile file(path);
     if (!file.open(kWriting))
         return outputFault(file);
-    const WrittenJobFile written = writeJob(file, job, documents.files);
+    WrittenJobFile written = writeJob(file, job, documents.files);
     if (written.fault != JobFileFault::None)
         return written;
     return file.commit() ? written : outputFault(file);

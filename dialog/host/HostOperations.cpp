@@ -46,7 +46,7 @@ bool HostSession::save(const HostPanel &panel)
 
 QVariantMap HostSession::summary(const HostPanel &panel)
 {
-    const QVariantMap summary = panel.panel->summaryInfo();
+    QVariantMap summary = panel.panel->summaryInfo();
     if (m_observer)
         m_observer->didPerform(PanelOperation::Summary, panel);
     return summary;

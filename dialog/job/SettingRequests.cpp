@@ -136,7 +136,7 @@ std::optional<QString> pickInPanel(HostSession &session, const QString &keyword,
 
 QString markByHost(PrintJob &job, const QString &keyword, const QString &choice)
 {
-    const QString clash = refusalSentence(job.ppd(), keyword, choice);
+    QString clash = refusalSentence(job.ppd(), keyword, choice);
     if (clash.isNull())
         job.mark(keyword, choice);
     return clash;
@@ -164,7 +164,7 @@ QString makeSetting(PrintJob &job, const QString &keyword, const QString &choice
         return own->take(job, choice) ? QString() : badValue(keyword, choice);
     if (keyword == "PageSize"_L1)
         return choosePaper(job, choice);
-    const QString fault = missing(job, keyword, choice);
+    QString fault = missing(job, keyword, choice);
     if (!fault.isNull())
         return fault;
     prepareControls(*job.session());
@@ -177,7 +177,7 @@ QString makeSetting(PrintJob &job, const QString &keyword, const QString &choice
         return notNow(keyword, choice);
     if (refusal.keyword != keyword || refusal.choice != choice)
         return {};
-    const QString clash = refusalSentence(job.ppd(), keyword, choice);
+    QString clash = refusalSentence(job.ppd(), keyword, choice);
     return clash.isNull() ? notNow(keyword, choice) : clash;
 }
 
@@ -189,7 +189,7 @@ QString choosePaper(PrintJob &job, const QString &paper)
     const std::optional<PMPaper> custom = parseCustomPaper(paper);
     const std::optional<CustomLimits> limits = customLimits(job.ppd());
     if (listed) {
-        const QString clash = refusalSentence(job.ppd(), u"PageSize"_s, paper);
+        QString clash = refusalSentence(job.ppd(), u"PageSize"_s, paper);
         if (clash.isNull())
             job.setPaper(*listed);
         return clash;

@@ -70,7 +70,7 @@ QString Recorder::copyPPD(QString *error)
 {
     const QFileInfo script(m_script.path());
     const QString suffix = ++m_sessions == 1 ? QString() : u'-' + QString::number(m_sessions);
-    const QString name = script.completeBaseName() + suffix + u".ppd"_s;
+    QString name = script.completeBaseName() + suffix + u".ppd"_s;
     const QString copy = script.absolutePath() + u'/' + name;
     const QString original = m_session->options().ppdPath;
     if (QFileInfo(copy) == QFileInfo(original))

@@ -226,7 +226,7 @@ const std::vector<EventRule> &eventRules()
 QString faultOf(const QJsonObject &line, const EventRule &rule)
 {
     static constexpr ScriptField answers[] = {{"answers", AnswerList, kOptional}};
-    const QString fault = checkFields(line, rule.fields);
+    QString fault = checkFields(line, rule.fields);
     if (!fault.isNull())
         return fault;
     if (rule.make == pickOf && !line.contains("choice"_L1) && !line.contains("checked"_L1))

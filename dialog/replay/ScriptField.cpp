@@ -146,7 +146,7 @@ QString checkField(const QJsonObject &object, const ScriptField &field)
 QString checkFields(const QJsonObject &object, std::span<const ScriptField> fields)
 {
     for (const ScriptField &field : fields) {
-        const QString fault = checkField(object, field);
+        QString fault = checkField(object, field);
         if (!fault.isNull())
             return fault;
     }

@@ -55,7 +55,7 @@ void setByUser(QAbstractButton &button, bool checked)
 QString pickChoice(const PDEPanelInspection &panel, const QString &control, const QString &choice)
 {
     QWidget *found = controlNamed(panel, control);
-    const QString reason = reasonNotToUse(found, control);
+    QString reason = reasonNotToUse(found, control);
     if (!reason.isNull())
         return reason;
     if (auto *popup = qobject_cast<PopUpButton *>(found)) {
@@ -77,7 +77,7 @@ QString pickChoice(const PDEPanelInspection &panel, const QString &control, cons
 QString pickChecked(const PDEPanelInspection &panel, const QString &control, bool checked)
 {
     QWidget *found = controlNamed(panel, control);
-    const QString reason = reasonNotToUse(found, control);
+    QString reason = reasonNotToUse(found, control);
     if (!reason.isNull())
         return reason;
     auto *button = qobject_cast<QAbstractButton *>(found);
@@ -90,7 +90,7 @@ QString pickChecked(const PDEPanelInspection &panel, const QString &control, boo
 QString foldSection(const PDEPanelInspection &panel, bool open)
 {
     auto *button = qobject_cast<QAbstractButton *>(controlNamed(panel, kOptionButton));
-    const QString reason = reasonNotToUse(button, kOptionButton);
+    QString reason = reasonNotToUse(button, kOptionButton);
     if (reason.isNull() && button->isChecked() != open)
         button->click();
     return reason;

@@ -5,7 +5,7 @@
 #include <cups/ppd.h>
 
 class PMPrintSettings;
-class PMPageFormat;
+struct PMPageFormat;
 
 /// What a print dialog may or may not offer to its panels.
 enum class HostOperation {

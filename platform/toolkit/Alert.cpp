@@ -124,7 +124,7 @@ AlertResult runAlert(const AlertContent &content)
     box->exec();
     if (!box)
         return {answerOfDismissal(content), false};
-    const AlertResult result = resultOf(*box, content);
+    AlertResult result = resultOf(*box, content);
     delete box;
     return result;
 }

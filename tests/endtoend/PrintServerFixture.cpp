@@ -32,7 +32,7 @@ void PrintServerFixture::SetUp()
 
 QString PrintServerFixture::pdf(const QString &name)
 {
-    const QString path = m_folder.filePath(name);
+    QString path = m_folder.filePath(name);
     QPdfWriter writer(path);
     QPainter painter(&writer);
     painter.drawRect(100, 100, 500, 500);

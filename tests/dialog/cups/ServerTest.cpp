@@ -51,7 +51,7 @@ protected:
 
     QString document(const QByteArray &text)
     {
-        const QString path = m_folder.filePath(u"document%1.ps"_s.arg(++m_documents));
+        QString path = m_folder.filePath(u"document%1.ps"_s.arg(++m_documents));
         writeFile(path, "%!PS-Adobe-3.0\n%%Pages: 1\n%%EndComments\n%%Page: 1 1\n% " + text +
                             "\nshowpage\n%%EOF\n");
         return path;
