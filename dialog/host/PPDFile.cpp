@@ -11,9 +11,11 @@ namespace {
 // The largest PPDs of real printers have a few hundred kilobytes.
 constexpr qint64 kLargestPPD = 16LL * 1024 * 1024;
 
-QString sentence(const char *text, const QString &path)
+// All at once: a path may itself have a "%2" in it.
+template <typename... Rest>
+QString sentence(const char *text, const QString &path, const Rest &...rest)
 {
-    return QCoreApplication::translate("PPDFile", text).arg(path);
+    return QCoreApplication::translate("PPDFile", text).arg(path, rest...);
 }
 
 QString reasonNotToRead(const QString &path)
@@ -35,12 +37,9 @@ QString parserError(const QString &path)
     int line = 0;
     const QString reason = QString::fromUtf8(ppdErrorString(ppdLastError(&line)));
     if (line == 0)
-        return sentence(QT_TRANSLATE_NOOP("PPDFile", "%1 is not a PPD file (%2)."), path)
-            .arg(reason);
+        return sentence(QT_TRANSLATE_NOOP("PPDFile", "%1 is not a PPD file (%2)."), path, reason);
     return sentence(QT_TRANSLATE_NOOP("PPDFile", "%1 is not a usable PPD file (line %2: %3)."),
-                    path)
-        .arg(line)
-        .arg(reason);
+                    path, QString::number(line), reason);
 }
 
 // A cut within the comments at the beginning leaves a PPD that says nothing.

@@ -47,7 +47,7 @@ bool print(const QByteArray &line)
 ExitStatus runLines(QFile &file, const QString &name, const QDir &folder, ReplaySession &session)
 {
     for (int number = 1;; ++number) {
-        const QString place = u"%1, line %2: "_s.arg(name).arg(number);
+        const QString place = u"%1, line %2: "_s.arg(name, QString::number(number));
         const QByteArray text = file.readLine();
         if (text.isEmpty() && file.error() != QFileDevice::NoError)
             return fail(place + file.errorString());

@@ -84,6 +84,17 @@ TEST(PPDFile, AMissingFileIsSaidToBeMissing)
     EXPECT_EQ(opened.error, u"The PPD file /nowhere/the.ppd does not exist."_s);
 }
 
+TEST(PPDFile, APathWithPercentSignsIsNamedAsItIs)
+{
+    const QTemporaryDir folder;
+    const QString path = folder.filePath(u"100%2 %3.ppd"_s);
+    writeFile(path, "Hello\n");
+    EXPECT_EQ(openPPD(path).error,
+              path + u" is not a usable PPD file (line 1: Missing asterisk in column 1)."_s);
+    writeFile(path, "");
+    EXPECT_EQ(openPPD(path).error, path + u" is not a PPD file (Missing PPD-Adobe-4.x header)."_s);
+}
+
 TEST(PPDFile, AFolderAndAPipeAreNoPPDs)
 {
     const QTemporaryDir folder;

@@ -160,6 +160,13 @@ TEST_F(ReplayProgram, ALineBreakInANameStaysOnOneLine)
                   path(u"a b.ppd"_s)));
 }
 
+TEST_F(ReplayProgram, AScriptWithAPercentSignIsNamedAsItIs)
+{
+    writeFile(path(u"100%2.jsonl"_s), "{\"do\": \"dance\"}\n");
+    const Result result = runProgram({u"--replay"_s, u"100%2.jsonl"_s}, m_folder.path());
+    EXPECT_EQ(result.error, u"velkaro-print: 100%2.jsonl, line 1: there is no event \"dance\"\n"_s);
+}
+
 TEST_F(ReplayProgram, APPDThatCannotBeOpenedEndsTheScript)
 {
     writeFile(path(u"rubbish.ppd"_s), QByteArray("\xfe\xff\x80\n\x90\n"));
