@@ -40,8 +40,7 @@ struct PrintAnswer
 ///   2. start() creates the panels and has them restore their values;
 ///   3. the operations, in any order, on the main thread;
 ///   4. close() releases the panels; the PPD's marks and the ticket can still be read. Destroying
-///   the
-///      session closes it.
+///      the session closes it.
 ///
 /// Notifications that the session posts have the callback object (notificationObject()) as their
 /// object, as the panels' own have.
