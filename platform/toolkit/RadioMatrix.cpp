@@ -2,12 +2,14 @@
 
 #include "platform/toolkit/PlainText.h"
 
+#include <QtWidgets/QButtonGroup>
 #include <QtWidgets/QRadioButton>
 #include <QtWidgets/QVBoxLayout>
 
 #include <algorithm>
 
-RadioMatrix::RadioMatrix(QWidget *parent) : QWidget(parent), m_layout(new QVBoxLayout(this))
+RadioMatrix::RadioMatrix(QWidget *parent)
+    : QWidget(parent), m_layout(new QVBoxLayout(this)), m_group(new QButtonGroup(this))
 {
     m_layout->setContentsMargins(0, 0, 0, 0);
     m_layout->setSpacing(2);
@@ -25,6 +27,8 @@ void RadioMatrix::addRow()
 {
     auto *button = new QRadioButton(this);
     m_layout->addWidget(button);
+    // Without a group, a click on the only cell of a matrix would take its selection away.
+    m_group->addButton(button);
     connect(button, &QRadioButton::clicked, this, &RadioMatrix::cellClicked);
     m_cells.push_back({button, QString()});
 }

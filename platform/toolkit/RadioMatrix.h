@@ -7,6 +7,7 @@
 
 #include <vector>
 
+class QButtonGroup;
 class QRadioButton;
 class QVBoxLayout;
 
@@ -64,5 +65,6 @@ private:
     };
 
     QVBoxLayout *m_layout;
+    QButtonGroup *m_group;
     std::vector<Cell> m_cells;
 };

@@ -145,6 +145,17 @@ TEST_F(RadioMatrixTest, SaysAClickAlsoOnTheSelectedCell)
     EXPECT_EQ(matrix.selectedObject(), u"a"_s);
 }
 
+TEST_F(RadioMatrixTest, KeepsItsOnlyCellSelectedWhenItIsClickedAgain)
+{
+    fill({u"a"_s, u"b"_s});
+    matrix.removeRow(1);
+    matrix.selectObject(u"a"_s);
+    QSignalSpy clicks(&matrix, &RadioMatrix::cellClicked);
+    matrix.pick(0);
+    EXPECT_EQ(clicks.size(), 1);
+    EXPECT_EQ(matrix.selectedObject(), u"a"_s);
+}
+
 TEST_F(RadioMatrixTest, SaysAPickWithTheArrowKeys)
 {
     fill({u"a"_s, u"b"_s});
