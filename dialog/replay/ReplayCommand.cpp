@@ -81,8 +81,9 @@ int runReplay(const QString &script, const QString &bundlePath)
 
 int runReplayCommand(int &argc, char **argv, const QString &script, const QString &bundlePath)
 {
-    if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM"))
-        qputenv("QT_QPA_PLATFORM", "offscreen");
+    // Whatever a desktop's session names: its display may be out of reach, which Qt does not
+    // survive.
+    qputenv("QT_QPA_PLATFORM", "offscreen");
     const QApplication application(argc, argv);
     return runReplay(script, bundlePath);
 }

@@ -11,6 +11,5 @@
 /// The exit status: 0, or 2 when the script cannot be read or is faulty, or a PPD cannot be opened.
 int runReplay(const QString &script, const QString &bundlePath = QString());
 
-/// The same with the program's own QApplication, without a display unless QT_QPA_PLATFORM names
-/// one.
+/// The same with the program's own QApplication, which needs no display.
 int runReplayCommand(int &argc, char **argv, const QString &script, const QString &bundlePath);

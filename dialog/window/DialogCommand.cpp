@@ -65,7 +65,8 @@ int runDialogCommand(int &argc, char **argv, const CommandLine &line)
     const bool showsWindow = !line.noDialog && line.screenshot.isNull();
     if (showsWindow && !hasDisplay())
         return refuseToShow(argc, argv);
-    if (!showsWindow && !qEnvironmentVariableIsSet("QT_QPA_PLATFORM"))
+    // Whatever a desktop's session names: its display may be out of reach.
+    if (!showsWindow)
         qputenv("QT_QPA_PLATFORM", "offscreen");
     QApplication application(argc, argv);
     QApplication::setApplicationName(QStringLiteral("velkaro-print"));

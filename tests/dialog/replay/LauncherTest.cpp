@@ -1,5 +1,7 @@
 // The program's own answers, before anything of the dialog is loaded and after.
 #include "dialog/commandline/HelpText.h"
+#include "tests/support/Files.h"
+#include "tests/support/SmallPrinter.h"
 
 #include <QtCore/QDir>
 #include <QtCore/QFile>
@@ -22,14 +24,16 @@ struct Result
 };
 
 Result runProgram(const QString &program, const QStringList &arguments,
-                  const QString &language = u"en"_s)
+                  const QMap<QString, QString> &variables = {})
 {
     QProcess process;
     auto environment = QProcessEnvironment::systemEnvironment();
-    environment.insert(u"LANGUAGE"_s, language);
+    environment.insert(u"LANGUAGE"_s, u"en"_s);
     environment.insert(u"LC_ALL"_s, u"C.UTF-8"_s);
     for (const QString &display : {u"DISPLAY"_s, u"WAYLAND_DISPLAY"_s, u"QT_QPA_PLATFORM"_s})
         environment.remove(display);
+    for (auto variable = variables.cbegin(); variable != variables.cend(); ++variable)
+        environment.insert(variable.key(), variable.value());
     process.setProcessEnvironment(environment);
     process.start(program, arguments);
     EXPECT_TRUE(process.waitForFinished());
@@ -66,7 +70,8 @@ TEST(Launcher, RefusesAnUnknownOption)
 
 TEST(Launcher, RefusesInTheUsersLanguage)
 {
-    const Result result = runProgram(QStringLiteral(PROGRAM), {u"--nonsense"_s}, u"ja"_s);
+    const Result result =
+        runProgram(QStringLiteral(PROGRAM), {u"--nonsense"_s}, {{u"LANGUAGE"_s, u"ja"_s}});
     EXPECT_EQ(result.status, 2);
     EXPECT_EQ(result.error, "velkaro-print: --nonsense というオプションはありません。\n");
 }
@@ -77,6 +82,27 @@ TEST(Launcher, SaysSoWhenThereIsNoDisplayForTheDialog)
     EXPECT_EQ(result.status, 2);
     EXPECT_EQ(result.error, "velkaro-print: There is no display for the dialog; --no-dialog prints "
                             "without it.\n");
+}
+
+TEST(Launcher, NeedsNoDisplayWhereNoWindowIsShown)
+{
+    const QTemporaryDir folder;
+    const QString ppd = folder.filePath(u"small.ppd"_s);
+    const QString script = folder.filePath(u"the.jsonl"_s);
+    writeFile(ppd, smallPrinter().text());
+    writeFile(script, "{\"do\": \"open\", \"ppd\": \"small.ppd\"}\n");
+    const QMap<QString, QString> desktop = {{u"QT_QPA_PLATFORM"_s, u"xcb"_s},
+                                            {u"DISPLAY"_s, u":12345"_s}};
+    const QStringList cases[] = {
+        {u"--replay"_s, script},
+        {u"--ppd"_s, ppd, u"--screenshot"_s, folder.filePath(u"dialog.png"_s)},
+        {u"--ppd"_s, ppd, u"--no-dialog"_s, u"--output"_s, folder.filePath(u"job"_s), ppd},
+    };
+    for (const QStringList &arguments : cases) {
+        const Result result = runProgram(QStringLiteral(PROGRAM), arguments, desktop);
+        EXPECT_EQ(result.status, 0) << arguments.join(u' ').toStdString();
+        EXPECT_EQ(result.error, "");
+    }
 }
 
 TEST(Launcher, SaysSoWhenTheInstallationIsIncomplete)
