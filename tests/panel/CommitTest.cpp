@@ -58,6 +58,13 @@ TEST_F(CommitTest, AsksForAKeywordThatHasNoPendingValueYet)
     EXPECT_EQ(pending(u"VKOutput"_s), u"FAX"_s);
 }
 
+TEST_F(CommitTest, AsksForAnEmptyNameWhereNothingIsPending)
+{
+    createPanel();
+    EXPECT_FALSE(panel->setAndMarkValue(u""_s, u"VKOutput"_s));
+    EXPECT_EQ(calls, QStringList{u"!VKOutput="_s});
+}
+
 TEST_F(CommitTest, RefreshesNoControlForAProgramsChoice)
 {
     showPanel();

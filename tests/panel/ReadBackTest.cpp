@@ -252,6 +252,14 @@ TEST_F(ReadBackTest, RecordsAChoiceMadeElsewhereBeforeTheViewIsLoaded)
     EXPECT_TRUE(calls.isEmpty());
 }
 
+TEST_F(ReadBackTest, ShowsAChoiceMadeElsewhereInAViewWhoseControlsAreNotBuiltYet)
+{
+    createPanel();
+    ASSERT_NE(panel->panelView(), nullptr);
+    panel->PPDOptionKeyValueDidChange(u"VKBiDir"_s, u"ON"_s);
+    EXPECT_TRUE(panel->biDirButton->isChecked());
+}
+
 struct ForeignCase
 {
     const char *behaviour;

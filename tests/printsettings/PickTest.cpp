@@ -68,6 +68,21 @@ TEST_F(Picks, ARefusedMediumIsPutBackWithItsDefaultQuality)
     EXPECT_EQ(itemsOf(popup(u"resolutionPopup"_s)), u"PlainFast PlainNormal* High Best"_s);
 }
 
+// The default of a glossy disc is none of its qualities: it is offered, then what the pop-up shows.
+TEST_F(Picks, ARefusedMediumOnAGlossyDiscOffersTheDefaultAndThenTheQualityShown)
+{
+    session->changePaper(u"120x120mm"_s);
+    pick(u"mediaTypePopup"_s, u"GlossyPrintableDisc"_s);
+    log();
+    session->host()->setRefused({u"VKMediaType"_s});
+    pick(u"mediaTypePopup"_s, u"PrintableDisc"_s);
+    EXPECT_EQ(log(),
+              QStringList({u"VKMediaType=PrintableDisc refused"_s, u"natural YES"_s,
+                           u"natural YES"_s, u"VKResolution=Photo"_s, u"VKResolution=DiscNormal"_s,
+                           u"natural YES"_s, u"natural YES"_s}));
+    EXPECT_EQ(panel->pending(), u"GlossyPrintableDisc/DiscNormal"_s);
+}
+
 // --- Quality and its alert -----------------------------------------------------------------------
 
 TEST_F(Picks, TheBestQualityOfPlainPaperRaisesNoAlert)
