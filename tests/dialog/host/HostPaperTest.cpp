@@ -28,6 +28,21 @@ TEST(HostPaper, WithoutADimensionHasNoSize)
     EXPECT_EQ(paper->height, 0);
 }
 
+TEST(HostPaper, OfTheUsersOwnSizeHasNoNameInThePPD)
+{
+    const PPDHandle ppd =
+        openText(smallPrinter().text() + "*VariablePaperSize: True\n*MaxMediaWidth: \"900\"\n"
+                                         "*MaxMediaHeight: \"1300\"\n*HWMargins: 0 0 0 0\n"
+                                         "*CustomPageSize True: \"pop pop pop pop pop\"\n"
+                                         "*ParamCustomPageSize Width: 1 points 100 900\n"
+                                         "*ParamCustomPageSize Height: 2 points 150 1300\n");
+    ASSERT_TRUE(forceChoice(ppd.get(), u"PageSize"_s, u"Custom"_s));
+    const auto paper = markedPaper(ppd.get());
+    ASSERT_TRUE(paper);
+    EXPECT_EQ(paper->name, u"Custom"_s);
+    EXPECT_TRUE(paper->ppdName.isNull());
+}
+
 TEST(HostPaper, IsNoneWithoutAMarkedPageSize)
 {
     const PPDHandle ppd = PPDSource().option("SheetSize", {"A4"}).open();

@@ -20,6 +20,17 @@ QStringList difference(const QJsonValue &expected, const QJsonValue &actual, con
     return {path + u": expected "_s + textOf(expected) + u", got "_s + textOf(actual)};
 }
 
+QStringList missingMember(const QString &name, const QJsonValue &expected, const QJsonValue &actual,
+                          const QString &path)
+{
+    if (!name.startsWith(u'!'))
+        return missingParts(expected, actual[name], path + name);
+    const QString unwanted = name.mid(1);
+    const QJsonValue found = actual[unwanted];
+    return found.isUndefined() ? QStringList()
+                               : difference(QJsonValue::Undefined, found, path + unwanted);
+}
+
 } // namespace
 
 QStringList missingParts(const QJsonValue &expected, const QJsonValue &actual, const QString &path)
@@ -28,8 +39,7 @@ QStringList missingParts(const QJsonValue &expected, const QJsonValue &actual, c
     if (expected.isObject() && actual.isObject()) {
         const QJsonObject members = expected.toObject();
         for (auto member = members.begin(); member != members.end(); ++member)
-            missing +=
-                missingParts(member.value(), actual[member.key()], path + u'/' + member.key());
+            missing += missingMember(member.key(), member.value(), actual, path + u'/');
     } else if (expected.isArray() && actual.isArray()) {
         const QJsonArray items = expected.toArray();
         if (items.size() != actual.toArray().size())
