@@ -105,6 +105,22 @@ TEST(Launcher, NeedsNoDisplayWhereNoWindowIsShown)
     }
 }
 
+TEST(Launcher, ReplaysTheSameInEveryUsersLanguage)
+{
+    const QTemporaryDir folder;
+    const QString script = folder.filePath(u"the.jsonl"_s);
+    writeFile(folder.filePath(u"the.ppd"_s), sampleText(u"velkaro-px-t900"_s));
+    writeFile(script, "{\"do\": \"open\", \"ppd\": \"the.ppd\"}\n"
+                      "{\"do\": \"show\", \"panel\": \"print\"}\n"
+                      "{\"do\": \"summary\", \"panel\": \"print\"}\n");
+    const QMap<QString, QString> japanese = {{u"LC_ALL"_s, u"ja_JP.UTF-8"_s},
+                                             {u"LANGUAGE"_s, u"ja"_s}};
+    const QStringList arguments{u"--replay"_s, script};
+    const Result here = runProgram(QStringLiteral(PROGRAM), arguments);
+    EXPECT_THAT(here.output, testing::HasSubstr("\"Media Type\":\"Plain Paper\""));
+    EXPECT_EQ(runProgram(QStringLiteral(PROGRAM), arguments, japanese).output, here.output);
+}
+
 TEST(Launcher, SaysSoWhenTheInstallationIsIncomplete)
 {
     const QTemporaryDir folder;
