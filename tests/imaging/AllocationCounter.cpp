@@ -42,9 +42,11 @@ namespace {
 // The program's malloc stands before the C library's for every library of the process; operator
 // new ends here too.
 extern "C" {
+// NOLINTBEGIN(bugprone-reserved-identifier): the C library's own names
 void *__libc_malloc(std::size_t size);
 void *__libc_calloc(std::size_t members, std::size_t size);
 void *__libc_realloc(void *block, std::size_t size);
+// NOLINTEND(bugprone-reserved-identifier)
 
 void *malloc(std::size_t size) noexcept
 {

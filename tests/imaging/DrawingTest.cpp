@@ -131,13 +131,13 @@ TEST(DrawingTarget, BecomesNullWithoutAnImage)
 TEST(DrawingTarget, WithGapsBetweenItsRowsIsDrawnRowByRow)
 {
     const QImage source = noise({31, 17}, QImage::Format_RGB32);
-    std::vector<uchar> memory(17 * 200, uchar(7));
+    std::vector<uchar> memory(17UL * 200, uchar(7));
     QImage target(memory.data(), 31, 17, 200, QImage::Format_RGB32);
 
     CIContext().drawImage(CIImage::imageWithPicture(source), target);
 
     EXPECT_EQ(target, source);
-    EXPECT_EQ(memory[31 * 4], 7) << "wrote beyond the end of a row";
+    EXPECT_EQ(memory[31UL * 4], 7) << "wrote beyond the end of a row";
 }
 
 TEST(DrawnPicture, OfEveryWidthHasItsLastPixel)

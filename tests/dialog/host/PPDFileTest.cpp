@@ -15,11 +15,11 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// The first `length` bytes of a good PPD.
-QByteArray cut(const char *after)
+/// A good PPD up to and with the text.
+QByteArray cut(const QByteArray &after)
 {
     const QByteArray whole = smallPrinter().text();
-    return whole.left(whole.indexOf(after) + qstrlen(after));
+    return whole.left(whole.indexOf(after) + after.size());
 }
 
 struct BadPPD
@@ -74,7 +74,7 @@ INSTANTIATE_TEST_SUITE_P(
         BadPPD{"CutInAValue", cut("*NickName: \"Velkaro"), kIncomplete},
         BadPPD{"CutInAChoice", cut("*Finish Shiny/Shiny: \""), kIncomplete},
         BadPPD{"CutBetweenChoices", cut("*Finish Matt/Matt: \"\"\n"), kIncomplete},
-        BadPPD{"TooLarge", QByteArray(50 * 1024 * 1024, '\n'), "The PPD file %1 is too large."}),
+        BadPPD{"TooLarge", QByteArray(50LL * 1024 * 1024, '\n'), "The PPD file %1 is too large."}),
     [](const auto &testCase) { return std::string(testCase.param.name); });
 
 TEST(PPDFile, AMissingFileIsSaidToBeMissing)
