@@ -12,7 +12,7 @@ constexpr int kRuns = 41;
 
 std::string writeScript(const std::string &folder)
 {
-    const std::string path = folder + "/startup.jsonl";
+    std::string path = folder + "/startup.jsonl";
     std::ofstream script(path);
     script << R"({"do": "open", "ppd": ")" << SAMPLE_PPD << "\"}\n"
            << R"({"do": "show", "panel": "print"})" << '\n'

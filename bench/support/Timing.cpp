@@ -21,15 +21,14 @@ double timeStep(const Contender &contender)
 
 double medianOfRound(const Contender &contender, int steps)
 {
-    std::vector<double> times;
-    for (int step = 0; step < steps; ++step)
-        times.push_back(timeStep(contender));
+    std::vector<double> times(static_cast<std::size_t>(steps));
+    std::ranges::generate(times, [&contender] { return timeStep(contender); });
     return median(times);
 }
 
 } // namespace
 
-void compare(std::vector<Contender *> contenders, int rounds, int steps)
+void compare(const std::vector<Contender *> &contenders, int rounds, int steps)
 {
     for (Contender *contender : contenders)
         contender->microseconds = std::numeric_limits<double>::infinity();

@@ -15,7 +15,7 @@ struct Contender
 /// which every contender is timed `steps` times. A contender's figure is the lowest median of a
 /// round: the median leaves out the strays within a round, the lowest one the rounds in which
 /// somebody else had the machine.
-void compare(std::vector<Contender *> contenders, int rounds, int steps);
+void compare(const std::vector<Contender *> &contenders, int rounds, int steps);
 
 /// Prints one row: what was compared, both figures, their ratio, and how far it may reach. The
 /// answer says whether it is within reach.

@@ -56,10 +56,11 @@ int freePort()
     address.sin_family = AF_INET;
     address.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
     socklen_t length = sizeof address;
-    bind(descriptor, reinterpret_cast<sockaddr *>(&address), length);
-    getsockname(descriptor, reinterpret_cast<sockaddr *>(&address), &length);
+    auto *generic = reinterpret_cast<sockaddr *>(&address);
+    const bool bound =
+        bind(descriptor, generic, length) == 0 && getsockname(descriptor, generic, &length) == 0;
     close(descriptor);
-    return ntohs(address.sin_port);
+    return bound ? ntohs(address.sin_port) : 0;
 }
 
 PrintServer::PrintServer() : m_port(freePort())

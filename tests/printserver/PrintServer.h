@@ -54,5 +54,5 @@ private:
     int m_port = 0;
 };
 
-/// A port of the loopback where nobody listens.
+/// A port of the loopback where nobody listens; 0 when the machine gives none.
 int freePort();

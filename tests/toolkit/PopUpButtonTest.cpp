@@ -180,6 +180,7 @@ TEST_F(PopUpButtonTest, IsAsWideForManyLongChoicesAsForFew)
 {
     const QSize before = popup.sizeHint();
     std::vector<PopUpButton::Item> items;
+    items.reserve(500);
     for (int number = 0; number < 500; ++number)
         items.push_back({QString(200, u'W'), QString::number(number), {}});
     popup.setItems(items);
