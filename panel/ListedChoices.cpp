@@ -17,7 +17,7 @@ std::vector<PopUpButton::Item> listedChoices(const ppd_option_t &option)
         const QString name = ppdName(choice.choice);
         const QString text = ppdText(choice.text);
         if (isListedChoice(name, text))
-            items.push_back({text, name, {}});
+            items.push_back({text, name});
     }
     return items;
 }

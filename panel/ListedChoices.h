@@ -10,5 +10,5 @@
 /// shorter than that does not), and not "PlainDuplex", which stands behind plain paper.
 bool isListedChoice(const QString &name, const QString &text);
 
-/// The items of a pop-up for the option, in the order of the PPD, without pictures.
+/// The items of a pop-up for the option, in the order of the PPD.
 std::vector<PopUpButton::Item> listedChoices(const ppd_option_t &option);

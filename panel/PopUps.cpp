@@ -91,12 +91,15 @@ void VKPrintQualityPDE::buildPopUp(PopUpButton &popup, const QString &keyword)
     if (QWidget *label = determineLabel(keyword))
         label->setVisible(true);
     titleLabel(keyword, ppdText(option->text));
-    auto items = listedChoices(*option);
-    for (PopUpButton::Item &item : items) {
-        if (tagOf(&popup) == kTagTitlesInContent && effectContent)
+    const auto items = listedChoices(*option);
+    if (popup.tag() == kTagTitlesInContent && effectContent) {
+        for (const PopUpButton::Item &item : items)
             effectContent->setValue(item.representedObject, item.title);
-        if (tagOf(&popup) == kTagPictures && pluginBundle)
-            item.picture = pluginBundle->pathForResource(item.representedObject, u"tiff"_s);
+    }
+    if (popup.tag() == kTagPictures && pluginBundle) {
+        popup.setPictures([bundle = pluginBundle](const QString &choice) {
+            return bundle->pathForResource(choice, u"tiff"_s);
+        });
     }
     popup.setItems(items);
 }

@@ -55,7 +55,7 @@ void VKInkPrintSetting14PDE::rebuildQualities(PopUpButton &popup, const QStringL
     for (const QString &quality : qualities) {
         const QVariant title = effectContent ? effectContent->value(quality) : QVariant();
         if (title.isValid())
-            items.push_back({title.toString(), quality, {}});
+            items.push_back({title.toString(), quality});
     }
     popup.setItems(items);
 }

@@ -30,7 +30,7 @@ std::vector<PopUpButton::Item> itemsOf(const ppd_option_t *option)
     std::vector<PopUpButton::Item> items;
     for (int index = 0; option && index < option->num_choices; ++index) {
         const ppd_choice_t &choice = option->choices[index];
-        items.push_back({displayText(ppdText(choice.text)), ppdName(choice.choice), {}});
+        items.push_back({displayText(ppdText(choice.text)), ppdName(choice.choice)});
     }
     return items;
 }
@@ -115,7 +115,7 @@ void PageSetupPane::addPaper(QFormLayout *form)
     const std::optional<CustomLimits> limits = customLimits(m_job.ppd());
     std::vector<PopUpButton::Item> items = paperItems(m_job.ppd());
     if (limits)
-        items.push_back({tr("Custom Size"), kCustom, {}});
+        items.push_back({tr("Custom Size"), kCustom});
     m_paper = newPopUp(u"paperPopup"_s);
     m_paper->setItems(items);
     form->addRow(tr("&Paper:"), m_paper);
@@ -193,7 +193,7 @@ void PageSetupPane::addOrientation(QFormLayout *form)
 void PageSetupPane::addScaling(QFormLayout *form)
 {
     std::vector<PopUpButton::Item> items = paperItems(m_job.ppd());
-    items.insert(items.begin(), {tr("Do Not Scale"), QString(), {}});
+    items.insert(items.begin(), {tr("Do Not Scale"), QString()});
     PopUpButton *popup = newPopUp(u"scalePopup"_s);
     popup->setItems(items);
     popup->selectObject(m_job.mappedPaper());

@@ -73,14 +73,14 @@ void PrinterPopUp::fill()
 {
     std::vector<PopUpButton::Item> items;
     for (const Destination &destination : m_destinations)
-        items.push_back({titleOf(destination), keyOf(destination.name), {}});
+        items.push_back({titleOf(destination), keyOf(destination.name)});
     const QString current = keyOf(m_current);
     const bool isListed = std::ranges::any_of(
         items, [&](const PopUpButton::Item &item) { return item.representedObject == current; });
     if (!isListed) {
         const QString title = m_currentTitle.isEmpty() ? current : m_currentTitle;
         items.insert(items.begin(),
-                     {title.isEmpty() ? tr("No printer") : displayText(title), current, {}});
+                     {title.isEmpty() ? tr("No printer") : displayText(title), current});
     }
     m_popup->setItems(items);
     m_popup->selectObject(current);

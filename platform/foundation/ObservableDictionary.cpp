@@ -26,7 +26,6 @@ void ObservableDictionary::setValue(const QString &key, const QVariant &value)
 {
     Entry &entry = entryOf(key);
     entry.m_value = value;
-    entry.m_isTrue = value.toBool();
     for (const Observer &observer : entry.m_observers)
         observer();
 }

@@ -26,12 +26,11 @@ public:
         /// Invalid when nothing does.
         const QVariant &value() const { return m_value; }
         /// The boolean value; false when nothing does.
-        bool isTrue() const { return m_isTrue; }
+        bool isTrue() const { return m_value.toBool(); }
 
     private:
         friend class ObservableDictionary;
         QVariant m_value;
-        bool m_isTrue = false;
         std::vector<Observer> m_observers;
     };
 

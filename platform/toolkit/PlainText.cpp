@@ -6,6 +6,11 @@
 
 namespace {
 
+bool isPrintableAscii(QChar character)
+{
+    return character.unicode() >= 0x20 && character.unicode() < 0x7F;
+}
+
 // Whatever breaks or ends a line, or rings a bell.
 bool isControl(QChar character)
 {
@@ -26,9 +31,8 @@ bool turnsDirection(QChar character)
 
 QString displayText(const QString &text)
 {
-    // Nearly every text is fine, and a printer may have thousands of them.
-    if (std::none_of(text.begin(), text.end(), isControl) &&
-        std::none_of(text.begin(), text.end(), turnsDirection))
+    // A printer may have thousands of texts.
+    if (std::all_of(text.begin(), text.end(), isPrintableAscii))
         return text;
     QString shown = text;
     std::replace_if(shown.begin(), shown.end(), isControl, u' ');

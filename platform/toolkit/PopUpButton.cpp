@@ -6,6 +6,8 @@
 #include <QtWidgets/QStyle>
 #include <QtWidgets/QStyleOptionComboBox>
 
+#include <utility>
+
 namespace {
 
 constexpr int kContentsLength = 12; // characters: wide enough for an ordinary choice
@@ -39,6 +41,11 @@ void PopUpButton::setItems(const std::vector<Item> &items)
 {
     m_items->setItems(items);
     setCurrentIndex(items.empty() ? -1 : 0);
+}
+
+void PopUpButton::setPictures(PictureOf pictureOf)
+{
+    m_items->setPictures(std::move(pictureOf));
 }
 
 int PopUpButton::indexOfRepresentedObject(const QString &object) const

@@ -5,6 +5,7 @@
 #include <QtCore/QString>
 #include <QtWidgets/QComboBox>
 
+#include <functional>
 #include <vector>
 
 class PopUpModel;
@@ -24,14 +25,20 @@ public:
     {
         QString title;
         QString representedObject;
-        QString picture; ///< path of the picture before the title; null: none
     };
+
+    /// The path of the picture before the title of the item with the represented object; null:
+    /// none.
+    using PictureOf = std::function<QString(const QString &representedObject)>;
 
     explicit PopUpButton(QWidget *parent = nullptr);
 
-    /// Replaces all items; the first one is then selected. All items are enabled. A picture is read
-    /// when it is first drawn: of a closed list that is the selected item's only.
+    /// Replaces all items; the first one is then selected. All items are enabled.
     void setItems(const std::vector<Item> &items);
+
+    /// For the items that come after. A picture is looked for when it is first drawn: of a closed
+    /// list that is the selected item's only.
+    void setPictures(PictureOf pictureOf);
 
     /// The index of the first item with the represented object, or title; -1 when there is none.
     int indexOfRepresentedObject(const QString &object) const;

@@ -5,6 +5,7 @@
 #include <QtGui/QPixmap>
 
 #include <algorithm>
+#include <utility>
 
 void PopUpModel::setItems(const std::vector<PopUpButton::Item> &items)
 {
@@ -20,6 +21,11 @@ void PopUpModel::setItems(const std::vector<PopUpButton::Item> &items)
         m_rows.push_back({item});
     }
     endResetModel();
+}
+
+void PopUpModel::setPictures(PopUpButton::PictureOf pictureOf)
+{
+    m_pictureOf = std::move(pictureOf);
 }
 
 const PopUpModel::Row *PopUpModel::rowAt(int row) const
@@ -42,10 +48,12 @@ int PopUpModel::rowOfTitle(const QString &title) const
     return row == m_rows.end() ? -1 : static_cast<int>(row - m_rows.begin());
 }
 
-const QIcon &PopUpModel::iconOf(const Row &row)
+const QIcon &PopUpModel::iconOf(const Row &row) const
 {
-    if (!row.icon)
-        row.icon = QIcon(QPixmap::fromImage(imaging::readPicture(row.item.picture)));
+    if (!row.icon) {
+        const QString path = m_pictureOf ? m_pictureOf(row.item.representedObject) : QString();
+        row.icon = path.isNull() ? QIcon() : QIcon(QPixmap::fromImage(imaging::readPicture(path)));
+    }
     return *row.icon;
 }
 

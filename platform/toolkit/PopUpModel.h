@@ -19,6 +19,9 @@ public:
     /// Replaces all items, all of them enabled.
     void setItems(const std::vector<PopUpButton::Item> &items);
 
+    /// See PopUpButton::setPictures().
+    void setPictures(PopUpButton::PictureOf pictureOf);
+
     /// The row of the first item with the represented object or title; -1 without one. No item is
     /// found by a null object.
     int rowOfObject(const QString &object) const;
@@ -43,10 +46,11 @@ private:
         mutable std::optional<QIcon> icon = std::nullopt; ///< none until it is first drawn
     };
 
-    static const QIcon &iconOf(const Row &row);
+    const QIcon &iconOf(const Row &row) const;
 
     const Row *rowAt(int row) const;
 
     std::vector<Row> m_rows;
     QHash<QString, int> m_rowOfObject;
+    PopUpButton::PictureOf m_pictureOf;
 };

@@ -289,7 +289,7 @@ INSTANTIATE_TEST_SUITE_P(Cases, UnlistedMedium, testing::ValuesIn(kMediumCases),
 TEST_F(PopUpsTest, DoesNothingWhereThePopUpLacksTheFallbackToo)
 {
     showPanel();
-    panel->mediaTypePopup->setItems({{u"Short"_s, u"Short"_s, {}}});
+    panel->mediaTypePopup->setItems({{u"Short"_s, u"Short"_s}});
     panel->setOutputBin({{u"VKMediaType"_s, u"HagakiUra"_s}});
     panel->updateUIforKey(u"VKMediaType"_s);
     EXPECT_EQ(panel->mediaTypePopup->selectedObject(), u"Short"_s);

@@ -65,7 +65,7 @@ PanelSnapshot::PopUp PanelSnapshot::stateOfPopUp(const PopUpButton &popup)
                 popup.currentIndex(),
                 popup.isEnabled()};
     for (int index = 0; index < popup.count(); ++index) {
-        state.items.push_back({popup.itemText(index), popup.representedObject(index), {}});
+        state.items.push_back({popup.itemText(index), popup.representedObject(index)});
         state.itemsEnabled.push_back(popup.isItemEnabled(index));
     }
     return state;

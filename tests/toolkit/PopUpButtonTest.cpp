@@ -19,9 +19,9 @@ class PopUpButtonTest : public testing::Test
 protected:
     PopUpButtonTest()
     {
-        popup.setItems({{u"Plain Paper"_s, u"Plain"_s, {}},
-                        {u"Black & White"_s, u"Mono"_s, {}},
-                        {u"<b>Glossy</b>"_s, u"Glossy"_s, {}}});
+        popup.setItems({{u"Plain Paper"_s, u"Plain"_s},
+                        {u"Black & White"_s, u"Mono"_s},
+                        {u"<b>Glossy</b>"_s, u"Glossy"_s}});
     }
 
     void showPopup()
@@ -83,14 +83,14 @@ INSTANTIATE_TEST_SUITE_P(Cases, Find, testing::ValuesIn(kFindCases), CaseName())
 
 TEST_F(PopUpButtonTest, TellsAMissingObjectFromAnEmptyOne)
 {
-    popup.setItems({{u"Nameless"_s, QString(), {}}, {u"Empty"_s, u""_s, {}}});
+    popup.setItems({{u"Nameless"_s, QString()}, {u"Empty"_s, u""_s}});
     EXPECT_EQ(popup.indexOfRepresentedObject(QString()), -1);
     EXPECT_EQ(popup.indexOfRepresentedObject(u""_s), 1);
 }
 
 TEST_F(PopUpButtonTest, FindsTheFirstItemOfATitle)
 {
-    popup.setItems({{u"Tray"_s, u"Tray1"_s, {}}, {u"Tray"_s, u"Tray2"_s, {}}});
+    popup.setItems({{u"Tray"_s, u"Tray1"_s}, {u"Tray"_s, u"Tray2"_s}});
     EXPECT_EQ(popup.indexOfTitle(u"Tray"_s), 0);
     EXPECT_EQ(popup.indexOfTitle(u"tray"_s), -1);
     EXPECT_EQ(popup.representedObject(1), u"Tray2"_s);
@@ -102,7 +102,7 @@ TEST_F(PopUpButtonTest, SaysNothingOfWhatTheProgramSelects)
 {
     QSignalSpy picks(&popup, &PopUpButton::activated);
     popup.selectObject(u"Glossy"_s);
-    popup.setItems({{u"Other"_s, u"Other"_s, {}}});
+    popup.setItems({{u"Other"_s, u"Other"_s}});
     popup.setItemEnabled(0, false);
     EXPECT_TRUE(picks.isEmpty());
 }
@@ -182,7 +182,7 @@ TEST_F(PopUpButtonTest, IsAsWideForManyLongChoicesAsForFew)
     std::vector<PopUpButton::Item> items;
     items.reserve(500);
     for (int number = 0; number < 500; ++number)
-        items.push_back({QString(200, u'W'), QString::number(number), {}});
+        items.push_back({QString(200, u'W'), QString::number(number)});
     popup.setItems(items);
     EXPECT_EQ(popup.sizeHint().width(), before.width());
 }

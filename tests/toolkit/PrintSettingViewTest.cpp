@@ -109,7 +109,7 @@ TEST_F(PrintSettingViewTest, SendsTheActionOfEveryControl)
         expected << u"requestNewOutputBin:"_s + QString::fromLatin1(name);
     }
     for (const char *name : kPopUps) {
-        find<PopUpButton>(name)->setItems({{u"A"_s, u"a"_s, {}}});
+        find<PopUpButton>(name)->setItems({{u"A"_s, u"a"_s}});
         find<PopUpButton>(name)->pick(0);
         expected << u"requestNewOutputBin:"_s + QString::fromLatin1(name);
     }

@@ -224,7 +224,7 @@ protected:
         int y = 0;
         for (QWidget *child : root->findChildren<QWidget *>(QString(), Qt::FindDirectChildrenOnly))
             child->setGeometry(0, y += 40, 200, 30);
-        child<PopUpButton>("popup")->setItems({{u"A"_s, u"a"_s, {}}, {u"B"_s, u"b"_s, {}}});
+        child<PopUpButton>("popup")->setItems({{u"A"_s, u"a"_s}, {u"B"_s, u"b"_s}});
         child<RadioMatrix>("matrix")->setNumberOfRows(1);
         child<FractionSlider>("slider")->setRange(0, 1000);
         root->resize(300, 500);
