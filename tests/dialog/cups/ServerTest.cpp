@@ -14,6 +14,8 @@
 #include <QtCore/QDir>
 #include <QtCore/QElapsedTimer>
 #include <QtCore/QFile>
+#include <QtCore/QFileInfo>
+#include <QtCore/QScopeGuard>
 #include <QtNetwork/QTcpServer>
 #include <QtTest/QTest>
 
@@ -97,14 +99,17 @@ TEST_F(Server, ListsItsQueuesAndNamesItsDefault)
 
 TEST_F(Server, GivesThePPDOfAQueueAndLeavesNoFileBehind)
 {
-    const QStringList before = QDir::temp().entryList(QDir::Files);
+    // A folder of its own: everybody writes into the common one.
+    const QByteArray common = qgetenv("TMPDIR");
+    const auto restore = qScopeGuard(
+        [&common] { common.isNull() ? qunsetenv("TMPDIR") : qputenv("TMPDIR", common); });
+    qputenv("TMPDIR", m_folder.path().toLocal8Bit());
     QueuePPD queue = fetchQueuePPD(s_server->address(), u"photo"_s, m_guard);
     ASSERT_TRUE(queue.file) << queue.answer.sentence.toStdString();
     EXPECT_EQ(nickname(queue), u"Velkaro PX-T900, 1.0"_s);
-    const QString path = queue.file->fileName();
+    EXPECT_EQ(QFileInfo(queue.file->fileName()).path(), m_folder.path());
     queue.file.reset();
-    EXPECT_FALSE(QFile::exists(path));
-    EXPECT_EQ(QDir::temp().entryList(QDir::Files), before);
+    EXPECT_EQ(QDir(m_folder.path()).entryList(QDir::Files), QStringList());
 }
 
 TEST_F(Server, GivesTheFirstMembersPPDForAClass)
