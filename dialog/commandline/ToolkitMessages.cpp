@@ -3,11 +3,14 @@
 #include <QtCore/QMutex>
 #include <QtCore/QStringList>
 
+#include <atomic>
 #include <cstdio>
 
 namespace {
 
 constexpr qsizetype kMostRemarks = 20;
+
+std::atomic<void (*)()> s_giveUp = nullptr;
 
 void write(const QString &message)
 {
@@ -16,6 +19,9 @@ void write(const QString &message)
 
 void take(QtMsgType type, const QMessageLogContext &, const QString &message)
 {
+    const auto giveUp = s_giveUp.load();
+    if (type == QtFatalMsg && giveUp)
+        giveUp();
     static QBasicMutex mutex;
     // Never destroyed: the toolkit's own statics outlive ours, and may have a last remark.
     static QStringList *const remarks = new QStringList;
@@ -35,4 +41,9 @@ void take(QtMsgType type, const QMessageLogContext &, const QString &message)
 void tellToolkitFaultsOnly()
 {
     qInstallMessageHandler(take);
+}
+
+void giveUpInsteadOfAborting(void (*giveUp)())
+{
+    s_giveUp = giveUp;
 }

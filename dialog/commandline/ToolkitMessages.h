@@ -5,3 +5,7 @@
 /// their job. A fault that ends the program comes with the remarks before it, which often say why.
 /// For all threads; before the QApplication, which remarks most.
 void tellToolkitFaultsOnly();
+
+/// From now on a fault that ends the program is not told: `giveUp` is called, which must not
+/// return. With null faults are told again, and the program aborts.
+void giveUpInsteadOfAborting(void (*giveUp)());

@@ -1,6 +1,7 @@
 #include "dialog/window/DialogCommand.h"
 
 #include "dialog/commandline/ExitStatus.h"
+#include "dialog/commandline/ToolkitMessages.h"
 #include "dialog/cups/DocumentFile.h"
 #include "dialog/cups/ServerCall.h"
 #include "dialog/job/CommandOutput.h"
@@ -11,7 +12,7 @@
 
 #include <QtWidgets/QApplication>
 
-#include <algorithm>
+#include <cstdlib>
 
 using enum ExitStatus;
 
@@ -34,21 +35,13 @@ ExitStatus runDialog(const CommandLine &line)
     return window.exitStatus();
 }
 
-bool hasDisplay()
+// The toolkit would advise to install the program again, and abort.
+[[noreturn]] void refuseToShow()
 {
-    const auto names = {"QT_QPA_PLATFORM", "DISPLAY", "WAYLAND_DISPLAY"};
-    return std::ranges::any_of(names,
-                               [](const char *name) { return !qEnvironmentVariableIsEmpty(name); });
-}
-
-/// The toolkit would abort, and advise to install the program again.
-int refuseToShow(int &argc, char **argv)
-{
-    const QCoreApplication application(argc, argv);
     installTranslations();
-    return exitCode(failWith(
+    std::_Exit(exitCode(failWith(
         Usage, QCoreApplication::translate("DialogCommand", "There is no display for the dialog; "
-                                                            "--no-dialog prints without it.")));
+                                                            "--no-dialog prints without it."))));
 }
 
 ExitStatus run(const CommandLine &line)
@@ -63,12 +56,12 @@ ExitStatus run(const CommandLine &line)
 int runDialogCommand(int &argc, char **argv, const CommandLine &line)
 {
     const bool showsWindow = !line.noDialog && line.screenshot.isNull();
-    if (showsWindow && !hasDisplay())
-        return refuseToShow(argc, argv);
     // Whatever a desktop's session names: its display may be out of reach.
     if (!showsWindow)
         qputenv("QT_QPA_PLATFORM", "offscreen");
+    giveUpInsteadOfAborting(showsWindow ? refuseToShow : nullptr);
     QApplication application(argc, argv);
+    giveUpInsteadOfAborting(nullptr);
     QApplication::setApplicationName(QStringLiteral("velkaro-print"));
     installTranslations();
     QApplication::setApplicationDisplayName(

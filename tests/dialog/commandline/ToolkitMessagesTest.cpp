@@ -4,6 +4,9 @@
 
 #include <gtest/gtest.h>
 
+#include <cstdio>
+#include <cstdlib>
+
 namespace {
 
 /// What is on standard error after `say` with the messages handled.
@@ -44,6 +47,21 @@ TEST(ToolkitMessagesDeathTest, SayWhyTheProgramEnds)
             qFatal("no platform plug-in");
         },
         "^velkaro-print: could not connect to display\nvelkaro-print: no platform plug-in\n");
+}
+
+TEST(ToolkitMessagesDeathTest, LeaveTheLastWordToWhoWantsIt)
+{
+    EXPECT_EXIT(
+        {
+            tellToolkitFaultsOnly();
+            giveUpInsteadOfAborting([] {
+                std::fputs("no display\n", stderr);
+                std::_Exit(2);
+            });
+            qWarning("could not connect to display");
+            qFatal("no platform plug-in");
+        },
+        testing::ExitedWithCode(2), "^no display\n$");
 }
 
 TEST(ToolkitMessagesDeathTest, KeepOnlyTheLastRemarks)

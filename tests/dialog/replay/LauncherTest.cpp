@@ -78,10 +78,27 @@ TEST(Launcher, RefusesInTheUsersLanguage)
 
 TEST(Launcher, SaysSoWhenThereIsNoDisplayForTheDialog)
 {
-    const Result result = runProgram(QStringLiteral(PROGRAM), {u"--ppd"_s, u"small.ppd"_s});
+    const QMap<QString, QString> cases[] = {
+        {},
+        {{u"DISPLAY"_s, u":12345"_s}},
+        {{u"QT_QPA_PLATFORM"_s, u"nonsense"_s}},
+    };
+    for (const auto &environment : cases) {
+        const Result result =
+            runProgram(QStringLiteral(PROGRAM), {u"--ppd"_s, u"small.ppd"_s}, environment);
+        EXPECT_EQ(result.status, 2) << environment.size();
+        EXPECT_EQ(result.error, "velkaro-print: There is no display for the dialog; --no-dialog "
+                                "prints without it.\n");
+    }
+}
+
+TEST(Launcher, SaysInTheUsersLanguageThatThereIsNoDisplay)
+{
+    const Result result = runProgram(QStringLiteral(PROGRAM), {u"--ppd"_s, u"small.ppd"_s},
+                                     {{u"LANGUAGE"_s, u"ja"_s}, {u"DISPLAY"_s, u":12345"_s}});
     EXPECT_EQ(result.status, 2);
-    EXPECT_EQ(result.error, "velkaro-print: There is no display for the dialog; --no-dialog prints "
-                            "without it.\n");
+    EXPECT_THAT(result.error, testing::HasSubstr("--no-dialog"));
+    EXPECT_THAT(result.error, testing::Not(testing::HasSubstr("There is no display")));
 }
 
 TEST(Launcher, NeedsNoDisplayWhereNoWindowIsShown)
