@@ -9,6 +9,7 @@
 #include <QtCore/QJsonObject>
 #include <QtCore/QPluginLoader>
 
+#include <algorithm>
 #include <array>
 
 using namespace Qt::StringLiterals;
@@ -16,13 +17,15 @@ using namespace Qt::StringLiterals;
 namespace {
 
 // Indexed by PlugInFaultReason.
-constexpr std::array<const char *, 7> kSentences = {
+constexpr std::array<const char *, 8> kSentences = {
     QT_TRANSLATE_NOOP("PlugInLoader", "The printer's settings are missing: there is no plug-in "
                                       "at %1. Install Velkaro Print again."),
     QT_TRANSLATE_NOOP("PlugInLoader", "The plug-in %1 is incomplete: it has no readable Info.json. "
                                       "Install Velkaro Print again."),
     QT_TRANSLATE_NOOP("PlugInLoader", "The plug-in %1 is incomplete: its library is missing. "
                                       "Install Velkaro Print again."),
+    QT_TRANSLATE_NOOP("PlugInLoader", "The plug-in is incomplete: %1 is missing. Install Velkaro "
+                                      "Print again."),
     QT_TRANSLATE_NOOP("PlugInLoader", "%1 is not a plug-in of this print dialog."),
     QT_TRANSLATE_NOOP("PlugInLoader", "The plug-in %1 was made for another version of this print "
                                       "dialog. Install the same version of both."),
@@ -47,6 +50,17 @@ QString libraryOf(const Bundle &bundle)
     const QString name = bundle.infoValue(u"CFBundleExecutable"_s).toString();
     const bool plain = !name.isEmpty() && !name.contains(u'/');
     return plain ? bundle.bundlePath() + u'/' + name : QString();
+}
+
+/// The path of a view that the bundle says it has, and has not; null when all are there.
+QString missingView(const Bundle &bundle)
+{
+    const QStringList names = bundle.infoValue(u"VKViews"_s).toStringList();
+    const auto name = std::ranges::find_if(names, [&bundle](const QString &view) {
+        return bundle.pathForResource(view, u"ui"_s).isNull();
+    });
+    return name == names.end() ? QString()
+                               : bundle.bundlePath() + u"/Resources/"_s + *name + u".ui"_s;
 }
 
 // The interface identifier up to its version.
@@ -115,6 +129,8 @@ PlugInLoad loadPlugIn(const QString &bundlePath, const QVariantMap &info)
     const QString library = libraryOf(*load.bundle);
     if (library.isNull() || !QFileInfo(library).isFile())
         load.fault = fault(LibraryMissing, path, u"no library \"%1\""_s.arg(library));
+    else if (const QString view = missingView(*load.bundle); !view.isNull())
+        load.fault = fault(ViewMissing, view, u"no such file: "_s + view);
     else
         load.fault = instantiate(load, library);
     return load;

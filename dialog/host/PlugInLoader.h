@@ -14,6 +14,7 @@ enum class PlugInFaultReason {
     BundleMissing,
     NoInfoDictionary,
     LibraryMissing,
+    ViewMissing,           ///< one that the bundle says it has
     NotAPlugIn,            ///< a library, but none of this interface
     OtherInterfaceVersion, ///< found out before any code of the library runs
     LoadFailed,

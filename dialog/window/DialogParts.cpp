@@ -13,6 +13,7 @@
 #include <QtWidgets/QTabWidget>
 
 #include <algorithm>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -98,19 +99,17 @@ void DialogWindow::changePart()
     if (!part)
         return;
     hideShownPanel();
+    const bool wasMissing = std::exchange(m_viewIsMissing, false);
     if (part->panel) {
         m_shownPanel = part->panel;
         QWidget *view = m_job.session()->show(*part->panel);
         static_cast<PanelPane *>(part->page)->setView(view);
-        if (!view)
-            m_notice->tell(NoticeBar::Kind::Error,
-                           tr("The settings of this panel cannot be shown: a part of the plug-in "
-                              "is missing. Install Velkaro Print again."));
+        m_viewIsMissing = !view;
     }
     if (part->page == m_summary)
         m_summary->setSections(summarySections());
     moveButtonsLast();
-    if (!m_pageSetup->isAcceptable())
+    if (m_viewIsMissing || wasMissing || !m_pageSetup->isAcceptable())
         tellStanding();
     fitToPart();
 }

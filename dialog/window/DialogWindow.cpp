@@ -159,7 +159,11 @@ void DialogWindow::updateButtons()
 void DialogWindow::tellStanding()
 {
     const bool hidesFault = !m_pageSetup->isAcceptable() && m_tabs->currentWidget() != m_pageSetup;
-    if (hidesFault)
+    if (m_viewIsMissing)
+        m_notice->tell(NoticeBar::Kind::Error,
+                       tr("The settings of this panel cannot be shown: a part of the plug-in is "
+                          "missing. Install Velkaro Print again."));
+    else if (hidesFault)
         m_notice->tell(NoticeBar::Kind::Warning,
                        tr("The printer cannot take the paper size in Page Setup. Correct it there "
                           "to print."));

@@ -154,5 +154,6 @@ private:
     QPushButton *m_print = nullptr;
     std::vector<Part> m_parts;
     const HostPanel *m_shownPanel = nullptr;
+    bool m_viewIsMissing = false; ///< of the panel in m_shownPanel
     int m_partHeight = 0;
 };

@@ -481,6 +481,10 @@
         <translation>プラグイン %1 が不完全です。Info.json を読み込めません。Velkaro Print をインストールし直してください。</translation>
     </message>
     <message>
+        <source>The plug-in is incomplete: %1 is missing. Install Velkaro Print again.</source>
+        <translation>プラグインが不完全です。%1 がありません。Velkaro Print をインストールし直してください。</translation>
+    </message>
+    <message>
         <source>The plug-in %1 is incomplete: its library is missing. Install Velkaro Print again.</source>
         <translation>プラグイン %1 が不完全です。ライブラリがありません。Velkaro Print をインストールし直してください。</translation>
     </message>

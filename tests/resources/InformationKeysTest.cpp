@@ -1,5 +1,6 @@
 #include "tests/resources/Places.h"
 
+#include <QtCore/QDir>
 #include <QtCore/QJsonArray>
 #include <QtCore/QStringList>
 
@@ -49,6 +50,17 @@ TEST(InformationKeys, ListTheColorSettingsKeywordsWithoutTheEnhancementValues)
 {
     EXPECT_EQ(list(u"PMPPDKeysSupportedColor"_s),
               (QStringList{u"VKColorMatching"_s, u"VKHalfTonePattern"_s, u"VKColorEnhancement"_s}));
+}
+
+TEST(InformationKeys, ListEveryView)
+{
+    QStringList views;
+    for (const QString &file : QDir(places::bundleFile(u"Resources"_s)).entryList({u"*.ui"_s}))
+        views << QFileInfo(file).baseName();
+    QStringList listed = list(u"VKViews"_s);
+    listed.sort();
+    EXPECT_EQ(listed, views);
+    EXPECT_FALSE(views.isEmpty());
 }
 
 TEST(InformationKeys, WatchTheFaxOutput)

@@ -115,6 +115,23 @@ INSTANTIATE_TEST_SUITE_P(
                                  PlugInFaultReason::LibraryMissing}),
     [](const auto &testCase) { return std::string(testCase.param.name); });
 
+TEST(PlugInLoader, NamesAViewThatTheBundleHasLost)
+{
+    const QTemporaryDir folder;
+    writeFile(folder.filePath(u"Info.json"_s),
+              R"({"CFBundleExecutable": "plugin.so", "VKViews": ["Here", "Lost"]})");
+    writeFile(folder.filePath(u"plugin.so"_s), "");
+    ASSERT_TRUE(QDir(folder.path()).mkdir(u"Resources"_s));
+    writeFile(folder.filePath(u"Resources/Here.ui"_s), "");
+    const PlugInLoad load = loadPlugIn(folder.path());
+    ASSERT_TRUE(load.fault);
+    EXPECT_EQ(load.fault->reason, PlugInFaultReason::ViewMissing);
+    EXPECT_EQ(text(load.fault->sentence),
+              "The plug-in is incomplete: " + text(folder.filePath(u"Resources/Lost.ui"_s)) +
+                  " is missing. Install Velkaro Print again.");
+    EXPECT_EQ(load.plugIn, nullptr);
+}
+
 TEST(PlugInLoader, LoadsAPlugInTogetherWithItsBundle)
 {
     const PlugInLoad load = loadPlugIn(fixture("Spy"));

@@ -5,6 +5,7 @@
 #include "tests/dialog/window/DialogWindowFixture.h"
 #include "tests/support/PPDSource.h"
 
+#include <QtCore/QProcess>
 #include <QtWidgets/QDoubleSpinBox>
 #include <QtWidgets/QLineEdit>
 
@@ -214,6 +215,23 @@ TEST_F(Window, GrowsAndShrinksWithAPanelThatUnfolds)
     click("optionButton");
     QCoreApplication::processEvents();
     EXPECT_LE(m_window->height(), folded);
+}
+
+TEST_F(Window, SaysWhyAPanelIsEmptyWhileItIsLookedAt)
+{
+    const QString copy = m_folder.filePath(u"Broken.bundle"_s);
+    ASSERT_EQ(QProcess::execute(u"cp"_s, {u"-r"_s, builtBundle(), copy}), 0);
+    writeFile(copy + u"/Resources/VKInkPrintSetting14.ui"_s, "<ui");
+    m_line.plugIn = copy;
+    open();
+    auto *parts = part<QTabWidget>("parts");
+    parts->setCurrentIndex(1);
+    EXPECT_TRUE(notice().startsWith(u"The settings of this panel cannot be shown: "_s))
+        << notice().toStdString();
+    parts->setCurrentIndex(2);
+    EXPECT_FALSE(notice().contains(u"cannot be shown"_s)) << notice().toStdString();
+    parts->setCurrentIndex(1);
+    EXPECT_TRUE(notice().startsWith(u"The settings of this panel cannot be shown: "_s));
 }
 
 TEST_F(Window, WithoutAPlugInSaysSoAndPrintsWithItsOwnSettings)
