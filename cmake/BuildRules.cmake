@@ -8,8 +8,8 @@ set(CMAKE_CXX_STANDARD_REQUIRED ON)
 set(CMAKE_CXX_EXTENSIONS OFF)
 set(CMAKE_CXX_VISIBILITY_PRESET hidden)
 set(CMAKE_VISIBILITY_INLINES_HIDDEN ON)
-set(CMAKE_POSITION_INDEPENDENT_CODE ON)
-set(CMAKE_AUTOMOC ON)
+# The same code for libraries and programs, so that they can share precompiled headers.
+add_compile_options(-fPIC)
 
 if(NOT CMAKE_BUILD_TYPE)
     set(CMAKE_BUILD_TYPE Release)
@@ -37,6 +37,7 @@ if(VELKARO_SANITIZE)
     target_link_options(velkaro_build_rules INTERFACE -fsanitize=address,undefined)
 endif()
 if(VELKARO_TIDY)
+    set(CMAKE_DISABLE_PRECOMPILE_HEADERS ON)
     find_program(CLANG_TIDY clang-tidy REQUIRED)
     set(CMAKE_CXX_CLANG_TIDY ${CLANG_TIDY} --quiet)
     # The nearest file counts, so this one is for the sources that moc writes: nobody mends those.
