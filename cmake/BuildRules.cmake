@@ -31,10 +31,13 @@ target_compile_options(velkaro_build_rules INTERFACE
     -Wno-deprecated-declarations)
 target_compile_definitions(velkaro_build_rules INTERFACE
     QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII QT_NO_FOREACH QT_NO_KEYWORDS)
-if(VELKARO_SANITIZE)
+if(VELKARO_SANITIZE OR VELKARO_FUZZ)
     target_compile_options(velkaro_build_rules INTERFACE
         -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
     target_link_options(velkaro_build_rules INTERFACE -fsanitize=address,undefined)
+endif()
+if(VELKARO_FUZZ)
+    target_compile_options(velkaro_build_rules INTERFACE -fsanitize=fuzzer-no-link)
 endif()
 if(VELKARO_TIDY)
     set(CMAKE_DISABLE_PRECOMPILE_HEADERS ON)

@@ -1,0 +1,37 @@
+#include "dialog/cups/JobOptions.h"
+#include "dialog/cups/SavedOptions.h"
+#include "dialog/cups/SavedSettings.h"
+#include "tests/fuzz/Harnesses.h"
+#include "tests/support/PPDSource.h"
+
+#include <QtCore/QDir>
+#include <QtCore/QFile>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+void writeLpoptions(const QByteArray &lines)
+{
+    const QDir home(qEnvironmentVariable("HOME"));
+    home.mkpath(u".cups"_s);
+    QFile file(home.filePath(u".cups/lpoptions"_s));
+    const bool isWritten =
+        file.open(QIODevice::WriteOnly) && file.write(lines) == lines.size() && file.flush();
+    harness::require(isWritten, "the harness can write its own file");
+}
+
+} // namespace
+
+/// A job made with saved options holds nothing that a filter may not be given.
+void harness::savedOptions(const QByteArray &lpoptions)
+{
+    writeLpoptions(lpoptions);
+    const PPDHandle ppd = openSample(u"velkaro-px-t900"_s);
+    const QueueName queue = usualQueue();
+    JobValues values;
+    values.ppd = ppd.get();
+    values.saved = applySavedOptions(ppd.get(), ::savedOptions(queue)).others;
+    for (const JobOption &option : jobOptions(values).options)
+        require(mayTravel(option), "every option of a job may travel");
+}
