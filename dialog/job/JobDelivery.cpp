@@ -1,6 +1,7 @@
 #include "dialog/job/JobDelivery.h"
 
-#include "dialog/cups/JobFile.h"
+#include "dialog/cups/JobFileReader.h"
+#include "dialog/cups/JobFileWriter.h"
 #include "dialog/cups/ServerCall.h"
 #include "dialog/job/CommandOutput.h"
 

@@ -1,6 +1,7 @@
 #include "dialog/job/NoDialogCommand.h"
 
 #include "dialog/cups/DocumentFile.h"
+#include "dialog/cups/JobFileReader.h"
 #include "dialog/cups/ServerCall.h"
 #include "dialog/cups/ServerConnection.h"
 #include "dialog/job/CommandOutput.h"

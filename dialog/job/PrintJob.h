@@ -1,6 +1,6 @@
 #pragma once
 
-#include "dialog/cups/JobFile.h"
+#include "dialog/cups/JobSubmission.h"
 #include "dialog/cups/JobOptions.h"
 #include "dialog/cups/JobSubmission.h"
 #include "dialog/job/PrinterSource.h"

@@ -1,4 +1,4 @@
-#include "dialog/cups/JobFile.h"
+#include "dialog/cups/JobFileWriter.h"
 #include "dialog/cups/ServerCall.h"
 #include "dialog/window/DialogWindow.h"
 

@@ -1,4 +1,5 @@
-#include "dialog/cups/JobFile.h"
+#include "dialog/cups/JobFileReader.h"
+#include "dialog/cups/JobFileWriter.h"
 #include "tests/endtoend/JobPrinting.h"
 #include "tests/support/Files.h"
 
