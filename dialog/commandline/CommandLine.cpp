@@ -94,6 +94,9 @@ QString takeValue(CommandLine &line, const Argument &argument)
 {
     if (argument.value.isEmpty())
         return sentence(QT_TRANSLATE_NOOP("CommandLine", "%1 needs a value.")).arg(argument.name);
+    if (!argument.value.isValidUtf16())
+        return sentence(QT_TRANSLATE_NOOP("CommandLine", "The value of %1 is no UTF-8 text."))
+            .arg(argument.name);
     if (argument.option->take)
         return argument.option->take(line, argument.value);
     line.*argument.option->text = argument.value;

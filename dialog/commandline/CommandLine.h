@@ -16,7 +16,7 @@ struct RequestedChoice
 /// What velkaro-print was asked to do. A null string: the option was not given.
 struct CommandLine
 {
-    QStringList files;
+    QStringList files; ///< as pathOfBytes() gives them; -: standard input
     QString queue;    ///< -d, without the instance
     QString instance; ///< what stands behind the slash of "-d queue/instance"
     QString server;   ///< -h: host, host:port, or the path of a socket
@@ -44,5 +44,5 @@ struct ParsedCommandLine
 
 /// Reads the arguments, the program's name not among them. An option's value may be its own
 /// argument or follow it ("-dqueue", "--ppd=file"); "--" ends the options. --help and --version
-/// win over every fault.
+/// win over every fault. Documents alone may have names that are not UTF-8.
 ParsedCommandLine parseCommandLine(const QStringList &arguments);

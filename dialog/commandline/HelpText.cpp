@@ -3,7 +3,8 @@
 const char *helpText()
 {
     return R"(Usage: velkaro-print [options] [FILE...]
-Prints documents with the settings that you choose in a dialog.
+Prints documents with the settings that you choose in a dialog. The file - is
+standard input.
 
 Printer
   -d, --destination QUEUE[/INSTANCE]

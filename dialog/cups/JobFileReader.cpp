@@ -1,13 +1,13 @@
 #include "dialog/cups/JobFileReader.h"
 
-#include "dialog/cups/ByteCopy.h"
 #include "dialog/cups/JobFileFormat.h"
 #include "dialog/cups/JobOptions.h"
+#include "platform/toolkit/PlainText.h"
 
 #include <QtCore/QCoreApplication>
-#include <QtCore/QDir>
-#include <QtCore/QFile>
 #include <QtCore/QFileInfo>
+
+#include <algorithm>
 
 namespace {
 
@@ -52,65 +52,89 @@ bool takeLine(Header &header, const QString &line)
     return true;
 }
 
-Header readHeader(QFile &file)
+/// The file's first lines, one after the other.
+class Lines
+{
+public:
+    explicit Lines(const Document &file) : m_file(file) {}
+
+    /// The next line with its line break; without one where the file ends or the line is too long.
+    QByteArray next()
+    {
+        QByteArray line(kLongestLine, Qt::Uninitialized);
+        line.truncate(std::max<qint64>(0, m_file.read(m_end, line.data(), line.size())));
+        if (const qsizetype lineBreak = line.indexOf('\n'); lineBreak >= 0)
+            line.truncate(lineBreak + 1);
+        m_end += line.size();
+        return line;
+    }
+
+    /// Where the lines that were read end, in bytes.
+    qint64 end() const { return m_end; }
+
+private:
+    const Document &m_file;
+    qint64 m_end = 0;
+};
+
+Header readHeader(Lines &lines)
 {
     Header header;
-    file.readLine(kLongestLine); // the first line, which isJobFile() has looked at
-    while (!file.atEnd()) {
-        const QByteArray line = file.readLine(kLongestLine).chopped(1);
-        if (line.isEmpty()) {
+    lines.next(); // the first line, which isJobFile() has looked at
+    for (QByteArray line = lines.next(); line.endsWith('\n'); line = lines.next()) {
+        if (line.size() == 1) {
             header.isGood = !header.documents.isEmpty();
             return header;
         }
-        if (!takeLine(header, QString::fromUtf8(line)))
+        if (!takeLine(header, QString::fromUtf8(line.chopped(1))))
             return header;
     }
     return header;
 }
 
-/// The document in a folder of its own, so that it keeps its name.
-QString extract(QFile &file, const QDir &folder, qsizetype index, qint64 length,
-                const QString &name)
+/// The name of a document that may have been called anything.
+QString plainName(const QString &name)
 {
-    const QString own = folder.filePath(QString::number(index));
-    const QString plain = QFileInfo(name).fileName();
-    const bool isUsable = !plain.isEmpty() && plain != QLatin1String("..");
-    QFile document(own + u'/' + (isUsable ? plain : QStringLiteral("document")));
-    const bool done = QDir().mkpath(own) && document.open(QIODevice::WriteOnly) &&
-                      copyBytes(file, document, length) == Copied::All && document.flush();
-    return done ? document.fileName() : QString();
+    const QString plain = displayText(QFileInfo(name).fileName());
+    return plain.isEmpty() ? QStringLiteral("document") : plain;
+}
+
+/// The documents behind the header, which fill the file to its end; none when they do not.
+Documents partsOf(const Document &file, qint64 begin,
+                  const QList<std::pair<qint64, QString>> &documents)
+{
+    Documents parts;
+    for (const auto &[length, name] : documents) {
+        if (length > file.size() - begin)
+            return {};
+        parts.push_back(file.part(begin, length, plainName(name)));
+        begin += length;
+    }
+    return begin == file.size() ? parts : Documents();
 }
 
 } // namespace
 
-bool isJobFile(const QString &path)
+bool isJobFile(const Document &file)
 {
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) && !file.isSequential() &&
-           file.readLine(kLongestLine) == QByteArray(kJobFileFirstLine) + '\n';
+    return Lines(file).next() == QByteArray(kJobFileFirstLine) + '\n';
 }
 
-ReadJobFile readJobFile(const QString &path)
+ReadJobFile readJobFile(const Document &file)
 {
     ReadJobFile read;
-    QFile file(path);
-    if (!isJobFile(path) || !file.open(QIODevice::ReadOnly)) {
-        read.error = jobFileSentence(QT_TRANSLATE_NOOP("JobFile", "%1 is no saved job."), path);
+    if (!isJobFile(file)) {
+        read.error =
+            jobFileSentence(QT_TRANSLATE_NOOP("JobFile", "%1 is no saved job."), file.path());
         return read;
     }
-    const Header header = readHeader(file);
+    Lines lines(file);
+    const Header header = readHeader(lines);
     read.job = header.job;
-    read.folder = std::make_unique<QTemporaryDir>();
-    bool isWhole = header.isGood;
-    for (const auto &[length, name] : header.documents) {
-        const QString document = isWhole ? extract(file, QDir(read.folder->path()),
-                                                   read.job.documents.size(), length, name)
-                                         : QString();
-        isWhole = !document.isNull();
-        read.job.documents += document;
-    }
-    if (!isWhole || !file.atEnd())
-        read.error =
-            jobFileSentence(QT_TRANSLATE_NOOP("JobFile", "The saved job %1 is damaged."), path);
+    if (header.isGood)
+        read.job.documents = partsOf(file, lines.end(), header.documents);
+    if (read.job.documents.empty())
+        read.error = jobFileSentence(QT_TRANSLATE_NOOP("JobFile", "The saved job %1 is damaged."),
+                                     file.path());
     return read;
 }

@@ -1,7 +1,5 @@
 #include "dialog/cups/JobFileWriter.h"
 
-#include "dialog/cups/ByteCopy.h"
-#include "dialog/cups/DocumentFile.h"
 #include "dialog/cups/JobFileFormat.h"
 #include "platform/toolkit/PlainText.h"
 
@@ -19,23 +17,30 @@ QByteArray headerLine(const char *field, const QString &value)
     return QByteArray(field) + ": " + displayText(value).toUtf8() + '\n';
 }
 
-QByteArray header(const JobRequest &job, const DocumentFiles &documents)
+QByteArray header(const JobRequest &job)
 {
     QByteArray lines = QByteArray(kJobFileFirstLine) + '\n' + headerLine("Title", job.title);
     if (!job.queue.isNull())
         lines += headerLine("Queue", job.queue);
     for (const JobOption &option : job.options)
         lines += headerLine("Option", option.name + u'=' + option.value);
-    for (const auto &document : documents)
-        lines += headerLine(
-            "Document",
-            QStringLiteral("%1 %2").arg(document->size()).arg(QFileInfo(*document).fileName()));
+    for (const Document &document : job.documents)
+        lines += headerLine("Document",
+                            QStringLiteral("%1 %2").arg(document.size()).arg(document.name()));
     return lines + '\n';
 }
 
-WrittenJobFile documentFault(const QString &error)
+/// A disk that is nearly full takes a part first, and says only then why it takes no more.
+bool writeAll(QIODevice &to, const char *bytes, qint64 length)
 {
-    return {JobFileFault::Document, error};
+    while (length > 0) {
+        const qint64 taken = to.write(bytes, length);
+        if (taken <= 0)
+            return false;
+        bytes += taken;
+        length -= taken;
+    }
+    return true;
 }
 
 WrittenJobFile outputFault(const QFileDevice &file)
@@ -45,29 +50,19 @@ WrittenJobFile outputFault(const QFileDevice &file)
                             file.fileName(), file.errorString())};
 }
 
-QString sequentialDocument(const DocumentFiles &documents)
+WrittenJobFile writeJob(QFileDevice &file, const JobRequest &job)
 {
-    for (const auto &document : documents)
-        if (document->isSequential())
-            return jobFileSentence(
-                QT_TRANSLATE_NOOP("JobFile", "%1 is no ordinary file: it cannot be kept in a job."),
-                document->fileName());
-    return {};
-}
-
-WrittenJobFile writeJob(QFileDevice &file, const JobRequest &job, const DocumentFiles &documents)
-{
-    const QByteArray lines = header(job, documents);
+    const QByteArray lines = header(job);
     if (!writeAll(file, lines.constData(), lines.size()))
         return outputFault(file);
-    for (const auto &document : documents) {
-        const Copied copied = copyBytes(*document, file, document->size());
-        if (copied == Copied::CannotWrite)
+    for (const Document &document : job.documents) {
+        const Delivery delivery = deliver(document, [&](const char *bytes, qint64 length) {
+            return writeAll(file, bytes, length);
+        });
+        if (delivery == Delivery::NotTaken)
             return outputFault(file);
-        if (copied == Copied::CannotRead)
-            return documentFault(jobFileSentence(
-                QT_TRANSLATE_NOOP("JobFile", "The document %1 cannot be read to its end."),
-                document->fileName()));
+        if (delivery != Delivery::Complete)
+            return {JobFileFault::Document, deliveryFault(document, delivery)};
     }
     return {};
 }
@@ -76,23 +71,17 @@ WrittenJobFile writeJob(QFileDevice &file, const JobRequest &job, const Document
 
 WrittenJobFile writeJobFile(const QString &path, const JobRequest &job)
 {
-    const OpenedDocuments documents = openDocuments(job.documents);
-    if (!documents.error.isNull())
-        return documentFault(documents.error);
-    const QString sequential = sequentialDocument(documents.files);
-    if (!sequential.isNull())
-        return documentFault(sequential);
     // Only an ordinary file can be replaced as a whole: a device or a pipe is written to.
     const QFileInfo old(path);
     if (old.exists() && !old.isFile() && !old.isDir()) {
         QFile file(path);
         const bool isOpen = file.open(kWriting);
-        return isOpen ? writeJob(file, job, documents.files) : outputFault(file);
+        return isOpen ? writeJob(file, job) : outputFault(file);
     }
     QSaveFile file(path);
     if (!file.open(kWriting))
         return outputFault(file);
-    WrittenJobFile written = writeJob(file, job, documents.files);
+    WrittenJobFile written = writeJob(file, job);
     if (written.fault != JobFileFault::None)
         return written;
     return file.commit() ? written : outputFault(file);

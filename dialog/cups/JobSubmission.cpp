@@ -1,14 +1,10 @@
 #include "dialog/cups/JobSubmission.h"
 
-#include "dialog/cups/DocumentFile.h"
 #include "dialog/cups/JobReadBack.h"
 #include "dialog/cups/OptionAttribute.h"
 #include "dialog/cups/ServerConnection.h"
 
 #include <QtCore/QCoreApplication>
-#include <QtCore/QFileInfo>
-
-#include <array>
 
 namespace {
 
@@ -39,23 +35,20 @@ IppHandle sendDocumentRequest(const JobRequest &job, int id, const QString &name
     return request;
 }
 
-bool writeDocument(ServerConnection &connection, QIODevice &document)
+bool writeDocument(ServerConnection &connection, const Document &document)
 {
-    std::array<char, 65536> buffer{};
-    qint64 length = 0;
-    while ((length = document.read(buffer.data(), buffer.size())) > 0) {
-        if (connection.guard().isCancelled())
-            return false;
-        const auto size = static_cast<std::size_t>(length);
-        if (cupsWriteRequestData(connection.http(), buffer.data(), size) != HTTP_STATUS_CONTINUE)
-            return false;
-        connection.guard().stampSignOfLife();
-    }
-    return length == 0;
+    return deliver(document, [&](const char *bytes, qint64 length) {
+               const auto size = static_cast<std::size_t>(length);
+               if (connection.guard().isCancelled() ||
+                   cupsWriteRequestData(connection.http(), bytes, size) != HTTP_STATUS_CONTINUE)
+                   return false;
+               connection.guard().stampSignOfLife();
+               return true;
+           }) == Delivery::Complete;
 }
 
 bool sendDocument(ServerConnection &connection, const QByteArray &resource, IppHandle request,
-                  QIODevice &document)
+                  const Document &document)
 {
     const http_status_t status = cupsSendRequest(connection.http(), request.get(),
                                                  resource.constData(), CUPS_LENGTH_VARIABLE);
@@ -78,14 +71,12 @@ void cancelJob(const JobRequest &job, int id)
     connection.request(std::move(request), queueResource(job.queue));
 }
 
-bool sendDocuments(ServerConnection &connection, const JobRequest &job, int id,
-                   DocumentFiles &documents)
+bool sendDocuments(ServerConnection &connection, const JobRequest &job, int id)
 {
-    for (std::size_t index = 0; index < documents.size(); ++index) {
-        QFile &file = *documents[index];
+    for (const Document &document : job.documents) {
         IppHandle request =
-            sendDocumentRequest(job, id, QFileInfo(file).fileName(), index + 1 == documents.size());
-        if (!sendDocument(connection, queueResource(job.queue), std::move(request), file))
+            sendDocumentRequest(job, id, document.name(), &document == &job.documents.back());
+        if (!sendDocument(connection, queueResource(job.queue), std::move(request), document))
             return false;
     }
     return true;
@@ -102,9 +93,8 @@ int createdJob(const IppHandle &response)
 JobReceipt submitJob(const JobRequest &request, CallGuard &guard)
 {
     JobReceipt receipt;
-    OpenedDocuments opened = openDocuments(request.documents);
-    if (!opened.error.isNull()) {
-        receipt.answer = {ServerFault::Document, opened.error};
+    if (const QString changed = changedDocument(request.documents); !changed.isNull()) {
+        receipt.answer = {ServerFault::Document, changed};
         return receipt;
     }
     ServerConnection connection(request.server, guard);
@@ -116,7 +106,7 @@ JobReceipt submitJob(const JobRequest &request, CallGuard &guard)
         receipt.answer = connection.lastAnswer(request.queue);
         return receipt;
     }
-    if (!sendDocuments(connection, request, receipt.id, opened.files)) {
+    if (!sendDocuments(connection, request, receipt.id)) {
         receipt.answer = connection.lastAnswer(request.queue);
         cancelJob(request, receipt.id);
         return receipt;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "dialog/cups/CallGuard.h"
+#include "dialog/cups/Document.h"
 #include "dialog/cups/JobOption.h"
 #include "dialog/cups/ServerFault.h"
 
@@ -15,7 +16,7 @@ struct JobRequest
     QString queue;
     QString title;
     QList<JobOption> options;
-    QStringList documents; ///< paths, at least one
+    Documents documents; ///< at least one, no pipe among them
 };
 
 /// What became of a job. Without a fault it has been accepted, and `id` is its number.

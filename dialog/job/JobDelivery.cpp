@@ -7,8 +7,6 @@
 
 #include <QtCore/QCoreApplication>
 
-using enum ExitStatus;
-
 namespace {
 
 QString sentence(const char *text)
@@ -22,22 +20,23 @@ ExitStatus statusOf(const ServerAnswer &answer)
 {
     switch (answer.fault) {
     case ServerFault::None:
-        return Done;
+        return ExitStatus::Done;
     case ServerFault::Document:
-        return Document;
+        return ExitStatus::Document;
     case ServerFault::Cancelled:
-        return Cancelled;
+        return ExitStatus::Cancelled;
     default:
-        return Server;
+        return ExitStatus::Server;
     }
 }
 
 ExitStatus sendJob(const JobRequest &request)
 {
     if (request.queue.isEmpty())
-        return failWith(Usage, sentence(QT_TRANSLATE_NOOP(
-                                   "JobDelivery", "No queue was named to print to; -d QUEUE "
-                                                  "names one, --output FILE keeps the job.")));
+        return failWith(
+            ExitStatus::Usage,
+            sentence(QT_TRANSLATE_NOOP("JobDelivery", "No queue was named to print to; -d QUEUE "
+                                                      "names one, --output FILE keeps the job.")));
     const JobReceipt receipt =
         waitForServer<JobReceipt>(kServerPatience, [request](CallGuard &guard) {
             return submitJob(request, guard);
@@ -48,7 +47,7 @@ ExitStatus sendJob(const JobRequest &request)
                .arg(request.queue, QString::number(receipt.id)));
     for (const QString &note : receipt.notes)
         warn(note);
-    return Done;
+    return ExitStatus::Done;
 }
 
 ExitStatus keepJob(const QString &path, const JobRequest &request)
@@ -56,27 +55,27 @@ ExitStatus keepJob(const QString &path, const JobRequest &request)
     const WrittenJobFile written = writeJobFile(path, request);
     switch (written.fault) {
     case JobFileFault::Document:
-        return failWith(Document, written.error);
+        return failWith(ExitStatus::Document, written.error);
     case JobFileFault::Output:
-        return failWith(Output, written.error);
+        return failWith(ExitStatus::Output, written.error);
     case JobFileFault::None:
         break;
     }
     report(sentence(QT_TRANSLATE_NOOP("JobDelivery", "The job was written to %1.")).arg(path));
-    return Done;
+    return ExitStatus::Done;
 }
 
-ExitStatus sendJobFile(const CommandLine &line)
+ExitStatus sendJobFile(const CommandLine &line, const Document &file)
 {
     if (!line.choices.isEmpty() || !line.paper.isNull() || !line.output.isNull())
-        return failWith(Usage,
+        return failWith(ExitStatus::Usage,
                         sentence(QT_TRANSLATE_NOOP("JobDelivery",
                                                    "%1 is a saved job: it is sent as it was saved, "
                                                    "without -o, --paper and --output."))
-                            .arg(line.files.constFirst()));
-    ReadJobFile read = readJobFile(line.files.constFirst());
+                            .arg(file.path()));
+    ReadJobFile read = readJobFile(file);
     if (!read.error.isNull())
-        return failWith(Document, read.error);
+        return failWith(ExitStatus::Document, read.error);
     read.job.server = line.server;
     if (!line.queue.isNull())
         read.job.queue = line.queue;

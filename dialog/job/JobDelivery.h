@@ -15,10 +15,10 @@ ExitStatus sendJob(const JobRequest &request);
 /// Puts the job into a file.
 ExitStatus keepJob(const QString &path, const JobRequest &request);
 
-/// Sends a job that was kept in a file, to the queue of the command line or, without one, to the
+/// Sends a job that was kept in this file, to the queue of the command line or, without one, to the
 /// queue that it was made for. Its settings were checked when it was made and travel as they are;
 /// other settings on the command line are refused.
-ExitStatus sendJobFile(const CommandLine &line);
+ExitStatus sendJobFile(const CommandLine &line, const Document &file);
 
 /// The exit status for what a server answered.
 ExitStatus statusOf(const ServerAnswer &answer);

@@ -2,6 +2,7 @@
 
 #include "dialog/cups/DocumentFile.h"
 #include "dialog/cups/JobFileReader.h"
+#include "dialog/cups/PipeDocuments.h"
 #include "dialog/cups/ServerCall.h"
 #include "dialog/cups/ServerConnection.h"
 #include "dialog/job/CommandOutput.h"
@@ -26,14 +27,13 @@ QString sentence(const char *text)
 class Run
 {
 public:
-    explicit Run(const CommandLine &line)
-        : m_line(line), m_answers(line.yes), m_job(line.files, jobTitle(line.files))
+    Run(const CommandLine &line, const Documents &documents)
+        : m_line(line), m_answers(line.yes), m_job(documents)
     {}
 
     ExitStatus print();
 
 private:
-    ExitStatus checkDocuments();
     ExitStatus record();
     ExitStatus findPrinter();
     ExitStatus open();
@@ -57,12 +57,6 @@ PrinterSource sourceOf(const CommandLine &line)
     if (line.ppd.isNull() || !line.queue.isNull())
         source.queue = wantedQueue(line.queue, line.instance);
     return source;
-}
-
-ExitStatus Run::checkDocuments()
-{
-    const QString error = openDocuments(m_line.files).error;
-    return error.isNull() ? Done : failWith(Document, error);
 }
 
 ExitStatus Run::record()
@@ -172,8 +166,8 @@ ExitStatus Run::finish()
 ExitStatus Run::print()
 {
     using Step = ExitStatus (Run::*)();
-    for (const Step step : {&Run::checkDocuments, &Run::record, &Run::findPrinter, &Run::open,
-                            &Run::makeSettings, &Run::askPanels, &Run::finish}) {
+    for (const Step step : {&Run::record, &Run::findPrinter, &Run::open, &Run::makeSettings,
+                            &Run::askPanels, &Run::finish}) {
         const ExitStatus status = (this->*step)();
         if (status != Done)
             return status;
@@ -181,11 +175,28 @@ ExitStatus Run::print()
     return Done;
 }
 
+ReadDocuments readDocuments(const Documents &documents)
+{
+    if (!hasPipes(documents))
+        return {documents, {}};
+    return waitForServer<ReadDocuments>(
+               kServerPatience,
+               [documents](CallGuard &guard) { return readPipes(documents, guard); })
+        .value_or(ReadDocuments());
+}
+
 } // namespace
 
 ExitStatus runNoDialogCommand(const CommandLine &line)
 {
-    if (line.files.size() == 1 && isJobFile(line.files.constFirst()))
-        return sendJobFile(line);
-    return Run(line).print();
+    const OpenedDocuments opened = openDocuments(line.files);
+    if (!opened.error.isNull())
+        return failWith(ExitStatus::Document, opened.error);
+    const ReadDocuments read = readDocuments(opened.documents);
+    if (!read.answer.isGood())
+        return failWith(statusOf(read.answer), read.answer.sentence);
+    const Documents &documents = read.documents;
+    if (documents.size() == 1 && isJobFile(documents.front()))
+        return sendJobFile(line, documents.front());
+    return Run(line, documents).print();
 }

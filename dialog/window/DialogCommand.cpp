@@ -2,7 +2,6 @@
 
 #include "dialog/commandline/ExitStatus.h"
 #include "dialog/commandline/ToolkitMessages.h"
-#include "dialog/cups/DocumentFile.h"
 #include "dialog/cups/ServerCall.h"
 #include "dialog/job/CommandOutput.h"
 #include "dialog/job/NoDialogCommand.h"
@@ -23,10 +22,9 @@ constexpr std::chrono::milliseconds kPatienceAtTheEnd{300};
 
 ExitStatus runDialog(const CommandLine &line)
 {
-    const QString error = openDocuments(line.files).error;
-    if (!error.isNull())
-        return failWith(Document, error);
     DialogWindow window(line);
+    if (!window.documentError().isNull())
+        return failWith(Document, window.documentError());
     if (!window.beginRecording())
         return failWith(Output, window.recordingError());
     window.start();

@@ -130,7 +130,7 @@ DialogWindow::Notice DialogWindow::whatIsMissing() const
     if (m_job.session() && !hasPanels)
         return {Kind::Information, tr("This printer has none of the settings that the panels are "
                                       "for. It prints with the settings of this dialog alone.")};
-    if (m_job.documents().isEmpty())
+    if (m_job.documents().empty())
         return {Kind::Information, tr("Choose a document to print.")};
     if (m_line.output.isNull() && m_job.source().queue.queue.isEmpty())
         return {Kind::Information, tr("No queue was chosen: the job can be saved to a file.")};

@@ -37,9 +37,11 @@ QPushButton *newButton(const QString &name, const QString &title, QWidget *paren
 
 } // namespace
 
-DialogWindow::DialogWindow(const CommandLine &line, QWidget *parent)
-    : QDialog(parent), m_line(line), m_job(line.files, jobTitle(line.files))
+DialogWindow::DialogWindow(const CommandLine &line, QWidget *parent) : QDialog(parent), m_line(line)
 {
+    const OpenedDocuments opened = openDocuments(line.files);
+    m_documentError = opened.error;
+    m_job.setDocuments(opened.documents);
     setObjectName(u"dialogWindow"_s);
     setWindowTitle(tr("Print"));
     buildLayout();
@@ -144,7 +146,7 @@ void DialogWindow::setState(State state)
 
 bool DialogWindow::mayPrint() const
 {
-    return m_state == State::Ready && !m_job.documents().isEmpty() && m_header->isAcceptable() &&
+    return m_state == State::Ready && !m_job.documents().empty() && m_header->isAcceptable() &&
            m_pageSetup->isAcceptable();
 }
 
@@ -209,7 +211,12 @@ void DialogWindow::chooseDocuments()
         tr("Documents (*.pdf *.ps *.txt *.png *.jpg *.jpeg);;All files (*)"));
     if (paths.isEmpty())
         return;
-    m_job.setDocuments(paths, jobTitle(paths));
+    const OpenedDocuments opened = openDocuments(paths);
+    if (!opened.error.isNull()) {
+        m_notice->tell(NoticeBar::Kind::Error, opened.error);
+        return;
+    }
+    m_job.setDocuments(opened.documents);
     m_header->reload();
     m_standing = whatIsMissing();
     tellStanding();

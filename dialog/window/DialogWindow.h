@@ -41,6 +41,10 @@ public:
     explicit DialogWindow(const CommandLine &line, QWidget *parent = nullptr);
     ~DialogWindow() override;
 
+    /// The document of the command line that cannot be printed; one sentence, null when there is
+    /// none.
+    QString documentError() const { return m_documentError; }
+
     /// Before start(), where the session is to be noted. False when the script cannot be written.
     bool beginRecording();
     QString recordingError() const { return m_recordingError; }
@@ -130,6 +134,7 @@ private:
 
     const CommandLine m_line;
     std::unique_ptr<Recorder> m_recorder; // outlives the session that it follows
+    QString m_documentError;
     QString m_recordingError;
     PrintJob m_job;
     State m_state = State::Searching;

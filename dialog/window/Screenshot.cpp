@@ -52,6 +52,8 @@ ExitStatus write(const QPixmap &painted, const QString &path)
 ExitStatus takeScreenshot(const CommandLine &line)
 {
     DialogWindow window(line);
+    if (!window.documentError().isNull())
+        return failWith(Document, window.documentError());
     window.show();
     waitForPrinter(window);
     if (window.state() == DialogWindow::State::NoPrinter)

@@ -39,6 +39,10 @@
         <source>--yes is for --no-dialog.</source>
         <translation>--yes は --no-dialog と一緒に使います。</translation>
     </message>
+    <message>
+        <source>The value of %1 is no UTF-8 text.</source>
+        <translation>%1 の値は UTF-8 の文字列ではありません。</translation>
+    </message>
 </context>
 <context>
     <name>Conflicts</name>
@@ -241,6 +245,17 @@
     </message>
 </context>
 <context>
+    <name>Document</name>
+    <message>
+        <source>The document %1 has become shorter or longer since it was opened.</source>
+        <translation>文書 %1 の長さが、開いた後に変わりました。</translation>
+    </message>
+    <message>
+        <source>The document %1 cannot be read to its end.</source>
+        <translation>文書 %1 を最後まで読み込めません。</translation>
+    </message>
+</context>
+<context>
     <name>DocumentFile</name>
     <message>
         <source>The document %1 does not exist.</source>
@@ -257,6 +272,22 @@
     <message>
         <source>The document %1 cannot be read: %2.</source>
         <translation>文書 %1 を読み込めません（%2）。</translation>
+    </message>
+    <message>
+        <source>%1 is a named pipe, not a document.</source>
+        <translation>%1 は文書ではなく名前付きパイプです。</translation>
+    </message>
+    <message>
+        <source>%1 is a socket, not a document.</source>
+        <translation>%1 は文書ではなくソケットです。</translation>
+    </message>
+    <message>
+        <source>%1 is a device, not a document.</source>
+        <translation>%1 は文書ではなくデバイスです。</translation>
+    </message>
+    <message>
+        <source>Standard input</source>
+        <translation>標準入力</translation>
     </message>
 </context>
 <context>
@@ -306,14 +337,6 @@
     <message>
         <source>The file %1 cannot be written: %2.</source>
         <translation>ファイル %1 に書き込めません（%2）。</translation>
-    </message>
-    <message>
-        <source>%1 is no ordinary file: it cannot be kept in a job.</source>
-        <translation>%1 は通常のファイルではないため、ジョブに保存できません。</translation>
-    </message>
-    <message>
-        <source>The document %1 cannot be read to its end.</source>
-        <translation>文書 %1 を最後まで読み込めません。</translation>
     </message>
     <message>
         <source>%1 is no saved job.</source>
@@ -468,6 +491,21 @@
     <message>
         <source>Color Matching:</source>
         <translation>カラーマッチング:</translation>
+    </message>
+</context>
+<context>
+    <name>PipeDocuments</name>
+    <message>
+        <source>There is no room in the temporary folder %1 for the document %2.</source>
+        <translation>一時フォルダー %1 に、文書 %2 を置く空きがありません。</translation>
+    </message>
+    <message>
+        <source>The document %1 cannot be kept in the temporary folder %2: %3.</source>
+        <translation>文書 %1 を一時フォルダー %2 に置けません（%3）。</translation>
+    </message>
+    <message>
+        <source>The document %1 is longer than %2 MB, the most that is read from a pipe.</source>
+        <translation>文書 %1 は、パイプから読み込める上限の %2 MB を超えています。</translation>
     </message>
 </context>
 <context>

@@ -1,6 +1,8 @@
 #include "dialog/cups/JobFileReader.h"
 #include "dialog/cups/JobFileWriter.h"
 #include "tests/endtoend/JobPrinting.h"
+#include "tests/support/Documents.h"
+#include "tests/support/FileSizeLimit.h"
 #include "tests/support/Files.h"
 
 #include <QtCore/QDir>
@@ -10,34 +12,9 @@
 
 #include <gtest/gtest.h>
 
-#include <csignal>
-#include <sys/resource.h>
-
 using namespace Qt::StringLiterals;
 
 namespace {
-
-/// Lets no file of this process grow further, as a full disk does.
-class FileSizeLimit
-{
-public:
-    explicit FileSizeLimit(rlim_t bytes)
-    {
-        getrlimit(RLIMIT_FSIZE, &m_before);
-        m_signal = std::signal(SIGXFSZ, SIG_IGN);
-        const rlimit limit{bytes, m_before.rlim_max};
-        setrlimit(RLIMIT_FSIZE, &limit);
-    }
-    ~FileSizeLimit()
-    {
-        setrlimit(RLIMIT_FSIZE, &m_before);
-        std::signal(SIGXFSZ, m_signal);
-    }
-
-private:
-    rlimit m_before{};
-    void (*m_signal)(int) = SIG_DFL;
-};
 
 class JobFileAt : public testing::Test
 {
@@ -54,8 +31,9 @@ protected:
         request.queue = u"photo"_s;
         request.title = u"Holiday"_s;
         request.options = {{u"PageSize"_s, u"A4.Fullbleed"_s}, {u"x.y"_s, u"a=b: c"_s}};
-        request.documents = {write(u"one.pdf"_s, QByteArray("%PDF\n\nfirst\0x", 13)),
-                             write(u"two.txt"_s, "second")};
+        request.documents =
+            openedDocuments({write(u"one.pdf"_s, QByteArray("%PDF\n\nfirst\0x", 13)),
+                             write(u"two.txt"_s, "second")});
         return request;
     }
 
@@ -81,28 +59,62 @@ TEST_F(JobFileAt, GivesTheJobBack)
 {
     const JobRequest written = job();
     ASSERT_EQ(writeJobFile(m_path, written).error, QString());
-    EXPECT_TRUE(isJobFile(m_path));
-    const ReadJobFile read = readJobFile(m_path);
+    const ReadJobFile read = readJobFile(openedDocuments({m_path}).front());
     ASSERT_EQ(read.error, QString());
     EXPECT_EQ(read.job.title, u"Holiday"_s);
     EXPECT_EQ(read.job.queue, u"photo"_s);
     EXPECT_EQ(read.job.options, written.options);
     ASSERT_EQ(read.job.documents.size(), 2);
-    EXPECT_TRUE(read.job.documents[0].endsWith(u"/one.pdf"_s));
-    EXPECT_EQ(readFile(read.job.documents[0]), readFile(written.documents[0]));
-    EXPECT_EQ(readFile(read.job.documents[1]), "second");
+    EXPECT_EQ(read.job.documents[0].name(), u"one.pdf"_s);
+    EXPECT_EQ(bytesOf(read.job.documents[0]), QByteArray("%PDF\n\nfirst\0x", 13));
+    EXPECT_EQ(read.job.documents[1].name(), u"two.txt"_s);
+    EXPECT_EQ(bytesOf(read.job.documents[1]), "second");
 }
 
-TEST_F(JobFileAt, LeavesWhatStoodThereWhenADocumentIsMissing)
+struct Change
+{
+    const char *name;
+    qint64 size; ///< of what was 6 bytes long
+};
+
+void PrintTo(const Change &row, std::ostream *out)
+{
+    *out << row.name;
+}
+
+class ChangedDocument : public JobFileAt, public testing::WithParamInterface<Change>
+{};
+
+TEST_P(ChangedDocument, IsSaidAndKeepsWhatStoodThere)
 {
     write(u"out.job"_s, "precious");
-    JobRequest broken = job();
-    broken.documents += m_folder.filePath(u"missing.pdf"_s);
-    const WrittenJobFile written = writeJobFile(m_path, broken);
+    const JobRequest request = job();
+    ASSERT_TRUE(QFile::resize(m_folder.filePath(u"two.txt"_s), GetParam().size));
+    const WrittenJobFile written = writeJobFile(m_path, request);
     EXPECT_EQ(written.fault, JobFileFault::Document);
     EXPECT_EQ(written.error,
-              u"The document %1 does not exist."_s.arg(broken.documents.constLast()));
+              u"The document %1 has become shorter or longer since it was opened."_s.arg(
+                  m_folder.filePath(u"two.txt"_s)));
     EXPECT_EQ(readFile(m_path), "precious");
+    EXPECT_EQ(QDir(m_folder.path()).entryList(QDir::Files),
+              (QStringList{u"one.pdf"_s, u"out.job"_s, u"two.txt"_s}));
+}
+
+INSTANTIATE_TEST_SUITE_P(Table, ChangedDocument,
+                         testing::Values(Change{"Shorter", 5}, Change{"Empty", 0},
+                                         Change{"Longer", 7}),
+                         [](const auto &row) { return std::string(row.param.name); });
+
+TEST_F(JobFileAt, HoldsTheDocumentThatWasOpenedWhateverStandsUnderItsNameNow)
+{
+    JobRequest request = job();
+    request.documents = openedDocuments({write(u"two.txt"_s, "second")});
+    ASSERT_TRUE(QFile::remove(m_folder.filePath(u"two.txt"_s)));
+    write(u"two.txt"_s, "another, and longer");
+    for (int time = 0; time < 2; ++time) {
+        ASSERT_EQ(writeJobFile(m_path, request).error, QString());
+        EXPECT_TRUE(readFile(m_path).endsWith("Document: 6 two.txt\n\nsecond"));
+    }
 }
 
 TEST_F(JobFileAt, AFolderThatIsNotThereIsSaid)
@@ -118,7 +130,7 @@ TEST_F(JobFileAt, ADiskWithoutRoomKeepsWhatStoodThere)
 {
     write(u"out.job"_s, "precious");
     JobRequest large = job();
-    large.documents = {write(u"large.ps"_s, QByteArray(100000, 'x'))};
+    large.documents = openedDocuments({write(u"large.ps"_s, QByteArray(100000, 'x'))});
     const FileSizeLimit limit(50000);
     const WrittenJobFile written = writeJobFile(m_path, large);
     EXPECT_EQ(written.fault, JobFileFault::Output);
@@ -152,7 +164,8 @@ class DamagedJobFile : public JobFileAt, public testing::WithParamInterface<Dama
 TEST_P(DamagedJobFile, IsRefused)
 {
     const QString path = write(u"damaged.job"_s, "Velkaro-Print-Job: 1\n" + GetParam().bytes);
-    EXPECT_EQ(readJobFile(path).error, u"The saved job %1 is damaged."_s.arg(path));
+    EXPECT_EQ(readJobFile(openedDocuments({path}).front()).error,
+              u"The saved job %1 is damaged."_s.arg(path));
 }
 
 INSTANTIATE_TEST_SUITE_P(
@@ -166,22 +179,25 @@ INSTANTIATE_TEST_SUITE_P(
                     Damage{"OptionThatMustNotTravel", "Option: a b=c\nDocument: 1 a\n\nx"}),
     [](const auto &row) { return std::string(row.param.name); });
 
-TEST_F(JobFileAt, KeepsDocumentsInTheirFolderWhateverTheyAreCalled)
+TEST_F(JobFileAt, GivesDocumentsPlainNamesWhateverTheyAreCalled)
 {
-    const QString path = write(
-        u"evil.job"_s, "Velkaro-Print-Job: 1\nDocument: 1 ../../../etc/x\nDocument: 1 ..\n\nab");
-    const ReadJobFile read = readJobFile(path);
+    const QString path = write(u"evil.job"_s, "Velkaro-Print-Job: 1\nDocument: 1 ../../../etc/x\n"
+                                              "Document: 1 ..\nDocument: 1 a/\n\nabc");
+    const ReadJobFile read = readJobFile(openedDocuments({path}).front());
     ASSERT_EQ(read.error, QString());
-    for (const QString &document : read.job.documents)
-        EXPECT_TRUE(QDir::cleanPath(document).startsWith(read.folder->path() + u'/'));
-    EXPECT_EQ(readFile(read.job.documents[1]), "b");
+    ASSERT_EQ(read.job.documents.size(), 3);
+    EXPECT_EQ(read.job.documents[0].name(), u"x"_s);
+    EXPECT_EQ(read.job.documents[1].name(), u".."_s);
+    EXPECT_EQ(read.job.documents[2].name(), u"document"_s);
+    EXPECT_EQ(bytesOf(read.job.documents[2]), "c");
 }
 
 TEST_F(JobFileAt, AnyOtherFileIsNoJob)
 {
     const QString path = write(u"plain.pdf"_s, "%PDF-1.4\n");
-    EXPECT_FALSE(isJobFile(path));
-    EXPECT_EQ(readJobFile(path).error, u"%1 is no saved job."_s.arg(path));
+    const Document file = openedDocuments({path}).front();
+    EXPECT_FALSE(isJobFile(file));
+    EXPECT_EQ(readJobFile(file).error, u"%1 is no saved job."_s.arg(path));
 }
 
 } // namespace

@@ -9,6 +9,7 @@
 #include "tests/built/BuiltFiles.h"
 #include "tests/endtoend/JobPrinting.h"
 #include "tests/printserver/PrintServer.h"
+#include "tests/support/Documents.h"
 #include "tests/support/Files.h"
 
 #include <QtCore/QDir>
@@ -51,12 +52,12 @@ protected:
 
     void SetUp() override { ASSERT_NE(s_server, nullptr); }
 
-    QString document(const QByteArray &text)
+    Documents document(const QByteArray &text)
     {
-        QString path = m_folder.filePath(u"document%1.ps"_s.arg(++m_documents));
+        const QString path = m_folder.filePath(u"document%1.ps"_s.arg(++m_documents));
         writeFile(path, "%!PS-Adobe-3.0\n%%Pages: 1\n%%EndComments\n%%Page: 1 1\n% " + text +
                             "\nshowpage\n%%EOF\n");
-        return path;
+        return openedDocuments({path});
     }
 
     JobRequest job(const QString &queue)
@@ -65,7 +66,7 @@ protected:
         request.server = s_server->address();
         request.queue = queue;
         request.title = u"A & B <i>"_s;
-        request.documents = {document("first")};
+        request.documents = document("first");
         return request;
     }
 
@@ -148,7 +149,7 @@ TEST_F(Server, TakesAJobAsItWasSent)
                        {u"fit-to-page"_s, u"true"_s},
                        {u"com.velkaro.print.PrintSettings.T2T_Red"_s, u"-7"_s},
                        {u"com.velkaro.text"_s, u"a, \"b\" 'c' \\d $(e)"_s}};
-    request.documents += document("second");
+    request.documents.push_back(document("second").front());
     const JobReceipt receipt = submitJob(request, m_guard);
     ASSERT_TRUE(receipt.answer.isGood()) << receipt.answer.sentence.toStdString();
     EXPECT_EQ(receipt.notes, QStringList());
@@ -172,15 +173,17 @@ TEST_F(Server, RefusesAJobForAQueueThatIsClosed)
     EXPECT_EQ(s_server->jobs(u"closed"_s), QList<int>());
 }
 
-TEST_F(Server, GetsNoJobWhoseDocumentIsMissing)
+TEST_F(Server, GetsNoJobWhoseDocumentHasChanged)
 {
     const QList<int> before = s_server->jobs(u"photo"_s);
     JobRequest request = job(u"photo"_s);
-    request.documents += m_folder.filePath(u"missing.pdf"_s);
+    request.documents.push_back(document("second").front());
+    const QString path = request.documents.back().path();
+    ASSERT_TRUE(QFile::resize(path, 10));
     const JobReceipt receipt = submitJob(request, m_guard);
     EXPECT_EQ(receipt.answer.fault, ServerFault::Document);
     EXPECT_EQ(receipt.answer.sentence,
-              u"The document %1 does not exist."_s.arg(request.documents.constLast()));
+              u"The document %1 has become shorter or longer since it was opened."_s.arg(path));
     EXPECT_EQ(s_server->jobs(u"photo"_s), before);
 }
 
@@ -202,7 +205,7 @@ TEST_F(Server, CancelsAJobThatTheUserStoppedSending)
     ASSERT_TRUE(endless.open(QIODevice::WriteOnly));
     ASSERT_TRUE(endless.resize(4096LL * 1024 * 1024));
     JobRequest request = job(u"photo"_s);
-    request.documents = {endless.fileName()};
+    request.documents = openedDocuments({endless.fileName()});
     JobReceipt receipt;
     bool isDone = false;
     QObject owner;
@@ -304,7 +307,8 @@ INSTANTIATE_TEST_SUITE_P(
                              JobRequest request;
                              request.server = server;
                              request.queue = u"photo"_s;
-                             request.documents = {QStringLiteral("/proc/self/exe")};
+                             request.documents =
+                                 openedDocuments({QStringLiteral("/proc/self/exe")});
                              return submitJob(request, guard).answer;
                          }}),
     [](const auto &row) { return std::string(row.param.name); });
