@@ -1,6 +1,7 @@
 #include "dialog/cups/JobFileWriter.h"
 
 #include "dialog/cups/JobFileFormat.h"
+#include "dialog/cups/OutgoingText.h"
 #include "platform/toolkit/PlainText.h"
 
 #include <QtCore/QCoreApplication>
@@ -12,21 +13,22 @@ namespace {
 // A buffered file forgets why it could not be flushed.
 constexpr QIODevice::OpenMode kWriting = QIODevice::WriteOnly | QIODevice::Unbuffered;
 
-QByteArray headerLine(const char *field, const QString &value)
+QByteArray headerLine(const char *field, const QByteArray &value)
 {
-    return QByteArray(field) + ": " + displayText(value).toUtf8() + '\n';
+    return QByteArray(field) + ": " + value + '\n';
 }
 
 QByteArray header(const JobRequest &job)
 {
-    QByteArray lines = QByteArray(kJobFileFirstLine) + '\n' + headerLine("Title", job.title);
+    QByteArray lines =
+        QByteArray(kJobFileFirstLine) + '\n' + headerLine("Title", outgoingTitle(job.title));
     if (!job.queue.isNull())
-        lines += headerLine("Queue", job.queue);
+        lines += headerLine("Queue", displayText(job.queue).toUtf8());
     for (const JobOption &option : job.options)
-        lines += headerLine("Option", option.name + u'=' + option.value);
+        lines += headerLine("Option", displayText(option.name + u'=' + option.value).toUtf8());
     for (const Document &document : job.documents)
-        lines += headerLine("Document",
-                            QStringLiteral("%1 %2").arg(document.size()).arg(document.name()));
+        lines += headerLine("Document", QByteArray::number(document.size()) + ' ' +
+                                            outgoingDocumentName(document.name()));
     return lines + '\n';
 }
 

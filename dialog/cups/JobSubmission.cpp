@@ -2,6 +2,7 @@
 
 #include "dialog/cups/JobReadBack.h"
 #include "dialog/cups/OptionAttribute.h"
+#include "dialog/cups/OutgoingText.h"
 #include "dialog/cups/ServerConnection.h"
 
 #include <QtCore/QCoreApplication>
@@ -19,7 +20,7 @@ IppHandle createJobRequest(const JobRequest &job)
 {
     IppHandle request = queueRequest(IPP_OP_CREATE_JOB, job.queue);
     ippAddString(request.get(), IPP_TAG_OPERATION, IPP_TAG_NAME, "job-name", nullptr,
-                 job.title.toUtf8().left(255).constData());
+                 outgoingTitle(job.title).constData());
     for (const JobOption &option : job.options)
         addOptionAttribute(request.get(), option);
     return request;
@@ -30,7 +31,7 @@ IppHandle sendDocumentRequest(const JobRequest &job, int id, const QString &name
     IppHandle request = queueRequest(IPP_OP_SEND_DOCUMENT, job.queue);
     ippAddInteger(request.get(), IPP_TAG_OPERATION, IPP_TAG_INTEGER, "job-id", id);
     ippAddString(request.get(), IPP_TAG_OPERATION, IPP_TAG_NAME, "document-name", nullptr,
-                 name.toUtf8().left(255).constData());
+                 outgoingDocumentName(name).constData());
     ippAddBoolean(request.get(), IPP_TAG_OPERATION, "last-document", isLast ? 1 : 0);
     return request;
 }

@@ -1,5 +1,7 @@
 #include "dialog/cups/ServerConnection.h"
 
+#include "dialog/cups/OutgoingText.h"
+
 #include <QtCore/QByteArray>
 #include <QtCore/QCoreApplication>
 #include <QtCore/QUrl>
@@ -131,7 +133,7 @@ IppHandle queueRequest(ipp_op_t operation, const QString &queue)
                      "/printers/%s", queue.toUtf8().constData());
     ippAddString(request.get(), IPP_TAG_OPERATION, IPP_TAG_URI, "printer-uri", nullptr, uri);
     ippAddString(request.get(), IPP_TAG_OPERATION, IPP_TAG_NAME, "requesting-user-name", nullptr,
-                 cupsUser());
+                 outgoingText(QString::fromLocal8Bit(cupsUser()), "anonymous").constData());
     return request;
 }
 

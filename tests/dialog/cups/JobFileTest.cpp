@@ -55,6 +55,21 @@ TEST_F(JobFileAt, HoldsSettingsAndDocumentsForPeopleToRead)
                                     QByteArray("%PDF\n\nfirst\0x", 13) + "second");
 }
 
+TEST_F(JobFileAt, HoldsEveryNameOnALineOfItsOwn)
+{
+    JobRequest odd = job();
+    odd.title = u"A\nOption: raw=true\u202E"_s;
+    odd.documents = openedDocuments({write(u"x\nTitle: y\u001B.ps"_s, "second")});
+    odd.options.clear();
+    ASSERT_EQ(writeJobFile(m_path, odd).error, QString());
+    EXPECT_EQ(readFile(m_path), "Velkaro-Print-Job: 1\n"
+                                "Title: A Option: raw=true\n"
+                                "Queue: photo\n"
+                                "Document: 6 x Title: y .ps\n"
+                                "\n"
+                                "second");
+}
+
 TEST_F(JobFileAt, GivesTheJobBack)
 {
     const JobRequest written = job();

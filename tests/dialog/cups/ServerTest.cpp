@@ -98,6 +98,20 @@ TEST_F(Server, ListsItsQueuesAndNamesItsDefault)
     EXPECT_EQ(serverDefault(s_server->address(), m_guard).queue, (QueueName{u"photo"_s, {}}));
 }
 
+TEST_F(Server, IsGivenNamesWithoutControlCharacters)
+{
+    JobRequest request = job(u"raw"_s);
+    request.title = u"A\nB\u001B[2J\u202E"_s;
+    const QString odd = m_folder.filePath(u"x\ny\u001B.ps"_s);
+    ASSERT_TRUE(QFile::rename(request.documents[0].path(), odd));
+    request.documents = openedDocuments({odd});
+    const JobReceipt receipt = submitJob(request, m_guard);
+    ASSERT_TRUE(receipt.answer.isGood()) << receipt.answer.sentence.toStdString();
+    const QMap<QString, QString> kept = s_server->jobAttributes(u"raw"_s, receipt.id);
+    EXPECT_EQ(kept.value(u"job-name"_s), u"A B [2J"_s);
+    EXPECT_EQ(kept.value(u"document-name-supplied"_s), u"x y .ps"_s);
+}
+
 TEST_F(Server, GivesThePPDOfAQueueAndLeavesNoFileBehind)
 {
     // A folder of its own: everybody writes into the common one.
