@@ -19,6 +19,11 @@
 /// The first line, without its line break.
 constexpr auto kJobFileFirstLine = "Velkaro-Print-Job: 1";
 
+// What no job of this program comes near; a header at all limits is 900 KB.
+constexpr qsizetype kMostJobFileDocuments = 1000;
+constexpr qsizetype kMostJobFileOptions = 1000;
+constexpr qint64 kLongestJobFileHeader = 1'048'576; // bytes, the empty line among them
+
 /// The translated sentence about the file at the path (%1) and, where there is one, the reason
 /// (%2).
 QString jobFileSentence(const char *text, const QString &path, const QString &reason = QString());

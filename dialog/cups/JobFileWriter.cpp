@@ -73,6 +73,11 @@ WrittenJobFile writeJob(QFileDevice &file, const JobRequest &job)
 
 WrittenJobFile writeJobFile(const QString &path, const JobRequest &job)
 {
+    if (std::ssize(job.documents) > kMostJobFileDocuments)
+        return {JobFileFault::Document,
+                jobFileSentence(QT_TRANSLATE_NOOP("JobFile", "%1 would have too many documents: %2 "
+                                                             "are the most."),
+                                path, QString::number(kMostJobFileDocuments))};
     // Only an ordinary file can be replaced as a whole: a device or a pipe is written to.
     const QFileInfo old(path);
     if (old.exists() && !old.isFile() && !old.isDir()) {

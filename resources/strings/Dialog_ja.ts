@@ -346,6 +346,26 @@
         <source>The saved job %1 is damaged.</source>
         <translation>保存されたジョブ %1 は壊れています。</translation>
     </message>
+    <message>
+        <source>The saved job %1 is cut short: its end is missing.</source>
+        <translation>保存されたジョブ %1 は途中で切れています。</translation>
+    </message>
+    <message>
+        <source>The saved job %1 is damaged: its header has no end.</source>
+        <translation>保存されたジョブ %1 は壊れています（ヘッダーが終わっていません）。</translation>
+    </message>
+    <message>
+        <source>The saved job %1 has too many documents: %2 are the most.</source>
+        <translation>保存されたジョブ %1 の文書が多すぎます（最大 %2 個）。</translation>
+    </message>
+    <message>
+        <source>The saved job %1 has too many settings: %2 are the most.</source>
+        <translation>保存されたジョブ %1 の設定が多すぎます（最大 %2 個）。</translation>
+    </message>
+    <message>
+        <source>%1 would have too many documents: %2 are the most.</source>
+        <translation>%1 に保存する文書が多すぎます（最大 %2 個）。</translation>
+    </message>
 </context>
 <context>
     <name>JobHeader</name>
