@@ -17,9 +17,9 @@ struct RequestedChoice
 struct CommandLine
 {
     QStringList files; ///< as pathOfBytes() gives them; -: standard input
-    QString queue;    ///< -d, without the instance
-    QString instance; ///< what stands behind the slash of "-d queue/instance"
-    QString server;   ///< -h: host, host:port, or the path of a socket
+    QString queue;     ///< -d, without the instance
+    QString instance;  ///< what stands behind the slash of "-d queue/instance"
+    QString server;    ///< -h: host, host:port, or the path of a socket
     QString ppd;
     QList<RequestedChoice> choices; ///< -o, in the order given
     QString paper;                  ///< --paper: a PageSize choice, or Custom.WIDTHxHEIGHT

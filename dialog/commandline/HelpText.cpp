@@ -40,13 +40,15 @@ Looking and testing
 
 Exit status
   0  printed, written, or the script ran to its end
-  1  cancelled in the dialog
+  1  cancelled in the dialog, or by a signal before the server had the
+     whole job
   2  a wrong option, setting or script, a PPD that cannot be opened, or no
      display for the dialog
   3  a check stopped the job
   4  a document cannot be read
   5  an output file cannot be written
-  6  the server or the queue cannot be reached, or the job was refused
+  6  the server or the queue cannot be reached, the job was refused, or it
+     is not known whether it was taken
   7  the plug-in cannot be used
 )";
 }

@@ -2,8 +2,8 @@
 
 #include "dialog/cups/JobFileReader.h"
 #include "dialog/cups/JobFileWriter.h"
-#include "dialog/cups/ServerCall.h"
 #include "dialog/job/CommandOutput.h"
+#include "dialog/job/CommandWait.h"
 
 #include <QtCore/QCoreApplication>
 
@@ -30,17 +30,18 @@ ExitStatus statusOf(const ServerAnswer &answer)
     }
 }
 
-ExitStatus sendJob(const JobRequest &request)
+ExitStatus sendJob(const JobRequest &request, EndSignals &signals)
 {
     if (request.queue.isEmpty())
         return failWith(
             ExitStatus::Usage,
             sentence(QT_TRANSLATE_NOOP("JobDelivery", "No queue was named to print to; -d QUEUE "
                                                       "names one, --output FILE keeps the job.")));
-    const JobReceipt receipt =
-        waitForServer<JobReceipt>(kServerPatience, [request](CallGuard &guard) {
-            return submitJob(request, guard);
-        }).value_or(givenUpReceipt(request));
+    const auto progress = std::make_shared<JobProgress>();
+    const std::optional<JobReceipt> answered = waitUnlessEnded<JobReceipt>(
+        signals, kServerPatience,
+        [request, progress](CallGuard &guard) { return submitJob(request, guard, progress); });
+    const JobReceipt receipt = answered ? *answered : givenUpReceipt(request, *progress);
     if (!receipt.answer.isGood())
         return failWith(statusOf(receipt.answer), receipt.answer.sentence);
     report(sentence(QT_TRANSLATE_NOOP("JobDelivery", "%1 accepted job %2."))
@@ -50,14 +51,20 @@ ExitStatus sendJob(const JobRequest &request)
     return ExitStatus::Done;
 }
 
-ExitStatus keepJob(const QString &path, const JobRequest &request)
+ExitStatus keepJob(const QString &path, const JobRequest &request, EndSignals &signals)
 {
-    const WrittenJobFile written = writeJobFile(path, request);
+    const WrittenJobFile written =
+        waitUnlessEnded<WrittenJobFile>(signals, kFilePatience, [&](CallGuard &guard) {
+            JobProgress nobodyFollows;
+            return writeJobFile(path, request, guard, nobodyFollows);
+        }).value_or(WrittenJobFile());
     switch (written.fault) {
     case JobFileFault::Document:
         return failWith(ExitStatus::Document, written.error);
     case JobFileFault::Output:
         return failWith(ExitStatus::Output, written.error);
+    case JobFileFault::Cancelled:
+        return failWith(ExitStatus::Cancelled, written.error);
     case JobFileFault::None:
         break;
     }
@@ -65,7 +72,7 @@ ExitStatus keepJob(const QString &path, const JobRequest &request)
     return ExitStatus::Done;
 }
 
-ExitStatus sendJobFile(const CommandLine &line, const Document &file)
+ExitStatus sendJobFile(const CommandLine &line, const Document &file, EndSignals &signals)
 {
     if (!line.choices.isEmpty() || !line.paper.isNull() || !line.output.isNull())
         return failWith(ExitStatus::Usage,
@@ -79,5 +86,5 @@ ExitStatus sendJobFile(const CommandLine &line, const Document &file)
     read.job.server = line.server;
     if (!line.queue.isNull())
         read.job.queue = line.queue;
-    return sendJob(read.job);
+    return sendJob(read.job, signals);
 }

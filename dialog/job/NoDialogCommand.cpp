@@ -3,9 +3,9 @@
 #include "dialog/cups/DocumentFile.h"
 #include "dialog/cups/JobFileReader.h"
 #include "dialog/cups/PipeDocuments.h"
-#include "dialog/cups/ServerCall.h"
 #include "dialog/cups/ServerConnection.h"
 #include "dialog/job/CommandOutput.h"
+#include "dialog/job/CommandWait.h"
 #include "dialog/job/JobDelivery.h"
 #include "dialog/job/PrintJob.h"
 #include "dialog/job/ScriptedAnswers.h"
@@ -27,8 +27,8 @@ QString sentence(const char *text)
 class Run
 {
 public:
-    Run(const CommandLine &line, const Documents &documents)
-        : m_line(line), m_answers(line.yes), m_job(documents)
+    Run(const CommandLine &line, const Documents &documents, EndSignals &signals)
+        : m_line(line), m_signals(signals), m_answers(line.yes), m_job(documents)
     {}
 
     ExitStatus print();
@@ -42,6 +42,7 @@ private:
     ExitStatus finish();
 
     const CommandLine &m_line;
+    EndSignals &m_signals;
     ScriptedAnswers m_answers;
     std::unique_ptr<Recorder> m_recorder; // hands alerts on to the answers
     Refusal m_refusal;
@@ -74,13 +75,15 @@ ExitStatus Run::findPrinter()
     m_printer.queue = source.queue;
     if (!source.ppdPath.isNull())
         return Done;
-    const auto fetched = waitForServer<FetchedPrinter>(
-        kServerPatience, [source](CallGuard &guard) { return fetchPrinter(source, guard); });
+    const auto fetched =
+        waitUnlessEnded<FetchedPrinter>(m_signals, kServerPatience, [source](CallGuard &guard) {
+            return fetchPrinter(source, guard);
+        });
     if (!fetched)
         return failWith(Server, silentServer(source.server).sentence);
     m_printer = *fetched;
     if (!m_printer.ppd.answer.isGood())
-        return failWith(Server, m_printer.ppd.answer.sentence);
+        return failWith(statusOf(m_printer.ppd.answer), m_printer.ppd.answer.sentence);
     if (m_printer.queue.queue.isEmpty())
         return failWith(Usage, sentence(QT_TRANSLATE_NOOP("NoDialogCommand",
                                                           "No printer was chosen and there is no "
@@ -160,7 +163,8 @@ ExitStatus Run::finish()
     if (!options.faults.isEmpty())
         return failWith(Vetoed, options.faults.constFirst());
     const JobRequest request = m_job.request(options.options);
-    return m_line.output.isNull() ? sendJob(request) : keepJob(m_line.output, request);
+    return m_line.output.isNull() ? sendJob(request, m_signals)
+                                  : keepJob(m_line.output, request, m_signals);
 }
 
 ExitStatus Run::print()
@@ -168,6 +172,9 @@ ExitStatus Run::print()
     using Step = ExitStatus (Run::*)();
     for (const Step step : {&Run::record, &Run::findPrinter, &Run::open, &Run::makeSettings,
                             &Run::askPanels, &Run::finish}) {
+        if (EndSignals::haveCome())
+            return failWith(Cancelled, sentence(QT_TRANSLATE_NOOP("NoDialogCommand",
+                                                                  "Printing was cancelled.")));
         const ExitStatus status = (this->*step)();
         if (status != Done)
             return status;
@@ -175,12 +182,12 @@ ExitStatus Run::print()
     return Done;
 }
 
-ReadDocuments readDocuments(const Documents &documents)
+ReadDocuments readDocuments(const Documents &documents, EndSignals &signals)
 {
     if (!hasPipes(documents))
         return {documents, {}};
-    return waitForServer<ReadDocuments>(
-               kServerPatience,
+    return waitUnlessEnded<ReadDocuments>(
+               signals, kFilePatience,
                [documents](CallGuard &guard) { return readPipes(documents, guard); })
         .value_or(ReadDocuments());
 }
@@ -189,14 +196,15 @@ ReadDocuments readDocuments(const Documents &documents)
 
 ExitStatus runNoDialogCommand(const CommandLine &line)
 {
+    EndSignals signals;
     const OpenedDocuments opened = openDocuments(line.files);
     if (!opened.error.isNull())
         return failWith(ExitStatus::Document, opened.error);
-    const ReadDocuments read = readDocuments(opened.documents);
+    const ReadDocuments read = readDocuments(opened.documents, signals);
     if (!read.answer.isGood())
         return failWith(statusOf(read.answer), read.answer.sentence);
     const Documents &documents = read.documents;
     if (documents.size() == 1 && isJobFile(documents.front()))
-        return sendJobFile(line, documents.front());
-    return Run(line, documents).print();
+        return sendJobFile(line, documents.front(), signals);
+    return Run(line, documents, signals).print();
 }

@@ -1,6 +1,5 @@
 #pragma once
 
-#include "dialog/cups/JobSubmission.h"
 #include "dialog/cups/JobOptions.h"
 #include "dialog/cups/JobSubmission.h"
 #include "dialog/job/PrinterSource.h"

@@ -4,6 +4,7 @@
 #include "dialog/commandline/ToolkitMessages.h"
 #include "dialog/cups/ServerCall.h"
 #include "dialog/job/CommandOutput.h"
+#include "dialog/job/EndSignals.h"
 #include "dialog/job/NoDialogCommand.h"
 #include "dialog/window/DialogWindow.h"
 #include "dialog/window/Screenshot.h"
@@ -29,6 +30,7 @@ ExitStatus runDialog(const CommandLine &line)
         return failWith(Output, window.recordingError());
     window.start();
     window.show();
+    const EndSignals signals([&window] { window.end(); });
     QApplication::exec();
     return window.exitStatus();
 }

@@ -130,6 +130,10 @@ DialogWindow::Notice DialogWindow::whatIsMissing() const
     if (m_job.session() && !hasPanels)
         return {Kind::Information, tr("This printer has none of the settings that the panels are "
                                       "for. It prints with the settings of this dialog alone.")};
+    if (!m_documentError.isNull())
+        return {Kind::Error, m_documentError};
+    if (hasPipes(m_job.documents()))
+        return {Kind::Information, tr("Reading the document to its end…")};
     if (m_job.documents().empty())
         return {Kind::Information, tr("Choose a document to print.")};
     if (m_line.output.isNull() && m_job.source().queue.queue.isEmpty())

@@ -1,6 +1,5 @@
 #include "dialog/window/DialogWindow.h"
 
-#include "dialog/cups/DocumentFile.h"
 #include "dialog/cups/ServerCall.h"
 #include "dialog/job/Conflicts.h"
 #include "dialog/replay/Recorder.h"
@@ -8,11 +7,13 @@
 #include "dialog/window/JobHeader.h"
 #include "dialog/window/PageSetupPane.h"
 #include "dialog/window/PrinterPopUp.h"
+#include "dialog/window/ProgressStrip.h"
 #include "platform/foundation/NotificationCenter.h"
 #include "platform/toolkit/KeyWindow.h"
 
+#include <QtCore/QThread>
 #include <QtCore/QTimer>
-#include <QtWidgets/QFileDialog>
+#include <QtWidgets/QApplication>
 #include <QtWidgets/QHBoxLayout>
 #include <QtWidgets/QPushButton>
 #include <QtWidgets/QTabWidget>
@@ -26,6 +27,7 @@ namespace {
 
 constexpr QSize kFirstSize(640, 560);
 constexpr int kMargin = 14;
+constexpr std::chrono::milliseconds kLookInterval{50};
 
 QPushButton *newButton(const QString &name, const QString &title, QWidget *parent)
 {
@@ -39,9 +41,7 @@ QPushButton *newButton(const QString &name, const QString &title, QWidget *paren
 
 DialogWindow::DialogWindow(const CommandLine &line, QWidget *parent) : QDialog(parent), m_line(line)
 {
-    const OpenedDocuments opened = openDocuments(line.files);
-    m_documentError = opened.error;
-    m_job.setDocuments(opened.documents);
+    takeDocuments(openDocuments(line.files));
     setObjectName(u"dialogWindow"_s);
     setWindowTitle(tr("Print"));
     buildLayout();
@@ -52,6 +52,7 @@ DialogWindow::DialogWindow(const CommandLine &line, QWidget *parent) : QDialog(p
 DialogWindow::~DialogWindow()
 {
     delete m_call;
+    delete m_reading;
     closePrinter();
 }
 
@@ -59,6 +60,7 @@ void DialogWindow::buildLayout()
 {
     m_header = new JobHeader(m_job, this);
     m_notice = new NoticeBar(this);
+    m_progress = new ProgressStrip(this);
     m_tabs = new QTabWidget(this);
     m_tabs->setObjectName(u"parts"_s);
     m_pageSetup = new PageSetupPane(m_job);
@@ -68,6 +70,7 @@ void DialogWindow::buildLayout()
     layout->setSpacing(kMargin);
     layout->addWidget(m_header);
     layout->addWidget(m_notice);
+    layout->addWidget(m_progress);
     layout->addWidget(m_tabs, 1);
     layout->addWidget(newButtons());
     buildParts();
@@ -94,7 +97,7 @@ QWidget *DialogWindow::newButtons()
     m_help->setShortcut(QKeySequence::HelpContents);
     m_save = newButton(u"saveButton"_s, tr("Save to &File…"), row);
     m_cancel = newButton(u"cancelButton"_s, tr("Cancel"), row);
-    m_print = newButton(u"printButton"_s, m_line.output.isNull() ? tr("Print") : tr("Save"), row);
+    m_print = newButton(u"printButton"_s, printTitle(), row);
     m_print->setAutoDefault(true);
     m_print->setDefault(true);
     m_save->setVisible(m_line.output.isNull());
@@ -112,6 +115,13 @@ QWidget *DialogWindow::newButtons()
     return row;
 }
 
+QString DialogWindow::printTitle() const
+{
+    if (!m_line.output.isNull())
+        return tr("Save");
+    return m_mayHavePrinted ? tr("Print Again") : tr("Print");
+}
+
 bool DialogWindow::beginRecording()
 {
     if (m_line.record.isNull())
@@ -123,6 +133,8 @@ bool DialogWindow::beginRecording()
 void DialogWindow::start()
 {
     setKeyWindow(this);
+    if (m_line.screenshot.isNull())
+        readPipedDocuments();
     PrinterSource source{m_line.server, {}, m_line.ppd};
     if (m_line.ppd.isNull() || !m_line.queue.isNull())
         source.queue = wantedQueue(m_line.queue, m_line.instance);
@@ -140,14 +152,16 @@ void DialogWindow::setState(State state)
     m_tabs->setEnabled(state == State::Ready);
     m_cancel->setText(state == State::Done ? tr("Close") : tr("Cancel"));
     m_print->setVisible(state != State::Done);
+    m_print->setText(printTitle());
+    m_print->setDefault(!m_mayHavePrinted); // not twice by mistake
     updateButtons();
     Q_EMIT stateChanged();
 }
 
 bool DialogWindow::mayPrint() const
 {
-    return m_state == State::Ready && !m_job.documents().empty() && m_header->isAcceptable() &&
-           m_pageSetup->isAcceptable();
+    return m_state == State::Ready && !m_job.documents().empty() && !hasPipes(m_job.documents()) &&
+           m_header->isAcceptable() && m_pageSetup->isAcceptable();
 }
 
 void DialogWindow::updateButtons()
@@ -204,24 +218,6 @@ void DialogWindow::tellAnswers()
         m_notice->tell(NoticeBar::Kind::Warning, refusal);
 }
 
-void DialogWindow::chooseDocuments()
-{
-    const QStringList paths = QFileDialog::getOpenFileNames(
-        this, tr("Choose Documents"), QString(),
-        tr("Documents (*.pdf *.ps *.txt *.png *.jpg *.jpeg);;All files (*)"));
-    if (paths.isEmpty())
-        return;
-    const OpenedDocuments opened = openDocuments(paths);
-    if (!opened.error.isNull()) {
-        m_notice->tell(NoticeBar::Kind::Error, opened.error);
-        return;
-    }
-    m_job.setDocuments(opened.documents);
-    m_header->reload();
-    m_standing = whatIsMissing();
-    tellStanding();
-}
-
 void DialogWindow::showHelp()
 {
     const Part *part = currentPart();
@@ -243,9 +239,25 @@ void DialogWindow::done(int result)
         m_call->cancel();
         return;
     }
+    delete m_reading;
     NotificationCenter::defaultCenter().post(QLatin1String(kWindowWillCloseNotification),
                                              static_cast<QWidget *>(this));
     closePrinter();
     setKeyWindow(nullptr);
     QDialog::done(result);
+}
+
+/// Not while something runs an event loop of its own, an alert of a panel say: it would find its
+/// dialog gone.
+void DialogWindow::end()
+{
+    m_isEnding = true;
+    if (QThread::currentThread()->loopLevel() > 1) {
+        if (auto *dialog = qobject_cast<QDialog *>(QApplication::activeModalWidget()))
+            dialog->reject();
+        QTimer::singleShot(kLookInterval, this, &DialogWindow::end);
+        return;
+    }
+    if (isVisible())
+        reject();
 }

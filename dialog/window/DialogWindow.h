@@ -2,6 +2,9 @@
 
 #include "dialog/commandline/CommandLine.h"
 #include "dialog/commandline/ExitStatus.h"
+#include "dialog/cups/DocumentFile.h"
+#include "dialog/cups/JobFileWriter.h"
+#include "dialog/cups/PipeDocuments.h"
 #include "dialog/job/PrintJob.h"
 #include "dialog/job/SettingRequests.h"
 #include "dialog/window/NoticeBar.h"
@@ -16,6 +19,7 @@
 class JobHeader;
 class PageSetupPane;
 class PanelPane;
+class ProgressStrip;
 class QPushButton;
 class QTabWidget;
 class Recorder;
@@ -34,7 +38,7 @@ public:
         Searching, ///< for the printer and its PPD
         Ready,     ///< the user may change settings and print
         NoPrinter, ///< there is none, or it cannot be reached; another one may be picked
-        Sending,   ///< the job is on its way
+        Sending,   ///< the job is on its way to the server or into a file
         Done,      ///< the job was accepted or written; only closing is left
     };
 
@@ -62,6 +66,10 @@ public:
 
     /// What is in front: a panel's view, or one of the dialog's own panes.
     QWidget *shownPart() const;
+
+    /// Ends the dialog as Cancel does, for somebody who cannot click: what is on its way is
+    /// cancelled, and what asks something is dismissed.
+    void end();
 
     /// What the command line asked for and could not be made; one sentence, null otherwise.
     QString settingError() const { return m_settingError; }
@@ -93,6 +101,7 @@ private:
     // DialogWindow.cpp
     void buildLayout();
     QWidget *newButtons();
+    QString printTitle() const;
     void setState(State state);
     void updateButtons();
     void noteAnswer(const HostCallback::Call &call);
@@ -101,6 +110,11 @@ private:
     bool mayPrint() const;
     void chooseDocuments();
     void showHelp();
+
+    // DialogDocuments.cpp
+    void takeDocuments(const OpenedDocuments &opened);
+    void readPipedDocuments();
+    void takeRead(const ReadDocuments &read);
 
     // DialogPrinter.cpp
     void findPrinter(const PrinterSource &source);
@@ -128,8 +142,11 @@ private:
     void print();
     void saveToFile();
     void writeFile(const QString &path, const JobRequest &request);
+    void takeWritten(const WrittenJobFile &written);
     void send(const JobRequest &request);
     void takeReceipt(const JobReceipt &receipt);
+    std::shared_ptr<JobProgress> beginSending(const QString &sentence);
+    void endSending(State state);
     std::optional<JobRequest> finishedJob();
 
     const CommandLine m_line;
@@ -146,10 +163,14 @@ private:
     bool m_answersAreNoted = false;
     bool m_requestedSettingsAreMade = false;
     bool m_printersAreListed = false;
+    bool m_isEnding = false;
+    bool m_mayHavePrinted = false; ///< what Print did last
     QPointer<ServerCall> m_call;
+    QPointer<ServerCall> m_reading; ///< of documents that are pipes
 
     JobHeader *m_header;
     NoticeBar *m_notice;
+    ProgressStrip *m_progress;
     QTabWidget *m_tabs;
     PageSetupPane *m_pageSetup;
     SummaryPane *m_summary;

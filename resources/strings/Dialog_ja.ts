@@ -243,6 +243,18 @@
         <source>Documents (*.pdf *.ps *.txt *.png *.jpg *.jpeg);;All files (*)</source>
         <translation>文書 (*.pdf *.ps *.txt *.png *.jpg *.jpeg);;すべてのファイル (*)</translation>
     </message>
+    <message>
+        <source>Print Again</source>
+        <translation>もう一度印刷</translation>
+    </message>
+    <message>
+        <source>Writing the job to %1…</source>
+        <translation>ジョブを %1 に書き込んでいます…</translation>
+    </message>
+    <message>
+        <source>Reading the document to its end…</source>
+        <translation>文書を最後まで読み込んでいます…</translation>
+    </message>
 </context>
 <context>
     <name>Document</name>
@@ -366,6 +378,10 @@
         <source>%1 would have too many documents: %2 are the most.</source>
         <translation>%1 に保存する文書が多すぎます（最大 %2 個）。</translation>
     </message>
+    <message>
+        <source>The job was not written.</source>
+        <translation>ジョブは保存されませんでした。</translation>
+    </message>
 </context>
 <context>
     <name>JobHeader</name>
@@ -423,6 +439,37 @@
         <source>The server changed the setting %1 from %2 to %3.</source>
         <translation>サーバーが設定 %1 を %2 から %3 に変更しました。</translation>
     </message>
+    <message>
+        <source>The server has cancelled job %1 (%2).</source>
+        <translation>サーバーがジョブ %1 を取り消しました（%2）。</translation>
+    </message>
+    <message>
+        <source>The server has aborted job %1 (%2).</source>
+        <translation>サーバーがジョブ %1 を中止しました（%2）。</translation>
+    </message>
+    <message>
+        <source>The server has ended job %1 with errors (%2).</source>
+        <translation>サーバーでジョブ %1 がエラーで終了しました（%2）。</translation>
+    </message>
+</context>
+<context>
+    <name>JobSettlement</name>
+    <message>
+        <source>%1 Job %2 could not be cancelled at %3 and may be printed.</source>
+        <translation>%1 ジョブ %2 を %3 で取り消せませんでした。印刷される可能性があります。</translation>
+    </message>
+    <message>
+        <source>The print server %1 cancelled job %2.</source>
+        <translation>プリントサーバー %1 がジョブ %2 を取り消しました。</translation>
+    </message>
+    <message>
+        <source>The print server %1 aborted job %2.</source>
+        <translation>プリントサーバー %1 がジョブ %2 を中止しました。</translation>
+    </message>
+    <message>
+        <source>The print server %1 did not say whether it took the job: it may have been printed as job %2.</source>
+        <translation>プリントサーバー %1 から、ジョブを受け付けたかどうかの応答がありません。ジョブ %2 として印刷された可能性があります。</translation>
+    </message>
 </context>
 <context>
     <name>NoDialogCommand</name>
@@ -433,6 +480,10 @@
     <message>
         <source>The printer&apos;s settings do not allow this job.</source>
         <translation>プリンターの設定により、このジョブは印刷できません。</translation>
+    </message>
+    <message>
+        <source>Printing was cancelled.</source>
+        <translation>印刷を中止しました。</translation>
     </message>
 </context>
 <context>
@@ -587,6 +638,13 @@
     <message>
         <source>The PPD of the queue %1 cannot be used. %2</source>
         <translation>キュー %1 の PPD は使用できません。%2</translation>
+    </message>
+</context>
+<context>
+    <name>ProgressStrip</name>
+    <message>
+        <source>Progress</source>
+        <translation>進行状況</translation>
     </message>
 </context>
 <context>

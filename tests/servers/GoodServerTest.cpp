@@ -3,6 +3,7 @@
 #include "dialog/cups/QueuePPD.h"
 #include "tests/servers/GoodAnswers.h"
 #include "tests/servers/ScriptedServer.h"
+#include "tests/support/Documents.h"
 #include "tests/support/Files.h"
 #include "tests/support/QStringPrinting.h"
 
@@ -46,9 +47,10 @@ TEST(ScriptedServerTest, WithoutAScriptTakesAJobAsItWasSent)
     job.server = server.address();
     job.queue = u"photo"_s;
     job.options = {{u"VKMediaType"_s, u"Glossy"_s}, {u"copies"_s, u"2"_s}};
-    job.documents = {folder.filePath(u"first.pdf"_s), folder.filePath(u"second.pdf"_s)};
-    writeFile(job.documents[0], QByteArray(100000, '1'));
-    writeFile(job.documents[1], "second");
+    writeFile(folder.filePath(u"first.pdf"_s), QByteArray(100000, '1'));
+    writeFile(folder.filePath(u"second.pdf"_s), "second");
+    job.documents =
+        openedDocuments({folder.filePath(u"first.pdf"_s), folder.filePath(u"second.pdf"_s)});
     CallGuard guard;
     const JobReceipt receipt = submitJob(job, guard);
     EXPECT_EQ(receipt.answer.sentence, QString());

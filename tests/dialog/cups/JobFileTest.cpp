@@ -37,13 +37,20 @@ protected:
         return request;
     }
 
+    WrittenJobFile keep(const QString &path, const JobRequest &request)
+    {
+        return writeJobFile(path, request, m_guard, m_progress);
+    }
+
+    CallGuard m_guard;
+    JobProgress m_progress;
     QTemporaryDir m_folder;
     QString m_path = m_folder.filePath(u"out.job"_s);
 };
 
 TEST_F(JobFileAt, HoldsSettingsAndDocumentsForPeopleToRead)
 {
-    ASSERT_EQ(writeJobFile(m_path, job()).error, QString());
+    ASSERT_EQ(keep(m_path, job()).error, QString());
     EXPECT_EQ(readFile(m_path), QByteArray("Velkaro-Print-Job: 1\n"
                                            "Title: Holiday\n"
                                            "Queue: photo\n"
@@ -61,7 +68,7 @@ TEST_F(JobFileAt, HoldsEveryNameOnALineOfItsOwn)
     odd.title = u"A\nOption: raw=true\u202E"_s;
     odd.documents = openedDocuments({write(u"x\nTitle: y\u001B.ps"_s, "second")});
     odd.options.clear();
-    ASSERT_EQ(writeJobFile(m_path, odd).error, QString());
+    ASSERT_EQ(keep(m_path, odd).error, QString());
     EXPECT_EQ(readFile(m_path), "Velkaro-Print-Job: 1\n"
                                 "Title: A Option: raw=true\n"
                                 "Queue: photo\n"
@@ -73,7 +80,7 @@ TEST_F(JobFileAt, HoldsEveryNameOnALineOfItsOwn)
 TEST_F(JobFileAt, GivesTheJobBack)
 {
     const JobRequest written = job();
-    ASSERT_EQ(writeJobFile(m_path, written).error, QString());
+    ASSERT_EQ(keep(m_path, written).error, QString());
     const ReadJobFile read = readJobFile(openedDocuments({m_path}).front());
     ASSERT_EQ(read.error, QString());
     EXPECT_EQ(read.job.title, u"Holiday"_s);
@@ -105,7 +112,7 @@ TEST_P(ChangedDocument, IsSaidAndKeepsWhatStoodThere)
     write(u"out.job"_s, "precious");
     const JobRequest request = job();
     ASSERT_TRUE(QFile::resize(m_folder.filePath(u"two.txt"_s), GetParam().size));
-    const WrittenJobFile written = writeJobFile(m_path, request);
+    const WrittenJobFile written = keep(m_path, request);
     EXPECT_EQ(written.fault, JobFileFault::Document);
     EXPECT_EQ(written.error,
               u"The document %1 has become shorter or longer since it was opened."_s.arg(
@@ -127,7 +134,7 @@ TEST_F(JobFileAt, HoldsTheDocumentThatWasOpenedWhateverStandsUnderItsNameNow)
     ASSERT_TRUE(QFile::remove(m_folder.filePath(u"two.txt"_s)));
     write(u"two.txt"_s, "another, and longer");
     for (int time = 0; time < 2; ++time) {
-        ASSERT_EQ(writeJobFile(m_path, request).error, QString());
+        ASSERT_EQ(keep(m_path, request).error, QString());
         EXPECT_TRUE(readFile(m_path).endsWith("Document: 6 two.txt\n\nsecond"));
     }
 }
@@ -135,7 +142,7 @@ TEST_F(JobFileAt, HoldsTheDocumentThatWasOpenedWhateverStandsUnderItsNameNow)
 TEST_F(JobFileAt, AFolderThatIsNotThereIsSaid)
 {
     const QString path = m_folder.filePath(u"nowhere/out.job"_s);
-    const WrittenJobFile written = writeJobFile(path, job());
+    const WrittenJobFile written = keep(path, job());
     EXPECT_EQ(written.fault, JobFileFault::Output);
     EXPECT_EQ(written.error,
               u"The file %1 cannot be written: No such file or directory."_s.arg(path));
@@ -147,7 +154,7 @@ TEST_F(JobFileAt, ADiskWithoutRoomKeepsWhatStoodThere)
     JobRequest large = job();
     large.documents = openedDocuments({write(u"large.ps"_s, QByteArray(100000, 'x'))});
     const FileSizeLimit limit(50000);
-    const WrittenJobFile written = writeJobFile(m_path, large);
+    const WrittenJobFile written = keep(m_path, large);
     EXPECT_EQ(written.fault, JobFileFault::Output);
     EXPECT_EQ(written.error, u"The file %1 cannot be written: File too large."_s.arg(m_path));
     EXPECT_EQ(readFile(m_path), "precious");
@@ -155,7 +162,7 @@ TEST_F(JobFileAt, ADiskWithoutRoomKeepsWhatStoodThere)
 
 TEST_F(JobFileAt, ADeviceWithoutRoomIsSaidAndStaysADevice)
 {
-    const WrittenJobFile written = writeJobFile(u"/dev/full"_s, job());
+    const WrittenJobFile written = keep(u"/dev/full"_s, job());
     EXPECT_EQ(written.fault, JobFileFault::Output);
     EXPECT_TRUE(written.error.startsWith(u"The file /dev/full cannot be written: "_s))
         << written.error.toStdString();
@@ -164,7 +171,7 @@ TEST_F(JobFileAt, ADeviceWithoutRoomIsSaidAndStaysADevice)
 
 TEST_F(JobFileAt, IsNotReadWhenItIsCutShort)
 {
-    ASSERT_EQ(writeJobFile(m_path, job()).error, QString());
+    ASSERT_EQ(keep(m_path, job()).error, QString());
     write(u"out.job"_s, readFile(m_path).chopped(1));
     EXPECT_EQ(readJobFile(openedDocuments({m_path}).front()).error,
               u"The saved job %1 is cut short: its end is missing."_s.arg(m_path));
@@ -174,12 +181,12 @@ TEST_F(JobFileAt, IsNotWrittenWithMoreDocumentsThanCanBeRead)
 {
     JobRequest large = job();
     large.documents = Documents(1001, large.documents[0]);
-    const WrittenJobFile written = writeJobFile(m_path, large);
+    const WrittenJobFile written = keep(m_path, large);
     EXPECT_EQ(written.fault, JobFileFault::Document);
     EXPECT_EQ(written.error, u"%1 would have too many documents: 1000 are the most."_s.arg(m_path));
     EXPECT_FALSE(QFileInfo::exists(m_path));
     large.documents.pop_back();
-    EXPECT_EQ(writeJobFile(m_path, large).error, QString());
+    EXPECT_EQ(keep(m_path, large).error, QString());
     EXPECT_EQ(readJobFile(openedDocuments({m_path}).front()).job.documents.size(), 1000);
 }
 
