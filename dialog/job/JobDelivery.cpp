@@ -2,6 +2,8 @@
 
 #include "dialog/cups/JobFileReader.h"
 #include "dialog/cups/JobFileWriter.h"
+#include "dialog/cups/OutgoingText.h"
+#include "dialog/cups/SavedJobOptions.h"
 #include "dialog/job/CommandOutput.h"
 #include "dialog/job/CommandWait.h"
 
@@ -12,6 +14,39 @@ namespace {
 QString sentence(const char *text)
 {
     return QCoreApplication::translate("JobDelivery", text);
+}
+
+/// The first fault of the job's options, null when they may all be sent.
+QString faultOfOptions(const QString &path, const QList<JobOption> &options, bool yes)
+{
+    for (const JobOption &option : options) {
+        const OptionOrigin origin = originOf(option.name);
+        if (origin == OptionOrigin::Never)
+            return sentence(
+                       QT_TRANSLATE_NOOP("JobDelivery",
+                                         "%1 is not sent: it sets %2, which no saved job may."))
+                .arg(path, option.name);
+        if (origin == OptionOrigin::Foreign && !yes)
+            return sentence(
+                       QT_TRANSLATE_NOOP("JobDelivery",
+                                         "%1 is not sent: it sets %2, which Velkaro Print does "
+                                         "not write; --yes sends it all the same."))
+                .arg(path, option.name);
+    }
+    return {};
+}
+
+/// Says on standard error what is about to be sent.
+void list(const JobRequest &job)
+{
+    warn(sentence(QT_TRANSLATE_NOOP("JobDelivery", "Sending \"%1\" to %2."))
+             .arg(QString::fromUtf8(outgoingTitle(job.title)), job.queue));
+    for (const Document &document : job.documents)
+        warn(sentence(QT_TRANSLATE_NOOP("JobDelivery", "Document: %1 (%2 bytes)"))
+                 .arg(document.name(), QString::number(document.size())));
+    for (const JobOption &option : job.options)
+        warn(sentence(QT_TRANSLATE_NOOP("JobDelivery", "Setting: %1=%2"))
+                 .arg(option.name, option.value));
 }
 
 } // namespace
@@ -83,8 +118,13 @@ ExitStatus sendJobFile(const CommandLine &line, const Document &file, EndSignals
     ReadJobFile read = readJobFile(file);
     if (!read.error.isNull())
         return failWith(ExitStatus::Document, read.error);
+    const QString fault = faultOfOptions(file.path(), read.job.options, line.yes);
+    if (!fault.isNull())
+        return failWith(ExitStatus::Vetoed, fault);
     read.job.server = line.server;
     if (!line.queue.isNull())
         read.job.queue = line.queue;
+    if (!read.job.queue.isEmpty())
+        list(read.job);
     return sendJob(read.job, signals);
 }

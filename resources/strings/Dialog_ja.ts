@@ -343,6 +343,26 @@
         <source>%1 is a saved job: it is sent as it was saved, without -o, --paper and --output.</source>
         <translation>%1 は保存されたジョブです。保存したときの設定で送信するため、-o、--paper、--output は使えません。</translation>
     </message>
+    <message>
+        <source>%1 is not sent: it sets %2, which no saved job may.</source>
+        <translation>%1 は送信しません。保存されたジョブでは設定できない %2 が含まれています。</translation>
+    </message>
+    <message>
+        <source>%1 is not sent: it sets %2, which Velkaro Print does not write; --yes sends it all the same.</source>
+        <translation>%1 は送信しません。Velkaro Print が書き込まない設定 %2 が含まれています。それでも送信するには --yes を指定してください。</translation>
+    </message>
+    <message>
+        <source>Sending &quot;%1&quot; to %2.</source>
+        <translation>「%1」を %2 に送信します。</translation>
+    </message>
+    <message>
+        <source>Document: %1 (%2 bytes)</source>
+        <translation>文書: %1（%2 バイト）</translation>
+    </message>
+    <message>
+        <source>Setting: %1=%2</source>
+        <translation>設定: %1=%2</translation>
+    </message>
 </context>
 <context>
     <name>JobFile</name>
