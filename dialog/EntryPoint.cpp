@@ -2,7 +2,7 @@
 #include "dialog/commandline/ExitStatus.h"
 #include "dialog/commandline/HelpText.h"
 #include "dialog/commandline/ToolkitMessages.h"
-#include "dialog/cups/PathBytes.h"
+#include "dialog/files/PathBytes.h"
 #include "dialog/job/CommandOutput.h"
 #include "dialog/replay/ReplayCommand.h"
 #include "dialog/window/DialogCommand.h"

@@ -1,6 +1,6 @@
 #include "dialog/cups/DocumentFile.h"
 
-#include "dialog/cups/PathBytes.h"
+#include "dialog/files/PathBytes.h"
 
 #include <QtCore/QCoreApplication>
 #include <QtCore/QFileInfo>

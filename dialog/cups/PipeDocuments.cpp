@@ -1,7 +1,7 @@
 #include "dialog/cups/PipeDocuments.h"
 
-#include "dialog/cups/PathBytes.h"
 #include "dialog/cups/TemporaryFile.h"
+#include "dialog/files/PathBytes.h"
 
 #include <QtCore/QCoreApplication>
 

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "dialog/cups/CallGuard.h"
-#include "dialog/cups/FileDescriptor.h"
+#include "dialog/files/FileDescriptor.h"
 
 #include <QtCore/QString>
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "dialog/cups/FileDescriptor.h"
+#include "dialog/files/FileDescriptor.h"
 
 #include <QtCore/QByteArray>
 

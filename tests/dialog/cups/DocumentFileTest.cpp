@@ -1,4 +1,4 @@
-#include "dialog/cups/PathBytes.h"
+#include "dialog/files/PathBytes.h"
 #include "tests/support/Documents.h"
 #include "tests/support/Files.h"
 

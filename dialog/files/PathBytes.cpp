@@ -1,4 +1,4 @@
-#include "dialog/cups/PathBytes.h"
+#include "dialog/files/PathBytes.h"
 
 #include "platform/toolkit/PlainText.h"
 

@@ -23,6 +23,9 @@ public:
             close(m_descriptor);
     }
 
+    /// Closes it. False, with errno, when what was written has not arrived.
+    bool shut() { return close(std::exchange(m_descriptor, -1)) == 0; }
+
     bool isOpen() const { return m_descriptor >= 0; }
     int get() const { return m_descriptor; }
 
