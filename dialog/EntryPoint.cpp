@@ -52,6 +52,6 @@ extern "C" Q_DECL_EXPORT int velkaroPrintMain(int argc, char **argv)
         return print(versionText());
     tellToolkitFaultsOnly();
     if (!line.replay.isNull())
-        return runReplayCommand(argc, argv, line.replay, line.plugIn);
+        return runReplayCommand(argc, argv, line);
     return runDialogCommand(argc, argv, line);
 }

@@ -51,6 +51,7 @@ constexpr std::array kOptions{
     Option{"option", 'o', nullptr, nullptr, takeChoice},
     Option{"paper", '\0', &CommandLine::paper},
     Option{"output", '\0', &CommandLine::output},
+    Option{"force", '\0', nullptr, &CommandLine::force},
     Option{"no-dialog", '\0', nullptr, &CommandLine::noDialog},
     Option{"yes", '\0', nullptr, &CommandLine::yes},
     Option{"screenshot", '\0', &CommandLine::screenshot},

@@ -29,6 +29,7 @@ struct CommandLine
     QString record;
     QString replay; ///< "-": standard input
     QString plugIn;
+    bool force = false; ///< files that exist may be replaced
     bool noDialog = false;
     bool yes = false;
     bool version = false;

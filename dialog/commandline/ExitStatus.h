@@ -8,7 +8,7 @@ enum class ExitStatus {
     Usage = 2,     ///< a wrong option, setting or script, a bad PPD, or no display for the dialog
     Vetoed = 3,    ///< a check before printing stopped the job
     Document = 4,  ///< a document cannot be read
-    Output = 5,    ///< the output file, picture or recording cannot be written
+    Output = 5,    ///< the output file, picture or recording cannot be written, or exists already
     Server = 6,    ///< the server or the queue cannot be reached, the job was refused, or its fate
                    ///< is not known
     PlugIn = 7,    ///< the plug-in cannot be used

@@ -23,6 +23,8 @@ Job
       --output FILE       put the job into a file, settings and documents
                           together; print it later with
                           --no-dialog -d QUEUE FILE
+      --force             replace files that exist already: those of --output,
+                          --screenshot, --record and of a script's pictures
       --no-dialog         print without showing the dialog; every check is made
       --yes               answer yes to what a check asks, instead of no
 
@@ -46,7 +48,7 @@ Exit status
      display for the dialog
   3  a check stopped the job
   4  a document cannot be read
-  5  an output file cannot be written
+  5  an output file cannot be written, or exists already
   6  the server or the queue cannot be reached, the job was refused, or it
      is not known whether it was taken
   7  the plug-in cannot be used

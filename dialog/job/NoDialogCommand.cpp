@@ -40,6 +40,7 @@ private:
     ExitStatus makeSettings();
     ExitStatus askPanels();
     ExitStatus finish();
+    ExitStatus takeSteps();
 
     const CommandLine &m_line;
     EndSignals &m_signals;
@@ -66,7 +67,8 @@ ExitStatus Run::record()
         return Done;
     m_recorder = std::make_unique<Recorder>();
     QString error;
-    return m_recorder->open(m_line.record, &error) ? Done : failWith(Output, error);
+    return m_recorder->open(m_line.record, outputTerms(m_line), &error) ? Done
+                                                                        : failWith(Output, error);
 }
 
 ExitStatus Run::findPrinter()
@@ -167,7 +169,7 @@ ExitStatus Run::finish()
                                   : keepJob(m_line.output, request, m_signals);
 }
 
-ExitStatus Run::print()
+ExitStatus Run::takeSteps()
 {
     using Step = ExitStatus (Run::*)();
     for (const Step step : {&Run::record, &Run::findPrinter, &Run::open, &Run::makeSettings,
@@ -180,6 +182,14 @@ ExitStatus Run::print()
             return status;
     }
     return Done;
+}
+
+ExitStatus Run::print()
+{
+    const ExitStatus status = takeSteps();
+    m_job.closePrinter(); // is noted, too
+    const QString fault = m_recorder ? m_recorder->finish() : QString();
+    return status != Done || fault.isNull() ? status : failWith(Output, fault);
 }
 
 ReadDocuments readDocuments(const Documents &documents, EndSignals &signals)

@@ -32,7 +32,9 @@ ExitStatus runDialog(const CommandLine &line)
     window.show();
     const EndSignals signals([&window] { window.end(); });
     QApplication::exec();
-    return window.exitStatus();
+    const bool hasOtherFault = window.exitStatus() != Done && window.exitStatus() != Cancelled;
+    return window.finishRecording() || hasOtherFault ? window.exitStatus()
+                                                     : failWith(Output, window.recordingError());
 }
 
 // The toolkit would advise to install the program again, and abort.

@@ -73,8 +73,8 @@ void DialogWindow::openPPD(const PrinterSource &source, const QString &path)
     options.callObserver = [this](const HostCallback::Call &call) { noteAnswer(call); };
     OpenedPrinter printer =
         openPrinter(options, savedOptions(source.queue), [this](HostSession &session) {
-            if (m_recorder && !m_recorder->attach(session, &m_recordingError))
-                m_exitStatus = ExitStatus::Output;
+            if (m_recorder && m_recordingError.isNull())
+                m_recorder->attach(session, &m_recordingError);
         });
     const bool isFile = !source.ppdPath.isNull();
     const QString title =

@@ -1,6 +1,7 @@
 #include "dialog/window/DialogWindow.h"
 
 #include "dialog/cups/ServerCall.h"
+#include "dialog/job/CommandOutput.h"
 #include "dialog/job/Conflicts.h"
 #include "dialog/replay/Recorder.h"
 #include "dialog/window/HostHelp.h"
@@ -127,7 +128,16 @@ bool DialogWindow::beginRecording()
     if (m_line.record.isNull())
         return true;
     m_recorder = std::make_unique<Recorder>();
-    return m_recorder->open(m_line.record, &m_recordingError);
+    return m_recorder->open(m_line.record, outputTerms(m_line), &m_recordingError);
+}
+
+bool DialogWindow::finishRecording()
+{
+    closePrinter();
+    if (m_recorder && m_recordingError.isNull())
+        m_recordingError = m_recorder->finish();
+    m_recorder.reset();
+    return m_recordingError.isNull();
 }
 
 void DialogWindow::start()

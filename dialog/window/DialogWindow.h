@@ -51,6 +51,9 @@ public:
 
     /// Before start(), where the session is to be noted. False when the script cannot be written.
     bool beginRecording();
+
+    /// When the dialog has closed. False when not all of the session could be noted.
+    bool finishRecording();
     QString recordingError() const { return m_recordingError; }
 
     /// Looks for the printer.

@@ -507,6 +507,32 @@
     </message>
 </context>
 <context>
+    <name>OutputFile</name>
+    <message>
+        <source>The file %1 cannot be written: %2.</source>
+        <translation>ファイル %1 に書き込めません（%2）。</translation>
+    </message>
+    <message>
+        <source>nobody reads from it</source>
+        <translation>読み取る側がいません</translation>
+    </message>
+</context>
+<context>
+    <name>OutputRule</name>
+    <message>
+        <source>Nothing is written over %1: it is in use for this.</source>
+        <translation>%1 はこの処理で使用中のため、上書きしません。</translation>
+    </message>
+    <message>
+        <source>%1 is a folder: it cannot be written.</source>
+        <translation>%1 はフォルダーのため、書き込めません。</translation>
+    </message>
+    <message>
+        <source>The file %1 exists already; --force replaces it.</source>
+        <translation>ファイル %1 は既に存在します。置き換えるには --force を指定してください。</translation>
+    </message>
+</context>
+<context>
     <name>PPDFile</name>
     <message>
         <source>The PPD file %1 does not exist.</source>
@@ -674,15 +700,8 @@
         <translation>PPD を %1 にコピーできません（%2）</translation>
     </message>
     <message>
-        <source>The script %1 cannot be written: %2</source>
-        <translation>スクリプト %1 に書き込めません（%2）</translation>
-    </message>
-</context>
-<context>
-    <name>Screenshot</name>
-    <message>
-        <source>The picture %1 cannot be written: %2.</source>
-        <translation>画像 %1 を保存できません（%2）。</translation>
+        <source>no name is free</source>
+        <translation>使用できる名前がありません</translation>
     </message>
 </context>
 <context>

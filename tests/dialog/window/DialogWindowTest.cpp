@@ -295,7 +295,7 @@ TEST_F(Window, CanBeRecordedForReplay)
     ASSERT_TRUE(QTest::qWaitForWindowActive(m_window.get()));
     pick("mediaTypePopup", u"Glossy"_s);
     m_window->reject();
-    m_window.reset();
+    EXPECT_TRUE(m_window->finishRecording());
     const QByteArray text = readFile(m_line.record);
     EXPECT_TRUE(text.contains("\"Glossy\"")) << text.toStdString();
     EXPECT_TRUE(text.contains("\"close\"")) << text.toStdString();
