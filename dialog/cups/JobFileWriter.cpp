@@ -2,20 +2,13 @@
 
 #include "dialog/cups/JobFileFormat.h"
 #include "dialog/cups/OutgoingText.h"
-#include "dialog/cups/StreamOutput.h"
 #include "platform/toolkit/PlainText.h"
 
 #include <QtCore/QCoreApplication>
-#include <QtCore/QFileInfo>
-#include <QtCore/QSaveFile>
 
-#include <cerrno>
-#include <functional>
+#include <csignal>
 
 namespace {
-
-// A buffered file forgets why it could not be flushed.
-constexpr QIODevice::OpenMode kWriting = QIODevice::WriteOnly | QIODevice::Unbuffered;
 
 QByteArray headerLine(const char *field, const QByteArray &value)
 {
@@ -36,103 +29,81 @@ QByteArray header(const JobRequest &job)
     return lines + '\n';
 }
 
-WrittenJobFile outputFault(const QString &path, const QString &reason)
-{
-    return {JobFileFault::Output,
-            jobFileSentence(QT_TRANSLATE_NOOP("JobFile", "The file %1 cannot be written: %2."),
-                            path, reason)};
-}
-
-/// Takes the bytes of the file one after the other; false when it can take no more.
-using Sink = std::function<bool(const char *bytes, qint64 length)>;
-
-/// The outcome when the sink has taken no more, or the user wants no more.
+/// A job on its way into the file, as far as the user wants that.
 struct Writing
 {
-    const JobRequest &job;
+    OutputFile &file;
     CallGuard &guard;
     JobProgress &progress;
-    Sink sink;
 
-    bool write(const char *bytes, qint64 length) const
+    bool write(QByteArrayView bytes) const
     {
         guard.stampSignOfLife();
-        return !guard.isCancelled() && sink(bytes, length);
+        return !guard.isCancelled() && file.write(bytes);
     }
 };
 
-/// Gives the sink the whole file. A fault without a sentence is the sink's own.
-WrittenJobFile writeAll(const Writing &writing)
+WrittenJobFile outputFault(const Writing &writing)
 {
-    const QByteArray lines = header(writing.job);
-    bool isTaken = writing.write(lines.constData(), lines.size());
-    for (const Document &document : writing.job.documents) {
-        if (!isTaken)
-            break;
-        const Delivery delivery = deliver(document, [&](const char *bytes, qint64 length) {
-            writing.progress.add(length);
-            return writing.write(bytes, length);
-        });
-        isTaken = delivery != Delivery::NotTaken;
-        if (const QString fault = deliveryFault(document, delivery); !fault.isNull())
-            return {JobFileFault::Document, fault};
-    }
     if (writing.guard.isCancelled())
         return {JobFileFault::Cancelled,
                 QCoreApplication::translate("JobFile", "The job was not written.")};
-    return {isTaken ? JobFileFault::None : JobFileFault::Output, QString()};
+    return {JobFileFault::Output, writing.file.error()};
 }
 
-/// A disk that is nearly full takes a part first, and says only then why it takes no more.
-bool take(QIODevice &file, const char *bytes, qint64 length)
+WrittenJobFile writeJob(const Writing &writing, const JobRequest &job)
 {
-    while (length > 0) {
-        const qint64 taken = file.write(bytes, length);
-        if (taken <= 0)
-            return false;
-        bytes += taken;
-        length -= taken;
+    if (!writing.write(header(job)))
+        return outputFault(writing);
+    for (const Document &document : job.documents) {
+        const Delivery delivery = deliver(document, [&](const char *bytes, qint64 length) {
+            writing.progress.add(length);
+            return writing.write(QByteArrayView(bytes, length));
+        });
+        if (delivery == Delivery::NotTaken)
+            return outputFault(writing);
+        if (delivery != Delivery::Complete)
+            return {JobFileFault::Document, deliveryFault(document, delivery)};
     }
-    return true;
+    const bool isDone = !writing.guard.isCancelled() && writing.file.commit();
+    return isDone ? WrittenJobFile() : outputFault(writing);
 }
 
-WrittenJobFile replaceFile(const QString &path, Writing writing)
+/// The terms, and that no document of the job is written over.
+OutputTerms keeping(const Documents &documents, OutputTerms terms)
 {
-    QSaveFile file(path);
-    if (!file.open(kWriting))
-        return outputFault(path, file.errorString());
-    writing.sink = [&file](const char *bytes, qint64 length) { return take(file, bytes, length); };
-    const WrittenJobFile written = writeAll(writing);
-    const bool isDone = written.fault == JobFileFault::None && file.commit();
-    return isDone || !written.error.isNull() ? written : outputFault(path, file.errorString());
+    for (const Document &document : documents)
+        if (const auto identity = identityOf(document.descriptor()))
+            terms.inputs += *identity;
+    return terms;
 }
 
-WrittenJobFile writeStream(const QString &path, Writing writing)
+// A pipe's reader that goes is a fault of writing, not the end of the program.
+void blockPipeSignal()
 {
-    const FileDescriptor file = openStream(path, writing.guard);
-    if (!file.isOpen() && !writing.guard.isCancelled())
-        return outputFault(path, qt_error_string(errno));
-    writing.sink = [&](const char *bytes, qint64 length) {
-        return writeToStream(file, bytes, length, writing.guard);
-    };
-    const WrittenJobFile written = writeAll(writing);
-    const bool isDone = written.fault == JobFileFault::None || !written.error.isNull();
-    return isDone ? written : outputFault(path, qt_error_string(errno));
+    sigset_t signals;
+    sigemptyset(&signals);
+    sigaddset(&signals, SIGPIPE);
+    pthread_sigmask(SIG_BLOCK, &signals, nullptr);
 }
 
 } // namespace
 
-WrittenJobFile writeJobFile(const QString &path, const JobRequest &job, CallGuard &guard,
-                            JobProgress &progress)
+WrittenJobFile writeJobFile(const QString &path, const JobRequest &job, const OutputTerms &terms,
+                            CallGuard &guard, JobProgress &progress)
 {
     if (std::ssize(job.documents) > kMostJobFileDocuments)
         return {JobFileFault::Document,
                 jobFileSentence(QT_TRANSLATE_NOOP("JobFile", "%1 would have too many documents: %2 "
                                                              "are the most."),
                                 path, QString::number(kMostJobFileDocuments))};
-    const Writing writing{job, guard, progress, {}};
-    // Only an ordinary file can be replaced as a whole.
-    const QFileInfo old(path);
-    const bool isStream = old.exists() && !old.isFile() && !old.isDir();
-    return isStream ? writeStream(path, writing) : replaceFile(path, writing);
+    blockPipeSignal();
+    OutputFile file;
+    file.setMayWait([&guard] {
+        guard.stampSignOfLife();
+        return !guard.isCancelled();
+    });
+    const Writing writing{file, guard, progress};
+    const bool isOpen = file.open(path, keeping(job.documents, terms));
+    return isOpen ? writeJob(writing, job) : outputFault(writing);
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "dialog/cups/JobSubmission.h"
+#include "dialog/files/OutputFile.h"
 
 #include <QtCore/QString>
 
@@ -18,7 +19,7 @@ struct WrittenJobFile
 };
 
 /// Writes the job, all or nothing: what stood at the path before stays until the new file is whole,
-/// and when the guard is cancelled. A device or a pipe is written to as it is; whoever reads the
-/// pipe is waited for. Blocks: call it in a ServerCall.
-WrittenJobFile writeJobFile(const QString &path, const JobRequest &job, CallGuard &guard,
-                            JobProgress &progress);
+/// and when the guard is cancelled. Never over a document of the job, and otherwise on these terms.
+/// Blocks: call it in a ServerCall, whose thread gets no SIGPIPE then.
+WrittenJobFile writeJobFile(const QString &path, const JobRequest &job, const OutputTerms &terms,
+                            CallGuard &guard, JobProgress &progress);

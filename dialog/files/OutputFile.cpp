@@ -5,18 +5,22 @@
 #include <QtCore/QCoreApplication>
 #include <QtCore/QRandomGenerator>
 
+#include <algorithm>
 #include <cerrno>
+#include <climits>
 #include <cstddef>
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
 #include <fcntl.h>
 #include <memory>
+#include <poll.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
 namespace {
 
+constexpr int kLookInterval = 100; // ms
 constexpr int kNew = O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC;
 constexpr mode_t kEverybodysMode = 0666; // as far as the user's mask lets it
 constexpr mode_t kPermissions = 07777;
@@ -130,6 +134,7 @@ bool OutputFile::open(const QString &path, const OutputTerms &terms, Appears app
 
 bool OutputFile::openStream(const QByteArray &path)
 {
+    m_isStream = true;
     if (const std::optional<int> openFile = openFileAt(m_path))
         return take(fcntl(*openFile, F_DUPFD_CLOEXEC, STDERR_FILENO + 1));
     // A named pipe would keep whoever opens it waiting for a reader.
@@ -172,12 +177,26 @@ bool OutputFile::take(int descriptor)
     return m_file.isOpen() || failForErrno();
 }
 
+/// Whether a stream takes as much as it always takes at once; so nothing waits in write().
+bool OutputFile::waitForRoom()
+{
+    pollfd waited{m_file.get(), POLLOUT, 0};
+    while (!m_mayWait || m_mayWait())
+        if (poll(&waited, 1, kLookInterval) > 0)
+            return true;
+    errno = ECANCELED;
+    return false;
+}
+
 bool OutputFile::write(QByteArrayView bytes)
 {
     // A disk that is nearly full takes a part first, and says only then why it takes no more.
     while (!bytes.isEmpty() && m_error.isNull()) {
-        const ssize_t taken =
-            ::write(m_file.get(), bytes.data(), static_cast<std::size_t>(bytes.size()));
+        if (m_isStream && !waitForRoom())
+            return failForErrno();
+        const qsizetype most = m_isStream ? PIPE_BUF : bytes.size();
+        const ssize_t taken = ::write(m_file.get(), bytes.data(),
+                                      static_cast<std::size_t>(std::min(bytes.size(), most)));
         if (taken >= 0)
             bytes = bytes.sliced(taken);
         else if (errno != EINTR)

@@ -9,6 +9,8 @@
 #include <QtCore/QList>
 #include <QtCore/QString>
 
+#include <functional>
+
 /// On what terms a run writes its files.
 struct OutputTerms
 {
@@ -42,6 +44,10 @@ public:
     OutputFile(const OutputFile &) = delete;
     OutputFile &operator=(const OutputFile &) = delete;
 
+    /// Is asked again and again while a pipe or a device takes no bytes; false ends the writing.
+    /// Without it write() waits for as long as that lasts.
+    void setMayWait(std::function<bool()> mayWait) { m_mayWait = std::move(mayWait); }
+
     /// False, with error(), when nothing may or can be written there. Waits for nothing.
     bool open(const QString &path, const OutputTerms &terms, Appears appears = Appears::WhenWhole);
 
@@ -66,11 +72,14 @@ private:
     bool openNew(const QByteArray &path);
     bool openBeside(const QByteArray &path);
     bool take(int descriptor);
+    bool waitForRoom();
     bool publish();
     bool refuse(OutputVerdict verdict);
     bool fail(const QString &reason);
     bool failForErrno();
 
+    std::function<bool()> m_mayWait;
+    bool m_isStream = false;
     QString m_path;
     OutputTerms m_terms;
     OutputVerdict m_verdict = OutputVerdict::Create;

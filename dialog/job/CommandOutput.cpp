@@ -30,3 +30,10 @@ OutputTerms outputTerms(const CommandLine &line)
     terms.mayReplace = line.force;
     return terms;
 }
+
+OutputTerms jobFileTerms(const CommandLine &line)
+{
+    OutputTerms terms = outputTerms(line);
+    terms.addInput(line.record);
+    return terms;
+}

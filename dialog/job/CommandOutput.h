@@ -17,3 +17,6 @@ void report(const QString &sentence);
 
 /// On what terms the command writes: never over what it reads.
 OutputTerms outputTerms(const CommandLine &line);
+
+/// The same for the job's file, while the session is being recorded.
+OutputTerms jobFileTerms(const CommandLine &line);

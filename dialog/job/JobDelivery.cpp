@@ -4,6 +4,7 @@
 #include "dialog/cups/JobFileWriter.h"
 #include "dialog/cups/OutgoingText.h"
 #include "dialog/cups/SavedJobOptions.h"
+#include "dialog/files/PathBytes.h"
 #include "dialog/job/CommandOutput.h"
 #include "dialog/job/CommandWait.h"
 
@@ -86,12 +87,13 @@ ExitStatus sendJob(const JobRequest &request, EndSignals &signals)
     return ExitStatus::Done;
 }
 
-ExitStatus keepJob(const QString &path, const JobRequest &request, EndSignals &signals)
+ExitStatus keepJob(const QString &path, const JobRequest &request, const OutputTerms &terms,
+                   EndSignals &signals)
 {
     const WrittenJobFile written =
         waitUnlessEnded<WrittenJobFile>(signals, kFilePatience, [&](CallGuard &guard) {
             JobProgress nobodyFollows;
-            return writeJobFile(path, request, guard, nobodyFollows);
+            return writeJobFile(path, request, terms, guard, nobodyFollows);
         }).value_or(WrittenJobFile());
     switch (written.fault) {
     case JobFileFault::Document:
@@ -103,7 +105,8 @@ ExitStatus keepJob(const QString &path, const JobRequest &request, EndSignals &s
     case JobFileFault::None:
         break;
     }
-    report(sentence(QT_TRANSLATE_NOOP("JobDelivery", "The job was written to %1.")).arg(path));
+    report(sentence(QT_TRANSLATE_NOOP("JobDelivery", "The job was written to %1."))
+               .arg(shownPath(path)));
     return ExitStatus::Done;
 }
 

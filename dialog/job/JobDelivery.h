@@ -3,6 +3,7 @@
 #include "dialog/commandline/CommandLine.h"
 #include "dialog/commandline/ExitStatus.h"
 #include "dialog/cups/JobSubmission.h"
+#include "dialog/files/OutputFile.h"
 
 #include <QtCore/QString>
 
@@ -14,8 +15,9 @@ class EndSignals;
 /// Sends the job and waits for the server's answer. A signal cancels a job that is not wholly sent.
 ExitStatus sendJob(const JobRequest &request, EndSignals &signals);
 
-/// Puts the job into a file. A signal leaves what stood there.
-ExitStatus keepJob(const QString &path, const JobRequest &request, EndSignals &signals);
+/// Puts the job into a file, if the terms let it. A signal leaves what stood there.
+ExitStatus keepJob(const QString &path, const JobRequest &request, const OutputTerms &terms,
+                   EndSignals &signals);
 
 /// Sends a job that was kept in this file, to the queue of the command line or, without one, to the
 /// queue that it was made for. Its settings were checked when it was made and travel as they are;

@@ -165,8 +165,9 @@ ExitStatus Run::finish()
     if (!options.faults.isEmpty())
         return failWith(Vetoed, options.faults.constFirst());
     const JobRequest request = m_job.request(options.options);
-    return m_line.output.isNull() ? sendJob(request, m_signals)
-                                  : keepJob(m_line.output, request, m_signals);
+    return m_line.output.isNull()
+               ? sendJob(request, m_signals)
+               : keepJob(m_line.output, request, jobFileTerms(m_line), m_signals);
 }
 
 ExitStatus Run::takeSteps()

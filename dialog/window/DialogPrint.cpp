@@ -1,10 +1,13 @@
 #include "dialog/cups/JobFileWriter.h"
 #include "dialog/cups/ServerCall.h"
+#include "dialog/files/PathBytes.h"
+#include "dialog/job/CommandOutput.h"
 #include "dialog/window/DialogWindow.h"
 #include "dialog/window/ProgressStrip.h"
 
 #include <QtCore/QTimer>
 #include <QtWidgets/QFileDialog>
+#include <QtWidgets/QMessageBox>
 
 using namespace Qt::StringLiterals;
 
@@ -30,8 +33,28 @@ void DialogWindow::print()
         return;
     if (m_line.output.isNull())
         send(*request);
-    else
-        writeFile(m_line.output, *request);
+    else if (const auto terms = agreedTerms(m_line.output))
+        writeFile(m_line.output, *request, *terms);
+}
+
+/// The terms on which the file may be written. None when the user wants to keep the one that stands
+/// there.
+std::optional<OutputTerms> DialogWindow::agreedTerms(const QString &path)
+{
+    OutputTerms terms = jobFileTerms(m_line);
+    if (verdictAt(path, terms) != OutputVerdict::Exists)
+        return terms;
+    // No alert of a panel: a recording has nothing to do with it.
+    QMessageBox question(QMessageBox::Warning, tr("Save Job"), QString(), QMessageBox::Cancel,
+                         this);
+    question.setObjectName(u"replaceQuestion"_s);
+    question.setTextFormat(Qt::PlainText);
+    question.setText(tr("%1 exists already. Replace it?").arg(shownPath(path)));
+    question.setDefaultButton(QMessageBox::Cancel);
+    const QAbstractButton *replace = question.addButton(tr("Replace"), QMessageBox::AcceptRole);
+    question.exec();
+    terms.mayReplace = question.clickedButton() == replace;
+    return terms.mayReplace ? std::optional(terms) : std::nullopt;
 }
 
 void DialogWindow::saveToFile()
@@ -42,8 +65,11 @@ void DialogWindow::saveToFile()
     const QString path =
         QFileDialog::getSaveFileName(this, tr("Save Job"), m_job.title() + u".velkaro-job"_s,
                                      tr("Print jobs (*.velkaro-job);;All files (*)"));
-    if (!path.isEmpty() && !m_isEnding)
-        writeFile(path, *request);
+    if (path.isEmpty() || m_isEnding)
+        return;
+    OutputTerms terms = jobFileTerms(m_line);
+    terms.mayReplace = true; // the user has been asked
+    writeFile(path, *request, terms);
 }
 
 /// The job is on its way. Cancel stops it.
@@ -66,13 +92,14 @@ void DialogWindow::endSending(State state)
         QTimer::singleShot(0, this, &DialogWindow::end);
 }
 
-void DialogWindow::writeFile(const QString &path, const JobRequest &request)
+void DialogWindow::writeFile(const QString &path, const JobRequest &request,
+                             const OutputTerms &terms)
 {
     const auto progress = beginSending(tr("Writing the job to %1…").arg(path));
     m_call = new ServerCall(
         this, kFilePatience,
-        [this, path, request, progress](CallGuard &guard) -> ServerCall::Outcome {
-            const WrittenJobFile written = writeJobFile(path, request, guard, *progress);
+        [this, path, request, terms, progress](CallGuard &guard) -> ServerCall::Outcome {
+            const WrittenJobFile written = writeJobFile(path, request, terms, guard, *progress);
             return [this, written] { takeWritten(written); };
         },
         nullptr);

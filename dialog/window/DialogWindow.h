@@ -5,6 +5,7 @@
 #include "dialog/cups/DocumentFile.h"
 #include "dialog/cups/JobFileWriter.h"
 #include "dialog/cups/PipeDocuments.h"
+#include "dialog/files/OutputFile.h"
 #include "dialog/job/PrintJob.h"
 #include "dialog/job/SettingRequests.h"
 #include "dialog/window/NoticeBar.h"
@@ -144,7 +145,8 @@ private:
     // DialogPrint.cpp
     void print();
     void saveToFile();
-    void writeFile(const QString &path, const JobRequest &request);
+    std::optional<OutputTerms> agreedTerms(const QString &path);
+    void writeFile(const QString &path, const JobRequest &request, const OutputTerms &terms);
     void takeWritten(const WrittenJobFile &written);
     void send(const JobRequest &request);
     void takeReceipt(const JobReceipt &receipt);

@@ -255,6 +255,14 @@
         <source>Reading the document to its end…</source>
         <translation>文書を最後まで読み込んでいます…</translation>
     </message>
+    <message>
+        <source>%1 exists already. Replace it?</source>
+        <translation>%1 は既に存在します。置き換えますか？</translation>
+    </message>
+    <message>
+        <source>Replace</source>
+        <translation>置き換え</translation>
+    </message>
 </context>
 <context>
     <name>Document</name>

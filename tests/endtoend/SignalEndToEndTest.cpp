@@ -1,3 +1,4 @@
+#include "dialog/files/FileDescriptor.h"
 #include "tests/endtoend/PrintServerFixture.h"
 #include "tests/endtoend/ProgramRun.h"
 #include "tests/servers/ScriptedServer.h"
@@ -10,6 +11,8 @@
 #include <cups/ipp.h>
 
 #include <csignal>
+#include <fcntl.h>
+#include <sys/ioctl.h>
 #include <sys/stat.h>
 
 using namespace Qt::StringLiterals;
@@ -211,13 +214,20 @@ TEST_F(SignalAt, TheWritingOfAJobLeavesWhatStoodThere)
 {
     const QString fifo = m_folder.filePath(u"out"_s);
     ASSERT_EQ(mkfifo(qPrintable(fifo), 0600), 0);
-    const ScriptedServer server; // nobody reads the pipe: the program waits there
+    // Held, but not read: the program waits there.
+    const FileDescriptor reader(open(qPrintable(fifo), O_RDONLY | O_NONBLOCK));
+    writeFile(m_document, QByteArray(1'000'000, 'x'));
+    const ScriptedServer server;
     const ProgramRun run =
         runProgram(QStringList{u"--no-dialog"_s, u"--output"_s, fifo} + arguments(server), {},
                    [&](const QProcess &program) {
                        ASSERT_TRUE(QTest::qWaitFor(
-                           [&] { return server.requests().contains(kGetPPD); }, kPatience));
-                       QTest::qWait(500); // wherever it is then, the outcome is the same
+                           [&] {
+                               int waiting = 0;
+                               ioctl(reader.get(), FIONREAD, &waiting);
+                               return waiting > 0;
+                           },
+                           kPatience));
                        send(SIGTERM, program);
                    });
     EXPECT_EQ(run.status, 1) << run.errors.toStdString();

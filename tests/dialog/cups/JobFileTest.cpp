@@ -19,6 +19,8 @@ namespace {
 class JobFileAt : public testing::Test
 {
 protected:
+    JobFileAt() { m_terms.mayReplace = true; }
+
     QString write(const QString &name, const QByteArray &bytes)
     {
         writeFile(m_folder.filePath(name), bytes);
@@ -39,13 +41,14 @@ protected:
 
     WrittenJobFile keep(const QString &path, const JobRequest &request)
     {
-        return writeJobFile(path, request, m_guard, m_progress);
+        return writeJobFile(path, request, m_terms, m_guard, m_progress);
     }
 
     CallGuard m_guard;
     JobProgress m_progress;
     QTemporaryDir m_folder;
     QString m_path = m_folder.filePath(u"out.job"_s);
+    OutputTerms m_terms;
 };
 
 TEST_F(JobFileAt, HoldsSettingsAndDocumentsForPeopleToRead)
@@ -158,6 +161,25 @@ TEST_F(JobFileAt, ADiskWithoutRoomKeepsWhatStoodThere)
     EXPECT_EQ(written.fault, JobFileFault::Output);
     EXPECT_EQ(written.error, u"The file %1 cannot be written: File too large."_s.arg(m_path));
     EXPECT_EQ(readFile(m_path), "precious");
+}
+
+TEST_F(JobFileAt, IsNotWrittenOverAFileUnasked)
+{
+    write(u"out.job"_s, "precious");
+    const WrittenJobFile written = writeJobFile(m_path, job(), {}, m_guard, m_progress);
+    EXPECT_EQ(written.fault, JobFileFault::Output);
+    EXPECT_EQ(written.error, u"The file %1 exists already; --force replaces it."_s.arg(m_path));
+    EXPECT_EQ(readFile(m_path), "precious");
+}
+
+TEST_F(JobFileAt, IsNeverWrittenOverADocumentOfTheJob)
+{
+    const JobRequest request = job();
+    const QString document = m_folder.filePath(u"two.txt"_s);
+    const WrittenJobFile written = keep(document, request);
+    EXPECT_EQ(written.fault, JobFileFault::Output);
+    EXPECT_EQ(written.error, u"Nothing is written over %1: it is in use for this."_s.arg(document));
+    EXPECT_EQ(readFile(document), "second");
 }
 
 TEST_F(JobFileAt, ADeviceWithoutRoomIsSaidAndStaysADevice)
