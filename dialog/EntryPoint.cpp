@@ -2,13 +2,13 @@
 #include "dialog/commandline/ExitStatus.h"
 #include "dialog/commandline/HelpText.h"
 #include "dialog/commandline/ToolkitMessages.h"
+#include "dialog/files/PathBytes.h"
 #include "dialog/job/CommandOutput.h"
 #include "dialog/replay/ReplayCommand.h"
 #include "dialog/window/DialogCommand.h"
 #include "dialog/window/Translations.h"
 
 #include <QtCore/QCoreApplication>
-#include <QtCore/QFile>
 
 #include <cstdio>
 
@@ -18,7 +18,7 @@ QStringList argumentsOf(int argc, char **argv)
 {
     QStringList arguments;
     for (int index = 1; index < argc; ++index)
-        arguments << QFile::decodeName(argv[index]);
+        arguments << pathOfBytes(argv[index]);
     return arguments;
 }
 
@@ -52,6 +52,6 @@ extern "C" Q_DECL_EXPORT int velkaroPrintMain(int argc, char **argv)
         return print(versionText());
     tellToolkitFaultsOnly();
     if (!line.replay.isNull())
-        return runReplayCommand(argc, argv, line.replay, line.plugIn);
+        return runReplayCommand(argc, argv, line);
     return runDialogCommand(argc, argv, line);
 }

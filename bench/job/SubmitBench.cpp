@@ -3,6 +3,7 @@
 // private cupsd, in turn.
 #include "bench/support/ProcessCost.h"
 #include "bench/support/Timing.h"
+#include "dialog/cups/DocumentFile.h"
 #include "dialog/cups/JobSubmission.h"
 #include "dialog/cups/ServerCall.h"
 #include "tests/built/BuiltFiles.h"
@@ -10,7 +11,6 @@
 
 #include <QtCore/QCoreApplication>
 #include <QtCore/QElapsedTimer>
-#include <QtCore/QFile>
 
 #include <cups/cups.h>
 
@@ -32,11 +32,11 @@ bool submitByLibcups(const JobRequest &job)
                               count, &options);
     const QByteArray queue = job.queue.toUtf8();
     const int id = cupsCreateJob(http, queue.constData(), "bench", count, options);
-    QFile file(job.documents.constFirst());
-    bool sent = id > 0 && file.open(QIODevice::ReadOnly) &&
-                cupsStartDocument(http, queue.constData(), id, "bench", "application/octet-stream",
-                                  1) == HTTP_STATUS_CONTINUE;
-    const QByteArray bytes = file.readAll();
+    bool sent = id > 0 && cupsStartDocument(http, queue.constData(), id, "bench",
+                                            "application/octet-stream", 1) == HTTP_STATUS_CONTINUE;
+    const Document &document = job.documents.front();
+    QByteArray bytes(document.size(), Qt::Uninitialized);
+    sent = sent && document.read(0, bytes.data(), bytes.size()) == bytes.size();
     sent = sent &&
            cupsWriteRequestData(http, bytes.constData(), static_cast<std::size_t>(bytes.size())) ==
                HTTP_STATUS_CONTINUE;
@@ -79,7 +79,7 @@ int main(int argc, char **argv)
                    {u"VKResolution"_s, u"Photo"_s},
                    {u"PageSize"_s, u"A4.Fullbleed"_s},
                    {u"com.velkaro.print.PrintSettings.T2T_Red"_s, u"3"_s}};
-    job.documents = {samplePPD(u"velkaro-px-t900"_s)}; // any 50 kB of text
+    job.documents = openDocuments({samplePPD(u"velkaro-px-t900"_s)}).documents; // any 50 kB of text
     bool good = true;
     std::vector<double> ours;
     std::vector<double> peers;

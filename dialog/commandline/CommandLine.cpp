@@ -51,6 +51,7 @@ constexpr std::array kOptions{
     Option{"option", 'o', nullptr, nullptr, takeChoice},
     Option{"paper", '\0', &CommandLine::paper},
     Option{"output", '\0', &CommandLine::output},
+    Option{"force", '\0', nullptr, &CommandLine::force},
     Option{"no-dialog", '\0', nullptr, &CommandLine::noDialog},
     Option{"yes", '\0', nullptr, &CommandLine::yes},
     Option{"screenshot", '\0', &CommandLine::screenshot},
@@ -94,6 +95,9 @@ QString takeValue(CommandLine &line, const Argument &argument)
 {
     if (argument.value.isEmpty())
         return sentence(QT_TRANSLATE_NOOP("CommandLine", "%1 needs a value.")).arg(argument.name);
+    if (!argument.value.isValidUtf16())
+        return sentence(QT_TRANSLATE_NOOP("CommandLine", "The value of %1 is no UTF-8 text."))
+            .arg(argument.name);
     if (argument.option->take)
         return argument.option->take(line, argument.value);
     line.*argument.option->text = argument.value;

@@ -16,10 +16,10 @@ struct RequestedChoice
 /// What velkaro-print was asked to do. A null string: the option was not given.
 struct CommandLine
 {
-    QStringList files;
-    QString queue;    ///< -d, without the instance
-    QString instance; ///< what stands behind the slash of "-d queue/instance"
-    QString server;   ///< -h: host, host:port, or the path of a socket
+    QStringList files; ///< as pathOfBytes() gives them; -: standard input
+    QString queue;     ///< -d, without the instance
+    QString instance;  ///< what stands behind the slash of "-d queue/instance"
+    QString server;    ///< -h: host, host:port, or the path of a socket
     QString ppd;
     QList<RequestedChoice> choices; ///< -o, in the order given
     QString paper;                  ///< --paper: a PageSize choice, or Custom.WIDTHxHEIGHT
@@ -29,6 +29,7 @@ struct CommandLine
     QString record;
     QString replay; ///< "-": standard input
     QString plugIn;
+    bool force = false; ///< files that exist may be replaced
     bool noDialog = false;
     bool yes = false;
     bool version = false;
@@ -44,5 +45,5 @@ struct ParsedCommandLine
 
 /// Reads the arguments, the program's name not among them. An option's value may be its own
 /// argument or follow it ("-dqueue", "--ppd=file"); "--" ends the options. --help and --version
-/// win over every fault.
+/// win over every fault. Documents alone may have names that are not UTF-8.
 ParsedCommandLine parseCommandLine(const QStringList &arguments);

@@ -4,12 +4,13 @@
 /// meaning. The help text and README list them.
 enum class ExitStatus {
     Done = 0,      ///< the job was accepted, the file was written, or the script ran to its end
-    Cancelled = 1, ///< the user closed the dialog without printing
+    Cancelled = 1, ///< the user closed the dialog, or a signal came before the server had the job
     Usage = 2,     ///< a wrong option, setting or script, a bad PPD, or no display for the dialog
     Vetoed = 3,    ///< a check before printing stopped the job
     Document = 4,  ///< a document cannot be read
-    Output = 5,    ///< the output file, picture or recording cannot be written
-    Server = 6,    ///< the server or the queue cannot be reached, or it refused the job
+    Output = 5,    ///< the output file, picture or recording cannot be written, or exists already
+    Server = 6,    ///< the server or the queue cannot be reached, the job was refused, or its fate
+                   ///< is not known
     PlugIn = 7,    ///< the plug-in cannot be used
 };
 

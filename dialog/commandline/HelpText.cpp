@@ -3,7 +3,8 @@
 const char *helpText()
 {
     return R"(Usage: velkaro-print [options] [FILE...]
-Prints documents with the settings that you choose in a dialog.
+Prints documents with the settings that you choose in a dialog. The file - is
+standard input.
 
 Printer
   -d, --destination QUEUE[/INSTANCE]
@@ -22,6 +23,8 @@ Job
       --output FILE       put the job into a file, settings and documents
                           together; print it later with
                           --no-dialog -d QUEUE FILE
+      --force             replace files that exist already: those of --output,
+                          --screenshot, --record and of a script's pictures
       --no-dialog         print without showing the dialog; every check is made
       --yes               answer yes to what a check asks, instead of no
 
@@ -39,13 +42,15 @@ Looking and testing
 
 Exit status
   0  printed, written, or the script ran to its end
-  1  cancelled in the dialog
+  1  cancelled in the dialog, or by a signal before the server had the
+     whole job
   2  a wrong option, setting or script, a PPD that cannot be opened, or no
      display for the dialog
   3  a check stopped the job
   4  a document cannot be read
-  5  an output file cannot be written
-  6  the server or the queue cannot be reached, or the job was refused
+  5  an output file cannot be written, or exists already
+  6  the server or the queue cannot be reached, the job was refused, or it
+     is not known whether it was taken
   7  the plug-in cannot be used
 )";
 }

@@ -18,13 +18,26 @@ ipp_attribute_t *find(ipp_t *job, const QByteArray &name)
     return ippFindAttribute(job, name.constData(), IPP_TAG_ZERO);
 }
 
-QString holdNote(ipp_t *job, int jobId)
+/// What is said of a job in this state; null when there is nothing to say.
+const char *stateNote(ipp_t *job)
 {
     ipp_attribute_t *state = find(job, "job-state");
-    if (!state || ippGetInteger(state, 0) != IPP_JSTATE_HELD)
-        return {};
-    return sentence(QT_TRANSLATE_NOOP("JobReadBack", "The server holds job %1 (%2)."))
-        .arg(QString::number(jobId), attributeText(find(job, "job-state-reasons")));
+    ipp_attribute_t *reasons = find(job, "job-state-reasons");
+    switch (state ? ippGetInteger(state, 0) : 0) {
+    case IPP_JSTATE_HELD:
+        return QT_TRANSLATE_NOOP("JobReadBack", "The server holds job %1 (%2).");
+    case IPP_JSTATE_CANCELED:
+        return QT_TRANSLATE_NOOP("JobReadBack", "The server has cancelled job %1 (%2).");
+    case IPP_JSTATE_ABORTED:
+        return QT_TRANSLATE_NOOP("JobReadBack", "The server has aborted job %1 (%2).");
+    case IPP_JSTATE_COMPLETED:
+        return reasons && ippContainsString(reasons, "job-completed-with-errors")
+                   ? QT_TRANSLATE_NOOP("JobReadBack",
+                                       "The server has ended job %1 with errors (%2).")
+                   : nullptr;
+    default:
+        return nullptr;
+    }
 }
 
 QString difference(ipp_t *job, const JobOption &option)
@@ -61,9 +74,9 @@ IppHandle jobRequest(const QString &queue, int jobId, const QList<JobOption> &se
 QStringList differences(ipp_t *job, int jobId, const QList<JobOption> &sent)
 {
     QStringList notes;
-    const QString hold = holdNote(job, jobId);
-    if (!hold.isNull())
-        notes += hold;
+    if (const char *note = stateNote(job))
+        notes += sentence(note).arg(QString::number(jobId),
+                                    attributeText(find(job, "job-state-reasons")));
     for (const JobOption &option : sent) {
         const QString note = difference(job, option);
         if (!note.isNull())

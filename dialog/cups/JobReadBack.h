@@ -7,8 +7,8 @@
 #include <QtCore/QStringList>
 
 /// Asks the server for the accepted job and compares it with the options that were sent. Gives one
-/// sentence for each option that the job lacks or has otherwise, and one when the job is held; none
-/// when all is as sent, or the server does not tell.
+/// sentence for each option that the job lacks or has otherwise, and one when the job is held or
+/// has ended badly; none /// when all is as sent, or the server does not tell.
 QStringList readJobBack(ServerConnection &connection, const QString &queue, int jobId,
                         const QList<JobOption> &sent);
 

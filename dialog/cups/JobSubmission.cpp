@@ -1,133 +1,68 @@
 #include "dialog/cups/JobSubmission.h"
 
-#include "dialog/cups/DocumentFile.h"
-#include "dialog/cups/JobReadBack.h"
+#include "dialog/cups/JobSettlement.h"
 #include "dialog/cups/OptionAttribute.h"
-#include "dialog/cups/ServerConnection.h"
-
-#include <QtCore/QCoreApplication>
-#include <QtCore/QFileInfo>
-
-#include <array>
+#include "dialog/cups/OutgoingText.h"
 
 namespace {
-
-constexpr std::chrono::milliseconds kPatienceForCancelling{2000};
-
-bool succeeded(const IppHandle &response)
-{
-    return response && cupsLastError() <= IPP_STATUS_OK_CONFLICTING;
-}
 
 IppHandle createJobRequest(const JobRequest &job)
 {
     IppHandle request = queueRequest(IPP_OP_CREATE_JOB, job.queue);
     ippAddString(request.get(), IPP_TAG_OPERATION, IPP_TAG_NAME, "job-name", nullptr,
-                 job.title.toUtf8().left(255).constData());
+                 outgoingTitle(job.title).constData());
     for (const JobOption &option : job.options)
         addOptionAttribute(request.get(), option);
     return request;
 }
 
-IppHandle sendDocumentRequest(const JobRequest &job, int id, const QString &name, bool isLast)
-{
-    IppHandle request = queueRequest(IPP_OP_SEND_DOCUMENT, job.queue);
-    ippAddInteger(request.get(), IPP_TAG_OPERATION, IPP_TAG_INTEGER, "job-id", id);
-    ippAddString(request.get(), IPP_TAG_OPERATION, IPP_TAG_NAME, "document-name", nullptr,
-                 name.toUtf8().left(255).constData());
-    ippAddBoolean(request.get(), IPP_TAG_OPERATION, "last-document", isLast ? 1 : 0);
-    return request;
-}
-
-bool writeDocument(ServerConnection &connection, QIODevice &document)
-{
-    std::array<char, 65536> buffer{};
-    qint64 length = 0;
-    while ((length = document.read(buffer.data(), buffer.size())) > 0) {
-        if (connection.guard().isCancelled())
-            return false;
-        const auto size = static_cast<std::size_t>(length);
-        if (cupsWriteRequestData(connection.http(), buffer.data(), size) != HTTP_STATUS_CONTINUE)
-            return false;
-        connection.guard().stampSignOfLife();
-    }
-    return length == 0;
-}
-
-bool sendDocument(ServerConnection &connection, const QByteArray &resource, IppHandle request,
-                  QIODevice &document)
-{
-    const http_status_t status = cupsSendRequest(connection.http(), request.get(),
-                                                 resource.constData(), CUPS_LENGTH_VARIABLE);
-    if (status != HTTP_STATUS_CONTINUE || !writeDocument(connection, document))
-        return false;
-    const IppHandle response(cupsGetResponse(connection.http(), resource.constData()));
-    connection.guard().stampSignOfLife();
-    return succeeded(response);
-}
-
-/// On a connection of its own: the old one may be in the middle of a document.
-void cancelJob(const JobRequest &job, int id)
-{
-    CallGuard guard(kPatienceForCancelling);
-    ServerConnection connection(job.server, guard);
-    if (!connection.isConnected())
-        return;
-    IppHandle request = queueRequest(IPP_OP_CANCEL_JOB, job.queue);
-    ippAddInteger(request.get(), IPP_TAG_OPERATION, IPP_TAG_INTEGER, "job-id", id);
-    connection.request(std::move(request), queueResource(job.queue));
-}
-
-bool sendDocuments(ServerConnection &connection, const JobRequest &job, int id,
-                   DocumentFiles &documents)
-{
-    for (std::size_t index = 0; index < documents.size(); ++index) {
-        QFile &file = *documents[index];
-        IppHandle request =
-            sendDocumentRequest(job, id, QFileInfo(file).fileName(), index + 1 == documents.size());
-        if (!sendDocument(connection, queueResource(job.queue), std::move(request), file))
-            return false;
-    }
-    return true;
-}
-
+/// The number of the job in the server's response; 0 when it has created none.
 int createdJob(const IppHandle &response)
 {
+    if (!response || cupsLastError() > IPP_STATUS_OK_CONFLICTING)
+        return 0;
     ipp_attribute_t *id = ippFindAttribute(response.get(), "job-id", IPP_TAG_INTEGER);
     return id ? ippGetInteger(id, 0) : 0;
 }
 
 } // namespace
 
-JobReceipt submitJob(const JobRequest &request, CallGuard &guard)
+JobReceipt submitJob(const JobRequest &request, CallGuard &guard,
+                     const std::shared_ptr<JobProgress> &progress)
 {
     JobReceipt receipt;
-    OpenedDocuments opened = openDocuments(request.documents);
-    if (!opened.error.isNull()) {
-        receipt.answer = {ServerFault::Document, opened.error};
+    if (const QString changed = changedDocument(request.documents); !changed.isNull()) {
+        receipt.answer = {ServerFault::Document, changed};
         return receipt;
     }
     ServerConnection connection(request.server, guard);
     IppHandle created;
-    if (connection.isConnected())
+    if (connection.isConnected() && !guard.isCancelled())
         created = connection.request(createJobRequest(request), queueResource(request.queue));
-    receipt.id = succeeded(created) ? createdJob(created) : 0;
+    receipt.id = createdJob(created);
     if (receipt.id == 0) {
         receipt.answer = connection.lastAnswer(request.queue);
         return receipt;
     }
-    if (!sendDocuments(connection, request, receipt.id, opened.files)) {
-        receipt.answer = connection.lastAnswer(request.queue);
-        cancelJob(request, receipt.id);
+    progress->setId(receipt.id);
+    const auto [sent, fault] = sendDocuments(connection, request, *progress);
+    if (sent == Sent::Accepted) {
+        accept(receipt, connection, request, *progress);
         return receipt;
     }
-    receipt.notes = readJobBack(connection, request.queue, receipt.id, request.options);
+    receipt.answer = fault.isNull() ? connection.lastAnswer(request.queue)
+                                    : ServerAnswer{ServerFault::Document, fault};
+    settle(receipt, sent, request, *progress, guard);
     return receipt;
 }
 
-JobReceipt givenUpReceipt(const JobRequest &request)
+JobReceipt givenUpReceipt(const JobRequest &request, const JobProgress &progress)
 {
     JobReceipt receipt;
-    receipt.answer = silentServer(request.server);
+    receipt.id = progress.id();
+    if (progress.isAccepted())
+        return receipt;
+    receipt.answer = receipt.id == 0 ? silentServer(request.server)
+                                     : perhapsPrinted(nameOfServer(request.server), receipt.id);
     return receipt;
 }

@@ -1,12 +1,16 @@
 #pragma once
 
 #include "dialog/cups/CallGuard.h"
+#include "dialog/cups/Document.h"
 #include "dialog/cups/JobOption.h"
+#include "dialog/cups/JobProgress.h"
 #include "dialog/cups/ServerFault.h"
 
 #include <QtCore/QList>
 #include <QtCore/QString>
 #include <QtCore/QStringList>
+
+#include <memory>
 
 /// A job as it is handed to a server.
 struct JobRequest
@@ -15,7 +19,7 @@ struct JobRequest
     QString queue;
     QString title;
     QList<JobOption> options;
-    QStringList documents; ///< paths, at least one
+    Documents documents; ///< at least one, no pipe among them
 };
 
 /// What became of a job. Without a fault it has been accepted, and `id` is its number.
@@ -31,7 +35,14 @@ struct JobReceipt
 /// Creates the job, sends its documents, and reads the job back to compare it with what was sent.
 /// A job whose documents did not all arrive is cancelled: nothing half is printed. Blocks: call it
 /// in a ServerCall.
-JobReceipt submitJob(const JobRequest &request, CallGuard &guard);
+///
+/// Where the answer to the last document is late or lost, the server is asked for the job: it is
+/// accepted when the server has all of it, and ServerFault::Unsettled when that cannot be known. It
+/// is never sent a second time. Cancelling (CallGuard) leaves no job that is not wholly sent; one
+/// that the server has accepted goes on.
+JobReceipt
+submitJob(const JobRequest &request, CallGuard &guard,
+          const std::shared_ptr<JobProgress> &progress = std::make_shared<JobProgress>());
 
 /// The receipt for a server that was given up by whoever waited.
-JobReceipt givenUpReceipt(const JobRequest &request);
+JobReceipt givenUpReceipt(const JobRequest &request, const JobProgress &progress);

@@ -100,12 +100,13 @@ bool waitForServerThreads(std::chrono::milliseconds atMost)
     return threads().ended.wait_for(lock, atMost, [] { return threads().running == 0; });
 }
 
-void server_call::runLoop(std::chrono::milliseconds patience, const ServerCall::Work &work)
+void server_call::runLoop(std::chrono::milliseconds patience, const ServerCall::Work &work,
+                          const std::function<void(ServerCall &)> &started)
 {
     QEventLoop loop;
     QObject owner;
     const auto quit = [&loop] { loop.quit(); };
-    new ServerCall(
+    auto *call = new ServerCall(
         &owner, patience,
         [work, quit](CallGuard &guard) -> ServerCall::Outcome {
             return [outcome = work(guard), quit] {
@@ -114,5 +115,7 @@ void server_call::runLoop(std::chrono::milliseconds patience, const ServerCall::
             };
         },
         quit);
+    if (started)
+        started(*call);
     loop.exec();
 }

@@ -8,6 +8,9 @@
 #include <memory>
 #include <optional>
 
+/// The patience of work with files: slow disks and pipes are for the user to give up.
+inline constexpr std::chrono::hours kFilePatience{24};
+
 /// Work that waits for a server, on a thread of its own, so that the dialog never does.
 ///
 /// The work gets a guard, and gives back what is to happen on the thread that started it. Exactly
@@ -43,19 +46,25 @@ private:
 bool waitForServerThreads(std::chrono::milliseconds atMost);
 
 namespace server_call {
-void runLoop(std::chrono::milliseconds patience, const ServerCall::Work &work);
+void runLoop(std::chrono::milliseconds patience, const ServerCall::Work &work,
+             const std::function<void(ServerCall &)> &started);
 }
 
 /// Runs the work on a thread of its own and an event loop here until there is a result. None when
-/// the server was given up. For commands without a window; a window never waits.
+/// the server was given up. `started` gets the call, to cancel it. For commands without a window; a
+/// window never waits.
 template <typename Result>
 std::optional<Result> waitForServer(std::chrono::milliseconds patience,
-                                    const std::function<Result(CallGuard &)> &work)
+                                    const std::function<Result(CallGuard &)> &work,
+                                    const std::function<void(ServerCall &)> &started = {})
 {
     auto result = std::make_shared<std::optional<Result>>();
-    server_call::runLoop(patience, [work, result](CallGuard &guard) {
-        auto answer = std::make_shared<Result>(work(guard));
-        return [answer, result] { *result = std::move(*answer); };
-    });
+    server_call::runLoop(
+        patience,
+        [work, result](CallGuard &guard) {
+            auto answer = std::make_shared<Result>(work(guard));
+            return [answer, result] { *result = std::move(*answer); };
+        },
+        started);
     return std::move(*result);
 }

@@ -1,5 +1,7 @@
 #include "dialog/cups/ServerConnection.h"
 
+#include "dialog/cups/OutgoingText.h"
+
 #include <QtCore/QByteArray>
 #include <QtCore/QCoreApplication>
 #include <QtCore/QUrl>
@@ -27,12 +29,6 @@ int mayWaitOn(http_t *, void *guard)
 const char *noPassword(const char *, http_t *, const char *, const char *, void *)
 {
     return nullptr;
-}
-
-QString nameOf(const QString &server)
-{
-    const QString name = server.isNull() ? QString::fromUtf8(cupsServer()) : server;
-    return name.startsWith(u'/') ? QLatin1String(kLocalServer) : name;
 }
 
 /// What the server said, ended like a sentence.
@@ -67,14 +63,19 @@ ServerConnection::ServerConnection(const QString &server, CallGuard &guard) : m_
 {
     cupsSetServer(server.isNull() ? nullptr : server.toUtf8().constData());
     cupsSetPasswordCB2(noPassword, nullptr);
-    m_name = nameOf(server);
+    m_name = nameOfServer(server);
     const int patience = static_cast<int>(guard.patience().count());
     m_http.reset(httpConnect2(cupsServer(), ippPort(), nullptr, AF_UNSPEC, cupsEncryption(), 1,
                               qMin(patience, kLongestConnect), guard.cancelFlag()));
     if (!m_http)
         return;
-    httpSetTimeout(m_http.get(), kTick, mayWaitOn, &guard);
+    watch();
     guard.stampSignOfLife();
+}
+
+void ServerConnection::watch()
+{
+    httpSetTimeout(m_http.get(), kTick, mayWaitOn, &m_guard);
 }
 
 IppHandle ServerConnection::request(IppHandle request, const QByteArray &resource)
@@ -131,7 +132,7 @@ IppHandle queueRequest(ipp_op_t operation, const QString &queue)
                      "/printers/%s", queue.toUtf8().constData());
     ippAddString(request.get(), IPP_TAG_OPERATION, IPP_TAG_URI, "printer-uri", nullptr, uri);
     ippAddString(request.get(), IPP_TAG_OPERATION, IPP_TAG_NAME, "requesting-user-name", nullptr,
-                 cupsUser());
+                 outgoingText(QString::fromLocal8Bit(cupsUser()), "anonymous").constData());
     return request;
 }
 
@@ -140,9 +141,15 @@ QByteArray queueResource(const QString &queue)
     return "/printers/" + QUrl::toPercentEncoding(queue);
 }
 
+QString nameOfServer(const QString &server)
+{
+    const QString name = server.isNull() ? QString::fromUtf8(cupsServer()) : server;
+    return name.startsWith(u'/') ? QLatin1String(kLocalServer) : name;
+}
+
 ServerAnswer silentServer(const QString &server)
 {
-    const QString name = nameOf(server);
+    const QString name = nameOfServer(server);
     return {
         ServerFault::Silent,
         sentence(QT_TRANSLATE_NOOP("Server", "The print server %1 does not answer.")).arg(name)};

@@ -37,6 +37,9 @@ public:
     /// The server's name for people.
     QString serverName() const { return m_name; }
 
+    /// Lets the guard end waits on the connection, after something else did for a while.
+    void watch();
+
     /// Sends the request and gives the server's response; null when there was none. Takes the
     /// request.
     IppHandle request(IppHandle request, const QByteArray &resource);
@@ -58,6 +61,9 @@ IppHandle queueRequest(ipp_op_t operation, const QString &queue);
 
 /// The path of the queue on its server.
 QByteArray queueResource(const QString &queue);
+
+/// The server's name for people.
+QString nameOfServer(const QString &server);
 
 /// What is said of a server that was given up.
 ServerAnswer silentServer(const QString &server);

@@ -11,6 +11,7 @@ enum class ServerFault {
     Refused,       ///< the server answered no
     NeedsPassword, ///< the server asks for a password, which is never sent
     Document,      ///< a document cannot be read; the server was not asked
+    Unsettled,     ///< the job may have been printed or not; the server does not tell
     Cancelled,     ///< the user did not want to wait any longer
 };
 

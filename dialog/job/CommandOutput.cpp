@@ -21,3 +21,19 @@ void report(const QString &sentence)
     std::fputs((displayText(sentence).toLocal8Bit() + '\n').constData(), stdout);
     std::fflush(stdout);
 }
+
+OutputTerms outputTerms(const CommandLine &line)
+{
+    OutputTerms terms;
+    for (const QString &input : line.files + QStringList{line.ppd})
+        terms.addInput(input);
+    terms.mayReplace = line.force;
+    return terms;
+}
+
+OutputTerms jobFileTerms(const CommandLine &line)
+{
+    OutputTerms terms = outputTerms(line);
+    terms.addInput(line.record);
+    return terms;
+}

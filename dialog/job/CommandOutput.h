@@ -1,6 +1,8 @@
 #pragma once
 
+#include "dialog/commandline/CommandLine.h"
 #include "dialog/commandline/ExitStatus.h"
+#include "dialog/files/OutputFile.h"
 
 #include <QtCore/QString>
 
@@ -12,3 +14,9 @@ void warn(const QString &sentence);
 
 /// Writes one line on standard output.
 void report(const QString &sentence);
+
+/// On what terms the command writes: never over what it reads.
+OutputTerms outputTerms(const CommandLine &line);
+
+/// The same for the job's file, while the session is being recorded.
+OutputTerms jobFileTerms(const CommandLine &line);

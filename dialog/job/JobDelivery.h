@@ -3,22 +3,26 @@
 #include "dialog/commandline/CommandLine.h"
 #include "dialog/commandline/ExitStatus.h"
 #include "dialog/cups/JobSubmission.h"
+#include "dialog/files/OutputFile.h"
 
 #include <QtCore/QString>
+
+class EndSignals;
 
 /// The ends of a job where there is no window. Each writes its lines on standard output and
 /// standard error.
 
-/// Sends the job and waits for the server's answer.
-ExitStatus sendJob(const JobRequest &request);
+/// Sends the job and waits for the server's answer. A signal cancels a job that is not wholly sent.
+ExitStatus sendJob(const JobRequest &request, EndSignals &signals);
 
-/// Puts the job into a file.
-ExitStatus keepJob(const QString &path, const JobRequest &request);
+/// Puts the job into a file, if the terms let it. A signal leaves what stood there.
+ExitStatus keepJob(const QString &path, const JobRequest &request, const OutputTerms &terms,
+                   EndSignals &signals);
 
-/// Sends a job that was kept in a file, to the queue of the command line or, without one, to the
+/// Sends a job that was kept in this file, to the queue of the command line or, without one, to the
 /// queue that it was made for. Its settings were checked when it was made and travel as they are;
 /// other settings on the command line are refused.
-ExitStatus sendJobFile(const CommandLine &line);
+ExitStatus sendJobFile(const CommandLine &line, const Document &file, EndSignals &signals);
 
 /// The exit status for what a server answered.
 ExitStatus statusOf(const ServerAnswer &answer);

@@ -1,9 +1,11 @@
 #include "dialog/job/NoDialogCommand.h"
 
 #include "dialog/cups/DocumentFile.h"
-#include "dialog/cups/ServerCall.h"
+#include "dialog/cups/JobFileReader.h"
+#include "dialog/cups/PipeDocuments.h"
 #include "dialog/cups/ServerConnection.h"
 #include "dialog/job/CommandOutput.h"
+#include "dialog/job/CommandWait.h"
 #include "dialog/job/JobDelivery.h"
 #include "dialog/job/PrintJob.h"
 #include "dialog/job/ScriptedAnswers.h"
@@ -25,22 +27,23 @@ QString sentence(const char *text)
 class Run
 {
 public:
-    explicit Run(const CommandLine &line)
-        : m_line(line), m_answers(line.yes), m_job(line.files, jobTitle(line.files))
+    Run(const CommandLine &line, const Documents &documents, EndSignals &signals)
+        : m_line(line), m_signals(signals), m_answers(line.yes), m_job(documents)
     {}
 
     ExitStatus print();
 
 private:
-    ExitStatus checkDocuments();
     ExitStatus record();
     ExitStatus findPrinter();
     ExitStatus open();
     ExitStatus makeSettings();
     ExitStatus askPanels();
     ExitStatus finish();
+    ExitStatus takeSteps();
 
     const CommandLine &m_line;
+    EndSignals &m_signals;
     ScriptedAnswers m_answers;
     std::unique_ptr<Recorder> m_recorder; // hands alerts on to the answers
     Refusal m_refusal;
@@ -58,19 +61,14 @@ PrinterSource sourceOf(const CommandLine &line)
     return source;
 }
 
-ExitStatus Run::checkDocuments()
-{
-    const QString error = openDocuments(m_line.files).error;
-    return error.isNull() ? Done : failWith(Document, error);
-}
-
 ExitStatus Run::record()
 {
     if (m_line.record.isNull())
         return Done;
     m_recorder = std::make_unique<Recorder>();
     QString error;
-    return m_recorder->open(m_line.record, &error) ? Done : failWith(Output, error);
+    return m_recorder->open(m_line.record, outputTerms(m_line), &error) ? Done
+                                                                        : failWith(Output, error);
 }
 
 ExitStatus Run::findPrinter()
@@ -79,13 +77,15 @@ ExitStatus Run::findPrinter()
     m_printer.queue = source.queue;
     if (!source.ppdPath.isNull())
         return Done;
-    const auto fetched = waitForServer<FetchedPrinter>(
-        kServerPatience, [source](CallGuard &guard) { return fetchPrinter(source, guard); });
+    const auto fetched =
+        waitUnlessEnded<FetchedPrinter>(m_signals, kServerPatience, [source](CallGuard &guard) {
+            return fetchPrinter(source, guard);
+        });
     if (!fetched)
         return failWith(Server, silentServer(source.server).sentence);
     m_printer = *fetched;
     if (!m_printer.ppd.answer.isGood())
-        return failWith(Server, m_printer.ppd.answer.sentence);
+        return failWith(statusOf(m_printer.ppd.answer), m_printer.ppd.answer.sentence);
     if (m_printer.queue.queue.isEmpty())
         return failWith(Usage, sentence(QT_TRANSLATE_NOOP("NoDialogCommand",
                                                           "No printer was chosen and there is no "
@@ -165,14 +165,19 @@ ExitStatus Run::finish()
     if (!options.faults.isEmpty())
         return failWith(Vetoed, options.faults.constFirst());
     const JobRequest request = m_job.request(options.options);
-    return m_line.output.isNull() ? sendJob(request) : keepJob(m_line.output, request);
+    return m_line.output.isNull()
+               ? sendJob(request, m_signals)
+               : keepJob(m_line.output, request, jobFileTerms(m_line), m_signals);
 }
 
-ExitStatus Run::print()
+ExitStatus Run::takeSteps()
 {
     using Step = ExitStatus (Run::*)();
-    for (const Step step : {&Run::checkDocuments, &Run::record, &Run::findPrinter, &Run::open,
-                            &Run::makeSettings, &Run::askPanels, &Run::finish}) {
+    for (const Step step : {&Run::record, &Run::findPrinter, &Run::open, &Run::makeSettings,
+                            &Run::askPanels, &Run::finish}) {
+        if (EndSignals::haveCome())
+            return failWith(Cancelled, sentence(QT_TRANSLATE_NOOP("NoDialogCommand",
+                                                                  "Printing was cancelled.")));
         const ExitStatus status = (this->*step)();
         if (status != Done)
             return status;
@@ -180,11 +185,37 @@ ExitStatus Run::print()
     return Done;
 }
 
+ExitStatus Run::print()
+{
+    const ExitStatus status = takeSteps();
+    m_job.closePrinter(); // is noted, too
+    const QString fault = m_recorder ? m_recorder->finish() : QString();
+    return status != Done || fault.isNull() ? status : failWith(Output, fault);
+}
+
+ReadDocuments readDocuments(const Documents &documents, EndSignals &signals)
+{
+    if (!hasPipes(documents))
+        return {documents, {}};
+    return waitUnlessEnded<ReadDocuments>(
+               signals, kFilePatience,
+               [documents](CallGuard &guard) { return readPipes(documents, guard); })
+        .value_or(ReadDocuments());
+}
+
 } // namespace
 
 ExitStatus runNoDialogCommand(const CommandLine &line)
 {
-    if (line.files.size() == 1 && isJobFile(line.files.constFirst()))
-        return sendJobFile(line);
-    return Run(line).print();
+    EndSignals signals;
+    const OpenedDocuments opened = openDocuments(line.files);
+    if (!opened.error.isNull())
+        return failWith(ExitStatus::Document, opened.error);
+    const ReadDocuments read = readDocuments(opened.documents, signals);
+    if (!read.answer.isGood())
+        return failWith(statusOf(read.answer), read.answer.sentence);
+    const Documents &documents = read.documents;
+    if (documents.size() == 1 && isJobFile(documents.front()))
+        return sendJobFile(line, documents.front(), signals);
+    return Run(line, documents, signals).print();
 }

@@ -1,5 +1,6 @@
 #include "dialog/job/PrintJob.h"
 
+#include "dialog/cups/DocumentFile.h"
 #include "platform/pde/PPDText.h"
 
 #include <utility>
@@ -17,14 +18,14 @@ constexpr auto kMappedPaper = "com.apple.print.PageToPaperMappingMediaName"_L1;
 
 } // namespace
 
-PrintJob::PrintJob(QStringList documents, QString title)
-    : m_documents(std::move(documents)), m_title(std::move(title))
+PrintJob::PrintJob(Documents documents)
+    : m_documents(std::move(documents)), m_title(jobTitle(m_documents))
 {}
 
-void PrintJob::setDocuments(const QStringList &documents, const QString &title)
+void PrintJob::setDocuments(const Documents &documents)
 {
     m_documents = documents;
-    m_title = title;
+    m_title = jobTitle(documents);
 }
 
 void PrintJob::setPrinter(const PrinterSource &source, OpenedPrinter printer)

@@ -1,6 +1,5 @@
 #pragma once
 
-#include "dialog/cups/JobFile.h"
 #include "dialog/cups/JobOptions.h"
 #include "dialog/cups/JobSubmission.h"
 #include "dialog/job/PrinterSource.h"
@@ -20,11 +19,11 @@ class PrintJob
 public:
     enum class ColorMatching { Printer, Application };
 
-    PrintJob(QStringList documents, QString title);
+    explicit PrintJob(Documents documents = {});
 
-    const QStringList &documents() const { return m_documents; }
+    const Documents &documents() const { return m_documents; }
     const QString &title() const { return m_title; }
-    void setDocuments(const QStringList &documents, const QString &title);
+    void setDocuments(const Documents &documents);
 
     /// Takes another printer; the former one's panels must not be on screen any more. Copies and
     /// pages that the user has settled stay, a session's own settings do not.
@@ -69,7 +68,7 @@ public:
 
 private:
     PMPageFormat m_formatWithoutSession;
-    QStringList m_documents;
+    Documents m_documents;
     QString m_title;
     PrinterSource m_source;
     HostSettings m_settings;

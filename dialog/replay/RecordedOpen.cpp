@@ -1,3 +1,4 @@
+#include "dialog/files/PathBytes.h"
 #include "dialog/host/HostSession.h"
 #include "dialog/replay/LackingNames.h"
 #include "dialog/replay/Recorder.h"
@@ -6,13 +7,15 @@
 #include "platform/toolkit/KeyWindow.h"
 
 #include <QtCore/QCoreApplication>
-#include <QtCore/QFileInfo>
+#include <QtCore/QFile>
 #include <QtCore/QJsonArray>
 #include <QtCore/QJsonObject>
 
 using namespace Qt::StringLiterals;
 
 namespace {
+
+constexpr int kMostCopies = 1000;
 
 // `PageRegion` follows `PageSize`.
 QJsonObject marksBesideDefaults(ppd_file_t *ppd)
@@ -51,6 +54,32 @@ bool isEmpty(const QJsonValue &value)
            (value.isArray() && value.toArray().isEmpty());
 }
 
+struct Place
+{
+    QString folder; // with the slash at its end; empty: the current one
+    QString base;   // what the copies' names begin with
+};
+
+/// Beside the script; there is nothing beside a device or a pipe.
+Place placeOfCopies(const RecordedScript &script)
+{
+    const QString name = script.path().section(u'/', -1);
+    const qsizetype dot = name.lastIndexOf(u'.');
+    return {script.isStream() ? QString() : script.path().chopped(name.size()),
+            dot > 0 ? name.left(dot) : name};
+}
+
+QString nameOfCopy(const QString &base, int number)
+{
+    return (number == 1 ? base : base + u'-' + QString::number(number)) + u".ppd"_s;
+}
+
+bool holds(const QString &path, const QByteArray &bytes)
+{
+    QFile file(path);
+    return identityOf(path) && file.open(QIODevice::ReadOnly) && file.readAll() == bytes;
+}
+
 } // namespace
 
 bool Recorder::attach(HostSession &session, QString *error)
@@ -65,22 +94,30 @@ bool Recorder::attach(HostSession &session, QString *error)
     return true;
 }
 
-/// Answers the copy's name, as the script has it; null when it cannot be written.
+/// Answers the copy's name, as the script has it; null when there is none. A file of another
+/// content keeps its name, and one of the same content will do.
 QString Recorder::copyPPD(QString *error)
 {
-    const QFileInfo script(m_script.path());
-    const QString suffix = ++m_sessions == 1 ? QString() : u'-' + QString::number(m_sessions);
-    QString name = script.completeBaseName() + suffix + u".ppd"_s;
-    const QString copy = script.absolutePath() + u'/' + name;
-    const QString original = m_session->options().ppdPath;
-    if (QFileInfo(copy) == QFileInfo(original))
-        return name;
-    QFile::remove(copy);
-    QFile file(original);
-    if (file.copy(copy))
-        return name;
+    QFile original(m_session->options().ppdPath);
+    const bool isOpen = original.open(QIODevice::ReadOnly);
+    const QByteArray ppd = original.readAll();
+    const auto [folder, base] = placeOfCopies(m_script);
+    for (int number = 1; isOpen && number <= kMostCopies; ++number) {
+        QString name = nameOfCopy(base, number);
+        if (holds(folder + name, ppd))
+            return name;
+        if (verdictAt(folder + name, {}) != OutputVerdict::Create)
+            continue;
+        const auto &copy = m_copies.emplace_back(std::make_unique<OutputFile>());
+        const bool isKept =
+            copy->open(folder + name, {}, OutputFile::Appears::AtOnce) && copy->write(ppd);
+        *error = copy->error();
+        return isKept ? name : QString();
+    }
     *error = QCoreApplication::translate("Recorder", "The PPD cannot be copied to %1: %2")
-                 .arg(copy, file.errorString());
+                 .arg(shownPath(folder + nameOfCopy(base, 1)),
+                      isOpen ? QCoreApplication::translate("Recorder", "no name is free")
+                             : original.errorString());
     return {};
 }
 

@@ -1,6 +1,5 @@
 #include "dialog/replay/RecordedScript.h"
 
-#include <QtCore/QCoreApplication>
 #include <QtCore/QJsonArray>
 #include <QtCore/QJsonObject>
 
@@ -21,14 +20,13 @@ QJsonObject answerReport(const RecordedAnswer &answer)
 
 } // namespace
 
-bool RecordedScript::open(const QString &path, QString *error)
+bool RecordedScript::open(const QString &path, const OutputTerms &terms, QString *error)
 {
-    m_file.setFileName(path);
-    if (m_file.open(QIODevice::WriteOnly | QIODevice::Truncate))
-        return true;
-    *error = QCoreApplication::translate("Recorder", "The script %1 cannot be written: %2")
-                 .arg(path, m_file.errorString());
-    return false;
+    m_path = path;
+    // A recording is read after a crash, too.
+    const bool isOpen = m_file.open(path, terms, OutputFile::Appears::AtOnce);
+    *error = m_file.error();
+    return isOpen;
 }
 
 void RecordedScript::addAnswer(const std::shared_ptr<RecordedAnswer> &answer)
@@ -69,6 +67,12 @@ void RecordedScript::write(const Event &event)
         answers << answerReport(*answer);
     if (!answers.isEmpty())
         members << std::pair(u"answers"_s, QJsonValue(answers));
-    m_file.write(jsonLine(members) + '\n');
-    m_file.flush(); // a recording is read after a crash, too
+    m_file.write(jsonLine(members) + '\n'); // told by finish() when it fails
+}
+
+QString RecordedScript::finish()
+{
+    writeAll();
+    m_file.commit();
+    return m_file.error();
 }

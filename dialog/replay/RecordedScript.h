@@ -1,8 +1,7 @@
 #pragma once
 
+#include "dialog/files/OutputFile.h"
 #include "dialog/replay/JsonText.h"
-
-#include <QtCore/QFile>
 
 #include <deque>
 #include <memory>
@@ -22,8 +21,8 @@ struct RecordedAnswer
 class RecordedScript
 {
 public:
-    /// False, with one sentence, when the file cannot be written.
-    bool open(const QString &path, QString *error);
+    /// False, with one sentence, when the file may not or cannot be written.
+    bool open(const QString &path, const OutputTerms &terms, QString *error);
 
     /// The alert has been raised by the event that is noted next.
     void addAnswer(const std::shared_ptr<RecordedAnswer> &answer);
@@ -37,10 +36,14 @@ public:
     /// Writes all events, those too whose alerts nobody has answered.
     void writeAll();
 
-    /// Whether everything could be written so far.
-    bool isWritten() const { return m_file.error() == QFileDevice::NoError; }
+    /// Ends the script. Null, or one sentence when not everything could be written: then nothing of
+    /// it is left.
+    QString finish();
 
-    QString path() const { return m_file.fileName(); }
+    QString path() const { return m_path; }
+
+    /// Whether it goes to a device or a pipe.
+    bool isStream() const { return m_file.verdict() == OutputVerdict::Append; }
 
 private:
     using Answers = std::vector<std::shared_ptr<RecordedAnswer>>;
@@ -53,7 +56,8 @@ private:
 
     void write(const Event &event);
 
-    QFile m_file;
+    QString m_path;
+    OutputFile m_file;
     Answers m_answers;
     std::deque<Event> m_events;
 };

@@ -49,12 +49,22 @@ Recorder::Recorder() : m_former(AlertObserver::alertObserver())
 Recorder::~Recorder()
 {
     AlertObserver::setAlertObserver(m_former);
-    m_script.writeAll();
 }
 
-bool Recorder::open(const QString &path, QString *error)
+bool Recorder::open(const QString &path, const OutputTerms &terms, QString *error)
 {
-    return m_script.open(path, error);
+    return m_script.open(path, terms, error);
+}
+
+QString Recorder::finish()
+{
+    const QString fault = m_script.finish();
+    if (!fault.isNull())
+        return fault;
+    for (const auto &copy : m_copies)
+        if (!copy->commit())
+            return copy->error();
+    return {};
 }
 
 void Recorder::alertShown(const ShownAlert &alert)

@@ -8,6 +8,9 @@
 #include <QtCore/QSet>
 #include <QtCore/QString>
 
+#include <memory>
+#include <vector>
+
 class HostSession;
 class QAbstractButton;
 class RadioMatrix;
@@ -17,7 +20,9 @@ class RadioMatrix;
 /// alerts. Running the script leads to the same state.
 ///
 /// The order of calls: open(); then for each session attach() between HostSession::open() and
-/// start(). The PPD is copied beside the script, so that both together can be sent elsewhere.
+/// start(); at the end finish(). The PPD is copied beside the script, so that both together can be
+/// sent elsewhere. Without finish() no file is left, but for what a crash leaves.
+///
 /// While it lives it is the process's alert observer, and hands alerts on to the former one.
 class Recorder : public QObject, public SessionObserver, public AlertObserver
 {
@@ -25,15 +30,16 @@ public:
     Recorder();
     ~Recorder() override;
 
-    /// False, with one sentence for people, when the script cannot be written.
-    bool open(const QString &path, QString *error);
+    /// False, with one sentence for people, when the script may not or cannot be written.
+    bool open(const QString &path, const OutputTerms &terms, QString *error);
 
     /// Notes the session from its beginning. False, with one sentence, when its PPD cannot be
-    /// copied. The session must close before the recorder is destroyed.
+    /// copied. The session must close before finish().
     bool attach(HostSession &session, QString *error);
 
-    /// Whether everything could be written so far.
-    bool isWritten() const { return m_script.isWritten(); }
+    /// Ends the recording. Null, or one sentence when not all of it could be written: then nothing
+    /// of it is left.
+    QString finish();
 
     void alertShown(const ShownAlert &alert) override;
 
@@ -58,9 +64,9 @@ private:
     void noteSurroundings();
 
     RecordedScript m_script;
+    std::vector<std::unique_ptr<OutputFile>> m_copies; // of PPDs
     HostSession *m_session = nullptr;
-    QSet<QString> m_followed; // the panels whose controls are followed
-    int m_sessions = 0;
+    QSet<QString> m_followed;  // the panels whose controls are followed
     double m_notedHeight = -1; // of the window; negative: no key window
     bool m_windowChanged = false;
     bool m_watchFired = false;

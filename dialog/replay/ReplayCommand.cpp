@@ -68,22 +68,25 @@ ExitStatus runLines(QFile &file, const QString &name, const QDir &folder, Replay
 
 } // namespace
 
-int runReplay(const QString &script, const QString &bundlePath)
+int runReplay(const QString &script, const QString &bundlePath, bool force)
 {
     QFile file;
     if (!openScript(file, script))
         return exitCode(
             fail(u"the script %1 cannot be read: %2"_s.arg(script, file.errorString())));
     const QString name = script == "-"_L1 ? u"standard input"_s : script;
-    ReplaySession session(bundlePath);
+    OutputTerms terms;
+    terms.addInput(script);
+    terms.mayReplace = force;
+    ReplaySession session(bundlePath, terms);
     return exitCode(runLines(file, name, folderOf(script), session));
 }
 
-int runReplayCommand(int &argc, char **argv, const QString &script, const QString &bundlePath)
+int runReplayCommand(int &argc, char **argv, const CommandLine &line)
 {
     // Whatever a desktop's session names: its display may be out of reach, which Qt does not
     // survive.
     qputenv("QT_QPA_PLATFORM", "offscreen");
     const QApplication application(argc, argv);
-    return runReplay(script, bundlePath);
+    return runReplay(line.replay, line.plugIn, line.force);
 }

@@ -3,6 +3,7 @@
 #include "dialog/host/SessionObserver.h"
 #include "dialog/host/SessionOptions.h"
 
+#include <QtCore/QDir>
 #include <QtCore/QJsonObject>
 #include <QtCore/QList>
 
@@ -84,7 +85,8 @@ struct ReplayWatch
 
 struct ReplayPicture
 {
-    QString file;
+    QDir folder;
+    QString file; ///< as the script names it
 };
 
 struct ReplayPost

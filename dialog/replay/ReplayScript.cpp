@@ -148,7 +148,7 @@ ReplayAction windowOf(const QJsonObject &line, const QDir &)
 
 ReplayAction pictureOf(const QJsonObject &line, const QDir &folder)
 {
-    return ReplayPicture{folder.absoluteFilePath(text(line, "file"))};
+    return ReplayPicture{folder, text(line, "file")};
 }
 
 ReplayAction postOf(const QJsonObject &line, const QDir &)

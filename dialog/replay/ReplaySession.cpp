@@ -21,7 +21,8 @@ bool needsSession(const ReplayAction &action)
 
 } // namespace
 
-ReplaySession::ReplaySession(const QString &bundlePath) : m_bundlePath(bundlePath)
+ReplaySession::ReplaySession(const QString &bundlePath, const OutputTerms &terms)
+    : m_bundlePath(bundlePath), m_pictures(terms)
 {
     UserDefaults::standardUserDefaults().setFolder(QString());
 }
@@ -63,6 +64,7 @@ ReplaySession::Work ReplaySession::perform(const ReplayOpen &event)
     options.bundlePath = m_bundlePath;
     options.ppdTexts = PPDTexts::AsWritten; // a script gives the same on every machine
     options.callObserver = [this](const HostCallback::Call &call) { noteCall(call); };
+    m_pictures.addInput(options.ppdPath);
     HostSession::Opened opened = HostSession::open(options);
     if (!opened.session)
         return {QJsonValue(), QString(), opened.ppdError};

@@ -4,6 +4,7 @@
 #include "dialog/replay/AlertAnswerer.h"
 #include "dialog/replay/NotificationLog.h"
 #include "dialog/replay/ReplayEvent.h"
+#include "dialog/replay/ReplayPictures.h"
 
 #include <QtCore/QByteArray>
 #include <QtCore/QJsonArray>
@@ -19,8 +20,9 @@
 class ReplaySession
 {
 public:
-    /// `bundlePath` names the plug-in; null: the installed one.
-    explicit ReplaySession(const QString &bundlePath = QString());
+    /// `bundlePath` names the plug-in; null: the installed one. Pictures are written on these
+    /// terms, and never over a PPD that the script has opened.
+    explicit ReplaySession(const QString &bundlePath = QString(), const OutputTerms &terms = {});
     ~ReplaySession();
     ReplaySession(const ReplaySession &) = delete;
     ReplaySession &operator=(const ReplaySession &) = delete;
@@ -72,6 +74,7 @@ private:
     void noteCall(const HostCallback::Call &call);
 
     QString m_bundlePath;
+    ReplayPictures m_pictures;
     NotificationLog m_notifications; // registered before any panel
     AlertAnswerer m_answerer;
     QJsonArray m_calls;

@@ -123,9 +123,7 @@ ReplaySession::Work ReplaySession::perform(const ReplayPicture &event)
     const QImage picture = shownPicture(*m_session);
     if (picture.isNull())
         return {QJsonValue(), u"no picture is shown"_s, QString()};
-    if (!picture.save(event.file, "PNG"))
-        return {QJsonValue(), u"the picture %1 cannot be written"_s.arg(event.file), QString()};
-    return {};
+    return {QJsonValue(), m_pictures.write(picture, event.folder, event.file), QString()};
 }
 
 ReplaySession::Work ReplaySession::perform(const ReplayPost &event)

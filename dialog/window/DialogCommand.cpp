@@ -2,9 +2,9 @@
 
 #include "dialog/commandline/ExitStatus.h"
 #include "dialog/commandline/ToolkitMessages.h"
-#include "dialog/cups/DocumentFile.h"
 #include "dialog/cups/ServerCall.h"
 #include "dialog/job/CommandOutput.h"
+#include "dialog/job/EndSignals.h"
 #include "dialog/job/NoDialogCommand.h"
 #include "dialog/window/DialogWindow.h"
 #include "dialog/window/Screenshot.h"
@@ -23,16 +23,18 @@ constexpr std::chrono::milliseconds kPatienceAtTheEnd{300};
 
 ExitStatus runDialog(const CommandLine &line)
 {
-    const QString error = openDocuments(line.files).error;
-    if (!error.isNull())
-        return failWith(Document, error);
     DialogWindow window(line);
+    if (!window.documentError().isNull())
+        return failWith(Document, window.documentError());
     if (!window.beginRecording())
         return failWith(Output, window.recordingError());
     window.start();
     window.show();
+    const EndSignals signals([&window] { window.end(); });
     QApplication::exec();
-    return window.exitStatus();
+    const bool hasOtherFault = window.exitStatus() != Done && window.exitStatus() != Cancelled;
+    return window.finishRecording() || hasOtherFault ? window.exitStatus()
+                                                     : failWith(Output, window.recordingError());
 }
 
 // The toolkit would advise to install the program again, and abort.

@@ -73,8 +73,8 @@ void DialogWindow::openPPD(const PrinterSource &source, const QString &path)
     options.callObserver = [this](const HostCallback::Call &call) { noteAnswer(call); };
     OpenedPrinter printer =
         openPrinter(options, savedOptions(source.queue), [this](HostSession &session) {
-            if (m_recorder && !m_recorder->attach(session, &m_recordingError))
-                m_exitStatus = ExitStatus::Output;
+            if (m_recorder && m_recordingError.isNull())
+                m_recorder->attach(session, &m_recordingError);
         });
     const bool isFile = !source.ppdPath.isNull();
     const QString title =
@@ -130,7 +130,11 @@ DialogWindow::Notice DialogWindow::whatIsMissing() const
     if (m_job.session() && !hasPanels)
         return {Kind::Information, tr("This printer has none of the settings that the panels are "
                                       "for. It prints with the settings of this dialog alone.")};
-    if (m_job.documents().isEmpty())
+    if (!m_documentError.isNull())
+        return {Kind::Error, m_documentError};
+    if (hasPipes(m_job.documents()))
+        return {Kind::Information, tr("Reading the document to its end…")};
+    if (m_job.documents().empty())
         return {Kind::Information, tr("Choose a document to print.")};
     if (m_line.output.isNull() && m_job.source().queue.queue.isEmpty())
         return {Kind::Information, tr("No queue was chosen: the job can be saved to a file.")};

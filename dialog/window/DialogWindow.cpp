@@ -1,18 +1,20 @@
 #include "dialog/window/DialogWindow.h"
 
-#include "dialog/cups/DocumentFile.h"
 #include "dialog/cups/ServerCall.h"
+#include "dialog/job/CommandOutput.h"
 #include "dialog/job/Conflicts.h"
 #include "dialog/replay/Recorder.h"
 #include "dialog/window/HostHelp.h"
 #include "dialog/window/JobHeader.h"
 #include "dialog/window/PageSetupPane.h"
 #include "dialog/window/PrinterPopUp.h"
+#include "dialog/window/ProgressStrip.h"
 #include "platform/foundation/NotificationCenter.h"
 #include "platform/toolkit/KeyWindow.h"
 
+#include <QtCore/QThread>
 #include <QtCore/QTimer>
-#include <QtWidgets/QFileDialog>
+#include <QtWidgets/QApplication>
 #include <QtWidgets/QHBoxLayout>
 #include <QtWidgets/QPushButton>
 #include <QtWidgets/QTabWidget>
@@ -26,6 +28,7 @@ namespace {
 
 constexpr QSize kFirstSize(640, 560);
 constexpr int kMargin = 14;
+constexpr std::chrono::milliseconds kLookInterval{50};
 
 QPushButton *newButton(const QString &name, const QString &title, QWidget *parent)
 {
@@ -37,9 +40,9 @@ QPushButton *newButton(const QString &name, const QString &title, QWidget *paren
 
 } // namespace
 
-DialogWindow::DialogWindow(const CommandLine &line, QWidget *parent)
-    : QDialog(parent), m_line(line), m_job(line.files, jobTitle(line.files))
+DialogWindow::DialogWindow(const CommandLine &line, QWidget *parent) : QDialog(parent), m_line(line)
 {
+    takeDocuments(openDocuments(line.files));
     setObjectName(u"dialogWindow"_s);
     setWindowTitle(tr("Print"));
     buildLayout();
@@ -50,6 +53,7 @@ DialogWindow::DialogWindow(const CommandLine &line, QWidget *parent)
 DialogWindow::~DialogWindow()
 {
     delete m_call;
+    delete m_reading;
     closePrinter();
 }
 
@@ -57,6 +61,7 @@ void DialogWindow::buildLayout()
 {
     m_header = new JobHeader(m_job, this);
     m_notice = new NoticeBar(this);
+    m_progress = new ProgressStrip(this);
     m_tabs = new QTabWidget(this);
     m_tabs->setObjectName(u"parts"_s);
     m_pageSetup = new PageSetupPane(m_job);
@@ -66,6 +71,7 @@ void DialogWindow::buildLayout()
     layout->setSpacing(kMargin);
     layout->addWidget(m_header);
     layout->addWidget(m_notice);
+    layout->addWidget(m_progress);
     layout->addWidget(m_tabs, 1);
     layout->addWidget(newButtons());
     buildParts();
@@ -92,7 +98,7 @@ QWidget *DialogWindow::newButtons()
     m_help->setShortcut(QKeySequence::HelpContents);
     m_save = newButton(u"saveButton"_s, tr("Save to &File…"), row);
     m_cancel = newButton(u"cancelButton"_s, tr("Cancel"), row);
-    m_print = newButton(u"printButton"_s, m_line.output.isNull() ? tr("Print") : tr("Save"), row);
+    m_print = newButton(u"printButton"_s, printTitle(), row);
     m_print->setAutoDefault(true);
     m_print->setDefault(true);
     m_save->setVisible(m_line.output.isNull());
@@ -110,17 +116,35 @@ QWidget *DialogWindow::newButtons()
     return row;
 }
 
+QString DialogWindow::printTitle() const
+{
+    if (!m_line.output.isNull())
+        return tr("Save");
+    return m_mayHavePrinted ? tr("Print Again") : tr("Print");
+}
+
 bool DialogWindow::beginRecording()
 {
     if (m_line.record.isNull())
         return true;
     m_recorder = std::make_unique<Recorder>();
-    return m_recorder->open(m_line.record, &m_recordingError);
+    return m_recorder->open(m_line.record, outputTerms(m_line), &m_recordingError);
+}
+
+bool DialogWindow::finishRecording()
+{
+    closePrinter();
+    if (m_recorder && m_recordingError.isNull())
+        m_recordingError = m_recorder->finish();
+    m_recorder.reset();
+    return m_recordingError.isNull();
 }
 
 void DialogWindow::start()
 {
     setKeyWindow(this);
+    if (m_line.screenshot.isNull())
+        readPipedDocuments();
     PrinterSource source{m_line.server, {}, m_line.ppd};
     if (m_line.ppd.isNull() || !m_line.queue.isNull())
         source.queue = wantedQueue(m_line.queue, m_line.instance);
@@ -138,14 +162,16 @@ void DialogWindow::setState(State state)
     m_tabs->setEnabled(state == State::Ready);
     m_cancel->setText(state == State::Done ? tr("Close") : tr("Cancel"));
     m_print->setVisible(state != State::Done);
+    m_print->setText(printTitle());
+    m_print->setDefault(!m_mayHavePrinted); // not twice by mistake
     updateButtons();
     Q_EMIT stateChanged();
 }
 
 bool DialogWindow::mayPrint() const
 {
-    return m_state == State::Ready && !m_job.documents().isEmpty() && m_header->isAcceptable() &&
-           m_pageSetup->isAcceptable();
+    return m_state == State::Ready && !m_job.documents().empty() && !hasPipes(m_job.documents()) &&
+           m_header->isAcceptable() && m_pageSetup->isAcceptable();
 }
 
 void DialogWindow::updateButtons()
@@ -202,19 +228,6 @@ void DialogWindow::tellAnswers()
         m_notice->tell(NoticeBar::Kind::Warning, refusal);
 }
 
-void DialogWindow::chooseDocuments()
-{
-    const QStringList paths = QFileDialog::getOpenFileNames(
-        this, tr("Choose Documents"), QString(),
-        tr("Documents (*.pdf *.ps *.txt *.png *.jpg *.jpeg);;All files (*)"));
-    if (paths.isEmpty())
-        return;
-    m_job.setDocuments(paths, jobTitle(paths));
-    m_header->reload();
-    m_standing = whatIsMissing();
-    tellStanding();
-}
-
 void DialogWindow::showHelp()
 {
     const Part *part = currentPart();
@@ -236,9 +249,25 @@ void DialogWindow::done(int result)
         m_call->cancel();
         return;
     }
+    delete m_reading;
     NotificationCenter::defaultCenter().post(QLatin1String(kWindowWillCloseNotification),
                                              static_cast<QWidget *>(this));
     closePrinter();
     setKeyWindow(nullptr);
     QDialog::done(result);
+}
+
+/// Not while something runs an event loop of its own, an alert of a panel say: it would find its
+/// dialog gone.
+void DialogWindow::end()
+{
+    m_isEnding = true;
+    if (QThread::currentThread()->loopLevel() > 1) {
+        if (auto *dialog = qobject_cast<QDialog *>(QApplication::activeModalWidget()))
+            dialog->reject();
+        QTimer::singleShot(kLookInterval, this, &DialogWindow::end);
+        return;
+    }
+    if (isVisible())
+        reject();
 }

@@ -2,6 +2,10 @@
 
 #include "dialog/commandline/CommandLine.h"
 #include "dialog/commandline/ExitStatus.h"
+#include "dialog/cups/DocumentFile.h"
+#include "dialog/cups/JobFileWriter.h"
+#include "dialog/cups/PipeDocuments.h"
+#include "dialog/files/OutputFile.h"
 #include "dialog/job/PrintJob.h"
 #include "dialog/job/SettingRequests.h"
 #include "dialog/window/NoticeBar.h"
@@ -16,6 +20,7 @@
 class JobHeader;
 class PageSetupPane;
 class PanelPane;
+class ProgressStrip;
 class QPushButton;
 class QTabWidget;
 class Recorder;
@@ -34,15 +39,22 @@ public:
         Searching, ///< for the printer and its PPD
         Ready,     ///< the user may change settings and print
         NoPrinter, ///< there is none, or it cannot be reached; another one may be picked
-        Sending,   ///< the job is on its way
+        Sending,   ///< the job is on its way to the server or into a file
         Done,      ///< the job was accepted or written; only closing is left
     };
 
     explicit DialogWindow(const CommandLine &line, QWidget *parent = nullptr);
     ~DialogWindow() override;
 
+    /// The document of the command line that cannot be printed; one sentence, null when there is
+    /// none.
+    QString documentError() const { return m_documentError; }
+
     /// Before start(), where the session is to be noted. False when the script cannot be written.
     bool beginRecording();
+
+    /// When the dialog has closed. False when not all of the session could be noted.
+    bool finishRecording();
     QString recordingError() const { return m_recordingError; }
 
     /// Looks for the printer.
@@ -58,6 +70,10 @@ public:
 
     /// What is in front: a panel's view, or one of the dialog's own panes.
     QWidget *shownPart() const;
+
+    /// Ends the dialog as Cancel does, for somebody who cannot click: what is on its way is
+    /// cancelled, and what asks something is dismissed.
+    void end();
 
     /// What the command line asked for and could not be made; one sentence, null otherwise.
     QString settingError() const { return m_settingError; }
@@ -89,6 +105,7 @@ private:
     // DialogWindow.cpp
     void buildLayout();
     QWidget *newButtons();
+    QString printTitle() const;
     void setState(State state);
     void updateButtons();
     void noteAnswer(const HostCallback::Call &call);
@@ -97,6 +114,11 @@ private:
     bool mayPrint() const;
     void chooseDocuments();
     void showHelp();
+
+    // DialogDocuments.cpp
+    void takeDocuments(const OpenedDocuments &opened);
+    void readPipedDocuments();
+    void takeRead(const ReadDocuments &read);
 
     // DialogPrinter.cpp
     void findPrinter(const PrinterSource &source);
@@ -123,13 +145,18 @@ private:
     // DialogPrint.cpp
     void print();
     void saveToFile();
-    void writeFile(const QString &path, const JobRequest &request);
+    std::optional<OutputTerms> agreedTerms(const QString &path);
+    void writeFile(const QString &path, const JobRequest &request, const OutputTerms &terms);
+    void takeWritten(const WrittenJobFile &written);
     void send(const JobRequest &request);
     void takeReceipt(const JobReceipt &receipt);
+    std::shared_ptr<JobProgress> beginSending(const QString &sentence);
+    void endSending(State state);
     std::optional<JobRequest> finishedJob();
 
     const CommandLine m_line;
     std::unique_ptr<Recorder> m_recorder; // outlives the session that it follows
+    QString m_documentError;
     QString m_recordingError;
     PrintJob m_job;
     State m_state = State::Searching;
@@ -141,10 +168,14 @@ private:
     bool m_answersAreNoted = false;
     bool m_requestedSettingsAreMade = false;
     bool m_printersAreListed = false;
+    bool m_isEnding = false;
+    bool m_mayHavePrinted = false; ///< what Print did last
     QPointer<ServerCall> m_call;
+    QPointer<ServerCall> m_reading; ///< of documents that are pipes
 
     JobHeader *m_header;
     NoticeBar *m_notice;
+    ProgressStrip *m_progress;
     QTabWidget *m_tabs;
     PageSetupPane *m_pageSetup;
     SummaryPane *m_summary;

@@ -4,11 +4,9 @@
 #include "dialog/job/PrintJob.h"
 #include "dialog/window/PrinterPopUp.h"
 #include "platform/toolkit/NumberField.h"
-#include "platform/toolkit/PlainText.h"
 #include "platform/toolkit/PopUpButton.h"
 #include "platform/toolkit/SpokenName.h"
 
-#include <QtCore/QFileInfo>
 #include <QtCore/QSignalBlocker>
 #include <QtWidgets/QFormLayout>
 #include <QtWidgets/QHBoxLayout>
@@ -87,8 +85,8 @@ JobHeader::JobHeader(PrintJob &job, QWidget *parent)
 void JobHeader::reload()
 {
     QStringList names;
-    for (const QString &path : m_job.documents())
-        names += displayText(QFileInfo(path).fileName());
+    for (const Document &document : m_job.documents())
+        names += document.name();
     m_documents->setText(names.isEmpty() ? tr("No document") : names.join(u", "_s));
     m_copies->setDoubleValue(m_job.settings().copies);
     m_pages->setText(m_job.settings().pageRanges);

@@ -3,8 +3,8 @@
 #include "dialog/job/CommandOutput.h"
 #include "dialog/window/DialogWindow.h"
 
+#include <QtCore/QBuffer>
 #include <QtCore/QEventLoop>
-#include <QtCore/QSaveFile>
 #include <QtGui/QPixmap>
 #include <QtWidgets/QApplication>
 
@@ -37,14 +37,14 @@ QPixmap picture(DialogWindow &window, const CommandLine &line)
     return painted;
 }
 
-ExitStatus write(const QPixmap &painted, const QString &path)
+ExitStatus write(const QPixmap &painted, const CommandLine &line)
 {
-    QSaveFile file(path);
-    if (file.open(QIODevice::WriteOnly) && painted.save(&file, "PNG") && file.commit())
-        return Done;
-    return failWith(
-        Output, QCoreApplication::translate("Screenshot", "The picture %1 cannot be written: %2.")
-                    .arg(path, file.errorString()));
+    QBuffer png;
+    painted.save(&png, "PNG");
+    OutputFile file;
+    const bool isWritten =
+        file.open(line.screenshot, outputTerms(line)) && file.write(png.data()) && file.commit();
+    return isWritten ? Done : failWith(Output, file.error());
 }
 
 } // namespace
@@ -52,6 +52,8 @@ ExitStatus write(const QPixmap &painted, const QString &path)
 ExitStatus takeScreenshot(const CommandLine &line)
 {
     DialogWindow window(line);
+    if (!window.documentError().isNull())
+        return failWith(Document, window.documentError());
     window.show();
     waitForPrinter(window);
     if (window.state() == DialogWindow::State::NoPrinter)
@@ -59,5 +61,5 @@ ExitStatus takeScreenshot(const CommandLine &line)
     if (!window.settingError().isNull())
         return failWith(Usage, window.settingError());
     QApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
-    return write(picture(window, line), line.screenshot);
+    return write(picture(window, line), line);
 }

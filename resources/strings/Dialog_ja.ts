@@ -39,6 +39,10 @@
         <source>--yes is for --no-dialog.</source>
         <translation>--yes は --no-dialog と一緒に使います。</translation>
     </message>
+    <message>
+        <source>The value of %1 is no UTF-8 text.</source>
+        <translation>%1 の値は UTF-8 の文字列ではありません。</translation>
+    </message>
 </context>
 <context>
     <name>Conflicts</name>
@@ -239,6 +243,37 @@
         <source>Documents (*.pdf *.ps *.txt *.png *.jpg *.jpeg);;All files (*)</source>
         <translation>文書 (*.pdf *.ps *.txt *.png *.jpg *.jpeg);;すべてのファイル (*)</translation>
     </message>
+    <message>
+        <source>Print Again</source>
+        <translation>もう一度印刷</translation>
+    </message>
+    <message>
+        <source>Writing the job to %1…</source>
+        <translation>ジョブを %1 に書き込んでいます…</translation>
+    </message>
+    <message>
+        <source>Reading the document to its end…</source>
+        <translation>文書を最後まで読み込んでいます…</translation>
+    </message>
+    <message>
+        <source>%1 exists already. Replace it?</source>
+        <translation>%1 は既に存在します。置き換えますか？</translation>
+    </message>
+    <message>
+        <source>Replace</source>
+        <translation>置き換え</translation>
+    </message>
+</context>
+<context>
+    <name>Document</name>
+    <message>
+        <source>The document %1 has become shorter or longer since it was opened.</source>
+        <translation>文書 %1 の長さが、開いた後に変わりました。</translation>
+    </message>
+    <message>
+        <source>The document %1 cannot be read to its end.</source>
+        <translation>文書 %1 を最後まで読み込めません。</translation>
+    </message>
 </context>
 <context>
     <name>DocumentFile</name>
@@ -257,6 +292,22 @@
     <message>
         <source>The document %1 cannot be read: %2.</source>
         <translation>文書 %1 を読み込めません（%2）。</translation>
+    </message>
+    <message>
+        <source>%1 is a named pipe, not a document.</source>
+        <translation>%1 は文書ではなく名前付きパイプです。</translation>
+    </message>
+    <message>
+        <source>%1 is a socket, not a document.</source>
+        <translation>%1 は文書ではなくソケットです。</translation>
+    </message>
+    <message>
+        <source>%1 is a device, not a document.</source>
+        <translation>%1 は文書ではなくデバイスです。</translation>
+    </message>
+    <message>
+        <source>Standard input</source>
+        <translation>標準入力</translation>
     </message>
 </context>
 <context>
@@ -300,6 +351,26 @@
         <source>%1 is a saved job: it is sent as it was saved, without -o, --paper and --output.</source>
         <translation>%1 は保存されたジョブです。保存したときの設定で送信するため、-o、--paper、--output は使えません。</translation>
     </message>
+    <message>
+        <source>%1 is not sent: it sets %2, which no saved job may.</source>
+        <translation>%1 は送信しません。保存されたジョブでは設定できない %2 が含まれています。</translation>
+    </message>
+    <message>
+        <source>%1 is not sent: it sets %2, which Velkaro Print does not write; --yes sends it all the same.</source>
+        <translation>%1 は送信しません。Velkaro Print が書き込まない設定 %2 が含まれています。それでも送信するには --yes を指定してください。</translation>
+    </message>
+    <message>
+        <source>Sending &quot;%1&quot; to %2.</source>
+        <translation>「%1」を %2 に送信します。</translation>
+    </message>
+    <message>
+        <source>Document: %1 (%2 bytes)</source>
+        <translation>文書: %1（%2 バイト）</translation>
+    </message>
+    <message>
+        <source>Setting: %1=%2</source>
+        <translation>設定: %1=%2</translation>
+    </message>
 </context>
 <context>
     <name>JobFile</name>
@@ -308,20 +379,36 @@
         <translation>ファイル %1 に書き込めません（%2）。</translation>
     </message>
     <message>
-        <source>%1 is no ordinary file: it cannot be kept in a job.</source>
-        <translation>%1 は通常のファイルではないため、ジョブに保存できません。</translation>
-    </message>
-    <message>
-        <source>The document %1 cannot be read to its end.</source>
-        <translation>文書 %1 を最後まで読み込めません。</translation>
-    </message>
-    <message>
         <source>%1 is no saved job.</source>
         <translation>%1 は保存されたジョブではありません。</translation>
     </message>
     <message>
         <source>The saved job %1 is damaged.</source>
         <translation>保存されたジョブ %1 は壊れています。</translation>
+    </message>
+    <message>
+        <source>The saved job %1 is cut short: its end is missing.</source>
+        <translation>保存されたジョブ %1 は途中で切れています。</translation>
+    </message>
+    <message>
+        <source>The saved job %1 is damaged: its header has no end.</source>
+        <translation>保存されたジョブ %1 は壊れています（ヘッダーが終わっていません）。</translation>
+    </message>
+    <message>
+        <source>The saved job %1 has too many documents: %2 are the most.</source>
+        <translation>保存されたジョブ %1 の文書が多すぎます（最大 %2 個）。</translation>
+    </message>
+    <message>
+        <source>The saved job %1 has too many settings: %2 are the most.</source>
+        <translation>保存されたジョブ %1 の設定が多すぎます（最大 %2 個）。</translation>
+    </message>
+    <message>
+        <source>%1 would have too many documents: %2 are the most.</source>
+        <translation>%1 に保存する文書が多すぎます（最大 %2 個）。</translation>
+    </message>
+    <message>
+        <source>The job was not written.</source>
+        <translation>ジョブは保存されませんでした。</translation>
     </message>
 </context>
 <context>
@@ -380,6 +467,37 @@
         <source>The server changed the setting %1 from %2 to %3.</source>
         <translation>サーバーが設定 %1 を %2 から %3 に変更しました。</translation>
     </message>
+    <message>
+        <source>The server has cancelled job %1 (%2).</source>
+        <translation>サーバーがジョブ %1 を取り消しました（%2）。</translation>
+    </message>
+    <message>
+        <source>The server has aborted job %1 (%2).</source>
+        <translation>サーバーがジョブ %1 を中止しました（%2）。</translation>
+    </message>
+    <message>
+        <source>The server has ended job %1 with errors (%2).</source>
+        <translation>サーバーでジョブ %1 がエラーで終了しました（%2）。</translation>
+    </message>
+</context>
+<context>
+    <name>JobSettlement</name>
+    <message>
+        <source>%1 Job %2 could not be cancelled at %3 and may be printed.</source>
+        <translation>%1 ジョブ %2 を %3 で取り消せませんでした。印刷される可能性があります。</translation>
+    </message>
+    <message>
+        <source>The print server %1 cancelled job %2.</source>
+        <translation>プリントサーバー %1 がジョブ %2 を取り消しました。</translation>
+    </message>
+    <message>
+        <source>The print server %1 aborted job %2.</source>
+        <translation>プリントサーバー %1 がジョブ %2 を中止しました。</translation>
+    </message>
+    <message>
+        <source>The print server %1 did not say whether it took the job: it may have been printed as job %2.</source>
+        <translation>プリントサーバー %1 から、ジョブを受け付けたかどうかの応答がありません。ジョブ %2 として印刷された可能性があります。</translation>
+    </message>
 </context>
 <context>
     <name>NoDialogCommand</name>
@@ -390,6 +508,36 @@
     <message>
         <source>The printer&apos;s settings do not allow this job.</source>
         <translation>プリンターの設定により、このジョブは印刷できません。</translation>
+    </message>
+    <message>
+        <source>Printing was cancelled.</source>
+        <translation>印刷を中止しました。</translation>
+    </message>
+</context>
+<context>
+    <name>OutputFile</name>
+    <message>
+        <source>The file %1 cannot be written: %2.</source>
+        <translation>ファイル %1 に書き込めません（%2）。</translation>
+    </message>
+    <message>
+        <source>nobody reads from it</source>
+        <translation>読み取る側がいません</translation>
+    </message>
+</context>
+<context>
+    <name>OutputRule</name>
+    <message>
+        <source>Nothing is written over %1: it is in use for this.</source>
+        <translation>%1 はこの処理で使用中のため、上書きしません。</translation>
+    </message>
+    <message>
+        <source>%1 is a folder: it cannot be written.</source>
+        <translation>%1 はフォルダーのため、書き込めません。</translation>
+    </message>
+    <message>
+        <source>The file %1 exists already; --force replaces it.</source>
+        <translation>ファイル %1 は既に存在します。置き換えるには --force を指定してください。</translation>
     </message>
 </context>
 <context>
@@ -471,6 +619,21 @@
     </message>
 </context>
 <context>
+    <name>PipeDocuments</name>
+    <message>
+        <source>There is no room in the temporary folder %1 for the document %2.</source>
+        <translation>一時フォルダー %1 に、文書 %2 を置く空きがありません。</translation>
+    </message>
+    <message>
+        <source>The document %1 cannot be kept in the temporary folder %2: %3.</source>
+        <translation>文書 %1 を一時フォルダー %2 に置けません（%3）。</translation>
+    </message>
+    <message>
+        <source>The document %1 is longer than %2 MB, the most that is read from a pipe.</source>
+        <translation>文書 %1 は、パイプから読み込める上限の %2 MB を超えています。</translation>
+    </message>
+</context>
+<context>
     <name>PlugInLoader</name>
     <message>
         <source>The printer&apos;s settings are missing: there is no plug-in at %1. Install Velkaro Print again.</source>
@@ -532,21 +695,21 @@
     </message>
 </context>
 <context>
+    <name>ProgressStrip</name>
+    <message>
+        <source>Progress</source>
+        <translation>進行状況</translation>
+    </message>
+</context>
+<context>
     <name>Recorder</name>
     <message>
         <source>The PPD cannot be copied to %1: %2</source>
         <translation>PPD を %1 にコピーできません（%2）</translation>
     </message>
     <message>
-        <source>The script %1 cannot be written: %2</source>
-        <translation>スクリプト %1 に書き込めません（%2）</translation>
-    </message>
-</context>
-<context>
-    <name>Screenshot</name>
-    <message>
-        <source>The picture %1 cannot be written: %2.</source>
-        <translation>画像 %1 を保存できません（%2）。</translation>
+        <source>no name is free</source>
+        <translation>使用できる名前がありません</translation>
     </message>
 </context>
 <context>

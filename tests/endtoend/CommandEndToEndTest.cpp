@@ -2,6 +2,8 @@
 #include "tests/endtoend/JobPrinting.h"
 #include "tests/endtoend/PrintServerFixture.h"
 #include "tests/endtoend/ProgramRun.h"
+#include "tests/support/CaseName.h"
+#include "tests/support/Files.h"
 
 #include <QtNetwork/QTcpServer>
 
@@ -134,10 +136,110 @@ TEST_F(Command, AJobInAFileIsSentLater)
     const ProgramRun run = runProgram({u"--no-dialog"_s, u"-h"_s, server().address(), file});
     ASSERT_EQ(run.status, 0) << run.errors.toStdString();
     ASSERT_EQ(newJobs().size(), 1);
+    EXPECT_TRUE(run.errors.startsWith(u"velkaro-print: Sending \"document.pdf\" to photo.\n"
+                                      "velkaro-print: Document: document.pdf (%1 bytes)\n"_s.arg(
+                                          QFileInfo(inFolder(u"document.pdf"_s)).size())))
+        << run.errors.toStdString();
+    EXPECT_TRUE(run.errors.contains(u"\nvelkaro-print: Setting: VKMediaType=Glossy\n"_s))
+        << run.errors.toStdString();
     EXPECT_EQ(settingsOf(newJobs()[0]).value(u"VKMediaType"_s), u"Glossy"_s);
     EXPECT_EQ(server().jobAttributes(u"photo"_s, newJobs()[0]).value(u"job-name"_s),
               u"document.pdf"_s);
 }
+
+TEST_F(Command, ASavedJobKeepsTheHoldThatTheUserSaved)
+{
+    const QString file = inFolder(u"held.job"_s);
+    const ProgramRun saved = runProgram({u"--no-dialog"_s, u"-h"_s, server().address(), u"-d"_s,
+                                         u"photo"_s, u"--output"_s, file, pdf()},
+                                        "Dest photo job-hold-until=indefinite number-up=2\n");
+    ASSERT_EQ(saved.status, 0) << saved.errors.toStdString();
+    const ProgramRun run = runProgram({u"--no-dialog"_s, u"-h"_s, server().address(), file});
+    ASSERT_EQ(run.status, 0) << run.errors.toStdString();
+    ASSERT_EQ(newJobs().size(), 1);
+    const QMap<QString, QString> job = server().jobAttributes(u"photo"_s, newJobs()[0]);
+    EXPECT_EQ(job.value(u"job-hold-until"_s), u"indefinite"_s);
+    EXPECT_EQ(job.value(u"number-up"_s), u"2"_s);
+}
+
+struct SavedJob
+{
+    const char *behaviour;
+    QByteArray header; ///< between the first line and the document
+    QStringList options;
+    int status;
+    const char *says; ///< the first line on standard error; %1 is the file
+};
+
+void PrintTo(const SavedJob &row, std::ostream *out)
+{
+    *out << row.behaviour;
+}
+
+class CommandWithSavedJob : public Command, public testing::WithParamInterface<SavedJob>
+{};
+
+TEST_P(CommandWithSavedJob, SendsWhatThisProgramWritesAndSaysIt)
+{
+    const QString file = inFolder(u"the.job"_s);
+    writeFile(file, "Velkaro-Print-Job: 1\n" + GetParam().header + "Document: 5 a.ps\n\n%!PS\n");
+    const ProgramRun run =
+        runProgram(QStringList{u"--no-dialog"_s, u"-h"_s, server().address(), u"-d"_s, u"photo"_s} +
+                   GetParam().options + QStringList{file});
+    EXPECT_EQ(run.status, GetParam().status);
+    EXPECT_EQ(run.errors.section(u'\n', 0, 0),
+              u"velkaro-print: "_s + QString::fromUtf8(GetParam().says).replace(u"%1"_s, file));
+    EXPECT_EQ(newJobs().size(), GetParam().status == 0 ? 1 : 0);
+}
+
+constexpr auto kForeign = "%1 is not sent: it sets job-sheets-col, which Velkaro Print does not "
+                          "write; --yes sends it all the same.";
+
+INSTANTIATE_TEST_SUITE_P(
+    Table, CommandWithSavedJob,
+    testing::Values(SavedJob{"Settings",
+                             "Title: A\nOption: copies=2\nOption: VKMediaType=Glossy\n",
+                             {},
+                             0,
+                             "Sending \"A\" to photo."},
+                    SavedJob{"NamesWithControlCharacters",
+                             "Title: A\x1B[2J\xE2\x80\xAE\n",
+                             {},
+                             0,
+                             "Sending \"A [2J\" to photo."},
+                    SavedJob{"NoTitle", "", {}, 0, "Sending \"Untitled\" to photo."},
+                    SavedJob{"ForeignSetting", "Option: job-sheets-col=x\n", {}, 3, kForeign},
+                    SavedJob{"ForeignSettingWithYes",
+                             "Title: A\nOption: job-sheets-col=x\n",
+                             {u"--yes"_s},
+                             0,
+                             "Sending \"A\" to photo."},
+                    SavedJob{"PastTheFilters",
+                             "Option: raw=true\n",
+                             {},
+                             3,
+                             "%1 is not sent: it sets raw, which no saved job may."},
+                    SavedJob{"PastTheFiltersWithYes",
+                             "Option: Raw=true\n",
+                             {u"--yes"_s},
+                             3,
+                             "%1 is not sent: it sets Raw, which no saved job may."},
+                    SavedJob{"ToAnotherQueueWithYes",
+                             "Option: printer-uri=x\n",
+                             {u"--yes"_s},
+                             3,
+                             "%1 is not sent: it sets printer-uri, which no saved job may."},
+                    SavedJob{"TooManyDocuments",
+                             QByteArray("Document: 1 a\n").repeated(100000),
+                             {},
+                             4,
+                             "The saved job %1 has too many documents: 1000 are the most."},
+                    SavedJob{"CutShort",
+                             "Document: 99 a\n",
+                             {},
+                             4,
+                             "The saved job %1 is cut short: its end is missing."}),
+    CaseName());
 
 TEST_F(Command, AQueueWithoutAPPDPrintsWithTheHostsOwnSettings)
 {

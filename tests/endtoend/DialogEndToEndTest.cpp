@@ -4,6 +4,8 @@
 #include "tests/built/BuiltFiles.h"
 #include "tests/endtoend/JobPrinting.h"
 #include "tests/endtoend/PrintServerFixture.h"
+#include "tests/servers/IppBytes.h"
+#include "tests/servers/ScriptedServer.h"
 
 #include <QtCore/QTimer>
 #include <QtNetwork/QTcpServer>
@@ -12,6 +14,7 @@
 #include <QtWidgets/QAbstractItemView>
 #include <QtWidgets/QApplication>
 #include <QtWidgets/QMessageBox>
+#include <QtWidgets/QPushButton>
 #include <QtWidgets/QTabWidget>
 
 #include <cups/ipp.h>
@@ -181,6 +184,31 @@ TEST_F(Dialog, AServerThatGoesDownLosesNothingOfTheJob)
               u"The print server %1 cannot be reached."_s.arg(other.address()));
     EXPECT_EQ(part<PopUpButton>(*window, "mediaTypePopup")->selectedObject(), u"Glossy"_s);
     EXPECT_EQ(window->exitStatus(), ExitStatus::Cancelled);
+}
+
+TEST_F(Dialog, AJobThatMayHavePrintedIsSentAgainOnPurposeOnly)
+{
+    const ScriptedServer forgetful(
+        {{"Send-Document", {readBody(), closeConnection()}, 1},
+         {"Get-Job-Attributes", answerIpp(IppBytes(IPP_STATUS_ERROR_NOT_FOUND).ended()), 1}});
+    const auto window = open(lineFor(forgetful.address(), u"photo"_s));
+    ASSERT_EQ(window->state(), DialogWindow::State::Ready)
+        << window->notice().sentence().toStdString();
+    click(*window, "printButton");
+    waitWhile(*window, DialogWindow::State::Sending);
+    EXPECT_EQ(window->notice().sentence(),
+              u"The print server %1 did not say whether it took the job: it may have been printed "
+              "as job 7."_s.arg(forgetful.address()));
+    EXPECT_EQ(window->exitStatus(), ExitStatus::Server);
+    auto *print = part<QPushButton>(*window, "printButton");
+    EXPECT_EQ(print->text(), u"Print Again"_s);
+    QTest::keyClick(window.get(), Qt::Key_Return);
+    EXPECT_EQ(window->state(), DialogWindow::State::Ready) << "Return does not print again";
+    EXPECT_EQ(forgetful.requests().count(u"Create-Job"_s), 1);
+    click(*window, "printButton");
+    waitWhile(*window, DialogWindow::State::Sending);
+    EXPECT_EQ(window->exitStatus(), ExitStatus::Done) << window->notice().sentence().toStdString();
+    EXPECT_EQ(forgetful.requests().count(u"Create-Job"_s), 2);
 }
 
 TEST_F(Dialog, StaysUsableWhileAServerIsSilent)

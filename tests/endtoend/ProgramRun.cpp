@@ -2,7 +2,6 @@
 
 #include <QtCore/QDir>
 #include <QtCore/QFile>
-#include <QtCore/QProcess>
 #include <QtCore/QTemporaryDir>
 
 namespace {
@@ -11,7 +10,8 @@ constexpr int kPatience = 60000; // ms
 
 } // namespace
 
-ProgramRun runProgram(const QStringList &arguments, const QByteArray &lpoptions)
+ProgramRun runProgram(const QStringList &arguments, const QByteArray &lpoptions,
+                      const std::function<void(QProcess &program)> &meanwhile)
 {
     const QTemporaryDir home;
     QFile saved(home.filePath(QStringLiteral(".cups/lpoptions")));
@@ -25,6 +25,8 @@ ProgramRun runProgram(const QStringList &arguments, const QByteArray &lpoptions)
     QProcess process;
     process.setProcessEnvironment(environment);
     process.start(QStringLiteral(VELKARO_PROGRAM), arguments);
+    if (meanwhile && process.waitForStarted(kPatience))
+        meanwhile(process);
     if (!process.waitForFinished(kPatience) || process.exitStatus() != QProcess::NormalExit) {
         process.kill();
         process.waitForFinished();

@@ -1,7 +1,10 @@
 #pragma once
 
+#include <QtCore/QProcess>
 #include <QtCore/QString>
 #include <QtCore/QStringList>
+
+#include <functional>
 
 /// What a run of the program came to.
 struct ProgramRun
@@ -12,5 +15,6 @@ struct ProgramRun
 };
 
 /// Runs velkaro-print of the build tree, without a display and with a home of its own, which has
-/// nothing in it but these lpoptions.
-ProgramRun runProgram(const QStringList &arguments, const QByteArray &lpoptions = QByteArray());
+/// nothing in it but these lpoptions. `meanwhile` gets the program once it has started.
+ProgramRun runProgram(const QStringList &arguments, const QByteArray &lpoptions = QByteArray(),
+                      const std::function<void(QProcess &program)> &meanwhile = {});

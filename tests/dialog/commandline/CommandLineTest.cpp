@@ -65,6 +65,7 @@ TEST(CommandLine, TakesEveryOption)
                           u"-oD=e"_s,       u"--paper=Custom.100x150mm"_s,
                           u"--output"_s,    u"out"_s,
                           u"--no-dialog"_s, u"--yes"_s,
+                          u"--force"_s,
                           u"--panel"_s,     u"summary"_s,
                           u"--record"_s,    u"r"_s,
                           u"--plug-in"_s,   u"p.bundle"_s,
@@ -81,6 +82,7 @@ TEST(CommandLine, TakesEveryOption)
     EXPECT_EQ(line.output, u"out"_s);
     EXPECT_TRUE(line.noDialog);
     EXPECT_TRUE(line.yes);
+    EXPECT_TRUE(line.force);
     EXPECT_EQ(line.panel, u"summary"_s);
     EXPECT_EQ(line.record, u"r"_s);
     EXPECT_EQ(line.plugIn, u"p.bundle"_s);

@@ -9,6 +9,7 @@
 #include "tests/built/BuiltFiles.h"
 #include "tests/endtoend/JobPrinting.h"
 #include "tests/printserver/PrintServer.h"
+#include "tests/support/Documents.h"
 #include "tests/support/Files.h"
 
 #include <QtCore/QDir>
@@ -51,12 +52,12 @@ protected:
 
     void SetUp() override { ASSERT_NE(s_server, nullptr); }
 
-    QString document(const QByteArray &text)
+    Documents document(const QByteArray &text)
     {
-        QString path = m_folder.filePath(u"document%1.ps"_s.arg(++m_documents));
+        const QString path = m_folder.filePath(u"document%1.ps"_s.arg(++m_documents));
         writeFile(path, "%!PS-Adobe-3.0\n%%Pages: 1\n%%EndComments\n%%Page: 1 1\n% " + text +
                             "\nshowpage\n%%EOF\n");
-        return path;
+        return openedDocuments({path});
     }
 
     JobRequest job(const QString &queue)
@@ -65,7 +66,7 @@ protected:
         request.server = s_server->address();
         request.queue = queue;
         request.title = u"A & B <i>"_s;
-        request.documents = {document("first")};
+        request.documents = document("first");
         return request;
     }
 
@@ -95,6 +96,20 @@ TEST_F(Server, ListsItsQueuesAndNamesItsDefault)
     }
     EXPECT_EQ(names, (QStringList{u"closed"_s, u"group"_s, u"photo"_s, u"raw"_s}));
     EXPECT_EQ(serverDefault(s_server->address(), m_guard).queue, (QueueName{u"photo"_s, {}}));
+}
+
+TEST_F(Server, IsGivenNamesWithoutControlCharacters)
+{
+    JobRequest request = job(u"raw"_s);
+    request.title = u"A\nB\u001B[2J\u202E"_s;
+    const QString odd = m_folder.filePath(u"x\ny\u001B.ps"_s);
+    ASSERT_TRUE(QFile::rename(request.documents[0].path(), odd));
+    request.documents = openedDocuments({odd});
+    const JobReceipt receipt = submitJob(request, m_guard);
+    ASSERT_TRUE(receipt.answer.isGood()) << receipt.answer.sentence.toStdString();
+    const QMap<QString, QString> kept = s_server->jobAttributes(u"raw"_s, receipt.id);
+    EXPECT_EQ(kept.value(u"job-name"_s), u"A B [2J"_s);
+    EXPECT_EQ(kept.value(u"document-name-supplied"_s), u"x y .ps"_s);
 }
 
 TEST_F(Server, GivesThePPDOfAQueueAndLeavesNoFileBehind)
@@ -148,7 +163,7 @@ TEST_F(Server, TakesAJobAsItWasSent)
                        {u"fit-to-page"_s, u"true"_s},
                        {u"com.velkaro.print.PrintSettings.T2T_Red"_s, u"-7"_s},
                        {u"com.velkaro.text"_s, u"a, \"b\" 'c' \\d $(e)"_s}};
-    request.documents += document("second");
+    request.documents.push_back(document("second").front());
     const JobReceipt receipt = submitJob(request, m_guard);
     ASSERT_TRUE(receipt.answer.isGood()) << receipt.answer.sentence.toStdString();
     EXPECT_EQ(receipt.notes, QStringList());
@@ -172,15 +187,17 @@ TEST_F(Server, RefusesAJobForAQueueThatIsClosed)
     EXPECT_EQ(s_server->jobs(u"closed"_s), QList<int>());
 }
 
-TEST_F(Server, GetsNoJobWhoseDocumentIsMissing)
+TEST_F(Server, GetsNoJobWhoseDocumentHasChanged)
 {
     const QList<int> before = s_server->jobs(u"photo"_s);
     JobRequest request = job(u"photo"_s);
-    request.documents += m_folder.filePath(u"missing.pdf"_s);
+    request.documents.push_back(document("second").front());
+    const QString path = request.documents.back().path();
+    ASSERT_TRUE(QFile::resize(path, 10));
     const JobReceipt receipt = submitJob(request, m_guard);
     EXPECT_EQ(receipt.answer.fault, ServerFault::Document);
     EXPECT_EQ(receipt.answer.sentence,
-              u"The document %1 does not exist."_s.arg(request.documents.constLast()));
+              u"The document %1 has become shorter or longer since it was opened."_s.arg(path));
     EXPECT_EQ(s_server->jobs(u"photo"_s), before);
 }
 
@@ -202,7 +219,7 @@ TEST_F(Server, CancelsAJobThatTheUserStoppedSending)
     ASSERT_TRUE(endless.open(QIODevice::WriteOnly));
     ASSERT_TRUE(endless.resize(4096LL * 1024 * 1024));
     JobRequest request = job(u"photo"_s);
-    request.documents = {endless.fileName()};
+    request.documents = openedDocuments({endless.fileName()});
     JobReceipt receipt;
     bool isDone = false;
     QObject owner;
@@ -239,6 +256,54 @@ TEST(ReadBack, NamesWhatTheServerDroppedOrChanged)
         (QStringList{u"The server changed the setting copies from 2 to 1."_s,
                      u"The server dropped the setting com.velkaro.x=1."_s}));
 }
+
+struct Ending
+{
+    const char *name;
+    ipp_jstate_t state;
+    const char *reason;
+    QStringList notes;
+};
+
+void PrintTo(const Ending &row, std::ostream *out)
+{
+    *out << row.name;
+}
+
+class ReadBackOf : public testing::TestWithParam<Ending>
+{};
+
+TEST_P(ReadBackOf, AnAcceptedJobSaysHowItStands)
+{
+    const IppHandle kept(ippNew());
+    ippAddInteger(kept.get(), IPP_TAG_JOB, IPP_TAG_ENUM, "job-state", GetParam().state);
+    ippAddString(kept.get(), IPP_TAG_JOB, IPP_TAG_KEYWORD, "job-state-reasons", nullptr,
+                 GetParam().reason);
+    EXPECT_EQ(differences(kept.get(), 7, {}), GetParam().notes);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Table, ReadBackOf,
+    testing::Values(Ending{"Pending", IPP_JSTATE_PENDING, "none", {}},
+                    Ending{"Printed", IPP_JSTATE_COMPLETED, "job-completed-successfully", {}},
+                    Ending{
+                        "WithErrors",
+                        IPP_JSTATE_COMPLETED,
+                        "job-completed-with-errors",
+                        {u"The server has ended job 7 with errors (job-completed-with-errors)."_s}},
+                    Ending{"Cancelled",
+                           IPP_JSTATE_CANCELED,
+                           "job-canceled-by-operator",
+                           {u"The server has cancelled job 7 (job-canceled-by-operator)."_s}},
+                    Ending{"Aborted",
+                           IPP_JSTATE_ABORTED,
+                           "aborted-by-system",
+                           {u"The server has aborted job 7 (aborted-by-system)."_s}},
+                    Ending{"Held",
+                           IPP_JSTATE_HELD,
+                           "job-hold-until-specified",
+                           {u"The server holds job 7 (job-hold-until-specified)."_s}}),
+    [](const auto &row) { return std::string(row.param.name); });
 
 // --- Servers that are not there, or do not answer
 // -------------------------------------------------
@@ -304,7 +369,8 @@ INSTANTIATE_TEST_SUITE_P(
                              JobRequest request;
                              request.server = server;
                              request.queue = u"photo"_s;
-                             request.documents = {QStringLiteral("/proc/self/exe")};
+                             request.documents =
+                                 openedDocuments({QStringLiteral("/proc/self/exe")});
                              return submitJob(request, guard).answer;
                          }}),
     [](const auto &row) { return std::string(row.param.name); });

@@ -15,6 +15,7 @@
 #include "tests/built/BuiltFiles.h"
 #include "tests/dialog/replay/JsonSubset.h"
 #include "tests/support/AlertAnswers.h"
+#include "tests/support/FileSizeLimit.h"
 #include "tests/support/Files.h"
 
 #include <QtCore/QJsonDocument>
@@ -50,7 +51,7 @@ protected:
     {
         m_recorder = std::make_unique<Recorder>();
         QString error;
-        EXPECT_TRUE(m_recorder->open(script(), &error)) << error.toStdString();
+        EXPECT_TRUE(m_recorder->open(script(), m_terms, &error)) << error.toStdString();
         m_session = HostSession::open(m_options).session;
         EXPECT_TRUE(m_recorder->attach(*m_session, &error)) << error.toStdString();
         m_session->start();
@@ -77,6 +78,7 @@ protected:
     {
         QApplication::processEvents();
         m_session.reset();
+        EXPECT_EQ(m_recorder->finish(), QString());
         m_recorder.reset();
     }
 
@@ -127,9 +129,15 @@ protected:
         return last;
     }
 
+    QStringList names() const
+    {
+        return QDir(m_folder.path()).entryList(QDir::Files | QDir::Hidden);
+    }
+
     AlertAnswers m_answers;
     QWidget m_window;
     QTemporaryDir m_folder;
+    OutputTerms m_terms;
     SessionOptions m_options;
     std::unique_ptr<Recorder> m_recorder;
     std::unique_ptr<HostSession> m_session;
@@ -301,11 +309,74 @@ TEST_F(RecorderTest, ASecondSessionGoesOnInTheSameScript)
     EXPECT_EQ(lastOf(u"open"_s)["ppd"_L1], u"session-2.ppd"_s);
 }
 
+TEST_F(RecorderTest, LeavesAPPDAloneThatIsAnother)
+{
+    writeFile(m_folder.filePath(u"session.ppd"_s), "precious");
+    record();
+    finish();
+    EXPECT_EQ(readFile(m_folder.filePath(u"session.ppd"_s)), "precious");
+    EXPECT_EQ(lastOf(u"open"_s)["ppd"_L1], u"session-2.ppd"_s);
+    EXPECT_EQ(readFile(m_folder.filePath(u"session-2.ppd"_s)), readFile(m_options.ppdPath));
+}
+
+TEST_F(RecorderTest, TakesAPPDThatIsThereAlready)
+{
+    const QString copy = m_folder.filePath(u"session.ppd"_s);
+    ASSERT_TRUE(QFile::copy(m_options.ppdPath, copy));
+    m_options.ppdPath = copy;
+    record();
+    finish();
+    EXPECT_EQ(lastOf(u"open"_s)["ppd"_L1], u"session.ppd"_s);
+    EXPECT_EQ(names(), (QStringList{u"session.jsonl"_s, u"session.ppd"_s}));
+}
+
+TEST_F(RecorderTest, KeepsTheFilesOfASessionThatWasNotFinished)
+{
+    writeFile(script(), "precious");
+    m_terms.mayReplace = true;
+    record();
+    m_session.reset();
+    m_recorder.reset();
+    EXPECT_EQ(readFile(script()), "precious");
+    EXPECT_EQ(names(), QStringList{u"session.jsonl"_s});
+}
+
+TEST_F(RecorderTest, CanBeReadBeforeItsEnd)
+{
+    record().show(panel(u"print"_s));
+    EXPECT_EQ(kinds(), (QStringList{u"open"_s, u"show"_s}));
+    finish();
+}
+
+TEST_F(RecorderTest, LeavesNothingWhenNotEverythingCouldBeWritten)
+{
+    record();
+    {
+        const FileSizeLimit limit(static_cast<rlim_t>(QFileInfo(script()).size()));
+        m_session->show(panel(u"print"_s));
+    }
+    m_session.reset();
+    EXPECT_EQ(m_recorder->finish(),
+              u"The file %1 cannot be written: File too large."_s.arg(script()));
+    m_recorder.reset();
+    EXPECT_EQ(names(), QStringList());
+}
+
+TEST_F(RecorderTest, DoesNotReplaceAFileUnasked)
+{
+    writeFile(script(), "precious");
+    Recorder recorder;
+    QString error;
+    EXPECT_FALSE(recorder.open(script(), {}, &error));
+    EXPECT_EQ(error, u"The file %1 exists already; --force replaces it."_s.arg(script()));
+    EXPECT_EQ(readFile(script()), "precious");
+}
+
 TEST_F(RecorderTest, AScriptThatCannotBeWrittenIsSaidSo)
 {
     Recorder recorder;
     QString error;
-    EXPECT_FALSE(recorder.open(u"/nowhere/session.jsonl"_s, &error));
-    EXPECT_EQ(error, u"The script /nowhere/session.jsonl cannot be written: No such file or "
-                     u"directory"_s);
+    EXPECT_FALSE(recorder.open(u"/nowhere/session.jsonl"_s, {}, &error));
+    EXPECT_EQ(error, u"The file /nowhere/session.jsonl cannot be written: No such file or "
+                     u"directory."_s);
 }

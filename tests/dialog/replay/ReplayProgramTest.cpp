@@ -1,4 +1,5 @@
 // The program as it is installed: output, standard error and exit status of a replay.
+#include "tests/built/BuiltFiles.h"
 #include "tests/support/Files.h"
 #include "tests/support/SmallPrinter.h"
 
@@ -6,6 +7,7 @@
 #include <QtCore/QJsonObject>
 #include <QtCore/QProcess>
 #include <QtCore/QTemporaryDir>
+#include <QtGui/QImage>
 
 #include <gtest/gtest.h>
 
@@ -17,6 +19,7 @@ struct Result
 {
     int status = -1;
     QStringList events; ///< the kinds of the lines that were printed
+    QList<int> faults;  ///< the events that could not be carried out
     QString error;
 };
 
@@ -36,11 +39,15 @@ Result runProgram(const QStringList &arguments, const QString &folder, const QBy
     program.write(input);
     program.closeWriteChannel();
     EXPECT_TRUE(program.waitForFinished());
-    Result result{program.exitCode(), {}, QString::fromUtf8(program.readAllStandardError())};
+    Result result{program.exitCode(), {}, {}, QString::fromUtf8(program.readAllStandardError())};
     const QList<QByteArray> lines = program.readAllStandardOutput().split('\n');
     for (const QByteArray &line : lines) {
-        if (!line.isEmpty())
-            result.events << QJsonDocument::fromJson(line).object()["do"_L1].toString();
+        if (line.isEmpty())
+            continue;
+        const QJsonObject event = QJsonDocument::fromJson(line).object();
+        result.events << event["do"_L1].toString();
+        if (event.contains("error"_L1))
+            result.faults << event["event"_L1].toInt();
     }
     return result;
 }
@@ -197,4 +204,29 @@ TEST_F(ReplayProgram, LeavesNothingInTheUsersFolders)
     EXPECT_EQ(
         QDir(m_folder.path()).entryList(QDir::AllEntries | QDir::NoDotAndDotDot | QDir::Hidden),
         (QStringList{u"small.ppd"_s, u"the.jsonl"_s}));
+}
+
+TEST_F(ReplayProgram, APictureThatMayNotBeWrittenIsNoFaultOfTheScript)
+{
+    ASSERT_TRUE(QFile::copy(samplePPD(u"velkaro-px-t900"_s), path(u"full.ppd"_s)));
+    writeFile(path(u"old.png"_s), "precious");
+    const QByteArray script = "{\"do\": \"open\", \"ppd\": \"full.ppd\"}\n"
+                              "{\"do\": \"show\", \"panel\": \"color\"}\n"
+                              "{\"do\": \"picture\", \"file\": \"old.png\"}\n"
+                              "{\"do\": \"picture\", \"file\": \"new.png\"}\n"
+                              "{\"do\": \"picture\", \"file\": \"new.png\"}\n"
+                              "{\"do\": \"picture\", \"file\": \"full.ppd\"}\n"
+                              "{\"do\": \"picture\", \"file\": \"the.jsonl\"}\n";
+    const QByteArray ppd = readFile(path(u"full.ppd"_s));
+    Result result = replay(script);
+    EXPECT_EQ(result.status, 0);
+    EXPECT_EQ(result.faults, (QList<int>{3, 6, 7}));
+    EXPECT_EQ(readFile(path(u"old.png"_s)), "precious");
+
+    result = runProgram({u"--force"_s, u"--replay"_s, u"the.jsonl"_s}, m_folder.path());
+    EXPECT_EQ(result.status, 0);
+    EXPECT_EQ(result.faults, (QList<int>{6, 7}));
+    EXPECT_FALSE(QImage(path(u"old.png"_s)).isNull());
+    EXPECT_EQ(readFile(path(u"full.ppd"_s)), ppd);
+    EXPECT_EQ(readFile(path(u"the.jsonl"_s)), script);
 }

@@ -45,6 +45,14 @@ protected:
 
     void click(const char *name) { QTest::mouseClick(part<QAbstractButton>(name), Qt::LeftButton); }
 
+    /// Presses Print and waits for what becomes of it.
+    void print()
+    {
+        click("printButton");
+        EXPECT_TRUE(QTest::qWaitFor(
+            [this] { return m_window->state() != DialogWindow::State::Sending; }, 20000));
+    }
+
     void pick(const char *name, const QString &choice)
     {
         auto *popup = part<PopUpButton>(name);

@@ -50,7 +50,7 @@ TEST_F(Window, WritesTheJobThatWasPicked)
     click("landscapeButton");
     click("matchByApplicationButton");
     QTest::keyClicks(part<QLineEdit>("pagesField"), u"5, 1-2"_s);
-    click("printButton");
+    print();
     EXPECT_EQ(m_window->exitStatus(), ExitStatus::Done) << notice().toStdString();
     const QByteArray job = written();
     for (const char *line :
@@ -242,7 +242,7 @@ TEST_F(Window, WithoutAPlugInSaysSoAndPrintsWithItsOwnSettings)
     EXPECT_EQ(notice(), u"The plug-in %1 is incomplete: it has no readable Info.json. Install "
                         "Velkaro Print again."_s.arg(m_folder.path()));
     pick("paperPopup", u"A3"_s);
-    click("printButton");
+    print();
     EXPECT_EQ(m_window->exitStatus(), ExitStatus::Done);
     EXPECT_TRUE(written().contains("Option: PageSize=A3\n"));
 }
@@ -256,7 +256,7 @@ TEST_F(Window, WithAPrinterOfAnotherKindSaysSo)
     EXPECT_EQ(tabs(), (QStringList{u"Page Setup"_s, u"Summary"_s}));
     EXPECT_EQ(notice(), u"This printer has none of the settings that the panels are for. It prints "
                         "with the settings of this dialog alone."_s);
-    click("printButton");
+    print();
     EXPECT_EQ(m_window->exitStatus(), ExitStatus::Done);
 }
 
@@ -277,7 +277,7 @@ TEST_F(Window, KeepsEverythingWhenTheFileCannotBeWritten)
     m_line.output = m_folder.filePath(u"nowhere/out.job"_s);
     open();
     pick("mediaTypePopup", u"Glossy"_s);
-    click("printButton");
+    print();
     EXPECT_TRUE(m_window->isVisible());
     EXPECT_EQ(notice(),
               u"The file %1 cannot be written: No such file or directory."_s.arg(m_line.output));
@@ -295,7 +295,7 @@ TEST_F(Window, CanBeRecordedForReplay)
     ASSERT_TRUE(QTest::qWaitForWindowActive(m_window.get()));
     pick("mediaTypePopup", u"Glossy"_s);
     m_window->reject();
-    m_window.reset();
+    EXPECT_TRUE(m_window->finishRecording());
     const QByteArray text = readFile(m_line.record);
     EXPECT_TRUE(text.contains("\"Glossy\"")) << text.toStdString();
     EXPECT_TRUE(text.contains("\"close\"")) << text.toStdString();

@@ -26,7 +26,7 @@ protected:
     /// The choice of the keyword in the job that is printed; null when the job has none.
     QString printed(const QString &keyword)
     {
-        click("printButton");
+        print();
         EXPECT_EQ(m_window->exitStatus(), ExitStatus::Done) << notice().toStdString();
         const QString head = u"Option: "_s + keyword + u'=';
         for (const QString &line : QString::fromUtf8(written()).split(u'\n'))

@@ -1,0 +1,64 @@
+#include "dialog/cups/JobFate.h"
+
+#include <array>
+
+namespace {
+
+IppHandle jobRequest(ipp_op_t operation, const QString &queue, int jobId)
+{
+    IppHandle request = queueRequest(operation, queue);
+    ippAddInteger(request.get(), IPP_TAG_OPERATION, IPP_TAG_INTEGER, "job-id", jobId);
+    return request;
+}
+
+bool hasReason(ipp_t *job, const char *reason)
+{
+    ipp_attribute_t *reasons = ippFindAttribute(job, "job-state-reasons", IPP_TAG_KEYWORD);
+    return reasons && ippContainsString(reasons, reason) != 0;
+}
+
+} // namespace
+
+JobFate fateOf(ipp_t *job)
+{
+    ipp_attribute_t *state = ippFindAttribute(job, "job-state", IPP_TAG_ENUM);
+    switch (state ? ippGetInteger(state, 0) : 0) {
+    case IPP_JSTATE_PENDING:
+    case IPP_JSTATE_HELD:
+        return hasReason(job, "job-incoming") || hasReason(job, "job-data-insufficient")
+                   ? JobFate::Incomplete
+                   : JobFate::Accepted;
+    case IPP_JSTATE_PROCESSING:
+    case IPP_JSTATE_STOPPED:
+    case IPP_JSTATE_COMPLETED:
+        return JobFate::Accepted;
+    case IPP_JSTATE_CANCELED:
+        return JobFate::Cancelled;
+    case IPP_JSTATE_ABORTED:
+        return JobFate::Aborted;
+    default:
+        return JobFate::Unknown;
+    }
+}
+
+JobFate askFate(ServerConnection &connection, const QString &queue, int jobId)
+{
+    if (!connection.isConnected())
+        return JobFate::Unknown;
+    IppHandle request = jobRequest(IPP_OP_GET_JOB_ATTRIBUTES, queue, jobId);
+    constexpr std::array wanted{"job-state", "job-state-reasons"};
+    ippAddStrings(request.get(), IPP_TAG_OPERATION, IPP_TAG_KEYWORD, "requested-attributes",
+                  static_cast<int>(wanted.size()), nullptr, wanted.data());
+    const IppHandle job = connection.request(std::move(request), queueResource(queue));
+    return job && cupsLastError() <= IPP_STATUS_OK_CONFLICTING ? fateOf(job.get())
+                                                               : JobFate::Unknown;
+}
+
+bool cancelJob(ServerConnection &connection, const QString &queue, int jobId)
+{
+    if (!connection.isConnected())
+        return false;
+    const IppHandle answer =
+        connection.request(jobRequest(IPP_OP_CANCEL_JOB, queue, jobId), queueResource(queue));
+    return answer && cupsLastError() <= IPP_STATUS_OK_CONFLICTING;
+}

@@ -1,0 +1,21 @@
+#pragma once
+
+#include "dialog/cups/ServerConnection.h"
+
+/// What has become of a job at its server.
+enum class JobFate {
+    Unknown,    ///< the server does not tell, or has forgotten the job
+    Incomplete, ///< it waits for documents
+    Accepted,   ///< it was taken: it waits for the printer, prints, or has been printed
+    Cancelled,
+    Aborted, ///< the server gave it up
+};
+
+/// The same of the server's answer about the job.
+JobFate fateOf(ipp_t *job);
+
+/// Asks the server for the job's fate.
+JobFate askFate(ServerConnection &connection, const QString &queue, int jobId);
+
+/// Cancels the job. False when the server did not do so.
+bool cancelJob(ServerConnection &connection, const QString &queue, int jobId);

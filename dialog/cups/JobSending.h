@@ -1,0 +1,23 @@
+#pragma once
+
+#include "dialog/cups/JobSubmission.h"
+#include "dialog/cups/ServerConnection.h"
+
+/// What became of handing a job's documents to the server.
+enum class Sent {
+    Accepted,
+    Refused, ///< the server answered no, or has not got all documents
+    Lost,    ///< it has got all of them, and no answer came to the last one
+    Changed, ///< a document has, on its way
+};
+
+struct SentDocuments
+{
+    Sent sent = Sent::Accepted;
+    QString fault; ///< of the document that has changed; null otherwise
+};
+
+/// Sends the documents of the job that the server has created (JobProgress::id()). Where it did not
+/// accept them, ServerConnection::lastAnswer() says why.
+SentDocuments sendDocuments(ServerConnection &connection, const JobRequest &job,
+                            JobProgress &progress);

@@ -1,0 +1,119 @@
+#include "dialog/cups/JobSettlement.h"
+
+#include "dialog/cups/JobFate.h"
+#include "dialog/cups/JobReadBack.h"
+
+#include <QtCore/QCoreApplication>
+
+namespace {
+
+QString sentence(const char *text)
+{
+    return QCoreApplication::translate("JobSettlement", text);
+}
+
+ServerAnswer endedByServer(const char *text, const QString &server, int id)
+{
+    return {ServerFault::Refused, sentence(text).arg(server, QString::number(id))};
+}
+
+ServerAnswer notCancelled(const QString &why, const QString &server, int id)
+{
+    return {ServerFault::Unsettled,
+            sentence(QT_TRANSLATE_NOOP("JobSettlement",
+                                       "%1 Job %2 could not be cancelled at %3 and may be "
+                                       "printed."))
+                .arg(why, QString::number(id), server)};
+}
+
+/// Nothing half is printed: what the server has of the job is cancelled. It may be too late for
+/// that, where the server has got the whole job.
+void cancel(JobReceipt &receipt, ServerConnection &connection, Sent sent, const JobRequest &request,
+            JobProgress &progress)
+{
+    if (cancelJob(connection, request.queue, receipt.id))
+        return;
+    switch (askFate(connection, request.queue, receipt.id)) {
+    case JobFate::Cancelled:
+    case JobFate::Aborted:
+        return;
+    case JobFate::Accepted:
+        if (sent == Sent::Lost) {
+            accept(receipt, connection, request, progress);
+            return;
+        }
+        [[fallthrough]];
+    case JobFate::Unknown:
+    case JobFate::Incomplete:
+        receipt.answer = notCancelled(receipt.answer.sentence, connection.serverName(), receipt.id);
+    }
+}
+
+/// The answer that decides has not come: the server is asked what it made of the job. True when
+/// that settles it.
+bool lookForAnswer(JobReceipt &receipt, ServerConnection &connection, const JobRequest &request,
+                   JobProgress &progress)
+{
+    const QString server = connection.serverName();
+    switch (askFate(connection, request.queue, receipt.id)) {
+    case JobFate::Accepted:
+        accept(receipt, connection, request, progress);
+        return true;
+    case JobFate::Cancelled:
+        receipt.answer = endedByServer(
+            QT_TRANSLATE_NOOP("JobSettlement", "The print server %1 cancelled job %2."), server,
+            receipt.id);
+        return true;
+    case JobFate::Aborted:
+        receipt.answer =
+            endedByServer(QT_TRANSLATE_NOOP("JobSettlement", "The print server %1 aborted job %2."),
+                          server, receipt.id);
+        return true;
+    case JobFate::Incomplete:
+        return false;
+    case JobFate::Unknown:
+        break;
+    }
+    const bool saidNo = receipt.answer.fault != ServerFault::Silent &&
+                        receipt.answer.fault != ServerFault::Unreachable;
+    if (!saidNo)
+        receipt.answer = perhapsPrinted(server, receipt.id);
+    return !saidNo;
+}
+
+} // namespace
+
+void accept(JobReceipt &receipt, ServerConnection &connection, const JobRequest &request,
+            JobProgress &progress)
+{
+    progress.setAccepted();
+    receipt.answer = {};
+    receipt.notes = readJobBack(connection, request.queue, receipt.id, request.options);
+}
+
+ServerAnswer perhapsPrinted(const QString &server, int id)
+{
+    return {ServerFault::Unsettled,
+            sentence(QT_TRANSLATE_NOOP("JobSettlement",
+                                       "The print server %1 did not say whether it took the job: "
+                                       "it may have been printed as job %2."))
+                .arg(server, QString::number(id))};
+}
+
+// On connections of their own: the old one may be in the middle of a document. Half of the patience
+// to connect and half to answer: whoever waits for the guard is not out of it.
+void settle(JobReceipt &receipt, Sent sent, const JobRequest &request, JobProgress &progress,
+            CallGuard &guard)
+{
+    if (sent == Sent::Lost && !guard.isCancelled()) {
+        guard.stampSignOfLife();
+        CallGuard looking(guard.patience() / 2);
+        ServerConnection connection(request.server, looking);
+        if (lookForAnswer(receipt, connection, request, progress))
+            return;
+    }
+    guard.stampSignOfLife();
+    CallGuard cancelling(guard.patience() / 2);
+    ServerConnection connection(request.server, cancelling);
+    cancel(receipt, connection, sent, request, progress);
+}

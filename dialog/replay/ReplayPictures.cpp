@@ -1,0 +1,31 @@
+#include "dialog/replay/ReplayPictures.h"
+
+#include <QtCore/QBuffer>
+#include <QtCore/QFileInfo>
+#include <QtGui/QImage>
+
+using namespace Qt::StringLiterals;
+
+bool isPlainName(const QString &name)
+{
+    // A half of a surrogate pair stands for a byte in a path, which could be any.
+    return !name.isEmpty() && name.isValidUtf16() && !name.startsWith(u'.') &&
+           !name.contains(u'/') && !name.contains(QChar::Null);
+}
+
+QString ReplayPictures::write(const QImage &picture, const QDir &folder, const QString &name)
+{
+    if (!isPlainName(name))
+        return u"\"%1\" is no plain file name"_s.arg(name);
+    const QString path = folder.absoluteFilePath(name);
+    const bool isStream = verdictAt(path, m_terms) == OutputVerdict::Append;
+    if (isStream || QFileInfo(path).isSymLink())
+        return u"%1 is no ordinary file"_s.arg(path);
+    QBuffer png;
+    picture.save(&png, "PNG");
+    OutputFile file;
+    if (!file.open(path, m_terms) || !file.write(png.data()) || !file.commit())
+        return file.error();
+    m_terms.written += *file.identity();
+    return {};
+}

@@ -1,0 +1,316 @@
+#include "dialog/cups/JobSubmission.h"
+#include "tests/servers/GoodAnswers.h"
+#include "tests/servers/IppBytes.h"
+#include "tests/servers/ScriptedServer.h"
+#include "tests/support/Documents.h"
+#include "tests/support/Files.h"
+
+#include <QtCore/QTemporaryDir>
+
+#include <gtest/gtest.h>
+
+using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
+
+namespace {
+
+constexpr auto kPatience = 600ms;
+constexpr qint64 kLarge = 64LL * 1024 * 1024; // more than all buffers on the way take
+
+class LostAnswer : public testing::Test
+{
+protected:
+    JobRequest job(const ScriptedServer &server, qint64 size = 100)
+    {
+        const QString path = m_folder.filePath(u"document.ps"_s);
+        QFile file(path);
+        EXPECT_TRUE(file.open(QIODevice::WriteOnly) && file.resize(size));
+        JobRequest request;
+        request.server = server.address();
+        request.queue = u"photo"_s;
+        request.documents = openedDocuments({path});
+        return request;
+    }
+
+    QTemporaryDir m_folder;
+    CallGuard m_guard{kPatience};
+};
+
+Steps jobInState(ipp_jstate_t state, const char *reason)
+{
+    return answerIpp(IppBytes()
+                         .group(IPP_TAG_JOB)
+                         .integer(IPP_TAG_INTEGER, "job-id", kGoodJob)
+                         .integer(IPP_TAG_ENUM, "job-state", state)
+                         .attribute(IPP_TAG_KEYWORD, "job-state-reasons", reason)
+                         .ended());
+}
+
+const Steps kNotFound = answerIpp(IppBytes(IPP_STATUS_ERROR_NOT_FOUND).ended());
+const Steps kNotPossible = answerIpp(IppBytes(IPP_STATUS_ERROR_NOT_POSSIBLE).ended());
+
+/// What the server does with a job, and what the user is told of it. %1 stands for the server.
+struct Loss
+{
+    const char *name;
+    Steps onDocument;
+    Steps onLook;   ///< empty: it tells of a job that is pending
+    Steps onCancel; ///< empty: it cancels
+    ServerFault fault;
+    const char *sentence;
+    QStringList requests; ///< after Create-Job and Send-Document
+};
+
+void PrintTo(const Loss &row, std::ostream *out)
+{
+    *out << row.name;
+}
+
+class JobWithALostAnswer : public LostAnswer, public testing::WithParamInterface<Loss>
+{};
+
+TEST_P(JobWithALostAnswer, IsLookedForAndNeverSentAgain)
+{
+    const Loss &row = GetParam();
+    Script script{{"Send-Document", row.onDocument}};
+    if (!row.onLook.isEmpty())
+        script += {"Get-Job-Attributes", row.onLook};
+    if (!row.onCancel.isEmpty())
+        script += {"Cancel-Job", row.onCancel};
+    const ScriptedServer server(script);
+    const auto progress = std::make_shared<JobProgress>();
+    const JobReceipt receipt = submitJob(job(server), m_guard, progress);
+    EXPECT_EQ(receipt.answer.fault, row.fault);
+    EXPECT_EQ(receipt.answer.sentence,
+              QString::fromUtf8(row.sentence).replace(u"%1"_s, server.address()));
+    EXPECT_EQ(receipt.id, kGoodJob);
+    EXPECT_EQ(progress->isAccepted(), row.fault == ServerFault::None);
+    EXPECT_EQ(server.requests(), QStringList({u"Create-Job"_s, u"Send-Document"_s}) + row.requests);
+}
+
+const QString kLook = u"Get-Job-Attributes"_s;
+const QString kCancel = u"Cancel-Job"_s;
+const Steps kTakeAndClose{readBody(), closeConnection()};
+const Steps kTakeAndHold{readBody(), hold()};
+
+INSTANTIATE_TEST_SUITE_P(
+    Table, JobWithALostAnswer,
+    testing::Values(
+        Loss{"Pending", kTakeAndClose, {}, {}, ServerFault::None, "", {kLook, kLook}},
+        Loss{"Silence", kTakeAndHold, {}, {}, ServerFault::None, "", {kLook, kLook}},
+        Loss{"Printing",
+             kTakeAndClose,
+             jobInState(IPP_JSTATE_PROCESSING, "job-printing"),
+             {},
+             ServerFault::None,
+             "",
+             {kLook, kLook}},
+        Loss{"Printed",
+             kTakeAndClose,
+             jobInState(IPP_JSTATE_COMPLETED, "job-completed-successfully"),
+             {},
+             ServerFault::None,
+             "",
+             {kLook, kLook}},
+        Loss{"HeldAsWanted",
+             kTakeAndClose,
+             jobInState(IPP_JSTATE_HELD, "job-hold-until-specified"),
+             {},
+             ServerFault::None,
+             "",
+             {kLook, kLook}},
+        Loss{"NotWholeWhenSilent",
+             kTakeAndHold,
+             jobInState(IPP_JSTATE_HELD, "job-incoming"),
+             {},
+             ServerFault::Silent,
+             "The print server %1 does not answer.",
+             {kLook, kCancel}},
+        Loss{"NotWholeAndNotToBeCancelled",
+             kTakeAndHold,
+             jobInState(IPP_JSTATE_HELD, "job-incoming"),
+             kNotPossible,
+             ServerFault::Unsettled,
+             "The print server %1 does not answer. Job 7 could not be cancelled at %1 and may be "
+             "printed.",
+             {kLook, kCancel, kLook}},
+        Loss{"CancelledThere",
+             kTakeAndClose,
+             jobInState(IPP_JSTATE_CANCELED, "job-canceled-by-operator"),
+             {},
+             ServerFault::Refused,
+             "The print server %1 cancelled job 7.",
+             {kLook}},
+        Loss{"AbortedThere",
+             kTakeAndClose,
+             jobInState(IPP_JSTATE_ABORTED, "aborted-by-system"),
+             {},
+             ServerFault::Refused,
+             "The print server %1 aborted job 7.",
+             {kLook}},
+        Loss{"Forgotten",
+             kTakeAndClose,
+             kNotFound,
+             {},
+             ServerFault::Unsettled,
+             "The print server %1 did not say whether it took the job: it may have been printed as "
+             "job 7.",
+             {kLook}},
+        Loss{"NobodyToAsk",
+             kTakeAndClose,
+             {hold()},
+             {},
+             ServerFault::Unsettled,
+             "The print server %1 did not say whether it took the job: it may have been printed as "
+             "job 7.",
+             {kLook}},
+        // The answer is there: nothing is to be looked for.
+        Loss{"RefusedByAnswer",
+             answerIpp(IppBytes(IPP_STATUS_ERROR_DOCUMENT_FORMAT_NOT_SUPPORTED).ended()),
+             {},
+             {},
+             ServerFault::Refused,
+             "The print server %1 refused: client-error-document-format-not-"
+             "supported.",
+             {kCancel}}),
+    [](const auto &row) { return std::string(row.param.name); });
+
+TEST_F(LostAnswer, ThatWasARefusalStaysOne)
+{
+    const ScriptedServer server(
+        {{"Send-Document", answerIpp(IppBytes(IPP_STATUS_ERROR_NOT_POSSIBLE).ended())},
+         {"Cancel-Job", kNotPossible}});
+    EXPECT_EQ(submitJob(job(server), m_guard).answer.fault, ServerFault::Unsettled);
+}
+
+TEST_F(LostAnswer, IsWaitedForLongerThanAServerMayBeSilentOtherwise)
+{
+    const ScriptedServer server({{"Send-Document",
+                                  {readBody(), hold(kPatience * 2),
+                                   write(ippAnswer(IppBytes().group(IPP_TAG_JOB).ended()))}}});
+    const JobReceipt receipt = submitJob(job(server), m_guard);
+    EXPECT_EQ(receipt.answer.sentence, QString());
+    EXPECT_EQ(server.requests(),
+              (QStringList{u"Create-Job"_s, u"Send-Document"_s, u"Get-Job-Attributes"_s}));
+}
+
+TEST_F(LostAnswer, ToOneOfSeveralDocumentsLeavesAJobThatIsCancelled)
+{
+    const ScriptedServer server({{"Send-Document", kTakeAndClose}});
+    JobRequest request = job(server);
+    request.documents.push_back(request.documents.front());
+    const JobReceipt receipt = submitJob(request, m_guard);
+    EXPECT_EQ(receipt.answer.fault, ServerFault::Unreachable);
+    EXPECT_EQ(server.requests(),
+              (QStringList{u"Create-Job"_s, u"Send-Document"_s, u"Cancel-Job"_s}));
+}
+
+// --- Cancelling, at any time
+// ---------------------------------------------------------------------------------------------
+
+/// When the user cancels, and what becomes of the job.
+struct Cancelling
+{
+    const char *name;
+    const char *request; ///< that is being served then
+    qint64 read;         ///< of its body
+    qint64 size;         ///< of the document
+    ServerFault fault;
+    QStringList requests;
+};
+
+void PrintTo(const Cancelling &row, std::ostream *out)
+{
+    *out << row.name;
+}
+
+class JobThatIsCancelled : public LostAnswer, public testing::WithParamInterface<Cancelling>
+{};
+
+TEST_P(JobThatIsCancelled, IsCancelledAtTheServerUntilItIsAccepted)
+{
+    const Cancelling &row = GetParam();
+    const Step cancel = [this](ServedConnection &) {
+        m_guard.cancel();
+        return true;
+    };
+    const ScriptedServer server({{row.request, {readBody(row.read), cancel, hold()}}});
+    const JobReceipt receipt = submitJob(job(server, row.size), m_guard);
+    EXPECT_EQ(receipt.answer.fault, row.fault) << receipt.answer.sentence.toStdString();
+    EXPECT_EQ(server.requests(), row.requests);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Table, JobThatIsCancelled,
+    testing::Values(Cancelling{"WhileItIsSent",
+                               "Send-Document",
+                               1000,
+                               kLarge,
+                               ServerFault::Cancelled,
+                               {u"Create-Job"_s, u"Send-Document"_s, u"Cancel-Job"_s}},
+                    Cancelling{"WhileTheLastAnswerIsWaitedFor",
+                               "Send-Document",
+                               kWhole,
+                               100,
+                               ServerFault::Cancelled,
+                               {u"Create-Job"_s, u"Send-Document"_s, u"Cancel-Job"_s}},
+                    Cancelling{"WhenItIsAccepted",
+                               "Get-Job-Attributes",
+                               kWhole,
+                               100,
+                               ServerFault::None,
+                               {u"Create-Job"_s, u"Send-Document"_s, u"Get-Job-Attributes"_s}}),
+    [](const auto &row) { return std::string(row.param.name); });
+
+TEST_F(LostAnswer, OfAJobThatWasCancelledBeforeItsCreationIsNone)
+{
+    const ScriptedServer server;
+    m_guard.cancel();
+    EXPECT_EQ(submitJob(job(server), m_guard).answer.fault, ServerFault::Cancelled);
+    EXPECT_EQ(server.requests(), QStringList());
+}
+
+// --- Documents that change on the way
+// ---------------------------------------------------------------------------------------------
+
+class JobWhoseDocumentBecomes : public LostAnswer, public testing::WithParamInterface<qint64>
+{};
+
+TEST_P(JobWhoseDocumentBecomes, AnotherLengthIsCancelled)
+{
+    const Step change = [this](ServedConnection &) {
+        return QFile::resize(m_folder.filePath(u"document.ps"_s), GetParam());
+    };
+    const ScriptedServer server({{"Send-Document", {readBody(1000), change, readBody()}}});
+    const JobRequest request = job(server, kLarge);
+    const JobReceipt receipt = submitJob(request, m_guard);
+    EXPECT_EQ(receipt.answer.fault, ServerFault::Document);
+    EXPECT_EQ(receipt.answer.sentence,
+              u"The document %1 has become shorter or longer since it was opened."_s.arg(
+                  request.documents[0].path()));
+    EXPECT_EQ(server.requests(),
+              (QStringList{u"Create-Job"_s, u"Send-Document"_s, u"Cancel-Job"_s}));
+}
+
+INSTANTIATE_TEST_SUITE_P(Sizes, JobWhoseDocumentBecomes,
+                         testing::Values(0, kLarge - 1, kLarge + 1));
+
+TEST_F(LostAnswer, IsKnownAsSoonAsTheServerHasSaidSo)
+{
+    // What waits for the work gives it up in the middle of the read-back.
+    const ScriptedServer server({{"Get-Job-Attributes", {hold()}}});
+    const JobRequest request = job(server);
+    const auto progress = std::make_shared<JobProgress>();
+    EXPECT_EQ(givenUpReceipt(request, *progress).answer.fault, ServerFault::Silent);
+    EXPECT_TRUE(submitJob(request, m_guard, progress).answer.isGood());
+    const JobReceipt givenUp = givenUpReceipt(request, *progress);
+    EXPECT_TRUE(givenUp.answer.isGood());
+    EXPECT_EQ(givenUp.id, kGoodJob);
+    JobProgress sending;
+    sending.setId(kGoodJob);
+    EXPECT_EQ(givenUpReceipt(request, sending).answer.sentence,
+              u"The print server %1 did not say whether it took the job: it may have been printed "
+              "as job 7."_s.arg(server.address()));
+}
+
+} // namespace

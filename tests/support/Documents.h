@@ -1,0 +1,30 @@
+#pragma once
+
+#include "dialog/cups/DocumentFile.h"
+#include "tests/support/QStringPrinting.h"
+
+#include <QtCore/QByteArray>
+#include <QtCore/QStringList>
+
+#include <gtest/gtest.h>
+
+/// The documents at the paths, open. The test fails when one is none.
+inline Documents openedDocuments(const QStringList &paths)
+{
+    OpenedDocuments opened = openDocuments(paths);
+    EXPECT_EQ(opened.error, QString());
+    return opened.documents;
+}
+
+/// All bytes of the document.
+inline QByteArray bytesOf(const Document &document)
+{
+    QByteArray bytes;
+    EXPECT_EQ(deliver(document,
+                      [&](const char *piece, qint64 length) {
+                          bytes.append(piece, length);
+                          return true;
+                      }),
+              Delivery::Complete);
+    return bytes;
+}
