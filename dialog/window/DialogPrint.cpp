@@ -4,12 +4,18 @@
 #include "dialog/job/CommandOutput.h"
 #include "dialog/window/DialogWindow.h"
 #include "dialog/window/ProgressStrip.h"
+#include "platform/toolkit/AlertObserver.h"
 
 #include <QtCore/QTimer>
 #include <QtWidgets/QFileDialog>
-#include <QtWidgets/QMessageBox>
 
 using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int kCancel = 1; // of the question whether to replace a file
+
+} // namespace
 
 /// The job as it is now, when the panels let it go. None when one of them has vetoed (it has told
 /// the user why), or a value must not be sent.
@@ -45,15 +51,15 @@ std::optional<OutputTerms> DialogWindow::agreedTerms(const QString &path)
     if (verdictAt(path, terms) != OutputVerdict::Exists)
         return terms;
     // No alert of a panel: a recording has nothing to do with it.
-    QMessageBox question(QMessageBox::Warning, tr("Save Job"), QString(), QMessageBox::Cancel,
-                         this);
-    question.setObjectName(u"replaceQuestion"_s);
-    question.setTextFormat(Qt::PlainText);
-    question.setText(tr("%1 exists already. Replace it?").arg(shownPath(path)));
-    question.setDefaultButton(QMessageBox::Cancel);
-    const QAbstractButton *replace = question.addButton(tr("Replace"), QMessageBox::AcceptRole);
-    question.exec();
-    terms.mayReplace = question.clickedButton() == replace;
+    AlertObserver *const observer = AlertObserver::alertObserver();
+    AlertObserver::setAlertObserver(nullptr);
+    AlertContent question;
+    question.style = AlertStyle::Warning;
+    question.text = tr("%1 exists already. Replace it?").arg(shownPath(path));
+    question.buttons = {tr("Replace"), tr("Cancel")};
+    question.defaultButton = kCancel;
+    terms.mayReplace = runAlert(question).button != kCancel;
+    AlertObserver::setAlertObserver(observer);
     return terms.mayReplace ? std::optional(terms) : std::nullopt;
 }
 

@@ -44,12 +44,12 @@ void setInformativeText(QMessageBox &box, const QString &text)
     box.setInformativeText(text);
 }
 
-void addButtons(QMessageBox &box, const QStringList &titles)
+void addButtons(QMessageBox &box, const QStringList &titles, int defaultButton)
 {
     for (int index = 0; index < titles.size(); ++index) {
         const auto role = index == 0 ? QMessageBox::AcceptRole : QMessageBox::RejectRole;
         QPushButton *button = box.addButton(withoutMnemonic(titles[index]), role);
-        if (index == 0)
+        if (index == defaultButton)
             box.setDefaultButton(button);
         if (index + 1 == titles.size())
             box.setEscapeButton(button);
@@ -64,7 +64,7 @@ std::unique_ptr<QMessageBox> newBox(const AlertContent &content)
     box->setWindowTitle(QApplication::applicationDisplayName());
     box->setText(content.text);
     setInformativeText(*box, content.informative);
-    addButtons(*box, content.buttons);
+    addButtons(*box, content.buttons, content.defaultButton);
     if (content.suppression)
         box->setCheckBox(new QCheckBox(withoutMnemonic(content.suppressionTitle)));
     return box;

@@ -24,11 +24,12 @@ struct AlertContent
     QString title;
     QString text;
     QString informative;
-    /// The button titles; the first one is the default. The last one answers Escape and closing.
+    /// The button titles. The last one answers Escape and closing.
     QStringList buttons;
     /// Whether the box that suppresses the alert from now on is shown, and what it says.
     bool suppression = false;
     QString suppressionTitle;
+    int defaultButton = 0; ///< index into `buttons`: the one that answers Return
 };
 
 struct AlertResult

@@ -81,6 +81,14 @@ TEST_P(Answered, Sheet)
 
 INSTANTIATE_TEST_SUITE_P(Cases, Answered, testing::ValuesIn(kAnswerCases), CaseName());
 
+TEST(AlertTest, AnotherButtonThanTheFirstMayAnswerReturn)
+{
+    AlertContent content = question();
+    content.defaultButton = 1;
+    const AlertAnswers answers({AlertAnswers::key(Qt::Key_Return)});
+    EXPECT_EQ(runAlert(content).button, 1);
+}
+
 TEST(AlertTest, BlocksTheApplicationWhileItIsModal)
 {
     bool modal = false;

@@ -1,7 +1,10 @@
 #include "tests/dialog/window/DialogWindowFixture.h"
 
 #include <QtCore/QTimer>
+#include <QtWidgets/QApplication>
 #include <QtWidgets/QMessageBox>
+
+#include <functional>
 
 using namespace Qt::StringLiterals;
 
@@ -13,23 +16,27 @@ class OutputQuestion : public DialogWindowFixture
 protected:
     OutputQuestion() { writeFile(m_line.output, "precious"); }
 
-    /// Presses Print, and the button in the question that follows; what the question says.
-    QString printAndAnswer(QMessageBox::ButtonRole role)
+    /// Presses Print, and answers the question that follows; what the question says.
+    QString printAndAnswer(const std::function<void(QMessageBox &)> &answer)
     {
         QString text;
         QTimer::singleShot(0, m_window.get(), [&] {
-            ASSERT_TRUE(QTest::qWaitFor([&] {
-                return m_window->findChild<QMessageBox *>(u"replaceQuestion"_s) != nullptr;
-            }));
-            auto *question = m_window->findChild<QMessageBox *>(u"replaceQuestion"_s);
+            ASSERT_TRUE(QTest::qWaitFor([] { return QApplication::activeModalWidget(); }));
+            auto *question = qobject_cast<QMessageBox *>(QApplication::activeModalWidget());
+            ASSERT_NE(question, nullptr);
             EXPECT_EQ(question->textFormat(), Qt::PlainText);
             text = question->text();
-            for (QAbstractButton *button : question->buttons())
-                if (question->buttonRole(button) == role)
-                    QTest::mouseClick(button, Qt::LeftButton);
+            answer(*question);
         });
         click("printButton");
         return text;
+    }
+
+    static void replace(QMessageBox &box)
+    {
+        for (QAbstractButton *button : box.buttons())
+            if (button->text() == u"Replace"_s)
+                QTest::mouseClick(button, Qt::LeftButton);
     }
 
     bool isDone()
@@ -38,22 +45,38 @@ protected:
     }
 };
 
-TEST_F(OutputQuestion, KeepsTheFileAndTheDialogWhenTheAnswerIsNo)
+TEST_F(OutputQuestion, KeepsTheFileAndTheDialogUnlessTheAnswerIsYes)
 {
     open();
-    EXPECT_EQ(printAndAnswer(QMessageBox::RejectRole),
-              u"%1 exists already. Replace it?"_s.arg(m_line.output));
-    EXPECT_EQ(readFile(m_line.output), "precious");
-    EXPECT_TRUE(m_window->isVisible());
-    EXPECT_EQ(m_window->state(), DialogWindow::State::Ready);
+    for (const Qt::Key key : {Qt::Key_Escape, Qt::Key_Return}) {
+        EXPECT_EQ(printAndAnswer([key](QMessageBox &box) { QTest::keyClick(&box, key); }),
+                  u"%1 exists already. Replace it?"_s.arg(m_line.output));
+        EXPECT_EQ(readFile(m_line.output), "precious");
+        EXPECT_TRUE(m_window->isVisible());
+        EXPECT_EQ(m_window->state(), DialogWindow::State::Ready);
+    }
 }
 
 TEST_F(OutputQuestion, ReplacesTheFileWhenTheAnswerIsYes)
 {
     open();
-    EXPECT_NE(printAndAnswer(QMessageBox::AcceptRole), QString());
+    EXPECT_NE(printAndAnswer(replace), QString());
     ASSERT_TRUE(isDone()) << notice().toStdString();
     EXPECT_TRUE(written().startsWith("Velkaro-Print-Job: 1\n"));
+}
+
+TEST_F(OutputQuestion, IsNoPartOfARecording)
+{
+    m_line.record = m_folder.filePath(u"session.jsonl"_s);
+    m_window = std::make_unique<DialogWindow>(m_line);
+    ASSERT_TRUE(m_window->beginRecording());
+    m_window->start();
+    m_window->show();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(m_window.get()));
+    EXPECT_NE(printAndAnswer(replace), QString());
+    ASSERT_TRUE(isDone()) << notice().toStdString();
+    ASSERT_TRUE(m_window->finishRecording());
+    EXPECT_FALSE(readFile(m_line.record).contains("answers"));
 }
 
 TEST_F(OutputQuestion, IsNotAskedWithForce)
