@@ -1,5 +1,7 @@
 #include "dialog/cups/SavedJobOptions.h"
 
+#include "dialog/cups/ReservedNames.h"
+
 #include <algorithm>
 #include <array>
 
@@ -18,25 +20,10 @@ constexpr std::array kSettings{
     "job-hold-until"_L1, "job-priority"_L1, "job-sheets"_L1, "landscape"_L1, "lpi"_L1, "mirror"_L1,
     "multiple-document-handling"_L1, "natural-scaling"_L1, "number-up"_L1, "number-up-layout"_L1,
     "output-bin"_L1, "outputorder"_L1, "page-border"_L1, "page-bottom"_L1, "page-left"_L1,
-    "page-right"_L1, "page-set"_L1, "page-top"_L1, "position"_L1, "ppi"_L1, "prettyprint"_L1,
-    "saturation"_L1, "scaling"_L1, "sides"_L1, "wrap"_L1};
+    "page-right"_L1, "page-set"_L1, "page-top"_L1, "ppi"_L1, "prettyprint"_L1, "saturation"_L1,
+    "scaling"_L1, "sides"_L1, "wrap"_L1};
 
-// The platform's own keys, and the families of what IPP says of a job beside its settings.
-constexpr std::array kFamilies{"attributes-"_L1, "auth-"_L1,      "com.apple."_L1, "device-"_L1,
-                               "document-"_L1,   "ipp-"_L1,       "job-"_L1,       "media-"_L1,
-                               "notify-"_L1,     "operation-"_L1, "pages-"_L1,     "printer-"_L1,
-                               "requesting-"_L1};
-
-/// A PPD may call an option whatever it likes, but its makers write words with capitals; the names
-/// of IPP and of the filters have none, and are looked up in whatever case.
-bool isVendorKeyOrKeyword(const QString &name)
-{
-    const auto isOfFamily = [&](QLatin1String family) {
-        return name.startsWith(family, Qt::CaseInsensitive);
-    };
-    return (name.contains(u'.') || name != name.toLower()) &&
-           std::ranges::none_of(kFamilies, isOfFamily);
-}
+constexpr auto kPlatformKeys = "com.apple."_L1;
 
 } // namespace
 
@@ -47,5 +34,8 @@ OptionOrigin originOf(const QString &option)
     if (isNever)
         return OptionOrigin::Never;
     const bool isSetting = std::ranges::find(kSettings, option) != kSettings.end();
-    return isSetting || isVendorKeyOrKeyword(option) ? OptionOrigin::Ours : OptionOrigin::Foreign;
+    // Whatever else is written is a keyword of a PPD or a vendor's key.
+    const bool isForeign =
+        isReservedName(option) || option.startsWith(kPlatformKeys, Qt::CaseInsensitive);
+    return isSetting || !isForeign ? OptionOrigin::Ours : OptionOrigin::Foreign;
 }

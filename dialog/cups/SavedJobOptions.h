@@ -10,5 +10,5 @@ enum class OptionOrigin {
 };
 
 /// Ours are the dialog's own settings, what people save with lpoptions (a hold among them), vendor
-/// keys in reverse-domain form, and keywords of PPDs.
+/// keys in reverse-domain form, and keywords of PPDs, which may be any name that is not reserved.
 OptionOrigin originOf(const QString &option);
