@@ -45,7 +45,8 @@ QString PlainTextWalk::foreignText(const QString &opened)
 void PlainTextWalk::look()
 {
     for (QWidget *widget : QApplication::allWidgets())
-        lookAt(*widget);
+        if (!widget->inherits("QTipLabel")) // tool tips are markup, and judged by what they say
+            lookAt(*widget);
     for (QWidget *widget : QApplication::allWidgets())
         if (widget->isVisible())
             askForToolTip(*widget);

@@ -42,7 +42,7 @@ QByteArray foreignPPD(const QString &text)
                                           QRegularExpression::MultilineOption);
     QString ppd = QString::fromUtf8(sampleText(u"velkaro-px-t900"_s));
     ppd.replace(texts, u"\\1"_s + inPPD(text)).replace(names, u"\\1"_s + text);
-    ppd.replace(model, u"\\1"_s + text);
+    ppd.replace(model, u"\\1"_s + text).replace(u"ISOLatin1"_s, u"UTF-8"_s);
     return ppd.toUtf8() + "*UIConstraints: *Duplex DuplexTumble *VKMediaType Transparencies\n"
                           "*UIConstraints: *VKMediaType Transparencies *Duplex DuplexTumble\n";
 }
