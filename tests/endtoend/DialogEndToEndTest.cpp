@@ -1,10 +1,13 @@
 #include "dialog/window/DialogWindow.h"
 #include "platform/foundation/UserDefaults.h"
+#include "platform/toolkit/PlainText.h"
 #include "platform/toolkit/PopUpButton.h"
 #include "tests/built/BuiltFiles.h"
 #include "tests/endtoend/JobPrinting.h"
 #include "tests/endtoend/PrintServerFixture.h"
 #include "tests/support/EventLoopWatch.h"
+#include "tests/support/PlainTextWalk.h"
+#include "tests/support/TrapFolder.h"
 
 #include <QtCore/QScopeGuard>
 #include <QtCore/QTimer>
@@ -216,6 +219,30 @@ TEST_F(Dialog, ListsThePrintersAndTakesAnotherOne)
     EXPECT_EQ(window->state(), DialogWindow::State::Ready);
     EXPECT_EQ(window->job().source().queue.queue, u"home"_s);
     EXPECT_TRUE(part<PopUpButton>(*window, "mediaTypePopup")->isVisible());
+}
+
+TEST_F(Dialog, ShowsWhatAServerSaysAsItStands)
+{
+    TrapFolder trap;
+    const QString queue = u"q<b>A&amp;B"_s;
+    const QString text = displayText(PlainTextWalk::foreignText(trap.fifo()));
+    ASSERT_TRUE(server().addQueue(queue, samplePPD(u"velkaro-px-t900"_s)));
+    ASSERT_TRUE(server().lpadmin({u"-p"_s, queue, u"-D"_s, text, u"-L"_s, text}));
+    const auto window = open(lineFor(server().address(), queue));
+    const auto *state = part<QLabel>(*window, "printerState");
+    ASSERT_TRUE(QTest::qWaitFor([&] { return state->text() == text; }, kPatience));
+    ASSERT_TRUE(server().command(u"cupsreject"_s, {queue}));
+    click(*window, "printButton");
+    waitWhile(*window, DialogWindow::State::Sending);
+    EXPECT_TRUE(window->notice().sentence().contains(queue))
+        << window->notice().sentence().toStdString();
+    PlainTextWalk walk;
+    walk.look();
+    for (const char *place : {"PopUpButton printerPopup", "QLabel printerState",
+                              "QLabel noticeLabel", "NoticeBar noticeBar"})
+        EXPECT_TRUE(walk.seen().contains(QLatin1String(place))) << place;
+    EXPECT_FALSE(trap.wasOpened());
+    EXPECT_TRUE(server().lpadmin({u"-x"_s, queue}));
 }
 
 /// The server holds every answer for seconds, in which the window has to go on by itself.
