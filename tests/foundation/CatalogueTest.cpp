@@ -11,6 +11,9 @@
 #include <QtCore/QTranslator>
 #include <QtCore/QtEndian>
 
+#include <algorithm>
+#include <sys/mman.h>
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -128,7 +131,8 @@ protected:
     static QStringList texts(const QTranslator &table)
     {
         QStringList found;
-        for (const char *key : {"Cancel", "OK", "Suppression", "Summary", "No such key"})
+        for (const char *key : {"Cancel", "OK", "ON", "OFF", "Revert", "Preview", "Suppression",
+                                "Print Setting", "Envelope Caution", "No such key"})
             found += table.translate("Localizable", key);
         return found;
     }
@@ -182,10 +186,40 @@ TEST_F(CatalogueFile, NeverHasATextWhereItIsCut)
     }
 }
 
+/// Bytes between two pages that end the program when they are touched: a byte too far is seen.
+class FencedBytes
+{
+public:
+    explicit FencedBytes(qsizetype size) : m_size(static_cast<std::size_t>(size))
+    {
+        m_inside = (m_size + kPage - 1) / kPage * kPage;
+        m_begin = static_cast<char *>(
+            mmap(nullptr, m_inside + 2 * kPage, PROT_NONE, MAP_PRIVATE | MAP_ANONYMOUS, -1, 0));
+        EXPECT_EQ(mprotect(m_begin + kPage, m_inside, PROT_READ | PROT_WRITE), 0);
+    }
+    ~FencedBytes() { munmap(m_begin, m_inside + 2 * kPage); }
+    FencedBytes(const FencedBytes &) = delete;
+    FencedBytes &operator=(const FencedBytes &) = delete;
+
+    const uchar *hold(const QByteArray &bytes)
+    {
+        char *at = m_begin + kPage + m_inside - m_size;
+        std::copy(bytes.begin(), bytes.end(), at);
+        return reinterpret_cast<const uchar *>(at);
+    }
+
+private:
+    static constexpr std::size_t kPage = 65536; // of the largest machines
+    std::size_t m_size;
+    std::size_t m_inside = 0;
+    char *m_begin = nullptr;
+};
+
 // Whatever a damaged text says, the look-up stays within the catalogue.
 TEST_F(CatalogueFile, IsReadWithinItsBoundsWhicheverByteIsDamaged)
 {
     const QByteArray whole = built();
+    FencedBytes fenced(whole.size());
     int refused = 0;
     for (qsizetype at = 0; at < whole.size(); ++at)
         for (const int damage : {0x01, 0x80, 0xff, 0x7f, 0x10}) {
@@ -196,9 +230,8 @@ TEST_F(CatalogueFile, IsReadWithinItsBoundsWhicheverByteIsDamaged)
                 continue;
             }
             QTranslator table;
-            if (table.load(reinterpret_cast<const uchar *>(damaged.constData()),
-                           static_cast<int>(damaged.size()))) {
-                EXPECT_EQ(texts(table).size(), 5);
+            if (table.load(fenced.hold(damaged), static_cast<int>(damaged.size()))) {
+                EXPECT_EQ(texts(table).size(), 10);
             }
         }
     EXPECT_GT(refused, 1000);
