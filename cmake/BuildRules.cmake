@@ -15,6 +15,8 @@ if(NOT CMAKE_BUILD_TYPE)
     set(CMAKE_BUILD_TYPE Release)
 endif()
 
+include(cmake/Hardening.cmake)
+
 set(VELKARO_PRIVATE_DIR ${CMAKE_INSTALL_LIBDIR}/velkaro-print)
 set(CMAKE_RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/${CMAKE_INSTALL_BINDIR})
 set(CMAKE_LIBRARY_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/${VELKARO_PRIVATE_DIR})
@@ -26,12 +28,14 @@ set(CMAKE_BUILD_WITH_INSTALL_RPATH ON)
 add_library(velkaro_build_rules INTERFACE)
 target_include_directories(velkaro_build_rules INTERFACE ${CMAKE_SOURCE_DIR})
 target_compile_options(velkaro_build_rules INTERFACE
-    -Wall -Wextra -Wpedantic -Wconversion -Wshadow -Werror
+    # A newer compiler may warn of more: that ends no user's build.
+    -Wall -Wextra -Wpedantic -Wconversion -Wshadow $<$<BOOL:${VELKARO_WERROR}>:-Werror>
     # libcups marks its PPD functions as deprecated; PPDs are what this program is about.
     -Wno-deprecated-declarations)
 target_compile_definitions(velkaro_build_rules INTERFACE
     QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII QT_NO_FOREACH QT_NO_KEYWORDS)
-if(VELKARO_SANITIZE OR VELKARO_FUZZ)
+velkaro_harden(velkaro_build_rules)
+if(VELKARO_SANITIZE)
     target_compile_options(velkaro_build_rules INTERFACE
         -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
     target_link_options(velkaro_build_rules INTERFACE -fsanitize=address,undefined)

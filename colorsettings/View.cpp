@@ -4,6 +4,7 @@
 #include "platform/pde/PPDText.h"
 #include "platform/toolkit/ImageView.h"
 #include "platform/toolkit/NumberField.h"
+#include "platform/toolkit/PlainLabel.h"
 #include "platform/toolkit/PlainText.h"
 #include "platform/toolkit/PopUpButton.h"
 #include "platform/toolkit/RadioMatrix.h"
@@ -78,7 +79,7 @@ void VKInkColorSettingPDE::titleSection()
 {
     const QString title = localized("advancedcolorItem");
     if (optionLabel && !title.isNull())
-        optionLabel->setText(title);
+        setLabelText(optionLabel, title);
     if (optionButton)
         setSpokenName(optionButton, title);
     if (effectImageView)
@@ -95,7 +96,7 @@ void VKInkColorSettingPDE::titleEffects()
         QLabel *label = effectOutlets(keyword).label;
         const ppd_option_t *option = findOption(ppd, keyword);
         if (label && option)
-            label->setText(ppdText(option->text));
+            setLabelText(label, ppdText(option->text));
     }
 }
 

@@ -7,6 +7,7 @@
 #include "platform/pde/PPDText.h"
 #include "platform/toolkit/ControlColor.h"
 #include "platform/toolkit/KeyWindow.h"
+#include "platform/toolkit/PlainLabel.h"
 #include "platform/toolkit/PlainText.h"
 #include "platform/toolkit/RadioMatrix.h"
 #include "platform/toolkit/SpokenName.h"
@@ -115,7 +116,7 @@ void VKPrintQualityPDE::titleLabel(const QString &keyword, const QString &text)
 {
     QWidget *label = determineLabel(keyword);
     if (auto *field = qobject_cast<QLabel *>(label))
-        field->setText(text + u": "_s);
+        setLabelText(field, text + u": "_s);
     else if (auto *box = qobject_cast<QGroupBox *>(label))
         box->setTitle(withoutMnemonic(text));
     if (QWidget *control = determineUI(keyword))

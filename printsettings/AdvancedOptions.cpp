@@ -1,6 +1,7 @@
 #include "printsettings/VKInkPrintSetting14PDE.h"
 
 #include "platform/pde/PPDText.h"
+#include "platform/toolkit/PlainLabel.h"
 #include "platform/toolkit/SpokenName.h"
 #include "printsettings/AdvancedOptionList.h"
 
@@ -62,7 +63,7 @@ void VKInkPrintSetting14PDE::initializeAdvOption(const QList<QWidget *> &initial
 void VKInkPrintSetting14PDE::titleSection(const QString &title)
 {
     if (optionLabel)
-        optionLabel->setText(title);
+        setLabelText(optionLabel, title);
     if (optionButton)
         setSpokenName(optionButton, title);
     if (advancedTableView)

@@ -5,6 +5,7 @@
 #include "platform/pde/PPDText.h"
 #include "platform/toolkit/ImageView.h"
 #include "platform/toolkit/ModalSession.h"
+#include "platform/toolkit/PlainLabel.h"
 #include "platform/toolkit/PlainText.h"
 #include "platform/toolkit/ViewLoader.h"
 #include "printsettings/PaperNames.h"
@@ -35,7 +36,7 @@ void setInstruction(QLabel *label, const QString &text)
     QFont font = systemFont();
     font.setPixelSize(kInstructionFontSize);
     label->setFont(font);
-    label->setText(text);
+    setLabelText(label, text);
 }
 
 } // namespace
@@ -121,7 +122,7 @@ void VKInkPrintSetting14PDE::readyToShowPaperAlertWithKind(
     const double needed = heightForSpecifiedFont(message, systemFont(), labelSize.width());
     const int height = qRound(needed + kMessageMargin);
     if (alertMessageLabel) {
-        alertMessageLabel->setText(message);
+        setLabelText(alertMessageLabel, message);
         alertMessageLabel->resize(labelSize.width(), height);
     }
     if (!alertWindow)

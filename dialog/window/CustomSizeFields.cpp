@@ -1,5 +1,6 @@
 #include "dialog/window/CustomSizeFields.h"
 
+#include "platform/toolkit/PlainLabel.h"
 #include "platform/toolkit/SpokenName.h"
 
 #include <QtCore/QLocale>
@@ -41,9 +42,9 @@ CustomSizeFields::CustomSizeFields(QWidget *parent)
     m_unit->addItems({tr("mm"), tr("inches")});
     m_unit->setCurrentIndex(QLocale().measurementSystem() == QLocale::ImperialUSSystem ? 1 : 0);
     setSpokenName(m_unit, tr("Unit"));
-    auto *widthLabel = new QLabel(tr("&Width:"), this);
+    QLabel *widthLabel = newPlainLabel(tr("&Width:"), this);
     widthLabel->setBuddy(m_width);
-    auto *heightLabel = new QLabel(tr("Heigh&t:"), this);
+    QLabel *heightLabel = newPlainLabel(tr("Heigh&t:"), this);
     heightLabel->setBuddy(m_height);
     auto *grid = new QGridLayout(this);
     grid->setContentsMargins(0, 0, 0, 0);
@@ -76,9 +77,8 @@ QDoubleSpinBox *CustomSizeFields::newField(const QString &name)
 
 QLabel *CustomSizeFields::newWord(const QString &name)
 {
-    auto *word = new QLabel(this);
+    QLabel *word = newPlainLabel(QString(), this);
     word->setObjectName(name);
-    word->setTextFormat(Qt::PlainText);
     return word;
 }
 
@@ -130,8 +130,8 @@ void CustomSizeFields::changeUnit()
 
 void CustomSizeFields::judge()
 {
-    m_widthWord->setText(word(m_widthPoints, m_limits.minWidth, m_limits.maxWidth));
-    m_heightWord->setText(word(m_heightPoints, m_limits.minHeight, m_limits.maxHeight));
+    setLabelText(m_widthWord, word(m_widthPoints, m_limits.minWidth, m_limits.maxWidth));
+    setLabelText(m_heightWord, word(m_heightPoints, m_limits.minHeight, m_limits.maxHeight));
 }
 
 QString CustomSizeFields::word(double length, double least, double most) const

@@ -4,6 +4,7 @@
 #include "dialog/window/PanelPane.h"
 #include "platform/pde/PPDText.h"
 #include "platform/toolkit/PlainText.h"
+#include "platform/toolkit/SpokenName.h"
 
 #include <QtCore/QSignalBlocker>
 #include <QtCore/QTimer>
@@ -54,7 +55,7 @@ void DialogWindow::buildParts()
             m_tabs->addTab(pane, tabTitle(panel.panel->panelName()));
         }
     m_parts.push_back({kSummary, m_summary, nullptr});
-    m_summary->setAccessibleName(tr("Summary"));
+    setSpokenName(m_summary, tr("Summary"));
     m_tabs->addTab(m_summary, tr("Summary"));
     m_tabs->setCurrentIndex(m_parts[1].panel ? 1 : 0);
     changePart();

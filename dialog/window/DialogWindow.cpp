@@ -11,6 +11,7 @@
 #include "dialog/window/ProgressStrip.h"
 #include "platform/foundation/NotificationCenter.h"
 #include "platform/toolkit/KeyWindow.h"
+#include "platform/toolkit/PlainText.h"
 
 #include <QtCore/QThread>
 #include <QtCore/QTimer>
@@ -160,7 +161,7 @@ void DialogWindow::setState(State state)
     const bool isUsable = state == State::Ready || state == State::NoPrinter;
     m_header->setEnabled(isUsable || state == State::Searching);
     m_tabs->setEnabled(state == State::Ready);
-    m_cancel->setText(state == State::Done ? tr("Close") : tr("Cancel"));
+    setButtonTitle(m_cancel, state == State::Done ? tr("Close") : tr("Cancel"));
     m_print->setVisible(state != State::Done);
     m_print->setText(printTitle());
     m_print->setDefault(!m_mayHavePrinted); // not twice by mistake

@@ -1,5 +1,7 @@
 #include "dialog/window/HostHelp.h"
 
+#include "platform/toolkit/PlainLabel.h"
+
 #include <QtCore/QCoreApplication>
 #include <QtWidgets/QDialog>
 #include <QtWidgets/QDialogButtonBox>
@@ -38,8 +40,7 @@ void showHostHelp(QWidget *parent)
     window->setWindowTitle(QCoreApplication::translate("HostHelp", "Print Help"));
     auto *layout = new QVBoxLayout(window);
     for (const char *paragraph : kParagraphs) {
-        auto *label = new QLabel(QCoreApplication::translate("HostHelp", paragraph), window);
-        label->setTextFormat(Qt::PlainText);
+        QLabel *label = newPlainLabel(QCoreApplication::translate("HostHelp", paragraph), window);
         label->setWordWrap(true);
         label->setFixedWidth(kTextWidth);
         layout->addWidget(label);

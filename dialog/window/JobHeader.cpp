@@ -4,6 +4,7 @@
 #include "dialog/job/PrintJob.h"
 #include "dialog/window/PrinterPopUp.h"
 #include "platform/toolkit/NumberField.h"
+#include "platform/toolkit/PlainLabel.h"
 #include "platform/toolkit/PopUpButton.h"
 #include "platform/toolkit/SpokenName.h"
 
@@ -34,7 +35,7 @@ QWidget *row(std::initializer_list<QWidget *> widgets, int stretched)
 
 QLabel *label(const QString &text, QWidget *buddy)
 {
-    auto *made = new QLabel(text);
+    QLabel *made = newPlainLabel(text);
     made->setBuddy(buddy);
     // They stand in rows of their own: assistive technology would not find the label.
     setSpokenName(buddy, QString(text).remove(u'&'));
@@ -46,15 +47,14 @@ QLabel *label(const QString &text, QWidget *buddy)
 JobHeader::JobHeader(PrintJob &job, QWidget *parent)
     : QWidget(parent),
       m_job(job),
-      m_documents(new QLabel(this)),
+      m_documents(newPlainLabel(QString(), this)),
       m_choose(new QPushButton(tr("C&hoose…"), this)),
       m_printers(new PrinterPopUp(this)),
       m_copies(new NumberField(this)),
       m_pages(new QLineEdit(this)),
-      m_pagesWord(new QLabel(this))
+      m_pagesWord(newPlainLabel(QString(), this))
 {
     m_documents->setObjectName(u"documentsLabel"_s);
-    m_documents->setTextFormat(Qt::PlainText);
     m_documents->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     m_choose->setObjectName(u"chooseButton"_s);
     m_choose->setAutoDefault(false);
@@ -68,7 +68,7 @@ JobHeader::JobHeader(PrintJob &job, QWidget *parent)
     form->setContentsMargins(0, 0, 0, 0);
     form->setLabelAlignment(Qt::AlignRight | Qt::AlignVCenter);
     form->setFieldGrowthPolicy(QFormLayout::AllNonFixedFieldsGrow);
-    form->addRow(tr("Document:"), row({m_documents, m_choose}, 0));
+    addLabelledRow(form, tr("Document:"), row({m_documents, m_choose}, 0));
     form->addRow(label(tr("Pri&nter:"), m_printers->popup()), m_printers);
     form->addRow(label(tr("&Copies:"), m_copies),
                  row({m_copies, label(tr("Pa&ges:"), m_pages), m_pages, m_pagesWord}, 3));
@@ -87,7 +87,7 @@ void JobHeader::reload()
     QStringList names;
     for (const Document &document : m_job.documents())
         names += document.name();
-    m_documents->setText(names.isEmpty() ? tr("No document") : names.join(u", "_s));
+    setLabelText(m_documents, names.isEmpty() ? tr("No document") : names.join(u", "_s));
     m_copies->setDoubleValue(m_job.settings().copies);
     m_pages->setText(m_job.settings().pageRanges);
     m_pagesWord->clear();
@@ -96,7 +96,7 @@ void JobHeader::reload()
 void JobHeader::takePages()
 {
     const QString ranges = normalizedPageRanges(m_pages->text());
-    m_pagesWord->setText(ranges.isNull() ? tr("Pages look like this: 1-3, 5") : QString());
+    setLabelText(m_pagesWord, ranges.isNull() ? tr("Pages look like this: 1-3, 5") : QString());
     if (!ranges.isNull())
         m_job.settings().pageRanges = ranges;
     Q_EMIT changed();

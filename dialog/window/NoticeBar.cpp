@@ -1,7 +1,9 @@
 #include "dialog/window/NoticeBar.h"
 
 #include "dialog/window/NoticeSign.h"
+#include "platform/toolkit/PlainLabel.h"
 #include "platform/toolkit/PlainText.h"
+#include "platform/toolkit/SpokenName.h"
 
 #include <QtCore/QEvent>
 #include <QtWidgets/QHBoxLayout>
@@ -41,12 +43,11 @@ QColor mixed(const QColor &base, const QColor &accent, qreal share)
 } // namespace
 
 NoticeBar::NoticeBar(QWidget *parent)
-    : QFrame(parent), m_sign(new NoticeSign(this)), m_label(new QLabel(this))
+    : QFrame(parent), m_sign(new NoticeSign(this)), m_label(newPlainLabel(QString(), this))
 {
     setObjectName(QStringLiteral("noticeBar"));
     setAutoFillBackground(true);
     m_label->setObjectName(QStringLiteral("noticeLabel"));
-    m_label->setTextFormat(Qt::PlainText);
     m_label->setWordWrap(true);
     m_label->setTextInteractionFlags(Qt::TextSelectableByMouse);
     auto *layout = new QHBoxLayout(this);
@@ -61,8 +62,8 @@ void NoticeBar::tell(Kind kind, const QString &sentence)
 {
     m_kind = kind;
     m_sentence = displayText(sentence);
-    m_label->setText(m_sentence);
-    setAccessibleName(m_sentence);
+    setLabelText(m_label, m_sentence);
+    setSpokenName(this, m_sentence);
     m_sign->setSign(lookOf(kind).mark, QColor::fromRgb(lookOf(kind).accent));
     applyColors();
     show();

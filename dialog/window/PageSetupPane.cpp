@@ -5,13 +5,13 @@
 #include "dialog/job/PrintJob.h"
 #include "dialog/window/CustomSizeFields.h"
 #include "platform/pde/PPDText.h"
+#include "platform/toolkit/PlainLabel.h"
 #include "platform/toolkit/PlainText.h"
 #include "platform/toolkit/PopUpButton.h"
 
 #include <QtWidgets/QButtonGroup>
 #include <QtWidgets/QFormLayout>
 #include <QtWidgets/QHBoxLayout>
-#include <QtWidgets/QLabel>
 #include <QtWidgets/QRadioButton>
 #include <QtWidgets/QVBoxLayout>
 
@@ -30,7 +30,7 @@ std::vector<PopUpButton::Item> itemsOf(const ppd_option_t *option)
     std::vector<PopUpButton::Item> items;
     for (int index = 0; option && index < option->num_choices; ++index) {
         const ppd_choice_t &choice = option->choices[index];
-        items.push_back({displayText(ppdText(choice.text)), ppdName(choice.choice)});
+        items.push_back({ppdText(choice.text), ppdName(choice.choice)});
     }
     return items;
 }
@@ -118,7 +118,7 @@ void PageSetupPane::addPaper(QFormLayout *form)
         items.push_back({tr("Custom Size"), kCustom});
     m_paper = newPopUp(u"paperPopup"_s);
     m_paper->setItems(items);
-    form->addRow(tr("&Paper:"), m_paper);
+    addLabelledRow(form, tr("&Paper:"), m_paper);
     connect(m_paper, &QComboBox::activated, this, &PageSetupPane::choosePaper);
 
     if (limits)
@@ -132,7 +132,7 @@ void PageSetupPane::addCustomSize(QFormLayout *form, const CustomLimits &limits)
     m_customSize = new CustomSizeFields(m_page);
     m_customSize->setLimits(limits);
     m_customSize->setSize(paper.width, paper.height);
-    form->addRow(QString(), m_customSize);
+    form->setWidget(form->rowCount(), QFormLayout::FieldRole, m_customSize);
     connect(m_customSize, &CustomSizeFields::edited, this, &PageSetupPane::useCustomSize);
 }
 
@@ -183,11 +183,11 @@ void PageSetupPane::addOrientation(QFormLayout *form)
     const std::array<std::pair<QString, QString>, 2> titles{
         {{u"portraitButton"_s, tr("P&ortrait")}, {u"landscapeButton"_s, tr("&Landscape")}}};
     const bool isLandscape = m_job.orientation() == PMOrientation::Landscape;
-    form->addRow(tr("Orientation:"), newRadioPair(titles, isLandscape ? 1 : 0, [this](int id) {
-                     m_job.setOrientation(id == 1 ? PMOrientation::Landscape
-                                                  : PMOrientation::Portrait);
-                     Q_EMIT changed();
-                 }));
+    addLabelledRow(
+        form, tr("Orientation:"), newRadioPair(titles, isLandscape ? 1 : 0, [this](int id) {
+            m_job.setOrientation(id == 1 ? PMOrientation::Landscape : PMOrientation::Portrait);
+            Q_EMIT changed();
+        }));
 }
 
 void PageSetupPane::addScaling(QFormLayout *form)
@@ -197,7 +197,7 @@ void PageSetupPane::addScaling(QFormLayout *form)
     PopUpButton *popup = newPopUp(u"scalePopup"_s);
     popup->setItems(items);
     popup->selectObject(m_job.mappedPaper());
-    form->addRow(tr("&Scale to Fit:"), popup);
+    addLabelledRow(form, tr("&Scale to Fit:"), popup);
     connect(popup, &QComboBox::activated, this, [this, popup] {
         const QString paper = popup->selectedObject();
         m_job.setMappedPaper(paper.isEmpty() ? QString() : paper);
@@ -211,7 +211,7 @@ void PageSetupPane::addOption(QFormLayout *form, const QString &keyword)
     PopUpButton *popup = newPopUp(keyword + u"Popup"_s);
     popup->setItems(itemsOf(option));
     showChoice(popup, markedChoice(m_job.ppd(), keyword));
-    form->addRow(tr("%1:").arg(withoutMnemonic(displayText(ppdText(option->text)))), popup);
+    addLabelledRow(form, tr("%1:").arg(withoutMnemonic(ppdText(option->text))), popup);
     connect(popup, &QComboBox::activated, this,
             [this, keyword, popup] { chooseOption(keyword, popup); });
 }
@@ -235,9 +235,10 @@ void PageSetupPane::addColorMatching(QFormLayout *form)
         {{u"matchByPrinterButton"_s, tr("By the P&rinter")},
          {u"matchByApplicationButton"_s, tr("By the Appl&ication")}}};
     const bool byApplication = m_job.colorMatching() == PrintJob::ColorMatching::Application;
-    form->addRow(tr("Color Matching:"), newRadioPair(titles, byApplication ? 1 : 0, [this](int id) {
-                     m_job.setColorMatching(id == 1 ? PrintJob::ColorMatching::Application
-                                                    : PrintJob::ColorMatching::Printer);
-                     Q_EMIT changed();
-                 }));
+    addLabelledRow(form, tr("Color Matching:"),
+                   newRadioPair(titles, byApplication ? 1 : 0, [this](int id) {
+                       m_job.setColorMatching(id == 1 ? PrintJob::ColorMatching::Application
+                                                      : PrintJob::ColorMatching::Printer);
+                       Q_EMIT changed();
+                   }));
 }

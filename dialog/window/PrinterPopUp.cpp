@@ -1,5 +1,6 @@
 #include "dialog/window/PrinterPopUp.h"
 
+#include "platform/toolkit/PlainLabel.h"
 #include "platform/toolkit/PlainText.h"
 #include "platform/toolkit/PopUpButton.h"
 
@@ -32,12 +33,11 @@ QString titleOf(const Destination &destination)
 } // namespace
 
 PrinterPopUp::PrinterPopUp(QWidget *parent)
-    : QWidget(parent), m_popup(new PopUpButton(this)), m_state(new QLabel(this))
+    : QWidget(parent), m_popup(new PopUpButton(this)), m_state(newPlainLabel(QString(), this))
 {
     m_popup->setObjectName(u"printerPopup"_s);
     m_popup->setMinimumContentsLength(kContentsLength);
     m_state->setObjectName(u"printerState"_s);
-    m_state->setTextFormat(Qt::PlainText);
     auto *layout = new QHBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(m_popup);
@@ -99,5 +99,5 @@ void PrinterPopUp::tellState()
         state = tr("Stopped: jobs wait");
     else if (found != m_destinations.end())
         state = displayText(found->location);
-    m_state->setText(state);
+    setLabelText(m_state, state);
 }

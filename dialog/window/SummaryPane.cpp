@@ -1,5 +1,6 @@
 #include "dialog/window/SummaryPane.h"
 
+#include "platform/toolkit/PlainLabel.h"
 #include "platform/toolkit/PlainText.h"
 
 #include <QtWidgets/QGridLayout>
@@ -13,9 +14,7 @@ constexpr int kSectionSpacing = 12;
 
 QLabel *label(const QString &text, QWidget *parent)
 {
-    auto *made = new QLabel(parent);
-    made->setTextFormat(Qt::PlainText);
-    made->setText(displayText(text));
+    QLabel *made = newPlainLabel(displayText(text), parent);
     made->setWordWrap(true);
     made->setTextInteractionFlags(Qt::TextSelectableByMouse);
     return made;

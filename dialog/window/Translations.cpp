@@ -1,5 +1,6 @@
 #include "dialog/window/Translations.h"
 
+#include "platform/foundation/Catalogue.h"
 #include "platform/foundation/PreferredLanguages.h"
 
 #include <QtCore/QCoreApplication>
@@ -9,24 +10,32 @@
 
 #include <memory>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr auto kSourceLanguage = "en";
 
-bool install(const QString &name, const QString &folder)
+bool install(std::unique_ptr<QTranslator> table)
 {
-    auto table = std::make_unique<QTranslator>();
-    if (!table->load(name, folder))
+    if (!table)
         return false;
-    QCoreApplication *application = QCoreApplication::instance();
-    table->setParent(application);
+    table->setParent(QCoreApplication::instance());
     return QCoreApplication::installTranslator(table.release());
 }
 
-QString ownFolder()
+QString ownTable(const QString &language)
 {
     return QDir(QCoreApplication::applicationDirPath())
-        .filePath(QStringLiteral(VELKARO_SHARE_FROM_BIN "/translations"));
+        .filePath(u"" VELKARO_SHARE_FROM_BIN "/translations/Dialog_%1.qm"_s.arg(language));
+}
+
+// The system's own, which is trusted.
+void installToolkitTable(const QString &language)
+{
+    auto table = std::make_unique<QTranslator>();
+    if (table->load(u"qtbase_"_s + language, QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
+        install(std::move(table));
 }
 
 } // namespace
@@ -37,9 +46,8 @@ void installTranslations()
         const QString base = language.section(u'-', 0, 0);
         if (base == QLatin1String(kSourceLanguage))
             return;
-        if (install(QStringLiteral("Dialog_") + base, ownFolder())) {
-            install(QStringLiteral("qtbase_") + base,
-                    QLibraryInfo::path(QLibraryInfo::TranslationsPath));
+        if (install(openCatalogue(ownTable(base)))) {
+            installToolkitTable(base);
             return;
         }
     }

@@ -1,5 +1,6 @@
 #include "platform/foundation/Bundle.h"
 
+#include "platform/foundation/Catalogue.h"
 #include "platform/foundation/PreferredLanguages.h"
 
 #include <QtCore/QDir>
@@ -121,7 +122,6 @@ void Bundle::loadStringTable() const
     const QStringList languages = preferredLanguages();
     if (m_table && m_tableLanguages == languages)
         return;
-    m_table = std::make_unique<QTranslator>();
     m_tableLanguages = languages;
     QStringList candidates;
     for (const QString &language : languages)
@@ -129,9 +129,11 @@ void Bundle::loadStringTable() const
     candidates << QStringLiteral("en");
     for (const QString &language : std::as_const(candidates)) {
         const QString path = stringTable(language);
-        if (!path.isNull() && m_table->load(path))
+        m_table = path.isNull() ? nullptr : openCatalogue(path);
+        if (m_table)
             return;
     }
+    m_table = std::make_unique<QTranslator>();
 }
 
 QString Bundle::localizedString(const QString &key) const

@@ -2,6 +2,7 @@
 
 #include "platform/toolkit/AlertObserver.h"
 #include "platform/toolkit/KeyWindow.h"
+#include "platform/toolkit/PlainLabel.h"
 #include "platform/toolkit/PlainText.h"
 
 #include <QtCore/QTimer>
@@ -40,8 +41,7 @@ void setInformativeText(QMessageBox &box, const QString &text)
     // The label of the informative text guesses at rich text whatever format the box has.
     const auto labels = box.findChildren<QLabel *>(QStringLiteral("qt_msgbox_informativelabel"));
     for (QLabel *label : labels)
-        label->setTextFormat(Qt::PlainText);
-    box.setInformativeText(text);
+        setLabelText(label, text);
 }
 
 void addButtons(QMessageBox &box, const QStringList &titles, int defaultButton)

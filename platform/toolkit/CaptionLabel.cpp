@@ -1,9 +1,10 @@
 #include "platform/toolkit/CaptionLabel.h"
 
+#include "platform/toolkit/PlainLabel.h"
+
 #include <QtGui/QHelpEvent>
 #include <QtWidgets/QStyle>
 #include <QtWidgets/QStylePainter>
-#include <QtWidgets/QToolTip>
 
 #include <algorithm>
 
@@ -36,16 +37,14 @@ QString CaptionLabel::shownText() const
 
 QString CaptionLabel::wholeTextTip() const
 {
-    // A tool tip guesses at rich text, so it gets some that says what the plain text says.
-    const bool whole = shownText() == text();
-    return whole ? QString() : QStringLiteral("<p>%1</p>").arg(text().trimmed().toHtmlEscaped());
+    return shownText() == text() ? QString() : text().trimmed();
 }
 
 bool CaptionLabel::event(QEvent *event)
 {
     if (event->type() != QEvent::ToolTip)
         return QLabel::event(event);
-    QToolTip::showText(static_cast<QHelpEvent *>(event)->globalPos(), wholeTextTip(), this);
+    showToolTip(static_cast<QHelpEvent *>(event)->globalPos(), wholeTextTip(), this);
     return true;
 }
 

@@ -17,8 +17,7 @@ public:
     /// The text as it is shown at the present width.
     QString shownText() const;
 
-    /// The tool tip of a text that is cut (as markup, with the text's own made harmless); null for
-    /// one that is shown whole.
+    /// The tool tip of a text that is cut; null for one that is shown whole.
     QString wholeTextTip() const;
 
     /// As wide as the text, but never so wide that the control is left without room.

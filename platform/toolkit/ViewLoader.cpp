@@ -5,6 +5,7 @@
 #include "platform/toolkit/FractionSlider.h"
 #include "platform/toolkit/ImageView.h"
 #include "platform/toolkit/NumberField.h"
+#include "platform/toolkit/PlainLabel.h"
 #include "platform/toolkit/PopUpButton.h"
 #include "platform/toolkit/RadioMatrix.h"
 #include "platform/toolkit/SizeWatch.h"
@@ -14,6 +15,7 @@
 #include <QtCore/QFile>
 #include <QtUiTools/QUiLoader>
 #include <QtWidgets/QAbstractButton>
+#include <QtWidgets/QLabel>
 
 #include <utility>
 
@@ -44,8 +46,11 @@ public:
         if (!widget)
             widget = m_toolkit.create(className, parent);
         if (!widget)
-            return QUiLoader::createWidget(className, parent, name);
-        widget->setObjectName(name);
+            widget = QUiLoader::createWidget(className, parent, name);
+        if (auto *label = qobject_cast<QLabel *>(widget))
+            setLabelText(label, QString());
+        if (widget)
+            widget->setObjectName(name);
         return widget;
     }
 

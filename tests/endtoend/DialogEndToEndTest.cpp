@@ -1,18 +1,24 @@
 #include "dialog/window/DialogWindow.h"
 #include "platform/foundation/UserDefaults.h"
+#include "platform/toolkit/PlainText.h"
 #include "platform/toolkit/PopUpButton.h"
 #include "tests/built/BuiltFiles.h"
 #include "tests/endtoend/JobPrinting.h"
 #include "tests/endtoend/PrintServerFixture.h"
 #include "tests/servers/IppBytes.h"
 #include "tests/servers/ScriptedServer.h"
+#include "tests/support/EventLoopWatch.h"
+#include "tests/support/PlainTextWalk.h"
+#include "tests/support/TrapFolder.h"
 
+#include <QtCore/QScopeGuard>
 #include <QtCore/QTimer>
 #include <QtNetwork/QTcpServer>
 #include <QtTest/QTest>
 #include <QtWidgets/QAbstractButton>
 #include <QtWidgets/QAbstractItemView>
 #include <QtWidgets/QApplication>
+#include <QtWidgets/QLabel>
 #include <QtWidgets/QMessageBox>
 #include <QtWidgets/QPushButton>
 #include <QtWidgets/QTabWidget>
@@ -24,6 +30,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr int kPatience = 20000; // ms
+constexpr int kHeld = 3000;      // ms: far more than an event may wait, and less than a server may
 
 /// The real dialog on a queue of a real server, used with the mouse and the keyboard.
 class Dialog : public PrintServerFixture
@@ -215,6 +222,7 @@ TEST_F(Dialog, StaysUsableWhileAServerIsSilent)
 {
     QTcpServer silent; // the system accepts connections, nobody answers
     ASSERT_TRUE(silent.listen(QHostAddress::LocalHost));
+    const EventLoopWatch watch;
     const QString address = u"127.0.0.1:%1"_s.arg(silent.serverPort());
     DialogWindow window(lineFor(address, u"photo"_s));
     window.start();
@@ -239,6 +247,96 @@ TEST_F(Dialog, ListsThePrintersAndTakesAnotherOne)
     EXPECT_EQ(window->state(), DialogWindow::State::Ready);
     EXPECT_EQ(window->job().source().queue.queue, u"home"_s);
     EXPECT_TRUE(part<PopUpButton>(*window, "mediaTypePopup")->isVisible());
+}
+
+TEST_F(Dialog, ShowsWhatAServerSaysAsItStands)
+{
+    TrapFolder trap;
+    const QString queue = u"q<b>A&amp;B"_s;
+    const QString text = displayText(PlainTextWalk::foreignText(trap.fifo()));
+    ASSERT_TRUE(server().addQueue(queue, samplePPD(u"velkaro-px-t900"_s)));
+    ASSERT_TRUE(server().lpadmin({u"-p"_s, queue, u"-D"_s, text, u"-L"_s, text}));
+    const auto window = open(lineFor(server().address(), queue));
+    const auto *state = part<QLabel>(*window, "printerState");
+    ASSERT_TRUE(QTest::qWaitFor([&] { return state->text() == text; }, kPatience));
+    ASSERT_TRUE(server().command(u"cupsreject"_s, {queue}));
+    click(*window, "printButton");
+    waitWhile(*window, DialogWindow::State::Sending);
+    EXPECT_TRUE(window->notice().sentence().contains(queue))
+        << window->notice().sentence().toStdString();
+    PlainTextWalk walk;
+    walk.look();
+    for (const char *place : {"PopUpButton printerPopup", "QLabel printerState",
+                              "QLabel noticeLabel", "NoticeBar noticeBar"})
+        EXPECT_TRUE(walk.seen().contains(QLatin1String(place))) << place;
+    EXPECT_FALSE(trap.wasOpened());
+    EXPECT_TRUE(server().lpadmin({u"-x"_s, queue}));
+}
+
+/// The server holds every answer for seconds, in which the window has to go on by itself.
+class DialogOnAServerThatHoldsItsAnswers : public Dialog
+{
+protected:
+    /// Lets the window work on in vain, then gives the answers.
+    void wait()
+    {
+        QTest::qWait(kHeld);
+        server().giveAnswers();
+    }
+
+    const EventLoopWatch m_watch;
+
+private:
+    const QScopeGuard<void (*)()> m_answers{[] { server().giveAnswers(); }};
+};
+
+TEST_F(DialogOnAServerThatHoldsItsAnswers, LooksForThePrinterWithoutWaiting)
+{
+    server().holdAnswers();
+    DialogWindow window(lineFor(server().address(), u"photo"_s));
+    window.start();
+    window.show();
+    wait();
+    EXPECT_EQ(window.state(), DialogWindow::State::Searching);
+    waitWhile(window, DialogWindow::State::Searching);
+    EXPECT_EQ(window.state(), DialogWindow::State::Ready);
+}
+
+TEST_F(DialogOnAServerThatHoldsItsAnswers, ListsThePrintersWithoutWaiting)
+{
+    CommandLine line = lineFor(server().address(), u"photo"_s);
+    line.ppd = samplePPD(u"velkaro-px-t900"_s);
+    server().holdAnswers();
+    const auto window = open(line);
+    ASSERT_EQ(window->state(), DialogWindow::State::Ready);
+    const auto *state = part<QLabel>(*window, "printerState");
+    wait();
+    EXPECT_EQ(state->text(), u"Searching for printers…"_s);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return state->text().isEmpty(); }, kPatience));
+}
+
+TEST_F(DialogOnAServerThatHoldsItsAnswers, SendsTheJobWithoutWaiting)
+{
+    const auto window = open(lineFor(server().address(), u"photo"_s));
+    ASSERT_EQ(window->state(), DialogWindow::State::Ready);
+    server().holdAnswers();
+    click(*window, "printButton");
+    wait();
+    EXPECT_EQ(window->state(), DialogWindow::State::Sending);
+    waitWhile(*window, DialogWindow::State::Sending);
+    EXPECT_EQ(window->exitStatus(), ExitStatus::Done) << window->notice().sentence().toStdString();
+    EXPECT_EQ(newJobs().size(), 1);
+}
+
+TEST_F(DialogOnAServerThatHoldsItsAnswers, IsClosedWithoutWaiting)
+{
+    server().holdAnswers();
+    DialogWindow window(lineFor(server().address(), u"photo"_s));
+    window.start();
+    window.show();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
+    QTest::keyClick(&window, Qt::Key_Escape);
+    EXPECT_FALSE(window.isVisible());
 }
 
 } // namespace

@@ -88,6 +88,17 @@ void PrintServer::stop()
     m_process.waitForFinished(kPatience);
 }
 
+// The kernel goes on taking connections for a process that is stopped.
+void PrintServer::holdAnswers()
+{
+    kill(static_cast<pid_t>(m_process.processId()), SIGSTOP);
+}
+
+void PrintServer::giveAnswers()
+{
+    kill(static_cast<pid_t>(m_process.processId()), SIGCONT);
+}
+
 QString PrintServer::address() const
 {
     return u"127.0.0.1:%1"_s.arg(m_port);

@@ -41,6 +41,11 @@ public:
     /// Waits until the job is over, and gives its job-state; 0 when it never is.
     int waitForJob(const QString &queue, int job);
 
+    /// From holdAnswers() to giveAnswers() the server takes connections and requests and answers
+    /// none. The object must not be asked meanwhile.
+    void holdAnswers();
+    void giveAnswers();
+
     /// Ends the server; the object can be asked no more.
     void stop();
 
