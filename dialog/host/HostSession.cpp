@@ -23,11 +23,16 @@ HostSession::~HostSession()
 
 HostSession::Opened HostSession::open(const SessionOptions &options)
 {
-    OpenedPPD opened = openPPD(options.ppdPath, options.ppdTexts);
-    if (!opened.ppd)
-        return {nullptr, opened.error};
+    return open(options, openPPD(options.ppdPath, options.ppdTexts));
+}
+
+HostSession::Opened HostSession::open(const SessionOptions &options, OpenedPPD ppd)
+{
+    if (!ppd.ppd)
+        return {nullptr, ppd.error};
     std::unique_ptr<HostSession> session(new HostSession(options));
-    session->m_ppd = std::move(opened.ppd);
+    session->m_ppd = std::move(ppd.ppd);
+    session->m_defaultMarks = ppd.defaults;
     session->m_plugIn = loadPlugIn(options.bundlePath, options.info);
     session->prepareCallback();
     return {std::move(session), QString()};

@@ -55,7 +55,11 @@ public:
         QString ppdError;
     };
 
+    /// The session on the PPD of `options`. Reads the file: not on a thread that people wait for.
     static Opened open(const SessionOptions &options);
+
+    /// The same on what openPPD() gave for that file, on whichever thread. Reads the plug-in alone.
+    static Opened open(const SessionOptions &options, OpenedPPD ppd);
 
     ~HostSession();
     HostSession(const HostSession &) = delete;
@@ -71,6 +75,8 @@ public:
     const std::optional<PlugInFault> &plugInFault() const { return m_plugIn.fault; }
 
     ppd_file_t *ppd() const { return m_ppd.get(); }
+    /// The marks of the PPD before anybody has made any: OpenedPPD::defaults.
+    const QList<PPDMark> &defaultMarks() const { return m_defaultMarks; }
     PMPrintSettings &ticket() { return m_callback->ticket(); }
     PMPageFormat &pageFormat() { return m_callback->format(); }
     const PMPrintSettings &ticket() const { return m_callback->ticket(); }
@@ -141,6 +147,7 @@ private:
     void post(const QString &name);
 
     SessionOptions m_options;
+    QList<PPDMark> m_defaultMarks;
     PPDHandle m_ppd; // outlives the panels, which read it
     PlugInLoad m_plugIn;
     std::shared_ptr<HostCallback> m_callback;
