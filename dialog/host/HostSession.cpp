@@ -113,6 +113,19 @@ QStringList HostSession::watchedKeywords() const
                            : QStringList();
 }
 
+QString HostSession::keywordOfTicketKey(const QString &key) const
+{
+    const QVariant keywords =
+        m_plugIn.bundle ? m_plugIn.bundle->infoValue(u"PMTicketKeyKeywords"_s) : QVariant();
+    return keywords.toMap().value(key).toString();
+}
+
+QStringList HostSession::foldStateKeys() const
+{
+    return m_plugIn.bundle ? m_plugIn.bundle->infoValue(u"PMTicketFoldStateKeys"_s).toStringList()
+                           : QStringList();
+}
+
 QVariantMap HostSession::alertMemory() const
 {
     const QString domain = m_plugIn.bundle ? m_plugIn.bundle->bundleIdentifier() : QString();

@@ -98,6 +98,14 @@ public:
     /// The PPD keywords that no panel shows and the plug-in wants the dialog to offer.
     QStringList watchedKeywords() const;
 
+    /// The PPD keyword whose text is the title of a value of the ticket, as the plug-in says; null
+    /// when it says nothing of the key.
+    QString keywordOfTicketKey(const QString &key) const;
+
+    /// The keys of the ticket under which the plug-in keeps what is folded and unfolded in its
+    /// views: nothing that a printer is to do.
+    QStringList foldStateKeys() const;
+
     /// What the user asked the plug-in's alerts to remember.
     QVariantMap alertMemory() const;
 
