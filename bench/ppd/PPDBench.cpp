@@ -1,5 +1,6 @@
 // What opening a PPD costs, with every check that a stranger's file gets, against the bare parser
-// and the marking of its defaults.
+// and the marking of its defaults; and what the largest PPDs cost that are opened at all.
+#include "bench/ppd/LimitRows.h"
 #include "bench/support/BenchPrinter.h"
 #include "bench/support/Timing.h"
 #include "dialog/host/PPDFile.h"
@@ -48,5 +49,6 @@ int main()
     measure("46 choices", writeBenchPrinter(folder.path(), kFewestChoices));
     measure("2000 choices", writeBenchPrinter(folder.path(), 2000));
     measure("a sample printer", samplePPD(QStringLiteral("velkaro-px-t900")));
+    printLimitRows();
     return 0;
 }

@@ -1,5 +1,6 @@
 #include "dialog/cups/JobOptions.h"
 
+#include "dialog/cups/ReservedNames.h"
 #include "dialog/cups/StandardAttributes.h"
 #include "platform/pde/PPDText.h"
 #include "platform/toolkit/PlainText.h"
@@ -32,28 +33,12 @@ bool isValueCharacter(QChar character)
     return (character.isPrint() || character.isSurrogate()) && !breaksLine;
 }
 
-/// The options of the PPD, without the doubles of `PageSize` that every PPD carries.
-template <typename Visit> void eachOption(ppd_group_t *groups, int count, Visit visit)
-{
-    for (int group = 0; group < count; ++group) {
-        for (int option = 0; option < groups[group].num_options; ++option)
-            if (qstrcmp(groups[group].options[option].keyword, "PageRegion") != 0)
-                visit(groups[group].options[option]);
-        eachOption(groups[group].subgroups, groups[group].num_subgroups, visit);
-    }
-}
-
-QList<JobOption> changedChoices(ppd_file_t *ppd)
+QList<JobOption> changedChoices(const JobValues &values)
 {
     QList<JobOption> choices;
-    if (!ppd)
-        return choices;
-    eachOption(ppd->groups, ppd->num_groups, [&](ppd_option_t &option) {
-        const QString keyword = ppdName(option.keyword);
-        const QString marked = markedChoice(ppd, keyword);
-        if (!marked.isNull() && marked != ppdName(option.defchoice))
-            choices += JobOption{keyword, marked};
-    });
+    for (const PPDMark &mark : changedMarks(values.ppd, values.defaultMarks))
+        if (!isReservedName(mark.keyword))
+            choices += JobOption{mark.keyword, mark.choice};
     return choices;
 }
 
@@ -117,6 +102,11 @@ QString fault(const JobOption &option)
 
 } // namespace
 
+bool isChoice(ppd_file_t *ppd, const QString &name)
+{
+    return findOption(ppd, name) && !isReservedName(name);
+}
+
 bool mayTravel(const JobOption &option)
 {
     const bool nameIsGood =
@@ -139,9 +129,9 @@ JobOptions jobOptions(const JobValues &values)
 {
     QList<JobOption> made;
     for (const JobOption &option : values.saved)
-        if (option.name != "media"_L1 && !findOption(values.ppd, option.name))
+        if (option.name != "media"_L1 && !isChoice(values.ppd, option.name))
             put(made, option);
-    const QList<JobOption> choices = changedChoices(values.ppd);
+    const QList<JobOption> choices = changedChoices(values);
     for (const JobOption &option : choices + standardAttributesBeside(choices))
         put(made, option);
     putPaper(made, values);

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "dialog/cups/JobOption.h"
+#include "dialog/host/PPDMarks.h"
 #include "platform/printmanager/PMPageFormat.h"
 #include "platform/printmanager/PMPrintSettings.h"
 
@@ -22,7 +23,8 @@ struct HostSettings
 /// Everything that a job's options are made from.
 struct JobValues
 {
-    ppd_file_t *ppd = nullptr; ///< marked; null: a queue without a PPD
+    ppd_file_t *ppd = nullptr;   ///< marked; null: a queue without a PPD
+    QList<PPDMark> defaultMarks; ///< OpenedPPD::defaults
     PMPageFormat format;
     PMPrintSettings ticket;
     HostSettings settings;
@@ -37,13 +39,17 @@ struct JobOptions
     QStringList faults;
 };
 
-/// The job's options: saved settings that are not the PPD's, the marked choices that are not the
-/// PPD's defaults, the dialog's own settings, and every ticket value under a vendor key. A vendor
-/// key is one in reverse-domain form ("com.maker.thing") that is not the platform's own.
+/// The job's options: saved settings that are not the PPD's, the marks that are not there by
+/// default (without those whose keyword is reserved), the dialog's own settings, and every ticket
+/// value under a vendor key. A vendor key is one in reverse-domain form ("com.maker.thing") that is
+/// not the platform's own.
 ///
 /// The paper travels as `PageSize` alone. Beside it `media` would win in later versions of CUPS,
 /// and borderless paper would print with margins.
 JobOptions jobOptions(const JobValues &values);
+
+/// Whether the name is that of an option of the PPD (null: none) whose choices may be sent.
+bool isChoice(ppd_file_t *ppd, const QString &name);
 
 /// Whether the server may be given the option: a name of letters, digits, '.', '_' and '-', and a
 /// value of printable characters, up to 255 bytes. Filters are handed others unquoted.

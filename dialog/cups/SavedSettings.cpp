@@ -1,7 +1,6 @@
 #include "dialog/cups/SavedSettings.h"
 
 #include "dialog/cups/PageRanges.h"
-#include "platform/pde/PPDText.h"
 
 #include <cups/cups.h>
 
@@ -58,7 +57,7 @@ SavedSettings applySavedOptions(ppd_file_t *ppd, const QList<JobOption> &saved)
     for (const JobOption &option : saved) {
         const bool isMapped =
             ppd && std::ranges::find(kMappedByCups, option.name) != kMappedByCups.end();
-        if (!takeSetting(settings, option) && !isMapped && !findOption(ppd, option.name))
+        if (!takeSetting(settings, option) && !isMapped && !isChoice(ppd, option.name))
             settings.others += option;
     }
     return settings;

@@ -11,7 +11,8 @@
 /// The patience of work with files: slow disks and pipes are for the user to give up.
 inline constexpr std::chrono::hours kFilePatience{24};
 
-/// Work that waits for a server, on a thread of its own, so that the dialog never does.
+/// Work that waits for a server or reads a file, on a thread of its own, so that the dialog never
+/// does.
 ///
 /// The work gets a guard, and gives back what is to happen on the thread that started it. Exactly
 /// one of three things happens: that, or `givenUp` when the guard ran out of patience although the

@@ -23,11 +23,16 @@ HostSession::~HostSession()
 
 HostSession::Opened HostSession::open(const SessionOptions &options)
 {
-    OpenedPPD opened = openPPD(options.ppdPath, options.ppdTexts);
-    if (!opened.ppd)
-        return {nullptr, opened.error};
+    return open(options, openPPD(options.ppdPath, options.ppdTexts));
+}
+
+HostSession::Opened HostSession::open(const SessionOptions &options, OpenedPPD ppd)
+{
+    if (!ppd.ppd)
+        return {nullptr, ppd.error};
     std::unique_ptr<HostSession> session(new HostSession(options));
-    session->m_ppd = std::move(opened.ppd);
+    session->m_ppd = std::move(ppd.ppd);
+    session->m_defaultMarks = ppd.defaults;
     session->m_plugIn = loadPlugIn(options.bundlePath, options.info);
     session->prepareCallback();
     return {std::move(session), QString()};
@@ -105,6 +110,19 @@ QMap<QString, QString> HostSession::reportedMarks() const
 QStringList HostSession::watchedKeywords() const
 {
     return m_plugIn.bundle ? m_plugIn.bundle->infoValue(u"PMPPDKeysWatched"_s).toStringList()
+                           : QStringList();
+}
+
+QString HostSession::keywordOfTicketKey(const QString &key) const
+{
+    const QVariant keywords =
+        m_plugIn.bundle ? m_plugIn.bundle->infoValue(u"PMTicketKeyKeywords"_s) : QVariant();
+    return keywords.toMap().value(key).toString();
+}
+
+QStringList HostSession::foldStateKeys() const
+{
+    return m_plugIn.bundle ? m_plugIn.bundle->infoValue(u"PMTicketFoldStateKeys"_s).toStringList()
                            : QStringList();
 }
 

@@ -55,7 +55,11 @@ public:
         QString ppdError;
     };
 
+    /// The session on the PPD of `options`. Reads the file: not on a thread that people wait for.
     static Opened open(const SessionOptions &options);
+
+    /// The same on what openPPD() gave for that file, on whichever thread. Reads the plug-in alone.
+    static Opened open(const SessionOptions &options, OpenedPPD ppd);
 
     ~HostSession();
     HostSession(const HostSession &) = delete;
@@ -71,6 +75,8 @@ public:
     const std::optional<PlugInFault> &plugInFault() const { return m_plugIn.fault; }
 
     ppd_file_t *ppd() const { return m_ppd.get(); }
+    /// The marks of the PPD before anybody has made any: OpenedPPD::defaults.
+    const QList<PPDMark> &defaultMarks() const { return m_defaultMarks; }
     PMPrintSettings &ticket() { return m_callback->ticket(); }
     PMPageFormat &pageFormat() { return m_callback->format(); }
     const PMPrintSettings &ticket() const { return m_callback->ticket(); }
@@ -91,6 +97,14 @@ public:
 
     /// The PPD keywords that no panel shows and the plug-in wants the dialog to offer.
     QStringList watchedKeywords() const;
+
+    /// The PPD keyword whose text is the title of a value of the ticket, as the plug-in says; null
+    /// when it says nothing of the key.
+    QString keywordOfTicketKey(const QString &key) const;
+
+    /// The keys of the ticket under which the plug-in keeps what is folded and unfolded in its
+    /// views: nothing that a printer is to do.
+    QStringList foldStateKeys() const;
 
     /// What the user asked the plug-in's alerts to remember.
     QVariantMap alertMemory() const;
@@ -141,6 +155,7 @@ private:
     void post(const QString &name);
 
     SessionOptions m_options;
+    QList<PPDMark> m_defaultMarks;
     PPDHandle m_ppd; // outlives the panels, which read it
     PlugInLoad m_plugIn;
     std::shared_ptr<HostCallback> m_callback;

@@ -1,10 +1,6 @@
 #include "dialog/host/PPDCompleteness.h"
 
-#include <QtCore/QByteArrayView>
-
 namespace {
-
-constexpr auto kGzipMagic = "\x1f\x8b";
 
 // What is open while the text is read from its beginning.
 struct OpenParts
@@ -52,12 +48,9 @@ bool isCutKeyword(QByteArrayView line)
 
 } // namespace
 
-bool isCutOff(const QByteArray &ppd)
+bool isCutOff(QByteArrayView text)
 {
-    if (ppd.startsWith(kGzipMagic))
-        return false;
     OpenParts open;
-    const QByteArrayView text(ppd);
     qsizetype start = 0;
     for (qsizetype end = text.indexOf('\n'); end >= 0; end = text.indexOf('\n', start)) {
         readLine(text.sliced(start, end - start), open);

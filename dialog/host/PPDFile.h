@@ -1,5 +1,7 @@
 #pragma once
 
+#include "dialog/host/PPDMarks.h"
+
 #include <QtCore/QString>
 
 #include <cups/ppd.h>
@@ -19,6 +21,9 @@ struct OpenedPPD
 {
     PPDHandle ppd;
     QString error;
+    /// What is marked by default, before anybody has picked anything. It need not be what an option
+    /// says of itself: a keyword may stand in two groups, and libcups reads over the case of names.
+    QList<PPDMark> defaults;
 };
 
 /// In which language the PPD's texts are.
@@ -27,7 +32,6 @@ enum class PPDTexts {
     AsWritten,      ///< the same for everybody
 };
 
-/// Opens the PPD file and marks its defaults. PPDs come from strangers: a file that is no regular
-/// file, larger than any printer's PPD, or not a PPD is refused before or by libcups' parser, and
-/// one that ends too early after it.
+/// Reads and checks the PPD file (readPPD), has libcups open what was read, and marks the defaults.
+/// On any thread: the PPD may be handed on to another one.
 OpenedPPD openPPD(const QString &path, PPDTexts texts = PPDTexts::AsWritten);

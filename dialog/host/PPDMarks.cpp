@@ -2,6 +2,8 @@
 
 #include "platform/pde/PPDText.h"
 
+#include <QtCore/QHash>
+
 #include <algorithm>
 #include <vector>
 
@@ -28,7 +30,39 @@ void unmark(ppd_file_t *ppd, ppd_choice_t *choice)
     cupsArrayRemove(ppd->marked, choice);
 }
 
+void addMarks(ppd_file_t *ppd, ppd_group_t *groups, int count, QList<PPDMark> &marks)
+{
+    for (int group = 0; group < count; ++group) {
+        for (int index = 0; index < groups[group].num_options; ++index) {
+            const ppd_option_t &option = groups[group].options[index];
+            const bool isFound = ppdFindOption(ppd, option.keyword) == &option;
+            const ppd_choice_t *choice = ppdFindMarkedChoice(ppd, option.keyword);
+            if (isFound && choice && qstrcmp(option.keyword, "PageRegion") != 0)
+                marks += PPDMark{ppdName(option.keyword), ppdName(choice->choice)};
+        }
+        addMarks(ppd, groups[group].subgroups, groups[group].num_subgroups, marks);
+    }
+}
+
 } // namespace
+
+QList<PPDMark> marksOf(ppd_file_t *ppd)
+{
+    QList<PPDMark> marks;
+    if (ppd)
+        addMarks(ppd, ppd->groups, ppd->num_groups, marks);
+    return marks;
+}
+
+QList<PPDMark> changedMarks(ppd_file_t *ppd, const QList<PPDMark> &before)
+{
+    QHash<QString, QString> known;
+    for (const PPDMark &mark : before)
+        known.insert(mark.keyword, mark.choice);
+    QList<PPDMark> changed = marksOf(ppd);
+    changed.removeIf([&](const PPDMark &mark) { return known.value(mark.keyword) == mark.choice; });
+    return changed;
+}
 
 bool forceChoice(ppd_file_t *ppd, const QString &keyword, const QString &choice)
 {

@@ -1,8 +1,26 @@
 #pragma once
 
+#include <QtCore/QList>
 #include <QtCore/QString>
 
 #include <cups/ppd.h>
+
+/// A choice that is marked.
+struct PPDMark
+{
+    QString keyword;
+    QString choice;
+
+    bool operator==(const PPDMark &) const = default;
+};
+
+/// The marks in the order of the PPD, one for each option that libcups finds by its keyword: the
+/// other options of the same keyword count for nothing. Without `PageRegion`, which every PPD
+/// carries beside `PageSize`.
+QList<PPDMark> marksOf(ppd_file_t *ppd);
+
+/// Those of the marks that are not among `before`.
+QList<PPDMark> changedMarks(ppd_file_t *ppd, const QList<PPDMark> &before);
 
 /// Marks the choice when the PPD has the option and the choice, and marking it adds no conflict
 /// with the PPD's own constraints. Otherwise the earlier marks stand and the answer is false.

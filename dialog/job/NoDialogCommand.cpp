@@ -14,6 +14,8 @@
 
 #include <QtCore/QCoreApplication>
 
+#include <utility>
+
 using enum ExitStatus;
 
 namespace {
@@ -74,16 +76,13 @@ ExitStatus Run::record()
 ExitStatus Run::findPrinter()
 {
     const PrinterSource source = sourceOf(m_line);
-    m_printer.queue = source.queue;
-    if (!source.ppdPath.isNull())
-        return Done;
-    const auto fetched =
+    auto fetched =
         waitUnlessEnded<FetchedPrinter>(m_signals, kServerPatience, [source](CallGuard &guard) {
             return fetchPrinter(source, guard);
         });
-    if (!fetched)
-        return failWith(Server, silentServer(source.server).sentence);
-    m_printer = *fetched;
+    m_printer = fetched ? std::move(*fetched) : givenUpPrinter(source);
+    if (!source.ppdPath.isNull())
+        return Done;
     if (!m_printer.ppd.answer.isGood())
         return failWith(statusOf(m_printer.ppd.answer), m_printer.ppd.answer.sentence);
     if (m_printer.queue.queue.isEmpty())
@@ -98,22 +97,23 @@ ExitStatus Run::open()
     PrinterSource source = sourceOf(m_line);
     source.queue = m_printer.queue;
     const QList<JobOption> saved = savedOptions(source.queue);
-    if (source.ppdPath.isNull() && !m_printer.ppd.file) {
+    if (m_printer.ppdPath.isNull()) {
         m_job.setPrinter(source, {nullptr, applySavedOptions(nullptr, saved), {}});
         return Done;
     }
     SessionOptions options;
-    options.ppdPath = source.ppdPath.isNull() ? m_printer.ppd.file->fileName() : source.ppdPath;
+    options.ppdPath = m_printer.ppdPath;
     options.bundlePath = m_line.plugIn;
     options.callObserver = [this](const HostCallback::Call &call) {
         if (call.kind == HostCallback::Call::Kind::WillChangePPDOptionKeyValue && !call.accepted)
             m_refusal = {call.keyword, call.choice};
     };
     QString recordError;
-    OpenedPrinter printer = openPrinter(options, saved, [&](HostSession &session) {
-        if (m_recorder)
-            m_recorder->attach(session, &recordError);
-    });
+    OpenedPrinter printer =
+        openPrinter(options, std::move(m_printer.opened), saved, [&](HostSession &session) {
+            if (m_recorder)
+                m_recorder->attach(session, &recordError);
+        });
     if (!printer.session)
         return failWith(Usage,
                         source.ppdPath.isNull()

@@ -117,7 +117,7 @@ QStringList PrintJob::ownKeywords() const
     if (!m_session)
         return keywords;
     for (const QString &keyword : QStringList(kDuplex) + m_session->watchedKeywords())
-        if (findOption(ppd(), keyword) && !keywords.contains(keyword))
+        if (isChoice(ppd(), keyword) && !keywords.contains(keyword))
             keywords += keyword;
     return keywords;
 }
@@ -130,6 +130,7 @@ JobOptions PrintJob::options() const
     values.format = m_formatWithoutSession;
     if (m_session) {
         values.ppd = m_session->ppd();
+        values.defaultMarks = m_session->defaultMarks();
         values.format = m_session->pageFormat();
         values.ticket = m_session->ticket();
     }

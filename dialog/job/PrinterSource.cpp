@@ -1,14 +1,18 @@
 #include "dialog/job/PrinterSource.h"
 
 #include "dialog/cups/Destinations.h"
+#include "dialog/cups/ServerConnection.h"
 #include "dialog/host/HostPaper.h"
+#include "dialog/host/PPDSentence.h"
 
 #include <QtCore/QCoreApplication>
 
-FetchedPrinter fetchPrinter(const PrinterSource &source, CallGuard &guard)
+#include <utility>
+
+namespace {
+
+void askServer(const PrinterSource &source, CallGuard &guard, FetchedPrinter &fetched)
 {
-    FetchedPrinter fetched;
-    fetched.queue = source.queue;
     if (fetched.queue.queue.isEmpty()) {
         const DefaultQueue byServer = serverDefault(source.server, guard);
         fetched.queue = byServer.queue;
@@ -16,7 +20,35 @@ FetchedPrinter fetchPrinter(const PrinterSource &source, CallGuard &guard)
     }
     if (!fetched.queue.queue.isEmpty())
         fetched.ppd = fetchQueuePPD(source.server, fetched.queue.queue, guard);
+    if (fetched.ppd.file)
+        fetched.ppdPath = fetched.ppd.file->fileName();
+}
+
+} // namespace
+
+FetchedPrinter fetchPrinter(const PrinterSource &source, CallGuard &guard)
+{
+    FetchedPrinter fetched;
+    fetched.queue = source.queue;
+    fetched.ppdPath = source.ppdPath;
+    if (source.ppdPath.isNull())
+        askServer(source, guard, fetched);
+    guard.stampSignOfLife();
+    if (!fetched.ppdPath.isNull())
+        fetched.opened = openPPD(fetched.ppdPath, PPDTexts::InUserLanguage);
     return fetched;
+}
+
+FetchedPrinter givenUpPrinter(const PrinterSource &source)
+{
+    FetchedPrinter none;
+    none.queue = source.queue;
+    none.ppdPath = source.ppdPath;
+    if (source.ppdPath.isNull())
+        none.ppd.answer = silentServer(source.server);
+    else
+        none.opened.error = unreadablePPD(source.ppdPath);
+    return none;
 }
 
 QueueName wantedQueue(const QString &queue, const QString &instance)
@@ -31,15 +63,14 @@ QString errorOfQueue(const QString &error, const QString &path, const QString &q
         .arg(queue, QString(error).replace(path, queue + QStringLiteral(".ppd")));
 }
 
-OpenedPrinter openPrinter(const SessionOptions &options, const QList<JobOption> &saved,
+OpenedPrinter openPrinter(const SessionOptions &options, OpenedPPD ppd,
+                          const QList<JobOption> &saved,
                           const std::function<void(HostSession &)> &beforeStart)
 {
-    HostSession::Opened opened = HostSession::open(options);
-    if (!opened.session) {
+    HostSession::Opened opened = HostSession::open(options, std::move(ppd));
+    if (!opened.session)
         return {nullptr, applySavedOptions(nullptr, saved), opened.ppdError};
-    }
     HostSession &session = *opened.session;
-    ppdLocalize(session.ppd());
     const SavedSettings settings = applySavedOptions(session.ppd(), saved);
     session.pageFormat().paper = markedPaper(session.ppd());
     session.pageFormat().orientation = settings.orientation;

@@ -19,16 +19,22 @@ struct PrinterSource
     QString ppdPath; ///< null: the queue's own
 };
 
-/// What a server told of a queue.
+/// What a server told of a queue, or what is in a PPD file.
 struct FetchedPrinter
 {
-    QueueName queue; ///< null: none was named, and the server has no default
-    QueuePPD ppd;
+    QueueName queue;  ///< null: none was named, and the server has no default
+    QueuePPD ppd;     ///< as a server gave it; of a PPD file nothing
+    QString ppdPath;  ///< of the file that was opened; null: there is none
+    OpenedPPD opened; ///< only where there is a path
 };
 
-/// Asks the server for the PPD of the source's queue, or of the server's default queue when none is
-/// named. Blocks: call it in a ServerCall.
+/// Opens the source's PPD file. Without one it asks the server for the PPD of the source's queue,
+/// or of the server's default queue when none is named, and opens that. Blocks: call it in a
+/// ServerCall.
 FetchedPrinter fetchPrinter(const PrinterSource &source, CallGuard &guard);
+
+/// What stands for it when a ServerCall has given it up: no PPD, and why.
+FetchedPrinter givenUpPrinter(const PrinterSource &source);
 
 /// The queue that was asked for on the command line, else the user's usual one.
 QueueName wantedQueue(const QString &queue, const QString &instance);
@@ -44,7 +50,8 @@ struct OpenedPrinter
 /// The error of a PPD that was fetched into the file at `path`, as it concerns the queue.
 QString errorOfQueue(const QString &error, const QString &path, const QString &queue);
 
-/// Opens the PPD, marks what the user has saved for the queue, takes the PPD's texts in the user's
-/// language, and starts the panels. `beforeStart` may follow the session from its beginning.
-OpenedPrinter openPrinter(const SessionOptions &options, const QList<JobOption> &saved,
+/// Opens a session on the PPD, marks what the user has saved for the queue, and starts the panels.
+/// `beforeStart` may follow the session from its beginning. On the main thread.
+OpenedPrinter openPrinter(const SessionOptions &options, OpenedPPD ppd,
+                          const QList<JobOption> &saved,
                           const std::function<void(HostSession &)> &beforeStart = {});

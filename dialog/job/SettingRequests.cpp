@@ -149,7 +149,7 @@ QString missing(PrintJob &job, const QString &keyword, const QString &choice)
                    QT_TRANSLATE_NOOP("SettingRequests", "%1 cannot be set: the queue has no PPD."))
             .arg(displayText(keyword));
     ppd_option_t *option = findOption(job.ppd(), keyword);
-    if (!option)
+    if (!isChoice(job.ppd(), keyword))
         return sentence(QT_TRANSLATE_NOOP("SettingRequests", "The printer has no setting %1."))
             .arg(displayText(keyword));
     return findChoice(option, choice) ? QString() : badValue(keyword, choice);

@@ -1,9 +1,9 @@
 #include "dialog/files/PathBytes.h"
 #include "dialog/host/HostSession.h"
+#include "dialog/host/PPDMarks.h"
 #include "dialog/replay/LackingNames.h"
 #include "dialog/replay/Recorder.h"
 #include "platform/foundation/PreferredLanguages.h"
-#include "platform/pde/PPDText.h"
 #include "platform/toolkit/KeyWindow.h"
 
 #include <QtCore/QCoreApplication>
@@ -17,16 +17,11 @@ namespace {
 
 constexpr int kMostCopies = 1000;
 
-// `PageRegion` follows `PageSize`.
-QJsonObject marksBesideDefaults(ppd_file_t *ppd)
+QJsonObject marksBesideDefaults(const HostSession &session)
 {
     QJsonObject marks;
-    for (ppd_option_t *option = ppdFirstOption(ppd); option; option = ppdNextOption(ppd)) {
-        const QString keyword = ppdName(option->keyword);
-        const QString choice = markedChoice(ppd, keyword);
-        if (!choice.isNull() && choice != ppdName(option->defchoice) && keyword != "PageRegion"_L1)
-            marks.insert(keyword, choice);
-    }
+    for (const PPDMark &mark : changedMarks(session.ppd(), session.defaultMarks()))
+        marks.insert(mark.keyword, mark.choice);
     return marks;
 }
 
@@ -125,7 +120,7 @@ OrderedMembers Recorder::openEvent(const QString &ppd) const
 {
     const SessionOptions &options = m_session->options();
     const OrderedMembers optional{
-        {u"marks"_s, marksBesideDefaults(m_session->ppd())},
+        {u"marks"_s, marksBesideDefaults(*m_session)},
         {u"ticket"_s, jsonObject(m_session->ticket().values())},
         {u"paper"_s, paperValue(m_session->pageFormat().paper)},
         {u"alerts"_s, jsonObject(options.alertMemory.value_or(m_session->alertMemory()))},

@@ -2,6 +2,7 @@
 #include "dialog/window/DialogWindow.h"
 #include "dialog/window/PageSetupPane.h"
 #include "dialog/window/PanelPane.h"
+#include "dialog/window/SentSettings.h"
 #include "platform/pde/PPDText.h"
 #include "platform/toolkit/PlainText.h"
 #include "platform/toolkit/SpokenName.h"
@@ -169,11 +170,20 @@ void DialogWindow::setHeight(int height)
 
 QList<SummarySection> DialogWindow::summarySections()
 {
-    QList<SummarySection> sections{ownSection()};
-    for (const Part &part : m_parts)
-        if (part.panel)
-            sections +=
-                sectionOf(part.panel->panel->panelName(), m_job.session()->summary(*part.panel));
+    QList<SummarySection> sections;
+    QList<PanelSummary> told;
+    for (const Part &part : m_parts) {
+        if (!part.panel)
+            continue;
+        PDEPanel &panel = *part.panel->panel;
+        const QVariantMap info = m_job.session()->summary(*part.panel);
+        told += {panel.supportedPPDOptionKeys().value_or(QStringList()), info};
+        sections += sectionOf(panel.panelName(), info);
+    }
+    // Panels may change what is sent while they sum it up.
+    SummarySection own = ownSection();
+    own.lines += linesOfTheRest(m_job, told);
+    sections.prepend(own);
     return sections;
 }
 

@@ -9,38 +9,46 @@
 
 #include <QtCore/QFileInfo>
 
+#include <memory>
+#include <utility>
+
 using namespace Qt::StringLiterals;
+
+/// What people read while the printer is looked for.
+QString DialogWindow::waitFor(const PrinterSource &source)
+{
+    if (!source.ppdPath.isNull())
+        return tr("Reading %1…").arg(QFileInfo(source.ppdPath).fileName());
+    return source.queue.queue.isEmpty()
+               ? tr("Looking for a printer…")
+               : tr("Asking %1 about its settings…").arg(source.queue.queue);
+}
 
 void DialogWindow::findPrinter(const PrinterSource &source)
 {
     setState(State::Searching);
     m_header->printers()->setCurrent(source.queue);
-    const QString wait = source.queue.queue.isEmpty()
-                             ? tr("Looking for a printer…")
-                             : tr("Asking %1 about its settings…").arg(source.queue.queue);
-    m_notice->tell(NoticeBar::Kind::Information, wait);
+    m_notice->tell(NoticeBar::Kind::Information, waitFor(source));
     delete m_call;
     m_call = new ServerCall(
         this, kServerPatience,
         [this, source](CallGuard &guard) -> ServerCall::Outcome {
-            const FetchedPrinter fetched = fetchPrinter(source, guard);
-            return [this, source, fetched] { takePrinter(source, fetched); };
+            const auto fetched = std::make_shared<FetchedPrinter>(fetchPrinter(source, guard));
+            return [this, source, fetched] { takePrinter(source, *fetched); };
         },
         [this, source] {
-            FetchedPrinter none;
-            none.queue = source.queue;
-            none.ppd.answer = silentServer(source.server);
+            FetchedPrinter none = givenUpPrinter(source);
             takePrinter(source, none);
         });
 }
 
-void DialogWindow::takePrinter(const PrinterSource &source, const FetchedPrinter &fetched)
+void DialogWindow::takePrinter(const PrinterSource &source, FetchedPrinter &fetched)
 {
     PrinterSource found = source;
     found.queue = fetched.queue;
     m_header->printers()->setCurrent(found.queue);
-    if (fetched.ppd.file) {
-        openPPD(found, fetched.ppd.file->fileName());
+    if (!fetched.ppdPath.isNull()) {
+        openPPD(found, fetched);
         return;
     }
     const bool isUsable = fetched.ppd.answer.isGood() && !found.queue.queue.isEmpty();
@@ -65,17 +73,19 @@ void DialogWindow::takePrinter(const PrinterSource &source, const FetchedPrinter
         listPrinters();
 }
 
-void DialogWindow::openPPD(const PrinterSource &source, const QString &path)
+void DialogWindow::openPPD(const PrinterSource &source, FetchedPrinter &fetched)
 {
+    const QString path = fetched.ppdPath;
     SessionOptions options;
     options.ppdPath = path;
     options.bundlePath = m_line.plugIn;
     options.callObserver = [this](const HostCallback::Call &call) { noteAnswer(call); };
     OpenedPrinter printer =
-        openPrinter(options, savedOptions(source.queue), [this](HostSession &session) {
-            if (m_recorder && m_recordingError.isNull())
-                m_recorder->attach(session, &m_recordingError);
-        });
+        openPrinter(options, std::move(fetched.opened), savedOptions(source.queue),
+                    [this](HostSession &session) {
+                        if (m_recorder && m_recordingError.isNull())
+                            m_recorder->attach(session, &m_recordingError);
+                    });
     const bool isFile = !source.ppdPath.isNull();
     const QString title =
         printer.session ? ppdText(printer.session->ppd()->nickname) : QFileInfo(path).fileName();

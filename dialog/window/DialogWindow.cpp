@@ -149,10 +149,7 @@ void DialogWindow::start()
     PrinterSource source{m_line.server, {}, m_line.ppd};
     if (m_line.ppd.isNull() || !m_line.queue.isNull())
         source.queue = wantedQueue(m_line.queue, m_line.instance);
-    if (source.ppdPath.isNull())
-        findPrinter(source);
-    else
-        openPPD(source, source.ppdPath);
+    findPrinter(source);
 }
 
 void DialogWindow::setState(State state)

@@ -122,8 +122,9 @@ private:
 
     // DialogPrinter.cpp
     void findPrinter(const PrinterSource &source);
-    void takePrinter(const PrinterSource &source, const FetchedPrinter &fetched);
-    void openPPD(const PrinterSource &source, const QString &path);
+    static QString waitFor(const PrinterSource &source);
+    void takePrinter(const PrinterSource &source, FetchedPrinter &fetched);
+    void openPPD(const PrinterSource &source, FetchedPrinter &fetched);
     void makeRequestedSettings();
     Notice whatIsMissing() const;
     void listPrinters();

@@ -184,6 +184,10 @@
         <translation>プリンターを探しています…</translation>
     </message>
     <message>
+        <source>Reading %1…</source>
+        <translation>%1 を読み込んでいます…</translation>
+    </message>
+    <message>
         <source>Asking %1 about its settings…</source>
         <translation>%1 の設定を読み込んでいます…</translation>
     </message>
@@ -555,8 +559,52 @@
         <translation>PPD ファイル %1 を読み込めません。</translation>
     </message>
     <message>
-        <source>The PPD file %1 is too large.</source>
-        <translation>PPD ファイル %1 は大きすぎます。</translation>
+        <source>The PPD file %1 is too large: it has more than %2 bytes.</source>
+        <translation>PPD ファイル %1 は大きすぎます（%2 バイトを超えています）。</translation>
+    </message>
+    <message>
+        <source>The PPD file %1 cannot be used: it has more than %2 lines.</source>
+        <translation>PPD ファイル %1 は使用できません。行数が %2 を超えています。</translation>
+    </message>
+    <message>
+        <source>The PPD file %1 cannot be used: it has more than %2 groups of options.</source>
+        <translation>PPD ファイル %1 は使用できません。設定項目のグループが %2 個を超えています。</translation>
+    </message>
+    <message>
+        <source>The PPD file %1 cannot be used: it has more than %2 options.</source>
+        <translation>PPD ファイル %1 は使用できません。設定項目が %2 個を超えています。</translation>
+    </message>
+    <message>
+        <source>The PPD file %1 cannot be used: an option has more than %2 choices.</source>
+        <translation>PPD ファイル %1 は使用できません。選択肢が %2 個を超える設定項目があります。</translation>
+    </message>
+    <message>
+        <source>The PPD file %1 cannot be used: it has more than %2 papers.</source>
+        <translation>PPD ファイル %1 は使用できません。用紙が %2 種類を超えています。</translation>
+    </message>
+    <message>
+        <source>The PPD file %1 cannot be used: it has more than %2 custom parameters.</source>
+        <translation>PPD ファイル %1 は使用できません。カスタムパラメーターが %2 個を超えています。</translation>
+    </message>
+    <message>
+        <source>The PPD file %1 cannot be used: it has more than %2 UIConstraints.</source>
+        <translation>PPD ファイル %1 は使用できません。UIConstraints が %2 個を超えています。</translation>
+    </message>
+    <message>
+        <source>The PPD file %1 cannot be used: it has more than %2 cupsUIConstraints.</source>
+        <translation>PPD ファイル %1 は使用できません。cupsUIConstraints が %2 個を超えています。</translation>
+    </message>
+    <message>
+        <source>The PPD file %1 cannot be used: its cupsUIConstraints name more than %2 options.</source>
+        <translation>PPD ファイル %1 は使用できません。cupsUIConstraints に書かれた設定項目が %2 個を超えています。</translation>
+    </message>
+    <message>
+        <source>The PPD file %1 cannot be used: it has more than %2 attributes.</source>
+        <translation>PPD ファイル %1 は使用できません。属性が %2 個を超えています。</translation>
+    </message>
+    <message>
+        <source>The PPD file %1 is damaged: it cannot be unpacked. Get it again.</source>
+        <translation>PPD ファイル %1 は壊れているため展開できません。入手し直してください。</translation>
     </message>
     <message>
         <source>%1 is not a PPD file (%2).</source>

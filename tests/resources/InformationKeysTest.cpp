@@ -63,6 +63,19 @@ TEST(InformationKeys, ListEveryView)
     EXPECT_FALSE(views.isEmpty());
 }
 
+TEST(InformationKeys, NameTheKeysOfTheTicket)
+{
+    const QString prefix = u"com.velkaro.print.PrintSettings."_s;
+    EXPECT_EQ(information().value(u"PMTicketKeyKeywords"_s).toObject(),
+              (QJsonObject{{prefix + u"T2T_Brightness"_s, u"VKBrightness"_s},
+                           {prefix + u"T2T_Contrast"_s, u"VKContrast"_s},
+                           {prefix + u"T2T_Red"_s, u"VKRed"_s},
+                           {prefix + u"T2T_Green"_s, u"VKGreen"_s},
+                           {prefix + u"T2T_Blue"_s, u"VKBlue"_s}}));
+    EXPECT_EQ(list(u"PMTicketFoldStateKeys"_s),
+              (QStringList{prefix + u"advancedItem"_s, prefix + u"advancedcolorItem"_s}));
+}
+
 TEST(InformationKeys, WatchTheFaxOutput)
 {
     EXPECT_EQ(list(u"PMPPDKeysWatched"_s), QStringList{u"VKOutput"_s});

@@ -1,9 +1,13 @@
 #include "dialog/cups/JobOptions.h"
+#include "dialog/cups/SavedSettings.h"
 #include "dialog/cups/StandardAttributes.h"
 #include "dialog/host/PPDFile.h"
 #include "dialog/host/PPDMarks.h"
 #include "tests/built/BuiltFiles.h"
 #include "tests/endtoend/JobPrinting.h"
+#include "tests/support/Files.h"
+
+#include <QtCore/QTemporaryDir>
 
 #include <gtest/gtest.h>
 
@@ -17,6 +21,7 @@ protected:
     JobOptionsOf() : m_opened(openPPD(samplePPD(u"velkaro-px-t900"_s)))
     {
         m_values.ppd = m_opened.ppd.get();
+        m_values.defaultMarks = m_opened.defaults;
         m_values.format.paper = PMPaper{u"A4"_s, u"A4"_s, 595, 842};
     }
 
@@ -119,6 +124,68 @@ TEST_F(JobOptionsOf, AValueThatMustNotTravelIsNamed)
                      u"The setting com.velkaro.evil cannot be sent: \"a "
                      "FoomaticRIPCommandLine: b\" is no value that a print server may be "
                      "given."_s}));
+}
+
+/// A PPD whose options say what is not theirs to say, by their defaults alone.
+QByteArray hostilePPD()
+{
+    const auto option = [](const QByteArray &keyword, const QByteArray &one,
+                           const QByteArray &other) {
+        const auto inGroup = [&](const QByteArray &group, const QByteArray &choice) {
+            return "*OpenGroup: " + group + "\n*OpenUI *" + keyword + "/Paper Type: PickOne\n" +
+                   "*Default" + keyword + ": " + choice + "\n*" + keyword + ' ' + one +
+                   ": \"\"\n*" + keyword + ' ' + other + ": \"\"\n*CloseUI: *" + keyword +
+                   "\n*CloseGroup: " + group + '\n';
+        };
+        return inGroup("First", one) + inGroup("Second", other);
+    };
+    return readFile(samplePPD(u"velkaro-px-t900"_s)) + option("copies", "1", "999") +
+           option("page-ranges", "1-9", "2-2") + option("raw", "false", "true") +
+           option("job-hold-until", "no-hold", "indefinite") + option("Finish", "Matt", "Shiny");
+}
+
+class JobOptionsOfAHostilePPD : public JobOptionsOf
+{
+protected:
+    JobOptionsOfAHostilePPD()
+    {
+        const QTemporaryDir folder;
+        const QString path = folder.filePath(u"hostile.ppd"_s);
+        writeFile(path, hostilePPD());
+        m_opened = openPPD(path);
+        m_values.ppd = m_opened.ppd.get();
+        m_values.defaultMarks = m_opened.defaults;
+    }
+};
+
+TEST_F(JobOptionsOfAHostilePPD, AreNoneWhileNothingIsPicked)
+{
+    ASSERT_TRUE(m_values.ppd) << m_opened.error.toStdString();
+    EXPECT_EQ(made(), QStringList());
+}
+
+TEST_F(JobOptionsOfAHostilePPD, HaveNoReservedKeywordHoweverItIsMarked)
+{
+    ASSERT_TRUE(m_values.ppd) << m_opened.error.toStdString();
+    for (const auto &[keyword, choices] :
+         {std::pair(u"copies"_s, QStringList{u"1"_s, u"999"_s}),
+          std::pair(u"raw"_s, QStringList{u"false"_s, u"true"_s}),
+          std::pair(u"job-hold-until"_s, QStringList{u"no-hold"_s, u"indefinite"_s})})
+        for (const QString &choice : choices) {
+            ASSERT_TRUE(forceChoice(m_values.ppd, keyword, choice));
+            EXPECT_EQ(made(), QStringList()) << keyword.toStdString();
+        }
+}
+
+TEST_F(JobOptionsOfAHostilePPD, KeepTheSavedSettingsOfThoseNames)
+{
+    ASSERT_TRUE(m_values.ppd) << m_opened.error.toStdString();
+    const SavedSettings saved = applySavedOptions(
+        m_values.ppd, {{u"copies"_s, u"3"_s}, {u"job-hold-until"_s, u"evening"_s}});
+    EXPECT_EQ(saved.settings.copies, 3);
+    m_values.settings = saved.settings;
+    m_values.saved = saved.others;
+    EXPECT_EQ(made(), (QStringList{u"job-hold-until=evening"_s, u"copies=3"_s}));
 }
 
 struct Travelling

@@ -62,19 +62,20 @@ TEST_P(PPDThatIsNone, IsRefusedWithASentence)
 
 INSTANTIATE_TEST_SUITE_P(
     Texts, PPDThatIsNone,
-    testing::Values(
-        BadPPD{"Empty", "", "%1 is not a PPD file (Missing PPD-Adobe-4.x header)."},
-        BadPPD{"OtherText", "Hello\n", kNoAsterisk},
-        BadPPD{"Binary", QByteArray("\x7f\x45LF\x02\x01\x01\x00\x00\xff\xfe\n\x80\x81", 14),
-               kNoAsterisk},
-        BadPPD{"CutInTheHeader", cut("*PPD-Ad"),
-               "%1 is not a PPD file (Missing PPD-Adobe-4.x header)."},
-        BadPPD{"CutAfterTheHeader", cut("*PPD-Adobe: \"4.3\"\n"), kIncomplete},
-        BadPPD{"CutInAKeyword", cut("*ShortNick"), kIncomplete},
-        BadPPD{"CutInAValue", cut("*NickName: \"Velkaro"), kIncomplete},
-        BadPPD{"CutInAChoice", cut("*Finish Shiny/Shiny: \""), kIncomplete},
-        BadPPD{"CutBetweenChoices", cut("*Finish Matt/Matt: \"\"\n"), kIncomplete},
-        BadPPD{"TooLarge", QByteArray(50LL * 1024 * 1024, '\n'), "The PPD file %1 is too large."}),
+    testing::Values(BadPPD{"Empty", "", "%1 is not a PPD file (Missing PPD-Adobe-4.x header)."},
+                    BadPPD{"OtherText", "Hello\n", kNoAsterisk},
+                    BadPPD{"Binary",
+                           QByteArray("\x7f\x45LF\x02\x01\x01\x00\x00\xff\xfe\n\x80\x81", 14),
+                           kNoAsterisk},
+                    BadPPD{"CutInTheHeader", cut("*PPD-Ad"),
+                           "%1 is not a PPD file (Missing PPD-Adobe-4.x header)."},
+                    BadPPD{"CutAfterTheHeader", cut("*PPD-Adobe: \"4.3\"\n"), kIncomplete},
+                    BadPPD{"CutInAKeyword", cut("*ShortNick"), kIncomplete},
+                    BadPPD{"CutInAValue", cut("*NickName: \"Velkaro"), kIncomplete},
+                    BadPPD{"CutInAChoice", cut("*Finish Shiny/Shiny: \""), kIncomplete},
+                    BadPPD{"CutBetweenChoices", cut("*Finish Matt/Matt: \"\"\n"), kIncomplete},
+                    BadPPD{"TooLarge", QByteArray(50LL * 1024 * 1024, '\n'),
+                           "The PPD file %1 is too large: it has more than 4194304 bytes."}),
     [](const auto &testCase) { return std::string(testCase.param.name); });
 
 TEST(PPDFile, AMissingFileIsSaidToBeMissing)
@@ -102,6 +103,18 @@ TEST(PPDFile, AFolderAndAPipeAreNoPPDs)
     const QString pipe = folder.filePath(u"pipe"_s);
     ASSERT_EQ(mkfifo(QFile::encodeName(pipe).constData(), 0600), 0);
     EXPECT_EQ(openPPD(pipe).error, pipe + u" is not a PPD file."_s);
+    EXPECT_EQ(openPPD(u"/dev/zero"_s).error, u"/dev/zero is not a PPD file."_s);
+}
+
+// What libcups does not do today it might do tomorrow: the pipe would hang it.
+TEST(PPDFile, NothingThatAPPDNamesIsOpened)
+{
+    const QTemporaryDir folder;
+    const QString pipe = folder.filePath(u"pipe"_s);
+    ASSERT_EQ(mkfifo(QFile::encodeName(pipe).constData(), 0600), 0);
+    const QString path = folder.filePath(u"the.ppd"_s);
+    writeFile(path, smallPrinter().text() + "*Include: \"" + QFile::encodeName(pipe) + "\"\n");
+    EXPECT_TRUE(openPPD(path).ppd);
 }
 
 TEST(PPDFile, AFileThatThisUserMayNotReadIsSaidSo)

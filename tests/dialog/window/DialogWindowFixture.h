@@ -19,6 +19,8 @@
 class DialogWindowFixture : public testing::Test
 {
 protected:
+    static constexpr int kPatience = 20000; // ms
+
     DialogWindowFixture()
     {
         m_line.ppd = samplePPD(QStringLiteral("velkaro-px-t900"));
@@ -34,6 +36,14 @@ protected:
         m_window->start();
         m_window->show();
         ASSERT_TRUE(QTest::qWaitForWindowActive(m_window.get()));
+        waitForPrinter();
+    }
+
+    void waitForPrinter()
+    {
+        ASSERT_TRUE(QTest::qWaitFor(
+            [this] { return m_window->state() != DialogWindow::State::Searching; }, kPatience));
+        QCoreApplication::processEvents(); // what the settings of the command line have put off
     }
 
     template <typename Widget> Widget *part(const char *name)

@@ -1,3 +1,5 @@
+#include "dialog/cups/ServerCall.h"
+#include "dialog/host/PPDFile.h"
 #include "platform/foundation/NotificationCenter.h"
 #include "platform/toolkit/KeyWindow.h"
 #include "platform/toolkit/NumberField.h"
@@ -8,6 +10,8 @@
 #include <QtCore/QProcess>
 #include <QtWidgets/QDoubleSpinBox>
 #include <QtWidgets/QLineEdit>
+
+#include <sys/stat.h>
 
 using namespace Qt::StringLiterals;
 
@@ -25,6 +29,45 @@ TEST_F(Window, ShowsThePanelsBetweenPageSetupAndSummary)
     EXPECT_TRUE(part<QWidget>("mediaTypePopup")->isVisible());
     EXPECT_EQ(notice(), QString());
     EXPECT_EQ(keyWindow(), m_window.get());
+}
+
+// libcups remembers for each thread how its last PPD was opened.
+TEST_F(Window, ReadsThePPDOnAnotherThread)
+{
+    const QString bad = m_folder.filePath(u"bad.ppd"_s);
+    writeFile(bad, "Hello\n");
+    ASSERT_FALSE(openPPD(bad).ppd);
+    m_window = std::make_unique<DialogWindow>(m_line);
+    m_window->start();
+    EXPECT_EQ(m_window->state(), DialogWindow::State::Searching);
+    EXPECT_EQ(notice(), u"Reading velkaro-px-t900.ppd…"_s);
+    waitForPrinter();
+    EXPECT_EQ(m_window->state(), DialogWindow::State::Ready);
+    EXPECT_EQ(notice(), QString());
+    int line = 0;
+    EXPECT_EQ(ppdLastError(&line), PPD_MISSING_ASTERISK);
+}
+
+TEST_F(Window, RefusesAPipeForAPPDAtOnce)
+{
+    m_line.ppd = m_folder.filePath(u"pipe"_s);
+    ASSERT_EQ(mkfifo(QFile::encodeName(m_line.ppd).constData(), 0600), 0);
+    open();
+    EXPECT_EQ(m_window->state(), DialogWindow::State::NoPrinter);
+    EXPECT_EQ(notice(), m_line.ppd + u" is not a PPD file."_s);
+    m_window->reject();
+    EXPECT_EQ(m_window->exitStatus(), ExitStatus::Usage);
+}
+
+TEST_F(Window, MayBeClosedWhileThePPDIsRead)
+{
+    m_window = std::make_unique<DialogWindow>(m_line);
+    m_window->start();
+    m_window->show();
+    m_window->reject();
+    m_window.reset();
+    EXPECT_TRUE(waitForServerThreads(std::chrono::milliseconds(kPatience)));
+    QCoreApplication::processEvents(); // what the thread has left behind finds nobody
 }
 
 TEST_F(Window, ShowsForeignTextsAsTheyStand)
@@ -154,7 +197,8 @@ TEST_F(Window, SummarizesTheWholeJob)
     const QString all = summary().join(u'|');
     EXPECT_TRUE(all.startsWith(u"Page Setup|Paper|A4|Orientation|Portrait|Copies|3|Pages|All|"
                                "Two-Sided Printing|Off|Output|Printer|"
-                               "Color Matching|By the Printer|Print Settings|"_s))
+                               "Color Matching|By the Printer|Blue|0|Brightness|0|Contrast|0|"
+                               "Green|0|Red|0|Print Settings|"_s))
         << all.toStdString();
     EXPECT_TRUE(all.contains(u"|Print Settings|"_s)) << all.toStdString();
     EXPECT_TRUE(all.contains(u"|Media Type|Other Glossy Paper|"_s)) << all.toStdString();
@@ -293,6 +337,7 @@ TEST_F(Window, CanBeRecordedForReplay)
     m_window->start();
     m_window->show();
     ASSERT_TRUE(QTest::qWaitForWindowActive(m_window.get()));
+    waitForPrinter();
     pick("mediaTypePopup", u"Glossy"_s);
     m_window->reject();
     EXPECT_TRUE(m_window->finishRecording());

@@ -1,0 +1,95 @@
+#include "dialog/window/SentSettings.h"
+
+#include "dialog/cups/StandardAttributes.h"
+#include "dialog/job/Papers.h"
+#include "platform/pde/PPDText.h"
+
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// The value that the panel tells under the title; invalid when it tells none, or tells it of
+/// several things: then it is not known of which.
+QVariant toldUnder(const QString &title, const PanelSummary &panel)
+{
+    const QStringList titles = panel.info.value(u"Summary Display Order"_s).toStringList();
+    return titles.count(title) == 1 ? panel.info.value(title) : QVariant();
+}
+
+/// The option of the PPD whose text is the setting's title: its own, or for a value of the ticket
+/// the one that the plug-in names. Null without one.
+ppd_option_t *optionOf(const PrintJob &job, const QString &name)
+{
+    if (isChoice(job.ppd(), name))
+        return findOption(job.ppd(), name);
+    return job.session() ? findOption(job.ppd(), job.session()->keywordOfTicketKey(name)) : nullptr;
+}
+
+bool isPaperTold(const PrintJob &job, const QString &choice)
+{
+    const std::optional<PMPaper> paper = job.paper();
+    return choice == job.mappedPaper() ||
+           (paper &&
+            (choice == paper->ppdName || choice == customPageSize(paper->width, paper->height)));
+}
+
+bool isScalingTold(const PrintJob &job)
+{
+    return paperOfChoice(job.ppd(), job.mappedPaper()).has_value();
+}
+
+/// Whether the dialog itself has a line of it.
+bool isTold(const PrintJob &job, const JobOption &option)
+{
+    static const QStringList always{u"copies"_s, u"page-ranges"_s, u"orientation-requested"_s};
+    if (option.name == "PageSize"_L1)
+        return isPaperTold(job, option.value);
+    if (option.name == "fit-to-page"_L1 || option.name == "print-scaling"_L1)
+        return isScalingTold(job);
+    if (option.name == "AP_ColorMatchingMode"_L1)
+        return job.offersColorMatching();
+    return always.contains(option.name) || job.ownKeywords().contains(option.name);
+}
+
+bool isTold(const PrintJob &job, const JobOption &option, const PanelSummary &panel)
+{
+    const ppd_option_t *named = optionOf(job, option.name);
+    const QVariant told = named ? toldUnder(ppdText(named->text), panel) : QVariant();
+    return isChoice(job.ppd(), option.name) ? told.isValid() && panel.keywords.contains(option.name)
+                                            : told.isValid() && told.toString() == option.value;
+}
+
+/// Without the standard attributes that say the same as a choice.
+QList<JobOption> sentOptions(const PrintJob &job)
+{
+    QList<JobOption> options = job.options().options;
+    const QList<JobOption> doubles = standardAttributesBeside(options);
+    options.removeIf([&](const JobOption &option) { return doubles.contains(option); });
+    return options;
+}
+
+SummarySection::Line lineOf(const PrintJob &job, const JobOption &option)
+{
+    ppd_option_t *named = optionOf(job, option.name);
+    const ppd_choice_t *choice = findChoice(named, option.value);
+    const QString title = named ? ppdText(named->text) : QString();
+    const QString value = choice ? ppdText(choice->text) : QString();
+    return {title.isEmpty() ? option.name : title, value.isEmpty() ? option.value : value};
+}
+
+} // namespace
+
+QList<SummarySection::Line> linesOfTheRest(const PrintJob &job, const QList<PanelSummary> &panels)
+{
+    const QStringList foldStates = job.session() ? job.session()->foldStateKeys() : QStringList();
+    QList<SummarySection::Line> lines;
+    for (const JobOption &option : sentOptions(job)) {
+        const bool isToldByPanel = std::ranges::any_of(
+            panels, [&](const PanelSummary &panel) { return isTold(job, option, panel); });
+        if (!isToldByPanel && !isTold(job, option) && !foldStates.contains(option.name))
+            lines += lineOf(job, option);
+    }
+    return lines;
+}

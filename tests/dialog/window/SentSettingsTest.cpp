@@ -1,0 +1,127 @@
+#include "tests/dialog/window/DialogWindowFixture.h"
+#include "tests/support/PPDSource.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// The option in two groups, each with a default of its own.
+QByteArray inTwoGroups(const QByteArray &keyword, const QByteArray &text, const QByteArray &one,
+                       const QByteArray &other)
+{
+    const auto group = [&](const QByteArray &name, const QByteArray &choice) {
+        return "*OpenGroup: " + name + "\n*OpenUI *" + keyword + '/' + text +
+               ": PickOne\n*Default" + keyword + ": " + choice + "\n*" + keyword + ' ' + one +
+               ": \"\"\n*" + keyword + ' ' + other + ": \"\"\n*CloseUI: *" + keyword +
+               "\n*CloseGroup: " + name + '\n';
+    };
+    return group("First", one) + group("Second", other);
+}
+
+/// What is sent, and what the summary says of it.
+class SentSettings : public DialogWindowFixture
+{
+protected:
+    void open(const QByteArray &added, const QByteArray &sample = sampleText(u"velkaro-px-t900"_s))
+    {
+        m_line.ppd = m_folder.filePath(u"the.ppd"_s);
+        writeFile(m_line.ppd, sample + added);
+        DialogWindowFixture::open();
+        ASSERT_EQ(m_window->state(), DialogWindow::State::Ready) << notice().toStdString();
+    }
+
+    /// The lines of the dialog's own part, "title=value", after those that it always has.
+    QStringList ownLines()
+    {
+        const QStringList texts = summary();
+        QStringList lines;
+        for (qsizetype index = 1; index < texts.indexOf(u"Print Settings"_s); index += 2)
+            lines += texts[index] + u'=' + texts[index + 1];
+        return lines.mid(lines.indexOf(u"Color Matching=By the Printer"_s) + 1);
+    }
+
+    /// The options of the job, "name=value", without those of the panels' ticket.
+    QStringList sent()
+    {
+        click("printButton");
+        EXPECT_EQ(m_window->exitStatus(), ExitStatus::Done) << notice().toStdString();
+        QStringList options;
+        for (const QByteArray &line : written().split('\n'))
+            if (line.startsWith("Option: ") && !line.contains("com.velkaro."))
+                options += QString::fromUtf8(line.mid(8));
+        return options;
+    }
+
+    const QStringList m_enhancement{u"Blue=0"_s, u"Brightness=0"_s, u"Contrast=0"_s, u"Green=0"_s,
+                                    u"Red=0"_s};
+};
+
+TEST_F(SentSettings, OfAnUntouchedJobAreTheEnhancementsThatNoPanelTells)
+{
+    open({});
+    EXPECT_EQ(ownLines(), m_enhancement);
+    EXPECT_EQ(sent(), QStringList());
+}
+
+TEST_F(SentSettings, ThatAPanelTellsAreNotToldTwice)
+{
+    m_line.choices = {{u"VKMediaType"_s, u"Glossy"_s}, {u"VKColorEnhancement"_s, u"ON"_s}};
+    open({});
+    EXPECT_EQ(ownLines(), QStringList());
+    EXPECT_EQ(summary().count(u"Brightness"_s), 1);
+    EXPECT_TRUE(sent().contains(u"VKMediaType=Glossy"_s));
+}
+
+TEST_F(SentSettings, AreNotWhatAPPDSaysUnderReservedNames)
+{
+    open(inTwoGroups("copies", "Paper Type", "1", "999") +
+         inTwoGroups("page-ranges", "Paper Type", "1-9", "2-2") +
+         inTwoGroups("raw", "Paper Type", "false", "true") +
+         inTwoGroups("job-hold-until", "Paper Type", "no-hold", "indefinite") +
+         inTwoGroups("Finish", "Finish", "Matt", "Shiny") +
+         "*OpenUI *Weight/Weight: PickOne\n*DefaultWeight: HEAVY\n*Weight Light: \"\"\n"
+         "*Weight Heavy: \"\"\n*CloseUI: *Weight\n");
+    EXPECT_EQ(ownLines(), m_enhancement);
+    EXPECT_EQ(sent(), QStringList());
+}
+
+TEST_F(SentSettings, ThatNoPanelTellsAreToldInThePrintersWords)
+{
+    m_line.choices = {{u"Finish"_s, u"Matt"_s}};
+    open("*OpenUI *Finish/Surface & Touch: PickOne\n*DefaultFinish: Shiny\n*Finish Shiny: \"\"\n"
+         "*Finish Matt/Not Shiny: \"\"\n*CloseUI: *Finish\n");
+    m_window->job().session()->writeTicket(u"org.example.other"_s, 5);
+    EXPECT_EQ(ownLines(), (QStringList{u"Surface & Touch=Not Shiny"_s} + m_enhancement +
+                           QStringList{u"org.example.other=5"_s}));
+    EXPECT_EQ(sent(), (QStringList{u"Finish=Matt"_s, u"org.example.other=5"_s}));
+}
+
+TEST_F(SentSettings, ThatSayTheSameAsAChoiceAreToldByIt)
+{
+    m_line.choices = {{u"ColorModel"_s, u"Gray"_s}};
+    open("*OpenUI *ColorModel/Colors: PickOne\n*DefaultColorModel: RGB\n*ColorModel RGB: \"\"\n"
+         "*ColorModel Gray/None: \"\"\n*CloseUI: *ColorModel\n");
+    EXPECT_EQ(ownLines(), QStringList{u"Colors=None"_s} + m_enhancement);
+    EXPECT_EQ(sent(), (QStringList{u"ColorModel=Gray"_s, u"print-color-mode=monochrome"_s}));
+}
+
+TEST_F(SentSettings, ThatAPanelTellsUnderAnAmbiguousTitleAreToldByTheDialog)
+{
+    m_line.choices = {{u"VKMediaType"_s, u"Glossy"_s}};
+    QByteArray sample = sampleText(u"velkaro-px-t900"_s);
+    const qsizetype title = sample.indexOf("*OpenUI *VKResolution/") + 22;
+    sample.replace(title, sample.indexOf(':', title) - title, "Media Type");
+    open({}, sample);
+    EXPECT_TRUE(ownLines().contains(u"Media Type=Other Glossy Paper"_s))
+        << ownLines().join(u'|').toStdString();
+}
+
+TEST_F(SentSettings, OfAReservedNameCannotBeAskedFor)
+{
+    m_line.choices = {{u"raw"_s, u"true"_s}};
+    open(inTwoGroups("raw", "Paper Type", "false", "true"));
+    EXPECT_EQ(m_window->settingError(), u"The printer has no setting raw."_s);
+    EXPECT_EQ(sent(), QStringList());
+}
+
+} // namespace
