@@ -1,0 +1,112 @@
+#include "tests/servers/GoodAnswers.h"
+
+#include "tests/built/BuiltFiles.h"
+#include "tests/servers/IppBytes.h"
+
+#include <QtCore/QFile>
+
+#include <algorithm>
+#include <memory>
+
+namespace {
+
+struct Deleter
+{
+    void operator()(ipp_t *message) const { ippDelete(message); }
+};
+using Message = std::unique_ptr<ipp_t, Deleter>;
+
+struct Source
+{
+    const QByteArray &bytes;
+    qsizetype position = 0;
+};
+
+ssize_t readFrom(void *context, ipp_uchar_t *buffer, size_t bytes)
+{
+    auto *source = static_cast<Source *>(context);
+    const QByteArray part = source->bytes.mid(source->position, static_cast<qsizetype>(bytes));
+    std::copy(part.begin(), part.end(), buffer);
+    source->position += part.size();
+    return part.size();
+}
+
+ssize_t writeTo(void *context, ipp_uchar_t *buffer, size_t bytes)
+{
+    static_cast<QByteArray *>(context)->append(reinterpret_cast<const char *>(buffer),
+                                               static_cast<qsizetype>(bytes));
+    return static_cast<ssize_t>(bytes);
+}
+
+Message parsed(const QByteArray &bytes)
+{
+    Message message(ippNew());
+    Source source{bytes};
+    ipp_state_t state = IPP_STATE_IDLE;
+    while (state != IPP_STATE_DATA && state != IPP_STATE_ERROR)
+        state = ippReadIO(&source, readFrom, 1, nullptr, message.get());
+    return message;
+}
+
+QByteArray written(const Message &message)
+{
+    QByteArray bytes;
+    ipp_state_t state = IPP_STATE_IDLE;
+    while (state != IPP_STATE_DATA && state != IPP_STATE_ERROR)
+        state = ippWriteIO(&bytes, writeTo, 1, nullptr, message.get());
+    return bytes;
+}
+
+int isOfJob(void *, ipp_t *, ipp_attribute_t *attribute)
+{
+    return ippGetGroupTag(attribute) == IPP_TAG_JOB ? 1 : 0;
+}
+
+QByteArray thePrinter()
+{
+    return IppBytes()
+        .group(IPP_TAG_PRINTER)
+        .attribute(IPP_TAG_NAME, "printer-name", "photo")
+        .attribute(IPP_TAG_TEXT, "printer-info", "The good printer")
+        .boolean("printer-is-accepting-jobs", true)
+        .integer(IPP_TAG_ENUM, "printer-state", IPP_PSTATE_IDLE)
+        .ended();
+}
+
+QByteArray theJob(const Message &request, const QByteArray &createdJob)
+{
+    const Message answer(ippNewResponse(request.get()));
+    ippAddInteger(answer.get(), IPP_TAG_JOB, IPP_TAG_INTEGER, "job-id", kGoodJob);
+    ippAddInteger(answer.get(), IPP_TAG_JOB, IPP_TAG_ENUM, "job-state", IPP_JSTATE_PENDING);
+    ippAddString(answer.get(), IPP_TAG_JOB, IPP_TAG_KEYWORD, "job-state-reasons", nullptr, "none");
+    if (!createdJob.isEmpty())
+        ippCopyAttributes(answer.get(), parsed(createdJob).get(), 0, isOfJob, nullptr);
+    return written(answer);
+}
+
+} // namespace
+
+QByteArray goodAnswer(const QByteArray &request, const QByteArray &createdJob)
+{
+    const Message asked = parsed(request);
+    switch (ippGetOperation(asked.get())) {
+    case IPP_OP_CUPS_GET_PRINTERS:
+    case IPP_OP_CUPS_GET_DEFAULT:
+    case IPP_OP_GET_PRINTER_ATTRIBUTES:
+        return thePrinter();
+    case IPP_OP_CREATE_JOB:
+    case IPP_OP_SEND_DOCUMENT:
+    case IPP_OP_GET_JOB_ATTRIBUTES:
+        return theJob(asked, createdJob);
+    case IPP_OP_CANCEL_JOB:
+        return IppBytes().ended();
+    default:
+        return IppBytes(IPP_STATUS_ERROR_OPERATION_NOT_SUPPORTED).ended();
+    }
+}
+
+QByteArray goodPPD()
+{
+    QFile file(samplePPD(QStringLiteral("velkaro-px-t900")));
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}

@@ -1,0 +1,65 @@
+#include "dialog/cups/Destinations.h"
+#include "dialog/cups/JobSubmission.h"
+#include "dialog/cups/QueuePPD.h"
+#include "tests/servers/GoodAnswers.h"
+#include "tests/servers/ScriptedServer.h"
+#include "tests/support/Files.h"
+#include "tests/support/QStringPrinting.h"
+
+#include <QtCore/QTemporaryDir>
+
+#include <gtest/gtest.h>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+// What every table of misbehaviours stands on: without a script nothing is wrong.
+
+TEST(ScriptedServerTest, WithoutAScriptListsItsQueue)
+{
+    const ScriptedServer server;
+    CallGuard guard;
+    const DestinationList list = listDestinations(server.address(), guard);
+    EXPECT_EQ(list.answer.sentence, QString());
+    ASSERT_EQ(list.destinations.size(), 1);
+    EXPECT_EQ(list.destinations[0].name, (QueueName{u"photo"_s, {}}));
+    EXPECT_EQ(list.destinations[0].description, u"The good printer"_s);
+    EXPECT_EQ(serverDefault(server.address(), guard).queue.queue, u"photo"_s);
+}
+
+TEST(ScriptedServerTest, WithoutAScriptGivesThePPD)
+{
+    const ScriptedServer server;
+    CallGuard guard;
+    const QueuePPD queue = fetchQueuePPD(server.address(), u"photo"_s, guard);
+    ASSERT_TRUE(queue.file) << queue.answer.sentence.toStdString();
+    EXPECT_EQ(readFile(queue.file->fileName()), goodPPD());
+    EXPECT_EQ(server.requests(), QStringList{u"GET /printers/photo.ppd"_s});
+}
+
+TEST(ScriptedServerTest, WithoutAScriptTakesAJobAsItWasSent)
+{
+    const ScriptedServer server;
+    const QTemporaryDir folder;
+    JobRequest job;
+    job.server = server.address();
+    job.queue = u"photo"_s;
+    job.options = {{u"VKMediaType"_s, u"Glossy"_s}, {u"copies"_s, u"2"_s}};
+    job.documents = {folder.filePath(u"first.pdf"_s), folder.filePath(u"second.pdf"_s)};
+    writeFile(job.documents[0], QByteArray(100000, '1'));
+    writeFile(job.documents[1], "second");
+    CallGuard guard;
+    const JobReceipt receipt = submitJob(job, guard);
+    EXPECT_EQ(receipt.answer.sentence, QString());
+    EXPECT_EQ(receipt.id, kGoodJob);
+    EXPECT_EQ(receipt.notes, QStringList());
+    EXPECT_EQ(server.requests(), (QStringList{u"Create-Job"_s, u"Send-Document"_s,
+                                              u"Send-Document"_s, u"Get-Job-Attributes"_s}));
+    const QList<QByteArray> sent = server.bodies(u"Send-Document"_s);
+    ASSERT_EQ(sent.size(), 2);
+    EXPECT_TRUE(sent[0].endsWith(QByteArray(100000, '1')));
+    EXPECT_TRUE(sent[1].endsWith("second"));
+}
+
+} // namespace
