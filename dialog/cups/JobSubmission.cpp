@@ -14,11 +14,6 @@ namespace {
 
 constexpr std::chrono::milliseconds kPatienceForCancelling{2000};
 
-bool succeeded(const IppHandle &response)
-{
-    return response && cupsLastError() <= IPP_STATUS_OK_CONFLICTING;
-}
-
 IppHandle createJobRequest(const JobRequest &job)
 {
     IppHandle request = queueRequest(IPP_OP_CREATE_JOB, job.queue);
@@ -44,26 +39,19 @@ bool writeDocument(ServerConnection &connection, QIODevice &document)
     std::array<char, 65536> buffer{};
     qint64 length = 0;
     while ((length = document.read(buffer.data(), buffer.size())) > 0) {
-        if (connection.guard().isCancelled())
+        if (!connection.upload(buffer.data(), length))
             return false;
-        const auto size = static_cast<std::size_t>(length);
-        if (cupsWriteRequestData(connection.http(), buffer.data(), size) != HTTP_STATUS_CONTINUE)
-            return false;
-        connection.guard().stampSignOfLife();
     }
     return length == 0;
 }
 
-bool sendDocument(ServerConnection &connection, const QByteArray &resource, IppHandle request,
-                  QIODevice &document)
+bool sendDocument(ServerConnection &connection, const QByteArray &resource,
+                  const IppHandle &request, QIODevice &document)
 {
-    const http_status_t status = cupsSendRequest(connection.http(), request.get(),
-                                                 resource.constData(), CUPS_LENGTH_VARIABLE);
-    if (status != HTTP_STATUS_CONTINUE || !writeDocument(connection, document))
+    if (!connection.beginUpload(request, resource) || !writeDocument(connection, document))
         return false;
-    const IppHandle response(cupsGetResponse(connection.http(), resource.constData()));
-    connection.guard().stampSignOfLife();
-    return succeeded(response);
+    connection.endUpload();
+    return connection.succeeded();
 }
 
 /// On a connection of its own: the old one may be in the middle of a document.
@@ -83,18 +71,19 @@ bool sendDocuments(ServerConnection &connection, const JobRequest &job, int id,
 {
     for (std::size_t index = 0; index < documents.size(); ++index) {
         QFile &file = *documents[index];
-        IppHandle request =
+        const IppHandle request =
             sendDocumentRequest(job, id, QFileInfo(file).fileName(), index + 1 == documents.size());
-        if (!sendDocument(connection, queueResource(job.queue), std::move(request), file))
+        if (!sendDocument(connection, queueResource(job.queue), request, file))
             return false;
     }
     return true;
 }
 
+/// Zero for an answer without a number that a job can have.
 int createdJob(const IppHandle &response)
 {
     ipp_attribute_t *id = ippFindAttribute(response.get(), "job-id", IPP_TAG_INTEGER);
-    return id ? ippGetInteger(id, 0) : 0;
+    return id ? qMax(0, ippGetInteger(id, 0)) : 0;
 }
 
 } // namespace
@@ -111,7 +100,7 @@ JobReceipt submitJob(const JobRequest &request, CallGuard &guard)
     IppHandle created;
     if (connection.isConnected())
         created = connection.request(createJobRequest(request), queueResource(request.queue));
-    receipt.id = succeeded(created) ? createdJob(created) : 0;
+    receipt.id = connection.succeeded() && created ? createdJob(created) : 0;
     if (receipt.id == 0) {
         receipt.answer = connection.lastAnswer(request.queue);
         return receipt;
