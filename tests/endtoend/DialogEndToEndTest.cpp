@@ -4,6 +4,7 @@
 #include "tests/built/BuiltFiles.h"
 #include "tests/endtoend/JobPrinting.h"
 #include "tests/endtoend/PrintServerFixture.h"
+#include "tests/servers/ScriptedServer.h"
 
 #include <QtCore/QTimer>
 #include <QtNetwork/QTcpServer>
@@ -11,6 +12,7 @@
 #include <QtWidgets/QAbstractButton>
 #include <QtWidgets/QAbstractItemView>
 #include <QtWidgets/QApplication>
+#include <QtWidgets/QLabel>
 #include <QtWidgets/QMessageBox>
 #include <QtWidgets/QTabWidget>
 
@@ -181,6 +183,19 @@ TEST_F(Dialog, AServerThatGoesDownLosesNothingOfTheJob)
               u"The print server %1 cannot be reached."_s.arg(other.address()));
     EXPECT_EQ(part<PopUpButton>(*window, "mediaTypePopup")->selectedObject(), u"Glossy"_s);
     EXPECT_EQ(window->exitStatus(), ExitStatus::Cancelled);
+}
+
+TEST_F(Dialog, APrinterListThatFailsIsSaidAndThePrinterStays)
+{
+    const ScriptedServer faulty(
+        {{"CUPS-Get-Printers",
+          answerWith(httpAnswer("500 Internal Server Error", "text/plain", "no"))}});
+    const auto window = open(lineFor(faulty.address(), u"photo"_s));
+    EXPECT_EQ(window->state(), DialogWindow::State::Ready);
+    const auto *state = part<QLabel>(*window, "printerState");
+    EXPECT_TRUE(QTest::qWaitFor([&] { return state->text() != u"Searching for printers…"_s; }));
+    EXPECT_EQ(state->text(), u"The other printers cannot be listed"_s);
+    EXPECT_EQ(part<PopUpButton>(*window, "printerPopup")->selectedObject(), u"photo"_s);
 }
 
 TEST_F(Dialog, StaysUsableWhileAServerIsSilent)
