@@ -5,6 +5,8 @@
 
 #include <gtest/gtest.h>
 
+#include <array>
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -48,12 +50,17 @@ TEST(AnIppAnswer, CutAnywhereIsNone)
         EXPECT_FALSE(readIppAnswer(whole.left(length)).ipp) << length;
 }
 
+/// Tags of all kinds, and lengths at their ends.
+constexpr std::array kTellingBytes{0x00, 0x01, 0x02, 0x03, 0x04, 0x0F, 0x10, 0x13, 0x21, 0x22, 0x23,
+                                   0x30, 0x31, 0x32, 0x33, 0x34, 0x35, 0x36, 0x37, 0x41, 0x42, 0x44,
+                                   0x45, 0x47, 0x48, 0x4A, 0x4B, 0x7F, 0x80, 0xFE, 0xFF};
+
 TEST(AnIppAnswer, WithAnyByteChangedIsReadOrIsNone)
 {
     const QByteArray whole = message();
     int read = 0;
     for (qsizetype position = 0; position < whole.size(); ++position) {
-        for (int byte = 0; byte < 256; ++byte) {
+        for (int byte : kTellingBytes) {
             QByteArray changed = whole;
             changed[position] = static_cast<char>(byte);
             read += readIppAnswer(changed).ipp ? 1 : 0;
@@ -61,7 +68,7 @@ TEST(AnIppAnswer, WithAnyByteChangedIsReadOrIsNone)
     }
     // Most changes are of texts and numbers.
     EXPECT_GT(read, 0);
-    EXPECT_LT(read, whole.size() * 256);
+    EXPECT_LT(read, whole.size() * static_cast<int>(kTellingBytes.size()));
 }
 
 TEST(AnIppAnswer, MayNestCollectionsToTheLimit)
@@ -72,7 +79,7 @@ TEST(AnIppAnswer, MayNestCollectionsToTheLimit)
     EXPECT_TRUE(isWholeMessage(nested(kDeepestCollection)));
     EXPECT_TRUE(readIppAnswer(nested(kDeepestCollection)).ipp);
     EXPECT_FALSE(isWholeMessage(nested(kDeepestCollection + 1)));
-    EXPECT_FALSE(isWholeMessage(nested(1'000'000)));
+    EXPECT_FALSE(isWholeMessage(nested(100'000)));
 }
 
 TEST(AnIppAnswer, MayHaveValuesToTheLimit)
