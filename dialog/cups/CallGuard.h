@@ -9,7 +9,8 @@ inline constexpr std::chrono::milliseconds kServerPatience{8000};
 /// Lets one thread stop what another one is waiting for.
 ///
 /// The thread that talks to a server stamps every sign of life; the one that waits for the outcome
-/// may cancel. A long job is never given up while it moves.
+/// may cancel. Silence ends an exchange, and so does its time when that was limited: a server that
+/// says one byte a second is alive. A long job is never given up while it moves.
 class CallGuard
 {
 public:
@@ -30,11 +31,20 @@ public:
     Clock::duration silence() const { return Clock::now() - m_lastSign.load(); }
     bool isOutOfPatience() const { return silence() >= m_patience; }
 
+    /// From now on and up to the next sign of life, silence may last so many times the patience.
+    void allowSilence(int patiences) { m_lastSign = Clock::now() + (patiences - 1) * m_patience; }
+
+    /// From now on the server may take so many times the patience, signs of life or not.
+    void limitTime(int patiences) { m_end = Clock::now() + patiences * m_patience; }
+    void unlimitTime() { m_end = Clock::time_point::max(); }
+    bool isOutOfTime() const { return Clock::now() >= m_end.load(); }
+
     /// Whether going on to wait makes sense.
-    bool mayWait() const { return !isCancelled() && !isOutOfPatience(); }
+    bool mayWait() const { return !isCancelled() && !isOutOfPatience() && !isOutOfTime(); }
 
 private:
     std::chrono::milliseconds m_patience;
     std::atomic<Clock::time_point> m_lastSign{Clock::now()};
+    std::atomic<Clock::time_point> m_end{Clock::time_point::max()};
     mutable int m_cancelled = 0;
 };

@@ -2,27 +2,129 @@
 
 #include "dialog/cups/ServerConnection.h"
 
-#include <memory>
+#include <algorithm>
+#include <array>
 
 namespace {
 
-constexpr auto kStopped = "5"; // IPP_PSTATE_STOPPED as text
+constexpr std::array kWanted{"printer-name", "printer-info", "printer-location", "printer-state",
+                             "printer-is-accepting-jobs"};
 
-QString value(const cups_dest_t &dest, const char *name)
+QString text(ipp_attribute_t *attribute)
 {
-    return QString::fromUtf8(cupsGetOption(name, dest.num_options, dest.options));
+    return QString::fromUtf8(ippGetString(attribute, 0, nullptr));
 }
 
-Destination destination(const cups_dest_t &dest)
+/// Takes what the attribute says, where it has the syntax that it should have.
+void take(ipp_attribute_t *attribute, Destination &destination)
 {
-    Destination found;
-    found.name = {QString::fromUtf8(dest.name), QString::fromUtf8(dest.instance)};
-    found.description = value(dest, "printer-info");
-    found.location = value(dest, "printer-location");
-    found.isDefault = dest.is_default != 0;
-    found.isAccepting = value(dest, "printer-is-accepting-jobs") != QLatin1String("false");
-    found.isStopped = value(dest, "printer-state") == QLatin1String(kStopped);
+    const QByteArrayView name(ippGetName(attribute));
+    const ipp_tag_t tag = ippGetValueTag(attribute);
+    if (name == "printer-name" && tag == IPP_TAG_NAME)
+        destination.name.queue = text(attribute);
+    else if (name == "printer-info" && tag == IPP_TAG_TEXT)
+        destination.description = shownServerText(text(attribute));
+    else if (name == "printer-location" && tag == IPP_TAG_TEXT)
+        destination.location = shownServerText(text(attribute));
+    else if (name == "printer-state" && tag == IPP_TAG_ENUM)
+        destination.isStopped = ippGetInteger(attribute, 0) == IPP_PSTATE_STOPPED;
+    else if (name == "printer-is-accepting-jobs" && tag == IPP_TAG_BOOLEAN)
+        destination.isAccepting = ippGetBoolean(attribute, 0) != 0;
+}
+
+/// One destination for each group of a printer's attributes, in the order of the answer.
+QList<Destination> destinationsOf(ipp_t *answer)
+{
+    QList<Destination> found;
+    bool isInPrinter = false;
+    for (ipp_attribute_t *one = ippFirstAttribute(answer); one; one = ippNextAttribute(answer)) {
+        const bool wasInPrinter = isInPrinter;
+        isInPrinter = ippGetGroupTag(one) == IPP_TAG_PRINTER; // groups are parted by nameless ones
+        if (isInPrinter && !wasInPrinter)
+            found += Destination();
+        if (isInPrinter)
+            take(one, found.last());
+    }
     return found;
+}
+
+/// A name that -d and lpoptions can say too.
+bool isQueueName(const QString &name)
+{
+    return !name.isEmpty() && std::ranges::all_of(name, [](QChar one) {
+        return one.isPrint() && !one.isSpace() && one != u'/' && one != u'#';
+    });
+}
+
+/// In order, each name once: to a server, those that differ in the case of letters are one.
+QList<Destination> sorted(QList<Destination> found)
+{
+    const auto key = [](const Destination &one) { return one.name.queue.toCaseFolded(); };
+    found.removeIf([](const Destination &one) { return !isQueueName(one.name.queue); });
+    std::ranges::stable_sort(found, {}, key);
+    const auto rest = std::ranges::unique(found, {}, key);
+    found.erase(rest.begin(), rest.end());
+    return found;
+}
+
+QList<Destination> withInstances(const QList<Destination> &queues)
+{
+    const QList<QueueName> instances = savedInstances();
+    QList<Destination> all;
+    for (const Destination &queue : queues) {
+        all += queue;
+        const qsizetype first = all.size();
+        for (const QueueName &instance : instances) {
+            if (instance.queue == queue.name.queue) {
+                all += queue;
+                all.last().name = instance;
+            }
+        }
+        std::ranges::sort(all.begin() + first, all.end(), {},
+                          [](const Destination &one) { return one.name.instance.toCaseFolded(); });
+    }
+    return all;
+}
+
+IppHandle listRequest()
+{
+    IppHandle request(ippNewRequest(IPP_OP_CUPS_GET_PRINTERS)); // and classes
+    ippAddString(request.get(), IPP_TAG_OPERATION, IPP_TAG_NAME, "requesting-user-name", nullptr,
+                 cupsUser());
+    ippAddStrings(request.get(), IPP_TAG_OPERATION, IPP_TAG_KEYWORD, "requested-attributes",
+                  static_cast<int>(kWanted.size()), nullptr, kWanted.data());
+    return request;
+}
+
+/// A server without queues, or without a default one, says that it found nothing.
+bool foundNothing(const ServerConnection &connection)
+{
+    return connection.lastEnd().kind == ExchangeEnd::Kind::Answered &&
+           connection.lastEnd().status == IPP_STATUS_ERROR_NOT_FOUND;
+}
+
+DefaultQueue defaultOf(ServerConnection &connection)
+{
+    IppHandle request(ippNewRequest(IPP_OP_CUPS_GET_DEFAULT));
+    ippAddString(request.get(), IPP_TAG_OPERATION, IPP_TAG_KEYWORD, "requested-attributes", nullptr,
+                 "printer-name");
+    const IppHandle response = connection.request(std::move(request), "/");
+    if (!connection.succeeded())
+        return {{}, foundNothing(connection) ? ServerAnswer() : connection.lastAnswer()};
+    ipp_attribute_t *name = ippFindAttribute(response.get(), "printer-name", IPP_TAG_NAME);
+    const QString queue = name ? text(name) : QString();
+    return {{isQueueName(queue) ? queue : QString(), {}}, {}};
+}
+
+void markDefault(QList<Destination> &destinations, const QueueName &name)
+{
+    for (Destination &one : destinations)
+        one.isDefault = one.name == name;
+}
+
+bool isListed(const QList<Destination> &destinations, const QueueName &name)
+{
+    return std::ranges::find(destinations, name, &Destination::name) != destinations.end();
 }
 
 } // namespace
@@ -30,33 +132,22 @@ Destination destination(const cups_dest_t &dest)
 DestinationList listDestinations(const QString &server, CallGuard &guard)
 {
     ServerConnection connection(server, guard);
+    const IppHandle response = connection.request(listRequest(), "/");
     DestinationList list;
-    if (!connection.isConnected()) {
-        list.answer = connection.lastAnswer();
+    if (!connection.succeeded()) {
+        if (!foundNothing(connection))
+            list.answer = connection.lastAnswer();
         return list;
     }
-    cups_dest_t *dests = nullptr;
-    const int count = cupsGetDests2(connection.http(), &dests);
-    for (int index = 0; index < count; ++index)
-        list.destinations += destination(dests[index]);
-    cupsFreeDests(count, dests);
-    // A server that fell silent gives an empty list and claims success.
-    if (list.destinations.isEmpty() && !guard.mayWait())
-        list.answer = connection.lastAnswer();
+    list.destinations = withInstances(sorted(destinationsOf(response.get())));
+    const QueueName usual = usualQueue();
+    markDefault(list.destinations,
+                isListed(list.destinations, usual) ? usual : defaultOf(connection).queue);
     return list;
 }
 
 DefaultQueue serverDefault(const QString &server, CallGuard &guard)
 {
     ServerConnection connection(server, guard);
-    if (!connection.isConnected())
-        return {{}, connection.lastAnswer()};
-    IppHandle request(ippNewRequest(IPP_OP_CUPS_GET_DEFAULT));
-    ippAddString(request.get(), IPP_TAG_OPERATION, IPP_TAG_KEYWORD, "requested-attributes", nullptr,
-                 "printer-name");
-    const IppHandle response = connection.request(std::move(request), "/");
-    if (!response || !guard.mayWait())
-        return {{}, connection.lastAnswer()};
-    ipp_attribute_t *name = ippFindAttribute(response.get(), "printer-name", IPP_TAG_NAME);
-    return {{QString::fromUtf8(name ? ippGetString(name, 0, nullptr) : nullptr), {}}, {}};
+    return defaultOf(connection);
 }

@@ -24,8 +24,9 @@ struct DestinationList
     ServerAnswer answer;
 };
 
-/// Every destination of the server (null: the user's usual one), with the user's instances. Blocks:
-/// call it in a ServerCall.
+/// Every queue and class of the server (null: the user's usual one), with the user's instances.
+/// Printers that announce themselves in the network and have no queue on the server are not among
+/// them: there is nothing to print to by that name. Blocks: call it in a ServerCall.
 DestinationList listDestinations(const QString &server, CallGuard &guard);
 
 /// The queue that a server prints to by default; a null queue when it has none.

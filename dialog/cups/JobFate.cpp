@@ -50,15 +50,13 @@ JobFate askFate(ServerConnection &connection, const QString &queue, int jobId)
     ippAddStrings(request.get(), IPP_TAG_OPERATION, IPP_TAG_KEYWORD, "requested-attributes",
                   static_cast<int>(wanted.size()), nullptr, wanted.data());
     const IppHandle job = connection.request(std::move(request), queueResource(queue));
-    return job && cupsLastError() <= IPP_STATUS_OK_CONFLICTING ? fateOf(job.get())
-                                                               : JobFate::Unknown;
+    return job && connection.succeeded() ? fateOf(job.get()) : JobFate::Unknown;
 }
 
 bool cancelJob(ServerConnection &connection, const QString &queue, int jobId)
 {
     if (!connection.isConnected())
         return false;
-    const IppHandle answer =
-        connection.request(jobRequest(IPP_OP_CANCEL_JOB, queue, jobId), queueResource(queue));
-    return answer && cupsLastError() <= IPP_STATUS_OK_CONFLICTING;
+    connection.request(jobRequest(IPP_OP_CANCEL_JOB, queue, jobId), queueResource(queue));
+    return connection.succeeded();
 }

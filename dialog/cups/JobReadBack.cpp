@@ -51,7 +51,7 @@ QString difference(ipp_t *job, const JobOption &option)
         return {};
     return sentence(QT_TRANSLATE_NOOP("JobReadBack", "The server changed the setting %1 from %2 "
                                                      "to %3."))
-        .arg(option.name, option.value, kept);
+        .arg(option.name, option.value, shownServerText(kept));
 }
 
 IppHandle jobRequest(const QString &queue, int jobId, const QList<JobOption> &sent)
@@ -76,7 +76,7 @@ QStringList differences(ipp_t *job, int jobId, const QList<JobOption> &sent)
     QStringList notes;
     if (const char *note = stateNote(job))
         notes += sentence(note).arg(QString::number(jobId),
-                                    attributeText(find(job, "job-state-reasons")));
+                                    shownServerText(attributeText(find(job, "job-state-reasons"))));
     for (const JobOption &option : sent) {
         const QString note = difference(job, option);
         if (!note.isNull())
@@ -88,8 +88,12 @@ QStringList differences(ipp_t *job, int jobId, const QList<JobOption> &sent)
 QStringList readJobBack(ServerConnection &connection, const QString &queue, int jobId,
                         const QList<JobOption> &sent)
 {
-    const IppHandle job = connection.request(jobRequest(queue, jobId, sent), queueResource(queue));
-    if (!job || cupsLastError() > IPP_STATUS_OK_CONFLICTING)
-        return {};
-    return differences(job.get(), jobId, sent);
+    const IppHandle job = connection.request(jobRequest(queue, jobId, sent), queueResource(queue),
+                                             kPatiencesPerReadBack);
+    if (job)
+        return connection.succeeded() ? differences(job.get(), jobId, sent) : QStringList();
+    return {sentence(QT_TRANSLATE_NOOP("JobReadBack", "Whether the server keeps all settings of "
+                                                      "job %1 is not known: its account of the job "
+                                                      "cannot be read."))
+                .arg(jobId)};
 }

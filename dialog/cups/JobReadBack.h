@@ -8,7 +8,8 @@
 
 /// Asks the server for the accepted job and compares it with the options that were sent. Gives one
 /// sentence for each option that the job lacks or has otherwise, and one when the job is held or
-/// has ended badly; none /// when all is as sent, or the server does not tell.
+/// has ended badly; none when all is as sent, or the server says that it does not tell. An answer
+/// that cannot be had or read is one sentence too: it changes nothing in that the job was accepted.
 QStringList readJobBack(ServerConnection &connection, const QString &queue, int jobId,
                         const QList<JobOption> &sent);
 

@@ -4,8 +4,7 @@
 
 namespace {
 
-constexpr int kPatiencesForAnswer = 3; // to a document: so many times the guard's
-constexpr double kAnswerTick = 0.25;   // seconds between two looks at the guard
+constexpr int kPatiencesForAnswer = 3; // to a document, which a server may be busy with
 
 IppHandle sendDocumentRequest(const JobRequest &job, int id, const QString &name, bool isLast)
 {
@@ -28,59 +27,32 @@ struct Attempt
 
 bool write(Attempt &attempt, const char *bytes, qint64 length)
 {
-    ServerConnection &connection = attempt.connection;
-    const auto size = static_cast<std::size_t>(length);
-    if (connection.guard().isCancelled() ||
-        cupsWriteRequestData(connection.http(), bytes, size) != HTTP_STATUS_CONTINUE)
+    if (!attempt.connection.upload(bytes, length))
         return false;
-    connection.guard().stampSignOfLife();
     attempt.progress.add(length);
     return true;
 }
 
-/// Who waits for an answer, and from when on a silent server is out of patience.
-struct AnswerWait
+/// The answer decides whether the job prints.
+Sent takeAnswer(ServerConnection &connection)
 {
-    CallGuard &guard;
-    CallGuard::Clock::time_point until;
-};
-
-int mayWaitForAnswer(http_t *, void *context)
-{
-    const auto *wait = static_cast<const AnswerWait *>(context);
-    // Whoever watches the guard must not give up before the time is over.
-    if (CallGuard::Clock::now() < wait->until)
-        wait->guard.stampSignOfLife();
-    return wait->guard.mayWait() ? 1 : 0;
-}
-
-/// A server may be busy with what it was sent; the answer decides whether the job prints.
-Sent takeAnswer(ServerConnection &connection, const QByteArray &resource)
-{
-    CallGuard &guard = connection.guard();
-    AnswerWait wait{guard, CallGuard::Clock::now() + (kPatiencesForAnswer - 1) * guard.patience()};
-    httpSetTimeout(connection.http(), kAnswerTick, mayWaitForAnswer, &wait);
-    const IppHandle response(cupsGetResponse(connection.http(), resource.constData()));
-    connection.watch();
-    if (!response)
+    connection.guard().allowSilence(kPatiencesForAnswer);
+    const IppHandle answer = connection.endUpload();
+    if (!answer)
         return Sent::Lost;
-    guard.stampSignOfLife();
-    return cupsLastError() <= IPP_STATUS_OK_CONFLICTING ? Sent::Accepted : Sent::Refused;
+    return connection.succeeded() ? Sent::Accepted : Sent::Refused;
 }
 
-Sent sendDocument(Attempt &attempt, const Document &document, IppHandle request)
+Sent sendDocument(Attempt &attempt, const Document &document, const IppHandle &request)
 {
-    const QByteArray resource = queueResource(attempt.job.queue);
-    if (cupsSendRequest(attempt.connection.http(), request.get(), resource.constData(),
-                        CUPS_LENGTH_VARIABLE) != HTTP_STATUS_CONTINUE)
+    if (!attempt.connection.beginUpload(request, queueResource(attempt.job.queue)))
         return Sent::Refused;
     const Delivery delivery = deliver(
         document, [&](const char *bytes, qint64 length) { return write(attempt, bytes, length); });
     attempt.fault = deliveryFault(document, delivery);
     if (!attempt.fault.isNull())
         return Sent::Changed;
-    return delivery == Delivery::Complete ? takeAnswer(attempt.connection, resource)
-                                          : Sent::Refused;
+    return delivery == Delivery::Complete ? takeAnswer(attempt.connection) : Sent::Refused;
 }
 
 } // namespace

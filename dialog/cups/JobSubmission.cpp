@@ -16,13 +16,11 @@ IppHandle createJobRequest(const JobRequest &job)
     return request;
 }
 
-/// The number of the job in the server's response; 0 when it has created none.
-int createdJob(const IppHandle &response)
+/// The number of the job in the server's answer; 0 for one that no job can have.
+int createdJob(const IppHandle &answer)
 {
-    if (!response || cupsLastError() > IPP_STATUS_OK_CONFLICTING)
-        return 0;
-    ipp_attribute_t *id = ippFindAttribute(response.get(), "job-id", IPP_TAG_INTEGER);
-    return id ? ippGetInteger(id, 0) : 0;
+    ipp_attribute_t *id = ippFindAttribute(answer.get(), "job-id", IPP_TAG_INTEGER);
+    return id ? qMax(0, ippGetInteger(id, 0)) : 0;
 }
 
 } // namespace
@@ -39,7 +37,7 @@ JobReceipt submitJob(const JobRequest &request, CallGuard &guard,
     IppHandle created;
     if (connection.isConnected() && !guard.isCancelled())
         created = connection.request(createJobRequest(request), queueResource(request.queue));
-    receipt.id = createdJob(created);
+    receipt.id = created && connection.succeeded() ? createdJob(created) : 0;
     if (receipt.id == 0) {
         receipt.answer = connection.lastAnswer(request.queue);
         return receipt;

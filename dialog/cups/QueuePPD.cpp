@@ -11,57 +11,22 @@ namespace {
 // libcups' own way (cupsGetPPD3) takes the file of the system's server for any server on this
 // machine, and asks one request more.
 
-constexpr qint64 kLargestPPD = 16LL * 1024 * 1024; // more than openPPD() takes
-constexpr int kMostAttempts = 3;                   // a second one after an upgrade to TLS
-
-enum class Download { Done, Absent, TooLarge, Failed };
+using Kind = ExchangeEnd::Kind;
 
 QString sentence(const char *text)
 {
     return QCoreApplication::translate("Server", text);
 }
 
-Download readBody(ServerConnection &connection, QIODevice &file)
+bool fetch(ServerConnection &connection, const QString &queue, QFile &file)
 {
-    std::array<char, 65536> buffer{};
-    ssize_t length = 0;
-    while ((length = httpRead2(connection.http(), buffer.data(), buffer.size())) > 0) {
-        connection.guard().stampSignOfLife();
-        if (file.pos() + length > kLargestPPD)
-            return Download::TooLarge;
-        if (file.write(buffer.data(), length) != length)
-            return Download::Failed;
-    }
-    return length == 0 ? Download::Done : Download::Failed;
+    return connection.download(queueResource(queue) + ".ppd", file, kLargestPPD);
 }
 
-http_status_t ask(http_t *http, const QByteArray &resource)
+bool isAbsent(const ServerConnection &connection)
 {
-    httpClearFields(http);
-    if (httpGet(http, resource.constData()) != 0 &&
-        (httpReconnect2(http, 5000, nullptr) != 0 || httpGet(http, resource.constData()) != 0))
-        return HTTP_STATUS_ERROR;
-    http_status_t status = HTTP_STATUS_CONTINUE;
-    while (status == HTTP_STATUS_CONTINUE)
-        status = httpUpdate(http);
-    return status;
-}
-
-Download download(ServerConnection &connection, const QByteArray &resource, QIODevice &file)
-{
-    http_t *http = connection.http();
-    for (int attempt = 0; attempt < kMostAttempts; ++attempt) {
-        const http_status_t status = ask(http, resource);
-        if (status == HTTP_STATUS_OK)
-            return readBody(connection, file);
-        httpFlush(http);
-        if (status == HTTP_STATUS_NOT_FOUND)
-            return Download::Absent;
-        if (status != HTTP_STATUS_UPGRADE_REQUIRED)
-            return Download::Failed;
-        httpEncryption(http, HTTP_ENCRYPTION_REQUIRED);
-    }
-    return Download::Failed;
+    return connection.lastEnd().kind == Kind::HttpStatus &&
+           connection.lastEnd().status == HTTP_STATUS_NOT_FOUND;
 }
 
 /// What the server says of a queue whose PPD it does not have.
@@ -77,15 +42,28 @@ QueueLook lookAt(ServerConnection &connection, const QString &queue)
     ippAddString(request.get(), IPP_TAG_OPERATION, IPP_TAG_KEYWORD, "requested-attributes", nullptr,
                  "member-names");
     const IppHandle response = connection.request(std::move(request), queueResource(queue));
-    if (!response || cupsLastError() > IPP_STATUS_OK_CONFLICTING)
+    if (!connection.succeeded())
         return {connection.lastAnswer(queue), {}};
     ipp_attribute_t *members = ippFindAttribute(response.get(), "member-names", IPP_TAG_NAME);
     return {{}, QString::fromUtf8(members ? ippGetString(members, 0, nullptr) : nullptr)};
 }
 
-QueuePPD withoutPPD(ServerFault fault, const char *text, const QString &queue)
+/// Why the queue's PPD, which is there, was not fetched.
+ServerAnswer failure(const ServerConnection &connection, const QString &queue)
 {
-    return {nullptr, {fault, sentence(text).arg(queue)}};
+    switch (connection.lastEnd().kind) {
+    case Kind::TooLarge:
+        return {ServerFault::Refused,
+                sentence(QT_TRANSLATE_NOOP("Server", "The PPD of the queue %1 is too large."))
+                    .arg(queue)};
+    case Kind::CutShort:
+        return {ServerFault::Unreachable,
+                sentence(QT_TRANSLATE_NOOP("Server", "The print server %1 sent only part of the "
+                                                     "PPD of the queue %2. Try again."))
+                    .arg(connection.serverName(), queue)};
+    default:
+        return connection.lastAnswer(queue);
+    }
 }
 
 } // namespace
@@ -93,35 +71,23 @@ QueuePPD withoutPPD(ServerFault fault, const char *text, const QString &queue)
 QueuePPD fetchQueuePPD(const QString &server, const QString &queue, CallGuard &guard)
 {
     ServerConnection connection(server, guard);
-    if (!connection.isConnected())
-        return {nullptr, connection.lastAnswer(queue)};
     const auto file = std::make_shared<QTemporaryFile>();
     if (!file->open())
-        return withoutPPD(ServerFault::Refused,
-                          QT_TRANSLATE_NOOP("Server", "There is no room in the temporary folder "
-                                                      "for the PPD of the queue %1."),
-                          queue);
-    Download done = download(connection, queueResource(queue) + ".ppd", *file);
-    if (done == Download::Absent) {
+        return {nullptr, answerOf({Kind::NotStored, 0, file->errorString(), false},
+                                  connection.serverName(), queue)};
+    bool isFetched = fetch(connection, queue, *file);
+    if (!isFetched && isAbsent(connection)) {
         const QueueLook look = lookAt(connection, queue);
         if (!look.answer.isGood())
             return {nullptr, look.answer};
-        if (!look.firstMember.isNull())
-            done = download(connection, queueResource(look.firstMember) + ".ppd", *file);
+        isFetched = !look.firstMember.isNull() && fetch(connection, look.firstMember, *file);
+        if (!isFetched && (look.firstMember.isNull() || isAbsent(connection)))
+            return {nullptr,
+                    {ServerFault::None,
+                     sentence(QT_TRANSLATE_NOOP("Server", "The queue %1 has no PPD.")).arg(queue)}};
     }
-    switch (done) {
-    case Download::Done:
-        file->close();
-        return {file, {}};
-    case Download::Absent:
-        return withoutPPD(ServerFault::None,
-                          QT_TRANSLATE_NOOP("Server", "The queue %1 has no PPD."), queue);
-    case Download::TooLarge:
-        return withoutPPD(ServerFault::Refused,
-                          QT_TRANSLATE_NOOP("Server", "The PPD of the queue %1 is too large."),
-                          queue);
-    case Download::Failed:
-        break;
-    }
-    return {nullptr, connection.lastAnswer(queue)};
+    if (!isFetched)
+        return {nullptr, failure(connection, queue)};
+    file->close();
+    return {file, {}};
 }

@@ -92,6 +92,15 @@ QList<JobOption> savedOptions(const QueueName &name)
     return options;
 }
 
+QList<QueueName> savedInstances()
+{
+    QList<QueueName> instances;
+    for (const SavedLine &line : savedLines())
+        if (!line.name.instance.isNull() && !instances.contains(line.name))
+            instances += line.name;
+    return instances;
+}
+
 QueueName usualQueue()
 {
     const QString byLpdest = qEnvironmentVariable("LPDEST");

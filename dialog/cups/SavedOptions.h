@@ -17,6 +17,10 @@ struct QueueName
 /// them, for the instance. Read from the files, without asking a server.
 QList<JobOption> savedOptions(const QueueName &name);
 
+/// The instances that the system and the user have saved settings for, each once. Some may be of
+/// queues that are no more.
+QList<QueueName> savedInstances();
+
 /// The queue that the user prints to unless told otherwise: the one of lpoptions, else what LPDEST
 /// or PRINTER say. Null queue: the server decides.
 QueueName usualQueue();

@@ -2,23 +2,20 @@
 
 #include "dialog/cups/OutgoingText.h"
 
+#include <QtCore/QBuffer>
 #include <QtCore/QByteArray>
-#include <QtCore/QCoreApplication>
 #include <QtCore/QUrl>
 
 #include <cerrno>
-#include <cstring>
 
 namespace {
 
+using Kind = ExchangeEnd::Kind;
+
 constexpr double kTick = 0.25;        // seconds between two looks at the guard
 constexpr int kLongestConnect = 5000; // ms
+constexpr int kGoAheadWait = 1000;    // ms; servers of old do not know that they should say so
 constexpr auto kLocalServer = "localhost";
-
-QString sentence(const char *text)
-{
-    return QCoreApplication::translate("Server", text);
-}
 
 int mayWaitOn(http_t *, void *guard)
 {
@@ -31,97 +28,281 @@ const char *noPassword(const char *, http_t *, const char *, const char *, void 
     return nullptr;
 }
 
-/// What the server said, ended like a sentence.
-QString lastErrorSentence()
+bool closesConnection(http_t *http)
 {
-    const QString text = QString::fromUtf8(cupsLastErrorString()).simplified();
-    return text.endsWith(u'.') ? text : text + u'.';
-}
-
-ServerFault faultOf(ipp_status_t status)
-{
-    if (status <= IPP_STATUS_OK_CONFLICTING) // the transport failed, not the request
-        return ServerFault::Unreachable;
-    switch (status) {
-    case IPP_STATUS_ERROR_NOT_FOUND:
-        return ServerFault::NotFound;
-    case IPP_STATUS_ERROR_NOT_AUTHENTICATED:
-    case IPP_STATUS_ERROR_FORBIDDEN:
-    case IPP_STATUS_ERROR_CUPS_AUTHENTICATION_CANCELED:
-        return ServerFault::NeedsPassword;
-    case IPP_STATUS_ERROR_INTERNAL:
-    case IPP_STATUS_ERROR_SERVICE_UNAVAILABLE:
-        return ServerFault::Unreachable;
-    default:
-        return ServerFault::Refused;
-    }
+    return qstricmp(httpGetField(http, HTTP_FIELD_CONNECTION), "close") == 0;
 }
 
 } // namespace
 
-ServerConnection::ServerConnection(const QString &server, CallGuard &guard) : m_guard(guard)
+ServerConnection::ServerConnection(const QString &server, CallGuard &guard)
+    : m_guard(guard), m_watch(guard)
 {
     cupsSetServer(server.isNull() ? nullptr : server.toUtf8().constData());
     cupsSetPasswordCB2(noPassword, nullptr);
     m_name = nameOfServer(server);
-    const int patience = static_cast<int>(guard.patience().count());
-    m_http.reset(httpConnect2(cupsServer(), ippPort(), nullptr, AF_UNSPEC, cupsEncryption(), 1,
-                              qMin(patience, kLongestConnect), guard.cancelFlag()));
+    // Not connected yet: with the guard in place, a handshake for TLS waits no longer than it says.
+    m_http.reset(
+        httpConnect2(cupsServer(), ippPort(), nullptr, AF_UNSPEC, cupsEncryption(), 1, 0, nullptr));
+    if (m_http) {
+        httpSetTimeout(m_http.get(), kTick, mayWaitOn, &guard);
+        if (!connectAnew())
+            m_http.reset();
+    }
     if (!m_http)
-        return;
-    watch();
-    guard.stampSignOfLife();
+        endBy(Kind::NotConnected);
 }
 
-void ServerConnection::watch()
+bool ServerConnection::connectAnew()
 {
-    httpSetTimeout(m_http.get(), kTick, mayWaitOn, &m_guard);
+    m_isSpent = false;
+    const int patience = static_cast<int>(m_guard.patience().count());
+    if (httpReconnect2(m_http.get(), qMin(patience, kLongestConnect), m_guard.cancelFlag()) != 0)
+        return false;
+    m_watch.watch(httpGetFd(m_http.get()));
+    m_guard.stampSignOfLife();
+    return true;
 }
 
-IppHandle ServerConnection::request(IppHandle request, const QByteArray &resource)
+void ServerConnection::endBy(Kind kind, int status)
 {
-    IppHandle response(cupsDoRequest(m_http.get(), request.release(), resource.constData()));
-    if (response)
-        m_guard.stampSignOfLife();
-    return response;
+    m_isSpent = true;
+    m_end.status = status;
+    if (m_guard.isCancelled())
+        m_end.kind = Kind::Cancelled;
+    else if (m_http && m_guard.isOutOfPatience())
+        m_end.kind = Kind::Silent;
+    else if (m_http && m_guard.isOutOfTime())
+        m_end.kind = Kind::TooSlow;
+    else
+        m_end.kind = kind;
 }
 
-ServerAnswer ServerConnection::broken() const
+void ServerConnection::endByTransport()
 {
-    // Of a connection that was never made, libcups says "Host is down" whatever happened.
-    if (!m_http)
-        return {ServerFault::Unreachable,
-                sentence(QT_TRANSLATE_NOOP("Server", "The print server %1 cannot be reached."))
-                    .arg(m_name)};
     const int error = httpError(m_http.get());
-    return {ServerFault::Unreachable,
-            sentence(QT_TRANSLATE_NOOP("Server", "The print server %1 broke off: %2."))
-                .arg(m_name, QString::fromLocal8Bit(std::strerror(error ? error : EPIPE)))};
+    if (error == 0 || error == EINVAL) // all is well with the connection, and libcups is at a loss
+        endBy(Kind::Unreadable);
+    else if (error == EPIPE || error == ECONNRESET)
+        endBy(Kind::Closed);
+    else
+        endBy(Kind::Broken, error);
+}
+
+/// Makes sure of a connection for a request and all of its answer.
+bool ServerConnection::begin(int patiences)
+{
+    m_end = {};
+    if (!m_http || !m_guard.mayWait()) {
+        endBy(Kind::NotConnected);
+        return false;
+    }
+    m_guard.stampSignOfLife();
+    m_guard.limitTime(patiences);
+    // What can be read before anything was asked is the end of the connection.
+    const bool isOver = m_isSpent || closesConnection(m_http.get()) || httpWait(m_http.get(), 0);
+    if (!isOver || connectAnew())
+        return true;
+    endBy(Kind::NotConnected);
+    return false;
+}
+
+/// Sends, again where the server makes a demand that can be met, and gives the status of HTTP.
+int ServerConnection::ask(const char *method, const QByteArray &resource,
+                          const std::function<int()> &send)
+{
+    int status = send();
+    for (int attempt = 1; attempt < kMostAttempts && meets(status, method, resource); ++attempt)
+        status = send();
+    return status;
+}
+
+bool ServerConnection::meets(int demand, const char *method, const QByteArray &resource)
+{
+    if (demand != HTTP_STATUS_UPGRADE_REQUIRED && demand != HTTP_STATUS_UNAUTHORIZED)
+        return false;
+    // On a new connection, so that whatever the server goes on to say of the old one is past.
+    if (demand == HTTP_STATUS_UNAUTHORIZED &&
+        cupsDoAuthentication(m_http.get(), method, resource.constData()) != 0)
+        return false;
+    return connectAnew() && (demand != HTTP_STATUS_UPGRADE_REQUIRED ||
+                             httpEncryption(m_http.get(), HTTP_ENCRYPTION_REQUIRED) == 0);
+}
+
+bool ServerConnection::post(ipp_t *request, const QByteArray &resource, bool dataFollow)
+{
+    http_t *http = m_http.get();
+    httpClearFields(http);
+    httpSetField(http, HTTP_FIELD_CONTENT_TYPE, "application/ipp");
+    httpSetField(http, HTTP_FIELD_AUTHORIZATION, httpGetAuthString(http));
+    httpSetLength(http, dataFollow ? 0 : ippLength(request)); // 0: in chunks
+    httpSetExpect(http, dataFollow ? HTTP_STATUS_CONTINUE : HTTP_STATUS_NONE);
+    if (httpPost(http, resource.constData()) != 0)
+        return false;
+    m_watch.watch(httpGetFd(http)); // libcups may have connected anew
+    ippSetState(request, IPP_STATE_IDLE);
+    ipp_state_t state = IPP_STATE_IDLE;
+    while (state != IPP_STATE_DATA && state != IPP_STATE_ERROR)
+        state = ippWrite(http, request);
+    return state == IPP_STATE_DATA;
+}
+
+/// Waits for the status of HTTP; a number, since a server may say any.
+int ServerConnection::status()
+{
+    int status = HTTP_STATUS_CONTINUE;
+    while (status == HTTP_STATUS_CONTINUE && m_guard.mayWait())
+        status = httpUpdate(m_http.get());
+    return status;
+}
+
+/// The status before the data were sent: to continue, unless the server says otherwise.
+int ServerConnection::goAhead()
+{
+    return httpWait(m_http.get(), kGoAheadWait) ? httpUpdate(m_http.get()) : HTTP_STATUS_CONTINUE;
+}
+
+IppHandle ServerConnection::request(IppHandle request, const QByteArray &resource, int patiences)
+{
+    if (!begin(patiences))
+        return {};
+    m_end.isAboutJob = ippFindAttribute(request.get(), "job-id", IPP_TAG_INTEGER) != nullptr;
+    return readAnswer(ask("POST", resource, [&]() -> int {
+        return post(request.get(), resource, false) ? status() : HTTP_STATUS_ERROR;
+    }));
+}
+
+bool ServerConnection::beginUpload(const IppHandle &request, const QByteArray &resource)
+{
+    if (!begin(kPatiencesPerExchange))
+        return false;
+    m_end.isAboutJob = true;
+    const int status = ask("POST", resource, [&]() -> int {
+        return post(request.get(), resource, true) ? goAhead() : HTTP_STATUS_ERROR;
+    });
+    if (status == HTTP_STATUS_CONTINUE)
+        m_guard.unlimitTime();
+    else
+        takeRefusal(status);
+    return status == HTTP_STATUS_CONTINUE;
+}
+
+bool ServerConnection::upload(const char *data, qint64 size)
+{
+    if (!m_guard.mayWait() ||
+        httpWrite2(m_http.get(), data, static_cast<std::size_t>(size)) != size) {
+        endByTransport();
+        return false;
+    }
+    m_guard.stampSignOfLife();
+    if (!httpWait(m_http.get(), 0))
+        return true;
+    m_guard.limitTime(kPatiencesPerExchange);
+    const int status = httpUpdate(m_http.get());
+    if (status == HTTP_STATUS_CONTINUE)
+        m_guard.unlimitTime();
+    else
+        takeRefusal(status);
+    return status == HTTP_STATUS_CONTINUE;
+}
+
+/// The server answers before it has all data: whatever it says, it has not taken them.
+void ServerConnection::takeRefusal(int status)
+{
+    if (readAnswer(status) && succeeded())
+        endBy(Kind::Unreadable);
+}
+
+IppHandle ServerConnection::endUpload()
+{
+    m_guard.limitTime(kPatiencesPerExchange);
+    const bool isSent = httpWrite2(m_http.get(), "", 0) >= 0; // the last chunk
+    return readAnswer(isSent ? status() : HTTP_STATUS_ERROR);
+}
+
+bool ServerConnection::download(const QByteArray &resource, QFile &file, qint64 largest)
+{
+    if (!begin(kPatiencesPerPPD))
+        return false;
+    bool isFetched = false;
+    const int answered = ask("GET", resource, [&]() -> int {
+        httpClearFields(m_http.get());
+        httpSetField(m_http.get(), HTTP_FIELD_AUTHORIZATION, httpGetAuthString(m_http.get()));
+        if (httpGet(m_http.get(), resource.constData()) != 0)
+            return HTTP_STATUS_ERROR;
+        m_watch.watch(httpGetFd(m_http.get()));
+        return status();
+    });
+    if (isOk(answered)) {
+        BodyEnd end = readBody(m_http.get(), m_guard, file, largest);
+        if (end == BodyEnd::Whole && !file.flush())
+            end = BodyEnd::NotStored;
+        isFetched = end == BodyEnd::Whole;
+        endByBody(end, file);
+    }
+    m_guard.unlimitTime();
+    return isFetched;
+}
+
+/// Whether the status is followed by what was asked for.
+bool ServerConnection::isOk(int status)
+{
+    if (status == HTTP_STATUS_ERROR || status == HTTP_STATUS_CONTINUE)
+        endByTransport();
+    else if (status != HTTP_STATUS_OK)
+        endBy(Kind::HttpStatus, status);
+    return status == HTTP_STATUS_OK;
+}
+
+void ServerConnection::endByBody(BodyEnd end, const QIODevice &to)
+{
+    switch (end) {
+    case BodyEnd::Whole:
+        return;
+    case BodyEnd::TooLarge:
+        return endBy(Kind::TooLarge);
+    case BodyEnd::NotStored:
+        endBy(Kind::NotStored);
+        m_end.text = to.errorString();
+        return;
+    case BodyEnd::CutShort:
+    case BodyEnd::TooLate:
+        return endBy(Kind::CutShort);
+    }
+}
+
+IppHandle ServerConnection::readAnswer(int status)
+{
+    IppAnswer answer;
+    if (isOk(status)) {
+        QBuffer body;
+        body.open(QIODevice::WriteOnly);
+        const BodyEnd end = readBody(m_http.get(), m_guard, body, kLargestAnswer);
+        // A message tells its own end. What is said in a whole one holds, even where the server
+        // breaks off before HTTP's end: the job that it has accepted will print.
+        answer = readIppAnswer(body.data());
+        if (end != BodyEnd::Whole)
+            endByBody(end, body);
+        else if (!answer.ipp)
+            endBy(Kind::Unreadable);
+        if (answer.ipp)
+            m_end = {Kind::Answered, answer.status, answer.text, m_end.isAboutJob};
+    }
+    m_guard.unlimitTime();
+    return std::move(answer.ipp);
+}
+
+bool ServerConnection::succeeded() const
+{
+    return m_end.kind == Kind::Answered && isSuccess(m_end.status);
 }
 
 ServerAnswer ServerConnection::lastAnswer(const QString &queue) const
 {
-    if (m_guard.isCancelled())
-        return {ServerFault::Cancelled,
-                sentence(QT_TRANSLATE_NOOP("Server", "Printing was cancelled."))};
-    if (m_http && m_guard.isOutOfPatience())
-        return silentServer(m_name);
-    const ServerFault fault = m_http ? faultOf(cupsLastError()) : ServerFault::Unreachable;
-    switch (fault) {
-    case ServerFault::NotFound:
-        return {fault, sentence(QT_TRANSLATE_NOOP("Server", "The print server %1 has no queue %2."))
-                           .arg(m_name, queue)};
-    case ServerFault::NeedsPassword:
-        return {fault,
-                sentence(QT_TRANSLATE_NOOP("Server", "The print server %1 lets nobody print to %2 "
-                                                     "without a password."))
-                    .arg(m_name, queue)};
-    case ServerFault::Refused:
-        return {fault, sentence(QT_TRANSLATE_NOOP("Server", "The print server %1 refused: %2"))
-                           .arg(m_name, lastErrorSentence())};
-    default:
-        return broken();
-    }
+    ExchangeEnd end = m_end;
+    if (succeeded())
+        end.kind = Kind::Unreadable;
+    return answerOf(end, m_name, queue);
 }
 
 IppHandle queueRequest(ipp_op_t operation, const QString &queue)
@@ -149,8 +330,5 @@ QString nameOfServer(const QString &server)
 
 ServerAnswer silentServer(const QString &server)
 {
-    const QString name = nameOfServer(server);
-    return {
-        ServerFault::Silent,
-        sentence(QT_TRANSLATE_NOOP("Server", "The print server %1 does not answer.")).arg(name)};
+    return answerOf({Kind::Silent, 0, {}, false}, nameOfServer(server), {});
 }

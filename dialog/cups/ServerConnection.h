@@ -1,12 +1,19 @@
 #pragma once
 
+#include "dialog/cups/AnswerBody.h"
 #include "dialog/cups/CallGuard.h"
+#include "dialog/cups/IppAnswer.h"
 #include "dialog/cups/ServerFault.h"
+#include "dialog/cups/ServerLimits.h"
+#include "dialog/cups/ServerSentences.h"
+#include "dialog/cups/SocketWatch.h"
 
+#include <QtCore/QFile>
 #include <QtCore/QString>
 
 #include <cups/cups.h>
 
+#include <functional>
 #include <memory>
 
 struct HttpCloser
@@ -14,13 +21,12 @@ struct HttpCloser
     void operator()(http_t *http) const { httpClose(http); }
 };
 
-struct IppDeleter
-{
-    void operator()(ipp_t *ipp) const { ippDelete(ipp); }
-};
-using IppHandle = std::unique_ptr<ipp_t, IppDeleter>;
-
-/// A connection to a print server, for one thread. Every wait on it ends when the guard says so.
+/// A connection to a print server, for one thread. Every wait on it ends when the guard says so,
+/// and what it brings is limited in time and size (ServerLimits.h); only looking up the server's
+/// name cannot be interrupted.
+///
+/// Redirections are not followed and no password is sent. TLS is used where the user or the server
+/// asks for it.
 class ServerConnection
 {
 public:
@@ -31,29 +37,57 @@ public:
     ServerConnection &operator=(const ServerConnection &) = delete;
 
     bool isConnected() const { return m_http != nullptr; }
-    http_t *http() const { return m_http.get(); }
     CallGuard &guard() const { return m_guard; }
 
     /// The server's name for people.
     QString serverName() const { return m_name; }
 
-    /// Lets the guard end waits on the connection, after something else did for a while.
-    void watch();
-
-    /// Sends the request and gives the server's response; null when there was none. Takes the
+    /// Sends the request and gives the server's answer, of whatever status; null when there was
+    /// none. An answer that is whole counts, whatever became of the connection after it. Takes the
     /// request.
-    IppHandle request(IppHandle request, const QByteArray &resource);
+    IppHandle request(IppHandle request, const QByteArray &resource,
+                      int patiences = kPatiencesPerExchange);
 
-    /// What the last failed call came to. `queue` is for the sentence, null where none was asked
-    /// for.
+    /// The same of a request that data follow: first the request, then the data in any number of
+    /// parts, then the answer. After a false one, nothing more of it is to be sent.
+    bool beginUpload(const IppHandle &request, const QByteArray &resource);
+    bool upload(const char *data, qint64 size);
+    IppHandle endUpload();
+
+    /// Fetches what stands at the resource into the open file. True when it is all there.
+    bool download(const QByteArray &resource, QFile &file, qint64 largest);
+
+    /// How the last one of the above ended.
+    const ExchangeEnd &lastEnd() const { return m_end; }
+
+    /// Whether it ended with an answer that says yes.
+    bool succeeded() const;
+
+    /// What the last one came to when it failed, or when it said yes and yet not what was asked.
+    /// `queue` is for the sentence, null where none was asked for.
     ServerAnswer lastAnswer(const QString &queue = QString()) const;
 
 private:
-    ServerAnswer broken() const;
+    bool connectAnew();
+    bool begin(int patiences);
+    int ask(const char *method, const QByteArray &resource, const std::function<int()> &send);
+    bool meets(int demand, const char *method, const QByteArray &resource);
+    bool post(ipp_t *request, const QByteArray &resource, bool dataFollow);
+    int status();
+    int goAhead();
+    void takeRefusal(int status);
+    bool isOk(int status);
+    IppHandle readAnswer(int status);
+    void endBy(ExchangeEnd::Kind kind, int status = 0);
+    void endByTransport();
+    void endByBody(BodyEnd end, const QIODevice &to);
 
     CallGuard &m_guard;
     QString m_name;
+    SocketWatch m_watch;
     std::unique_ptr<http_t, HttpCloser> m_http;
+    bool m_isSpent = false; ///< nothing sensible can follow on the connection as it is
+    ExchangeEnd m_end;
 };
 
 /// A request about the queue, with the attributes that every request begins with.

@@ -160,9 +160,14 @@ void DialogWindow::listPrinters()
         this, kServerPatience,
         [this, server = m_line.server](CallGuard &guard) -> ServerCall::Outcome {
             const DestinationList list = listDestinations(server, guard);
-            return [this, list] { m_header->printers()->setDestinations(list.destinations); };
+            return [this, list] {
+                if (list.answer.isGood())
+                    m_header->printers()->setDestinations(list.destinations);
+                else
+                    m_header->printers()->setListFailed();
+            };
         },
-        [this] { m_header->printers()->setDestinations({}); });
+        [this] { m_header->printers()->setListFailed(); });
 }
 
 void DialogWindow::closePrinter()

@@ -69,6 +69,13 @@ void PrinterPopUp::setDestinations(const QList<Destination> &destinations)
     fill();
 }
 
+void PrinterPopUp::setListFailed()
+{
+    m_searching = false;
+    m_listFailed = true;
+    tellState();
+}
+
 void PrinterPopUp::fill()
 {
     std::vector<PopUpButton::Item> items;
@@ -93,6 +100,8 @@ void PrinterPopUp::tellState()
     QString state;
     if (m_searching)
         state = tr("Searching for printers…");
+    else if (m_listFailed)
+        state = tr("The other printers cannot be listed");
     else if (found != m_destinations.end() && !found->isAccepting)
         state = tr("Takes no jobs at present");
     else if (found != m_destinations.end() && found->isStopped)

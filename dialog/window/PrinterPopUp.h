@@ -24,6 +24,9 @@ public:
 
     void setDestinations(const QList<Destination> &destinations);
 
+    /// Says that there is no list to be had.
+    void setListFailed();
+
     PopUpButton *popup() const { return m_popup; }
 
 Q_SIGNALS:
@@ -40,4 +43,5 @@ private:
     QString m_currentTitle;
     QList<Destination> m_destinations;
     bool m_searching = false;
+    bool m_listFailed = false;
 };

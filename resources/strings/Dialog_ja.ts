@@ -501,6 +501,8 @@
     <message>
         <source>The print server %1 did not say whether it took the job: it may have been printed as job %2.</source>
         <translation>プリントサーバー %1 から、ジョブを受け付けたかどうかの応答がありません。ジョブ %2 として印刷された可能性があります。</translation>
+        <source>Whether the server keeps all settings of job %1 is not known: its account of the job cannot be read.</source>
+        <translation>サーバーがジョブ %1 のすべての設定を保持しているかどうかは不明です。サーバーからのジョブ情報を読み取れませんでした。</translation>
     </message>
 </context>
 <context>
@@ -727,6 +729,10 @@
         <translation>プリンターを検索しています…</translation>
     </message>
     <message>
+        <source>The other printers cannot be listed</source>
+        <translation>ほかのプリンターを一覧できません</translation>
+    </message>
+    <message>
         <source>Takes no jobs at present</source>
         <translation>現在ジョブを受け付けていません</translation>
     </message>
@@ -763,16 +769,16 @@
 <context>
     <name>Server</name>
     <message>
-        <source>There is no room in the temporary folder for the PPD of the queue %1.</source>
-        <translation>一時フォルダーに空きがないため、キュー %1 の PPD を保存できません。</translation>
-    </message>
-    <message>
         <source>The queue %1 has no PPD.</source>
         <translation>キュー %1 には PPD がありません。</translation>
     </message>
     <message>
         <source>The PPD of the queue %1 is too large.</source>
         <translation>キュー %1 の PPD は大きすぎます。</translation>
+    </message>
+    <message>
+        <source>The print server %1 sent only part of the PPD of the queue %2. Try again.</source>
+        <translation>プリントサーバー %1 から、キュー %2 の PPD が一部しか届きませんでした。もう一度お試しください。</translation>
     </message>
     <message>
         <source>The print server %1 cannot be reached.</source>
@@ -783,6 +789,26 @@
         <translation>プリントサーバー %1 との接続が切れました（%2）。</translation>
     </message>
     <message>
+        <source>The print server %1 closed the connection without an answer.</source>
+        <translation>プリントサーバー %1 が応答せずに接続を閉じました。</translation>
+    </message>
+    <message>
+        <source>The print server %1 broke off in the middle of its answer.</source>
+        <translation>プリントサーバー %1 の応答が途中で切れました。</translation>
+    </message>
+    <message>
+        <source>The answer of the print server %1 cannot be understood.</source>
+        <translation>プリントサーバー %1 の応答を解釈できません。</translation>
+    </message>
+    <message>
+        <source>The answer of the print server %1 is too large.</source>
+        <translation>プリントサーバー %1 の応答が大きすぎます。</translation>
+    </message>
+    <message>
+        <source>What the print server %1 sends cannot be kept in the temporary folder: %2.</source>
+        <translation>プリントサーバー %1 から届くデータを一時フォルダーに保存できません（%2）。</translation>
+    </message>
+    <message>
         <source>Printing was cancelled.</source>
         <translation>印刷はキャンセルされました。</translation>
     </message>
@@ -791,16 +817,56 @@
         <translation>プリントサーバー %1 に %2 というキューはありません。</translation>
     </message>
     <message>
+        <source>The print server %1 does not know what it was asked for.</source>
+        <translation>プリントサーバー %1 には、要求された情報がありません。</translation>
+    </message>
+    <message>
         <source>The print server %1 lets nobody print to %2 without a password.</source>
         <translation>プリントサーバー %1 では、パスワードなしで %2 に印刷できません。</translation>
+    </message>
+    <message>
+        <source>The print server %1 answers nobody without a password.</source>
+        <translation>プリントサーバー %1 は、パスワードなしでは応答しません。</translation>
     </message>
     <message>
         <source>The print server %1 refused: %2</source>
         <translation>プリントサーバー %1 に拒否されました: %2</translation>
     </message>
     <message>
+        <source>The print server %1 reports a fault: %2</source>
+        <translation>プリントサーバー %1 で障害が発生しています: %2</translation>
+    </message>
+    <message>
+        <source>The print server %1 does not allow this machine to print to %2.</source>
+        <translation>プリントサーバー %1 は、このコンピューターから %2 への印刷を許可していません。</translation>
+    </message>
+    <message>
+        <source>The print server %1 does not allow this machine to ask.</source>
+        <translation>プリントサーバー %1 は、このコンピューターからの問い合わせを許可していません。</translation>
+    </message>
+    <message>
+        <source>The print server %1 answered with a redirection, which is not followed (%2).</source>
+        <translation>プリントサーバー %1 から転送先が示されましたが、転送には対応していません（%2）。</translation>
+    </message>
+    <message>
+        <source>The print server %1 demands an encrypted connection, which cannot be made.</source>
+        <translation>プリントサーバー %1 は暗号化された接続を要求していますが、その接続を確立できません。</translation>
+    </message>
+    <message>
+        <source>The print server %1 has a fault (%2).</source>
+        <translation>プリントサーバー %1 に障害があります（%2）。</translation>
+    </message>
+    <message>
+        <source>The print server %1 refused (%2).</source>
+        <translation>プリントサーバー %1 に拒否されました（%2）。</translation>
+    </message>
+    <message>
         <source>The print server %1 does not answer.</source>
         <translation>プリントサーバー %1 が応答しません。</translation>
+    </message>
+    <message>
+        <source>The print server %1 takes too long to answer.</source>
+        <translation>プリントサーバー %1 の応答に時間がかかりすぎています。</translation>
     </message>
 </context>
 <context>

@@ -218,6 +218,19 @@ TEST_F(Dialog, AJobThatMayHavePrintedIsSentAgainOnPurposeOnly)
     EXPECT_EQ(forgetful.requests().count(u"Create-Job"_s), 2);
 }
 
+TEST_F(Dialog, APrinterListThatFailsIsSaidAndThePrinterStays)
+{
+    const ScriptedServer faulty(
+        {{"CUPS-Get-Printers",
+          answerWith(httpAnswer("500 Internal Server Error", "text/plain", "no"))}});
+    const auto window = open(lineFor(faulty.address(), u"photo"_s));
+    EXPECT_EQ(window->state(), DialogWindow::State::Ready);
+    const auto *state = part<QLabel>(*window, "printerState");
+    EXPECT_TRUE(QTest::qWaitFor([&] { return state->text() != u"Searching for printers…"_s; }));
+    EXPECT_EQ(state->text(), u"The other printers cannot be listed"_s);
+    EXPECT_EQ(part<PopUpButton>(*window, "printerPopup")->selectedObject(), u"photo"_s);
+}
+
 TEST_F(Dialog, StaysUsableWhileAServerIsSilent)
 {
     QTcpServer silent; // the system accepts connections, nobody answers

@@ -63,7 +63,7 @@ int freePort()
     return bound ? ntohs(address.sin_port) : 0;
 }
 
-PrintServer::PrintServer() : m_port(freePort())
+PrintServer::PrintServer(QString access) : m_access(std::move(access)), m_port(freePort())
 {
     if (programNamed(u"cupsd"_s).isEmpty())
         m_fault = u"cupsd is not installed"_s;
@@ -127,12 +127,13 @@ bool PrintServer::writeConfiguration()
                           "AccessLog %1/log/access\nErrorLog %1/log/error\nPageLog %1/log/page\n"
                           "FileDevice Yes\nUser %2\nGroup %3\nSystemGroup root %4\n"_s.arg(
                               folder(), user, group, groupName());
-    const QString rules =
-        u"Listen 127.0.0.1:%1\nBrowsing Off\nWebInterface No\nLogLevel debug\n"
-        "DefaultAuthType None\nPreserveJobHistory Yes\nPreserveJobFiles Yes\n"
-        "<Location />\nOrder allow,deny\nAllow all\n</Location>\n"
-        "<Policy default>\nJobPrivateAccess all\nJobPrivateValues none\n"
-        "<Limit All>\nOrder allow,deny\nAllow all\n</Limit>\n</Policy>\n"_s.arg(m_port);
+    const QString rules = u"Listen 127.0.0.1:%1\nListen %2\nBrowsing Off\nWebInterface "
+                          u"No\nLogLevel debug\n"
+                          "DefaultAuthType None\nPreserveJobHistory Yes\nPreserveJobFiles Yes\n"
+                          "<Location />\nOrder allow,deny\nAllow all\n%3\n</Location>\n"
+                          "<Policy default>\nJobPrivateAccess all\nJobPrivateValues none\n"
+                          "<Limit All>\nOrder allow,deny\nAllow all\n</Limit>\n</Policy>\n"_s.arg(
+                              QString::number(m_port), socketPath(), m_access);
     return writeFile(root.filePath(u"cups-files.conf"_s), files) &&
            writeFile(root.filePath(u"cupsd.conf"_s), rules);
 }

@@ -12,7 +12,8 @@
 class PrintServer
 {
 public:
-    PrintServer();
+    /// `access` is one more directive, a line, for all that the server gives access to.
+    explicit PrintServer(QString access = QString());
     ~PrintServer();
 
     /// Why there is no server; null when it runs.
@@ -20,7 +21,11 @@ public:
 
     /// "127.0.0.1:PORT", as velkaro-print -h takes it.
     QString address() const;
+    int port() const { return m_port; }
     QString folder() const { return m_folder.path(); }
+
+    /// The path of the socket on which it listens too.
+    QString socketPath() const { return folder() + QStringLiteral("/run/socket"); }
 
     /// Adds a queue whose jobs go to outputOf(queue), with the PPD (null: a raw queue).
     bool addQueue(const QString &queue, const QString &ppd);
@@ -53,6 +58,7 @@ private:
     bool writeConfiguration();
     bool start();
 
+    QString m_access;
     QTemporaryDir m_folder;
     QProcess m_process;
     QString m_fault;

@@ -1,35 +1,12 @@
 #include "tests/servers/GoodAnswers.h"
 
+#include "dialog/cups/IppAnswer.h"
 #include "tests/built/BuiltFiles.h"
 #include "tests/servers/IppBytes.h"
 
 #include <QtCore/QFile>
 
-#include <algorithm>
-#include <memory>
-
 namespace {
-
-struct Deleter
-{
-    void operator()(ipp_t *message) const { ippDelete(message); }
-};
-using Message = std::unique_ptr<ipp_t, Deleter>;
-
-struct Source
-{
-    const QByteArray &bytes;
-    qsizetype position = 0;
-};
-
-ssize_t readFrom(void *context, ipp_uchar_t *buffer, size_t bytes)
-{
-    auto *source = static_cast<Source *>(context);
-    const QByteArray part = source->bytes.mid(source->position, static_cast<qsizetype>(bytes));
-    std::copy(part.begin(), part.end(), buffer);
-    source->position += part.size();
-    return part.size();
-}
 
 ssize_t writeTo(void *context, ipp_uchar_t *buffer, size_t bytes)
 {
@@ -38,17 +15,7 @@ ssize_t writeTo(void *context, ipp_uchar_t *buffer, size_t bytes)
     return static_cast<ssize_t>(bytes);
 }
 
-Message parsed(const QByteArray &bytes)
-{
-    Message message(ippNew());
-    Source source{bytes};
-    ipp_state_t state = IPP_STATE_IDLE;
-    while (state != IPP_STATE_DATA && state != IPP_STATE_ERROR)
-        state = ippReadIO(&source, readFrom, 1, nullptr, message.get());
-    return message;
-}
-
-QByteArray written(const Message &message)
+QByteArray written(const IppHandle &message)
 {
     QByteArray bytes;
     ipp_state_t state = IPP_STATE_IDLE;
@@ -73,14 +40,14 @@ QByteArray thePrinter()
         .ended();
 }
 
-QByteArray theJob(const Message &request, const QByteArray &createdJob)
+QByteArray theJob(const IppHandle &request, const QByteArray &createdJob)
 {
-    const Message answer(ippNewResponse(request.get()));
+    const IppHandle answer(ippNewResponse(request.get()));
     ippAddInteger(answer.get(), IPP_TAG_JOB, IPP_TAG_INTEGER, "job-id", kGoodJob);
     ippAddInteger(answer.get(), IPP_TAG_JOB, IPP_TAG_ENUM, "job-state", IPP_JSTATE_PENDING);
     ippAddString(answer.get(), IPP_TAG_JOB, IPP_TAG_KEYWORD, "job-state-reasons", nullptr, "none");
     if (!createdJob.isEmpty())
-        ippCopyAttributes(answer.get(), parsed(createdJob).get(), 0, isOfJob, nullptr);
+        ippCopyAttributes(answer.get(), readIppAnswer(createdJob).ipp.get(), 0, isOfJob, nullptr);
     return written(answer);
 }
 
@@ -88,7 +55,7 @@ QByteArray theJob(const Message &request, const QByteArray &createdJob)
 
 QByteArray goodAnswer(const QByteArray &request, const QByteArray &createdJob)
 {
-    const Message asked = parsed(request);
+    const IppHandle asked = readIppAnswer(request).ipp;
     switch (ippGetOperation(asked.get())) {
     case IPP_OP_CUPS_GET_PRINTERS:
     case IPP_OP_CUPS_GET_DEFAULT:

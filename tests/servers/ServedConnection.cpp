@@ -1,6 +1,8 @@
 #include "tests/servers/ServedConnection.h"
 
+#include <arpa/inet.h>
 #include <array>
+#include <netinet/in.h>
 #include <poll.h>
 #include <sys/socket.h>
 #include <unistd.h>
@@ -9,6 +11,15 @@ namespace {
 
 constexpr std::chrono::seconds kLife{60};
 constexpr qint64 kLongestLine = 65536;
+
+/// Passes on what has come; false at the end.
+bool pass(int from, int to)
+{
+    std::array<char, 65536> buffer{};
+    const ssize_t length = recv(from, buffer.data(), buffer.size(), 0);
+    return length > 0 &&
+           send(to, buffer.data(), static_cast<std::size_t>(length), MSG_NOSIGNAL) == length;
+}
 
 } // namespace
 
@@ -23,10 +34,14 @@ ServedConnection::~ServedConnection()
 
 bool ServedConnection::waitFor(short events, QDeadlineTimer deadline)
 {
-    std::array<pollfd, 2> watched{pollfd{m_socket, events, 0}, pollfd{m_stop, POLLIN, 0}};
+    // A client that is gone may leave a full socket, on which nothing else would ever happen.
+    const auto gone = static_cast<short>(events == POLLOUT ? POLLRDHUP : 0);
+    std::array<pollfd, 2> watched{pollfd{m_socket, static_cast<short>(events | gone), 0},
+                                  pollfd{m_stop, POLLIN, 0}};
     const qint64 left = qMin(deadline.remainingTime(), m_life.remainingTime());
     const int ready = poll(watched.data(), watched.size(), static_cast<int>(left));
-    return ready > 0 && watched[1].revents == 0 && (watched[0].revents & events) != 0;
+    return ready > 0 && watched[1].revents == 0 && (watched[0].revents & events) != 0 &&
+           (watched[0].revents & gone) == 0;
 }
 
 bool ServedConnection::receive()
@@ -132,6 +147,25 @@ bool ServedConnection::hold(std::chrono::milliseconds time)
             return false;
     }
     return deadline.hasExpired();
+}
+
+bool ServedConnection::relay(int port)
+{
+    sockaddr_in address{};
+    address.sin_family = AF_INET;
+    address.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
+    address.sin_port = htons(static_cast<uint16_t>(port));
+    const int server = socket(AF_INET, SOCK_STREAM | SOCK_CLOEXEC, 0);
+    bool goesOn = connect(server, reinterpret_cast<sockaddr *>(&address), sizeof address) == 0;
+    std::array<pollfd, 3> watched{pollfd{m_stop, POLLIN, 0}, pollfd{m_socket, POLLIN, 0},
+                                  pollfd{server, POLLIN, 0}};
+    while (goesOn &&
+           poll(watched.data(), watched.size(), static_cast<int>(m_life.remainingTime())) > 0) {
+        goesOn = watched[0].revents == 0 && (watched[1].revents == 0 || pass(m_socket, server)) &&
+                 (watched[2].revents == 0 || pass(server, m_socket));
+    }
+    close(server);
+    return false;
 }
 
 void ServedConnection::reset()

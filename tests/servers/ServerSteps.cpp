@@ -39,6 +39,11 @@ Step hold(std::chrono::milliseconds time)
     return [time](ServedConnection &connection) { return connection.hold(time); };
 }
 
+Step relay(int port)
+{
+    return [port](ServedConnection &connection) { return connection.relay(port); };
+}
+
 Step closeConnection()
 {
     return [](ServedConnection &) { return false; };

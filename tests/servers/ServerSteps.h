@@ -28,6 +28,9 @@ Step flood(const QByteArray &bytes, qint64 most);
 /// Does nothing until the client leaves, or until the time is over and the next step follows.
 Step hold(std::chrono::milliseconds time = std::chrono::minutes(1));
 
+/// Lets a server on this port of the loopback do the rest.
+Step relay(int port);
+
 Step closeConnection();
 
 /// Closes it with a reset.

@@ -9,6 +9,8 @@
 #include "tests/built/BuiltFiles.h"
 #include "tests/endtoend/JobPrinting.h"
 #include "tests/printserver/PrintServer.h"
+#include "tests/servers/ScriptedServer.h"
+#include "tests/support/CaseName.h"
 #include "tests/support/Documents.h"
 #include "tests/support/Files.h"
 
@@ -110,6 +112,27 @@ TEST_F(Server, IsGivenNamesWithoutControlCharacters)
     const QMap<QString, QString> kept = s_server->jobAttributes(u"raw"_s, receipt.id);
     EXPECT_EQ(kept.value(u"job-name"_s), u"A B [2J"_s);
     EXPECT_EQ(kept.value(u"document-name-supplied"_s), u"x y .ps"_s);
+}
+
+TEST_F(Server, ListsTheUsersInstancesBehindTheirQueues)
+{
+    const QByteArray home = qgetenv("HOME");
+    const auto restore = qScopeGuard([&home] { qputenv("HOME", home); });
+    qputenv("HOME", m_folder.path().toLocal8Bit());
+    writeFile(m_folder.filePath(u".cups/lpoptions"_s),
+              "Dest photo copies=2\nDest photo/small copies=3\nDefault photo/Large copies=4\n"
+              "Dest gone/away copies=5\n");
+    QStringList names;
+    QString usual;
+    for (const Destination &one : listDestinations(s_server->address(), m_guard).destinations) {
+        names +=
+            one.name.queue + (one.name.instance.isNull() ? QString() : u'/' + one.name.instance);
+        if (one.isDefault)
+            usual += names.constLast();
+    }
+    EXPECT_EQ(names, (QStringList{u"closed"_s, u"group"_s, u"photo"_s, u"photo/Large"_s,
+                                  u"photo/small"_s, u"raw"_s}));
+    EXPECT_EQ(usual, u"photo/Large"_s);
 }
 
 TEST_F(Server, GivesThePPDOfAQueueAndLeavesNoFileBehind)
@@ -241,6 +264,78 @@ TEST_F(Server, CancelsAJobThatTheUserStoppedSending)
         FAIL() << "the document was too short for this test";
     EXPECT_EQ(receipt.answer.fault, ServerFault::Cancelled);
     EXPECT_EQ(s_server->waitForJob(u"photo"_s, receipt.id), IPP_JSTATE_CANCELED);
+}
+
+TEST_F(Server, IsReachedByItsSocketToo)
+{
+    JobRequest request = job(u"photo"_s);
+    request.server = s_server->socketPath();
+    EXPECT_EQ(listDestinations(request.server, m_guard).destinations.size(), 4);
+    EXPECT_EQ(nickname(fetchQueuePPD(request.server, u"photo"_s, m_guard)),
+              u"Velkaro PX-T900, 1.0"_s);
+    const JobReceipt receipt = submitJob(request, m_guard);
+    EXPECT_TRUE(receipt.answer.isGood()) << receipt.answer.sentence.toStdString();
+}
+
+struct Encryption
+{
+    const char *behaviour;
+    http_encryption_t encryption;
+    Script front; ///< of the server before the real one
+    int encryptedConnections;
+};
+
+void PrintTo(const Encryption &row, std::ostream *out)
+{
+    *out << row.behaviour;
+}
+
+class EncryptedServer : public Server, public testing::WithParamInterface<Encryption>
+{};
+
+/// The real server demands no encryption on the loopback: one before it does, or the user.
+TEST_P(EncryptedServer, IsPrintedTo)
+{
+    const auto restore = qScopeGuard([] { cupsSetEncryption(HTTP_ENCRYPTION_IF_REQUESTED); });
+    cupsSetEncryption(GetParam().encryption);
+    const QString log = s_server->folder() + u"/log/error"_s;
+    const auto encrypted = [&log] { return readFile(log).count("Connection now encrypted"); };
+    const auto before = encrypted();
+    const ScriptedServer front(GetParam().front + Script{{"connect", {relay(s_server->port())}}});
+    const QueuePPD queue = fetchQueuePPD(front.address(), u"photo"_s, m_guard);
+    ASSERT_TRUE(queue.file) << queue.answer.sentence.toStdString();
+    EXPECT_EQ(nickname(queue), u"Velkaro PX-T900, 1.0"_s);
+    JobRequest request = job(u"photo"_s);
+    request.server = front.address();
+    request.documents += document("second");
+    const JobReceipt receipt = submitJob(request, m_guard);
+    EXPECT_EQ(receipt.answer.sentence, QString());
+    EXPECT_EQ(receipt.notes, QStringList());
+    EXPECT_EQ(encrypted() - before, GetParam().encryptedConnections);
+}
+
+const Steps kUpgrade{write("HTTP/1.1 426 Upgrade Required\r\nUpgrade: TLS/1.2\r\n"
+                           "Connection: Upgrade\r\nContent-Length: 0\r\n\r\n")};
+
+INSTANTIATE_TEST_SUITE_P(Table, EncryptedServer,
+                         testing::Values(Encryption{"BecauseItDemandsIt",
+                                                    HTTP_ENCRYPTION_IF_REQUESTED,
+                                                    {{"connect", {}, 1}, {"GET", kUpgrade}},
+                                                    1},
+                                         Encryption{
+                                             "BecauseTheUserDoes", HTTP_ENCRYPTION_REQUIRED, {}, 2},
+                                         Encryption{"FromTheStart", HTTP_ENCRYPTION_ALWAYS, {}, 2}),
+                         CaseName());
+
+TEST_F(Server, ThatDemandsAPasswordGetsNone)
+{
+    PrintServer server(u"AuthType Basic\nRequire valid-user"_s);
+    ASSERT_EQ(server.fault(), QString());
+    const QueuePPD queue = fetchQueuePPD(server.address(), u"photo"_s, m_guard);
+    EXPECT_EQ(queue.answer.fault, ServerFault::NeedsPassword);
+    EXPECT_EQ(queue.answer.sentence,
+              u"The print server %1 lets nobody print to photo without a password."_s.arg(
+                  server.address()));
 }
 
 TEST(ReadBack, NamesWhatTheServerDroppedOrChanged)

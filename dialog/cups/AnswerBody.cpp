@@ -1,0 +1,46 @@
+#include "dialog/cups/AnswerBody.h"
+
+#include <array>
+
+namespace {
+
+/// After libcups has said that there is no more, which it says of every end: without its last chunk
+/// a body ends with an error, and headers that were cut off leave a length without a body.
+bool isWhole(http_t *http, qint64 bytes)
+{
+    const bool isOfStatedLength =
+        *httpGetField(http, HTTP_FIELD_CONTENT_LENGTH) != '\0' && httpGetLength2(http) == bytes;
+    return (httpIsChunked(http) || isOfStatedLength) && httpGetRemaining(http) == 0 &&
+           httpError(http) == 0;
+}
+
+/// A full disk takes a part first; only what follows fails with a reason.
+bool writeAll(QIODevice &to, const char *data, qint64 size)
+{
+    qint64 written = 0;
+    while (size > 0 && (written = to.write(data, size)) > 0) {
+        data += written;
+        size -= written;
+    }
+    return size == 0;
+}
+
+} // namespace
+
+BodyEnd readBody(http_t *http, CallGuard &guard, QIODevice &to, qint64 largest)
+{
+    std::array<char, 65536> buffer{};
+    qint64 total = 0;
+    ssize_t length = 0;
+    while ((length = httpRead2(http, buffer.data(), buffer.size())) > 0) {
+        guard.stampSignOfLife();
+        total += length;
+        if (!guard.mayWait())
+            return BodyEnd::TooLate;
+        if (total > largest)
+            return BodyEnd::TooLarge;
+        if (!writeAll(to, buffer.data(), length))
+            return BodyEnd::NotStored;
+    }
+    return length == 0 && isWhole(http, total) ? BodyEnd::Whole : BodyEnd::CutShort;
+}

@@ -1,0 +1,213 @@
+#include "dialog/cups/ServerSentences.h"
+
+#include "dialog/cups/ServerLimits.h"
+#include "platform/toolkit/PlainText.h"
+
+#include <QtCore/QCoreApplication>
+
+#include <cups/http.h>
+#include <cups/ipp.h>
+
+#include <algorithm>
+#include <array>
+#include <climits>
+#include <cstring>
+
+namespace {
+
+using Kind = ExchangeEnd::Kind;
+
+/// A sentence about the server %1.
+struct Said
+{
+    ServerFault fault;
+    const char *sentence;
+};
+
+struct KindRow
+{
+    Kind kind;
+    Said said;
+};
+
+// %2: more about the end.
+constexpr std::array kKinds{
+    KindRow{Kind::NotConnected,
+            {ServerFault::Unreachable,
+             QT_TRANSLATE_NOOP("Server", "The print server %1 cannot be reached.")}},
+    KindRow{Kind::Broken,
+            {ServerFault::Unreachable,
+             QT_TRANSLATE_NOOP("Server", "The print server %1 broke off: %2.")}},
+    KindRow{Kind::Closed,
+            {ServerFault::Unreachable,
+             QT_TRANSLATE_NOOP("Server",
+                               "The print server %1 closed the connection without an answer.")}},
+    KindRow{Kind::CutShort,
+            {ServerFault::Unreachable,
+             QT_TRANSLATE_NOOP("Server",
+                               "The print server %1 broke off in the middle of its answer.")}},
+    KindRow{
+        Kind::Unreadable,
+        {ServerFault::Refused,
+         QT_TRANSLATE_NOOP("Server", "The answer of the print server %1 cannot be understood.")}},
+    KindRow{Kind::TooLarge,
+            {ServerFault::Refused,
+             QT_TRANSLATE_NOOP("Server", "The answer of the print server %1 is too large.")}},
+    KindRow{Kind::NotStored,
+            {ServerFault::Refused,
+             QT_TRANSLATE_NOOP("Server", "What the print server %1 sends cannot be kept in the "
+                                         "temporary folder: %2.")}},
+    KindRow{
+        Kind::Silent,
+        {ServerFault::Silent, QT_TRANSLATE_NOOP("Server", "The print server %1 does not answer.")}},
+    KindRow{Kind::TooSlow,
+            {ServerFault::Silent,
+             QT_TRANSLATE_NOOP("Server", "The print server %1 takes too long to answer.")}},
+};
+
+/// The first row counts that holds the status.
+struct StatusRow
+{
+    int first;
+    int last;
+    Said said; ///< %2: more about the end
+};
+
+struct QueueRow
+{
+    int status;
+    Said said;                ///< %2: the queue
+    const char *withoutQueue; ///< where none was asked for
+};
+
+constexpr Said kNoQueue{ServerFault::NotFound,
+                        QT_TRANSLATE_NOOP("Server", "The print server %1 has no queue %2.")};
+constexpr auto kNothing =
+    QT_TRANSLATE_NOOP("Server", "The print server %1 does not know what it was asked for.");
+constexpr Said kPassword{ServerFault::NeedsPassword,
+                         QT_TRANSLATE_NOOP("Server", "The print server %1 lets nobody print to %2 "
+                                                     "without a password.")};
+constexpr auto kPasswordForAll =
+    QT_TRANSLATE_NOOP("Server", "The print server %1 answers nobody without a password.");
+constexpr Said kRefused{ServerFault::Refused,
+                        QT_TRANSLATE_NOOP("Server", "The print server %1 refused: %2")};
+
+constexpr std::array kIppAboutQueues{
+    QueueRow{IPP_STATUS_ERROR_NOT_FOUND, kNoQueue, kNothing},
+    QueueRow{IPP_STATUS_ERROR_NOT_AUTHENTICATED, kPassword, kPasswordForAll},
+};
+constexpr std::array kIppStatuses{
+    StatusRow{IPP_STATUS_ERROR_INTERNAL,
+              IPP_STATUS_ERROR_INTERNAL,
+              {ServerFault::Refused,
+               QT_TRANSLATE_NOOP("Server", "The print server %1 reports a fault: %2")}},
+    StatusRow{0, 0xFFFF, kRefused},
+};
+
+constexpr std::array kHttpAboutQueues{
+    QueueRow{HTTP_STATUS_UNAUTHORIZED, kPassword, kPasswordForAll},
+    QueueRow{
+        HTTP_STATUS_FORBIDDEN,
+        {ServerFault::Refused,
+         QT_TRANSLATE_NOOP("Server",
+                           "The print server %1 does not allow this machine to print to %2.")},
+        QT_TRANSLATE_NOOP("Server", "The print server %1 does not allow this machine to ask.")},
+    QueueRow{HTTP_STATUS_NOT_FOUND, kNoQueue, kNothing},
+};
+constexpr std::array kHttpStatuses{
+    StatusRow{300,
+              399,
+              {ServerFault::Refused,
+               QT_TRANSLATE_NOOP("Server", "The print server %1 answered with a redirection, which "
+                                           "is not followed (%2).")}},
+    StatusRow{HTTP_STATUS_UPGRADE_REQUIRED,
+              HTTP_STATUS_UPGRADE_REQUIRED,
+              {ServerFault::Refused,
+               QT_TRANSLATE_NOOP("Server", "The print server %1 demands an encrypted connection, "
+                                           "which cannot be made.")}},
+    StatusRow{500,
+              599,
+              {ServerFault::Refused,
+               QT_TRANSLATE_NOOP("Server", "The print server %1 has a fault (%2).")}},
+    StatusRow{
+        INT_MIN,
+        INT_MAX,
+        {ServerFault::Refused, QT_TRANSLATE_NOOP("Server", "The print server %1 refused (%2).")}},
+};
+
+QString endedLikeASentence(const QString &text)
+{
+    return QStringLiteral(".!?\u2026").contains(text.back()) ? text : text + u'.';
+}
+
+QString detailOf(const ExchangeEnd &end)
+{
+    switch (end.kind) {
+    case Kind::Answered: {
+        const QString text = shownServerText(end.text);
+        return text.isEmpty() ? QStringLiteral("IPP 0x%1.").arg(end.status, 4, 16, QLatin1Char('0'))
+                              : endedLikeASentence(text);
+    }
+    case Kind::HttpStatus:
+        return QStringLiteral("HTTP %1").arg(end.status);
+    case Kind::Broken:
+        return QString::fromLocal8Bit(std::strerror(end.status));
+    default:
+        return end.text;
+    }
+}
+
+ServerAnswer answer(ServerFault fault, const char *text, const QString &server,
+                    const QString &detail)
+{
+    const QString sentence = QCoreApplication::translate("Server", text);
+    return {fault, sentence.contains(QLatin1String("%2")) ? sentence.arg(server, detail)
+                                                          : sentence.arg(server)};
+}
+
+template <std::size_t QueueRows, std::size_t StatusRows>
+ServerAnswer answerOfStatus(const std::array<QueueRow, QueueRows> &aboutQueues,
+                            const std::array<StatusRow, StatusRows> &statuses,
+                            const ExchangeEnd &end, const QString &server, const QString &queue)
+{
+    const auto *row = std::ranges::find(aboutQueues, end.status, &QueueRow::status);
+    const bool isMissingJob =
+        end.isAboutJob && row != aboutQueues.end() && row->said.fault == ServerFault::NotFound;
+    if (row != aboutQueues.end() && !isMissingJob)
+        return queue.isNull() ? answer(row->said.fault, row->withoutQueue, server, {})
+                              : answer(row->said.fault, row->said.sentence, server, queue);
+    const auto *other = std::ranges::find_if(statuses, [&](const StatusRow &one) {
+        return one.first <= end.status && end.status <= one.last;
+    });
+    return answer(other->said.fault, other->said.sentence, server, detailOf(end));
+}
+
+} // namespace
+
+ServerAnswer answerOf(const ExchangeEnd &end, const QString &server, const QString &queue)
+{
+    switch (end.kind) {
+    case Kind::Cancelled:
+        return {ServerFault::Cancelled,
+                QCoreApplication::translate("Server", "Printing was cancelled.")};
+    case Kind::Answered:
+        return answerOfStatus(kIppAboutQueues, kIppStatuses, end, server, queue);
+    case Kind::HttpStatus:
+        return answerOfStatus(kHttpAboutQueues, kHttpStatuses, end, server, queue);
+    default:
+        break;
+    }
+    const auto *row = std::ranges::find(kKinds, end.kind, &KindRow::kind);
+    return answer(row->said.fault, row->said.sentence, server, detailOf(end));
+}
+
+QString shownServerText(const QString &text)
+{
+    QString shown = displayText(text).simplified();
+    if (shown.size() <= kLongestText)
+        return shown;
+    shown.truncate(kLongestText);
+    if (shown.back().isHighSurrogate())
+        shown.chop(1);
+    return shown + QChar(0x2026);
+}

@@ -1,0 +1,119 @@
+#include "dialog/cups/QueuePPD.h"
+#include "dialog/cups/ServerCall.h"
+#include "tests/servers/ScriptedServer.h"
+#include "tests/support/CaseName.h"
+#include "tests/support/QStringPrinting.h"
+
+#include <QtCore/QScopeGuard>
+#include <QtTest/QTest>
+
+#include <gtest/gtest.h>
+
+#include <csignal>
+#include <sys/resource.h>
+
+using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
+
+namespace {
+
+// --- A thread that nobody waits for any more
+
+struct Endless
+{
+    const char *behaviour;
+    Rule rule;
+};
+
+void PrintTo(const Endless &row, std::ostream *out)
+{
+    *out << row.behaviour;
+}
+
+class AGivenUpCall : public testing::TestWithParam<Endless>
+{};
+
+TEST_P(AGivenUpCall, EndsWithItsThreadAndItsConnection)
+{
+    const ScriptedServer server({GetParam().rule});
+    auto owner = std::make_unique<QObject>();
+    new ServerCall(owner.get(), kServerPatience,
+                   [address = server.address()](CallGuard &guard) -> ServerCall::Outcome {
+                       fetchQueuePPD(address, u"photo"_s, guard);
+                       return {};
+                   },
+                   {});
+    ASSERT_TRUE(QTest::qWaitFor([&] { return server.openConnections() == 1; }));
+    const bool isAsked = GetParam().rule.request != "connect";
+    ASSERT_TRUE(QTest::qWaitFor([&] { return !isAsked || !server.requests().isEmpty(); }));
+    owner.reset();
+    EXPECT_TRUE(waitForServerThreads(kServerPatience / 2));
+    EXPECT_TRUE(QTest::qWaitFor([&] { return server.openConnections() == 0; }));
+}
+
+constexpr qint64 kEndless = 1LL << 40;
+
+INSTANTIATE_TEST_SUITE_P(
+    Table, AGivenUpCall,
+    testing::Values(Endless{"OfAServerThatIsSilent", {"connect", {hold()}}},
+                    Endless{"OfAServerThatTakesARequest", {"GET", {hold()}}},
+                    Endless{"OfHeaders",
+                            {"GET",
+                             {write("HTTP/1.1 200 OK\r\n"),
+                              flood(QByteArray("X-More: more\r\n").repeated(1000), kEndless)}}},
+                    Endless{"OfGoAheads",
+                            {"GET",
+                             {flood(QByteArray("HTTP/1.1 100 Continue\r\n\r\n").repeated(1000),
+                                    kEndless)}}},
+                    Endless{"OfBytesOneByOne",
+                            {"GET",
+                             {write("HTTP/1.1 200 OK\r\nContent-Length: 100000\r\n\r\n"),
+                              drip(QByteArray(100000, '*'), 10ms)}}}),
+    CaseName());
+
+// --- A temporary folder that takes no PPD
+
+QString addressedBy(const char *text, const ScriptedServer &server)
+{
+    return QString::fromUtf8(text).replace(u"%1"_s, server.address());
+}
+
+TEST(ATemporaryFolder, ThatTakesNoFilesIsNamed)
+{
+    const QByteArray common = qgetenv("TMPDIR");
+    const auto restore = qScopeGuard(
+        [&common] { common.isNull() ? qunsetenv("TMPDIR") : qputenv("TMPDIR", common); });
+    qputenv("TMPDIR", "/proc");
+    const ScriptedServer server;
+    CallGuard guard;
+    const QueuePPD queue = fetchQueuePPD(server.address(), u"photo"_s, guard);
+    EXPECT_EQ(queue.file, nullptr);
+    EXPECT_EQ(queue.answer.fault, ServerFault::Refused);
+    EXPECT_TRUE(queue.answer.sentence.startsWith(addressedBy(
+        "What the print server %1 sends cannot be kept in the temporary folder: ", server)))
+        << queue.answer.sentence.toStdString();
+}
+
+// A limit for files stands for a full disk: nobody can fill one without harm.
+TEST(ATemporaryFolder, ThatIsFullIsNamed)
+{
+    rlimit usual{};
+    ASSERT_EQ(getrlimit(RLIMIT_FSIZE, &usual), 0);
+    const auto handler = std::signal(SIGXFSZ, SIG_IGN);
+    const auto restore = qScopeGuard([&] {
+        setrlimit(RLIMIT_FSIZE, &usual);
+        std::signal(SIGXFSZ, handler);
+    });
+    const rlimit small{8192, usual.rlim_max};
+    ASSERT_EQ(setrlimit(RLIMIT_FSIZE, &small), 0);
+    const ScriptedServer server;
+    CallGuard guard;
+    const QueuePPD queue = fetchQueuePPD(server.address(), u"photo"_s, guard);
+    EXPECT_EQ(queue.file, nullptr);
+    EXPECT_EQ(queue.answer.sentence,
+              addressedBy("What the print server %1 sends cannot be kept in the temporary folder: "
+                          "File too large.",
+                          server));
+}
+
+} // namespace

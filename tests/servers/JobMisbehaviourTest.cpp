@@ -1,0 +1,206 @@
+#include "dialog/cups/JobSubmission.h"
+#include "tests/servers/GoodAnswers.h"
+#include "tests/servers/IppBytes.h"
+#include "tests/servers/ScriptedServer.h"
+#include "tests/support/CaseName.h"
+#include "tests/support/Files.h"
+#include "tests/support/QStringPrinting.h"
+
+#include <QtCore/QTemporaryDir>
+
+#include <gtest/gtest.h>
+
+using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
+
+namespace {
+
+// Servers that are sent a job: what becomes of it, and what they are told afterwards.
+
+constexpr auto kShort = 600ms; // for servers that have to be given up
+
+struct JobMisbehaviour
+{
+    const char *behaviour;
+    Script script;
+    ServerFault fault;
+    const char *sentence; ///< %1 is the server's name; null for an accepted job
+    QStringList notes;
+    QStringList requests;
+    std::chrono::milliseconds patience = kServerPatience;
+};
+
+void PrintTo(const JobMisbehaviour &row, std::ostream *out)
+{
+    *out << row.behaviour;
+}
+
+class AServerThatTakesJobs : public testing::TestWithParam<JobMisbehaviour>
+{};
+
+TEST_P(AServerThatTakesJobs, IsTakenAtItsWord)
+{
+    const ScriptedServer server(GetParam().script);
+    const QTemporaryDir folder;
+    JobRequest job;
+    job.server = server.address();
+    job.queue = u"photo"_s;
+    job.options = {{u"VKMediaType"_s, u"Glossy"_s}};
+    job.documents = {folder.filePath(u"document.pdf"_s)};
+    writeFile(job.documents[0], QByteArray(1000000, 'd'));
+    CallGuard guard(GetParam().patience);
+    const JobReceipt receipt = submitJob(job, guard);
+    EXPECT_EQ(receipt.answer.fault, GetParam().fault);
+    EXPECT_EQ(receipt.answer.sentence,
+              QString::fromUtf8(GetParam().sentence).replace(u"%1"_s, server.address()));
+    EXPECT_EQ(receipt.notes, GetParam().notes);
+    EXPECT_EQ(server.requests(), GetParam().requests);
+}
+
+const QStringList kCreated{u"Create-Job"_s};
+const QStringList kCancelled{u"Create-Job"_s, u"Send-Document"_s, u"Cancel-Job"_s};
+const QStringList kAccepted{u"Create-Job"_s, u"Send-Document"_s, u"Get-Job-Attributes"_s};
+
+constexpr auto kNonsense = "The answer of the print server %1 cannot be understood.";
+
+QByteArray jobNumbered(ipp_tag_t tag, const QByteArray &number)
+{
+    return IppBytes().group(IPP_TAG_JOB).attribute(tag, "job-id", number).ended();
+}
+
+QByteArray refusal(int status, const QByteArray &text)
+{
+    return IppBytes(status).attribute(IPP_TAG_TEXT, "status-message", text).ended();
+}
+
+JobMisbehaviour notCreated(const char *behaviour, const QByteArray &answer, const char *sentence,
+                           ServerFault fault = ServerFault::Refused)
+{
+    return {behaviour, {{"Create-Job", answerIpp(answer)}}, fault, sentence, {}, kCreated};
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    AskedForAJob, AServerThatTakesJobs,
+    testing::Values(
+        notCreated("GivesItANegativeNumber", jobNumbered(IPP_TAG_INTEGER, ippNumber(-5, 4)),
+                   kNonsense),
+        notCreated("GivesItTheNumberZero", jobNumbered(IPP_TAG_INTEGER, ippNumber(0, 4)),
+                   kNonsense),
+        notCreated("GivesItTheSmallestNumber",
+                   jobNumbered(IPP_TAG_INTEGER, QByteArray("\x80\0\0\0", 4)), kNonsense),
+        notCreated("GivesItATextForANumber", jobNumbered(IPP_TAG_TEXT, "7"), kNonsense),
+        notCreated("GivesItNoNumber", IppBytes().ended(), kNonsense),
+        notCreated("AnswersInHtml", "<html>", kNonsense),
+        notCreated("AnswersWithNestedCollections",
+                   IppBytes().group(IPP_TAG_JOB).nested("x", 9000).ended(), kNonsense),
+        notCreated("HasAFault", refusal(0x0500, "No space left on device."),
+                   "The print server %1 reports a fault: No space left on device."),
+        notCreated("TakesNoJobs", refusal(0x0506, "The printer takes a nap."),
+                   "The print server %1 refused: The printer takes a nap."),
+        notCreated("AnswersBeyondTheEnumeration", IppBytes(0x7777).ended(),
+                   "The print server %1 refused: IPP 0x7777."),
+        notCreated("HasNoSuchQueue", IppBytes(0x0406).ended(),
+                   "The print server %1 has no queue photo.", ServerFault::NotFound),
+        notCreated("WantsAPassword", IppBytes(0x0402).ended(),
+                   "The print server %1 lets nobody print to photo without a password.",
+                   ServerFault::NeedsPassword),
+        notCreated(
+            "SaysAMegabyte",
+            [] {
+                IppBytes message(0x0400);
+                message.attribute(IPP_TAG_TEXT, "status-message", QByteArray(32767, 'm'));
+                for (int part = 0; part < 32; ++part)
+                    message.attribute(IPP_TAG_TEXT, {}, QByteArray(32767, 'm'));
+                return message.ended();
+            }(),
+            [] {
+                static const QByteArray expected =
+                    "The print server %1 refused: " + QByteArray(300, 'm') + "\xe2\x80\xa6";
+                return expected.constData();
+            }()),
+        JobMisbehaviour{"LeavesWithoutAWord",
+                        {{"Create-Job", {readBody(), closeConnection()}}},
+                        ServerFault::Unreachable,
+                        "The print server %1 closed the connection without an answer.",
+                        {},
+                        kCreated},
+        JobMisbehaviour{"IsSilent",
+                        {{"Create-Job", {readBody(), hold()}}},
+                        ServerFault::Silent,
+                        "The print server %1 does not answer.",
+                        {},
+                        kCreated,
+                        kShort}),
+    CaseName());
+
+JobMisbehaviour notTaken(const char *behaviour, const Steps &steps, const char *sentence,
+                         ServerFault fault = ServerFault::Refused)
+{
+    return {behaviour, {{"Send-Document", steps}}, fault, sentence, {}, kCancelled};
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    SentADocument, AServerThatTakesJobs,
+    testing::Values(
+        notTaken("RefusesItAtItsEnd", answerIpp(refusal(0x040A, "Unknown format.")),
+                 "The print server %1 refused: Unknown format."),
+        notTaken("RefusesItAtOnce", {write(ippAnswer(refusal(0x040A, "Unknown format."))), hold()},
+                 "The print server %1 refused: Unknown format."),
+        notTaken("LosesTheJob", answerIpp(refusal(0x0406, "Job #7 does not exist.")),
+                 "The print server %1 refused: Job #7 does not exist."),
+        notTaken("ForbidsIt", {write(httpAnswer("403 Forbidden", "text/plain", "no")), hold()},
+                 "The print server %1 does not allow this machine to print to photo."),
+        notTaken("FindsItTooLarge",
+                 {write(httpAnswer("413 Request Entity Too Large", "text/plain", "no")), hold()},
+                 "The print server %1 refused (HTTP 413)."),
+        notTaken("AnswersNonsense", answerIpp("<html>"), kNonsense)),
+    CaseName());
+
+JobMisbehaviour taken(const char *behaviour, const Steps &steps,
+                      std::chrono::milliseconds patience = kServerPatience)
+{
+    return {behaviour,
+            {{"Get-Job-Attributes", steps}},
+            ServerFault::None,
+            nullptr,
+            {u"Whether the server keeps all settings of job 7 is not known: its account of the job "
+             "cannot be read."_s},
+            kAccepted,
+            patience};
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    AskedForAnAcceptedJob, AServerThatTakesJobs,
+    testing::Values(
+        taken("NestsCollections",
+              answerIpp(IppBytes().group(IPP_TAG_JOB).nested("job-state", 9000).ended())),
+        taken("AnswersNonsense", answerIpp("<html>")),
+        taken("HasAFault", answerWith(httpAnswer("500 Internal Server Error", "text/plain", "no"))),
+        taken("LeavesWithoutAWord", {readBody(), closeConnection()}),
+        taken("LeavesInItsAnswer",
+              {readBody(), write(ippAnswer(IppBytes().ended()).chopped(5)), closeConnection()}),
+        taken("IsSilent", {readBody(), hold()}, kShort),
+        taken("SendsHeadersWithoutEnd",
+              {readBody(), write("HTTP/1.1 200 OK\r\n"),
+               flood(QByteArray("X-More: more\r\n").repeated(1000), 1LL << 40)},
+              kShort),
+        JobMisbehaviour{"SaysThatItDoesNotTell",
+                        {{"Get-Job-Attributes", answerIpp(IppBytes(0x0403).ended())}},
+                        ServerFault::None,
+                        nullptr,
+                        {},
+                        kAccepted},
+        JobMisbehaviour{
+            "KnowsItByOtherSyntaxes",
+            {{"Get-Job-Attributes", answerIpp(IppBytes()
+                                                  .group(IPP_TAG_JOB)
+                                                  .attribute(IPP_TAG_TEXT, "job-state", "held")
+                                                  .attribute(IPP_TAG_NAME, "VKMediaType", "Glossy")
+                                                  .ended())}},
+            ServerFault::None,
+            nullptr,
+            {},
+            kAccepted}),
+    CaseName());
+
+} // namespace
