@@ -2,9 +2,12 @@
 
 #include <QtCore/QTimer>
 #include <QtWidgets/QApplication>
+#include <QtWidgets/QFileDialog>
+#include <QtWidgets/QLineEdit>
 #include <QtWidgets/QMessageBox>
 
 #include <functional>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -77,6 +80,34 @@ TEST_F(OutputQuestion, IsNoPartOfARecording)
     ASSERT_TRUE(isDone()) << notice().toStdString();
     ASSERT_TRUE(m_window->finishRecording());
     EXPECT_FALSE(readFile(m_line.record).contains("answers"));
+}
+
+TEST_F(OutputQuestion, IsAskedWhereTheUserChoosesTheName)
+{
+    const QString existing = std::exchange(m_line.output, QString());
+    open();
+    QString asked;
+    QTimer::singleShot(0, m_window.get(), [&] {
+        ASSERT_TRUE(QTest::qWaitFor([] { return QApplication::activeModalWidget(); }));
+        auto *files = qobject_cast<QFileDialog *>(QApplication::activeModalWidget());
+        ASSERT_NE(files, nullptr);
+        QTimer::singleShot(0, files, [&, files] {
+            ASSERT_TRUE(
+                QTest::qWaitFor([files] { return QApplication::activeModalWidget() != files; }));
+            auto *question = qobject_cast<QMessageBox *>(QApplication::activeModalWidget());
+            ASSERT_NE(question, nullptr);
+            asked = question->text();
+            QTest::keyClick(question, Qt::Key_Escape);
+            files->reject();
+        });
+        auto *name = files->findChild<QLineEdit *>(u"fileNameEdit"_s);
+        name->setText(existing);
+        QTest::keyClick(name, Qt::Key_Return);
+    });
+    click("saveButton");
+    EXPECT_TRUE(asked.contains(u"out.job"_s)) << asked.toStdString();
+    EXPECT_EQ(readFile(existing), "precious");
+    EXPECT_TRUE(m_window->isVisible());
 }
 
 TEST_F(OutputQuestion, IsNotAskedWithForce)
