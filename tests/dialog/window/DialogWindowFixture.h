@@ -36,6 +36,17 @@ protected:
         ASSERT_TRUE(QTest::qWaitForWindowActive(m_window.get()));
     }
 
+    /// The same, noted in a script.
+    void openRecorded()
+    {
+        m_line.record = m_folder.filePath(QStringLiteral("session.jsonl"));
+        m_window = std::make_unique<DialogWindow>(m_line);
+        ASSERT_TRUE(m_window->beginRecording());
+        m_window->start();
+        m_window->show();
+        ASSERT_TRUE(QTest::qWaitForWindowActive(m_window.get()));
+    }
+
     template <typename Widget> Widget *part(const char *name)
     {
         auto *found = m_window->findChild<Widget *>(QLatin1String(name));
