@@ -1,5 +1,6 @@
 #include "dialog/cups/DocumentFile.h"
 
+#include "dialog/files/DescriptorPath.h"
 #include "dialog/files/PathBytes.h"
 
 #include <QtCore/QCoreApplication>
@@ -81,22 +82,6 @@ Opened openByName(const QString &path)
     return ordinary(std::move(file), 0, shown, QFileInfo(shown).fileName());
 }
 
-/// The number of the descriptor that the path stands for, if it is one.
-std::optional<int> descriptorOf(const QString &path)
-{
-    if (path == QLatin1String("-") || path == QLatin1String("/dev/stdin"))
-        return STDIN_FILENO;
-    for (const char *folder : {"/dev/fd/", "/proc/self/fd/"}) {
-        bool isNumber = false;
-        const uint number = path.startsWith(QLatin1String(folder))
-                                ? path.mid(QLatin1String(folder).size()).toUInt(&isNumber)
-                                : 0;
-        if (isNumber)
-            return static_cast<int>(number);
-    }
-    return std::nullopt;
-}
-
 /// A descriptor that whoever started the program has left open for it; none of the program's own.
 FileDescriptor inherited(int descriptor)
 {
@@ -135,7 +120,8 @@ Opened openDescriptor(int descriptor, const QString &path)
 
 Opened openDocument(const QString &path)
 {
-    const std::optional<int> descriptor = descriptorOf(path);
+    const std::optional<int> descriptor =
+        path == QLatin1String("-") ? STDIN_FILENO : descriptorOf(path);
     return descriptor ? openDescriptor(*descriptor, path) : openByName(path);
 }
 

@@ -6,8 +6,6 @@
 
 #include <QtCore/QCoreApplication>
 
-#include <csignal>
-
 namespace {
 
 QByteArray headerLine(const char *field, const QByteArray &value)
@@ -78,15 +76,6 @@ OutputTerms keeping(const Documents &documents, OutputTerms terms)
     return terms;
 }
 
-// A pipe's reader that goes is a fault of writing, not the end of the program.
-void blockPipeSignal()
-{
-    sigset_t signals;
-    sigemptyset(&signals);
-    sigaddset(&signals, SIGPIPE);
-    pthread_sigmask(SIG_BLOCK, &signals, nullptr);
-}
-
 } // namespace
 
 WrittenJobFile writeJobFile(const QString &path, const JobRequest &job, const OutputTerms &terms,
@@ -97,7 +86,6 @@ WrittenJobFile writeJobFile(const QString &path, const JobRequest &job, const Ou
                 jobFileSentence(QT_TRANSLATE_NOOP("JobFile", "%1 would have too many documents: %2 "
                                                              "are the most."),
                                 path, QString::number(kMostJobFileDocuments))};
-    blockPipeSignal();
     OutputFile file;
     file.setMayWait([&guard] {
         guard.stampSignOfLife();

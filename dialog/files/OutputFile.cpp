@@ -1,5 +1,6 @@
 #include "dialog/files/OutputFile.h"
 
+#include "dialog/files/DescriptorPath.h"
 #include "dialog/files/PathBytes.h"
 
 #include <QtCore/QCoreApplication>
@@ -8,6 +9,7 @@
 #include <algorithm>
 #include <cerrno>
 #include <climits>
+#include <csignal>
 #include <cstddef>
 #include <cstdio>
 #include <cstdlib>
@@ -25,28 +27,11 @@ constexpr int kNew = O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC;
 constexpr mode_t kEverybodysMode = 0666; // as far as the user's mask lets it
 constexpr mode_t kPermissions = 07777;
 
-/// The number of the open file that the path stands for, if it is one.
-std::optional<int> openFileAt(const QString &path)
-{
-    if (path == QLatin1String("/dev/stdout"))
-        return STDOUT_FILENO;
-    if (path == QLatin1String("/dev/stderr"))
-        return STDERR_FILENO;
-    for (const QLatin1String folder :
-         {QLatin1String("/dev/fd/"), QLatin1String("/proc/self/fd/")}) {
-        bool isNumber = false;
-        const uint number = path.startsWith(folder) ? path.mid(folder.size()).toUInt(&isNumber) : 0;
-        if (isNumber)
-            return static_cast<int>(number);
-    }
-    return std::nullopt;
-}
-
 Standing standingAt(const QString &path)
 {
     struct stat status = {};
     const QByteArray bytes = bytesOfPath(path);
-    if (openFileAt(path))
+    if (descriptorOf(path))
         return Standing::Stream;
     if (stat(bytes.constData(), &status) != 0)
         return lstat(bytes.constData(), &status) == 0 ? Standing::File : Standing::Nothing;
@@ -85,6 +70,15 @@ bool synchronize(int descriptor)
     return fsync(descriptor) == 0 || errno == EINVAL || errno == EROFS;
 }
 
+// A pipe's reader that goes is a fault of writing, not the end of the program.
+void blockPipeSignal()
+{
+    sigset_t signals;
+    sigemptyset(&signals);
+    sigaddset(&signals, SIGPIPE);
+    pthread_sigmask(SIG_BLOCK, &signals, nullptr);
+}
+
 } // namespace
 
 void OutputTerms::addInput(const QString &path)
@@ -96,7 +90,7 @@ void OutputTerms::addInput(const QString &path)
 
 OutputVerdict verdictAt(const QString &path, const OutputTerms &terms)
 {
-    const std::optional<int> openFile = openFileAt(path);
+    const std::optional<int> openFile = descriptorOf(path);
     const auto identity = openFile ? identityOf(*openFile) : identityOf(path);
     OutputFacts facts;
     facts.standing = standingAt(path);
@@ -135,7 +129,8 @@ bool OutputFile::open(const QString &path, const OutputTerms &terms, Appears app
 bool OutputFile::openStream(const QByteArray &path)
 {
     m_isStream = true;
-    if (const std::optional<int> openFile = openFileAt(m_path))
+    blockPipeSignal();
+    if (const std::optional<int> openFile = descriptorOf(m_path))
         return take(fcntl(*openFile, F_DUPFD_CLOEXEC, STDERR_FILENO + 1));
     // A named pipe would keep whoever opens it waiting for a reader.
     const int descriptor = ::open(path.constData(), O_WRONLY | O_NONBLOCK | O_NOCTTY | O_CLOEXEC);

@@ -48,7 +48,8 @@ public:
     /// Without it write() waits for as long as that lasts.
     void setMayWait(std::function<bool()> mayWait) { m_mayWait = std::move(mayWait); }
 
-    /// False, with error(), when nothing may or can be written there. Waits for nothing.
+    /// False, with error(), when nothing may or can be written there. Waits for nothing. A thread
+    /// that opens a pipe or a device gets no SIGPIPE any more.
     bool open(const QString &path, const OutputTerms &terms, Appears appears = Appears::WhenWhole);
 
     /// Writes all bytes at once, without a buffer. False, with error(), when they cannot be

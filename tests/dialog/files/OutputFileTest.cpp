@@ -223,6 +223,19 @@ TEST_F(OutputFileIn, GoesToAPipeThatSomebodyReads)
     EXPECT_EQ(names(), QStringList{u"pipe"_s});
 }
 
+TEST_F(OutputFileIn, APipeWhoseReaderGoesIsSaid)
+{
+    const QByteArray pipe = path(u"pipe"_s).toUtf8();
+    ASSERT_EQ(mkfifo(pipe.constData(), 0600), 0);
+    OutputFile file;
+    {
+        const FileDescriptor reader(::open(pipe.constData(), O_RDONLY | O_NONBLOCK));
+        ASSERT_TRUE(file.open(path(u"pipe"_s), m_terms));
+    }
+    EXPECT_FALSE(file.write("x"));
+    EXPECT_EQ(file.error(), u"The file %1 cannot be written: Broken pipe."_s.arg(path(u"pipe"_s)));
+}
+
 TEST_F(OutputFileIn, NeedsNoPermissionForADevice)
 {
     EXPECT_EQ(write(u"/dev/null"_s, "x"), QString());

@@ -46,6 +46,18 @@ protected:
         QCoreApplication::processEvents(); // what the settings of the command line have put off
     }
 
+    /// The same, noted in a script.
+    void openRecorded()
+    {
+        m_line.record = m_folder.filePath(QStringLiteral("session.jsonl"));
+        m_window = std::make_unique<DialogWindow>(m_line);
+        ASSERT_TRUE(m_window->beginRecording());
+        m_window->start();
+        m_window->show();
+        ASSERT_TRUE(QTest::qWaitForWindowActive(m_window.get()));
+        waitForPrinter();
+    }
+
     template <typename Widget> Widget *part(const char *name)
     {
         auto *found = m_window->findChild<Widget *>(QLatin1String(name));

@@ -331,13 +331,7 @@ TEST_F(Window, KeepsEverythingWhenTheFileCannotBeWritten)
 
 TEST_F(Window, CanBeRecordedForReplay)
 {
-    m_line.record = m_folder.filePath(u"session.jsonl"_s);
-    m_window = std::make_unique<DialogWindow>(m_line);
-    ASSERT_TRUE(m_window->beginRecording());
-    m_window->start();
-    m_window->show();
-    ASSERT_TRUE(QTest::qWaitForWindowActive(m_window.get()));
-    waitForPrinter();
+    openRecorded();
     pick("mediaTypePopup", u"Glossy"_s);
     m_window->reject();
     EXPECT_TRUE(m_window->finishRecording());

@@ -70,12 +70,7 @@ TEST_F(OutputQuestion, ReplacesTheFileWhenTheAnswerIsYes)
 
 TEST_F(OutputQuestion, IsNoPartOfARecording)
 {
-    m_line.record = m_folder.filePath(u"session.jsonl"_s);
-    m_window = std::make_unique<DialogWindow>(m_line);
-    ASSERT_TRUE(m_window->beginRecording());
-    m_window->start();
-    m_window->show();
-    ASSERT_TRUE(QTest::qWaitForWindowActive(m_window.get()));
+    openRecorded();
     EXPECT_NE(printAndAnswer(replace), QString());
     ASSERT_TRUE(isDone()) << notice().toStdString();
     ASSERT_TRUE(m_window->finishRecording());
