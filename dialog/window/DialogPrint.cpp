@@ -68,14 +68,15 @@ void DialogWindow::saveToFile()
     const std::optional<JobRequest> request = finishedJob();
     if (!request)
         return;
+    // The file dialog's own question would take a file's name for rich text.
     const QString path =
         QFileDialog::getSaveFileName(this, tr("Save Job"), m_job.title() + u".velkaro-job"_s,
-                                     tr("Print jobs (*.velkaro-job);;All files (*)"));
+                                     tr("Print jobs (*.velkaro-job);;All files (*)"), nullptr,
+                                     QFileDialog::DontConfirmOverwrite);
     if (path.isEmpty() || m_isEnding)
         return;
-    OutputTerms terms = jobFileTerms(m_line);
-    terms.mayReplace = true; // the user has been asked
-    writeFile(path, *request, terms);
+    if (const auto terms = agreedTerms(path))
+        writeFile(path, *request, *terms);
 }
 
 /// The job is on its way. Cancel stops it.

@@ -3,6 +3,7 @@
 #include "tests/servers/IppBytes.h"
 #include "tests/servers/ScriptedServer.h"
 #include "tests/support/CaseName.h"
+#include "tests/support/Documents.h"
 #include "tests/support/Files.h"
 #include "tests/support/QStringPrinting.h"
 
@@ -46,8 +47,9 @@ TEST_P(AServerThatTakesJobs, IsTakenAtItsWord)
     job.server = server.address();
     job.queue = u"photo"_s;
     job.options = {{u"VKMediaType"_s, u"Glossy"_s}};
-    job.documents = {folder.filePath(u"document.pdf"_s)};
-    writeFile(job.documents[0], QByteArray(1000000, 'd'));
+    const QString document = folder.filePath(u"document.pdf"_s);
+    writeFile(document, QByteArray(1000000, 'd'));
+    job.documents = openedDocuments({document});
     CallGuard guard(GetParam().patience);
     const JobReceipt receipt = submitJob(job, guard);
     EXPECT_EQ(receipt.answer.fault, GetParam().fault);

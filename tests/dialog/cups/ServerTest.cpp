@@ -307,7 +307,7 @@ TEST_P(EncryptedServer, IsPrintedTo)
     EXPECT_EQ(nickname(queue), u"Velkaro PX-T900, 1.0"_s);
     JobRequest request = job(u"photo"_s);
     request.server = front.address();
-    request.documents += document("second");
+    request.documents.push_back(document("second").front());
     const JobReceipt receipt = submitJob(request, m_guard);
     EXPECT_EQ(receipt.answer.sentence, QString());
     EXPECT_EQ(receipt.notes, QStringList());

@@ -86,14 +86,14 @@ TEST_F(OutputQuestion, IsAskedWhereTheUserChoosesTheName)
         ASSERT_TRUE(QTest::qWaitFor([] { return QApplication::activeModalWidget(); }));
         auto *files = qobject_cast<QFileDialog *>(QApplication::activeModalWidget());
         ASSERT_NE(files, nullptr);
-        QTimer::singleShot(0, files, [&, files] {
+        QTimer::singleShot(0, m_window.get(), [&, files] {
             ASSERT_TRUE(
                 QTest::qWaitFor([files] { return QApplication::activeModalWidget() != files; }));
             auto *question = qobject_cast<QMessageBox *>(QApplication::activeModalWidget());
             ASSERT_NE(question, nullptr);
+            EXPECT_EQ(question->textFormat(), Qt::PlainText);
             asked = question->text();
             QTest::keyClick(question, Qt::Key_Escape);
-            files->reject();
         });
         auto *name = files->findChild<QLineEdit *>(u"fileNameEdit"_s);
         name->setText(existing);
