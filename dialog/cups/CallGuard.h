@@ -28,11 +28,13 @@ public:
     int *cancelFlag() { return &m_cancelled; }
 
     void stampSignOfLife() { m_lastSign = Clock::now(); }
+
+    /// The server is known to be busy: only after so many times the patience is it out of it.
+    void expectSilence(int patiences) { m_lastSign = Clock::now() + (patiences - 1) * m_patience; }
+
+    /// Since the last sign; negative while silence is expected.
     Clock::duration silence() const { return Clock::now() - m_lastSign.load(); }
     bool isOutOfPatience() const { return silence() >= m_patience; }
-
-    /// From now on and up to the next sign of life, silence may last so many times the patience.
-    void allowSilence(int patiences) { m_lastSign = Clock::now() + (patiences - 1) * m_patience; }
 
     /// From now on the server may take so many times the patience, signs of life or not.
     void limitTime(int patiences) { m_end = Clock::now() + patiences * m_patience; }

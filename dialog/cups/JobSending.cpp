@@ -4,8 +4,6 @@
 
 namespace {
 
-constexpr int kPatiencesForAnswer = 3; // to a document, which a server may be busy with
-
 IppHandle sendDocumentRequest(const JobRequest &job, int id, const QString &name, bool isLast)
 {
     IppHandle request = queueRequest(IPP_OP_SEND_DOCUMENT, job.queue);
@@ -16,43 +14,34 @@ IppHandle sendDocumentRequest(const JobRequest &job, int id, const QString &name
     return request;
 }
 
-/// The documents of a job on their way.
-struct Attempt
+/// A server that has got a document and fails, or breaks off, may have taken it.
+bool isLost(const ExchangeEnd &end)
 {
-    const JobRequest &job;
-    ServerConnection &connection;
-    JobProgress &progress;
-    QString fault; ///< of a document; null when there is none
-};
-
-bool write(Attempt &attempt, const char *bytes, qint64 length)
-{
-    if (!attempt.connection.upload(bytes, length))
-        return false;
-    attempt.progress.add(length);
-    return true;
+    return end.kind == ExchangeEnd::Kind::HttpStatus ? end.status >= HTTP_STATUS_SERVER_ERROR
+                                                     : end.kind != ExchangeEnd::Kind::Answered;
 }
 
-/// The answer decides whether the job prints.
 Sent takeAnswer(ServerConnection &connection)
 {
-    connection.guard().allowSilence(kPatiencesForAnswer);
-    const IppHandle answer = connection.endUpload();
-    if (!answer)
-        return Sent::Lost;
-    return connection.succeeded() ? Sent::Accepted : Sent::Refused;
+    connection.endUpload();
+    if (connection.succeeded())
+        return Sent::Accepted;
+    return isLost(connection.lastEnd()) ? Sent::Lost : Sent::Refused;
 }
 
-Sent sendDocument(Attempt &attempt, const Document &document, const IppHandle &request)
+SentDocuments sendDocument(ServerConnection &connection, const JobRequest &job,
+                           const Document &document, const IppHandle &request,
+                           JobProgress &progress)
 {
-    if (!attempt.connection.beginUpload(request, queueResource(attempt.job.queue)))
-        return Sent::Refused;
-    const Delivery delivery = deliver(
-        document, [&](const char *bytes, qint64 length) { return write(attempt, bytes, length); });
-    attempt.fault = deliveryFault(document, delivery);
-    if (!attempt.fault.isNull())
-        return Sent::Changed;
-    return delivery == Delivery::Complete ? takeAnswer(attempt.connection) : Sent::Refused;
+    if (!connection.beginUpload(request, queueResource(job.queue)))
+        return {Sent::Refused, {}};
+    const Delivery delivery = deliver(document, [&](const char *bytes, qint64 length) {
+        progress.add(length);
+        return connection.upload(bytes, length);
+    });
+    if (const QString fault = deliveryFault(document, delivery); !fault.isNull())
+        return {Sent::Changed, fault};
+    return {delivery == Delivery::Complete ? takeAnswer(connection) : Sent::Refused, {}};
 }
 
 } // namespace
@@ -60,16 +49,16 @@ Sent sendDocument(Attempt &attempt, const Document &document, const IppHandle &r
 SentDocuments sendDocuments(ServerConnection &connection, const JobRequest &job,
                             JobProgress &progress)
 {
-    Attempt attempt{job, connection, progress, {}};
     for (const Document &document : job.documents) {
         const bool isLast = &document == &job.documents.back();
-        const Sent sent = sendDocument(
-            attempt, document, sendDocumentRequest(job, progress.id(), document.name(), isLast));
+        const SentDocuments one = sendDocument(
+            connection, job, document,
+            sendDocumentRequest(job, progress.id(), document.name(), isLast), progress);
         // Without one of the others the job is incomplete, whatever the server made of it.
-        if (sent == Sent::Lost && !isLast)
+        if (one.sent == Sent::Lost && !isLast)
             return {Sent::Refused, {}};
-        if (sent != Sent::Accepted)
-            return {sent, attempt.fault};
+        if (one.sent != Sent::Accepted)
+            return one;
     }
     return {};
 }

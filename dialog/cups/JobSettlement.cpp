@@ -69,16 +69,13 @@ bool lookForAnswer(JobReceipt &receipt, ServerConnection &connection, const JobR
             endedByServer(QT_TRANSLATE_NOOP("JobSettlement", "The print server %1 aborted job %2."),
                           server, receipt.id);
         return true;
-    case JobFate::Incomplete:
-        return false;
     case JobFate::Unknown:
+        receipt.answer = perhapsPrinted(server, receipt.id);
+        return true;
+    case JobFate::Incomplete:
         break;
     }
-    const bool saidNo = receipt.answer.fault != ServerFault::Silent &&
-                        receipt.answer.fault != ServerFault::Unreachable;
-    if (!saidNo)
-        receipt.answer = perhapsPrinted(server, receipt.id);
-    return !saidNo;
+    return false;
 }
 
 } // namespace

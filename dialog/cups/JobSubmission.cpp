@@ -16,10 +16,10 @@ IppHandle createJobRequest(const JobRequest &job)
     return request;
 }
 
-/// The number of the job in the server's answer; 0 for one that no job can have.
-int createdJob(const IppHandle &answer)
+/// The number of the job in the server's answer; 0 without one that a job can have.
+int createdJob(const IppHandle &response)
 {
-    ipp_attribute_t *id = ippFindAttribute(answer.get(), "job-id", IPP_TAG_INTEGER);
+    ipp_attribute_t *id = ippFindAttribute(response.get(), "job-id", IPP_TAG_INTEGER);
     return id ? qMax(0, ippGetInteger(id, 0)) : 0;
 }
 
@@ -37,7 +37,7 @@ JobReceipt submitJob(const JobRequest &request, CallGuard &guard,
     IppHandle created;
     if (connection.isConnected() && !guard.isCancelled())
         created = connection.request(createJobRequest(request), queueResource(request.queue));
-    receipt.id = created && connection.succeeded() ? createdJob(created) : 0;
+    receipt.id = connection.succeeded() && created ? createdJob(created) : 0;
     if (receipt.id == 0) {
         receipt.answer = connection.lastAnswer(request.queue);
         return receipt;

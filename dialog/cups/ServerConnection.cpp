@@ -215,6 +215,7 @@ void ServerConnection::takeRefusal(int status)
 
 IppHandle ServerConnection::endUpload()
 {
+    m_guard.expectSilence(kPatiencesAfterDocument);
     m_guard.limitTime(kPatiencesPerExchange);
     const bool isSent = httpWrite2(m_http.get(), "", 0) >= 0; // the last chunk
     return readAnswer(isSent ? status() : HTTP_STATUS_ERROR);

@@ -9,6 +9,10 @@
 /// answer has this time.
 inline constexpr int kPatiencesPerExchange = 4;
 
+/// The silence of a server that was sent a document, and may be busy with it: 24 s. Its answer
+/// decides whether the job prints.
+inline constexpr int kPatiencesAfterDocument = 3;
+
 /// A PPD: 64 s.
 inline constexpr int kPatiencesPerPPD = 8;
 

@@ -160,7 +160,7 @@ void DialogWindow::setState(State state)
     m_tabs->setEnabled(state == State::Ready);
     setButtonTitle(m_cancel, state == State::Done ? tr("Close") : tr("Cancel"));
     m_print->setVisible(state != State::Done);
-    m_print->setText(printTitle());
+    setButtonTitle(m_print, printTitle());
     m_print->setDefault(!m_mayHavePrinted); // not twice by mistake
     updateButtons();
     Q_EMIT stateChanged();

@@ -1,5 +1,7 @@
 #include "dialog/window/ProgressStrip.h"
 
+#include "platform/toolkit/SpokenName.h"
+
 #include <algorithm>
 
 namespace {
@@ -12,7 +14,7 @@ constexpr int kSteps = 1000;
 ProgressStrip::ProgressStrip(QWidget *parent) : QProgressBar(parent)
 {
     setObjectName(QStringLiteral("progressStrip"));
-    setAccessibleName(tr("Progress"));
+    setSpokenName(this, tr("Progress"));
     setRange(0, kSteps);
     hide();
 }

@@ -186,7 +186,8 @@ INSTANTIATE_TEST_SUITE_P(
                         false,
                         0,
                         "photo accepted job 7.\n",
-                        "",
+                        "velkaro-print: Whether the server keeps all settings of job 7 is not "
+                        "known: its account of the job cannot be read.\n",
                         {kGetPPD, u"Create-Job"_s, u"Send-Document"_s, u"Get-Job-Attributes"_s}}),
     [](const auto &row) { return std::string(row.param.name); });
 

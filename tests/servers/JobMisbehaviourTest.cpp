@@ -5,7 +5,6 @@
 #include "tests/support/CaseName.h"
 #include "tests/support/Documents.h"
 #include "tests/support/Files.h"
-#include "tests/support/QStringPrinting.h"
 
 #include <QtCore/QTemporaryDir>
 
@@ -47,9 +46,8 @@ TEST_P(AServerThatTakesJobs, IsTakenAtItsWord)
     job.server = server.address();
     job.queue = u"photo"_s;
     job.options = {{u"VKMediaType"_s, u"Glossy"_s}};
-    const QString document = folder.filePath(u"document.pdf"_s);
-    writeFile(document, QByteArray(1000000, 'd'));
-    job.documents = openedDocuments({document});
+    writeFile(folder.filePath(u"document.pdf"_s), QByteArray(1000000, 'd'));
+    job.documents = openedDocuments({folder.filePath(u"document.pdf"_s)});
     CallGuard guard(GetParam().patience);
     const JobReceipt receipt = submitJob(job, guard);
     EXPECT_EQ(receipt.answer.fault, GetParam().fault);
@@ -155,7 +153,14 @@ INSTANTIATE_TEST_SUITE_P(
         notTaken("FindsItTooLarge",
                  {write(httpAnswer("413 Request Entity Too Large", "text/plain", "no")), hold()},
                  "The print server %1 refused (HTTP 413)."),
-        notTaken("AnswersNonsense", answerIpp("<html>"), kNonsense)),
+        JobMisbehaviour{"IsBusyWithItForLonger",
+                        {{"Send-Document",
+                          {readBody(), hold(2 * kShort), write(ippAnswer(IppBytes().ended()))}}},
+                        ServerFault::None,
+                        nullptr,
+                        {},
+                        kAccepted,
+                        kShort}),
     CaseName());
 
 JobMisbehaviour taken(const char *behaviour, const Steps &steps,

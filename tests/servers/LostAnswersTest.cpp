@@ -98,6 +98,14 @@ INSTANTIATE_TEST_SUITE_P(
     testing::Values(
         Loss{"Pending", kTakeAndClose, {}, {}, ServerFault::None, "", {kLook, kLook}},
         Loss{"Silence", kTakeAndHold, {}, {}, ServerFault::None, "", {kLook, kLook}},
+        Loss{"FaultOfTheServer",
+             answerWith(httpAnswer("503 Service Unavailable", "text/plain", "no")),
+             {},
+             {},
+             ServerFault::None,
+             "",
+             {kLook, kLook}},
+        Loss{"Nonsense", answerIpp("<html>"), {}, {}, ServerFault::None, "", {kLook, kLook}},
         Loss{"Printing",
              kTakeAndClose,
              jobInState(IPP_JSTATE_PROCESSING, "job-printing"),
@@ -170,8 +178,7 @@ INSTANTIATE_TEST_SUITE_P(
              {},
              {},
              ServerFault::Refused,
-             "The print server %1 refused: client-error-document-format-not-"
-             "supported.",
+             "The print server %1 refused: IPP 0x040a.",
              {kCancel}}),
     [](const auto &row) { return std::string(row.param.name); });
 
@@ -181,17 +188,6 @@ TEST_F(LostAnswer, ThatWasARefusalStaysOne)
         {{"Send-Document", answerIpp(IppBytes(IPP_STATUS_ERROR_NOT_POSSIBLE).ended())},
          {"Cancel-Job", kNotPossible}});
     EXPECT_EQ(submitJob(job(server), m_guard).answer.fault, ServerFault::Unsettled);
-}
-
-TEST_F(LostAnswer, IsWaitedForLongerThanAServerMayBeSilentOtherwise)
-{
-    const ScriptedServer server({{"Send-Document",
-                                  {readBody(), hold(kPatience * 2),
-                                   write(ippAnswer(IppBytes().group(IPP_TAG_JOB).ended()))}}});
-    const JobReceipt receipt = submitJob(job(server), m_guard);
-    EXPECT_EQ(receipt.answer.sentence, QString());
-    EXPECT_EQ(server.requests(),
-              (QStringList{u"Create-Job"_s, u"Send-Document"_s, u"Get-Job-Attributes"_s}));
 }
 
 TEST_F(LostAnswer, ToOneOfSeveralDocumentsLeavesAJobThatIsCancelled)

@@ -95,6 +95,7 @@ TEST_F(Delivery, ThatIsCancelledKeepsTheFormerFile)
 {
     ASSERT_TRUE(QFile::remove(m_line.output));
     writeFile(m_line.output, "precious");
+    m_line.force = true;
     QFile large(m_line.files[0]);
     ASSERT_TRUE(large.resize(8LL * 1024 * 1024 * 1024)); // a hole: it takes a while to write
     beginWriting();
