@@ -10,7 +10,7 @@ template <typename Result>
 std::optional<Result> waitUnlessEnded(EndSignals &signals, std::chrono::milliseconds patience,
                                       const std::function<Result(CallGuard &)> &work)
 {
-    const auto result = waitForServer<Result>(patience, work, [&](ServerCall &started) {
+    auto result = waitForServer<Result>(patience, work, [&](ServerCall &started) {
         signals.setAction([call = QPointer(&started)] {
             if (call)
                 call->cancel();
