@@ -90,7 +90,7 @@ IppHandle listRequest()
 {
     IppHandle request(ippNewRequest(IPP_OP_CUPS_GET_PRINTERS)); // and classes
     ippAddString(request.get(), IPP_TAG_OPERATION, IPP_TAG_NAME, "requesting-user-name", nullptr,
-                 cupsUser());
+                 requestingUser().constData());
     ippAddStrings(request.get(), IPP_TAG_OPERATION, IPP_TAG_KEYWORD, "requested-attributes",
                   static_cast<int>(kWanted.size()), nullptr, kWanted.data());
     return request;

@@ -306,6 +306,11 @@ ServerAnswer ServerConnection::lastAnswer(const QString &queue) const
     return answerOf(end, m_name, queue);
 }
 
+QByteArray requestingUser()
+{
+    return outgoingText(QString::fromLocal8Bit(cupsUser()), "anonymous");
+}
+
 IppHandle queueRequest(ipp_op_t operation, const QString &queue)
 {
     IppHandle request(ippNewRequest(operation));
@@ -314,7 +319,7 @@ IppHandle queueRequest(ipp_op_t operation, const QString &queue)
                      "/printers/%s", queue.toUtf8().constData());
     ippAddString(request.get(), IPP_TAG_OPERATION, IPP_TAG_URI, "printer-uri", nullptr, uri);
     ippAddString(request.get(), IPP_TAG_OPERATION, IPP_TAG_NAME, "requesting-user-name", nullptr,
-                 outgoingText(QString::fromLocal8Bit(cupsUser()), "anonymous").constData());
+                 requestingUser().constData());
     return request;
 }
 

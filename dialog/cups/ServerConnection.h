@@ -90,6 +90,9 @@ private:
     ExchangeEnd m_end;
 };
 
+/// The user as a server is told of him.
+QByteArray requestingUser();
+
 /// A request about the queue, with the attributes that every request begins with.
 IppHandle queueRequest(ipp_op_t operation, const QString &queue);
 

@@ -266,7 +266,7 @@ TEST_F(Dialog, ShowsWhatAServerSaysAsItStands)
 {
     TrapFolder trap;
     const QString queue = u"q<b>A&amp;B"_s;
-    const QString text = displayText(PlainTextWalk::foreignText(trap.fifo()));
+    const QString text = displayText(PlainTextWalk::foreignText(trap.fifo())).simplified();
     ASSERT_TRUE(server().addQueue(queue, samplePPD(u"velkaro-px-t900"_s)));
     ASSERT_TRUE(server().lpadmin({u"-p"_s, queue, u"-D"_s, text, u"-L"_s, text}));
     const auto window = open(lineFor(server().address(), queue));

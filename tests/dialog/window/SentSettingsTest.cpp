@@ -43,7 +43,7 @@ protected:
     /// The options of the job, "name=value", without those of the panels' ticket.
     QStringList sent()
     {
-        click("printButton");
+        print();
         EXPECT_EQ(m_window->exitStatus(), ExitStatus::Done) << notice().toStdString();
         QStringList options;
         for (const QByteArray &line : written().split('\n'))
