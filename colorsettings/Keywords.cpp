@@ -11,39 +11,39 @@
 
 using namespace Qt::StringLiterals;
 
-QString VKInkColorSettingPDE::determineKey(QWidget *determineKey) const
+QString VKInkColorSettingPDE::determineKey(QWidget *control) const
 {
     // An outlet that is not connected must not match a sender that is not there.
-    if (!determineKey)
+    if (!control)
         return {};
-    if (determineKey == colorMatchingMatrix)
+    if (control == colorMatchingMatrix)
         return u"VKColorMatching"_s;
-    if (determineKey == ditherPopup)
+    if (control == ditherPopup)
         return u"VKHalfTonePattern"_s;
-    return determineKey == colorEnhanceButton ? u"VKColorEnhancement"_s : QString();
+    return control == colorEnhanceButton ? u"VKColorEnhancement"_s : QString();
 }
 
-QWidget *VKInkColorSettingPDE::determineUI(const QString &determineUI) const
+QWidget *VKInkColorSettingPDE::determineUI(const QString &keyword) const
 {
-    if (determineUI == "VKColorMatching"_L1)
+    if (keyword == "VKColorMatching"_L1)
         return colorMatchingMatrix;
-    if (determineUI == "VKHalfTonePattern"_L1)
+    if (keyword == "VKHalfTonePattern"_L1)
         return ditherPopup;
-    return determineUI == "VKColorEnhancement"_L1 ? colorEnhanceButton : nullptr;
+    return keyword == "VKColorEnhancement"_L1 ? colorEnhanceButton : nullptr;
 }
 
-QWidget *VKInkColorSettingPDE::determineLabel(const QString &determineLabel) const
+QWidget *VKInkColorSettingPDE::determineLabel(const QString &keyword) const
 {
-    if (determineLabel == "VKColorMatching"_L1)
+    if (keyword == "VKColorMatching"_L1)
         return colorMatchingLabel;
-    if (determineLabel == "VKHalfTonePattern"_L1)
+    if (keyword == "VKHalfTonePattern"_L1)
         return ditherLabel;
-    return effectOutlets(determineLabel).label;
+    return effectOutlets(keyword).label;
 }
 
-QWidget *VKInkColorSettingPDE::determineField(const QString &determineField) const
+QWidget *VKInkColorSettingPDE::determineField(const QString &keyword) const
 {
-    return effectOutlets(determineField).field;
+    return effectOutlets(keyword).field;
 }
 
 VKInkColorSettingPDE::EffectOutlets

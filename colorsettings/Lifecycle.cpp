@@ -25,10 +25,9 @@ VKInkColorSettingPDE::VKInkColorSettingPDE() = default;
 
 VKInkColorSettingPDE::~VKInkColorSettingPDE() = default;
 
-bool VKInkColorSettingPDE::initWithCallback(
-    const std::shared_ptr<PDEPluginCallback> &initWithCallback)
+bool VKInkColorSettingPDE::initWithCallback(const std::shared_ptr<PDEPluginCallback> &callback)
 {
-    if (!VKPrintQualityPDE::initWithCallback(initWithCallback))
+    if (!VKPrintQualityPDE::initWithCallback(callback))
         return false;
     setThePDEName(u"VKInkColorSetting"_s);
     setPPDKeys(keywordList(pluginBundle.get()));

@@ -25,10 +25,10 @@ QString ticketText(const PMPrintSettings *ticket, const QString &key)
 
 } // namespace
 
-void VKInkColorSettingPDE::printSettingsNotified(const Notification &printSettingsNotified)
+void VKInkColorSettingPDE::printSettingsNotified(const Notification &notification)
 {
-    if (printSettingsNotified.userInfo)
-        followPrintSettings(*printSettingsNotified.userInfo);
+    if (notification.userInfo)
+        followPrintSettings(*notification.userInfo);
     else
         followTicket();
     updateUI();

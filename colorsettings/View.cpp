@@ -117,9 +117,9 @@ void VKInkColorSettingPDE::nameControls()
     }
 }
 
-void VKInkColorSettingPDE::toggleShowOption(QWidget *toggleShowOption)
+void VKInkColorSettingPDE::toggleShowOption(QWidget *sender)
 {
-    const auto *button = qobject_cast<QAbstractButton *>(toggleShowOption);
+    const auto *button = qobject_cast<QAbstractButton *>(sender);
     const bool unfolded = button && button->isChecked();
     const QWidget *view = inspectedView();
     QSizeF size = view ? QSizeF(view->size()) : QSizeF(0, 0);

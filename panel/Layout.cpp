@@ -62,34 +62,34 @@ bool VKPrintQualityPDE::shouldHide()
     return true;
 }
 
-void VKPrintQualityPDE::changeImage(const QString &changeImage, ImageView *ofView)
+void VKPrintQualityPDE::changeImage(const QString &imageName, ImageView *view)
 {
-    if (!ofView || (!ofView->image().isNull() && ofView->imageName() == changeImage))
+    if (!view || (!view->image().isNull() && view->imageName() == imageName))
         return;
-    QString path = pluginBundle ? pluginBundle->pathForResource(changeImage, u"tiff"_s) : QString();
+    QString path = pluginBundle ? pluginBundle->pathForResource(imageName, u"tiff"_s) : QString();
     if (path.isNull() && pluginBundle)
-        path = pluginBundle->pathForResource(changeImage, u"pdf"_s);
+        path = pluginBundle->pathForResource(imageName, u"pdf"_s);
     if (path.isNull()) {
-        if (!ofView->image().isNull())
-            ofView->setImageName(u"None"_s);
-        ofView->setVisible(false);
+        if (!view->image().isNull())
+            view->setImageName(u"None"_s);
+        view->setVisible(false);
         return;
     }
-    ofView->setImage(QImage(path));
-    ofView->setImageName(changeImage);
-    ofView->setVisible(true);
+    view->setImage(QImage(path));
+    view->setImageName(imageName);
+    view->setVisible(true);
 }
 
-void VKPrintQualityPDE::setViewFrameSize(const QSizeF &setViewFrameSize)
+void VKPrintQualityPDE::setViewFrameSize(const QSizeF &size)
 {
     if (!pdePluginCallbackObject->respondsTo(HostOperation::PanelViewDidResize))
         return;
     if (panelView_)
-        panelView_->setFixedSize(setViewFrameSize.toSize());
+        panelView_->setFixedSize(size.toSize());
     const std::optional<double> windowHeight = keyWindowHeight();
     if (!hasFlag(PanelOnScreen) || !windowHeight)
         return;
-    if (*windowHeight > setViewFrameSize.height() + kWindowMargin) {
+    if (*windowHeight > size.height() + kWindowMargin) {
         pdePluginCallbackObject->panelViewDidResize();
         return;
     }
@@ -105,11 +105,11 @@ void VKPrintQualityPDE::dialogDidExpand(const Notification &)
     pdePluginCallbackObject->panelViewDidResize();
 }
 
-void VKPrintQualityPDE::adjustUIPosition(double adjustUIPosition, const QList<QWidget *> &forParts)
+void VKPrintQualityPDE::adjustUIPosition(double offset, const QList<QWidget *> &parts)
 {
-    for (QWidget *part : forParts) {
+    for (QWidget *part : parts) {
         // Up on the screen is a smaller vertical coordinate.
         if (part)
-            part->move(part->x(), part->y() - qRound(adjustUIPosition));
+            part->move(part->x(), part->y() - qRound(offset));
     }
 }

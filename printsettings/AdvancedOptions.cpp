@@ -36,7 +36,7 @@ void VKInkPrintSetting14PDE::initializePopup()
     restoreOptionState();
 }
 
-void VKInkPrintSetting14PDE::initializeAdvOption(const QList<QWidget *> &initializeAdvOption)
+void VKInkPrintSetting14PDE::initializeAdvOption(const QList<QWidget *> &parts)
 {
     if (advancedTableView)
         arrayController = std::make_unique<AdvancedOptionList>(*advancedTableView, advancedTabView);
@@ -47,7 +47,7 @@ void VKInkPrintSetting14PDE::initializeAdvOption(const QList<QWidget *> &initial
     addGroupRow(u"VKDuplexMode"_s);
     addLocalizedRow("OtherOption");
     if (!arrayController) {
-        for (QWidget *part : initializeAdvOption) {
+        for (QWidget *part : parts) {
             if (part)
                 part->setVisible(false);
         }
@@ -55,7 +55,7 @@ void VKInkPrintSetting14PDE::initializeAdvOption(const QList<QWidget *> &initial
     }
     arrayController->selectRow(0);
     titleSection(localized("advancedItem"));
-    if (initializeAdvOption.contains(advancedTableView))
+    if (parts.contains(advancedTableView))
         arrayController->fitColumn();
 }
 
@@ -86,15 +86,15 @@ void VKInkPrintSetting14PDE::addGroupRow(const QString &keyword)
         effectContent->setValue(keyword, managed);
 }
 
-void VKInkPrintSetting14PDE::addAdvOption(const QString &addAdvOption, const QString &forKey)
+void VKInkPrintSetting14PDE::addAdvOption(const QString &label, const QString &id)
 {
     if (arrayController)
-        arrayController->add({addAdvOption, forKey});
+        arrayController->add({label, id});
 }
 
-void VKInkPrintSetting14PDE::toggleShowOption(QWidget *toggleShowOption)
+void VKInkPrintSetting14PDE::toggleShowOption(QWidget *sender)
 {
-    const auto *button = qobject_cast<QAbstractButton *>(toggleShowOption);
+    const auto *button = qobject_cast<QAbstractButton *>(sender);
     const bool open = button && button->isChecked();
     const QWidget *view = inspectedView();
     const QSizeF size = view ? QSizeF(view->size()) : QSizeF(0, 0);

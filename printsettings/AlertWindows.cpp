@@ -147,15 +147,15 @@ void VKInkPrintSetting14PDE::titleButton(QAbstractButton *button, const char *ke
         setButtonTitle(button, localized(key));
 }
 
-int VKInkPrintSetting14PDE::showDialog(QWidget *showDialog, const QString &withAlertInfo)
+int VKInkPrintSetting14PDE::showDialog(QWidget *window, const QString &alertKey)
 {
-    const int result = runModalForWindow(showDialog);
+    const int result = runModalForWindow(window);
     if (result == kModalOK) {
         const bool suppressed = suppressionButton && suppressionButton->isChecked();
-        alertDidEnd({0, suppressed}, result, withAlertInfo);
+        alertDidEnd({0, suppressed}, result, alertKey);
     }
-    if (showDialog)
-        showDialog->hide();
+    if (window)
+        window->hide();
     return result;
 }
 

@@ -21,17 +21,16 @@ QString VKInkPrintSetting14PDE::selectedMediaType() const
     return mediaTypePopup ? mediaTypePopup->selectedObject() : QString();
 }
 
-void VKInkPrintSetting14PDE::changeState(PopUpButton *changeState, const QStringList &forArray,
-                                         bool toEnable, bool toDefault)
+void VKInkPrintSetting14PDE::changeState(PopUpButton *popup, const QStringList &choices,
+                                         bool enable, bool applyDefault)
 {
-    PopUpButton *popup = changeState;
     if (!popup)
         return;
-    if (toEnable && tagOf(popup) == kTagRebuilt)
-        rebuildQualities(*popup, forArray);
+    if (enable && tagOf(popup) == kTagRebuilt)
+        rebuildQualities(*popup, choices);
     else
-        setItemsEnabled(*popup, forArray, toEnable);
-    if (!toDefault) {
+        setItemsEnabled(*popup, choices, enable);
+    if (!applyDefault) {
         if (!hasFlag(DiscPaper))
             showQualitiesAfterDisc();
         if (isSelectedItemEnabled(*popup))

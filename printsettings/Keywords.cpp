@@ -47,13 +47,13 @@ const std::vector<VKInkPrintSetting14PDE::KeywordRow> &VKInkPrintSetting14PDE::k
     return keywordRows_;
 }
 
-QString VKInkPrintSetting14PDE::determineKey(QWidget *determineKey) const
+QString VKInkPrintSetting14PDE::determineKey(QWidget *control) const
 {
     // An outlet that is not connected is null too, and must not answer for no control at all.
-    if (!determineKey)
+    if (!control)
         return {};
     for (const KeywordRow &row : keywordRows()) {
-        if (row.control != determineKey)
+        if (row.control != control)
             continue;
         if (row.keyword == "VKMirror"_L1 && !managesKeyword(row.keyword))
             continue;
@@ -75,18 +75,18 @@ VKInkPrintSetting14PDE::keywordRow(const QString &keyword) const
     return row == rows.end() ? nullptr : &*row;
 }
 
-QWidget *VKInkPrintSetting14PDE::determineUI(const QString &determineUI) const
+QWidget *VKInkPrintSetting14PDE::determineUI(const QString &keyword) const
 {
-    const KeywordRow *row = keywordRow(determineUI);
+    const KeywordRow *row = keywordRow(keyword);
     if (!row ||
         (row->keyword == kDedicatedMedia && firstLanguageSetting() != kDedicatedMediaLanguage))
         return nullptr;
     return row->control;
 }
 
-QWidget *VKInkPrintSetting14PDE::determineLabel(const QString &determineLabel) const
+QWidget *VKInkPrintSetting14PDE::determineLabel(const QString &keyword) const
 {
-    const KeywordRow *row = keywordRow(determineLabel);
+    const KeywordRow *row = keywordRow(keyword);
     return row ? row->label : nullptr;
 }
 
@@ -105,15 +105,14 @@ void VKInkPrintSetting14PDE::checkModelName()
         setFlag(NewerModelClass, isNewerModelClass(ppd->model_number, ppdName(ppd->modelname)));
 }
 
-QString VKInkPrintSetting14PDE::addOnOffSuffix(QWidget *addOnOffSuffix,
-                                               const QString &ToString) const
+QString VKInkPrintSetting14PDE::addOnOffSuffix(QWidget *control, const QString &text) const
 {
-    const auto *button = qobject_cast<QAbstractButton *>(addOnOffSuffix);
-    const auto *box = qobject_cast<QCheckBox *>(addOnOffSuffix);
+    const auto *button = qobject_cast<QAbstractButton *>(control);
+    const auto *box = qobject_cast<QCheckBox *>(control);
     // A box between on and off counts as ticked for Qt.
     const bool mixed = box && box->checkState() == Qt::PartiallyChecked;
     const bool on = button && button->isEnabled() && button->isChecked() && !mixed;
-    return ToString + (on ? "_on"_L1 : "_off"_L1);
+    return text + (on ? "_on"_L1 : "_off"_L1);
 }
 
 QString VKInkPrintSetting14PDE::firstLanguageSetting() const

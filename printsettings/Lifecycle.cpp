@@ -29,10 +29,9 @@ VKInkPrintSetting14PDE::VKInkPrintSetting14PDE() = default;
 
 VKInkPrintSetting14PDE::~VKInkPrintSetting14PDE() = default;
 
-bool VKInkPrintSetting14PDE::initWithCallback(
-    const std::shared_ptr<PDEPluginCallback> &initWithCallback)
+bool VKInkPrintSetting14PDE::initWithCallback(const std::shared_ptr<PDEPluginCallback> &callback)
 {
-    if (!VKPrintQualityPDE::initWithCallback(initWithCallback))
+    if (!VKPrintQualityPDE::initWithCallback(callback))
         return false;
     if (pluginBundle)
         setPPDKeys(keywordList(pluginBundle->infoValue(u"PMPPDKeysSupported"_s)));
@@ -60,12 +59,12 @@ void VKInkPrintSetting14PDE::willShow()
     updateUI();
 }
 
-void VKInkPrintSetting14PDE::PPDOptionKeyValueDidChange(const QString &PPDOptionKeyValueDidChange,
-                                                        const QString &ppdChoice)
+void VKInkPrintSetting14PDE::PPDOptionKeyValueDidChange(const QString &keyword,
+                                                        const QString &choice)
 {
-    VKPrintQualityPDE::PPDOptionKeyValueDidChange(PPDOptionKeyValueDidChange, ppdChoice);
+    VKPrintQualityPDE::PPDOptionKeyValueDidChange(keyword, choice);
     // A medium that was chosen elsewhere gets the same rules as one picked here.
-    if (PPDOptionKeyValueDidChange == "VKMediaType"_L1)
+    if (keyword == "VKMediaType"_L1)
         requestNewOutputBin(mediaTypePopup);
 }
 

@@ -24,10 +24,10 @@ void setTicked(QCheckBox *box, bool ticked)
 
 } // namespace
 
-QStringList VKInkPrintSetting14PDE::allowedQuality(const QString &allowedQuality)
+QStringList VKInkPrintSetting14PDE::allowedQuality(const QString &mediaType)
 {
     const AllowedQualities allowed =
-        allowedQualities(allowedQuality, hasFlag(DiscPaper), hasFlag(DuplexOn));
+        allowedQualities(mediaType, hasFlag(DiscPaper), hasFlag(DuplexOn));
     if (!allowed.replacement.isNull()) {
         setAndMarkValue(allowed.replacement, u"VKMediaType"_s);
         setDefaultQuality(allowed.replacement);
@@ -35,15 +35,14 @@ QStringList VKInkPrintSetting14PDE::allowedQuality(const QString &allowedQuality
     return allowed.qualities;
 }
 
-QString
-VKInkPrintSetting14PDE::defaultQualityForMediaType(const QString &defaultQualityForMediaType) const
+QString VKInkPrintSetting14PDE::defaultQualityForMediaType(const QString &mediaType) const
 {
-    return defaultQuality(defaultQualityForMediaType, paperName);
+    return defaultQuality(mediaType, paperName);
 }
 
-void VKInkPrintSetting14PDE::setDefaultQuality(const QString &setDefaultQuality)
+void VKInkPrintSetting14PDE::setDefaultQuality(const QString &mediaType)
 {
-    setAndMarkValue(defaultQualityForMediaType(setDefaultQuality), u"VKResolution"_s);
+    setAndMarkValue(defaultQualityForMediaType(mediaType), u"VKResolution"_s);
 }
 
 void VKInkPrintSetting14PDE::setDefaults()
@@ -91,9 +90,8 @@ void VKInkPrintSetting14PDE::canSelectJpegPrint()
     setFlag(JpegUnavailable, false);
 }
 
-void VKInkPrintSetting14PDE::checkUIStateWithMediaType(bool checkUIStateWithMediaType)
+void VKInkPrintSetting14PDE::checkUIStateWithMediaType(bool applyDefaults)
 {
-    const bool applyDefaults = checkUIStateWithMediaType;
     // Held for all the steps: the qualities may replace the pending medium meanwhile.
     const QString mediaType = selectedMediaType();
     applySlowDrying(mediaType, applyDefaults);

@@ -24,10 +24,10 @@ const QComboBox *menuAt(const void *object)
 
 } // namespace
 
-void VKInkPrintSetting14PDE::checkPageSizeChange(const Notification &checkPageSizeChange)
+void VKInkPrintSetting14PDE::checkPageSizeChange(const Notification &notification)
 {
     try {
-        if (isPaperMenuAction(checkPageSizeChange) && readPageSetup())
+        if (isPaperMenuAction(notification) && readPageSetup())
             followPageSize();
     } catch (...) {
         // The dialog posts this in the middle of its own work and must not be stopped by it. A

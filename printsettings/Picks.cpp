@@ -10,10 +10,10 @@ namespace {
 constexpr auto kBestAlert = "Best Alert"; // its text and its key in the alert memory
 }
 
-void VKInkPrintSetting14PDE::requestNewOutputBin(QWidget *requestNewOutputBin)
+void VKInkPrintSetting14PDE::requestNewOutputBin(QWidget *control)
 {
-    VKPrintQualityPDE::requestNewOutputBin(requestNewOutputBin);
-    applyRulesAfterPick(determineKey(requestNewOutputBin));
+    VKPrintQualityPDE::requestNewOutputBin(control);
+    applyRulesAfterPick(determineKey(control));
 }
 
 void VKInkPrintSetting14PDE::applyRulesAfterPick(const QString &keyword)
@@ -64,25 +64,25 @@ void VKInkPrintSetting14PDE::applyThicknessPick()
     updateUIforKey(u"VKBiDir"_s);
 }
 
-void VKInkPrintSetting14PDE::updateUIforKey(const QString &updateUIforKey)
+void VKInkPrintSetting14PDE::updateUIforKey(const QString &keyword)
 {
-    VKPrintQualityPDE::updateUIforKey(updateUIforKey);
-    if (updateUIforKey == "VKMediaType"_L1)
+    VKPrintQualityPDE::updateUIforKey(keyword);
+    if (keyword == "VKMediaType"_L1)
         checkUIStateWithMediaType(false);
-    else if (updateUIforKey == "VKResolution"_L1)
+    else if (keyword == "VKResolution"_L1)
         canSelectJpegPrint();
-    else if (updateUIforKey == "VKInputSlot"_L1)
+    else if (keyword == "VKInputSlot"_L1)
         checkStateWithPaperFeed();
-    else if (updateUIforKey == "VKMonoColor"_L1)
+    else if (keyword == "VKMonoColor"_L1)
         canSelectColorMode();
 }
 
-void VKInkPrintSetting14PDE::revertUI(QWidget *revertUI, const QString &forKey)
+void VKInkPrintSetting14PDE::revertUI(QWidget *control, const QString &keyword)
 {
-    VKPrintQualityPDE::revertUI(revertUI, forKey);
-    if (forKey == "VKMonoColor"_L1) {
+    VKPrintQualityPDE::revertUI(control, keyword);
+    if (keyword == "VKMonoColor"_L1) {
         canSelectColorMode();
-    } else if (forKey == "VKMediaType"_L1) {
+    } else if (keyword == "VKMediaType"_L1) {
         checkUIStateWithMediaType(true);
         setDefaultQuality(pendingValue(u"VKMediaType"_s));
     }

@@ -42,11 +42,10 @@ public:
     // --- Lifecycle and the panel protocol ------------------------------------------------------
 
     /// False when the base cannot be created; nothing else has happened then.
-    bool initWithCallback(const std::shared_ptr<PDEPluginCallback> &initWithCallback) override;
+    bool initWithCallback(const std::shared_ptr<PDEPluginCallback> &callback) override;
     QString panelName() const override;
     void willShow() override;
-    void PPDOptionKeyValueDidChange(const QString &PPDOptionKeyValueDidChange,
-                                    const QString &ppdChoice) override;
+    void PPDOptionKeyValueDidChange(const QString &keyword, const QString &choice) override;
     /// Swaps plain paper and its two-sided form, which the pop-up does not list. A panel that was
     /// never shown sets it whatever the medium is, and with it the quality "PlainNormal".
     bool saveValuesAndReturnError(QString *error) override;
@@ -55,9 +54,9 @@ public:
     /// The base's summary with the printer's model as its first line.
     QVariantMap summaryInfo() override;
 
-    void requestNewOutputBin(QWidget *requestNewOutputBin) override;
-    void updateUIforKey(const QString &updateUIforKey) override;
-    void revertUI(QWidget *revertUI, const QString &forKey) override;
+    void requestNewOutputBin(QWidget *control) override;
+    void updateUIforKey(const QString &keyword) override;
+    void revertUI(QWidget *control, const QString &keyword) override;
 
     /// Whether the choice "FAX" of `VKOutput` is marked.
     bool checkIfOutputToFax() const;
@@ -66,29 +65,29 @@ public:
 
     // --- Keywords, controls, labels ------------------------------------------------------------
 
-    QString determineKey(QWidget *determineKey) const override;
-    QWidget *determineUI(const QString &determineUI) const override;
-    QWidget *determineLabel(const QString &determineLabel) const override;
+    QString determineKey(QWidget *control) const override;
+    QWidget *determineUI(const QString &keyword) const override;
+    QWidget *determineLabel(const QString &keyword) const override;
     std::optional<QStringList> availablePPDOptionKeys() const override;
     /// Brings the bit NewerModelClass up to date.
     void checkModelName() override;
     /// The string with "_on" behind it when the control is enabled and ticked, else with "_off".
-    QString addOnOffSuffix(QWidget *addOnOffSuffix, const QString &ToString) const;
+    QString addOnOffSuffix(QWidget *control, const QString &text) const;
 
     // --- Rules of the media --------------------------------------------------------------------
 
     /// The qualities for the medium, in order. A medium that the paper does not take is replaced,
     /// with its default quality; the answer is for the medium asked about all the same.
-    QStringList allowedQuality(const QString &allowedQuality);
-    QString defaultQualityForMediaType(const QString &defaultQualityForMediaType) const;
-    void setDefaultQuality(const QString &setDefaultQuality);
+    QStringList allowedQuality(const QString &mediaType);
+    QString defaultQualityForMediaType(const QString &mediaType) const;
+    void setDefaultQuality(const QString &mediaType);
     void setDefaults() override;
     /// Brings the bit MonoColorMode up to date and tells the Color Settings panel.
     void canSelectColorMode();
     void canSelectJpegPrint();
-    /// Brings the controls in line with the selected medium; `checkUIStateWithMediaType` says
-    /// whether the medium's defaults are applied too, as after a pick.
-    void checkUIStateWithMediaType(bool checkUIStateWithMediaType);
+    /// Brings the controls in line with the selected medium, and applies the medium's defaults too
+    /// when asked to, as after a pick.
+    void checkUIStateWithMediaType(bool applyDefaults);
     void checkStateWithPaperFeed();
     /// Whether the paper is a custom size with the thickness of envelopes.
     bool paperSizeIsCustomEnv();
@@ -97,10 +96,10 @@ public:
     // --- Control states and constraints --------------------------------------------------------
 
     /// Enables or disables the listed items of the pop-up and, where its selection must move (at
-    /// once with `toDefault`, else when the selected item is not enabled), selects its default.
+    /// once with `applyDefault`, else when the selected item is not enabled), selects its default.
     /// Enabling a list on the quality pop-up leaves exactly the listed items.
-    void changeState(PopUpButton *changeState, const QStringList &forArray, bool toEnable,
-                     bool toDefault);
+    void changeState(PopUpButton *popup, const QStringList &choices, bool enable,
+                     bool applyDefault);
     void checkConstraints() override;
     void checkUIConstraints() override;
 
@@ -108,10 +107,10 @@ public:
 
     /// Takes the paper of the page setup. False when it is the one before, or cannot be read.
     bool readPageSetup();
-    void checkPageSizeChange(const Notification &checkPageSizeChange);
+    void checkPageSizeChange(const Notification &notification);
     /// Brings the bit DuplexOn up to date.
     void checkDuplex();
-    void checkDuplexChange(const Notification &checkDuplexChange);
+    void checkDuplexChange(const Notification &notification);
 
     // --- Alerts; each check answers whether the job may be printed -----------------------------
 
@@ -133,18 +132,18 @@ public:
     void readyToShowEnvelopeAlert();
     /// Shows the window until one of its buttons is pressed: 1 for OK, 0 for Cancel. With an alert
     /// key, OK stores whether the alert is to be shown again.
-    int showDialog(QWidget *showDialog, const QString &withAlertInfo);
-    void dialogOkDidClick(QWidget *dialogOkDidClick);
-    void dialogCancelDidClick(QWidget *dialogCancelDidClick);
+    int showDialog(QWidget *window, const QString &alertKey);
+    void dialogOkDidClick(QWidget *sender);
+    void dialogCancelDidClick(QWidget *sender);
 
     // --- Advanced options ----------------------------------------------------------------------
 
     /// Builds the panel the first time; later calls do nothing.
     void initializePopup() override;
     /// Fills and sizes the list of advanced options. The parts are hidden when there is no list.
-    void initializeAdvOption(const QList<QWidget *> &initializeAdvOption);
-    void addAdvOption(const QString &addAdvOption, const QString &forKey);
-    void toggleShowOption(QWidget *toggleShowOption) override;
+    void initializeAdvOption(const QList<QWidget *> &parts);
+    void addAdvOption(const QString &label, const QString &id);
+    void toggleShowOption(QWidget *sender) override;
 
     // --- Inspection ----------------------------------------------------------------------------
 

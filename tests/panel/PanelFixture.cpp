@@ -76,28 +76,28 @@ std::vector<KeywordRow> keywordTable(const TestPanel &panel)
 
 } // namespace
 
-QString TestPanel::determineKey(QWidget *determineKey) const
+QString TestPanel::determineKey(QWidget *control) const
 {
     for (const KeywordRow &row : keywordTable(*this)) {
-        if (determineKey && row.control == determineKey)
+        if (control && row.control == control)
             return row.keyword;
     }
     return {};
 }
 
-QWidget *TestPanel::determineUI(const QString &determineUI) const
+QWidget *TestPanel::determineUI(const QString &keyword) const
 {
     for (const KeywordRow &row : keywordTable(*this)) {
-        if (row.keyword == determineUI)
+        if (row.keyword == keyword)
             return row.control;
     }
     return nullptr;
 }
 
-QWidget *TestPanel::determineLabel(const QString &determineLabel) const
+QWidget *TestPanel::determineLabel(const QString &keyword) const
 {
     for (const KeywordRow &row : keywordTable(*this)) {
-        if (row.keyword == determineLabel)
+        if (row.keyword == keyword)
             return row.label;
     }
     return nullptr;
@@ -117,9 +117,9 @@ void TestPanel::checkUIConstraints()
         constraints();
 }
 
-void TestPanel::toggleShowOption(QWidget *toggleShowOption)
+void TestPanel::toggleShowOption(QWidget *sender)
 {
-    asked << (toggleShowOption == optionButton ? u"toggleShowOption"_s : u"toggle by another"_s);
+    asked << (sender == optionButton ? u"toggleShowOption"_s : u"toggle by another"_s);
 }
 
 bool TestPanel::saveValuesAndReturnError(QString *error)

@@ -26,14 +26,14 @@ public:
     QString inspectedClassName() const override { return QStringLiteral("TestPanel"); }
     QString inspectedName() const override { return QStringLiteral("test"); }
 
-    QString determineKey(QWidget *determineKey) const override;
-    QWidget *determineUI(const QString &determineUI) const override;
-    QWidget *determineLabel(const QString &determineLabel) const override;
+    QString determineKey(QWidget *control) const override;
+    QWidget *determineUI(const QString &keyword) const override;
+    QWidget *determineLabel(const QString &keyword) const override;
     void checkModelName() override { asked << QStringLiteral("checkModelName"); }
     void setDefaults() override;
     void checkConstraints() override { asked << QStringLiteral("checkConstraints"); }
     void checkUIConstraints() override;
-    void toggleShowOption(QWidget *toggleShowOption) override;
+    void toggleShowOption(QWidget *sender) override;
     bool saveValuesAndReturnError(QString *error) override;
 
     using VKPrintQualityPDE::effectContent;
