@@ -7,7 +7,7 @@
 #include "platform/toolkit/ModalSession.h"
 #include "platform/toolkit/PlainText.h"
 #include "platform/toolkit/ViewLoader.h"
-#include "printsettings/PaperNames.h"
+#include "printsettings/TextHeight.h"
 
 #include <QtGui/QFontDatabase>
 #include <QtGui/QImage>

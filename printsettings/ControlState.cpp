@@ -1,6 +1,8 @@
 #include "printsettings/VKInkPrintSetting14PDE.h"
 
 #include "platform/toolkit/PopUpButton.h"
+#include "printsettings/rules/DefaultChoices.h"
+#include "printsettings/rules/MediaQuality.h"
 
 using namespace Qt::StringLiterals;
 
@@ -21,6 +23,11 @@ QString VKInkPrintSetting14PDE::selectedMediaType() const
     return mediaTypePopup ? mediaTypePopup->selectedObject() : QString();
 }
 
+QString VKInkPrintSetting14PDE::selectedQuality() const
+{
+    return resolutionPopup ? resolutionPopup->selectedObject() : QString();
+}
+
 void VKInkPrintSetting14PDE::changeState(PopUpButton *popup, const QStringList &choices,
                                          bool enable, bool applyDefault)
 {
@@ -31,8 +38,7 @@ void VKInkPrintSetting14PDE::changeState(PopUpButton *popup, const QStringList &
     else
         setItemsEnabled(*popup, choices, enable);
     if (!applyDefault) {
-        if (!hasFlag(DiscPaper))
-            showQualitiesAfterDisc();
+        showQualitiesAfterDisc();
         if (isSelectedItemEnabled(*popup))
             return;
     }
@@ -62,39 +68,39 @@ void VKInkPrintSetting14PDE::rebuildQualities(PopUpButton &popup, const QStringL
 // Qualities of a disc that are still shown on another paper make room for the medium's own.
 void VKInkPrintSetting14PDE::showQualitiesAfterDisc()
 {
-    if (!resolutionPopup)
-        return;
     const QString mediaType = selectedMediaType();
-    const QString quality = resolutionPopup->selectedObject();
-    const bool discQuality = quality == "DiscNormal"_L1 || quality == "DiscSlow"_L1;
-    if (mediaType == "PrintableDisc"_L1 || !discQuality)
+    if (!isLeftFromDisc(selectedQuality(), mediaType, hasFlag(DiscPaper)))
         return;
     setFlag(SlowDryingUnavailable, false);
-    rebuildQualities(*resolutionPopup, allowedQuality(mediaType));
+    showQualities(mediaType);
+}
+
+void VKInkPrintSetting14PDE::showQualities(const QString &mediaType)
+{
+    const QStringList qualities = allowedQuality(mediaType);
+    if (!resolutionPopup)
+        return;
+    rebuildQualities(*resolutionPopup, qualities);
     resolutionPopup->selectObject(defaultQualityForMediaType(mediaType));
 }
 
 void VKInkPrintSetting14PDE::selectDefaultItem(PopUpButton &popup)
 {
-    if (&popup == mediaTypePopup)
-        selectDefaultMedium();
-    else if (&popup == resolutionPopup)
-        popup.selectObject(defaultQualityForMediaType(selectedMediaType()));
-    else if (&popup == paperFeedPopup)
-        popup.selectObject(u"Tray1"_s);
+    const RuledPopUp ruled = ruledPopUp(popup);
+    const QString choice =
+        defaultChoice(ruled, {selectedMediaType(), paperName, hasFlag(DiscPaper)});
+    if (choice.isNull())
+        return;
+    if (ruled == RuledPopUp::Medium && hasFlag(DiscPaper))
+        showQualities(choice);
+    popup.selectObject(choice);
 }
 
-void VKInkPrintSetting14PDE::selectDefaultMedium()
+RuledPopUp VKInkPrintSetting14PDE::ruledPopUp(const PopUpButton &popup) const
 {
-    if (!hasFlag(DiscPaper)) {
-        mediaTypePopup->selectObject(u"Plain"_s);
-        return;
-    }
-    const QString disc = u"PrintableDisc"_s;
-    const QStringList qualities = allowedQuality(disc);
-    if (resolutionPopup) {
-        rebuildQualities(*resolutionPopup, qualities);
-        resolutionPopup->selectObject(defaultQualityForMediaType(disc));
-    }
-    mediaTypePopup->selectObject(disc);
+    if (&popup == mediaTypePopup)
+        return RuledPopUp::Medium;
+    if (&popup == resolutionPopup)
+        return RuledPopUp::Quality;
+    return &popup == paperFeedPopup ? RuledPopUp::PaperFeed : RuledPopUp::Other;
 }

@@ -3,7 +3,7 @@
 #include "platform/foundation/PreferredLanguages.h"
 #include "platform/pde/PPDText.h"
 #include "platform/toolkit/PopUpButton.h"
-#include "printsettings/ModelClass.h"
+#include "printsettings/rules/ModelClass.h"
 
 #include <QtWidgets/QCheckBox>
 #include <QtWidgets/QLabel>

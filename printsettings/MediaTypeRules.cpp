@@ -3,9 +3,10 @@
 #include "platform/foundation/NotificationCenter.h"
 #include "platform/pde/PPDText.h"
 #include "platform/toolkit/PopUpButton.h"
-#include "printsettings/MediaQuality.h"
-#include "printsettings/PaperKind.h"
-#include "printsettings/PaperNames.h"
+#include "printsettings/rules/DefaultChoices.h"
+#include "printsettings/rules/MediaQuality.h"
+#include "printsettings/rules/MediumEffects.h"
+#include "printsettings/rules/PaperChange.h"
 
 #include <QtWidgets/QCheckBox>
 
@@ -14,7 +15,6 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr auto kPrintSettingNotification = "VKInkPrintSettingNotification"_L1;
-constexpr int kBorderlessLetterModelNumber = 12;
 
 void setTicked(QCheckBox *box, bool ticked)
 {
@@ -56,22 +56,14 @@ void VKInkPrintSetting14PDE::restoreDefault(const QString &keyword)
     const ppd_option_t *option = findOption(ppd, keyword);
     if (!option)
         return;
-    const QString defaultChoice = ppdName(option->defchoice);
-    const QString pending = pendingValue(keyword);
-    // A missing value is not the empty name of a default that the PPD does not give.
-    if (!pending.isNull() && pending == defaultChoice)
-        return;
-    const QString marked = markedChoice(ppd, keyword);
-    if (marked.isNull()) {
-        if (pdePluginCallbackObject->willChangePPDOptionKeyValue(keyword, defaultChoice))
-            recordPendingValue(keyword, defaultChoice);
-    } else if (marked == defaultChoice) {
-        // The mark was put back to the default behind the panel: an envelope keeps its values.
-        if (keyword == "VKColorPaperThick"_L1 && hasFlag(EnvelopePaper))
-            setAndMarkValue(u"Env"_s, keyword);
-        else if (keyword == "VKBiDir"_L1 && hasFlag(BiDirLeftAlone))
-            setAndMarkValue(u"OFF"_s, keyword);
-    }
+    const KeywordDefault step = keywordDefault(
+        {keyword, pendingValue(keyword), markedChoice(ppd, keyword), ppdName(option->defchoice),
+         hasFlag(EnvelopePaper), hasFlag(BiDirLeftAlone)});
+    if (step.step == KeywordDefault::Step::SetAndMark)
+        setAndMarkValue(step.value, keyword);
+    else if (step.step == KeywordDefault::Step::OfferDefault &&
+             pdePluginCallbackObject->willChangePPDOptionKeyValue(keyword, step.value))
+        recordPendingValue(keyword, step.value);
 }
 
 void VKInkPrintSetting14PDE::canSelectColorMode()
@@ -94,39 +86,31 @@ void VKInkPrintSetting14PDE::checkUIStateWithMediaType(bool applyDefaults)
 {
     // Held for all the steps: the qualities may replace the pending medium meanwhile.
     const QString mediaType = selectedMediaType();
+    const MediumEffects effects = mediumEffects(mediaType);
     applySlowDrying(mediaType, applyDefaults);
     applyQualities(mediaType, applyDefaults);
     if (applyDefaults)
-        setTicked(biDirButton, isKindOfPlainPaper(mediaType));
-    // Both are told, in this order: for "HagakiAtena" they differ, and the second one holds. The
-    // other panel's choices offered to the dialog depend on both.
-    postNaturalColorMatching(mediaType != "Plain"_L1, applyDefaults);
-    postNaturalColorMatching(!isDefaultMediaTypeForVividColorMode(mediaType), applyDefaults);
-    setFlag(TransparenciesMedium, mediaType == "Transparencies"_L1);
-    applyTray2(mediaType);
+        setTicked(biDirButton, effects.bothDirections);
+    // Both are told, in this order: the other panel's choices offered to the dialog depend on both.
+    postNaturalColorMatching(effects.naturalAtFirst, applyDefaults);
+    postNaturalColorMatching(effects.natural, applyDefaults);
+    setFlag(TransparenciesMedium, effects.transparencies);
+    enableTray2(effects.tray2);
 }
 
 void VKInkPrintSetting14PDE::applySlowDrying(const QString &mediaType, bool applyDefaults)
 {
-    if (!hasFlag(VendorColorMatching)) {
-        setFlag(SlowDryingUnavailable, true);
-        return;
-    }
-    const bool addressSide = mediaType == "HagakiAtena"_L1;
-    setFlag(SlowDryingUnavailable, mediaType != "Plain"_L1 && !addressSide);
-    if (applyDefaults)
-        setTicked(slowDryButton, addressSide);
+    const SlowDrying drying = slowDrying(mediaType, hasFlag(VendorColorMatching));
+    setFlag(SlowDryingUnavailable, !drying.available);
+    if (applyDefaults && drying.defaultTick)
+        setTicked(slowDryButton, *drying.defaultTick);
 }
 
 void VKInkPrintSetting14PDE::applyQualities(const QString &mediaType, bool applyDefaults)
 {
     changeState(resolutionPopup, allowedQuality(mediaType), true, applyDefaults);
-    if (!hasFlag(BorderlessPaper))
-        return;
-    if (isBorderelessForPaperSize(paperName, u"A3"_s))
-        changeState(resolutionPopup, {u"PlainFast"_s, u"PlainNormal"_s, u"High"_s}, false, false);
-    else
-        changeState(resolutionPopup, {u"PlainFast"_s}, false, false);
+    if (hasFlag(BorderlessPaper))
+        changeState(resolutionPopup, unavailableWithoutBorders(paperName), false, false);
 }
 
 void VKInkPrintSetting14PDE::postNaturalColorMatching(bool natural, bool applyDefaults)
@@ -142,7 +126,7 @@ void VKInkPrintSetting14PDE::postNaturalColorMatching(bool natural, bool applyDe
                                              });
 }
 
-void VKInkPrintSetting14PDE::applyTray2(const QString &mediaType)
+void VKInkPrintSetting14PDE::enableTray2(bool enabled)
 {
     const ppd_choice_t *tray2 = findChoice(findOption(ppd, u"VKInputSlot"_s), u"Tray2"_s);
     if (!tray2 || !paperFeedPopup)
@@ -150,7 +134,7 @@ void VKInkPrintSetting14PDE::applyTray2(const QString &mediaType)
     // By its title, alone of all items: a printer may name the second tray's choice otherwise and
     // give it the same text.
     const int index = paperFeedPopup->indexOfTitle(ppdText(tray2->text));
-    paperFeedPopup->setItemEnabled(index, mediaType == "Plain"_L1);
+    paperFeedPopup->setItemEnabled(index, enabled);
 }
 
 void VKInkPrintSetting14PDE::checkStateWithPaperFeed()
@@ -163,18 +147,18 @@ void VKInkPrintSetting14PDE::checkStateWithPaperFeed()
 
 bool VKInkPrintSetting14PDE::paperSizeIsCustomEnv()
 {
-    if (!isCustomPaper(paperName))
+    const std::optional<bool> envelope =
+        customEnvelope(paperName, pendingValue(u"VKColorPaperThick"_s));
+    if (!envelope)
         return false;
-    const bool envelope = pendingValue(u"VKColorPaperThick"_s) == "Env"_L1;
-    setFlag(EnvelopePaper, envelope);
-    setFlag(BiDirLeftAlone, envelope);
-    return envelope;
+    setFlag(EnvelopePaper, *envelope);
+    setFlag(BiDirLeftAlone, *envelope);
+    return *envelope;
 }
 
 void VKInkPrintSetting14PDE::changeResolutionLetterB()
 {
     VKPrintQualityPDE::changeResolutionLetterB();
-    const bool ruledModel = ppd && ppd->model_number == kBorderlessLetterModelNumber;
-    if (ruledModel && isBorderelessForPaperSize(paperName, u"Letter"_s))
+    if (ppd && resetsQuality(paperName, ppd->model_number))
         setDefaultQuality(u"Plain"_s);
 }

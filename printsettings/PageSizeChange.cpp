@@ -2,6 +2,8 @@
 
 #include "platform/foundation/NotificationCenter.h"
 #include "platform/toolkit/KeyWindow.h"
+#include "printsettings/rules/PaperChange.h"
+#include "printsettings/rules/PrintWarnings.h"
 
 #include <QtWidgets/QApplication>
 #include <QtWidgets/QComboBox>
@@ -50,9 +52,8 @@ bool VKInkPrintSetting14PDE::isPaperMenuAction(const Notification &notification)
 void VKInkPrintSetting14PDE::followPageSize()
 {
     const QString mediaType = u"VKMediaType"_s;
-    const bool unusable = pendingValue(mediaType) == "Transparencies"_L1 ||
-                          pendingValue(u"VKResolution"_s) == "PlainFast"_L1;
-    const bool warned = hasFlag(BorderlessPaper) && unusable;
+    const bool warned = warnsOfBorderless(hasFlag(BorderlessPaper), pendingValue(u"VKResolution"_s),
+                                          pendingValue(mediaType));
     if (warned && popupInited)
         runAlert(noticeAlert(AlertStyle::Critical, localized("Borderless Alert"),
                              localized("Borderless Alert2")));
@@ -60,6 +61,6 @@ void VKInkPrintSetting14PDE::followPageSize()
     if (!popupInited)
         return;
     checkUIConstraints();
-    checkUIStateWithMediaType(warned || pendingValue(mediaType) == "PrintableDisc"_L1);
+    checkUIStateWithMediaType(appliesDefaultsAfterPaper(pendingValue(mediaType), warned));
     updateUI();
 }

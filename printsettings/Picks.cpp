@@ -1,6 +1,7 @@
 #include "printsettings/VKInkPrintSetting14PDE.h"
 
-#include "printsettings/PaperNames.h"
+#include "printsettings/rules/PrintDirection.h"
+#include "printsettings/rules/PrintWarnings.h"
 
 #include <QtWidgets/QWidget>
 
@@ -34,8 +35,7 @@ void VKInkPrintSetting14PDE::applyRulesAfterPick(const QString &keyword)
 
 void VKInkPrintSetting14PDE::applyQualityPick()
 {
-    const bool best = pendingValue(u"VKResolution"_s) == "Best"_L1;
-    if (best && !isKindOfPlainPaper(pendingValue(u"VKMediaType"_s)) &&
+    if (warnsOfBestQuality(pendingValue(u"VKResolution"_s), pendingValue(u"VKMediaType"_s)) &&
         shouldShowAlert(QString::fromLatin1(kBestAlert)))
         beginBestAlert();
     canSelectJpegPrint();
@@ -54,10 +54,10 @@ void VKInkPrintSetting14PDE::beginBestAlert()
 
 void VKInkPrintSetting14PDE::applyThicknessPick()
 {
-    if (paperSizeIsCustomEnv())
-        setAndMarkValue(u"OFF"_s, u"VKBiDir"_s);
-    else if (isKindOfPlainPaper(pendingValue(u"VKMediaType"_s)))
-        setAndMarkValue(u"ON"_s, u"VKBiDir"_s);
+    const QString direction =
+        directionAfterThickness(paperSizeIsCustomEnv(), pendingValue(u"VKMediaType"_s));
+    if (!direction.isNull())
+        setAndMarkValue(direction, u"VKBiDir"_s);
     if (!popupInited)
         return;
     checkUIConstraints();

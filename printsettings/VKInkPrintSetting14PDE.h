@@ -2,19 +2,20 @@
 
 #include "panel/VKPrintQualityPDE.h"
 
-#include <QtCore/QSizeF>
-
 #include <memory>
 #include <optional>
 #include <vector>
 
 class AdvancedOptionList;
-struct PMPaper;
+class JobPaper;
 class QCheckBox;
 class QLabel;
 class QListWidget;
 class QPushButton;
 class QStackedWidget;
+enum class RuledPopUp;
+struct ControlFacts;
+struct MediaChange;
 
 /// The Print Settings panel: medium, quality, paper feed, colour or mono, thickness, two-sided
 /// printing and the advanced options, and the rules that tie them together.
@@ -26,9 +27,9 @@ class QStackedWidget;
 ///      boxes that depend on the medium, and tells the Color Settings panel about colour matching;
 ///   3. getUIValues() commits whatever that has changed.
 ///
-/// The decisions themselves are tables and pure functions beside this class (MediaQuality.h,
-/// PaperNames.h, PaperKind.h, DiscMedia.h, ModelClass.h, DuplexPapers.h, CustomSizes.h); this class
-/// applies them to the pending values and the controls. Every operation works without a view: then
+/// The decisions themselves are tables and pure functions in a room of their own (rules/), on plain
+/// values; this class gathers the facts and applies what was decided to the pending values and the
+/// controls. Every operation works without a view: then
 /// the pending values and the PPD change, and no control does.
 ///
 /// The order of the steps within each operation is what the dialog and the other panel see (choices
@@ -177,25 +178,26 @@ private:
     void applyQualities(const QString &mediaType, bool applyDefaults);
     void applyBiDir(const QString &mediaType);
     void postNaturalColorMatching(bool natural, bool applyDefaults);
-    void applyTray2(const QString &mediaType);
+    void enableTray2(bool enabled);
 
     QString selectedMediaType() const;
+    QString selectedQuality() const;
     void rebuildQualities(PopUpButton &popup, const QStringList &qualities);
     void setItemsEnabled(PopUpButton &popup, const QStringList &choices, bool enabled);
     void showQualitiesAfterDisc();
+    void showQualities(const QString &mediaType);
     void selectDefaultItem(PopUpButton &popup);
-    void selectDefaultMedium();
+    RuledPopUp ruledPopUp(const PopUpButton &popup) const;
 
     void constrainQuality();
     void constrainBorderless();
     void constrainDiscMedia();
     void constrainBiDir();
-    void showDiscMedia();
-    void disableUnavailableControls();
+    void changeMedia(const std::vector<MediaChange> &changes);
+    ControlFacts controlFacts() const;
 
+    JobPaper jobPaper() const;
     QString pageSetupPaperName();
-    QString checkedPaperName(const QString &name) const;
-    const PMPaper *pageFormatPaper() const;
     void trackDisc(const QString &name);
     void applyDiscMedium();
     QString applyPaperThickness();
@@ -209,8 +211,7 @@ private:
     void connectAlertWindows(ViewConnections &connections);
     bool confirmEnvelope();
     bool refuseUnsupportedPaper();
-    std::optional<QSizeF> paperSizeInPoints() const;
-    bool isPaperWithinCustomSizes(const QSizeF &size) const;
+    bool checkOrientationBySize();
     bool writeOrientation(const QString &orientation);
     void putAlertImage(ImageView *view, const QString &name);
     void titleButton(QAbstractButton *button, const char *key);

@@ -1,4 +1,4 @@
-#include "tests/printsettings/MediaTable.h"
+#include "tests/printsettings/rules/MediaTable.h"
 #include "tests/printsettings/PrintPanel.h"
 
 using namespace Qt::StringLiterals;

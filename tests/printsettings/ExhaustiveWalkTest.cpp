@@ -1,6 +1,6 @@
 #include "platform/foundation/UserDefaults.h"
 #include "platform/printmanager/PMPrintSettings.h"
-#include "printsettings/PaperNames.h"
+#include "printsettings/rules/PaperNames.h"
 #include "tests/printsettings/PanelSnapshot.h"
 
 #include <algorithm>

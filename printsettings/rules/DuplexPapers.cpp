@@ -1,4 +1,4 @@
-#include "printsettings/DuplexPapers.h"
+#include "printsettings/rules/DuplexPapers.h"
 
 #include <algorithm>
 #include <array>

@@ -1,4 +1,4 @@
-#include "printsettings/ModelClass.h"
+#include "printsettings/rules/ModelClass.h"
 
 #include <QtCore/QStringList>
 

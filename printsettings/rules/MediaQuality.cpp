@@ -1,6 +1,6 @@
-#include "printsettings/MediaQuality.h"
+#include "printsettings/rules/MediaQuality.h"
 
-#include "printsettings/PaperNames.h"
+#include "printsettings/rules/PaperNames.h"
 
 #include <algorithm>
 #include <vector>
@@ -23,6 +23,8 @@ const Row *rowOf(const std::vector<Row> &table, const QString &mediaType)
     return row == table.end() ? nullptr : &*row;
 }
 
+constexpr int kBorderlessLetterModelNumber = 12;
+
 const std::vector<Row> &discTable()
 {
     static const std::vector<Row> table = {
@@ -44,11 +46,11 @@ const std::vector<Row> &coatedTable()
     return table;
 }
 
-QStringList plainQualities(bool duplex)
+const QStringList &plainQualities(bool duplex)
 {
-    if (duplex)
-        return {u"PlainFast"_s, u"PlainNormal"_s, u"Best"_s};
-    return {u"PlainFast"_s, u"PlainNormal"_s, u"High"_s, u"Best"_s};
+    static const QStringList twoSided = {u"PlainFast"_s, u"PlainNormal"_s, u"Best"_s};
+    static const QStringList oneSided = {u"PlainFast"_s, u"PlainNormal"_s, u"High"_s, u"Best"_s};
+    return duplex ? twoSided : oneSided;
 }
 
 } // namespace
@@ -79,4 +81,23 @@ QString defaultQuality(const QString &mediaType, const QString &paperName)
     // "GlossyPrintableDisc" gets "Photo" too, which it does not allow. The driver prints glossy
     // discs by that value while the pop-up keeps showing "DiscNormal": do not mend it.
     return u"Photo"_s;
+}
+
+QStringList unavailableWithoutBorders(const QString &paperName)
+{
+    static const QStringList onA3 = {u"PlainFast"_s, u"PlainNormal"_s, u"High"_s};
+    static const QStringList onOthers = {u"PlainFast"_s};
+    return isBorderelessForPaperSize(paperName, u"A3"_s) ? onA3 : onOthers;
+}
+
+bool isLeftFromDisc(const QString &quality, const QString &mediaType, bool discPaper)
+{
+    const bool discQuality = quality == "DiscNormal"_L1 || quality == "DiscSlow"_L1;
+    return !discPaper && discQuality && mediaType != "PrintableDisc"_L1;
+}
+
+bool resetsQuality(const QString &paperName, int modelNumber)
+{
+    return modelNumber == kBorderlessLetterModelNumber &&
+           isBorderelessForPaperSize(paperName, u"Letter"_s);
 }

@@ -1,6 +1,4 @@
-#include "printsettings/PaperNames.h"
-
-#include "platform/toolkit/TextMeasuring.h"
+#include "printsettings/rules/PaperNames.h"
 
 #include <algorithm>
 #include <initializer_list>
@@ -113,9 +111,4 @@ bool isBusinessModel(const QString &modelName)
 bool isDefaultMediaTypeForVividColorMode(const QString &mediaType)
 {
     return isListed(mediaType, {"Plain"_L1, "HagakiAtena"_L1});
-}
-
-double heightForSpecifiedFont(const QString &text, const QFont &font, double specifiedWidth)
-{
-    return text.isNull() ? 0.0 : laidOutHeight(text, font, specifiedWidth);
 }

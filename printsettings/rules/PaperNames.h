@@ -2,8 +2,6 @@
 
 #include <QtCore/QString>
 
-class QFont;
-
 /// Yes-or-no questions about the name of a medium, of a paper or of a model.
 ///
 /// A paper's name is a base size ("A4"), maybe with a variant behind a point ("A4.Fullbleed",
@@ -42,6 +40,3 @@ bool isBusinessModel(const QString &modelName);
 
 /// Media whose own colours are the vivid ones.
 bool isDefaultMediaTypeForVividColorMode(const QString &mediaType);
-
-/// The height in points of the text in the font, wrapped to the width (points). 0 for a null text.
-double heightForSpecifiedFont(const QString &text, const QFont &font, double specifiedWidth);

@@ -1,6 +1,6 @@
-#include "printsettings/MediaQuality.h"
+#include "printsettings/rules/MediaQuality.h"
 
-#include "tests/printsettings/MediaTable.h"
+#include "tests/printsettings/rules/MediaTable.h"
 #include "tests/support/QStringPrinting.h"
 
 #include <gtest/gtest.h>
@@ -49,6 +49,36 @@ TEST(MediaQualityOddity, TheDefaultOfAGlossyDiscIsNoneOfItsQualities)
     const QString medium = u"GlossyPrintableDisc"_s;
     EXPECT_FALSE(
         allowedQualities(medium, true, false).qualities.contains(defaultQuality(medium, u"A4"_s)));
+}
+
+TEST(UnavailableQualities, WithoutBordersAreTheFastestAndOnA3AllButTheBestOfPlainPaper)
+{
+    const QStringList onA3 = {u"PlainFast"_s, u"PlainNormal"_s, u"High"_s};
+    EXPECT_EQ(unavailableWithoutBorders(u"A3.Fullbleed"_s), onA3);
+    EXPECT_EQ(unavailableWithoutBorders(u"VkA3_B"_s), onA3);
+    for (const QString &paper : {u"A4.Fullbleed"_s, u"Letter.Fullbleed"_s, u"A3"_s, QString()})
+        EXPECT_EQ(unavailableWithoutBorders(paper), QStringList({u"PlainFast"_s}))
+            << qPrintable(paper);
+}
+
+TEST(QualitiesLeftFromADisc, AreThoseOfDiscsBesideOtherMedia)
+{
+    EXPECT_TRUE(isLeftFromDisc(u"DiscNormal"_s, u"Glossy"_s, false));
+    EXPECT_TRUE(isLeftFromDisc(u"DiscSlow"_s, u"GlossyPrintableDisc"_s, false));
+    EXPECT_TRUE(isLeftFromDisc(u"DiscSlow"_s, QString(), false));
+    EXPECT_FALSE(isLeftFromDisc(u"DiscSlow"_s, u"PrintableDisc"_s, false));
+    EXPECT_FALSE(isLeftFromDisc(u"DiscSlow"_s, u"Glossy"_s, true));
+    EXPECT_FALSE(isLeftFromDisc(u"Photo"_s, u"Glossy"_s, false));
+    EXPECT_FALSE(isLeftFromDisc(QString(), u"Glossy"_s, false));
+}
+
+TEST(QualityOfBorderlessLetter, IsResetOnOneModelAlone)
+{
+    EXPECT_TRUE(resetsQuality(u"Letter.Fullbleed"_s, 12));
+    EXPECT_FALSE(resetsQuality(u"Letter.Fullbleed"_s, 11));
+    EXPECT_FALSE(resetsQuality(u"Letter.Fullbleed"_s, 13));
+    EXPECT_FALSE(resetsQuality(u"Letter"_s, 12));
+    EXPECT_FALSE(resetsQuality(u"A4.Fullbleed"_s, 12));
 }
 
 } // namespace

@@ -1,4 +1,4 @@
-#include "printsettings/PaperKind.h"
+#include "printsettings/rules/PaperKind.h"
 
 using namespace Qt::StringLiterals;
 

@@ -1,4 +1,4 @@
-#include "printsettings/CustomSizes.h"
+#include "printsettings/rules/CustomSizes.h"
 
 namespace {
 
@@ -9,10 +9,10 @@ bool isWithin(double value, double lowest, double highest)
 
 } // namespace
 
-bool isWithinCustomSizes(const ppd_file_t &ppd, const QSizeF &size)
+bool isWithinCustomSizes(const CustomSizeLimits &limits, const QSizeF &size)
 {
-    return isWithin(size.width(), ppd.custom_min[0], ppd.custom_max[0]) &&
-           isWithin(size.height(), ppd.custom_min[1], ppd.custom_max[1]);
+    return isWithin(size.width(), limits.smallest.width(), limits.largest.width()) &&
+           isWithin(size.height(), limits.smallest.height(), limits.largest.height());
 }
 
 bool isLandscapeSize(const QSizeF &size)
