@@ -14,8 +14,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr double kWindowMargin = 96.0; // points around the panel's view in the dialog's window
-
 constexpr std::size_t kColorControls = 2; // brightness and contrast come before the gains
 
 QString colorControlKeyword(int code)

@@ -1,7 +1,7 @@
 #include "colorsettings/VKInkColorSettingPDE.h"
 
+#include "colorsettings/ColorControls.h"
 #include "colorsettings/ColorTransformer.h"
-#include "platform/foundation/Bundle.h"
 #include "platform/foundation/NotificationCenter.h"
 #include "platform/imaging/CIFilter.h"
 
@@ -12,16 +12,9 @@ namespace {
 constexpr auto kPrintSettingNotification = "VKInkPrintSettingNotification"_L1;
 constexpr auto kPaperDidChangeNotification = "PMPrintDestinationPaperDidChangeNotification"_L1;
 
-std::optional<QStringList> keywordList(const Bundle *bundle)
-{
-    const QVariant list =
-        bundle ? bundle->infoValue(u"PMPPDKeysSupported"_s + u"Color"_s) : QVariant();
-    return list.isValid() && !list.isNull() ? std::optional(list.toStringList()) : std::nullopt;
-}
-
 } // namespace
 
-VKInkColorSettingPDE::VKInkColorSettingPDE() = default;
+VKInkColorSettingPDE::VKInkColorSettingPDE() : VKPrintQualityPDE(kColorControlTable) {}
 
 VKInkColorSettingPDE::~VKInkColorSettingPDE() = default;
 
@@ -30,7 +23,7 @@ bool VKInkColorSettingPDE::initWithCallback(const std::shared_ptr<PDEPluginCallb
     if (!VKPrintQualityPDE::initWithCallback(callback))
         return false;
     setThePDEName(u"VKInkColorSetting"_s);
-    setPPDKeys(keywordList(pluginBundle.get()));
+    takeKeywordList(u"PMPPDKeysSupportedColor"_s);
     setEffectDefaults();
     restoreEffectValues();
     saveEffectValues();

@@ -5,6 +5,7 @@
 
 #include <QtCore/QHash>
 
+#include <array>
 #include <memory>
 
 class CIFilter;
@@ -52,10 +53,7 @@ public:
     void saveAllValues() override;
     void checkConstraints() override;
     void checkUIConstraints() override;
-    void toggleShowOption(QWidget *sender) override;
-    QString determineKey(QWidget *control) const override;
-    QWidget *determineUI(const QString &keyword) const override;
-    QWidget *determineLabel(const QString &keyword) const override;
+    double advancedHeight() const override;
     std::optional<QStringList> availablePPDOptionKeys() const override;
     QString helpBook() const override;
 
@@ -132,14 +130,8 @@ protected:
     void connectView(ViewConnections &connections) override;
 
 private:
-    /// The view's parts of one enhancement value.
-    struct EffectOutlets
-    {
-        QLabel *label = nullptr;
-        NumberField *field = nullptr;
-    };
-
-    EffectOutlets effectOutlets(const QString &keyword) const;
+    /// The label of an enhancement value; null for any other keyword.
+    QLabel *effectLabel(const QString &keyword) const;
     void connectOutlets(ViewConnections &connections);
     void observeNotifications();
 
@@ -168,22 +160,8 @@ private:
 
     ImageView *effectImageView = nullptr;
     ImageView *colorModeImageView = nullptr;
-    RadioMatrix *colorMatchingMatrix = nullptr;
-    PopUpButton *ditherPopup = nullptr;
-    QLabel *colorMatchingLabel = nullptr;
-    QLabel *ditherLabel = nullptr;
     QLabel *optionLabel = nullptr;
-    QAbstractButton *colorEnhanceButton = nullptr;
-    QLabel *brightnessLabel = nullptr;
-    QLabel *contrastLabel = nullptr;
-    QLabel *redLabel = nullptr;
-    QLabel *greenLabel = nullptr;
-    QLabel *blueLabel = nullptr;
-    NumberField *brightnessField = nullptr;
-    NumberField *contrastField = nullptr;
-    NumberField *redField = nullptr;
-    NumberField *greenField = nullptr;
-    NumberField *blueField = nullptr;
+    std::array<NumberField *, 5> effectFields_{}; ///< in the order of kEffects
 
     QStringList PPDEffectKeys; ///< empty until the first setEffectDefaults()
     QString refImageName_;     ///< the resource that is the reference image; null: refImage_ is

@@ -88,17 +88,17 @@ void VKPrintQualityPDE::commitControl(QWidget &control, const QString &keyword)
         setAndMarkValue(checkBoxValue(keyword, false), keyword);
 }
 
-QString VKPrintQualityPDE::determineKey(QWidget *) const
+QString VKPrintQualityPDE::determineKey(QWidget *control) const
 {
-    return {};
+    return keywordControls_.keyword(control);
 }
 
-QWidget *VKPrintQualityPDE::determineUI(const QString &) const
+QWidget *VKPrintQualityPDE::determineUI(const QString &keyword) const
 {
-    return nullptr;
+    return keywordControls_.control(keyword);
 }
 
-QWidget *VKPrintQualityPDE::determineLabel(const QString &) const
+QWidget *VKPrintQualityPDE::determineLabel(const QString &keyword) const
 {
-    return nullptr;
+    return keywordControls_.label(keyword);
 }

@@ -10,13 +10,6 @@
 
 using namespace Qt::StringLiterals;
 
-namespace {
-
-// What a dialog's window needs around a panel's view, in points.
-constexpr double kWindowMargin = 96.0;
-
-} // namespace
-
 QWidget *VKPrintQualityPDE::panelView()
 {
     if (panelView_ || view_ || !pluginBundle)
@@ -36,6 +29,7 @@ void VKPrintQualityPDE::connectView(ViewConnections &connections)
     connections.widgetClass<ExtraAccessoryView>(u"ExtraAccessoryView"_s);
     connections.outlet(u"panelView"_s, panelView_);
     connections.outlet(u"optionButton"_s, optionButton);
+    keywordControls_.connect(connections);
     connections.action(u"requestNewOutputBin:"_s,
                        [this](QWidget *sender) { requestNewOutputBin(sender); });
     connections.action(u"toggleShowOption:"_s,
@@ -96,6 +90,17 @@ void VKPrintQualityPDE::setViewFrameSize(const QSizeF &size)
     NotificationCenter::defaultCenter().addObserver(
         this, [this](const Notification &notification) { dialogDidExpand(notification); },
         QLatin1String(kViewDidUpdateTrackingAreasNotification), panelView_);
+}
+
+void VKPrintQualityPDE::toggleShowOption(QWidget *sender)
+{
+    if (advancedHeight() == 0)
+        return;
+    const auto *button = qobject_cast<QAbstractButton *>(sender);
+    const bool unfolded = button && button->isChecked();
+    QSizeF size = panelView_ ? QSizeF(panelView_->size()) : QSizeF(0, 0);
+    size.rheight() += unfolded ? advancedHeight() : -advancedHeight();
+    setViewFrameSize(size);
 }
 
 void VKPrintQualityPDE::dialogDidExpand(const Notification &)

@@ -10,7 +10,9 @@ namespace {
 const char kCodeOfThePanels = 0;
 } // namespace
 
-VKPrintQualityPDE::VKPrintQualityPDE() = default;
+VKPrintQualityPDE::VKPrintQualityPDE(std::span<const KeywordControl> controls)
+    : keywordControls_(controls)
+{}
 
 VKPrintQualityPDE::~VKPrintQualityPDE()
 {
@@ -51,6 +53,13 @@ void VKPrintQualityPDE::setPPDKeys(const std::optional<QStringList> &keywords)
             present << keyword;
     }
     PPDKeys = present;
+}
+
+void VKPrintQualityPDE::takeKeywordList(const QString &informationKey)
+{
+    const QVariant list = pluginBundle ? pluginBundle->infoValue(informationKey) : QVariant();
+    if (list.isValid() && !list.isNull())
+        setPPDKeys(list.toStringList());
 }
 
 bool VKPrintQualityPDE::saveValuesAndReturnError(QString *)

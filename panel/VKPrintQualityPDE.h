@@ -1,6 +1,7 @@
 #pragma once
 
 #include "panel/ImageModeFlag.h"
+#include "panel/KeywordControls.h"
 #include "platform/foundation/ObservableDictionary.h"
 #include "platform/pde/PDEPanel.h"
 #include "platform/pde/PDEPanelInspection.h"
@@ -28,7 +29,7 @@ struct Notification;
 /// (`outputBin`), and the one road by which a choice gets there: it is offered to the dialog, which
 /// marks it in the PPD, and is recorded only when the dialog has accepted it.
 ///
-/// It is a template. A panel class says which control and which label belong to a keyword, and
+/// It is a template. A panel class gives it the table of its controls (KeywordControls.h) and
 /// supplies the rules; the base supplies the loops. A person picks a medium:
 ///   1. requestNewOutputBin() gets the control, finds its keyword, and offers the choice;
 ///   2. accepted, it is recorded and its control refreshed; refused, the control is put back;
@@ -41,7 +42,9 @@ struct Notification;
 class VKPrintQualityPDE : public PDEPanel, public PDEPanelInspection
 {
 public:
-    VKPrintQualityPDE();
+    /// Without a table the panel class answers determineKey(), determineUI() and determineLabel()
+    /// itself.
+    explicit VKPrintQualityPDE(std::span<const KeywordControl> controls = {});
     ~VKPrintQualityPDE() override;
     VKPrintQualityPDE(const VKPrintQualityPDE &) = delete;
     VKPrintQualityPDE &operator=(const VKPrintQualityPDE &) = delete;
@@ -157,6 +160,8 @@ public:
 
     // --- What a panel class supplies -----------------------------------------------------------
 
+    // The first three are answered from the panel class's table.
+
     /// The keyword of a control; null without one, and for a null control.
     virtual QString determineKey(QWidget *control) const;
     /// The control of a keyword (a matrix, a pop-up button or a check box); null without one.
@@ -174,7 +179,10 @@ public:
     /// Applies the rules to the controls. The base enables everything, or disables it for fax.
     virtual void checkUIConstraints();
     /// Flips the advanced section; the sender is the disclosure button, which has flipped already.
-    virtual void toggleShowOption([[maybe_unused]] QWidget *sender) {}
+    virtual void toggleShowOption(QWidget *sender);
+    /// What the advanced section adds to the view's height when it unfolds (points); the base has
+    /// no such section.
+    virtual double advancedHeight() const { return 0; }
     /// A rule of one model; the base has none.
     virtual void changeResolutionLetterB() {}
 
@@ -205,6 +213,9 @@ protected:
     /// `PPDKeys`; empty without a list.
     const QStringList &managedKeywords() const;
 
+    /// Takes the keyword list that stands in the bundle's information under the key.
+    void takeKeywordList(const QString &informationKey);
+
     /// Whether the panel manages the keyword.
     bool managesKeyword(const QString &keyword) const;
 
@@ -221,6 +232,9 @@ protected:
     AlertContent unsupportedPaperAlert() const;
 
     QObject *lifetime() { return &lifetime_; }
+
+    /// What a dialog's window needs around a panel's view, in points.
+    static constexpr double kWindowMargin = 96.0;
 
     std::shared_ptr<PDEPluginCallback> pdePluginCallbackObject;
     std::optional<QStringList> PPDKeys;
@@ -243,6 +257,7 @@ private:
     QString summaryText(const QString &keyword) const;
     QString optionStateKey() const;
 
+    KeywordControls keywordControls_;
     QString thePDEName_;
     QVariantMap outputBin_;
     std::int32_t imageModeFlag_ = 0;

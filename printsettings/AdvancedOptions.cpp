@@ -92,14 +92,9 @@ void VKInkPrintSetting14PDE::addAdvOption(const QString &label, const QString &i
         arrayController->add({label, id});
 }
 
-void VKInkPrintSetting14PDE::toggleShowOption(QWidget *sender)
+double VKInkPrintSetting14PDE::advancedHeight() const
 {
-    const auto *button = qobject_cast<QAbstractButton *>(sender);
-    const bool open = button && button->isChecked();
-    const QWidget *view = inspectedView();
-    const QSizeF size = view ? QSizeF(view->size()) : QSizeF(0, 0);
-    setViewFrameSize(
-        QSizeF(size.width(), size.height() + (open ? kAdvancedHeight : -kAdvancedHeight)));
+    return kAdvancedHeight;
 }
 
 std::optional<PDEPanelInspection::Rows> VKInkPrintSetting14PDE::inspectedRows() const

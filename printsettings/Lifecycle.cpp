@@ -1,10 +1,10 @@
 #include "printsettings/VKInkPrintSetting14PDE.h"
 
-#include "platform/foundation/Bundle.h"
 #include "platform/foundation/NotificationCenter.h"
 #include "platform/toolkit/ImageView.h"
 #include "platform/toolkit/PopUpButton.h"
 #include "printsettings/AdvancedOptionList.h"
+#include "printsettings/PrintControls.h"
 
 #include <QtWidgets/QCheckBox>
 #include <QtWidgets/QLabel>
@@ -14,18 +14,7 @@
 
 using namespace Qt::StringLiterals;
 
-namespace {
-
-std::optional<QStringList> keywordList(const QVariant &entry)
-{
-    if (entry.isValid() && !entry.isNull())
-        return entry.toStringList();
-    return std::nullopt;
-}
-
-} // namespace
-
-VKInkPrintSetting14PDE::VKInkPrintSetting14PDE() = default;
+VKInkPrintSetting14PDE::VKInkPrintSetting14PDE() : VKPrintQualityPDE(kPrintControls) {}
 
 VKInkPrintSetting14PDE::~VKInkPrintSetting14PDE() = default;
 
@@ -33,8 +22,7 @@ bool VKInkPrintSetting14PDE::initWithCallback(const std::shared_ptr<PDEPluginCal
 {
     if (!VKPrintQualityPDE::initWithCallback(callback))
         return false;
-    if (pluginBundle)
-        setPPDKeys(keywordList(pluginBundle->infoValue(u"PMPPDKeysSupported"_s)));
+    takeKeywordList(u"PMPPDKeysSupported"_s);
     readPageSetup();
     setDefaults();
     NotificationCenter &center = NotificationCenter::defaultCenter();
@@ -71,28 +59,16 @@ void VKInkPrintSetting14PDE::PPDOptionKeyValueDidChange(const QString &keyword,
 void VKInkPrintSetting14PDE::connectView(ViewConnections &connections)
 {
     VKPrintQualityPDE::connectView(connections);
+    // The controls that the rules reach for by themselves.
     connections.outlet(u"resolutionPopup"_s, resolutionPopup);
     connections.outlet(u"mediaTypePopup"_s, mediaTypePopup);
     connections.outlet(u"paperThickPopup"_s, paperThickPopup);
     connections.outlet(u"paperFeedPopup"_s, paperFeedPopup);
-    connections.outlet(u"monoColorPopup"_s, monoColorPopup);
+    connections.outlet(u"jpegPopup"_s, jpegPopup);
     connections.outlet(u"slowDryButton"_s, slowDryButton);
     connections.outlet(u"biDirButton"_s, biDirButton);
     connections.outlet(u"mirrorButton"_s, mirrorButton);
-    connections.outlet(u"reverseButton"_s, reverseButton);
-    connections.outlet(u"jpegPopup"_s, jpegPopup);
-    connections.outlet(u"duplexPopup"_s, duplexPopup);
-    connections.outlet(u"vertLineAlignA3Button"_s, vertLineAlignA3Button);
-    connections.outlet(u"vertLineAlignA4Button"_s, vertLineAlignA4Button);
-    connections.outlet(u"vertLineAlignOtherButton"_s, vertLineAlignOtherButton);
-    connections.outlet(u"vertLineAlignQM43Button"_s, vertLineAlignQM43Button);
-    connections.outlet(u"resolutionLabel"_s, resolutionLabel);
-    connections.outlet(u"mediaTypeLabel"_s, mediaTypeLabel);
-    connections.outlet(u"paperThickLabel"_s, paperThickLabel);
-    connections.outlet(u"paperFeedLabel"_s, paperFeedLabel);
-    connections.outlet(u"monoColorLabel"_s, monoColorLabel);
     connections.outlet(u"jpegLabel"_s, jpegLabel);
-    connections.outlet(u"duplexLabel"_s, duplexLabel);
     connections.outlet(u"optionLabel"_s, optionLabel);
     connections.outlet(u"advancedTabView"_s, advancedTabView);
     connections.outlet(u"advancedTableView"_s, advancedTableView);

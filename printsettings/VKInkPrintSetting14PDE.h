@@ -68,7 +68,6 @@ public:
 
     QString determineKey(QWidget *control) const override;
     QWidget *determineUI(const QString &keyword) const override;
-    QWidget *determineLabel(const QString &keyword) const override;
     std::optional<QStringList> availablePPDOptionKeys() const override;
     /// Brings the bit NewerModelClass up to date.
     void checkModelName() override;
@@ -144,7 +143,7 @@ public:
     /// Fills and sizes the list of advanced options. The parts are hidden when there is no list.
     void initializeAdvOption(const QList<QWidget *> &parts);
     void addAdvOption(const QString &label, const QString &id);
-    void toggleShowOption(QWidget *sender) override;
+    double advancedHeight() const override;
 
     // --- Inspection ----------------------------------------------------------------------------
 
@@ -158,15 +157,8 @@ protected:
     void connectView(ViewConnections &connections) override;
 
 private:
-    struct KeywordRow
-    {
-        QLatin1String keyword;
-        QWidget *control;
-        QWidget *label;
-    };
-    /// Empty before the view is loaded; kept from then on.
-    const std::vector<KeywordRow> &keywordRows() const;
-    const KeywordRow *keywordRow(const QString &keyword) const;
+    /// Whether the user's language has a control for the keyword.
+    bool isOffered(const QString &keyword) const;
 
     void applyRulesAfterPick(const QString &keyword);
     void applyQualityPick();
@@ -220,31 +212,16 @@ private:
     void addGroupRow(const QString &keyword);
     void addLocalizedRow(const char *key);
 
-    mutable std::vector<KeywordRow> keywordRows_;
-
+    // Of the table's controls (PrintControls.h) those that the rules reach for by themselves.
     PopUpButton *resolutionPopup = nullptr;
     PopUpButton *mediaTypePopup = nullptr;
     PopUpButton *paperThickPopup = nullptr;
     PopUpButton *paperFeedPopup = nullptr;
-    PopUpButton *monoColorPopup = nullptr;
+    PopUpButton *jpegPopup = nullptr;
     QCheckBox *slowDryButton = nullptr;
     QCheckBox *biDirButton = nullptr;
     QCheckBox *mirrorButton = nullptr;
-    QCheckBox *reverseButton = nullptr;
-    PopUpButton *jpegPopup = nullptr;
-    PopUpButton *duplexPopup = nullptr;
-    QCheckBox *vertLineAlignA3Button = nullptr;
-    QCheckBox *vertLineAlignA4Button = nullptr;
-    QCheckBox *vertLineAlignOtherButton = nullptr;
-    QCheckBox *vertLineAlignQM43Button = nullptr;
-
-    QLabel *resolutionLabel = nullptr;
-    QLabel *mediaTypeLabel = nullptr;
-    QLabel *paperThickLabel = nullptr;
-    QLabel *paperFeedLabel = nullptr;
-    QLabel *monoColorLabel = nullptr;
     QLabel *jpegLabel = nullptr;
-    QLabel *duplexLabel = nullptr;
 
     QLabel *optionLabel = nullptr;
     QStackedWidget *advancedTabView = nullptr; ///< its pages bear the ids of the list's rows
