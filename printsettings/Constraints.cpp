@@ -12,7 +12,10 @@ void VKInkPrintSetting14PDE::checkConstraints()
     constrainQuality();
     if (hasFlag(BorderlessPaper))
         constrainBorderless();
-    constrainDiscMedia();
+    // Enabling with a default selects "Plain" (on a disc "PrintableDisc") in the pop-up on every
+    // run, whatever is selected. The pending medium stays, and the pop-up shows it again when the
+    // panel refreshes its controls, which follows wherever this runs on a panel that is built.
+    changeMedia(constrainedMedia(hasFlag(DiscPaper)));
     paperSizeIsCustomEnv();
     constrainBiDir();
     setFlag(TransparenciesMedium, mediumEffects(pendingValue(u"VKMediaType"_s)).transparencies);
@@ -45,14 +48,6 @@ void VKInkPrintSetting14PDE::constrainBorderless()
         setFlag(SlowDryingUnavailable, true);
     if (!correction.direction.isNull())
         setAndMarkValue(correction.direction, u"VKBiDir"_s);
-}
-
-// Enabling with a default selects "Plain" (on a disc "PrintableDisc") in the pop-up on every run,
-// whatever is selected. The pending medium stays, and the pop-up shows it again when the panel
-// refreshes its controls, which follows wherever this runs on a panel that is built.
-void VKInkPrintSetting14PDE::constrainDiscMedia()
-{
-    changeMedia(constrainedMedia(hasFlag(DiscPaper)));
 }
 
 void VKInkPrintSetting14PDE::changeMedia(const std::vector<MediaChange> &changes)

@@ -11,6 +11,25 @@ namespace {
 // The view gives it to the quality pop-up alone.
 constexpr int kTagRebuilt = 5;
 
+void setItemsEnabled(PopUpButton &popup, const QStringList &choices, bool enabled)
+{
+    for (const QString &choice : choices)
+        popup.setItemEnabled(popup.indexOfRepresentedObject(choice), enabled);
+}
+
+// The titles are kept in the view's dictionary, since the pop-up loses them with its items.
+void rebuildQualities(PopUpButton &popup, const QStringList &qualities,
+                      const ObservableDictionary *titles)
+{
+    std::vector<PopUpButton::Item> items;
+    for (const QString &quality : qualities) {
+        const QVariant title = titles ? titles->value(quality) : QVariant();
+        if (title.isValid())
+            items.push_back({title.toString(), quality});
+    }
+    popup.setItems(items);
+}
+
 bool isSelectedItemEnabled(const PopUpButton &popup)
 {
     return popup.isItemEnabled(popup.currentIndex());
@@ -34,7 +53,7 @@ void VKInkPrintSetting14PDE::changeState(PopUpButton *popup, const QStringList &
     if (!popup)
         return;
     if (enable && tagOf(popup) == kTagRebuilt)
-        rebuildQualities(*popup, choices);
+        rebuildQualities(*popup, choices, effectContent);
     else
         setItemsEnabled(*popup, choices, enable);
     if (!applyDefault) {
@@ -45,24 +64,6 @@ void VKInkPrintSetting14PDE::changeState(PopUpButton *popup, const QStringList &
     // Wanted, the default takes the place of a valid selection too, and is selected even where it
     // is disabled itself: no other item is looked for.
     selectDefaultItem(*popup);
-}
-
-void VKInkPrintSetting14PDE::setItemsEnabled(PopUpButton &popup, const QStringList &choices,
-                                             bool enabled)
-{
-    for (const QString &choice : choices)
-        popup.setItemEnabled(popup.indexOfRepresentedObject(choice), enabled);
-}
-
-void VKInkPrintSetting14PDE::rebuildQualities(PopUpButton &popup, const QStringList &qualities)
-{
-    std::vector<PopUpButton::Item> items;
-    for (const QString &quality : qualities) {
-        const QVariant title = effectContent ? effectContent->value(quality) : QVariant();
-        if (title.isValid())
-            items.push_back({title.toString(), quality});
-    }
-    popup.setItems(items);
 }
 
 // Qualities of a disc that are still shown on another paper make room for the medium's own.
@@ -80,7 +81,7 @@ void VKInkPrintSetting14PDE::showQualities(const QString &mediaType)
     const QStringList qualities = allowedQuality(mediaType);
     if (!resolutionPopup)
         return;
-    rebuildQualities(*resolutionPopup, qualities);
+    rebuildQualities(*resolutionPopup, qualities, effectContent);
     resolutionPopup->selectObject(defaultQualityForMediaType(mediaType));
 }
 

@@ -1,16 +1,11 @@
 #include "printsettings/VKInkPrintSetting14PDE.h"
 
 #include "platform/foundation/NotificationCenter.h"
-#include "platform/toolkit/ImageView.h"
 #include "platform/toolkit/PopUpButton.h"
-#include "printsettings/AdvancedOptionList.h"
 #include "printsettings/PrintControls.h"
 
 #include <QtWidgets/QCheckBox>
 #include <QtWidgets/QLabel>
-#include <QtWidgets/QListWidget>
-#include <QtWidgets/QPushButton>
-#include <QtWidgets/QStackedWidget>
 
 using namespace Qt::StringLiterals;
 
@@ -69,9 +64,7 @@ void VKInkPrintSetting14PDE::connectView(ViewConnections &connections)
     connections.outlet(u"biDirButton"_s, biDirButton);
     connections.outlet(u"mirrorButton"_s, mirrorButton);
     connections.outlet(u"jpegLabel"_s, jpegLabel);
-    connections.outlet(u"optionLabel"_s, optionLabel);
-    connections.outlet(u"advancedTabView"_s, advancedTabView);
-    connections.outlet(u"advancedTableView"_s, advancedTableView);
+    advanced_.connect(connections);
 }
 
 QString VKInkPrintSetting14PDE::inspectedClassName() const

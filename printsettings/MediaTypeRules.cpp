@@ -22,6 +22,15 @@ void setTicked(QCheckBox *box, bool ticked)
         box->setChecked(ticked);
 }
 
+// By its title, alone of all items: a printer may name the second tray's choice otherwise and give
+// it the same text.
+void enableTray2(PopUpButton *paperFeed, ppd_file_t *ppd, bool enabled)
+{
+    const ppd_choice_t *tray2 = findChoice(findOption(ppd, u"VKInputSlot"_s), u"Tray2"_s);
+    if (tray2 && paperFeed)
+        paperFeed->setItemEnabled(paperFeed->indexOfTitle(ppdText(tray2->text)), enabled);
+}
+
 } // namespace
 
 QStringList VKInkPrintSetting14PDE::allowedQuality(const QString &mediaType)
@@ -95,7 +104,7 @@ void VKInkPrintSetting14PDE::checkUIStateWithMediaType(bool applyDefaults)
     postNaturalColorMatching(effects.naturalAtFirst, applyDefaults);
     postNaturalColorMatching(effects.natural, applyDefaults);
     setFlag(TransparenciesMedium, effects.transparencies);
-    enableTray2(effects.tray2);
+    enableTray2(paperFeedPopup, ppd, effects.tray2);
 }
 
 void VKInkPrintSetting14PDE::applySlowDrying(const QString &mediaType, bool applyDefaults)
@@ -124,17 +133,6 @@ void VKInkPrintSetting14PDE::postNaturalColorMatching(bool natural, bool applyDe
                                                  {u"Natural"_s, natural},
                                                  {u"PointTo"_s, u"VKColorMatching"_s},
                                              });
-}
-
-void VKInkPrintSetting14PDE::enableTray2(bool enabled)
-{
-    const ppd_choice_t *tray2 = findChoice(findOption(ppd, u"VKInputSlot"_s), u"Tray2"_s);
-    if (!tray2 || !paperFeedPopup)
-        return;
-    // By its title, alone of all items: a printer may name the second tray's choice otherwise and
-    // give it the same text.
-    const int index = paperFeedPopup->indexOfTitle(ppdText(tray2->text));
-    paperFeedPopup->setItemEnabled(index, enabled);
 }
 
 void VKInkPrintSetting14PDE::checkStateWithPaperFeed()

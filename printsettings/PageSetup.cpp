@@ -19,7 +19,6 @@ bool VKInkPrintSetting14PDE::readPageSetup()
     if (name.isNull() || (!paperName.isNull() && paperName == name))
         return false;
     trackDisc(name);
-    applyDiscMedium();
     // By the envelope bit of the paper before: a custom paper inherits its thickness.
     applyPaperThickness();
     setFlag(BorderlessPaper, isBorderlessPaper(name));
@@ -69,10 +68,6 @@ void VKInkPrintSetting14PDE::trackDisc(const QString &name)
         setFlag(PreviousDiscPaper, isDiscPaper(paperName));
     paperName = name;
     setFlag(DiscPaper, isDiscPaper(name));
-}
-
-void VKInkPrintSetting14PDE::applyDiscMedium()
-{
     const QString mediaType = mediumForDisc(hasFlag(PreviousDiscPaper), hasFlag(DiscPaper));
     if (!mediaType.isNull())
         setAndMarkValue(mediaType, u"VKMediaType"_s);

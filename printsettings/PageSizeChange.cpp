@@ -24,29 +24,29 @@ const QComboBox *menuAt(const void *object)
     return nullptr;
 }
 
+// Of the menu notifications only those count that come from a menu with paper sizes.
+bool comesFromPaperMenu(const Notification &notification, const QString &paperTitle)
+{
+    const QComboBox *menu = menuAt(notification.object);
+    return menu && notification.userInfo &&
+           menu->findText(paperTitle, Qt::MatchFixedString | Qt::MatchCaseSensitive) >= 0;
+}
+
 } // namespace
 
 void VKInkPrintSetting14PDE::checkPageSizeChange(const Notification &notification)
 {
     try {
-        if (isPaperMenuAction(notification) && readPageSetup())
+        const bool fromMenu = notification.name == QLatin1String(kMenuDidSendActionNotification);
+        if (fromMenu && (!pluginBundle || !comesFromPaperMenu(notification, localized("A4"))))
+            return;
+        if (readPageSetup())
             followPageSize();
     } catch (...) {
         // The dialog posts this in the middle of its own work and must not be stopped by it. A
         // panel that cannot follow the paper stops listening rather than failing every time.
         NotificationCenter::defaultCenter().removeObserver(this);
     }
-}
-
-// Of the menu notifications only those count that come from a menu with paper sizes.
-bool VKInkPrintSetting14PDE::isPaperMenuAction(const Notification &notification) const
-{
-    if (notification.name != QLatin1String(kMenuDidSendActionNotification))
-        return true;
-    const QComboBox *menu = menuAt(notification.object);
-    return menu &&
-           menu->findText(localized("A4"), Qt::MatchFixedString | Qt::MatchCaseSensitive) >= 0 &&
-           notification.userInfo && pluginBundle;
 }
 
 void VKInkPrintSetting14PDE::followPageSize()

@@ -13,8 +13,15 @@
 using namespace Qt::StringLiterals;
 
 namespace {
-constexpr auto kOrientation = "com.velkaro.print.PrintSettings.Orientation";
+
+constexpr auto kOrientation = "com.velkaro.print.PrintSettings.Orientation"_L1;
+
+bool writeOrientation(PMPrintSettings *ticket, const QString &orientation)
+{
+    return PMPrintSettingsSetValue(ticket, kOrientation, orientation, false) == noErr;
 }
+
+} // namespace
 
 bool VKInkPrintSetting14PDE::checkCustomPaperSizeAlert()
 {
@@ -52,12 +59,12 @@ bool VKInkPrintSetting14PDE::checkShouldShowDuplexAlert()
 
 bool VKInkPrintSetting14PDE::checkPaperAndShowOrientationAlert()
 {
-    writeOrientation(u"Portrait"_s);
+    writeOrientation(ticket(), u"Portrait"_s);
     switch (orientationCheck(paperName)) {
     case OrientationCheck::ConfirmEnvelope:
         return confirmEnvelope();
     case OrientationCheck::Landscape:
-        return writeOrientation(u"Landscape"_s);
+        return writeOrientation(ticket(), u"Landscape"_s);
     case OrientationCheck::Portrait:
         return true;
     case OrientationCheck::Refuse:
@@ -77,7 +84,7 @@ bool VKInkPrintSetting14PDE::checkOrientationBySize()
     if (!paper.isWithinLimits(*size))
         return refuseUnsupportedPaper();
     if (isLandscapeSize(*size))
-        writeOrientation(u"Landscape"_s);
+        writeOrientation(ticket(), u"Landscape"_s);
     return true;
 }
 
@@ -85,10 +92,4 @@ bool VKInkPrintSetting14PDE::refuseUnsupportedPaper()
 {
     runAlert(unsupportedPaperAlert());
     return false;
-}
-
-bool VKInkPrintSetting14PDE::writeOrientation(const QString &orientation)
-{
-    return PMPrintSettingsSetValue(ticket(), QString::fromLatin1(kOrientation), orientation,
-                                   false) == noErr;
 }

@@ -14,11 +14,7 @@ constexpr auto kBestAlert = "Best Alert"; // its text and its key in the alert m
 void VKInkPrintSetting14PDE::requestNewOutputBin(QWidget *control)
 {
     VKPrintQualityPDE::requestNewOutputBin(control);
-    applyRulesAfterPick(determineKey(control));
-}
-
-void VKInkPrintSetting14PDE::applyRulesAfterPick(const QString &keyword)
-{
+    const QString keyword = determineKey(control);
     if (keyword == "VKMediaType"_L1) {
         checkUIStateWithMediaType(true);
         getUIValues();

@@ -1,19 +1,18 @@
 #pragma once
 
 #include "panel/VKPrintQualityPDE.h"
+#include "printsettings/AdvancedSection.h"
+#include "printsettings/AlertWindows.h"
 
 #include <memory>
 #include <optional>
 #include <vector>
 
-class AdvancedOptionList;
 class JobPaper;
 class QCheckBox;
 class QLabel;
-class QListWidget;
-class QPushButton;
-class QStackedWidget;
 enum class RuledPopUp;
+struct AdvancedGroup;
 struct ControlFacts;
 struct MediaChange;
 
@@ -160,7 +159,6 @@ private:
     /// Whether the user's language has a control for the keyword.
     bool isOffered(const QString &keyword) const;
 
-    void applyRulesAfterPick(const QString &keyword);
     void applyQualityPick();
     void applyThicknessPick();
     void beginBestAlert();
@@ -168,14 +166,10 @@ private:
     void restoreDefault(const QString &keyword);
     void applySlowDrying(const QString &mediaType, bool applyDefaults);
     void applyQualities(const QString &mediaType, bool applyDefaults);
-    void applyBiDir(const QString &mediaType);
     void postNaturalColorMatching(bool natural, bool applyDefaults);
-    void enableTray2(bool enabled);
 
     QString selectedMediaType() const;
     QString selectedQuality() const;
-    void rebuildQualities(PopUpButton &popup, const QStringList &qualities);
-    void setItemsEnabled(PopUpButton &popup, const QStringList &choices, bool enabled);
     void showQualitiesAfterDisc();
     void showQualities(const QString &mediaType);
     void selectDefaultItem(PopUpButton &popup);
@@ -183,7 +177,6 @@ private:
 
     void constrainQuality();
     void constrainBorderless();
-    void constrainDiscMedia();
     void constrainBiDir();
     void changeMedia(const std::vector<MediaChange> &changes);
     ControlFacts controlFacts() const;
@@ -191,26 +184,22 @@ private:
     JobPaper jobPaper() const;
     QString pageSetupPaperName();
     void trackDisc(const QString &name);
-    void applyDiscMedium();
     QString applyPaperThickness();
     void applyPaperBiDir();
-    bool isPaperMenuAction(const Notification &notification) const;
     void followPageSize();
     void setPlainDuplex();
 
     /// Connects the outlets of the alert windows, if the panel's view is loaded.
     void loadAlertWindows();
-    void connectAlertWindows(ViewConnections &connections);
     bool confirmEnvelope();
     bool refuseUnsupportedPaper();
     bool checkOrientationBySize();
-    bool writeOrientation(const QString &orientation);
-    void putAlertImage(ImageView *view, const QString &name);
-    void titleButton(QAbstractButton *button, const char *key);
+    /// The path of the bundle's picture; null without one.
+    QString picturePath(const QString &name) const;
 
-    void titleSection(const QString &title);
-    void addGroupRow(const QString &keyword);
-    void addLocalizedRow(const char *key);
+    void addGroup(const AdvancedGroup &group);
+    /// None where the group has no text, and so no row.
+    std::optional<QString> groupLabel(const AdvancedGroup &group) const;
 
     // Of the table's controls (PrintControls.h) those that the rules reach for by themselves.
     PopUpButton *resolutionPopup = nullptr;
@@ -223,22 +212,6 @@ private:
     QCheckBox *mirrorButton = nullptr;
     QLabel *jpegLabel = nullptr;
 
-    QLabel *optionLabel = nullptr;
-    QStackedWidget *advancedTabView = nullptr; ///< its pages bear the ids of the list's rows
-    QListWidget *advancedTableView = nullptr;
-    std::unique_ptr<AdvancedOptionList> arrayController; ///< null without a list
-
-    // The outlets of the alert windows: null until the first alert of their kind.
-    std::unique_ptr<LoadedView> alertWindows_;
-    QWidget *envAlertWindow = nullptr;
-    ImageView *envAlertImageView = nullptr;
-    QLabel *envInstructionLabel1 = nullptr;
-    QLabel *envInstructionLabel2 = nullptr;
-    QPushButton *envAlertOKButton = nullptr;
-    QPushButton *envAlertCancelButton = nullptr;
-    QPushButton *normalPaperAlertOKButton = nullptr;
-    QPushButton *normalPaperAlertCancelButton = nullptr;
-    QPushButton *customPaperAlertOKButton = nullptr;
-    QPushButton *customPaperAlertCancelButton = nullptr;
-    QCheckBox *suppressionButton = nullptr;
+    AdvancedSection advanced_;
+    AlertWindows alertWindows_;
 };
