@@ -1,8 +1,8 @@
 #include "colorsettings/VKInkColorSettingPDE.h"
 
 #include "colorsettings/EffectParameters.h"
-#include "colorsettings/EffectTable.h"
 #include "colorsettings/EffectVal.h"
+#include "colorsettings/rules/EffectTable.h"
 #include "platform/foundation/Bundle.h"
 #include "platform/imaging/CIFilter.h"
 #include "platform/imaging/CIImage.h"

@@ -1,7 +1,7 @@
 #include "colorsettings/VKInkColorSettingPDE.h"
 
-#include "colorsettings/ColorRules.h"
-#include "colorsettings/EffectTable.h"
+#include "colorsettings/rules/ColorRules.h"
+#include "colorsettings/rules/EffectTable.h"
 #include "platform/toolkit/NumberField.h"
 
 QWidget *VKInkColorSettingPDE::determineField(const QString &keyword) const

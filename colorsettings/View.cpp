@@ -1,6 +1,6 @@
 #include "colorsettings/VKInkColorSettingPDE.h"
 
-#include "colorsettings/EffectTable.h"
+#include "colorsettings/rules/EffectTable.h"
 #include "panel/TicketValue.h"
 #include "platform/pde/PPDText.h"
 #include "platform/toolkit/ImageView.h"

@@ -1,6 +1,6 @@
 #include "colorsettings/EffectParameters.h"
 #include "colorsettings/EffectRange.h"
-#include "colorsettings/EffectTable.h"
+#include "colorsettings/rules/EffectTable.h"
 #include "colorsettings/EffectVal.h"
 #include "tests/colorsettings/ColorPanelFixture.h"
 

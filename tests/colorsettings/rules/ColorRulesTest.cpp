@@ -1,5 +1,9 @@
-#include "colorsettings/ColorRules.h"
-#include "tests/colorsettings/ColorPanelFixture.h"
+#include "colorsettings/rules/ColorRules.h"
+
+#include "colorsettings/rules/EffectTable.h"
+#include "tests/support/QStringPrinting.h"
+
+#include <gtest/gtest.h>
 
 using namespace Qt::StringLiterals;
 

@@ -1,4 +1,4 @@
-#include "colorsettings/EffectTable.h"
+#include "colorsettings/rules/EffectTable.h"
 
 QStringList effectKeywords()
 {

@@ -1,6 +1,6 @@
-#include "colorsettings/ColorRules.h"
+#include "colorsettings/rules/ColorRules.h"
 
-#include "colorsettings/EffectTable.h"
+#include "colorsettings/rules/EffectTable.h"
 
 using namespace Qt::StringLiterals;
 
