@@ -45,6 +45,6 @@ private:
     };
     const Row *row(const QString &keyword) const;
 
-    std::map<QLatin1String, QWidget *> outlets_;
+    std::map<QString, QWidget *> outlets_;
     std::vector<Row> rows_;
 };

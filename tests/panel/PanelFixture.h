@@ -17,18 +17,17 @@
 
 class PopUpButton;
 
-/// A panel class of the tests' own: the base, with a keyword map, and a note of every operation
-/// that the base asked of it.
+/// A panel class of the tests' own: the base, with a table of controls, and a note of every
+/// operation that the base asked of it.
 class TestPanel : public VKPrintQualityPDE
 {
 public:
+    TestPanel();
+
     QString panelName() const override { return QStringLiteral("Test"); }
     QString inspectedClassName() const override { return QStringLiteral("TestPanel"); }
     QString inspectedName() const override { return QStringLiteral("test"); }
 
-    QString determineKey(QWidget *control) const override;
-    QWidget *determineUI(const QString &keyword) const override;
-    QWidget *determineLabel(const QString &keyword) const override;
     void checkModelName() override { asked << QStringLiteral("checkModelName"); }
     void setDefaults() override;
     void checkConstraints() override { asked << QStringLiteral("checkConstraints"); }
