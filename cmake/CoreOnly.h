@@ -1,7 +1,7 @@
 #pragma once
 
-// Included before every source of the panels' rules (velkaro_add_rules): rules are decided from plain
-// values, and a source that reaches for a control, a PPD or a panel does not compile.
+// Included before every source of the panels' rules (velkaro_add_rules): rules are decided from
+// plain values, and a source that reaches for a control, a PPD or a panel does not compile.
 
 #include <QtCore/qglobal.h>
 

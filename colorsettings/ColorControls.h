@@ -2,11 +2,9 @@
 
 #include "panel/KeywordControls.h"
 
-#include <array>
-
 /// The controls of the Color Settings panel. The enhancement values are no PPD-driven controls:
 /// they have labels here, and their fields in EffectTable.h.
-inline constexpr std::array<KeywordControl, 8> kColorControlTable = {{
+inline constexpr KeywordControl kColorControlTable[] = {
     {QLatin1String("VKColorMatching"), QLatin1String("colorMatchingMatrix"),
      QLatin1String("colorMatchingLabel")},
     {QLatin1String("VKHalfTonePattern"), QLatin1String("ditherPopup"),
@@ -17,4 +15,4 @@ inline constexpr std::array<KeywordControl, 8> kColorControlTable = {{
     {QLatin1String("VKRed"), {}, QLatin1String("redLabel")},
     {QLatin1String("VKGreen"), {}, QLatin1String("greenLabel")},
     {QLatin1String("VKBlue"), {}, QLatin1String("blueLabel")},
-}};
+};

@@ -65,14 +65,27 @@ void VKInkPrintSetting14PDE::restoreDefault(const QString &keyword)
     const ppd_option_t *option = findOption(ppd, keyword);
     if (!option)
         return;
-    const KeywordDefault step = keywordDefault(
-        {keyword, pendingValue(keyword), markedChoice(ppd, keyword), ppdName(option->defchoice),
-         hasFlag(EnvelopePaper), hasFlag(BiDirLeftAlone)});
-    if (step.step == KeywordDefault::Step::SetAndMark)
-        setAndMarkValue(step.value, keyword);
-    else if (step.step == KeywordDefault::Step::OfferDefault &&
-             pdePluginCallbackObject->willChangePPDOptionKeyValue(keyword, step.value))
-        recordPendingValue(keyword, step.value);
+    KeywordFacts facts;
+    facts.keyword = keyword;
+    facts.pending = pendingValue(keyword);
+    facts.defaultChoice = ppdName(option->defchoice);
+    // Most are, and looking for the mark costs more than all the rest.
+    if (isDefaultPending(facts.pending, facts.defaultChoice))
+        return;
+    facts.marked = markedChoice(ppd, keyword);
+    facts.envelopePaper = hasFlag(EnvelopePaper);
+    facts.directionLeftAlone = hasFlag(BiDirLeftAlone);
+    applyDefault(keyword, keywordDefault(facts));
+}
+
+void VKInkPrintSetting14PDE::applyDefault(const QString &keyword, const KeywordDefault &decided)
+{
+    using Step = KeywordDefault::Step;
+    if (decided.step == Step::SetAndMark)
+        setAndMarkValue(decided.value, keyword);
+    else if (decided.step == Step::OfferDefault &&
+             pdePluginCallbackObject->willChangePPDOptionKeyValue(keyword, decided.value))
+        recordPendingValue(keyword, decided.value);
 }
 
 void VKInkPrintSetting14PDE::canSelectColorMode()
@@ -96,7 +109,7 @@ void VKInkPrintSetting14PDE::checkUIStateWithMediaType(bool applyDefaults)
     // Held for all the steps: the qualities may replace the pending medium meanwhile.
     const QString mediaType = selectedMediaType();
     const MediumEffects effects = mediumEffects(mediaType);
-    applySlowDrying(mediaType, applyDefaults);
+    applySlowDrying(effects, applyDefaults);
     applyQualities(mediaType, applyDefaults);
     if (applyDefaults)
         setTicked(biDirButton, effects.bothDirections);
@@ -107,9 +120,9 @@ void VKInkPrintSetting14PDE::checkUIStateWithMediaType(bool applyDefaults)
     enableTray2(paperFeedPopup, ppd, effects.tray2);
 }
 
-void VKInkPrintSetting14PDE::applySlowDrying(const QString &mediaType, bool applyDefaults)
+void VKInkPrintSetting14PDE::applySlowDrying(const MediumEffects &effects, bool applyDefaults)
 {
-    const SlowDrying drying = slowDrying(mediaType, hasFlag(VendorColorMatching));
+    const SlowDrying drying = slowDrying(effects, hasFlag(VendorColorMatching));
     setFlag(SlowDryingUnavailable, !drying.available);
     if (applyDefaults && drying.defaultTick)
         setTicked(slowDryButton, *drying.defaultTick);

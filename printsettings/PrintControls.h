@@ -2,11 +2,9 @@
 
 #include "panel/KeywordControls.h"
 
-#include <array>
-
 /// The controls of the Print Settings panel. Mirror printing has two keywords and one box: both
 /// lead to the box, and the box leads back to the one that the printer has.
-inline constexpr std::array<KeywordControl, 16> kPrintControls = {{
+inline constexpr KeywordControl kPrintControls[] = {
     {QLatin1String("VKResolution"), QLatin1String("resolutionPopup"),
      QLatin1String("resolutionLabel")},
     {QLatin1String("VKMediaType"), QLatin1String("mediaTypePopup"),
@@ -28,4 +26,4 @@ inline constexpr std::array<KeywordControl, 16> kPrintControls = {{
     {QLatin1String("VKVertLineAlignA4Letter"), QLatin1String("vertLineAlignA4Button"), {}},
     {QLatin1String("VKVertLineAlignOther"), QLatin1String("vertLineAlignOtherButton"), {}},
     {QLatin1String("VKVertLineAlignDedicated"), QLatin1String("vertLineAlignQM43Button"), {}},
-}};
+};

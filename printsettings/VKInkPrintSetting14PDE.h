@@ -14,7 +14,9 @@ class QLabel;
 enum class RuledPopUp;
 struct AdvancedGroup;
 struct ControlFacts;
+struct KeywordDefault;
 struct MediaChange;
+struct MediumEffects;
 
 /// The Print Settings panel: medium, quality, paper feed, colour or mono, thickness, two-sided
 /// printing and the advanced options, and the rules that tie them together.
@@ -164,7 +166,8 @@ private:
     void beginBestAlert();
 
     void restoreDefault(const QString &keyword);
-    void applySlowDrying(const QString &mediaType, bool applyDefaults);
+    void applyDefault(const QString &keyword, const KeywordDefault &decided);
+    void applySlowDrying(const MediumEffects &effects, bool applyDefaults);
     void applyQualities(const QString &mediaType, bool applyDefaults);
     void postNaturalColorMatching(bool natural, bool applyDefaults);
 

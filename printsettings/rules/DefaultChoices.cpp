@@ -19,11 +19,15 @@ QString defaultChoice(RuledPopUp popup, const DefaultFacts &facts)
     return {};
 }
 
+bool isDefaultPending(const QString &pending, const QString &defaultChoice)
+{
+    return !pending.isNull() && pending == defaultChoice;
+}
+
 KeywordDefault keywordDefault(const KeywordFacts &facts)
 {
     using Step = KeywordDefault::Step;
-    // A missing value is not the empty name of a default that the PPD does not give.
-    if (!facts.pending.isNull() && facts.pending == facts.defaultChoice)
+    if (isDefaultPending(facts.pending, facts.defaultChoice))
         return {};
     if (facts.marked.isNull())
         return {Step::OfferDefault, facts.defaultChoice};

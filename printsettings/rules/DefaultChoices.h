@@ -18,6 +18,10 @@ struct DefaultFacts
 /// The choice that the pop-up falls back to; null: what is selected stays.
 QString defaultChoice(RuledPopUp popup, const DefaultFacts &facts);
 
+/// Whether the default of the PPD is pending already. A missing value is not the empty name of a
+/// default that the PPD does not give.
+bool isDefaultPending(const QString &pending, const QString &defaultChoice);
+
 /// A keyword whose pending value may have to follow its default.
 struct KeywordFacts
 {

@@ -35,20 +35,36 @@ const QStringList &shownOthers()
 
 } // namespace
 
-std::vector<MediaChange> constrainedMedia(bool discPaper)
+const std::vector<MediaChange> &constrainedMedia(bool discPaper)
 {
-    if (discPaper)
-        return {{constrainedDiscs(), true, true}, {constrainedOthers(), false, false}};
-    return {{constrainedDiscs(), false, false}, {constrainedOthers(), true, true}};
+    static const std::vector<MediaChange> onDisc = {
+        {constrainedDiscs(), true, true},
+        {constrainedOthers(), false, false},
+    };
+    static const std::vector<MediaChange> onOthers = {
+        {constrainedDiscs(), false, false},
+        {constrainedOthers(), true, true},
+    };
+    return discPaper ? onDisc : onOthers;
 }
 
-std::vector<MediaChange> shownMedia(bool discPaper, bool borderlessPaper)
+const std::vector<MediaChange> &shownMedia(bool discPaper, bool borderlessPaper)
 {
-    std::vector<MediaChange> changes = {
-        {{u"Transparencies"_s}, !borderlessPaper && !discPaper, false},
-        {shownDiscs(), discPaper, false},
+    static const QStringList transparencies = {u"Transparencies"_s};
+    static const std::vector<MediaChange> onDisc = {
+        {transparencies, false, false},
+        {shownDiscs(), true, false},
+        {shownOthers(), false, false},
+    };
+    static const std::vector<MediaChange> withoutBorders = {
+        {transparencies, false, false},
+        {shownDiscs(), false, false},
+    };
+    static const std::vector<MediaChange> withBorders = {
+        {transparencies, true, false},
+        {shownDiscs(), false, false},
     };
     if (discPaper)
-        changes.push_back({shownOthers(), false, false});
-    return changes;
+        return onDisc;
+    return borderlessPaper ? withoutBorders : withBorders;
 }

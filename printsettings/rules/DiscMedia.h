@@ -24,8 +24,8 @@ struct MediaChange
 };
 
 /// The steps, in order, for the rules on pending values.
-std::vector<MediaChange> constrainedMedia(bool discPaper);
+const std::vector<MediaChange> &constrainedMedia(bool discPaper);
 
 /// The steps, in order, for the rules on controls. They enable no medium of ordinary paper: the
 /// rules on pending values do that.
-std::vector<MediaChange> shownMedia(bool discPaper, bool borderlessPaper);
+const std::vector<MediaChange> &shownMedia(bool discPaper, bool borderlessPaper);

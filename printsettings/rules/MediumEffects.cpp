@@ -19,10 +19,9 @@ MediumEffects mediumEffects(const QString &mediaType)
     return effects;
 }
 
-SlowDrying slowDrying(const QString &mediaType, bool vendorColorMatching)
+SlowDrying slowDrying(const MediumEffects &effects, bool vendorColorMatching)
 {
     if (!vendorColorMatching)
         return {};
-    const MediumEffects effects = mediumEffects(mediaType);
     return {effects.slowDrying, effects.slowDryingOn};
 }

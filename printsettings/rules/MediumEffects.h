@@ -31,4 +31,4 @@ struct SlowDrying
 
     friend bool operator==(const SlowDrying &, const SlowDrying &) = default;
 };
-SlowDrying slowDrying(const QString &mediaType, bool vendorColorMatching);
+SlowDrying slowDrying(const MediumEffects &effects, bool vendorColorMatching);

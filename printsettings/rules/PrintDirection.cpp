@@ -2,7 +2,8 @@
 
 #include "printsettings/rules/PaperNames.h"
 
-#include <QtCore/QStringList>
+#include <algorithm>
+#include <array>
 
 using namespace Qt::StringLiterals;
 
@@ -20,8 +21,9 @@ QString directionAfterThickness(bool customEnvelope, const QString &mediaType)
 
 bool printsInOneDirection(const QString &mediaType, const QString &quality)
 {
-    static const QStringList qualities = {u"Photo"_s, u"Best"_s};
-    static const QStringList media = {u"PrintableDisc"_s, u"GlossyPrintableDisc"_s, u"Inkjet"_s,
-                                      u"VelkaroQM41Matte"_s, u"Transparencies"_s};
-    return qualities.contains(quality) || media.contains(mediaType);
+    static constexpr std::array qualities = {"Photo"_L1, "Best"_L1};
+    static constexpr std::array media = {"PrintableDisc"_L1, "GlossyPrintableDisc"_L1, "Inkjet"_L1,
+                                         "VelkaroQM41Matte"_L1, "Transparencies"_L1};
+    return std::find(qualities.begin(), qualities.end(), quality) != qualities.end() ||
+           std::find(media.begin(), media.end(), mediaType) != media.end();
 }

@@ -38,16 +38,17 @@ INSTANTIATE_TEST_SUITE_P(
 
 TEST(SlowDrying, IsForPlainPaperAndTheAddressSideOfPostcards)
 {
-    EXPECT_EQ(slowDrying(u"Plain"_s, true), (SlowDrying{true, false}));
-    EXPECT_EQ(slowDrying(u"HagakiAtena"_s, true), (SlowDrying{true, true}));
+    EXPECT_EQ(slowDrying(mediumEffects(u"Plain"_s), true), (SlowDrying{true, false}));
+    EXPECT_EQ(slowDrying(mediumEffects(u"HagakiAtena"_s), true), (SlowDrying{true, true}));
     for (const QString &medium : {u"PlainDuplex"_s, u"Glossy"_s, u"Transparencies"_s, QString()})
-        EXPECT_EQ(slowDrying(medium, true), (SlowDrying{false, false})) << qPrintable(medium);
+        EXPECT_EQ(slowDrying(mediumEffects(medium), true), (SlowDrying{false, false}))
+            << qPrintable(medium);
 }
 
 TEST(SlowDrying, KeepsItsTickWhereTheApplicationMatchesColours)
 {
     for (const QString &medium : {u"Plain"_s, u"HagakiAtena"_s, u"Glossy"_s, QString()})
-        EXPECT_EQ(slowDrying(medium, false), (SlowDrying{false, std::nullopt}))
+        EXPECT_EQ(slowDrying(mediumEffects(medium), false), (SlowDrying{false, std::nullopt}))
             << qPrintable(medium);
 }
 
