@@ -51,3 +51,11 @@ if(VELKARO_TIDY)
     # (A file without any check would be an error.)
     file(WRITE ${CMAKE_BINARY_DIR}/.clang-tidy "Checks: '-*,misc-definitions-in-headers'\n")
 endif()
+
+# velkaro_add_rules(NAME SOURCES...): a library of rules, on Qt Core alone, so that a rule is read,
+# changed and tested by itself. A source that reaches for more does not compile (CoreOnly.h).
+function(velkaro_add_rules name)
+    add_library(${name} STATIC ${ARGN})
+    target_link_libraries(${name} PUBLIC velkaro_build_rules Qt6::Core)
+    target_compile_options(${name} PRIVATE -include ${CMAKE_SOURCE_DIR}/cmake/CoreOnly.h)
+endfunction()

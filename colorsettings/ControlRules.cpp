@@ -1,6 +1,7 @@
 #include "colorsettings/VKInkColorSettingPDE.h"
 
-#include "colorsettings/ColorRules.h"
+#include "colorsettings/rules/ColorRules.h"
+#include "colorsettings/rules/TicketColors.h"
 #include "panel/TicketValue.h"
 #include "platform/toolkit/ControlColor.h"
 
@@ -23,7 +24,7 @@ void VKInkColorSettingPDE::checkUIConstraints()
     setContent(u"VKColorEnhancement"_s, states.colorEnhancement);
     setContent(u"Color"_s, states.color);
     const QString picture =
-        hasFlag(VendorColorMatching) ? pendingValue(u"VKColorMatching"_s) : u"None"_s;
+        referencePicture(hasFlag(VendorColorMatching), pendingValue(u"VKColorMatching"_s));
     if (picture.isNull())
         return;
     setRefImageWithName(picture);

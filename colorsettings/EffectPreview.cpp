@@ -1,8 +1,8 @@
 #include "colorsettings/VKInkColorSettingPDE.h"
 
 #include "colorsettings/EffectParameters.h"
-#include "colorsettings/EffectTable.h"
 #include "colorsettings/EffectVal.h"
+#include "colorsettings/rules/EffectTable.h"
 #include "platform/foundation/Bundle.h"
 #include "platform/imaging/CIFilter.h"
 #include "platform/imaging/CIImage.h"
@@ -13,8 +13,6 @@
 using namespace Qt::StringLiterals;
 
 namespace {
-
-constexpr double kWindowMargin = 96.0; // points around the panel's view in the dialog's window
 
 constexpr std::size_t kColorControls = 2; // brightness and contrast come before the gains
 
@@ -49,21 +47,21 @@ void VKInkColorSettingPDE::setRefImage(const std::shared_ptr<const CIImage> &ima
 
 // The controls' rules name the picture at every step, mostly while nobody sees it: it is read when
 // it is first drawn.
-void VKInkColorSettingPDE::setRefImageWithName(const QString &setRefImageWithName)
+void VKInkColorSettingPDE::setRefImageWithName(const QString &name)
 {
-    if (setRefImageWithName == refImageName_ || !pluginBundle ||
-        pluginBundle->pathForResource(setRefImageWithName, u"tiff"_s).isNull())
+    if (name == refImageName_ || !pluginBundle ||
+        pluginBundle->pathForResource(name, u"tiff"_s).isNull())
         return;
     setRefImage(nullptr);
-    refImageName_ = setRefImageWithName;
+    refImageName_ = name;
 }
 
-std::shared_ptr<const CIImage> VKInkColorSettingPDE::applyColorControlFilter(
-    const std::shared_ptr<const CIImage> &applyColorControlFilter, int code)
+std::shared_ptr<const CIImage>
+VKInkColorSettingPDE::applyColorControlFilter(const std::shared_ptr<const CIImage> &image, int code)
 {
     if (!ccFilter)
-        return applyColorControlFilter;
-    ccFilter->setValue(applyColorControlFilter, kCIInputImageKey);
+        return image;
+    ccFilter->setValue(image, kCIInputImageKey);
     if (code < 0) {
         setColorControl(0);
         setColorControl(1);
@@ -72,15 +70,15 @@ std::shared_ptr<const CIImage> VKInkColorSettingPDE::applyColorControlFilter(
         setContent(keyword, static_cast<float>(contentInteger(keyword)));
         setColorControl(code);
     }
-    return isEnhancementShown() ? ccFilter->outputImage() : applyColorControlFilter;
+    return isEnhancementShown() ? ccFilter->outputImage() : image;
 }
 
-std::shared_ptr<const CIImage> VKInkColorSettingPDE::applyColorMatrixFilter(
-    const std::shared_ptr<const CIImage> &applyColorMatrixFilter, int code)
+std::shared_ptr<const CIImage>
+VKInkColorSettingPDE::applyColorMatrixFilter(const std::shared_ptr<const CIImage> &image, int code)
 {
     if (!cmFilter)
-        return applyColorMatrixFilter;
-    cmFilter->setValue(applyColorMatrixFilter, kCIInputImageKey);
+        return image;
+    cmFilter->setValue(image, kCIInputImageKey);
     if (code < 0) {
         for (int color = 0; color <= 2; ++color)
             setGain(color);
@@ -90,8 +88,8 @@ std::shared_ptr<const CIImage> VKInkColorSettingPDE::applyColorMatrixFilter(
         setGain(code);
     }
     if (hasFlag(MonoColorMode))
-        return monochrome(applyColorMatrixFilter);
-    return isEnhancementShown() ? cmFilter->outputImage() : applyColorMatrixFilter;
+        return monochrome(image);
+    return isEnhancementShown() ? cmFilter->outputImage() : image;
 }
 
 void VKInkColorSettingPDE::setColorControl(int code)
@@ -146,10 +144,10 @@ void VKInkColorSettingPDE::drawEffect(const std::shared_ptr<const CIImage> &resu
     effectImageView->setImage(picture);
 }
 
-void VKInkColorSettingPDE::effectValueDidChange(QWidget *effectValueDidChange)
+void VKInkColorSettingPDE::effectValueDidChange(QWidget *control)
 {
-    const int tag = tagOf(effectValueDidChange);
-    const double value = doubleValueOf(effectValueDidChange);
+    const int tag = tagOf(control);
+    const double value = doubleValueOf(control);
     if (isHandledChange(tag, value))
         return;
     recordChange(tag, value);

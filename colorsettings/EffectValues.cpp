@@ -1,8 +1,8 @@
 #include "colorsettings/VKInkColorSettingPDE.h"
 
 #include "colorsettings/EffectRange.h"
-#include "colorsettings/EffectTable.h"
 #include "colorsettings/EffectVal.h"
+#include "colorsettings/rules/EffectTable.h"
 #include "panel/TicketValue.h"
 #include "platform/imaging/CIFilter.h"
 #include "platform/pde/PPDText.h"

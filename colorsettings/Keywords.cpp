@@ -1,64 +1,16 @@
 #include "colorsettings/VKInkColorSettingPDE.h"
 
-#include "colorsettings/ColorRules.h"
-#include "colorsettings/EffectTable.h"
+#include "colorsettings/rules/ColorRules.h"
+#include "colorsettings/rules/EffectTable.h"
 #include "platform/toolkit/NumberField.h"
-#include "platform/toolkit/PopUpButton.h"
-#include "platform/toolkit/RadioMatrix.h"
 
-#include <QtWidgets/QAbstractButton>
-#include <QtWidgets/QLabel>
-
-using namespace Qt::StringLiterals;
-
-QString VKInkColorSettingPDE::determineKey(QWidget *determineKey) const
+QWidget *VKInkColorSettingPDE::determineField(const QString &keyword) const
 {
-    // An outlet that is not connected must not match a sender that is not there.
-    if (!determineKey)
-        return {};
-    if (determineKey == colorMatchingMatrix)
-        return u"VKColorMatching"_s;
-    if (determineKey == ditherPopup)
-        return u"VKHalfTonePattern"_s;
-    return determineKey == colorEnhanceButton ? u"VKColorEnhancement"_s : QString();
-}
-
-QWidget *VKInkColorSettingPDE::determineUI(const QString &determineUI) const
-{
-    if (determineUI == "VKColorMatching"_L1)
-        return colorMatchingMatrix;
-    if (determineUI == "VKHalfTonePattern"_L1)
-        return ditherPopup;
-    return determineUI == "VKColorEnhancement"_L1 ? colorEnhanceButton : nullptr;
-}
-
-QWidget *VKInkColorSettingPDE::determineLabel(const QString &determineLabel) const
-{
-    if (determineLabel == "VKColorMatching"_L1)
-        return colorMatchingLabel;
-    if (determineLabel == "VKHalfTonePattern"_L1)
-        return ditherLabel;
-    return effectOutlets(determineLabel).label;
-}
-
-QWidget *VKInkColorSettingPDE::determineField(const QString &determineField) const
-{
-    return effectOutlets(determineField).field;
-}
-
-VKInkColorSettingPDE::EffectOutlets
-VKInkColorSettingPDE::effectOutlets(const QString &keyword) const
-{
-    const EffectOutlets outlets[] = {
-        {brightnessLabel, brightnessField}, {contrastLabel, contrastField}, {redLabel, redField},
-        {greenLabel, greenField},           {blueLabel, blueField},
-    };
-    static_assert(std::size(outlets) == kEffects.size());
     for (std::size_t index = 0; index < kEffects.size(); ++index) {
         if (keyword == kEffects[index].keyword)
-            return outlets[index];
+            return effectFields_[index];
     }
-    return {};
+    return nullptr;
 }
 
 std::optional<QStringList> VKInkColorSettingPDE::availablePPDOptionKeys() const

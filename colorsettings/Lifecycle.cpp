@@ -1,7 +1,7 @@
 #include "colorsettings/VKInkColorSettingPDE.h"
 
+#include "colorsettings/ColorControls.h"
 #include "colorsettings/ColorTransformer.h"
-#include "platform/foundation/Bundle.h"
 #include "platform/foundation/NotificationCenter.h"
 #include "platform/imaging/CIFilter.h"
 
@@ -12,26 +12,18 @@ namespace {
 constexpr auto kPrintSettingNotification = "VKInkPrintSettingNotification"_L1;
 constexpr auto kPaperDidChangeNotification = "PMPrintDestinationPaperDidChangeNotification"_L1;
 
-std::optional<QStringList> keywordList(const Bundle *bundle)
-{
-    const QVariant list =
-        bundle ? bundle->infoValue(u"PMPPDKeysSupported"_s + u"Color"_s) : QVariant();
-    return list.isValid() && !list.isNull() ? std::optional(list.toStringList()) : std::nullopt;
-}
-
 } // namespace
 
-VKInkColorSettingPDE::VKInkColorSettingPDE() = default;
+VKInkColorSettingPDE::VKInkColorSettingPDE() : VKPrintQualityPDE(kColorControlTable) {}
 
 VKInkColorSettingPDE::~VKInkColorSettingPDE() = default;
 
-bool VKInkColorSettingPDE::initWithCallback(
-    const std::shared_ptr<PDEPluginCallback> &initWithCallback)
+bool VKInkColorSettingPDE::initWithCallback(const std::shared_ptr<PDEPluginCallback> &callback)
 {
-    if (!VKPrintQualityPDE::initWithCallback(initWithCallback))
+    if (!VKPrintQualityPDE::initWithCallback(callback))
         return false;
     setThePDEName(u"VKInkColorSetting"_s);
-    setPPDKeys(keywordList(pluginBundle.get()));
+    takeKeywordList(u"PMPPDKeysSupportedColor"_s);
     setEffectDefaults();
     restoreEffectValues();
     saveEffectValues();

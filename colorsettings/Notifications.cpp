@@ -1,5 +1,6 @@
 #include "colorsettings/VKInkColorSettingPDE.h"
 
+#include "colorsettings/rules/TicketColors.h"
 #include "panel/TicketValue.h"
 #include "platform/foundation/Notification.h"
 #include "platform/printmanager/PMPrintSettings.h"
@@ -25,10 +26,10 @@ QString ticketText(const PMPrintSettings *ticket, const QString &key)
 
 } // namespace
 
-void VKInkColorSettingPDE::printSettingsNotified(const Notification &printSettingsNotified)
+void VKInkColorSettingPDE::printSettingsNotified(const Notification &notification)
 {
-    if (printSettingsNotified.userInfo)
-        followPrintSettings(*printSettingsNotified.userInfo);
+    if (notification.userInfo)
+        followPrintSettings(*notification.userInfo);
     else
         followTicket();
     updateUI();
@@ -42,33 +43,30 @@ void VKInkColorSettingPDE::followPrintSettings(const QVariantMap &userInfo)
     } else if (subject == "VKHalfTonePattern"_L1) {
         const bool diffusion = entry(userInfo, subject);
         setFlag(DiffusionHalftone, diffusion);
-        setAndMarkValue(diffusion ? u"Diffusion"_s : u"Dither"_s, subject);
+        setAndMarkValue(halftoneChoice(diffusion), subject);
     } else if (subject == "VKColorMatching"_L1) {
-        setAndMarkValue(entry(userInfo, u"Natural"_s) ? u"Natural"_s : u"Vivid"_s, subject);
+        setAndMarkValue(matchingChoice(entry(userInfo, u"Natural"_s)), subject);
     }
 }
 
 void VKInkColorSettingPDE::followTicket()
 {
-    const QString mode = ticketText(ticket(), u"VKMonoColor"_s);
-    if (!mode.isNull())
-        setFlag(MonoColorMode, mode != "Color"_L1);
-    const QString halftone = ticketText(ticket(), u"VKHalfTonePattern"_s);
-    if (halftone == "Dither"_L1 || halftone == "Diffusion"_L1)
-        setFlag(DiffusionHalftone, halftone == "Diffusion"_L1);
-    const QString matching = ticketText(ticket(), u"VKColorMatching"_s);
-    // "Vivid" leaves the bit as it is: a halftone's name is what clears it.
-    if (matching == "Natural"_L1 || matching == "Diffusion"_L1)
-        setFlag(NaturalColorMatching, matching == "Natural"_L1);
+    const auto follow = [this](ImageModeFlag flag, std::optional<bool> on) {
+        if (on)
+            setFlag(flag, *on);
+    };
+    follow(MonoColorMode, monoOfChoice(ticketText(ticket(), u"VKMonoColor"_s)));
+    follow(DiffusionHalftone, diffusionOfChoice(ticketText(ticket(), u"VKHalfTonePattern"_s)));
+    follow(NaturalColorMatching, naturalOfChoice(ticketText(ticket(), u"VKColorMatching"_s)));
 }
 
 void VKInkColorSettingPDE::checkPageSizeChange(const Notification &)
 {
     const QString paper = ticketText(ticket(), u"com.apple.print.PageToPaperMappingMediaName"_s);
-    if (paper == "120x120mm"_L1) {
-        // A disc is printed in natural colours whatever the dialog answers.
-        recordPendingValue(u"VKColorMatching"_s, u"Natural"_s);
-        pdePluginCallbackObject->willChangePPDOptionKeyValue(u"VKColorMatching"_s, u"Natural"_s);
+    if (forcesNaturalMatching(paper)) {
+        const QString natural = matchingChoice(true);
+        recordPendingValue(u"VKColorMatching"_s, natural);
+        pdePluginCallbackObject->willChangePPDOptionKeyValue(u"VKColorMatching"_s, natural);
     }
     updateUI();
 }

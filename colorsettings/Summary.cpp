@@ -1,6 +1,6 @@
 #include "colorsettings/VKInkColorSettingPDE.h"
 
-#include "colorsettings/ColorRules.h"
+#include "colorsettings/rules/ColorRules.h"
 #include "platform/pde/PPDText.h"
 
 using namespace Qt::StringLiterals;

@@ -5,6 +5,7 @@
 
 #include <QtCore/QHash>
 
+#include <array>
 #include <memory>
 
 class CIFilter;
@@ -39,7 +40,7 @@ public:
 
     /// The base panel's creation, then the panel's own: keywords, values, observers. When the base
     /// panel cannot be created nothing more is done, and the panel must be dropped.
-    bool initWithCallback(const std::shared_ptr<PDEPluginCallback> &initWithCallback) override;
+    bool initWithCallback(const std::shared_ptr<PDEPluginCallback> &callback) override;
 
     QString panelName() const override;
     void willShow() override;
@@ -52,24 +53,21 @@ public:
     void saveAllValues() override;
     void checkConstraints() override;
     void checkUIConstraints() override;
-    void toggleShowOption(QWidget *toggleShowOption) override;
-    QString determineKey(QWidget *determineKey) const override;
-    QWidget *determineUI(const QString &determineUI) const override;
-    QWidget *determineLabel(const QString &determineLabel) const override;
+    double advancedHeight() const override;
     std::optional<QStringList> availablePPDOptionKeys() const override;
     QString helpBook() const override;
 
     /// The numeric field of an enhancement keyword; null for any other.
-    QWidget *determineField(const QString &determineField) const;
+    QWidget *determineField(const QString &keyword) const;
 
     // --- Notifications ---------------------------------------------------------------------------
 
     /// The Print Settings panel has decided something (the entry that "PointTo" names); without
     /// user information the ticket says what holds.
-    void printSettingsNotified(const Notification &printSettingsNotified);
+    void printSettingsNotified(const Notification &notification);
 
     /// The page setup has changed.
-    void checkPageSizeChange(const Notification &checkPageSizeChange);
+    void checkPageSizeChange(const Notification &notification);
 
     // --- Enhancement values ----------------------------------------------------------------------
 
@@ -86,11 +84,11 @@ public:
     void saveEffectValues();
 
     /// The action of the sliders and fields: draws the picture anew when the value is a new one.
-    void effectValueDidChange(QWidget *effectValueDidChange);
+    void effectValueDidChange(QWidget *control);
 
     /// The action of the revert button: puts the values back to those of the last ticket read or
     /// write and switches enhancement off, without asking the dialog. The sender is ignored.
-    void revertEffectDialog(QWidget *revertEffectDialog);
+    void revertEffectDialog(QWidget *sender);
 
     // --- The picture -----------------------------------------------------------------------------
 
@@ -100,27 +98,26 @@ public:
 
     /// Takes the "tiff" resource of this name as the reference image. Without such a resource the
     /// image stays; a file that cannot be read gives none.
-    void setRefImageWithName(const QString &setRefImageWithName);
+    void setRefImageWithName(const QString &name);
 
     /// The image with brightness and contrast changed, as the sliders say; the image itself while
     /// enhancement is off. `code`: 0 takes up brightness, 1 contrast, a negative one both. A single
     /// one also puts the whole number back into `effectContent`.
     std::shared_ptr<const CIImage>
-    applyColorControlFilter(const std::shared_ptr<const CIImage> &applyColorControlFilter,
-                            int code);
+    applyColorControlFilter(const std::shared_ptr<const CIImage> &image, int code);
 
     /// The image with the colour gains applied, as the sliders say; in mono its grey form; the
     /// image itself while enhancement is off. `code`: 0 takes up red, 1 green, 2 blue, a negative
     /// one all three. A single one also puts the whole number back into `effectContent`.
     std::shared_ptr<const CIImage>
-    applyColorMatrixFilter(const std::shared_ptr<const CIImage> &applyColorMatrixFilter, int code);
+    applyColorMatrixFilter(const std::shared_ptr<const CIImage> &image, int code);
 
     /// Draws the whole picture: brightness and contrast first, then the gains; grey for fax.
     void redrawEffectImage();
 
     /// The action of the view's size watch: draws once the dialog's window, at another height, has
     /// room for the panel. The sender is ignored.
-    void updateImage(QWidget *updateImage);
+    void updateImage(QWidget *sender);
 
     // --- Inspection ------------------------------------------------------------------------------
 
@@ -133,14 +130,8 @@ protected:
     void connectView(ViewConnections &connections) override;
 
 private:
-    /// The view's parts of one enhancement value.
-    struct EffectOutlets
-    {
-        QLabel *label = nullptr;
-        NumberField *field = nullptr;
-    };
-
-    EffectOutlets effectOutlets(const QString &keyword) const;
+    /// The label of an enhancement value; null for any other keyword.
+    QLabel *effectLabel(const QString &keyword) const;
     void connectOutlets(ViewConnections &connections);
     void observeNotifications();
 
@@ -169,22 +160,8 @@ private:
 
     ImageView *effectImageView = nullptr;
     ImageView *colorModeImageView = nullptr;
-    RadioMatrix *colorMatchingMatrix = nullptr;
-    PopUpButton *ditherPopup = nullptr;
-    QLabel *colorMatchingLabel = nullptr;
-    QLabel *ditherLabel = nullptr;
     QLabel *optionLabel = nullptr;
-    QAbstractButton *colorEnhanceButton = nullptr;
-    QLabel *brightnessLabel = nullptr;
-    QLabel *contrastLabel = nullptr;
-    QLabel *redLabel = nullptr;
-    QLabel *greenLabel = nullptr;
-    QLabel *blueLabel = nullptr;
-    NumberField *brightnessField = nullptr;
-    NumberField *contrastField = nullptr;
-    NumberField *redField = nullptr;
-    NumberField *greenField = nullptr;
-    NumberField *blueField = nullptr;
+    std::array<NumberField *, 5> effectFields_{}; ///< in the order of kEffects
 
     QStringList PPDEffectKeys; ///< empty until the first setEffectDefaults()
     QString refImageName_;     ///< the resource that is the reference image; null: refImage_ is

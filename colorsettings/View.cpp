@@ -1,13 +1,12 @@
 #include "colorsettings/VKInkColorSettingPDE.h"
 
+#include "colorsettings/rules/EffectTable.h"
 #include "panel/TicketValue.h"
 #include "platform/pde/PPDText.h"
 #include "platform/toolkit/ImageView.h"
 #include "platform/toolkit/NumberField.h"
 #include "platform/toolkit/PlainLabel.h"
 #include "platform/toolkit/PlainText.h"
-#include "platform/toolkit/PopUpButton.h"
-#include "platform/toolkit/RadioMatrix.h"
 #include "platform/toolkit/SpokenName.h"
 
 #include <QtWidgets/QAbstractButton>
@@ -39,22 +38,9 @@ void VKInkColorSettingPDE::connectOutlets(ViewConnections &connections)
 {
     connections.outlet(u"effectImageView"_s, effectImageView);
     connections.outlet(u"colorModeImageView"_s, colorModeImageView);
-    connections.outlet(u"colorMatchingMatrix"_s, colorMatchingMatrix);
-    connections.outlet(u"ditherPopup"_s, ditherPopup);
-    connections.outlet(u"colorMatchingLabel"_s, colorMatchingLabel);
-    connections.outlet(u"ditherLabel"_s, ditherLabel);
     connections.outlet(u"optionLabel"_s, optionLabel);
-    connections.outlet(u"colorEnhanceButton"_s, colorEnhanceButton);
-    connections.outlet(u"brightnessLabel"_s, brightnessLabel);
-    connections.outlet(u"contrastLabel"_s, contrastLabel);
-    connections.outlet(u"redLabel"_s, redLabel);
-    connections.outlet(u"greenLabel"_s, greenLabel);
-    connections.outlet(u"blueLabel"_s, blueLabel);
-    connections.outlet(u"brightnessField"_s, brightnessField);
-    connections.outlet(u"contrastField"_s, contrastField);
-    connections.outlet(u"redField"_s, redField);
-    connections.outlet(u"greenField"_s, greenField);
-    connections.outlet(u"blueField"_s, blueField);
+    for (std::size_t index = 0; index < kEffects.size(); ++index)
+        connections.outlet(kEffects[index].field, effectFields_[index]);
 }
 
 void VKInkColorSettingPDE::initializePopup()
@@ -63,8 +49,8 @@ void VKInkColorSettingPDE::initializePopup()
         return;
     VKPrintQualityPDE::initializePopup();
     // A label must not stand there without its control.
-    if (colorMatchingLabel)
-        colorMatchingLabel->setVisible(managesKeyword(u"VKColorMatching"_s));
+    if (QWidget *label = determineLabel(u"VKColorMatching"_s))
+        label->setVisible(managesKeyword(u"VKColorMatching"_s));
     titleSection();
     if (QWidget *view = inspectedView())
         view->setFixedSize(view->width(), kFoldedHeight);
@@ -93,11 +79,17 @@ void VKInkColorSettingPDE::titleSection()
 void VKInkColorSettingPDE::titleEffects()
 {
     for (const QString &keyword : std::as_const(PPDEffectKeys)) {
-        QLabel *label = effectOutlets(keyword).label;
+        QLabel *label = effectLabel(keyword);
         const ppd_option_t *option = findOption(ppd, keyword);
         if (label && option)
             setLabelText(label, ppdText(option->text));
     }
+}
+
+QLabel *VKInkColorSettingPDE::effectLabel(const QString &keyword) const
+{
+    return PPDEffectKeys.contains(keyword) ? qobject_cast<QLabel *>(determineLabel(keyword))
+                                           : nullptr;
 }
 
 void VKInkColorSettingPDE::nameControls()
@@ -113,17 +105,12 @@ void VKInkColorSettingPDE::nameControls()
     for (QWidget *part : parts) {
         // A slider and its field are bound to the same value.
         const QString keyword = part->property("bind.value").toString();
-        if (const QLabel *label = effectOutlets(keyword).label)
+        if (const QLabel *label = effectLabel(keyword))
             setSpokenName(part, label->text());
     }
 }
 
-void VKInkColorSettingPDE::toggleShowOption(QWidget *toggleShowOption)
+double VKInkColorSettingPDE::advancedHeight() const
 {
-    const auto *button = qobject_cast<QAbstractButton *>(toggleShowOption);
-    const bool unfolded = button && button->isChecked();
-    const QWidget *view = inspectedView();
-    QSizeF size = view ? QSizeF(view->size()) : QSizeF(0, 0);
-    size.rheight() += unfolded ? kSectionHeight : -kSectionHeight;
-    setViewFrameSize(size);
+    return kSectionHeight;
 }

@@ -17,42 +17,42 @@ bool isSwitchedOff(const QWidget &control)
 
 } // namespace
 
-bool VKPrintQualityPDE::setAndMarkValue(const QString &setAndMarkValue, const QString &forKey)
+bool VKPrintQualityPDE::setAndMarkValue(const QString &value, const QString &keyword)
 {
-    if (forKey.isNull())
+    if (keyword.isNull())
         return false;
-    const QString pending = pendingValue(forKey);
-    if (!pending.isNull() && pending == setAndMarkValue)
+    const QString pending = pendingValue(keyword);
+    if (!pending.isNull() && pending == value)
         return false;
-    if (!pdePluginCallbackObject->willChangePPDOptionKeyValue(forKey, setAndMarkValue))
+    if (!pdePluginCallbackObject->willChangePPDOptionKeyValue(keyword, value))
         return false;
-    recordPendingValue(forKey, setAndMarkValue);
+    recordPendingValue(keyword, value);
     return true;
 }
 
-void VKPrintQualityPDE::requestNewOutputBin(QWidget *requestNewOutputBin)
+void VKPrintQualityPDE::requestNewOutputBin(QWidget *control)
 {
-    const QString keyword = determineKey(requestNewOutputBin);
-    const QString value = shownChoice(requestNewOutputBin, keyword);
+    const QString keyword = determineKey(control);
+    const QString value = shownChoice(control, keyword);
     if (!value.isNull()) {
         if (pdePluginCallbackObject->willChangePPDOptionKeyValue(keyword, value)) {
             recordPendingValue(keyword, value);
             updateUIforKey(keyword);
         } else {
-            revertUI(requestNewOutputBin, keyword);
+            revertUI(control, keyword);
         }
     }
     saveAllValues();
 }
 
-void VKPrintQualityPDE::revertUI(QWidget *revertUI, const QString &forKey)
+void VKPrintQualityPDE::revertUI(QWidget *control, const QString &keyword)
 {
-    QString value = pendingValue(forKey);
-    const bool hidden = value == "PlainDuplex"_L1 && forKey == "VKMediaType"_L1;
+    QString value = pendingValue(keyword);
+    const bool hidden = value == "PlainDuplex"_L1 && keyword == "VKMediaType"_L1;
     // The pop-up never lists plain paper's two-sided form.
-    if (hidden && qobject_cast<PopUpButton *>(revertUI))
+    if (hidden && qobject_cast<PopUpButton *>(control))
         value = u"Plain"_s;
-    showChoice(revertUI, value);
+    showChoice(control, value);
 }
 
 void VKPrintQualityPDE::saveAllValues()
@@ -88,17 +88,17 @@ void VKPrintQualityPDE::commitControl(QWidget &control, const QString &keyword)
         setAndMarkValue(checkBoxValue(keyword, false), keyword);
 }
 
-QString VKPrintQualityPDE::determineKey(QWidget *) const
+QString VKPrintQualityPDE::determineKey(QWidget *control) const
 {
-    return {};
+    return keywordControls_.keyword(control);
 }
 
-QWidget *VKPrintQualityPDE::determineUI(const QString &) const
+QWidget *VKPrintQualityPDE::determineUI(const QString &keyword) const
 {
-    return nullptr;
+    return keywordControls_.control(keyword);
 }
 
-QWidget *VKPrintQualityPDE::determineLabel(const QString &) const
+QWidget *VKPrintQualityPDE::determineLabel(const QString &keyword) const
 {
-    return nullptr;
+    return keywordControls_.label(keyword);
 }

@@ -10,13 +10,6 @@
 
 using namespace Qt::StringLiterals;
 
-namespace {
-
-// What a dialog's window needs around a panel's view, in points.
-constexpr double kWindowMargin = 96.0;
-
-} // namespace
-
 QWidget *VKPrintQualityPDE::panelView()
 {
     if (panelView_ || view_ || !pluginBundle)
@@ -36,6 +29,7 @@ void VKPrintQualityPDE::connectView(ViewConnections &connections)
     connections.widgetClass<ExtraAccessoryView>(u"ExtraAccessoryView"_s);
     connections.outlet(u"panelView"_s, panelView_);
     connections.outlet(u"optionButton"_s, optionButton);
+    keywordControls_.connect(connections);
     connections.action(u"requestNewOutputBin:"_s,
                        [this](QWidget *sender) { requestNewOutputBin(sender); });
     connections.action(u"toggleShowOption:"_s,
@@ -62,40 +56,51 @@ bool VKPrintQualityPDE::shouldHide()
     return true;
 }
 
-void VKPrintQualityPDE::changeImage(const QString &changeImage, ImageView *ofView)
+void VKPrintQualityPDE::changeImage(const QString &imageName, ImageView *view)
 {
-    if (!ofView || (!ofView->image().isNull() && ofView->imageName() == changeImage))
+    if (!view || (!view->image().isNull() && view->imageName() == imageName))
         return;
-    QString path = pluginBundle ? pluginBundle->pathForResource(changeImage, u"tiff"_s) : QString();
+    QString path = pluginBundle ? pluginBundle->pathForResource(imageName, u"tiff"_s) : QString();
     if (path.isNull() && pluginBundle)
-        path = pluginBundle->pathForResource(changeImage, u"pdf"_s);
+        path = pluginBundle->pathForResource(imageName, u"pdf"_s);
     if (path.isNull()) {
-        if (!ofView->image().isNull())
-            ofView->setImageName(u"None"_s);
-        ofView->setVisible(false);
+        if (!view->image().isNull())
+            view->setImageName(u"None"_s);
+        view->setVisible(false);
         return;
     }
-    ofView->setImage(QImage(path));
-    ofView->setImageName(changeImage);
-    ofView->setVisible(true);
+    view->setImage(QImage(path));
+    view->setImageName(imageName);
+    view->setVisible(true);
 }
 
-void VKPrintQualityPDE::setViewFrameSize(const QSizeF &setViewFrameSize)
+void VKPrintQualityPDE::setViewFrameSize(const QSizeF &size)
 {
     if (!pdePluginCallbackObject->respondsTo(HostOperation::PanelViewDidResize))
         return;
     if (panelView_)
-        panelView_->setFixedSize(setViewFrameSize.toSize());
+        panelView_->setFixedSize(size.toSize());
     const std::optional<double> windowHeight = keyWindowHeight();
     if (!hasFlag(PanelOnScreen) || !windowHeight)
         return;
-    if (*windowHeight > setViewFrameSize.height() + kWindowMargin) {
+    if (*windowHeight > size.height() + kWindowMargin) {
         pdePluginCallbackObject->panelViewDidResize();
         return;
     }
     NotificationCenter::defaultCenter().addObserver(
         this, [this](const Notification &notification) { dialogDidExpand(notification); },
         QLatin1String(kViewDidUpdateTrackingAreasNotification), panelView_);
+}
+
+void VKPrintQualityPDE::toggleShowOption(QWidget *sender)
+{
+    if (advancedHeight() == 0)
+        return;
+    const auto *button = qobject_cast<QAbstractButton *>(sender);
+    const bool unfolded = button && button->isChecked();
+    QSizeF size = panelView_ ? QSizeF(panelView_->size()) : QSizeF(0, 0);
+    size.rheight() += unfolded ? advancedHeight() : -advancedHeight();
+    setViewFrameSize(size);
 }
 
 void VKPrintQualityPDE::dialogDidExpand(const Notification &)
@@ -105,11 +110,11 @@ void VKPrintQualityPDE::dialogDidExpand(const Notification &)
     pdePluginCallbackObject->panelViewDidResize();
 }
 
-void VKPrintQualityPDE::adjustUIPosition(double adjustUIPosition, const QList<QWidget *> &forParts)
+void VKPrintQualityPDE::adjustUIPosition(double offset, const QList<QWidget *> &parts)
 {
-    for (QWidget *part : forParts) {
+    for (QWidget *part : parts) {
         // Up on the screen is a smaller vertical coordinate.
         if (part)
-            part->move(part->x(), part->y() - qRound(adjustUIPosition));
+            part->move(part->x(), part->y() - qRound(offset));
     }
 }

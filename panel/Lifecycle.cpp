@@ -10,7 +10,9 @@ namespace {
 const char kCodeOfThePanels = 0;
 } // namespace
 
-VKPrintQualityPDE::VKPrintQualityPDE() = default;
+VKPrintQualityPDE::VKPrintQualityPDE(std::span<const KeywordControl> controls)
+    : keywordControls_(controls)
+{}
 
 VKPrintQualityPDE::~VKPrintQualityPDE()
 {
@@ -18,9 +20,9 @@ VKPrintQualityPDE::~VKPrintQualityPDE()
     NotificationCenter::defaultCenter().removeObserver(this);
 }
 
-bool VKPrintQualityPDE::initWithCallback(const std::shared_ptr<PDEPluginCallback> &initWithCallback)
+bool VKPrintQualityPDE::initWithCallback(const std::shared_ptr<PDEPluginCallback> &callback)
 {
-    pdePluginCallbackObject = initWithCallback;
+    pdePluginCallbackObject = callback;
     pluginBundle = Bundle::bundleContaining(&kCodeOfThePanels);
     outputBin_.clear();
     if (pluginBundle && pluginBundle->infoDictionary())
@@ -41,16 +43,23 @@ bool VKPrintQualityPDE::initWithCallback(const std::shared_ptr<PDEPluginCallback
     return true;
 }
 
-void VKPrintQualityPDE::setPPDKeys(const std::optional<QStringList> &setPPDKeys)
+void VKPrintQualityPDE::setPPDKeys(const std::optional<QStringList> &keywords)
 {
-    if (!setPPDKeys)
+    if (!keywords)
         return;
     QStringList present;
-    for (const QString &keyword : *setPPDKeys) {
+    for (const QString &keyword : *keywords) {
         if (findOption(ppd, keyword))
             present << keyword;
     }
     PPDKeys = present;
+}
+
+void VKPrintQualityPDE::takeKeywordList(const QString &informationKey)
+{
+    const QVariant list = pluginBundle ? pluginBundle->infoValue(informationKey) : QVariant();
+    if (list.isValid() && !list.isNull())
+        setPPDKeys(list.toStringList());
 }
 
 bool VKPrintQualityPDE::saveValuesAndReturnError(QString *)
@@ -94,14 +103,13 @@ std::optional<QStringList> VKPrintQualityPDE::availablePPDOptionKeys() const
     return supportedPPDOptionKeys();
 }
 
-void VKPrintQualityPDE::PPDOptionKeyValueDidChange(const QString &PPDOptionKeyValueDidChange,
-                                                   const QString &ppdChoice)
+void VKPrintQualityPDE::PPDOptionKeyValueDidChange(const QString &keyword, const QString &choice)
 {
-    if (!managesKeyword(PPDOptionKeyValueDidChange))
+    if (!managesKeyword(keyword))
         return;
-    recordPendingValue(PPDOptionKeyValueDidChange, ppdChoice);
+    recordPendingValue(keyword, choice);
     if (panelView_)
-        updateUIforKey(PPDOptionKeyValueDidChange);
+        updateUIforKey(keyword);
 }
 
 void VKPrintQualityPDE::removeNotificationObserver(const Notification &)

@@ -130,15 +130,15 @@ void VKPrintQualityPDE::updateUI()
     checkUIConstraints();
 }
 
-void VKPrintQualityPDE::updateUIforKey(const QString &updateUIforKey)
+void VKPrintQualityPDE::updateUIforKey(const QString &keyword)
 {
-    QWidget *control = determineUI(updateUIforKey);
+    QWidget *control = determineUI(keyword);
     if (!control)
         return;
-    const QString value = pendingValue(updateUIforKey);
+    const QString value = pendingValue(keyword);
     const bool shown = showChoice(control, value);
     auto *popup = qobject_cast<PopUpButton *>(control);
-    if (!shown && popup && updateUIforKey == "VKMediaType"_L1)
+    if (!shown && popup && keyword == "VKMediaType"_L1)
         selectFallbackMedium(*popup, value);
 }
 

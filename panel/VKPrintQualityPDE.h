@@ -1,6 +1,7 @@
 #pragma once
 
 #include "panel/ImageModeFlag.h"
+#include "panel/KeywordControls.h"
 #include "platform/foundation/ObservableDictionary.h"
 #include "platform/pde/PDEPanel.h"
 #include "platform/pde/PDEPanelInspection.h"
@@ -14,6 +15,7 @@
 #include <cstdint>
 #include <memory>
 #include <optional>
+#include <span>
 
 class Bundle;
 class ImageView;
@@ -28,7 +30,7 @@ struct Notification;
 /// (`outputBin`), and the one road by which a choice gets there: it is offered to the dialog, which
 /// marks it in the PPD, and is recorded only when the dialog has accepted it.
 ///
-/// It is a template. A panel class says which control and which label belong to a keyword, and
+/// It is a template. A panel class gives it the table of its controls (KeywordControls.h) and
 /// supplies the rules; the base supplies the loops. A person picks a medium:
 ///   1. requestNewOutputBin() gets the control, finds its keyword, and offers the choice;
 ///   2. accepted, it is recorded and its control refreshed; refused, the control is put back;
@@ -41,7 +43,9 @@ struct Notification;
 class VKPrintQualityPDE : public PDEPanel, public PDEPanelInspection
 {
 public:
-    VKPrintQualityPDE();
+    /// Without a table the panel class answers determineKey(), determineUI() and determineLabel()
+    /// itself.
+    explicit VKPrintQualityPDE(std::span<const KeywordControl> controls = {});
     ~VKPrintQualityPDE() override;
     VKPrintQualityPDE(const VKPrintQualityPDE &) = delete;
     VKPrintQualityPDE &operator=(const VKPrintQualityPDE &) = delete;
@@ -51,10 +55,10 @@ public:
     /// Takes the dialog's callback object and its PPD, checks the model, reads the marked choices
     /// and applies the constraints. False when the dialog cannot mark choices: the panel then keeps
     /// nothing of the dialog's and must be dropped.
-    virtual bool initWithCallback(const std::shared_ptr<PDEPluginCallback> &initWithCallback);
+    virtual bool initWithCallback(const std::shared_ptr<PDEPluginCallback> &callback);
 
     /// Takes the keywords that the PPD has, in their order. No list: nothing changes.
-    void setPPDKeys(const std::optional<QStringList> &setPPDKeys);
+    void setPPDKeys(const std::optional<QStringList> &keywords);
 
     // --- The panel protocol --------------------------------------------------------------------
 
@@ -63,8 +67,7 @@ public:
     bool saveValuesAndReturnError(QString *error) override;
     bool restoreValuesAndReturnError(QString *error) override;
     std::optional<QStringList> supportedPPDOptionKeys() const override;
-    void PPDOptionKeyValueDidChange(const QString &PPDOptionKeyValueDidChange,
-                                    const QString &ppdChoice) override;
+    void PPDOptionKeyValueDidChange(const QString &keyword, const QString &choice) override;
     QWidget *panelView() override;
     QString panelKind() const override;
     QVariantMap summaryInfo() override;
@@ -87,14 +90,14 @@ public:
     /// Offers a choice of the program's own to the dialog. True when it was accepted and recorded;
     /// false when the keyword is null, the choice is pending already (the dialog is not asked), or
     /// the dialog refused. No control is refreshed.
-    bool setAndMarkValue(const QString &setAndMarkValue, const QString &forKey);
+    bool setAndMarkValue(const QString &value, const QString &keyword);
 
     /// The action of every PPD-driven control. A null sender has no keyword: then, as for a control
     /// that shows no choice, only saveAllValues() runs.
-    virtual void requestNewOutputBin(QWidget *requestNewOutputBin);
+    virtual void requestNewOutputBin(QWidget *control);
 
     /// Puts the control back to the pending value after the dialog has refused a pick.
-    virtual void revertUI(QWidget *revertUI, const QString &forKey);
+    virtual void revertUI(QWidget *control, const QString &keyword);
 
     /// Once the controls are built: reads them back and keeps the fold state in the ticket.
     virtual void saveAllValues();
@@ -111,24 +114,24 @@ public:
     virtual void updateUI();
 
     /// Makes the keyword's control show the pending value.
-    virtual void updateUIforKey(const QString &updateUIforKey);
+    virtual void updateUIforKey(const QString &keyword);
 
     /// Shows the picture resource of this name ("tiff", else "pdf") in the view; hides the view
     /// when there is none. Nothing is loaded when the view shows it already.
-    void changeImage(const QString &changeImage, ImageView *ofView);
+    void changeImage(const QString &imageName, ImageView *view);
 
     /// Gives the panel's view another size (points) and tells the dialog: at once when its window
     /// is tall enough, else when the window has grown. A dialog that cannot be told keeps its view
     /// as it is.
-    void setViewFrameSize(const QSizeF &setViewFrameSize);
+    void setViewFrameSize(const QSizeF &size);
 
-    void dialogDidExpand(const Notification &dialogDidExpand);
+    void dialogDidExpand(const Notification &notification);
 
-    /// Moves the views by `adjustUIPosition` points upwards. Null entries are passed over.
-    void adjustUIPosition(double adjustUIPosition, const QList<QWidget *> &forParts);
+    /// Moves the views by `offset` points upwards. Null entries are passed over.
+    void adjustUIPosition(double offset, const QList<QWidget *> &parts);
 
     /// Ends every registration of the panel on the notification centre.
-    void removeNotificationObserver(const Notification &removeNotificationObserver);
+    void removeNotificationObserver(const Notification &notification);
 
     // --- Help, alerts, saved state -------------------------------------------------------------
 
@@ -139,12 +142,12 @@ public:
     virtual QString helpBook() const;
     QString helpAnchor() const;
     /// The action of a help button.
-    void showHelpFile(QWidget *showHelpFile);
+    void showHelpFile(QWidget *sender);
 
     /// Whether the alert is to be shown: yes, unless the user has asked not to see it again.
-    bool shouldShowAlert(const QString &shouldShowAlert) const;
-    /// Remembers the answer of an alert with a suppression box, under the key `contextInfo`.
-    void alertDidEnd(const AlertResult &alertDidEnd, int returnCode, const QString &contextInfo);
+    bool shouldShowAlert(const QString &alertKey) const;
+    /// Remembers the answer of an alert with a suppression box, under its key.
+    void alertDidEnd(const AlertResult &result, int returnCode, const QString &alertKey);
 
     /// Brings the bit FaxOutput up to date.
     void checkFax();
@@ -158,12 +161,14 @@ public:
 
     // --- What a panel class supplies -----------------------------------------------------------
 
+    // The first three are answered from the panel class's table.
+
     /// The keyword of a control; null without one, and for a null control.
-    virtual QString determineKey(QWidget *determineKey) const;
+    virtual QString determineKey(QWidget *control) const;
     /// The control of a keyword (a matrix, a pop-up button or a check box); null without one.
-    virtual QWidget *determineUI(const QString &determineUI) const;
+    virtual QWidget *determineUI(const QString &keyword) const;
     /// The label of a keyword; null without one.
-    virtual QWidget *determineLabel(const QString &determineLabel) const;
+    virtual QWidget *determineLabel(const QString &keyword) const;
     /// The keywords to summarise, in order.
     virtual std::optional<QStringList> availablePPDOptionKeys() const;
     /// Reads the printer's model and sets the model's bits.
@@ -175,7 +180,10 @@ public:
     /// Applies the rules to the controls. The base enables everything, or disables it for fax.
     virtual void checkUIConstraints();
     /// Flips the advanced section; the sender is the disclosure button, which has flipped already.
-    virtual void toggleShowOption([[maybe_unused]] QWidget *toggleShowOption) {}
+    virtual void toggleShowOption(QWidget *sender);
+    /// What the advanced section adds to the view's height when it unfolds (points); the base has
+    /// no such section.
+    virtual double advancedHeight() const { return 0; }
     /// A rule of one model; the base has none.
     virtual void changeResolutionLetterB() {}
 
@@ -206,6 +214,9 @@ protected:
     /// `PPDKeys`; empty without a list.
     const QStringList &managedKeywords() const;
 
+    /// Takes the keyword list that stands in the bundle's information under the key.
+    void takeKeywordList(const QString &informationKey);
+
     /// Whether the panel manages the keyword.
     bool managesKeyword(const QString &keyword) const;
 
@@ -222,6 +233,9 @@ protected:
     AlertContent unsupportedPaperAlert() const;
 
     QObject *lifetime() { return &lifetime_; }
+
+    /// What a dialog's window needs around a panel's view, in points.
+    static constexpr double kWindowMargin = 96.0;
 
     std::shared_ptr<PDEPluginCallback> pdePluginCallbackObject;
     std::optional<QStringList> PPDKeys;
@@ -244,6 +258,7 @@ private:
     QString summaryText(const QString &keyword) const;
     QString optionStateKey() const;
 
+    KeywordControls keywordControls_;
     QString thePDEName_;
     QVariantMap outputBin_;
     std::int32_t imageModeFlag_ = 0;

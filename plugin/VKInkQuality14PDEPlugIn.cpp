@@ -22,13 +22,13 @@ bool VKInkQuality14PDEPlugIn::initWithBundle(Bundle *)
 }
 
 std::vector<std::unique_ptr<PDEPanel>>
-VKInkQuality14PDEPlugIn::PDEPanelsForType(const QString &PDEPanelsForType,
-                                          const std::shared_ptr<PDEPluginCallback> &withHostInfo)
+VKInkQuality14PDEPlugIn::PDEPanelsForType(const QString &type,
+                                          const std::shared_ptr<PDEPluginCallback> &callback)
 {
     std::vector<std::unique_ptr<PDEPanel>> panels;
-    if (PDEPanelsForType != QLatin1String(kPDEPrintDialogType))
+    if (type != QLatin1String(kPDEPrintDialogType))
         return panels;
-    appendPanel<VKInkPrintSetting14PDE>(panels, withHostInfo);
-    appendPanel<VKInkColorSettingPDE>(panels, withHostInfo);
+    appendPanel<VKInkPrintSetting14PDE>(panels, callback);
+    appendPanel<VKInkColorSettingPDE>(panels, callback);
     return panels;
 }

@@ -11,11 +11,11 @@ class VKInkQuality14PDEPlugIn : public QObject, public PDEPlugIn
     Q_INTERFACES(PDEPlugIn)
 
 public:
-    bool initWithBundle(Bundle *initWithBundle) override;
+    bool initWithBundle(Bundle *bundle) override;
 
     /// The Print Settings panel, then the Color Settings panel. A panel that cannot be created is
     /// missing, the other is still there.
     std::vector<std::unique_ptr<PDEPanel>>
-    PDEPanelsForType(const QString &PDEPanelsForType,
-                     const std::shared_ptr<PDEPluginCallback> &withHostInfo) override;
+    PDEPanelsForType(const QString &type,
+                     const std::shared_ptr<PDEPluginCallback> &callback) override;
 };

@@ -1,14 +1,10 @@
 #include "printsettings/VKInkPrintSetting14PDE.h"
 
 #include "platform/pde/PPDText.h"
-#include "platform/toolkit/PlainLabel.h"
 #include "platform/toolkit/SpokenName.h"
-#include "printsettings/AdvancedOptionList.h"
+#include "printsettings/rules/AdvancedGroups.h"
 
 #include <QtWidgets/QAbstractButton>
-#include <QtWidgets/QLabel>
-#include <QtWidgets/QListWidget>
-#include <QtWidgets/QStackedWidget>
 
 using namespace Qt::StringLiterals;
 
@@ -27,7 +23,7 @@ void VKInkPrintSetting14PDE::initializePopup()
     if (popupInited)
         return;
     VKPrintQualityPDE::initializePopup();
-    const QList<QWidget *> parts = {optionLabel, optionButton, advancedTabView, advancedTableView};
+    const QList<QWidget *> parts = advanced_.parts(optionButton);
     initializeAdvOption(parts);
     const bool feed = managesKeyword(u"VKInputSlot"_s);
     if (!feed)
@@ -37,75 +33,55 @@ void VKInkPrintSetting14PDE::initializePopup()
     restoreOptionState();
 }
 
-void VKInkPrintSetting14PDE::initializeAdvOption(const QList<QWidget *> &initializeAdvOption)
+void VKInkPrintSetting14PDE::initializeAdvOption(const QList<QWidget *> &parts)
 {
-    if (advancedTableView)
-        arrayController = std::make_unique<AdvancedOptionList>(*advancedTableView, advancedTabView);
-    if (managesKeyword(u"MirrorPrint"_s) || managesKeyword(u"VKMirror"_s) ||
-        managesKeyword(u"VKReverse"_s))
-        addLocalizedRow("Layout");
-    addGroupRow(u"VKJpeg"_s);
-    addGroupRow(u"VKDuplexMode"_s);
-    addLocalizedRow("OtherOption");
-    if (!arrayController) {
-        for (QWidget *part : initializeAdvOption) {
+    const bool hasList = advanced_.start();
+    for (const AdvancedGroup &group : advancedGroups(managedKeywords()))
+        addGroup(group);
+    if (!hasList) {
+        for (QWidget *part : parts) {
             if (part)
                 part->setVisible(false);
         }
         return;
     }
-    arrayController->selectRow(0);
-    titleSection(localized("advancedItem"));
-    if (initializeAdvOption.contains(advancedTableView))
-        arrayController->fitColumn();
-}
-
-void VKInkPrintSetting14PDE::titleSection(const QString &title)
-{
-    if (optionLabel)
-        setLabelText(optionLabel, title);
+    const QString title = localized("advancedItem");
+    advanced_.finish(title);
     if (optionButton)
         setSpokenName(optionButton, title);
-    if (advancedTableView)
-        setSpokenName(advancedTableView, title);
+    advanced_.fitColumn(parts);
 }
 
-void VKInkPrintSetting14PDE::addLocalizedRow(const char *key)
+void VKInkPrintSetting14PDE::addGroup(const AdvancedGroup &group)
 {
-    const QString label = localized(key);
-    if (!label.isEmpty())
-        addAdvOption(label, QString::fromLatin1(key));
+    const std::optional<QString> label = groupLabel(group);
+    if (group.offered && label)
+        addAdvOption(*label, group.id);
+    if (group.titledByPPD && effectContent)
+        effectContent->setValue(group.id, group.offered);
 }
 
-void VKInkPrintSetting14PDE::addGroupRow(const QString &keyword)
+std::optional<QString> VKInkPrintSetting14PDE::groupLabel(const AdvancedGroup &group) const
 {
-    const bool managed = managesKeyword(keyword);
-    const ppd_option_t *option = findOption(ppd, keyword);
-    if (managed && option)
-        addAdvOption(ppdText(option->text), keyword);
-    if (effectContent)
-        effectContent->setValue(keyword, managed);
+    if (group.titledByPPD) {
+        const ppd_option_t *option = findOption(ppd, group.id);
+        return option ? std::optional(ppdText(option->text)) : std::nullopt;
+    }
+    const QString text = localized(group.id.toLatin1().constData());
+    return text.isEmpty() ? std::nullopt : std::optional(text);
 }
 
-void VKInkPrintSetting14PDE::addAdvOption(const QString &addAdvOption, const QString &forKey)
+void VKInkPrintSetting14PDE::addAdvOption(const QString &label, const QString &id)
 {
-    if (arrayController)
-        arrayController->add({addAdvOption, forKey});
+    advanced_.add({label, id});
 }
 
-void VKInkPrintSetting14PDE::toggleShowOption(QWidget *toggleShowOption)
+double VKInkPrintSetting14PDE::advancedHeight() const
 {
-    const auto *button = qobject_cast<QAbstractButton *>(toggleShowOption);
-    const bool open = button && button->isChecked();
-    const QWidget *view = inspectedView();
-    const QSizeF size = view ? QSizeF(view->size()) : QSizeF(0, 0);
-    setViewFrameSize(
-        QSizeF(size.width(), size.height() + (open ? kAdvancedHeight : -kAdvancedHeight)));
+    return kAdvancedHeight;
 }
 
 std::optional<PDEPanelInspection::Rows> VKInkPrintSetting14PDE::inspectedRows() const
 {
-    if (!arrayController)
-        return Rows{};
-    return Rows{arrayController->rows(), arrayController->selectedRow()};
+    return advanced_.rows();
 }

@@ -1,14 +1,10 @@
-#include "printsettings/VKInkPrintSetting14PDE.h"
+#include "printsettings/AlertWindows.h"
 
-#include "platform/foundation/Bundle.h"
 #include "platform/imaging/PictureReader.h"
-#include "platform/pde/PPDText.h"
 #include "platform/toolkit/ImageView.h"
-#include "platform/toolkit/ModalSession.h"
 #include "platform/toolkit/PlainLabel.h"
 #include "platform/toolkit/PlainText.h"
-#include "platform/toolkit/ViewLoader.h"
-#include "printsettings/PaperNames.h"
+#include "printsettings/TextHeight.h"
 
 #include <QtGui/QFontDatabase>
 #include <QtGui/QImage>
@@ -39,10 +35,19 @@ void setInstruction(QLabel *label, const QString &text)
     setLabelText(label, text);
 }
 
+void setTitle(QAbstractButton *button, const QString &title)
+{
+    if (button)
+        setButtonTitle(button, title);
+}
+
 } // namespace
 
-void VKInkPrintSetting14PDE::connectAlertWindows(ViewConnections &connections)
+void AlertWindows::load(const QString &path, const Action &ok, const Action &cancel)
 {
+    if (view_)
+        return;
+    ViewConnections connections;
     connections.outlet(u"envAlertWindow"_s, envAlertWindow);
     connections.outlet(u"envAlertImageView"_s, envAlertImageView);
     connections.outlet(u"envInstructionLabel1"_s, envInstructionLabel1);
@@ -54,118 +59,64 @@ void VKInkPrintSetting14PDE::connectAlertWindows(ViewConnections &connections)
     connections.outlet(u"customPaperAlertOKButton"_s, customPaperAlertOKButton);
     connections.outlet(u"customPaperAlertCancelButton"_s, customPaperAlertCancelButton);
     connections.outlet(u"suppressionButton"_s, suppressionButton);
-    connections.action(u"dialogOkDidClick:"_s,
-                       [this](QWidget *sender) { dialogOkDidClick(sender); });
-    connections.action(u"dialogCancelDidClick:"_s,
-                       [this](QWidget *sender) { dialogCancelDidClick(sender); });
+    connections.action(u"dialogOkDidClick:"_s, ok);
+    connections.action(u"dialogCancelDidClick:"_s, cancel);
+    view_ = loadView(path, connections);
 }
 
-// Hardly any job needs them, and every dialog would wait for them.
-void VKInkPrintSetting14PDE::loadAlertWindows()
+QHash<QString, QWidget *> AlertWindows::outlets() const
 {
-    const bool viewIsLoaded = effectContent != nullptr;
-    if (!viewIsLoaded || alertWindows_)
-        return;
-    ViewConnections connections;
-    connectAlertWindows(connections);
-    alertWindows_ =
-        loadView(pluginBundle->pathForResource(thePDEName() + u"Alerts"_s, u"ui"_s), connections);
+    return view_ ? view_->outlets() : QHash<QString, QWidget *>();
 }
 
-QHash<QString, QWidget *> VKInkPrintSetting14PDE::inspectedOutlets() const
+void AlertWindows::fillEnvelope(const EnvelopeAlert &alert)
 {
-    auto outlets = VKPrintQualityPDE::inspectedOutlets();
-    if (alertWindows_)
-        outlets.insert(alertWindows_->outlets());
-    return outlets;
-}
-
-bool VKInkPrintSetting14PDE::confirmEnvelope()
-{
-    readyToShowEnvelopeAlert();
-    return showDialog(envAlertWindow, QString()) == kModalOK;
-}
-
-void VKInkPrintSetting14PDE::readyToShowEnvelopeAlert()
-{
-    loadAlertWindows();
-    const bool multiPurposeTray = managesKeyword(u"VKInputSlot"_s) &&
-                                  findChoice(findOption(ppd, u"VKInputSlot"_s), u"MPTray"_s);
-    putAlertImage(envAlertImageView, multiPurposeTray ? u"QTLark22_Tray_Env"_s : u"QTLark22_Env"_s);
-    const QString loading =
-        localized(multiPurposeTray ? "Envelope Alert2 Lark22 MP" : "Envelope Alert2 Lark22");
-    setInstruction(envInstructionLabel1, localized("Envelope Alert1") + u"\n\n"_s + loading);
-    setInstruction(envInstructionLabel2, localized("Envelope Caution"));
-    titleButton(envAlertOKButton, "OK");
-    titleButton(envAlertCancelButton, "Cancel");
+    showAlertPicture(envAlertImageView, alert.picture, alert.picturePath);
+    setInstruction(envInstructionLabel1, alert.instruction);
+    setInstruction(envInstructionLabel2, alert.caution);
+    setTitle(envAlertOKButton, alert.ok);
+    setTitle(envAlertCancelButton, alert.cancel);
     if (envAlertWindow)
-        envAlertWindow->setWindowTitle(localized("Envelope Alert Title"));
+        envAlertWindow->setWindowTitle(alert.title);
 }
 
-void VKInkPrintSetting14PDE::readyToShowPaperAlertWithKind(
-    const QString &kind, const QString &orientationMessage, QWidget *alertWindow,
-    ImageView *alertView, const QString &alertImage, QLabel *alertMessageLabel)
+void AlertWindows::titlePaperButtons(const QString &ok, const QString &cancel,
+                                     const QString &suppression)
 {
-    loadAlertWindows();
-    putAlertImage(alertView, alertImage);
-    if (kind == "Normal Paper"_L1) {
-        titleButton(normalPaperAlertOKButton, "OK");
-        titleButton(normalPaperAlertCancelButton, "Cancel");
-        titleButton(suppressionButton, "Suppression");
+    if (!suppression.isNull()) {
+        setTitle(normalPaperAlertOKButton, ok);
+        setTitle(normalPaperAlertCancelButton, cancel);
+        setTitle(suppressionButton, suppression);
     }
-    titleButton(customPaperAlertOKButton, "OK");
-    titleButton(customPaperAlertCancelButton, "Cancel");
-
-    const QString message =
-        pluginBundle ? pluginBundle->localizedString(orientationMessage) : orientationMessage;
-    const QSize labelSize = alertMessageLabel ? alertMessageLabel->size() : QSize(0, 0);
-    const double needed = heightForSpecifiedFont(message, systemFont(), labelSize.width());
-    const int height = qRound(needed + kMessageMargin);
-    if (alertMessageLabel) {
-        setLabelText(alertMessageLabel, message);
-        alertMessageLabel->resize(labelSize.width(), height);
-    }
-    if (!alertWindow)
-        return;
-    alertWindow->resize(alertWindow->width(), alertWindow->height() + height - labelSize.height());
-    alertWindow->setWindowTitle(localized("Paper Orientation Title"));
-    alertWindow->update();
+    setTitle(customPaperAlertOKButton, ok);
+    setTitle(customPaperAlertCancelButton, cancel);
 }
 
-void VKInkPrintSetting14PDE::putAlertImage(ImageView *view, const QString &name)
+bool AlertWindows::isSuppressed() const
 {
-    const QString path = pluginBundle ? pluginBundle->pathForResource(name, u"tiff"_s) : QString();
-    const QImage image = imaging::readPicture(path);
-    if (!view || image.isNull())
+    return suppressionButton && suppressionButton->isChecked();
+}
+
+void showAlertPicture(ImageView *view, const QString &name, const QString &path)
+{
+    const QImage image = view ? imaging::readPicture(path) : QImage();
+    if (image.isNull())
         return;
     view->setImage(image, kAlertImageSize);
     view->setImageName(name);
 }
 
-void VKInkPrintSetting14PDE::titleButton(QAbstractButton *button, const char *key)
+void fitMessage(QWidget *window, QLabel *label, const QString &message)
 {
-    if (button)
-        setButtonTitle(button, localized(key));
-}
-
-int VKInkPrintSetting14PDE::showDialog(QWidget *showDialog, const QString &withAlertInfo)
-{
-    const int result = runModalForWindow(showDialog);
-    if (result == kModalOK) {
-        const bool suppressed = suppressionButton && suppressionButton->isChecked();
-        alertDidEnd({0, suppressed}, result, withAlertInfo);
+    const QSize labelSize = label ? label->size() : QSize(0, 0);
+    const double needed = heightForSpecifiedFont(message, systemFont(), labelSize.width());
+    const int height = qRound(needed + kMessageMargin);
+    if (label) {
+        setLabelText(label, message);
+        label->resize(labelSize.width(), height);
     }
-    if (showDialog)
-        showDialog->hide();
-    return result;
-}
-
-void VKInkPrintSetting14PDE::dialogOkDidClick(QWidget *)
-{
-    stopModalWithCode(kModalOK);
-}
-
-void VKInkPrintSetting14PDE::dialogCancelDidClick(QWidget *)
-{
-    stopModalWithCode(kModalCancel);
+    if (!window)
+        return;
+    window->resize(window->width(), window->height() + height - labelSize.height());
+    window->update();
 }

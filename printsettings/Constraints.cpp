@@ -1,7 +1,8 @@
 #include "printsettings/VKInkPrintSetting14PDE.h"
 
-#include "printsettings/DiscMedia.h"
-#include "printsettings/PaperNames.h"
+#include "printsettings/rules/BorderlessMedia.h"
+#include "printsettings/rules/DiscMedia.h"
+#include "printsettings/rules/MediumEffects.h"
 
 using namespace Qt::StringLiterals;
 
@@ -11,10 +12,13 @@ void VKInkPrintSetting14PDE::checkConstraints()
     constrainQuality();
     if (hasFlag(BorderlessPaper))
         constrainBorderless();
-    constrainDiscMedia();
+    // Enabling with a default selects "Plain" (on a disc "PrintableDisc") in the pop-up on every
+    // run, whatever is selected. The pending medium stays, and the pop-up shows it again when the
+    // panel refreshes its controls, which follows wherever this runs on a panel that is built.
+    changeMedia(constrainedMedia(hasFlag(DiscPaper)));
     paperSizeIsCustomEnv();
     constrainBiDir();
-    setFlag(TransparenciesMedium, pendingValue(u"VKMediaType"_s) == "Transparencies"_L1);
+    setFlag(TransparenciesMedium, mediumEffects(pendingValue(u"VKMediaType"_s)).transparencies);
     // Whatever the medium is, glossy paper too: the printer turns over nothing but plain paper.
     if (hasFlag(DuplexOn))
         setAndMarkValue(u"PlainDuplex"_s, u"VKMediaType"_s);
@@ -34,32 +38,22 @@ void VKInkPrintSetting14PDE::constrainQuality()
 
 void VKInkPrintSetting14PDE::constrainBorderless()
 {
-    const QString plain = u"Plain"_s;
-    const QString mediaType = pendingValue(u"VKMediaType"_s);
-    if (mediaType == "Transparencies"_L1) {
-        setAndMarkValue(plain, u"VKMediaType"_s);
-        setDefaultQuality(plain);
+    const BorderlessCorrection correction = borderlessCorrection(
+        pendingValue(u"VKMediaType"_s), pendingValue(u"VKResolution"_s), paperName);
+    if (!correction.mediaType.isNull())
+        setAndMarkValue(correction.mediaType, u"VKMediaType"_s);
+    if (!correction.qualityOf.isNull())
+        setDefaultQuality(correction.qualityOf);
+    if (correction.slowDryingUnavailable)
         setFlag(SlowDryingUnavailable, true);
-        setAndMarkValue(u"ON"_s, u"VKBiDir"_s);
-    } else if (isKindOfPlainPaper(mediaType)) {
-        const bool fastest = pendingValue(u"VKResolution"_s) == "PlainFast"_L1;
-        if (fastest || isBorderelessForPaperSize(paperName, u"A3"_s))
-            setDefaultQuality(plain);
-    }
+    if (!correction.direction.isNull())
+        setAndMarkValue(correction.direction, u"VKBiDir"_s);
 }
 
-// Enabling with a default selects "Plain" (on a disc "PrintableDisc") in the pop-up on every run,
-// whatever is selected. The pending medium stays, and the pop-up shows it again when the panel
-// refreshes its controls, which follows wherever this runs on a panel that is built.
-void VKInkPrintSetting14PDE::constrainDiscMedia()
+void VKInkPrintSetting14PDE::changeMedia(const std::vector<MediaChange> &changes)
 {
-    if (hasFlag(DiscPaper)) {
-        changeState(mediaTypePopup, constrainedDiscMedia(), true, true);
-        changeState(mediaTypePopup, constrainedOtherMedia(), false, false);
-    } else {
-        changeState(mediaTypePopup, constrainedDiscMedia(), false, false);
-        changeState(mediaTypePopup, constrainedOtherMedia(), true, true);
-    }
+    for (const MediaChange &change : changes)
+        changeState(mediaTypePopup, change.media, change.enable, change.applyDefault);
 }
 
 void VKInkPrintSetting14PDE::constrainBiDir()

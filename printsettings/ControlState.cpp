@@ -1,6 +1,8 @@
 #include "printsettings/VKInkPrintSetting14PDE.h"
 
 #include "platform/toolkit/PopUpButton.h"
+#include "printsettings/rules/DefaultChoices.h"
+#include "printsettings/rules/MediaQuality.h"
 
 using namespace Qt::StringLiterals;
 
@@ -8,6 +10,25 @@ namespace {
 
 // The view gives it to the quality pop-up alone.
 constexpr int kTagRebuilt = 5;
+
+void setItemsEnabled(PopUpButton &popup, const QStringList &choices, bool enabled)
+{
+    for (const QString &choice : choices)
+        popup.setItemEnabled(popup.indexOfRepresentedObject(choice), enabled);
+}
+
+// The titles are kept in the view's dictionary, since the pop-up loses them with its items.
+void rebuildQualities(PopUpButton &popup, const QStringList &qualities,
+                      const ObservableDictionary *titles)
+{
+    std::vector<PopUpButton::Item> items;
+    for (const QString &quality : qualities) {
+        const QVariant title = titles ? titles->value(quality) : QVariant();
+        if (title.isValid())
+            items.push_back({title.toString(), quality});
+    }
+    popup.setItems(items);
+}
 
 bool isSelectedItemEnabled(const PopUpButton &popup)
 {
@@ -21,19 +42,22 @@ QString VKInkPrintSetting14PDE::selectedMediaType() const
     return mediaTypePopup ? mediaTypePopup->selectedObject() : QString();
 }
 
-void VKInkPrintSetting14PDE::changeState(PopUpButton *changeState, const QStringList &forArray,
-                                         bool toEnable, bool toDefault)
+QString VKInkPrintSetting14PDE::selectedQuality() const
 {
-    PopUpButton *popup = changeState;
+    return resolutionPopup ? resolutionPopup->selectedObject() : QString();
+}
+
+void VKInkPrintSetting14PDE::changeState(PopUpButton *popup, const QStringList &choices,
+                                         bool enable, bool applyDefault)
+{
     if (!popup)
         return;
-    if (toEnable && tagOf(popup) == kTagRebuilt)
-        rebuildQualities(*popup, forArray);
+    if (enable && tagOf(popup) == kTagRebuilt)
+        rebuildQualities(*popup, choices, effectContent);
     else
-        setItemsEnabled(*popup, forArray, toEnable);
-    if (!toDefault) {
-        if (!hasFlag(DiscPaper))
-            showQualitiesAfterDisc();
+        setItemsEnabled(*popup, choices, enable);
+    if (!applyDefault) {
+        showQualitiesAfterDisc();
         if (isSelectedItemEnabled(*popup))
             return;
     }
@@ -42,60 +66,42 @@ void VKInkPrintSetting14PDE::changeState(PopUpButton *changeState, const QString
     selectDefaultItem(*popup);
 }
 
-void VKInkPrintSetting14PDE::setItemsEnabled(PopUpButton &popup, const QStringList &choices,
-                                             bool enabled)
-{
-    for (const QString &choice : choices)
-        popup.setItemEnabled(popup.indexOfRepresentedObject(choice), enabled);
-}
-
-void VKInkPrintSetting14PDE::rebuildQualities(PopUpButton &popup, const QStringList &qualities)
-{
-    std::vector<PopUpButton::Item> items;
-    for (const QString &quality : qualities) {
-        const QVariant title = effectContent ? effectContent->value(quality) : QVariant();
-        if (title.isValid())
-            items.push_back({title.toString(), quality});
-    }
-    popup.setItems(items);
-}
-
 // Qualities of a disc that are still shown on another paper make room for the medium's own.
 void VKInkPrintSetting14PDE::showQualitiesAfterDisc()
 {
-    if (!resolutionPopup)
-        return;
     const QString mediaType = selectedMediaType();
-    const QString quality = resolutionPopup->selectedObject();
-    const bool discQuality = quality == "DiscNormal"_L1 || quality == "DiscSlow"_L1;
-    if (mediaType == "PrintableDisc"_L1 || !discQuality)
+    if (!isLeftFromDisc(selectedQuality(), mediaType, hasFlag(DiscPaper)))
         return;
     setFlag(SlowDryingUnavailable, false);
-    rebuildQualities(*resolutionPopup, allowedQuality(mediaType));
+    showQualities(mediaType);
+}
+
+void VKInkPrintSetting14PDE::showQualities(const QString &mediaType)
+{
+    const QStringList qualities = allowedQuality(mediaType);
+    if (!resolutionPopup)
+        return;
+    rebuildQualities(*resolutionPopup, qualities, effectContent);
     resolutionPopup->selectObject(defaultQualityForMediaType(mediaType));
 }
 
 void VKInkPrintSetting14PDE::selectDefaultItem(PopUpButton &popup)
 {
-    if (&popup == mediaTypePopup)
-        selectDefaultMedium();
-    else if (&popup == resolutionPopup)
-        popup.selectObject(defaultQualityForMediaType(selectedMediaType()));
-    else if (&popup == paperFeedPopup)
-        popup.selectObject(u"Tray1"_s);
+    const RuledPopUp ruled = ruledPopUp(popup);
+    const QString choice =
+        defaultChoice(ruled, {selectedMediaType(), paperName, hasFlag(DiscPaper)});
+    if (choice.isNull())
+        return;
+    if (ruled == RuledPopUp::Medium && hasFlag(DiscPaper))
+        showQualities(choice);
+    popup.selectObject(choice);
 }
 
-void VKInkPrintSetting14PDE::selectDefaultMedium()
+RuledPopUp VKInkPrintSetting14PDE::ruledPopUp(const PopUpButton &popup) const
 {
-    if (!hasFlag(DiscPaper)) {
-        mediaTypePopup->selectObject(u"Plain"_s);
-        return;
-    }
-    const QString disc = u"PrintableDisc"_s;
-    const QStringList qualities = allowedQuality(disc);
-    if (resolutionPopup) {
-        rebuildQualities(*resolutionPopup, qualities);
-        resolutionPopup->selectObject(defaultQualityForMediaType(disc));
-    }
-    mediaTypePopup->selectObject(disc);
+    if (&popup == mediaTypePopup)
+        return RuledPopUp::Medium;
+    if (&popup == resolutionPopup)
+        return RuledPopUp::Quality;
+    return &popup == paperFeedPopup ? RuledPopUp::PaperFeed : RuledPopUp::Other;
 }

@@ -1,17 +1,19 @@
 #include "printsettings/VKInkPrintSetting14PDE.h"
 
 #include "platform/pde/PPDText.h"
+#include "printsettings/rules/TwoSidedMedium.h"
 
 using namespace Qt::StringLiterals;
 
 void VKInkPrintSetting14PDE::checkDuplex()
 {
-    const QString keyword = u"Duplex"_s;
-    const ppd_option_t *option = findOption(ppd, keyword);
-    const bool offered = option && findChoice(findOption(ppd, u"VKMediaType"_s), u"PlainDuplex"_s);
-    // The default of `Duplex` is one-sided printing, whatever it is called.
-    const QString marked = markedChoice(ppd, keyword);
-    setFlag(DuplexOn, offered && (marked.isNull() || marked != ppdName(option->defchoice)));
+    const ppd_option_t *duplex = findOption(ppd, u"Duplex"_s);
+    DuplexFacts facts;
+    facts.plainDuplexOffered = findChoice(findOption(ppd, u"VKMediaType"_s), u"PlainDuplex"_s);
+    facts.duplexOffered = duplex != nullptr;
+    facts.defaultChoice = duplex ? ppdName(duplex->defchoice) : QString();
+    facts.marked = markedChoice(ppd, u"Duplex"_s);
+    setFlag(DuplexOn, isTwoSided(facts));
 }
 
 void VKInkPrintSetting14PDE::checkDuplexChange(const Notification &)
@@ -29,10 +31,9 @@ void VKInkPrintSetting14PDE::checkDuplexChange(const Notification &)
 
 void VKInkPrintSetting14PDE::setPlainDuplex()
 {
-    const QString duplex = u"PlainDuplex"_s;
-    const QString mediaType = pendingValue(u"VKMediaType"_s);
-    if (mediaType != duplex && mediaType != "Plain"_L1)
+    if (!followsTwoSided(pendingValue(u"VKMediaType"_s)))
         return;
+    const QString duplex = u"PlainDuplex"_s;
     setAndMarkValue(duplex, u"VKMediaType"_s);
     setDefaultQuality(duplex);
     if (popupInited)

@@ -3,9 +3,10 @@
 #include "platform/foundation/NotificationCenter.h"
 #include "platform/pde/PPDText.h"
 #include "platform/toolkit/PopUpButton.h"
-#include "printsettings/MediaQuality.h"
-#include "printsettings/PaperKind.h"
-#include "printsettings/PaperNames.h"
+#include "printsettings/rules/DefaultChoices.h"
+#include "printsettings/rules/MediaQuality.h"
+#include "printsettings/rules/MediumEffects.h"
+#include "printsettings/rules/PaperChange.h"
 
 #include <QtWidgets/QCheckBox>
 
@@ -14,7 +15,6 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr auto kPrintSettingNotification = "VKInkPrintSettingNotification"_L1;
-constexpr int kBorderlessLetterModelNumber = 12;
 
 void setTicked(QCheckBox *box, bool ticked)
 {
@@ -22,12 +22,21 @@ void setTicked(QCheckBox *box, bool ticked)
         box->setChecked(ticked);
 }
 
+// By its title, alone of all items: a printer may name the second tray's choice otherwise and give
+// it the same text.
+void enableTray2(PopUpButton *paperFeed, ppd_file_t *ppd, bool enabled)
+{
+    const ppd_choice_t *tray2 = findChoice(findOption(ppd, u"VKInputSlot"_s), u"Tray2"_s);
+    if (tray2 && paperFeed)
+        paperFeed->setItemEnabled(paperFeed->indexOfTitle(ppdText(tray2->text)), enabled);
+}
+
 } // namespace
 
-QStringList VKInkPrintSetting14PDE::allowedQuality(const QString &allowedQuality)
+QStringList VKInkPrintSetting14PDE::allowedQuality(const QString &mediaType)
 {
     const AllowedQualities allowed =
-        allowedQualities(allowedQuality, hasFlag(DiscPaper), hasFlag(DuplexOn));
+        allowedQualities(mediaType, hasFlag(DiscPaper), hasFlag(DuplexOn));
     if (!allowed.replacement.isNull()) {
         setAndMarkValue(allowed.replacement, u"VKMediaType"_s);
         setDefaultQuality(allowed.replacement);
@@ -35,15 +44,14 @@ QStringList VKInkPrintSetting14PDE::allowedQuality(const QString &allowedQuality
     return allowed.qualities;
 }
 
-QString
-VKInkPrintSetting14PDE::defaultQualityForMediaType(const QString &defaultQualityForMediaType) const
+QString VKInkPrintSetting14PDE::defaultQualityForMediaType(const QString &mediaType) const
 {
-    return defaultQuality(defaultQualityForMediaType, paperName);
+    return defaultQuality(mediaType, paperName);
 }
 
-void VKInkPrintSetting14PDE::setDefaultQuality(const QString &setDefaultQuality)
+void VKInkPrintSetting14PDE::setDefaultQuality(const QString &mediaType)
 {
-    setAndMarkValue(defaultQualityForMediaType(setDefaultQuality), u"VKResolution"_s);
+    setAndMarkValue(defaultQualityForMediaType(mediaType), u"VKResolution"_s);
 }
 
 void VKInkPrintSetting14PDE::setDefaults()
@@ -57,22 +65,27 @@ void VKInkPrintSetting14PDE::restoreDefault(const QString &keyword)
     const ppd_option_t *option = findOption(ppd, keyword);
     if (!option)
         return;
-    const QString defaultChoice = ppdName(option->defchoice);
-    const QString pending = pendingValue(keyword);
-    // A missing value is not the empty name of a default that the PPD does not give.
-    if (!pending.isNull() && pending == defaultChoice)
+    KeywordFacts facts;
+    facts.keyword = keyword;
+    facts.pending = pendingValue(keyword);
+    facts.defaultChoice = ppdName(option->defchoice);
+    // Most are, and looking for the mark costs more than all the rest.
+    if (isDefaultPending(facts.pending, facts.defaultChoice))
         return;
-    const QString marked = markedChoice(ppd, keyword);
-    if (marked.isNull()) {
-        if (pdePluginCallbackObject->willChangePPDOptionKeyValue(keyword, defaultChoice))
-            recordPendingValue(keyword, defaultChoice);
-    } else if (marked == defaultChoice) {
-        // The mark was put back to the default behind the panel: an envelope keeps its values.
-        if (keyword == "VKColorPaperThick"_L1 && hasFlag(EnvelopePaper))
-            setAndMarkValue(u"Env"_s, keyword);
-        else if (keyword == "VKBiDir"_L1 && hasFlag(BiDirLeftAlone))
-            setAndMarkValue(u"OFF"_s, keyword);
-    }
+    facts.marked = markedChoice(ppd, keyword);
+    facts.envelopePaper = hasFlag(EnvelopePaper);
+    facts.directionLeftAlone = hasFlag(BiDirLeftAlone);
+    applyDefault(keyword, keywordDefault(facts));
+}
+
+void VKInkPrintSetting14PDE::applyDefault(const QString &keyword, const KeywordDefault &decided)
+{
+    using Step = KeywordDefault::Step;
+    if (decided.step == Step::SetAndMark)
+        setAndMarkValue(decided.value, keyword);
+    else if (decided.step == Step::OfferDefault &&
+             pdePluginCallbackObject->willChangePPDOptionKeyValue(keyword, decided.value))
+        recordPendingValue(keyword, decided.value);
 }
 
 void VKInkPrintSetting14PDE::canSelectColorMode()
@@ -91,44 +104,35 @@ void VKInkPrintSetting14PDE::canSelectJpegPrint()
     setFlag(JpegUnavailable, false);
 }
 
-void VKInkPrintSetting14PDE::checkUIStateWithMediaType(bool checkUIStateWithMediaType)
+void VKInkPrintSetting14PDE::checkUIStateWithMediaType(bool applyDefaults)
 {
-    const bool applyDefaults = checkUIStateWithMediaType;
     // Held for all the steps: the qualities may replace the pending medium meanwhile.
     const QString mediaType = selectedMediaType();
-    applySlowDrying(mediaType, applyDefaults);
+    const MediumEffects effects = mediumEffects(mediaType);
+    applySlowDrying(effects, applyDefaults);
     applyQualities(mediaType, applyDefaults);
     if (applyDefaults)
-        setTicked(biDirButton, isKindOfPlainPaper(mediaType));
-    // Both are told, in this order: for "HagakiAtena" they differ, and the second one holds. The
-    // other panel's choices offered to the dialog depend on both.
-    postNaturalColorMatching(mediaType != "Plain"_L1, applyDefaults);
-    postNaturalColorMatching(!isDefaultMediaTypeForVividColorMode(mediaType), applyDefaults);
-    setFlag(TransparenciesMedium, mediaType == "Transparencies"_L1);
-    applyTray2(mediaType);
+        setTicked(biDirButton, effects.bothDirections);
+    // Both are told, in this order: the other panel's choices offered to the dialog depend on both.
+    postNaturalColorMatching(effects.naturalAtFirst, applyDefaults);
+    postNaturalColorMatching(effects.natural, applyDefaults);
+    setFlag(TransparenciesMedium, effects.transparencies);
+    enableTray2(paperFeedPopup, ppd, effects.tray2);
 }
 
-void VKInkPrintSetting14PDE::applySlowDrying(const QString &mediaType, bool applyDefaults)
+void VKInkPrintSetting14PDE::applySlowDrying(const MediumEffects &effects, bool applyDefaults)
 {
-    if (!hasFlag(VendorColorMatching)) {
-        setFlag(SlowDryingUnavailable, true);
-        return;
-    }
-    const bool addressSide = mediaType == "HagakiAtena"_L1;
-    setFlag(SlowDryingUnavailable, mediaType != "Plain"_L1 && !addressSide);
-    if (applyDefaults)
-        setTicked(slowDryButton, addressSide);
+    const SlowDrying drying = slowDrying(effects, hasFlag(VendorColorMatching));
+    setFlag(SlowDryingUnavailable, !drying.available);
+    if (applyDefaults && drying.defaultTick)
+        setTicked(slowDryButton, *drying.defaultTick);
 }
 
 void VKInkPrintSetting14PDE::applyQualities(const QString &mediaType, bool applyDefaults)
 {
     changeState(resolutionPopup, allowedQuality(mediaType), true, applyDefaults);
-    if (!hasFlag(BorderlessPaper))
-        return;
-    if (isBorderelessForPaperSize(paperName, u"A3"_s))
-        changeState(resolutionPopup, {u"PlainFast"_s, u"PlainNormal"_s, u"High"_s}, false, false);
-    else
-        changeState(resolutionPopup, {u"PlainFast"_s}, false, false);
+    if (hasFlag(BorderlessPaper))
+        changeState(resolutionPopup, unavailableWithoutBorders(paperName), false, false);
 }
 
 void VKInkPrintSetting14PDE::postNaturalColorMatching(bool natural, bool applyDefaults)
@@ -144,17 +148,6 @@ void VKInkPrintSetting14PDE::postNaturalColorMatching(bool natural, bool applyDe
                                              });
 }
 
-void VKInkPrintSetting14PDE::applyTray2(const QString &mediaType)
-{
-    const ppd_choice_t *tray2 = findChoice(findOption(ppd, u"VKInputSlot"_s), u"Tray2"_s);
-    if (!tray2 || !paperFeedPopup)
-        return;
-    // By its title, alone of all items: a printer may name the second tray's choice otherwise and
-    // give it the same text.
-    const int index = paperFeedPopup->indexOfTitle(ppdText(tray2->text));
-    paperFeedPopup->setItemEnabled(index, mediaType == "Plain"_L1);
-}
-
 void VKInkPrintSetting14PDE::checkStateWithPaperFeed()
 {
     if (!hasFlag(BorderlessPaper))
@@ -165,18 +158,18 @@ void VKInkPrintSetting14PDE::checkStateWithPaperFeed()
 
 bool VKInkPrintSetting14PDE::paperSizeIsCustomEnv()
 {
-    if (!isCustomPaper(paperName))
+    const std::optional<bool> envelope =
+        customEnvelope(paperName, pendingValue(u"VKColorPaperThick"_s));
+    if (!envelope)
         return false;
-    const bool envelope = pendingValue(u"VKColorPaperThick"_s) == "Env"_L1;
-    setFlag(EnvelopePaper, envelope);
-    setFlag(BiDirLeftAlone, envelope);
-    return envelope;
+    setFlag(EnvelopePaper, *envelope);
+    setFlag(BiDirLeftAlone, *envelope);
+    return *envelope;
 }
 
 void VKInkPrintSetting14PDE::changeResolutionLetterB()
 {
     VKPrintQualityPDE::changeResolutionLetterB();
-    const bool ruledModel = ppd && ppd->model_number == kBorderlessLetterModelNumber;
-    if (ruledModel && isBorderelessForPaperSize(paperName, u"Letter"_s))
+    if (ppd && resetsQuality(paperName, ppd->model_number))
         setDefaultQuality(u"Plain"_s);
 }

@@ -2,6 +2,8 @@
 
 #include "platform/foundation/NotificationCenter.h"
 #include "platform/toolkit/KeyWindow.h"
+#include "printsettings/rules/PaperChange.h"
+#include "printsettings/rules/PrintWarnings.h"
 
 #include <QtWidgets/QApplication>
 #include <QtWidgets/QComboBox>
@@ -22,12 +24,23 @@ const QComboBox *menuAt(const void *object)
     return nullptr;
 }
 
+// Of the menu notifications only those count that come from a menu with paper sizes.
+bool comesFromPaperMenu(const Notification &notification, const QString &paperTitle)
+{
+    const QComboBox *menu = menuAt(notification.object);
+    return menu && notification.userInfo &&
+           menu->findText(paperTitle, Qt::MatchFixedString | Qt::MatchCaseSensitive) >= 0;
+}
+
 } // namespace
 
-void VKInkPrintSetting14PDE::checkPageSizeChange(const Notification &checkPageSizeChange)
+void VKInkPrintSetting14PDE::checkPageSizeChange(const Notification &notification)
 {
     try {
-        if (isPaperMenuAction(checkPageSizeChange) && readPageSetup())
+        const bool fromMenu = notification.name == QLatin1String(kMenuDidSendActionNotification);
+        if (fromMenu && (!pluginBundle || !comesFromPaperMenu(notification, localized("A4"))))
+            return;
+        if (readPageSetup())
             followPageSize();
     } catch (...) {
         // The dialog posts this in the middle of its own work and must not be stopped by it. A
@@ -36,23 +49,11 @@ void VKInkPrintSetting14PDE::checkPageSizeChange(const Notification &checkPageSi
     }
 }
 
-// Of the menu notifications only those count that come from a menu with paper sizes.
-bool VKInkPrintSetting14PDE::isPaperMenuAction(const Notification &notification) const
-{
-    if (notification.name != QLatin1String(kMenuDidSendActionNotification))
-        return true;
-    const QComboBox *menu = menuAt(notification.object);
-    return menu &&
-           menu->findText(localized("A4"), Qt::MatchFixedString | Qt::MatchCaseSensitive) >= 0 &&
-           notification.userInfo && pluginBundle;
-}
-
 void VKInkPrintSetting14PDE::followPageSize()
 {
     const QString mediaType = u"VKMediaType"_s;
-    const bool unusable = pendingValue(mediaType) == "Transparencies"_L1 ||
-                          pendingValue(u"VKResolution"_s) == "PlainFast"_L1;
-    const bool warned = hasFlag(BorderlessPaper) && unusable;
+    const bool warned = warnsOfBorderless(hasFlag(BorderlessPaper), pendingValue(u"VKResolution"_s),
+                                          pendingValue(mediaType));
     if (warned && popupInited)
         runAlert(noticeAlert(AlertStyle::Critical, localized("Borderless Alert"),
                              localized("Borderless Alert2")));
@@ -60,6 +61,6 @@ void VKInkPrintSetting14PDE::followPageSize()
     if (!popupInited)
         return;
     checkUIConstraints();
-    checkUIStateWithMediaType(warned || pendingValue(mediaType) == "PrintableDisc"_L1);
+    checkUIStateWithMediaType(appliesDefaultsAfterPaper(pendingValue(mediaType), warned));
     updateUI();
 }

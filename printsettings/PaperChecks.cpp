@@ -1,35 +1,40 @@
 #include "printsettings/VKInkPrintSetting14PDE.h"
 
 #include "platform/pde/PPDText.h"
-#include "platform/printmanager/PMPageFormat.h"
 #include "platform/printmanager/PMPrintSettings.h"
-#include "printsettings/CustomSizes.h"
-#include "printsettings/DuplexPapers.h"
-#include "printsettings/PaperKind.h"
-#include "printsettings/PaperNames.h"
-
-#include <cmath>
+#include "printsettings/JobPaper.h"
+#include "printsettings/rules/CustomSizes.h"
+#include "printsettings/rules/DuplexPapers.h"
+#include "printsettings/rules/PaperKind.h"
+#include "printsettings/rules/PaperNames.h"
+#include "printsettings/rules/PaperOrientation.h"
+#include "printsettings/rules/PrintWarnings.h"
 
 using namespace Qt::StringLiterals;
 
 namespace {
-constexpr auto kOrientation = "com.velkaro.print.PrintSettings.Orientation";
+
+constexpr auto kOrientation = "com.velkaro.print.PrintSettings.Orientation"_L1;
+
+bool writeOrientation(PMPrintSettings *ticket, const QString &orientation)
+{
+    return PMPrintSettingsSetValue(ticket, kOrientation, orientation, false) == noErr;
 }
+
+} // namespace
 
 bool VKInkPrintSetting14PDE::checkCustomPaperSizeAlert()
 {
     if (!isCustomPaper(paperName))
         return true;
-    const std::optional<QSizeF> size = paperSizeInPoints();
-    return size && (isPaperWithinCustomSizes(*size) || refuseUnsupportedPaper());
+    const JobPaper paper = jobPaper();
+    const std::optional<QSizeF> size = paper.size();
+    return size && (paper.isWithinLimits(*size) || refuseUnsupportedPaper());
 }
 
 bool VKInkPrintSetting14PDE::checkShouldShowDiscAlert()
 {
-    if (!hasFlag(DiscPaper))
-        return true;
-    const QString medium = markedChoice(ppd, u"VKMediaType"_s);
-    if (medium != "PrintableDisc"_L1 && medium != "GlossyPrintableDisc"_L1)
+    if (!asksForDisc(hasFlag(DiscPaper), markedChoice(ppd, u"VKMediaType"_s)))
         return true;
     panelView();
     AlertContent content = noticeAlert(AlertStyle::Informational, localized("DiscPrint Alert"),
@@ -54,22 +59,32 @@ bool VKInkPrintSetting14PDE::checkShouldShowDuplexAlert()
 
 bool VKInkPrintSetting14PDE::checkPaperAndShowOrientationAlert()
 {
-    writeOrientation(u"Portrait"_s);
-    if (isKindOfJPEnvelope(paperName))
+    writeOrientation(ticket(), u"Portrait"_s);
+    switch (orientationCheck(paperName)) {
+    case OrientationCheck::ConfirmEnvelope:
         return confirmEnvelope();
-    if (isKindOfLandscapePaper(paperName))
-        return writeOrientation(u"Landscape"_s);
-    if (isKindOfPortraitPaper(paperName) || isKindOfManualFeedPaper(paperName))
+    case OrientationCheck::Landscape:
+        return writeOrientation(ticket(), u"Landscape"_s);
+    case OrientationCheck::Portrait:
         return true;
-    if (paperName == "UnsupportedPaper"_L1)
+    case OrientationCheck::Refuse:
         return refuseUnsupportedPaper();
-    const std::optional<QSizeF> size = paperSizeInPoints();
+    case OrientationCheck::BySize:
+        break;
+    }
+    return checkOrientationBySize();
+}
+
+bool VKInkPrintSetting14PDE::checkOrientationBySize()
+{
+    const JobPaper paper = jobPaper();
+    const std::optional<QSizeF> size = paper.size();
     if (!size)
         return false;
-    if (!isPaperWithinCustomSizes(*size))
+    if (!paper.isWithinLimits(*size))
         return refuseUnsupportedPaper();
     if (isLandscapeSize(*size))
-        writeOrientation(u"Landscape"_s);
+        writeOrientation(ticket(), u"Landscape"_s);
     return true;
 }
 
@@ -77,30 +92,4 @@ bool VKInkPrintSetting14PDE::refuseUnsupportedPaper()
 {
     runAlert(unsupportedPaperAlert());
     return false;
-}
-
-// In whole points; none when the page setup cannot be read. A dialog without a ticket has no page
-// either: its size is 0, which no printer takes.
-std::optional<QSizeF> VKInkPrintSetting14PDE::paperSizeInPoints() const
-{
-    if (!pdePluginCallbackObject ||
-        !pdePluginCallbackObject->respondsTo(HostOperation::PrintSettings))
-        return QSizeF(0, 0);
-    double width = 0;
-    double height = 0;
-    const PMPaper *paper = pageFormatPaper();
-    if (PMPaperGetWidth(paper, &width) != noErr || PMPaperGetHeight(paper, &height) != noErr)
-        return std::nullopt;
-    return QSizeF(std::round(width), std::round(height));
-}
-
-bool VKInkPrintSetting14PDE::isPaperWithinCustomSizes(const QSizeF &size) const
-{
-    return ppd && isWithinCustomSizes(*ppd, size);
-}
-
-bool VKInkPrintSetting14PDE::writeOrientation(const QString &orientation)
-{
-    return PMPrintSettingsSetValue(ticket(), QString::fromLatin1(kOrientation), orientation,
-                                   false) == noErr;
 }

@@ -1,6 +1,7 @@
 #include "printsettings/VKInkPrintSetting14PDE.h"
 
-#include "printsettings/PaperNames.h"
+#include "printsettings/rules/PrintDirection.h"
+#include "printsettings/rules/PrintWarnings.h"
 
 #include <QtWidgets/QWidget>
 
@@ -10,14 +11,10 @@ namespace {
 constexpr auto kBestAlert = "Best Alert"; // its text and its key in the alert memory
 }
 
-void VKInkPrintSetting14PDE::requestNewOutputBin(QWidget *requestNewOutputBin)
+void VKInkPrintSetting14PDE::requestNewOutputBin(QWidget *control)
 {
-    VKPrintQualityPDE::requestNewOutputBin(requestNewOutputBin);
-    applyRulesAfterPick(determineKey(requestNewOutputBin));
-}
-
-void VKInkPrintSetting14PDE::applyRulesAfterPick(const QString &keyword)
-{
+    VKPrintQualityPDE::requestNewOutputBin(control);
+    const QString keyword = determineKey(control);
     if (keyword == "VKMediaType"_L1) {
         checkUIStateWithMediaType(true);
         getUIValues();
@@ -34,8 +31,7 @@ void VKInkPrintSetting14PDE::applyRulesAfterPick(const QString &keyword)
 
 void VKInkPrintSetting14PDE::applyQualityPick()
 {
-    const bool best = pendingValue(u"VKResolution"_s) == "Best"_L1;
-    if (best && !isKindOfPlainPaper(pendingValue(u"VKMediaType"_s)) &&
+    if (warnsOfBestQuality(pendingValue(u"VKResolution"_s), pendingValue(u"VKMediaType"_s)) &&
         shouldShowAlert(QString::fromLatin1(kBestAlert)))
         beginBestAlert();
     canSelectJpegPrint();
@@ -54,35 +50,35 @@ void VKInkPrintSetting14PDE::beginBestAlert()
 
 void VKInkPrintSetting14PDE::applyThicknessPick()
 {
-    if (paperSizeIsCustomEnv())
-        setAndMarkValue(u"OFF"_s, u"VKBiDir"_s);
-    else if (isKindOfPlainPaper(pendingValue(u"VKMediaType"_s)))
-        setAndMarkValue(u"ON"_s, u"VKBiDir"_s);
+    const QString direction =
+        directionAfterThickness(paperSizeIsCustomEnv(), pendingValue(u"VKMediaType"_s));
+    if (!direction.isNull())
+        setAndMarkValue(direction, u"VKBiDir"_s);
     if (!popupInited)
         return;
     checkUIConstraints();
     updateUIforKey(u"VKBiDir"_s);
 }
 
-void VKInkPrintSetting14PDE::updateUIforKey(const QString &updateUIforKey)
+void VKInkPrintSetting14PDE::updateUIforKey(const QString &keyword)
 {
-    VKPrintQualityPDE::updateUIforKey(updateUIforKey);
-    if (updateUIforKey == "VKMediaType"_L1)
+    VKPrintQualityPDE::updateUIforKey(keyword);
+    if (keyword == "VKMediaType"_L1)
         checkUIStateWithMediaType(false);
-    else if (updateUIforKey == "VKResolution"_L1)
+    else if (keyword == "VKResolution"_L1)
         canSelectJpegPrint();
-    else if (updateUIforKey == "VKInputSlot"_L1)
+    else if (keyword == "VKInputSlot"_L1)
         checkStateWithPaperFeed();
-    else if (updateUIforKey == "VKMonoColor"_L1)
+    else if (keyword == "VKMonoColor"_L1)
         canSelectColorMode();
 }
 
-void VKInkPrintSetting14PDE::revertUI(QWidget *revertUI, const QString &forKey)
+void VKInkPrintSetting14PDE::revertUI(QWidget *control, const QString &keyword)
 {
-    VKPrintQualityPDE::revertUI(revertUI, forKey);
-    if (forKey == "VKMonoColor"_L1) {
+    VKPrintQualityPDE::revertUI(control, keyword);
+    if (keyword == "VKMonoColor"_L1) {
         canSelectColorMode();
-    } else if (forKey == "VKMediaType"_L1) {
+    } else if (keyword == "VKMediaType"_L1) {
         checkUIStateWithMediaType(true);
         setDefaultQuality(pendingValue(u"VKMediaType"_s));
     }

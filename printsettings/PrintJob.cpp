@@ -1,27 +1,22 @@
 #include "printsettings/VKInkPrintSetting14PDE.h"
 
 #include "platform/pde/PPDText.h"
+#include "printsettings/rules/TwoSidedMedium.h"
 
 using namespace Qt::StringLiterals;
 
-// The two halves differ on purpose. A panel that was shown has its medium in the pop-up and swaps
-// plain paper alone; one that was never shown cannot know what its rules would have made of the
-// medium, and takes two-sided plain paper at normal quality.
 bool VKInkPrintSetting14PDE::saveValuesAndReturnError(QString *error)
 {
-    const QString mediaType = u"VKMediaType"_s;
     VKPrintQualityPDE::saveValuesAndReturnError(error);
     checkDuplex();
     const bool duplex = hasFlag(DuplexOn);
-    if (popupInited) {
-        if (selectedMediaType() == "Plain"_L1)
-            setAndMarkValue(duplex ? u"PlainDuplex"_s : u"Plain"_s, mediaType);
-    } else if (duplex) {
-        setAndMarkValue(u"PlainDuplex"_s, mediaType);
-        setAndMarkValue(u"PlainNormal"_s, u"VKResolution"_s);
-    } else if (pendingValue(mediaType) == "PlainDuplex"_L1) {
-        setAndMarkValue(u"Plain"_s, mediaType);
-    }
+    const SavedValues saved = popupInited
+                                  ? savedByShownPanel(selectedMediaType(), duplex)
+                                  : savedByUnshownPanel(pendingValue(u"VKMediaType"_s), duplex);
+    if (!saved.mediaType.isNull())
+        setAndMarkValue(saved.mediaType, u"VKMediaType"_s);
+    if (!saved.quality.isNull())
+        setAndMarkValue(saved.quality, u"VKResolution"_s);
     return true;
 }
 

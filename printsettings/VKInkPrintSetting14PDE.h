@@ -1,20 +1,22 @@
 #pragma once
 
 #include "panel/VKPrintQualityPDE.h"
-
-#include <QtCore/QSizeF>
+#include "printsettings/AdvancedSection.h"
+#include "printsettings/AlertWindows.h"
 
 #include <memory>
 #include <optional>
 #include <vector>
 
-class AdvancedOptionList;
-struct PMPaper;
+class JobPaper;
 class QCheckBox;
 class QLabel;
-class QListWidget;
-class QPushButton;
-class QStackedWidget;
+enum class RuledPopUp;
+struct AdvancedGroup;
+struct ControlFacts;
+struct KeywordDefault;
+struct MediaChange;
+struct MediumEffects;
 
 /// The Print Settings panel: medium, quality, paper feed, colour or mono, thickness, two-sided
 /// printing and the advanced options, and the rules that tie them together.
@@ -26,9 +28,9 @@ class QStackedWidget;
 ///      boxes that depend on the medium, and tells the Color Settings panel about colour matching;
 ///   3. getUIValues() commits whatever that has changed.
 ///
-/// The decisions themselves are tables and pure functions beside this class (MediaQuality.h,
-/// PaperNames.h, PaperKind.h, DiscMedia.h, ModelClass.h, DuplexPapers.h, CustomSizes.h); this class
-/// applies them to the pending values and the controls. Every operation works without a view: then
+/// The decisions themselves are tables and pure functions in a room of their own (rules/), on plain
+/// values; this class gathers the facts and applies what was decided to the pending values and the
+/// controls. Every operation works without a view: then
 /// the pending values and the PPD change, and no control does.
 ///
 /// The order of the steps within each operation is what the dialog and the other panel see (choices
@@ -42,11 +44,10 @@ public:
     // --- Lifecycle and the panel protocol ------------------------------------------------------
 
     /// False when the base cannot be created; nothing else has happened then.
-    bool initWithCallback(const std::shared_ptr<PDEPluginCallback> &initWithCallback) override;
+    bool initWithCallback(const std::shared_ptr<PDEPluginCallback> &callback) override;
     QString panelName() const override;
     void willShow() override;
-    void PPDOptionKeyValueDidChange(const QString &PPDOptionKeyValueDidChange,
-                                    const QString &ppdChoice) override;
+    void PPDOptionKeyValueDidChange(const QString &keyword, const QString &choice) override;
     /// Swaps plain paper and its two-sided form, which the pop-up does not list. A panel that was
     /// never shown sets it whatever the medium is, and with it the quality "PlainNormal".
     bool saveValuesAndReturnError(QString *error) override;
@@ -55,9 +56,9 @@ public:
     /// The base's summary with the printer's model as its first line.
     QVariantMap summaryInfo() override;
 
-    void requestNewOutputBin(QWidget *requestNewOutputBin) override;
-    void updateUIforKey(const QString &updateUIforKey) override;
-    void revertUI(QWidget *revertUI, const QString &forKey) override;
+    void requestNewOutputBin(QWidget *control) override;
+    void updateUIforKey(const QString &keyword) override;
+    void revertUI(QWidget *control, const QString &keyword) override;
 
     /// Whether the choice "FAX" of `VKOutput` is marked.
     bool checkIfOutputToFax() const;
@@ -66,29 +67,28 @@ public:
 
     // --- Keywords, controls, labels ------------------------------------------------------------
 
-    QString determineKey(QWidget *determineKey) const override;
-    QWidget *determineUI(const QString &determineUI) const override;
-    QWidget *determineLabel(const QString &determineLabel) const override;
+    QString determineKey(QWidget *control) const override;
+    QWidget *determineUI(const QString &keyword) const override;
     std::optional<QStringList> availablePPDOptionKeys() const override;
     /// Brings the bit NewerModelClass up to date.
     void checkModelName() override;
     /// The string with "_on" behind it when the control is enabled and ticked, else with "_off".
-    QString addOnOffSuffix(QWidget *addOnOffSuffix, const QString &ToString) const;
+    QString addOnOffSuffix(QWidget *control, const QString &text) const;
 
     // --- Rules of the media --------------------------------------------------------------------
 
     /// The qualities for the medium, in order. A medium that the paper does not take is replaced,
     /// with its default quality; the answer is for the medium asked about all the same.
-    QStringList allowedQuality(const QString &allowedQuality);
-    QString defaultQualityForMediaType(const QString &defaultQualityForMediaType) const;
-    void setDefaultQuality(const QString &setDefaultQuality);
+    QStringList allowedQuality(const QString &mediaType);
+    QString defaultQualityForMediaType(const QString &mediaType) const;
+    void setDefaultQuality(const QString &mediaType);
     void setDefaults() override;
     /// Brings the bit MonoColorMode up to date and tells the Color Settings panel.
     void canSelectColorMode();
     void canSelectJpegPrint();
-    /// Brings the controls in line with the selected medium; `checkUIStateWithMediaType` says
-    /// whether the medium's defaults are applied too, as after a pick.
-    void checkUIStateWithMediaType(bool checkUIStateWithMediaType);
+    /// Brings the controls in line with the selected medium, and applies the medium's defaults too
+    /// when asked to, as after a pick.
+    void checkUIStateWithMediaType(bool applyDefaults);
     void checkStateWithPaperFeed();
     /// Whether the paper is a custom size with the thickness of envelopes.
     bool paperSizeIsCustomEnv();
@@ -97,10 +97,10 @@ public:
     // --- Control states and constraints --------------------------------------------------------
 
     /// Enables or disables the listed items of the pop-up and, where its selection must move (at
-    /// once with `toDefault`, else when the selected item is not enabled), selects its default.
+    /// once with `applyDefault`, else when the selected item is not enabled), selects its default.
     /// Enabling a list on the quality pop-up leaves exactly the listed items.
-    void changeState(PopUpButton *changeState, const QStringList &forArray, bool toEnable,
-                     bool toDefault);
+    void changeState(PopUpButton *popup, const QStringList &choices, bool enable,
+                     bool applyDefault);
     void checkConstraints() override;
     void checkUIConstraints() override;
 
@@ -108,10 +108,10 @@ public:
 
     /// Takes the paper of the page setup. False when it is the one before, or cannot be read.
     bool readPageSetup();
-    void checkPageSizeChange(const Notification &checkPageSizeChange);
+    void checkPageSizeChange(const Notification &notification);
     /// Brings the bit DuplexOn up to date.
     void checkDuplex();
-    void checkDuplexChange(const Notification &checkDuplexChange);
+    void checkDuplexChange(const Notification &notification);
 
     // --- Alerts; each check answers whether the job may be printed -----------------------------
 
@@ -133,18 +133,18 @@ public:
     void readyToShowEnvelopeAlert();
     /// Shows the window until one of its buttons is pressed: 1 for OK, 0 for Cancel. With an alert
     /// key, OK stores whether the alert is to be shown again.
-    int showDialog(QWidget *showDialog, const QString &withAlertInfo);
-    void dialogOkDidClick(QWidget *dialogOkDidClick);
-    void dialogCancelDidClick(QWidget *dialogCancelDidClick);
+    int showDialog(QWidget *window, const QString &alertKey);
+    void dialogOkDidClick(QWidget *sender);
+    void dialogCancelDidClick(QWidget *sender);
 
     // --- Advanced options ----------------------------------------------------------------------
 
     /// Builds the panel the first time; later calls do nothing.
     void initializePopup() override;
     /// Fills and sizes the list of advanced options. The parts are hidden when there is no list.
-    void initializeAdvOption(const QList<QWidget *> &initializeAdvOption);
-    void addAdvOption(const QString &addAdvOption, const QString &forKey);
-    void toggleShowOption(QWidget *toggleShowOption) override;
+    void initializeAdvOption(const QList<QWidget *> &parts);
+    void addAdvOption(const QString &label, const QString &id);
+    double advancedHeight() const override;
 
     // --- Inspection ----------------------------------------------------------------------------
 
@@ -158,110 +158,63 @@ protected:
     void connectView(ViewConnections &connections) override;
 
 private:
-    struct KeywordRow
-    {
-        QLatin1String keyword;
-        QWidget *control;
-        QWidget *label;
-    };
-    /// Empty before the view is loaded; kept from then on.
-    const std::vector<KeywordRow> &keywordRows() const;
-    const KeywordRow *keywordRow(const QString &keyword) const;
+    /// Whether the user's language has a control for the keyword.
+    bool isOffered(const QString &keyword) const;
 
-    void applyRulesAfterPick(const QString &keyword);
     void applyQualityPick();
     void applyThicknessPick();
     void beginBestAlert();
 
     void restoreDefault(const QString &keyword);
-    void applySlowDrying(const QString &mediaType, bool applyDefaults);
+    void applyDefault(const QString &keyword, const KeywordDefault &decided);
+    void applySlowDrying(const MediumEffects &effects, bool applyDefaults);
     void applyQualities(const QString &mediaType, bool applyDefaults);
-    void applyBiDir(const QString &mediaType);
     void postNaturalColorMatching(bool natural, bool applyDefaults);
-    void applyTray2(const QString &mediaType);
 
     QString selectedMediaType() const;
-    void rebuildQualities(PopUpButton &popup, const QStringList &qualities);
-    void setItemsEnabled(PopUpButton &popup, const QStringList &choices, bool enabled);
+    QString selectedQuality() const;
     void showQualitiesAfterDisc();
+    void showQualities(const QString &mediaType);
     void selectDefaultItem(PopUpButton &popup);
-    void selectDefaultMedium();
+    RuledPopUp ruledPopUp(const PopUpButton &popup) const;
 
     void constrainQuality();
     void constrainBorderless();
-    void constrainDiscMedia();
     void constrainBiDir();
-    void showDiscMedia();
-    void disableUnavailableControls();
+    void changeMedia(const std::vector<MediaChange> &changes);
+    ControlFacts controlFacts() const;
 
+    JobPaper jobPaper() const;
     QString pageSetupPaperName();
-    QString checkedPaperName(const QString &name) const;
-    const PMPaper *pageFormatPaper() const;
     void trackDisc(const QString &name);
-    void applyDiscMedium();
     QString applyPaperThickness();
     void applyPaperBiDir();
-    bool isPaperMenuAction(const Notification &notification) const;
     void followPageSize();
     void setPlainDuplex();
 
     /// Connects the outlets of the alert windows, if the panel's view is loaded.
     void loadAlertWindows();
-    void connectAlertWindows(ViewConnections &connections);
     bool confirmEnvelope();
     bool refuseUnsupportedPaper();
-    std::optional<QSizeF> paperSizeInPoints() const;
-    bool isPaperWithinCustomSizes(const QSizeF &size) const;
-    bool writeOrientation(const QString &orientation);
-    void putAlertImage(ImageView *view, const QString &name);
-    void titleButton(QAbstractButton *button, const char *key);
+    bool checkOrientationBySize();
+    /// The path of the bundle's picture; null without one.
+    QString picturePath(const QString &name) const;
 
-    void titleSection(const QString &title);
-    void addGroupRow(const QString &keyword);
-    void addLocalizedRow(const char *key);
+    void addGroup(const AdvancedGroup &group);
+    /// None where the group has no text, and so no row.
+    std::optional<QString> groupLabel(const AdvancedGroup &group) const;
 
-    mutable std::vector<KeywordRow> keywordRows_;
-
+    // Of the table's controls (PrintControls.h) those that the rules reach for by themselves.
     PopUpButton *resolutionPopup = nullptr;
     PopUpButton *mediaTypePopup = nullptr;
     PopUpButton *paperThickPopup = nullptr;
     PopUpButton *paperFeedPopup = nullptr;
-    PopUpButton *monoColorPopup = nullptr;
+    PopUpButton *jpegPopup = nullptr;
     QCheckBox *slowDryButton = nullptr;
     QCheckBox *biDirButton = nullptr;
     QCheckBox *mirrorButton = nullptr;
-    QCheckBox *reverseButton = nullptr;
-    PopUpButton *jpegPopup = nullptr;
-    PopUpButton *duplexPopup = nullptr;
-    QCheckBox *vertLineAlignA3Button = nullptr;
-    QCheckBox *vertLineAlignA4Button = nullptr;
-    QCheckBox *vertLineAlignOtherButton = nullptr;
-    QCheckBox *vertLineAlignQM43Button = nullptr;
-
-    QLabel *resolutionLabel = nullptr;
-    QLabel *mediaTypeLabel = nullptr;
-    QLabel *paperThickLabel = nullptr;
-    QLabel *paperFeedLabel = nullptr;
-    QLabel *monoColorLabel = nullptr;
     QLabel *jpegLabel = nullptr;
-    QLabel *duplexLabel = nullptr;
 
-    QLabel *optionLabel = nullptr;
-    QStackedWidget *advancedTabView = nullptr; ///< its pages bear the ids of the list's rows
-    QListWidget *advancedTableView = nullptr;
-    std::unique_ptr<AdvancedOptionList> arrayController; ///< null without a list
-
-    // The outlets of the alert windows: null until the first alert of their kind.
-    std::unique_ptr<LoadedView> alertWindows_;
-    QWidget *envAlertWindow = nullptr;
-    ImageView *envAlertImageView = nullptr;
-    QLabel *envInstructionLabel1 = nullptr;
-    QLabel *envInstructionLabel2 = nullptr;
-    QPushButton *envAlertOKButton = nullptr;
-    QPushButton *envAlertCancelButton = nullptr;
-    QPushButton *normalPaperAlertOKButton = nullptr;
-    QPushButton *normalPaperAlertCancelButton = nullptr;
-    QPushButton *customPaperAlertOKButton = nullptr;
-    QPushButton *customPaperAlertCancelButton = nullptr;
-    QCheckBox *suppressionButton = nullptr;
+    AdvancedSection advanced_;
+    AlertWindows alertWindows_;
 };

@@ -26,15 +26,12 @@ PMPageFormat *HostCallback::pageFormat() const
     return respondsTo(HostOperation::PageFormat) ? &m_pageFormat : nullptr;
 }
 
-bool HostCallback::willChangePPDOptionKeyValue(const QString &willChangePPDOptionKeyValue,
-                                               const QString &ppdChoice)
+bool HostCallback::willChangePPDOptionKeyValue(const QString &keyword, const QString &choice)
 {
-    const QString &keyword = willChangePPDOptionKeyValue;
-    const bool refused =
-        m_refused.contains(keyword) || m_refused.contains(keyword + u'=' + ppdChoice);
-    const bool accepted = !refused && markChoice(m_ppd, keyword, ppdChoice);
+    const bool refused = m_refused.contains(keyword) || m_refused.contains(keyword + u'=' + choice);
+    const bool accepted = !refused && markChoice(m_ppd, keyword, choice);
     if (m_observer)
-        m_observer({Call::Kind::WillChangePPDOptionKeyValue, keyword, ppdChoice, accepted});
+        m_observer({Call::Kind::WillChangePPDOptionKeyValue, keyword, choice, accepted});
     return accepted;
 }
 

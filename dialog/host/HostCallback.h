@@ -43,8 +43,7 @@ public:
     ppd_file_t *ppdFile() const override { return m_ppd; }
     PMPrintSettings *printSettings() const override;
     PMPageFormat *pageFormat() const override;
-    bool willChangePPDOptionKeyValue(const QString &willChangePPDOptionKeyValue,
-                                     const QString &ppdChoice) override;
+    bool willChangePPDOptionKeyValue(const QString &keyword, const QString &choice) override;
     void panelViewDidResize() override;
 
 private:

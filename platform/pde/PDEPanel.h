@@ -43,8 +43,7 @@ public:
     virtual std::optional<QStringList> supportedPPDOptionKeys() const = 0;
 
     /// A choice has been marked elsewhere. Keywords of other panels are reported too.
-    virtual void PPDOptionKeyValueDidChange(const QString &PPDOptionKeyValueDidChange,
-                                            const QString &ppdChoice) = 0;
+    virtual void PPDOptionKeyValueDidChange(const QString &keyword, const QString &choice) = 0;
 
     /// The panel's view, owned by the panel and loaded on first use; null when it cannot be loaded.
     virtual QWidget *panelView() = 0;

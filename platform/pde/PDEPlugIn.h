@@ -22,13 +22,12 @@ public:
     virtual ~PDEPlugIn() = default;
 
     /// Called before anything else, once for each dialog. False: the plug-in cannot be used.
-    virtual bool initWithBundle(Bundle *initWithBundle) = 0;
+    virtual bool initWithBundle(Bundle *bundle) = 0;
 
     /// New panels for a dialog of the type, in display order; the caller owns them. A type that the
     /// plug-in does not know gives none, and a panel that cannot be created is missing.
     virtual std::vector<std::unique_ptr<PDEPanel>>
-    PDEPanelsForType(const QString &PDEPanelsForType,
-                     const std::shared_ptr<PDEPluginCallback> &withHostInfo) = 0;
+    PDEPanelsForType(const QString &type, const std::shared_ptr<PDEPluginCallback> &callback) = 0;
 };
 
 #define PDEPlugIn_iid "com.velkaro.print.PDEPlugIn/1"

@@ -38,10 +38,9 @@ public:
     /// The page format, owned by the dialog; null when there is none at present.
     virtual PMPageFormat *pageFormat() const = 0;
 
-    /// Offers `ppdChoice` for the PPD keyword `willChangePPDOptionKeyValue`. True: the dialog has
+    /// Offers the choice for the PPD keyword. True: the dialog has
     /// marked the choice in the PPD. False: it has refused, and the former mark stands.
-    virtual bool willChangePPDOptionKeyValue(const QString &willChangePPDOptionKeyValue,
-                                             const QString &ppdChoice) = 0;
+    virtual bool willChangePPDOptionKeyValue(const QString &keyword, const QString &choice) = 0;
 
     /// Tells the dialog that the panel's view has another size now.
     virtual void panelViewDidResize() = 0;

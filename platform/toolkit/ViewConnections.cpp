@@ -2,8 +2,10 @@
 
 bool ViewConnections::connectOutlet(QWidget *widget) const
 {
-    const auto connect = m_outlets.value(widget->objectName());
-    return connect && connect(widget);
+    bool connected = false;
+    for (const auto &connect : m_outlets.value(widget->objectName()))
+        connected = connect(widget) || connected;
+    return connected;
 }
 
 QWidget *ViewConnections::create(const QString &className, QWidget *parent) const

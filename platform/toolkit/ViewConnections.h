@@ -3,6 +3,7 @@
 #include "platform/Export.h"
 
 #include <QtCore/QHash>
+#include <QtCore/QList>
 #include <QtCore/QString>
 #include <QtWidgets/QWidget>
 
@@ -11,8 +12,9 @@
 /// What the owner of a view wants connected when the view is loaded.
 ///
 /// An outlet is a pointer of the owner that comes to point to the widget of the same name; it stays
-/// null when the view has no such widget or one of another class. An action is an operation of the
-/// owner that a control of the view names; it gets the control as its sender.
+/// null when the view has no such widget or one of another class. A name may have several. An
+/// action is an operation of the owner that a control of the view names; it gets the control as its
+/// sender.
 class VELKARO_PLATFORM_EXPORT ViewConnections
 {
 public:
@@ -21,7 +23,7 @@ public:
 
     template <typename Widget> void outlet(const QString &name, Widget *&pointer)
     {
-        m_outlets.insert(name, [&pointer](QWidget *widget) {
+        m_outlets[name].append([&pointer](QWidget *widget) {
             pointer = dynamic_cast<Widget *>(widget);
             return pointer != nullptr;
         });
@@ -35,7 +37,7 @@ public:
         m_factories.insert(className, [](QWidget *parent) { return new Widget(parent); });
     }
 
-    /// Connects the outlet of the widget's name, if there is one. False without one.
+    /// Connects the outlets of the widget's name, if there are any. False without one.
     bool connectOutlet(QWidget *widget) const;
 
     /// The action of the name; empty when the owner has none.
@@ -45,7 +47,7 @@ public:
     QWidget *create(const QString &className, QWidget *parent) const;
 
 private:
-    QHash<QString, std::function<bool(QWidget *)>> m_outlets;
+    QHash<QString, QList<std::function<bool(QWidget *)>>> m_outlets;
     QHash<QString, Action> m_actions;
     QHash<QString, Factory> m_factories;
 };

@@ -1,7 +1,7 @@
 #include "colorsettings/EffectParameters.h"
 #include "colorsettings/EffectRange.h"
-#include "colorsettings/EffectTable.h"
 #include "colorsettings/EffectVal.h"
+#include "colorsettings/rules/EffectTable.h"
 #include "tests/colorsettings/ColorPanelFixture.h"
 
 #include <limits>

@@ -54,54 +54,19 @@ QByteArray viewOfThePanel()
            viewWidget("QWidget", "panelView", {}, widgets) + "</widget></ui>";
 }
 
-struct KeywordRow
-{
-    QLatin1String keyword;
-    QWidget *control;
-    QWidget *label;
+constexpr KeywordControl kTestControls[] = {
+    {"VKMediaType"_L1, "mediaTypePopup"_L1, "mediaTypeLabel"_L1},
+    {"VKResolution"_L1, "resolutionPopup"_L1, "resolutionLabel"_L1},
+    {"VKColorMatching"_L1, "matrix"_L1, "matrixBox"_L1},
+    {"MirrorPrint"_L1, "mirrorButton"_L1, {}},
+    {"VKBiDir"_L1, "biDirButton"_L1, {}},
+    {"VKSlowDrying"_L1, "slowDryButton"_L1, {}},
+    {"VKVertLineAlignOther"_L1, "alignButton"_L1, {}},
 };
-
-std::vector<KeywordRow> keywordTable(const TestPanel &panel)
-{
-    return {
-        {"VKMediaType"_L1, panel.mediaTypePopup, panel.mediaTypeLabel},
-        {"VKResolution"_L1, panel.resolutionPopup, panel.resolutionLabel},
-        {"VKColorMatching"_L1, panel.matrix, panel.matrixBox},
-        {"MirrorPrint"_L1, panel.mirrorButton, nullptr},
-        {"VKBiDir"_L1, panel.biDirButton, nullptr},
-        {"VKSlowDrying"_L1, panel.slowDryButton, nullptr},
-        {"VKVertLineAlignOther"_L1, panel.alignButton, nullptr},
-    };
-}
 
 } // namespace
 
-QString TestPanel::determineKey(QWidget *determineKey) const
-{
-    for (const KeywordRow &row : keywordTable(*this)) {
-        if (determineKey && row.control == determineKey)
-            return row.keyword;
-    }
-    return {};
-}
-
-QWidget *TestPanel::determineUI(const QString &determineUI) const
-{
-    for (const KeywordRow &row : keywordTable(*this)) {
-        if (row.keyword == determineUI)
-            return row.control;
-    }
-    return nullptr;
-}
-
-QWidget *TestPanel::determineLabel(const QString &determineLabel) const
-{
-    for (const KeywordRow &row : keywordTable(*this)) {
-        if (row.keyword == determineLabel)
-            return row.label;
-    }
-    return nullptr;
-}
+TestPanel::TestPanel() : VKPrintQualityPDE(kTestControls) {}
 
 void TestPanel::setDefaults()
 {
@@ -117,9 +82,9 @@ void TestPanel::checkUIConstraints()
         constraints();
 }
 
-void TestPanel::toggleShowOption(QWidget *toggleShowOption)
+void TestPanel::toggleShowOption(QWidget *sender)
 {
-    asked << (toggleShowOption == optionButton ? u"toggleShowOption"_s : u"toggle by another"_s);
+    asked << (sender == optionButton ? u"toggleShowOption"_s : u"toggle by another"_s);
 }
 
 bool TestPanel::saveValuesAndReturnError(QString *error)

@@ -17,23 +17,22 @@
 
 class PopUpButton;
 
-/// A panel class of the tests' own: the base, with a keyword map, and a note of every operation
-/// that the base asked of it.
+/// A panel class of the tests' own: the base, with a table of controls, and a note of every
+/// operation that the base asked of it.
 class TestPanel : public VKPrintQualityPDE
 {
 public:
+    TestPanel();
+
     QString panelName() const override { return QStringLiteral("Test"); }
     QString inspectedClassName() const override { return QStringLiteral("TestPanel"); }
     QString inspectedName() const override { return QStringLiteral("test"); }
 
-    QString determineKey(QWidget *determineKey) const override;
-    QWidget *determineUI(const QString &determineUI) const override;
-    QWidget *determineLabel(const QString &determineLabel) const override;
     void checkModelName() override { asked << QStringLiteral("checkModelName"); }
     void setDefaults() override;
     void checkConstraints() override { asked << QStringLiteral("checkConstraints"); }
     void checkUIConstraints() override;
-    void toggleShowOption(QWidget *toggleShowOption) override;
+    void toggleShowOption(QWidget *sender) override;
     bool saveValuesAndReturnError(QString *error) override;
 
     using VKPrintQualityPDE::effectContent;

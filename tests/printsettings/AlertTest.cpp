@@ -2,7 +2,7 @@
 #include "platform/printmanager/PMPrintSettings.h"
 #include "platform/toolkit/ImageView.h"
 #include "platform/toolkit/PlainText.h"
-#include "printsettings/PaperNames.h"
+#include "printsettings/TextHeight.h"
 #include "tests/printsettings/PrintPanel.h"
 
 #include <QtGui/QFontDatabase>

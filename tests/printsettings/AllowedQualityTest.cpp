@@ -1,5 +1,5 @@
-#include "tests/printsettings/MediaTable.h"
 #include "tests/printsettings/PrintPanel.h"
+#include "tests/printsettings/rules/MediaTable.h"
 
 using namespace Qt::StringLiterals;
 

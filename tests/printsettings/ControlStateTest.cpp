@@ -21,7 +21,7 @@ struct ChangeState
     bool disc;        ///< the disc bit
     QString list;     ///< by spaces
     bool enable;
-    bool toDefault;
+    bool applyDefault;
     QString items;     ///< of the pop-up, after
     QString qualities; ///< of the quality pop-up, after; null: as they were
 };
@@ -52,7 +52,7 @@ TEST_P(ControlState, Changes)
     const ChangeState &row = GetParam();
     const QString before = itemsOf(popup(u"resolutionPopup"_s));
     const QVariantMap pendingBefore = panel->outputBin();
-    panel->changeState(popup(row.popup), row.list.split(u' '), row.enable, row.toDefault);
+    panel->changeState(popup(row.popup), row.list.split(u' '), row.enable, row.applyDefault);
     EXPECT_EQ(itemsOf(popup(row.popup)), row.items);
     EXPECT_EQ(itemsOf(popup(u"resolutionPopup"_s)), row.popup == "resolutionPopup"_L1 ? row.items
                                                     : row.qualities.isNull()          ? before

@@ -1,10 +1,14 @@
 #include "platform/foundation/UserDefaults.h"
 #include "platform/printmanager/PMPrintSettings.h"
-#include "printsettings/PaperNames.h"
+#include "printsettings/rules/ControlStates.h"
+#include "printsettings/rules/DiscMedia.h"
+#include "printsettings/rules/MediaQuality.h"
+#include "printsettings/rules/PaperNames.h"
 #include "tests/printsettings/PanelSnapshot.h"
 
 #include <algorithm>
 #include <map>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -12,6 +16,8 @@ using namespace Qt::StringLiterals;
 // single pick is made through the real widgets. After each one
 //   - the selected quality is an enabled item, and what is pending is what the dialog has marked;
 //   - every pop-up that has enabled items can be changed;
+//   - the qualities, the media and the boxes are those that the rules decide (rules/), by
+//   themselves;
 //   - a refresh changes nothing more and offers the dialog nothing but the direction, which it is
 //     always told again.
 // Where the panel's own steps make the last one fail, the case stands in the table of exceptions by
@@ -205,7 +211,78 @@ protected:
         const PanelSnapshot after = snapshot();
         if (after.pending() != after.marks())
             fault(u"what is pending is not what is marked"_s);
+        checkAgreement(false);
         checkRefresh(after);
+    }
+
+    // What the widgets show against what the rules say of the medium and the quality on screen.
+    void checkAgreement(bool refreshed)
+    {
+        if (panel->hasFlag(FaxOutput))
+            return;
+        const QString when = refreshed ? u"after a refresh"_s : u"after the pick"_s;
+        checkQualities(when);
+        checkMedia(when);
+        ControlFacts facts;
+        facts.mediaType = media->selectedObject();
+        facts.quality = qualities->selectedObject();
+        facts.directionLeftAlone = panel->hasFlag(BiDirLeftAlone);
+        facts.slowDryingUnavailable = panel->hasFlag(SlowDryingUnavailable);
+        facts.transparenciesPending = panel->hasFlag(TransparenciesMedium);
+        const ControlStates states = controlStates(facts);
+        const std::pair<QString, BoxState> boxes[] = {{u"biDirButton"_s, states.direction},
+                                                      {u"slowDryButton"_s, states.slowDrying},
+                                                      {u"mirrorButton"_s, states.mirror}};
+        for (const auto &[name, state] : boxes) {
+            if (!isInState(*box(name), state) && (refreshed || !mayChange(name)))
+                fault(u"otherwise than by the rules "_s + when + u": "_s + name);
+        }
+    }
+
+    void checkQualities(const QString &when)
+    {
+        QStringList shown;
+        QStringList disabled;
+        for (int index = 0; index < qualities->count(); ++index) {
+            shown << qualities->representedObject(index);
+            if (!qualities->isItemEnabled(index))
+                disabled << shown.last();
+        }
+        const AllowedQualities allowed = allowedQualities(
+            media->selectedObject(), panel->hasFlag(DiscPaper), panel->hasFlag(DuplexOn));
+        if (shown != allowed.qualities)
+            fault(u"other qualities than the rules' "_s + when + u": "_s + shown.join(u' '));
+        QStringList expected;
+        if (panel->hasFlag(BorderlessPaper)) {
+            for (const QString &quality : unavailableWithoutBorders(panel->paperName)) {
+                if (shown.contains(quality))
+                    expected << quality;
+            }
+        }
+        if (disabled != expected)
+            fault(u"other qualities disabled than by the rules "_s + when + u": "_s +
+                  disabled.join(u' '));
+    }
+
+    void checkMedia(const QString &when)
+    {
+        const bool disc = panel->hasFlag(DiscPaper);
+        std::map<QString, bool> enabled;
+        for (const MediaChange &change : shownMedia(disc, panel->hasFlag(BorderlessPaper))) {
+            for (const QString &medium : change.media)
+                enabled[medium] = change.enable;
+        }
+        for (const auto &[medium, expected] : enabled) {
+            const int index = media->indexOfRepresentedObject(medium);
+            if (index >= 0 && media->isItemEnabled(index) != expected)
+                fault(u"enabled otherwise than by the rules "_s + when + u": "_s + medium);
+        }
+    }
+
+    static bool isInState(const QAbstractButton &button, BoxState state)
+    {
+        return button.isEnabled() == (state == BoxState::Usable) &&
+               !(state == BoxState::DisabledAndOff && button.isChecked());
     }
 
     void checkRefresh(const PanelSnapshot &after)
@@ -214,6 +291,7 @@ protected:
         panel->restoreValuesAndReturnError(nullptr);
         const QStringList offers = session->log().takeOffers();
         const PanelSnapshot refreshed = snapshot();
+        checkAgreement(true);
         const QStringList changes = after.differences(refreshed);
         const Exception *exception = exceptionFor(changes, offers);
         for (const QString &change : changes) {
@@ -236,6 +314,15 @@ protected:
         for (const QString &change : refreshed.differences(snapshot()))
             fault(exception.name + u": a second refresh changes "_s + change);
         log();
+    }
+
+    // What an exception lets a refresh change need not be as the rules say before it.
+    bool mayChange(const QString &control) const
+    {
+        return std::any_of(exceptions().begin(), exceptions().end(),
+                           [&](const Exception &exception) {
+                               return exception.applies(pick) && isAllowed(exception, control);
+                           });
     }
 
     const Exception *exceptionFor(const QStringList &changes, const QStringList &offers) const

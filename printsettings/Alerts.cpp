@@ -1,0 +1,90 @@
+#include "printsettings/VKInkPrintSetting14PDE.h"
+
+#include "platform/foundation/Bundle.h"
+#include "platform/pde/PPDText.h"
+#include "platform/toolkit/ModalSession.h"
+
+using namespace Qt::StringLiterals;
+
+void VKInkPrintSetting14PDE::loadAlertWindows()
+{
+    const bool viewIsLoaded = effectContent != nullptr;
+    if (!viewIsLoaded || alertWindows_.isLoaded())
+        return;
+    alertWindows_.load(
+        pluginBundle->pathForResource(thePDEName() + u"Alerts"_s, u"ui"_s),
+        [this](QWidget *sender) { dialogOkDidClick(sender); },
+        [this](QWidget *sender) { dialogCancelDidClick(sender); });
+}
+
+QHash<QString, QWidget *> VKInkPrintSetting14PDE::inspectedOutlets() const
+{
+    auto outlets = VKPrintQualityPDE::inspectedOutlets();
+    outlets.insert(alertWindows_.outlets());
+    return outlets;
+}
+
+bool VKInkPrintSetting14PDE::confirmEnvelope()
+{
+    readyToShowEnvelopeAlert();
+    return showDialog(alertWindows_.envelopeWindow(), QString()) == kModalOK;
+}
+
+void VKInkPrintSetting14PDE::readyToShowEnvelopeAlert()
+{
+    loadAlertWindows();
+    const bool multiPurposeTray = managesKeyword(u"VKInputSlot"_s) &&
+                                  findChoice(findOption(ppd, u"VKInputSlot"_s), u"MPTray"_s);
+    const QString loading =
+        localized(multiPurposeTray ? "Envelope Alert2 Lark22 MP" : "Envelope Alert2 Lark22");
+    EnvelopeAlert alert;
+    alert.title = localized("Envelope Alert Title");
+    alert.instruction = localized("Envelope Alert1") + u"\n\n"_s + loading;
+    alert.caution = localized("Envelope Caution");
+    alert.ok = localized("OK");
+    alert.cancel = localized("Cancel");
+    alert.picture = multiPurposeTray ? u"QTLark22_Tray_Env"_s : u"QTLark22_Env"_s;
+    alert.picturePath = picturePath(alert.picture);
+    alertWindows_.fillEnvelope(alert);
+}
+
+void VKInkPrintSetting14PDE::readyToShowPaperAlertWithKind(
+    const QString &kind, const QString &orientationMessage, QWidget *alertWindow,
+    ImageView *alertView, const QString &alertImage, QLabel *alertMessageLabel)
+{
+    loadAlertWindows();
+    showAlertPicture(alertView, alertImage, picturePath(alertImage));
+    alertWindows_.titlePaperButtons(localized("OK"), localized("Cancel"),
+                                    kind == "Normal Paper"_L1 ? localized("Suppression")
+                                                              : QString());
+    fitMessage(alertWindow, alertMessageLabel,
+               pluginBundle ? pluginBundle->localizedString(orientationMessage)
+                            : orientationMessage);
+    if (alertWindow)
+        alertWindow->setWindowTitle(localized("Paper Orientation Title"));
+}
+
+QString VKInkPrintSetting14PDE::picturePath(const QString &name) const
+{
+    return pluginBundle ? pluginBundle->pathForResource(name, u"tiff"_s) : QString();
+}
+
+int VKInkPrintSetting14PDE::showDialog(QWidget *window, const QString &alertKey)
+{
+    const int result = runModalForWindow(window);
+    if (result == kModalOK)
+        alertDidEnd({0, alertWindows_.isSuppressed()}, result, alertKey);
+    if (window)
+        window->hide();
+    return result;
+}
+
+void VKInkPrintSetting14PDE::dialogOkDidClick(QWidget *)
+{
+    stopModalWithCode(kModalOK);
+}
+
+void VKInkPrintSetting14PDE::dialogCancelDidClick(QWidget *)
+{
+    stopModalWithCode(kModalCancel);
+}

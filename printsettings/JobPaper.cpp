@@ -1,0 +1,84 @@
+#include "printsettings/JobPaper.h"
+
+#include "platform/pde/PDEPluginCallback.h"
+#include "platform/printmanager/PMPageFormat.h"
+#include "platform/printmanager/PMPrintSettings.h"
+
+#include <cmath>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr auto kMappedPaper = "com.apple.print.PageToPaperMappingMediaName"_L1;
+
+CustomSizeLimits limitsOf(const ppd_file_t &ppd)
+{
+    return {QSizeF(ppd.custom_min[0], ppd.custom_min[1]),
+            QSizeF(ppd.custom_max[0], ppd.custom_max[1])};
+}
+
+std::optional<QSizeF> sizeOf(const PMPaper *paper)
+{
+    QSizeF size;
+    if (PMPaperGetWidth(paper, &size.rwidth()) != noErr ||
+        PMPaperGetHeight(paper, &size.rheight()) != noErr)
+        return std::nullopt;
+    return size;
+}
+
+} // namespace
+
+bool JobPaper::offersTicket() const
+{
+    return host_ && host_->respondsTo(HostOperation::PrintSettings);
+}
+
+const PMPaper *JobPaper::pagePaper() const
+{
+    if (!host_ || !host_->respondsTo(HostOperation::PageFormat))
+        return nullptr;
+    const PMPaper *paper = nullptr;
+    PMGetPageFormatPaper(host_->pageFormat(), &paper);
+    return paper;
+}
+
+QString JobPaper::mappedName() const
+{
+    QVariant mapped;
+    if (offersTicket())
+        PMPrintSettingsGetValue(host_->printSettings(), kMappedPaper, &mapped);
+    return mapped.toString();
+}
+
+QString JobPaper::pageName() const
+{
+    QString name;
+    PMPaperGetName(pagePaper(), &name);
+    return name;
+}
+
+QString JobPaper::checkedName(const QString &name) const
+{
+    const PMPaper *paper = name == "Letter"_L1 ? pagePaper() : nullptr;
+    QString ppdName;
+    if (!paper || !ppd_ || PMPaperGetPPDPaperName(paper, &ppdName) == noErr)
+        return name;
+    const std::optional<QSizeF> size = sizeOf(paper);
+    return !size || isWithinLimits(*size) ? name : u"UnsupportedPaper"_s;
+}
+
+std::optional<QSizeF> JobPaper::size() const
+{
+    if (!offersTicket())
+        return QSizeF(0, 0);
+    const std::optional<QSizeF> size = sizeOf(pagePaper());
+    if (!size)
+        return std::nullopt;
+    return QSizeF(std::round(size->width()), std::round(size->height()));
+}
+
+bool JobPaper::isWithinLimits(const QSizeF &size) const
+{
+    return ppd_ && isWithinCustomSizes(limitsOf(*ppd_), size);
+}
