@@ -35,7 +35,7 @@ BodyEnd readBody(http_t *http, CallGuard &guard, QIODevice &to, qint64 largest)
     while ((length = httpRead2(http, buffer.data(), buffer.size())) > 0) {
         guard.stampSignOfLife();
         total += length;
-        if (!guard.mayWait())
+        if (!guard.mayFinish())
             return BodyEnd::TooLate;
         if (total > largest)
             return BodyEnd::TooLarge;

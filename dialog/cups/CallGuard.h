@@ -6,6 +6,10 @@
 /// How long a server may be silent before it is given up.
 inline constexpr std::chrono::milliseconds kServerPatience{8000};
 
+/// A cancelled call goes on to wait for an answer that is on its way for this part of the patience,
+/// 200 ms: it may hold the number of a job, which must be known to cancel that.
+inline constexpr int kPartForFinishing = 40;
+
 /// Lets one thread stop what another one is waiting for.
 ///
 /// The thread that talks to a server stamps every sign of life; the one that waits for the outcome
@@ -21,7 +25,12 @@ public:
 
     std::chrono::milliseconds patience() const { return m_patience; }
 
-    void cancel() { std::atomic_ref(m_cancelled).store(1); }
+    void cancel()
+    {
+        if (!isCancelled())
+            m_cancelTime = Clock::now();
+        std::atomic_ref(m_cancelled).store(1);
+    }
     bool isCancelled() const { return std::atomic_ref(m_cancelled).load() != 0; }
 
     /// The flag as libcups polls it while it connects.
@@ -41,12 +50,21 @@ public:
     void unlimitTime() { m_end = Clock::time_point::max(); }
     bool isOutOfTime() const { return Clock::now() >= m_end.load(); }
 
-    /// Whether going on to wait makes sense.
+    /// Whether beginning to wait, or sending on, makes sense.
     bool mayWait() const { return !isCancelled() && !isOutOfPatience() && !isOutOfTime(); }
+
+    /// Whether going on to wait for an answer does.
+    bool mayFinish() const
+    {
+        const bool isTooLate =
+            isCancelled() && Clock::now() - m_cancelTime.load() >= m_patience / kPartForFinishing;
+        return !isTooLate && !isOutOfPatience() && !isOutOfTime();
+    }
 
 private:
     std::chrono::milliseconds m_patience;
     std::atomic<Clock::time_point> m_lastSign{Clock::now()};
     std::atomic<Clock::time_point> m_end{Clock::time_point::max()};
+    std::atomic<Clock::time_point> m_cancelTime{};
     mutable int m_cancelled = 0;
 };

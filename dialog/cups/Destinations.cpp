@@ -62,8 +62,10 @@ QList<Destination> sorted(QList<Destination> found)
     const auto key = [](const Destination &one) { return one.name.queue.toCaseFolded(); };
     found.removeIf([](const Destination &one) { return !isQueueName(one.name.queue); });
     std::ranges::stable_sort(found, {}, key);
-    const auto rest = std::ranges::unique(found, {}, key);
-    found.erase(rest.begin(), rest.end());
+    const auto rest = std::unique(
+        found.begin(), found.end(),
+        [&](const Destination &one, const Destination &other) { return key(one) == key(other); });
+    found.erase(rest, found.end());
     return found;
 }
 

@@ -19,7 +19,7 @@ constexpr auto kLocalServer = "localhost";
 
 int mayWaitOn(http_t *, void *guard)
 {
-    return static_cast<CallGuard *>(guard)->mayWait() ? 1 : 0;
+    return static_cast<CallGuard *>(guard)->mayFinish() ? 1 : 0;
 }
 
 // libcups would ask on the terminal, which blocks a dialog for ever.
@@ -151,7 +151,7 @@ bool ServerConnection::post(ipp_t *request, const QByteArray &resource, bool dat
 int ServerConnection::status()
 {
     int status = HTTP_STATUS_CONTINUE;
-    while (status == HTTP_STATUS_CONTINUE && m_guard.mayWait())
+    while (status == HTTP_STATUS_CONTINUE && m_guard.mayFinish())
         status = httpUpdate(m_http.get());
     return status;
 }

@@ -6,7 +6,7 @@
 
 namespace {
 
-constexpr std::chrono::milliseconds kLookInterval{100};
+constexpr std::chrono::milliseconds kLookInterval{50};
 
 } // namespace
 
@@ -42,6 +42,6 @@ void SocketWatch::run()
 {
     std::unique_lock lock(m_mutex);
     while (!m_ended.wait_for(lock, kLookInterval, [this] { return m_ends; }))
-        if (m_socket >= 0 && !m_guard.mayWait())
+        if (m_socket >= 0 && !m_guard.mayFinish())
             shutdown(m_socket, SHUT_RDWR);
 }

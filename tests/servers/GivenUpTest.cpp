@@ -1,5 +1,9 @@
+#include "dialog/cups/JobSubmission.h"
 #include "dialog/cups/QueuePPD.h"
 #include "dialog/cups/ServerCall.h"
+#include "tests/built/BuiltFiles.h"
+#include "tests/servers/GoodAnswers.h"
+#include "tests/servers/IppBytes.h"
 #include "tests/servers/ScriptedServer.h"
 #include "tests/support/CaseName.h"
 #include "tests/support/QStringPrinting.h"
@@ -9,7 +13,9 @@
 
 #include <gtest/gtest.h>
 
+#include <atomic>
 #include <csignal>
+#include <optional>
 #include <sys/resource.h>
 
 using namespace Qt::StringLiterals;
@@ -70,6 +76,42 @@ INSTANTIATE_TEST_SUITE_P(
                              {write("HTTP/1.1 200 OK\r\nContent-Length: 100000\r\n\r\n"),
                               drip(QByteArray(100000, '*'), 10ms)}}}),
     CaseName());
+
+TEST(ACancelledCall, WaitsForTheNumberOfTheJobThatItHasToCancel)
+{
+    std::atomic<bool> isCancelled = false;
+    const Step afterTheCancelling = [&](ServedConnection &connection) {
+        while (!isCancelled)
+            if (!connection.hold(1ms))
+                return false;
+        return true;
+    };
+    const ScriptedServer server({{"Create-Job",
+                                  {readBody(), afterTheCancelling,
+                                   write(ippAnswer(IppBytes()
+                                                       .group(IPP_TAG_JOB)
+                                                       .integer(IPP_TAG_INTEGER, "job-id", kGoodJob)
+                                                       .ended()))}}});
+    JobRequest job;
+    job.server = server.address();
+    job.queue = u"photo"_s;
+    job.documents = {samplePPD(u"velkaro-px-t900"_s)}; // any file
+    std::optional<JobReceipt> receipt;
+    QObject owner;
+    auto *call =
+        new ServerCall(&owner, 10 * kServerPatience,
+                       [job, &receipt](CallGuard &guard) -> ServerCall::Outcome {
+                           return [got = submitJob(job, guard), &receipt] { receipt = got; };
+                       },
+                       {});
+    ASSERT_TRUE(QTest::qWaitFor([&] { return server.requests() == QStringList{u"Create-Job"_s}; }));
+    call->cancel();
+    isCancelled = true;
+    ASSERT_TRUE(QTest::qWaitFor([&] { return receipt.has_value(); }));
+    EXPECT_EQ(receipt->id, kGoodJob);
+    EXPECT_EQ(receipt->answer.fault, ServerFault::Cancelled);
+    EXPECT_EQ(server.requests(), (QStringList{u"Create-Job"_s, u"Cancel-Job"_s}));
+}
 
 // --- A temporary folder that takes no PPD
 

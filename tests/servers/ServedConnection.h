@@ -36,7 +36,8 @@ public:
     /// is thrown away.
     bool hold(std::chrono::milliseconds time);
 
-    /// Hands the connection on to a server on this port of the loopback, until either end closes it.
+    /// Hands the connection on to a server on this port of the loopback, until either end closes
+    /// it.
     bool relay(int port);
 
     /// Ends the connection with a reset, as a crashed machine's router would.
