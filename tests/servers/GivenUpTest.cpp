@@ -5,6 +5,7 @@
 #include "tests/servers/GoodAnswers.h"
 #include "tests/servers/IppBytes.h"
 #include "tests/servers/ScriptedServer.h"
+#include "tests/support/Documents.h"
 #include "tests/support/CaseName.h"
 #include "tests/support/QStringPrinting.h"
 
@@ -95,7 +96,7 @@ TEST(ACancelledCall, WaitsForTheNumberOfTheJobThatItHasToCancel)
     JobRequest job;
     job.server = server.address();
     job.queue = u"photo"_s;
-    job.documents = {samplePPD(u"velkaro-px-t900"_s)}; // any file
+    job.documents = openedDocuments({samplePPD(u"velkaro-px-t900"_s)}); // any file
     std::optional<JobReceipt> receipt;
     QObject owner;
     auto *call =
