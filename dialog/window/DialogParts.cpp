@@ -181,9 +181,8 @@ QList<SummarySection> DialogWindow::summarySections()
         sections += sectionOf(panel.panelName(), info);
     }
     // Panels may change what is sent while they sum it up.
-    SummarySection own = ownSection();
-    own.lines += linesOfTheRest(m_job, told);
-    sections.prepend(own);
+    sections.prepend(ownSection());
+    sections += SummarySection{tr("Also Sent"), linesOfTheRest(m_job, told)};
     return sections;
 }
 

@@ -112,6 +112,10 @@
         <translation>設定一覧</translation>
     </message>
     <message>
+        <source>Also Sent</source>
+        <translation>あわせて送られる設定</translation>
+    </message>
+    <message>
         <source>The settings of this panel cannot be shown: a part of the plug-in is missing. Install Velkaro Print again.</source>
         <translation>プラグインの一部が見つからないため、この設定画面を表示できません。Velkaro Print をインストールし直してください。</translation>
     </message>
