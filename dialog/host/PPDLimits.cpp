@@ -90,7 +90,8 @@ private:
 
     qsizetype &countOf(QByteArrayView keyword)
     {
-        if (!m_option.isEmpty() && m_option.compare(keyword, Qt::CaseInsensitive) == 0)
+        if (m_option.size() == keyword.size() && !m_option.isEmpty() &&
+            m_option.compare(keyword, Qt::CaseInsensitive) == 0)
             return m_openChoices;
         if (keyword == "OpenGroup" || keyword == "OpenSubGroup")
             return m_census.groups;

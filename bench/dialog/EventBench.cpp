@@ -1,0 +1,178 @@
+// What one event costs the thread of the window, in CPU time: the dearest one of each kind of use,
+// on an ordinary printer, on PPDs at their limits, and with a server full of printers. Without a
+// display; opening a window is not among the events.
+#include "bench/support/Timing.h"
+#include "dialog/window/DialogWindow.h"
+#include "dialog/window/PrinterPopUp.h"
+#include "platform/toolkit/PopUpButton.h"
+#include "tests/built/BuiltFiles.h"
+#include "tests/ppdlimits/PPDAtLimit.h"
+
+#include <QtCore/QElapsedTimer>
+#include <QtCore/QFile>
+#include <QtCore/QTemporaryDir>
+#include <QtCore/QTimer>
+#include <QtWidgets/QApplication>
+#include <QtWidgets/QTabWidget>
+
+#include <algorithm>
+#include <cmath>
+#include <cstdio>
+#include <cstdlib>
+#include <ctime>
+#include <functional>
+#include <memory>
+#include <utility>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr double kMostMilliseconds = 50;
+constexpr int kTries = 3;
+constexpr int kManyPrinters = 20000;
+constexpr int kLongestOpening = 30000; // ms, by the clock
+
+double threadMilliseconds()
+{
+    timespec time{};
+    clock_gettime(CLOCK_THREAD_CPUTIME_ID, &time);
+    return static_cast<double>(time.tv_sec) * 1e3 + static_cast<double>(time.tv_nsec) / 1e6;
+}
+
+/// Notes what each event costs that is not part of another one.
+class EventCosts : public QApplication
+{
+public:
+    using QApplication::QApplication;
+
+    bool notify(QObject *receiver, QEvent *event) override
+    {
+        if (std::exchange(m_isWithin, true))
+            return QApplication::notify(receiver, event);
+        const double before = threadMilliseconds();
+        const bool answer = QApplication::notify(receiver, event);
+        m_dearest = std::max(m_dearest, threadMilliseconds() - before);
+        m_isWithin = false;
+        return answer;
+    }
+
+    /// Does the work within an event, and what that leaves to be done in others; the cost of the
+    /// dearest one.
+    double of(const std::function<void()> &work)
+    {
+        m_dearest = 0;
+        QTimer::singleShot(0, this, work);
+        for (int round = 0; round < 20; ++round)
+            processEvents();
+        return m_dearest;
+    }
+
+private:
+    bool m_isWithin = false;
+    double m_dearest = 0;
+};
+
+[[noreturn]] void endWith(const QString &error)
+{
+    std::fprintf(stderr, "%s\n", qPrintable(error));
+    std::exit(1);
+}
+
+std::unique_ptr<DialogWindow> openedOn(const QString &ppd)
+{
+    CommandLine line;
+    line.ppd = ppd;
+    line.plugIn = builtBundle();
+    line.output = u"/dev/null"_s;
+    auto window = std::make_unique<DialogWindow>(line);
+    window->start();
+    window->show();
+    QElapsedTimer clock;
+    clock.start();
+    while (window->state() == DialogWindow::State::Searching && !clock.hasExpired(kLongestOpening))
+        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents, 100);
+    if (window->state() != DialogWindow::State::Ready)
+        endWith(window->notice().sentence());
+    return window;
+}
+
+/// The dearest event of some use, the best of several windows.
+void printRow(EventCosts &costs, const char *what, const QString &ppd,
+              const std::function<double(EventCosts &, DialogWindow &)> &use)
+{
+    double best = HUGE_VAL;
+    for (int count = 0; count < kTries; ++count) {
+        const auto window = openedOn(ppd);
+        best = std::min(best, use(costs, *window));
+    }
+    printRatio(what, best, kMostMilliseconds, 1, "ms");
+}
+
+double showParts(EventCosts &costs, DialogWindow &window)
+{
+    auto *parts = window.findChild<QTabWidget *>(u"parts"_s);
+    double dearest = 0;
+    for (int index = 0; index < parts->count(); ++index)
+        dearest = std::max(dearest, costs.of([=] { parts->setCurrentIndex(index); }));
+    return dearest;
+}
+
+/// Picks the last and the first enabled item of every pop-up of the part that is in front.
+double pickEverywhere(EventCosts &costs, DialogWindow &window)
+{
+    double dearest = 0;
+    for (PopUpButton *popup : window.shownPart()->findChildren<PopUpButton *>()) {
+        for (const int index : {popup->count() - 1, 0}) {
+            if (popup->isEnabled() && popup->isVisible() && popup->isItemEnabled(index))
+                dearest = std::max(dearest, costs.of([=] { popup->pick(index); }));
+        }
+    }
+    return dearest;
+}
+
+double pickInPageSetup(EventCosts &costs, DialogWindow &window)
+{
+    window.showPart(u"setup"_s);
+    return pickEverywhere(costs, window);
+}
+
+double listPrinters(EventCosts &costs, DialogWindow &window)
+{
+    QList<Destination> many(kManyPrinters);
+    for (int number = 0; number < kManyPrinters; ++number)
+        many[number].name.queue = u"printer%1"_s.arg(number);
+    auto *printers = window.findChild<PrinterPopUp *>();
+    return costs.of([&] { printers->setDestinations(many); });
+}
+
+void printLimits(EventCosts &costs)
+{
+    const QTemporaryDir folder;
+    const QString path = folder.filePath(u"limit.ppd"_s);
+    for (const PPDLimit &limit : ppdLimits()) {
+        QFile file(path);
+        const QByteArray text = ppdWith(limit, limit.most);
+        if (!file.open(QIODevice::WriteOnly) || file.write(text) != text.size() || !file.flush())
+            endWith(file.errorString());
+        const QByteArray name(limit.name);
+        printRow(costs, (name + ": a part is shown").constData(), path, showParts);
+        printRow(costs, (name + ": a pick in Page Setup").constData(), path, pickInPageSetup);
+    }
+}
+
+} // namespace
+
+int main(int argc, char **argv)
+{
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    EventCosts costs(argc, argv);
+    printHead("The dearest event of the window's thread", "CPU", "allowed");
+    const QString sample = samplePPD(u"velkaro-px-t900"_s);
+    printRow(costs, "a part is shown", sample, showParts);
+    printRow(costs, "a pick in Print Settings", sample, pickEverywhere);
+    printRow(costs, "a pick in Page Setup", sample, pickInPageSetup);
+    printRow(costs, "20,000 printers are listed", sample, listPrinters);
+    printLimits(costs);
+    return 0;
+}
