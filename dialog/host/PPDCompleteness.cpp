@@ -12,6 +12,10 @@ struct OpenParts
 
 void readKeyword(QByteArrayView line, OpenParts &open)
 {
+    // Hardly a line opens or closes anything, and a PPD may have thousands of others.
+    const char first = line.size() > 1 ? line[1] : '\0';
+    if (first != 'O' && first != 'C' && first != 'J')
+        return;
     if (line.startsWith("*OpenUI") || line.startsWith("*JCLOpenUI"))
         open.option = true;
     else if (line.startsWith("*CloseUI") || line.startsWith("*JCLCloseUI"))
