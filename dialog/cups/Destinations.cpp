@@ -131,6 +131,11 @@ bool isListed(const QList<Destination> &destinations, const QueueName &name)
 
 } // namespace
 
+QList<Destination> queuesOf(ipp_t *answer)
+{
+    return sorted(destinationsOf(answer));
+}
+
 DestinationList listDestinations(const QString &server, CallGuard &guard)
 {
     ServerConnection connection(server, guard);
@@ -141,7 +146,7 @@ DestinationList listDestinations(const QString &server, CallGuard &guard)
             list.answer = connection.lastAnswer();
         return list;
     }
-    list.destinations = withInstances(sorted(destinationsOf(response.get())));
+    list.destinations = withInstances(queuesOf(response.get()));
     const QueueName usual = usualQueue();
     markDefault(list.destinations,
                 isListed(list.destinations, usual) ? usual : defaultOf(connection).queue);

@@ -7,6 +7,8 @@
 #include <QtCore/QList>
 #include <QtCore/QString>
 
+#include <cups/ipp.h>
+
 /// A queue that can be printed to, or an instance of one.
 struct Destination
 {
@@ -28,6 +30,9 @@ struct DestinationList
 /// Printers that announce themselves in the network and have no queue on the server are not among
 /// them: there is nothing to print to by that name. Blocks: call it in a ServerCall.
 DestinationList listDestinations(const QString &server, CallGuard &guard);
+
+/// The queues of an answer that is already here, in order; none of them is marked as default.
+QList<Destination> queuesOf(ipp_t *answer);
 
 /// The queue that a server prints to by default; a null queue when it has none.
 struct DefaultQueue

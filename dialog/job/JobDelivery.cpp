@@ -17,7 +17,21 @@ QString sentence(const char *text)
     return QCoreApplication::translate("JobDelivery", text);
 }
 
-/// The first fault of the job's options, null when they may all be sent.
+/// Says on standard error what is about to be sent.
+void list(const JobRequest &job)
+{
+    warn(sentence(QT_TRANSLATE_NOOP("JobDelivery", "Sending \"%1\" to %2."))
+             .arg(QString::fromUtf8(outgoingTitle(job.title)), job.queue));
+    for (const Document &document : job.documents)
+        warn(sentence(QT_TRANSLATE_NOOP("JobDelivery", "Document: %1 (%2 bytes)"))
+                 .arg(document.name(), QString::number(document.size())));
+    for (const JobOption &option : job.options)
+        warn(sentence(QT_TRANSLATE_NOOP("JobDelivery", "Setting: %1=%2"))
+                 .arg(option.name, option.value));
+}
+
+} // namespace
+
 QString faultOfOptions(const QString &path, const QList<JobOption> &options, bool yes)
 {
     for (const JobOption &option : options) {
@@ -36,21 +50,6 @@ QString faultOfOptions(const QString &path, const QList<JobOption> &options, boo
     }
     return {};
 }
-
-/// Says on standard error what is about to be sent.
-void list(const JobRequest &job)
-{
-    warn(sentence(QT_TRANSLATE_NOOP("JobDelivery", "Sending \"%1\" to %2."))
-             .arg(QString::fromUtf8(outgoingTitle(job.title)), job.queue));
-    for (const Document &document : job.documents)
-        warn(sentence(QT_TRANSLATE_NOOP("JobDelivery", "Document: %1 (%2 bytes)"))
-                 .arg(document.name(), QString::number(document.size())));
-    for (const JobOption &option : job.options)
-        warn(sentence(QT_TRANSLATE_NOOP("JobDelivery", "Setting: %1=%2"))
-                 .arg(option.name, option.value));
-}
-
-} // namespace
 
 ExitStatus statusOf(const ServerAnswer &answer)
 {

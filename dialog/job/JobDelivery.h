@@ -24,5 +24,9 @@ ExitStatus keepJob(const QString &path, const JobRequest &request, const OutputT
 /// other settings on the command line are refused.
 ExitStatus sendJobFile(const CommandLine &line, const Document &file, EndSignals &signals);
 
+/// One sentence on the first option of the saved job at the path that is not sent; null when all of
+/// them are. `yes` admits options that this program does not write.
+QString faultOfOptions(const QString &path, const QList<JobOption> &options, bool yes);
+
 /// The exit status for what a server answered.
 ExitStatus statusOf(const ServerAnswer &answer);

@@ -19,10 +19,18 @@ struct Harness
 
 void savedOptions(const QByteArray &lpoptions);
 void replayScript(const QByteArray &script);
+void ppd(const QByteArray &ppd);
+void ippAnswer(const QByteArray &answer);
+void jobFile(const QByteArray &file);
+void document(const QByteArray &nameAndContent);
 
 inline constexpr std::array kHarnesses{
     Harness{"saved-options", savedOptions},
     Harness{"replay-script", replayScript},
+    Harness{"ppd", ppd},
+    Harness{"ipp-answer", ippAnswer},
+    Harness{"job-file", jobFile},
+    Harness{"document", document},
 };
 
 /// Keeps the user's home, settings and printers out of the process, and the process off the screen.

@@ -1,0 +1,66 @@
+#include "dialog/cups/JobFileReader.h"
+#include "dialog/cups/JobOptions.h"
+#include "dialog/job/JobDelivery.h"
+#include "tests/fuzz/Harnesses.h"
+#include "tests/fuzz/InputFile.h"
+
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+QByteArray bytesOf(const Document &document)
+{
+    QByteArray bytes;
+    const Delivery delivery = deliver(document, [&](const char *piece, qint64 length) {
+        bytes.append(piece, length);
+        return true;
+    });
+    harness::require(delivery == Delivery::Complete, "every document of a saved job can be read");
+    return bytes;
+}
+
+bool isHarmful(const JobOption &option)
+{
+    const QString name = option.name.toLower();
+    return name == "raw"_L1 || name == "printer-uri"_L1 || name == "job-uri"_L1;
+}
+
+void checkDocuments(const Documents &documents, const QByteArray &file)
+{
+    QByteArray all;
+    for (const Document &document : documents)
+        all += bytesOf(document);
+    harness::require(!documents.empty() && file.endsWith(all),
+                     "the documents are what the file ends with");
+}
+
+void checkOptions(const QList<JobOption> &options)
+{
+    harness::require(std::ranges::all_of(options, mayTravel), "every option of a job may travel");
+    if (std::ranges::any_of(options, isHarmful))
+        harness::require(!faultOfOptions(u"job"_s, options, true).isNull(),
+                         "a saved job is never sent past the printer's settings, or elsewhere");
+    const bool isForeign = std::ranges::any_of(options, [](const JobOption &option) {
+        return option.name == "job-name"_L1 || option.name == "document-format"_L1 ||
+               option.name.startsWith("com.apple."_L1);
+    });
+    if (isForeign)
+        harness::require(!faultOfOptions(u"job"_s, options, false).isNull(),
+                         "what this program does not write is not sent unasked");
+}
+
+} // namespace
+
+/// A saved job that is read has its documents within the file and no option that slips in.
+void harness::jobFile(const QByteArray &file)
+{
+    const Document saved(inputFile(file), 0, u"saved.job"_s, u"saved.job"_s);
+    const ReadJobFile read = readJobFile(saved);
+    if (!read.error.isNull())
+        return;
+    require(isJobFile(saved), "only what begins like a saved job is one");
+    checkDocuments(read.job.documents, file);
+    checkOptions(read.job.options);
+}

@@ -1,0 +1,104 @@
+#include "dialog/cups/ReservedNames.h"
+#include "dialog/job/PrintJob.h"
+#include "dialog/job/ScriptedAnswers.h"
+#include "dialog/job/SettingRequests.h"
+#include "platform/pde/PPDText.h"
+#include "tests/built/BuiltFiles.h"
+#include "tests/fuzz/Harnesses.h"
+#include "tests/fuzz/InputFile.h"
+
+#include <algorithm>
+#include <array>
+#include <vector>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr qsizetype kPicks = 4;
+constexpr qsizetype kBytesPerPick = 3; // which option, which choice, by whom
+
+/// What the dialog says in the terms of IPP of its own accord.
+constexpr std::array kOwnNames{"fit-to-page"_L1, "print-color-mode"_L1, "print-quality"_L1,
+                               "print-scaling"_L1};
+
+std::vector<ppd_option_t *> optionsOf(ppd_file_t *ppd)
+{
+    std::vector<ppd_option_t *> options;
+    for (ppd_option_t *option = ppdFirstOption(ppd); option; option = ppdNextOption(ppd))
+        if (option->num_choices > 0)
+            options.push_back(option);
+    return options;
+}
+
+/// Few inputs pick in the panels' controls: showing them takes longer than all else.
+void pick(PrintJob &job, const QByteArray &wish)
+{
+    const std::vector<ppd_option_t *> options = optionsOf(job.ppd());
+    if (options.empty())
+        return;
+    const auto at = [&](qsizetype index) { return static_cast<uchar>(wish[index]); };
+    const ppd_option_t &option = *options[at(0) % options.size()];
+    const QString keyword = ppdName(option.keyword);
+    const QString choice = ppdName(option.choices[at(1) % option.num_choices].choice);
+    Refusal refusal;
+    if (at(2) >= 0xF8)
+        makeSetting(job, keyword, choice, refusal);
+    else
+        job.mark(keyword, choice);
+}
+
+/// The picks stand in the last bytes, which in a PPD are hardly ever more than a comment.
+void makePicks(PrintJob &job, const QByteArray &ppd)
+{
+    for (qsizetype index = 0; (index + 1) * kBytesPerPick <= ppd.size() && index < kPicks; ++index)
+        pick(job, ppd.last((index + 1) * kBytesPerPick).first(kBytesPerPick));
+}
+
+bool isKeyOfTicket(const QString &name)
+{
+    return name.contains(u'.') || name == "AP_ColorMatchingMode"_L1;
+}
+
+void checkOption(ppd_file_t *ppd, const JobOption &option)
+{
+    harness::require(mayTravel(option), "every option of a job may travel");
+    if (isReservedName(option.name)) {
+        harness::require(std::ranges::find(kOwnNames, option.name) != kOwnNames.end(),
+                         "a PPD's own option never stands for an attribute of IPP");
+        return;
+    }
+    const bool isCustomPaper =
+        option.name == "PageSize"_L1 && option.value.startsWith("Custom."_L1);
+    const bool isChoiceOfPPD = findChoice(findOption(ppd, option.name), option.value) != nullptr;
+    harness::require(isChoiceOfPPD || isCustomPaper || isKeyOfTicket(option.name),
+                     "what is sent as a choice is an option of the PPD with that choice");
+}
+
+} // namespace
+
+/// A PPD that opens gives a job that may be sent, whatever is picked in it; any other gives a
+/// sentence.
+void harness::ppd(const QByteArray &ppd)
+{
+    const FileDescriptor file = inputFile(ppd);
+    SessionOptions options;
+    options.ppdPath = pathOf(file);
+    options.bundlePath = builtBundle();
+    ScriptedAnswers answers(true);
+    OpenedPrinter printer =
+        openPrinter(options, openPPD(options.ppdPath, PPDTexts::InUserLanguage), {});
+    require((printer.session != nullptr) == printer.error.isNull(),
+            "a PPD opens, or a sentence says why not");
+    if (!printer.session)
+        return;
+    PrintJob job;
+    job.setPrinter({}, std::move(printer));
+    makePicks(job, ppd);
+    job.session()->askShouldPrint();
+    answers.answerSheets();
+    for (const HostPanel &panel : job.session()->panels())
+        job.session()->summary(panel);
+    for (const JobOption &option : job.options().options)
+        checkOption(job.ppd(), option);
+}
