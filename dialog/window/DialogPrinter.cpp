@@ -80,12 +80,11 @@ void DialogWindow::openPPD(const PrinterSource &source, FetchedPrinter &fetched)
     options.ppdPath = path;
     options.bundlePath = m_line.plugIn;
     options.callObserver = [this](const HostCallback::Call &call) { noteAnswer(call); };
-    OpenedPrinter printer =
-        openPrinter(options, std::move(fetched.opened), savedOptions(source.queue),
-                    [this](HostSession &session) {
-                        if (m_recorder && m_recordingError.isNull())
-                            m_recorder->attach(session, &m_recordingError);
-                    });
+    OpenedPrinter printer = openPrinter(options, std::move(fetched.opened),
+                                        savedOptions(source.queue), [this](HostSession &session) {
+                                            if (m_recorder && m_recordingError.isNull())
+                                                m_recorder->attach(session, &m_recordingError);
+                                        });
     const bool isFile = !source.ppdPath.isNull();
     const QString title =
         printer.session ? ppdText(printer.session->ppd()->nickname) : QFileInfo(path).fileName();

@@ -5,8 +5,8 @@
 #include "tests/servers/GoodAnswers.h"
 #include "tests/servers/IppBytes.h"
 #include "tests/servers/ScriptedServer.h"
-#include "tests/support/Documents.h"
 #include "tests/support/CaseName.h"
+#include "tests/support/Documents.h"
 #include "tests/support/QStringPrinting.h"
 
 #include <QtCore/QScopeGuard>

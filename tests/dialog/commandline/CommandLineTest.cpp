@@ -65,12 +65,11 @@ TEST(CommandLine, TakesEveryOption)
                           u"-oD=e"_s,       u"--paper=Custom.100x150mm"_s,
                           u"--output"_s,    u"out"_s,
                           u"--no-dialog"_s, u"--yes"_s,
-                          u"--force"_s,
-                          u"--panel"_s,     u"summary"_s,
-                          u"--record"_s,    u"r"_s,
-                          u"--plug-in"_s,   u"p.bundle"_s,
-                          u"one.pdf"_s,     u"--"_s,
-                          u"-two.pdf"_s});
+                          u"--force"_s,     u"--panel"_s,
+                          u"summary"_s,     u"--record"_s,
+                          u"r"_s,           u"--plug-in"_s,
+                          u"p.bundle"_s,    u"one.pdf"_s,
+                          u"--"_s,          u"-two.pdf"_s});
     EXPECT_TRUE(parsed.error.isNull()) << parsed.error.toStdString();
     const CommandLine &line = parsed.commandLine;
     EXPECT_EQ(line.queue, u"photo"_s);
