@@ -18,6 +18,10 @@ namespace {
 constexpr qsizetype kPicks = 4;
 constexpr qsizetype kBytesPerPick = 3; // which option, which choice, by whom
 
+/// What the user alone settles, and here nobody has.
+constexpr std::array kUnsettled{"copies"_L1, "job-hold-until"_L1, "page-ranges"_L1,
+                                "printer-uri"_L1, "raw"_L1};
+
 /// What the dialog says in the terms of IPP of its own accord.
 constexpr std::array kOwnNames{"fit-to-page"_L1, "print-color-mode"_L1, "print-quality"_L1,
                                "print-scaling"_L1};
@@ -31,7 +35,8 @@ std::vector<ppd_option_t *> optionsOf(ppd_file_t *ppd)
     return options;
 }
 
-/// Few inputs pick in the panels' controls: showing them takes longer than all else.
+/// Few inputs pick in the panels' controls: showing them takes longer than all else. A reserved
+/// keyword there would be the user's own setting.
 void pick(PrintJob &job, const QByteArray &wish)
 {
     const std::vector<ppd_option_t *> options = optionsOf(job.ppd());
@@ -42,7 +47,7 @@ void pick(PrintJob &job, const QByteArray &wish)
     const QString keyword = ppdName(option.keyword);
     const QString choice = ppdName(option.choices[at(1) % option.num_choices].choice);
     Refusal refusal;
-    if (at(2) >= 0xF8)
+    if (at(2) >= 0xF8 && isChoice(job.ppd(), keyword))
         makeSetting(job, keyword, choice, refusal);
     else
         job.mark(keyword, choice);
@@ -63,6 +68,12 @@ bool isKeyOfTicket(const QString &name)
 void checkOption(ppd_file_t *ppd, const JobOption &option)
 {
     harness::require(mayTravel(option), "every option of a job may travel");
+    harness::require(std::ranges::none_of(kUnsettled,
+                                          [&](QLatin1String name) {
+                                              return option.name.compare(name,
+                                                                         Qt::CaseInsensitive) == 0;
+                                          }),
+                     "no PPD says how much is printed, when or where");
     if (isReservedName(option.name)) {
         harness::require(std::ranges::find(kOwnNames, option.name) != kOwnNames.end(),
                          "a PPD's own option never stands for an attribute of IPP");
