@@ -26,11 +26,18 @@ bool isNameCharacter(QChar character)
            character == u'_' || character == u'-';
 }
 
-bool isValueCharacter(QChar character)
+bool isValueCharacter(uint character)
 {
     const bool breaksLine =
         character == QChar::LineSeparator || character == QChar::ParagraphSeparator;
-    return (character.isPrint() || character.isSurrogate()) && !breaksLine;
+    return QChar::isPrint(character) && !breaksLine;
+}
+
+// Half of a surrogate pair would leave as a question mark.
+bool isValue(const QString &value)
+{
+    return !value.isEmpty() && value.isValidUtf16() &&
+           std::ranges::all_of(value.toUcs4(), isValueCharacter);
 }
 
 QList<JobOption> changedChoices(const JobValues &values)
@@ -111,9 +118,7 @@ bool mayTravel(const JobOption &option)
 {
     const bool nameIsGood =
         !option.name.isEmpty() && std::ranges::all_of(option.name, isNameCharacter);
-    const bool valueIsGood =
-        !option.value.isEmpty() && std::ranges::all_of(option.value, isValueCharacter);
-    return nameIsGood && valueIsGood && option.name.size() <= kLongestText &&
+    return nameIsGood && isValue(option.value) && option.name.size() <= kLongestText &&
            option.value.toUtf8().size() <= kLongestText;
 }
 

@@ -1,10 +1,12 @@
 #include "dialog/cups/QueuePPD.h"
 
 #include "dialog/cups/ServerConnection.h"
+#include "dialog/cups/TemporaryFile.h"
 
 #include <QtCore/QCoreApplication>
 
-#include <array>
+#include <cerrno>
+#include <cstring>
 
 namespace {
 
@@ -20,7 +22,7 @@ QString sentence(const char *text)
 
 bool fetch(ServerConnection &connection, const QString &queue, QFile &file)
 {
-    return connection.download(queueResource(queue) + ".ppd", file, kLargestPPD);
+    return connection.download(queueResource(queue) + ".ppd", file, kLargestPPDAnswer);
 }
 
 bool isAbsent(const ServerConnection &connection)
@@ -68,19 +70,26 @@ ServerAnswer failure(const ServerConnection &connection, const QString &queue)
 
 } // namespace
 
+QString QueuePPD::path() const
+{
+    return file ? QStringLiteral("/proc/self/fd/%1").arg(file->get()) : QString();
+}
+
 QueuePPD fetchQueuePPD(const QString &server, const QString &queue, CallGuard &guard)
 {
     ServerConnection connection(server, guard);
-    const auto file = std::make_shared<QTemporaryFile>();
-    if (!file->open())
-        return {nullptr, answerOf({Kind::NotStored, 0, file->errorString(), false},
-                                  connection.serverName(), queue)};
-    bool isFetched = fetch(connection, queue, *file);
+    const auto kept = std::make_shared<const FileDescriptor>(unnamedTemporaryFile());
+    QFile file;
+    if (!kept->isOpen() || !file.open(kept->get(), QIODevice::WriteOnly))
+        return {nullptr,
+                answerOf({Kind::NotStored, 0, QString::fromLocal8Bit(std::strerror(errno)), false},
+                         connection.serverName(), queue)};
+    bool isFetched = fetch(connection, queue, file);
     if (!isFetched && isAbsent(connection)) {
         const QueueLook look = lookAt(connection, queue);
         if (!look.answer.isGood())
             return {nullptr, look.answer};
-        isFetched = !look.firstMember.isNull() && fetch(connection, look.firstMember, *file);
+        isFetched = !look.firstMember.isNull() && fetch(connection, look.firstMember, file);
         if (!isFetched && (look.firstMember.isNull() || isAbsent(connection)))
             return {nullptr,
                     {ServerFault::None,
@@ -88,6 +97,5 @@ QueuePPD fetchQueuePPD(const QString &server, const QString &queue, CallGuard &g
     }
     if (!isFetched)
         return {nullptr, failure(connection, queue)};
-    file->close();
-    return {file, {}};
+    return {kept, {}};
 }

@@ -3,8 +3,9 @@
 #include "dialog/cups/CallGuard.h"
 #include "dialog/cups/ServerFault.h"
 
+#include "dialog/files/FileDescriptor.h"
+
 #include <QtCore/QString>
-#include <QtCore/QTemporaryFile>
 
 #include <memory>
 
@@ -12,8 +13,11 @@
 /// but has no PPD; the sentence says so.
 struct QueuePPD
 {
-    std::shared_ptr<QTemporaryFile> file; ///< closed; goes with the last copy of this
+    std::shared_ptr<const FileDescriptor> file; ///< has no name, and goes with the last copy
     ServerAnswer answer;
+
+    /// Where the file can be opened for as long as a copy of this is there; null without one.
+    QString path() const;
 };
 
 /// Fetches the PPD of the queue from the server (null: the user's usual one), of a class that of

@@ -29,7 +29,7 @@ inline constexpr int kMostValues = 500'000;
 inline constexpr int kDeepestCollection = 16;
 
 /// More than openPPD() takes.
-inline constexpr qint64 kLargestPPD = 16LL * 1024 * 1024;
+inline constexpr qint64 kLargestPPDAnswer = 16LL * 1024 * 1024;
 
 /// Requests sent anew, after an upgrade to TLS or with credentials.
 inline constexpr int kMostAttempts = 3;

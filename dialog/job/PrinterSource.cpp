@@ -20,8 +20,7 @@ void askServer(const PrinterSource &source, CallGuard &guard, FetchedPrinter &fe
     }
     if (!fetched.queue.queue.isEmpty())
         fetched.ppd = fetchQueuePPD(source.server, fetched.queue.queue, guard);
-    if (fetched.ppd.file)
-        fetched.ppdPath = fetched.ppd.file->fileName();
+    fetched.ppdPath = fetched.ppd.path();
 }
 
 } // namespace

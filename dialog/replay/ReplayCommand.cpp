@@ -1,6 +1,7 @@
 #include "dialog/replay/ReplayCommand.h"
 
 #include "dialog/commandline/ExitStatus.h"
+#include "dialog/files/DescriptorPath.h"
 #include "dialog/replay/ReplayScript.h"
 #include "dialog/replay/ReplaySession.h"
 #include "platform/toolkit/PlainText.h"
@@ -9,12 +10,19 @@
 #include <QtCore/QFileInfo>
 #include <QtWidgets/QApplication>
 
+#include <cerrno>
 #include <cstdio>
+#include <cstring>
+#include <fcntl.h>
+#include <optional>
+#include <sys/stat.h>
 #include <unistd.h>
 
 using namespace Qt::StringLiterals;
 
 namespace {
+
+constexpr qint64 kLongestLine = 1'000'000; // bytes
 
 // One line, whatever a file name or a script has in it.
 ExitStatus fail(const QString &what)
@@ -24,12 +32,34 @@ ExitStatus fail(const QString &what)
     return ExitStatus::Usage;
 }
 
-bool openScript(QFile &file, const QString &script)
+/// Why a file of this kind is no script; null when it is one.
+const char *faultOfKind(mode_t mode)
 {
-    if (script == "-"_L1)
-        return file.open(STDIN_FILENO, QIODevice::ReadOnly);
-    file.setFileName(script);
-    return file.open(QIODevice::ReadOnly);
+    if (S_ISREG(mode))
+        return nullptr;
+    return S_ISDIR(mode) ? "it is a folder" : "it is no ordinary file";
+}
+
+/// A named pipe would keep whoever opens it waiting, and a device may have no end.
+QString openByName(QFile &file, const QByteArray &path)
+{
+    const int descriptor = open(path.constData(), O_RDONLY | O_NONBLOCK | O_NOCTTY | O_CLOEXEC);
+    struct stat status = {};
+    if (descriptor < 0 ||
+        !file.open(descriptor, QIODevice::ReadOnly, QFileDevice::AutoCloseHandle) ||
+        fstat(descriptor, &status) != 0)
+        return QString::fromLocal8Bit(std::strerror(errno));
+    return QString::fromLatin1(faultOfKind(status.st_mode));
+}
+
+/// Why it cannot be read; null when it can.
+QString openScript(QFile &file, const QString &script)
+{
+    const std::optional<int> isOpen =
+        script == "-"_L1 ? std::optional<int>(STDIN_FILENO) : descriptorOf(script);
+    if (!isOpen)
+        return openByName(file, QFile::encodeName(script));
+    return file.open(*isOpen, QIODevice::ReadOnly) ? QString() : file.errorString();
 }
 
 QDir folderOf(const QString &script)
@@ -48,11 +78,14 @@ ExitStatus runLines(QFile &file, const QString &name, const QDir &folder, Replay
 {
     for (int number = 1;; ++number) {
         const QString place = u"%1, line %2: "_s.arg(name, QString::number(number));
-        const QByteArray text = file.readLine();
+        // One byte more tells a longer line, and Qt wants another one for its zero.
+        const QByteArray text = file.readLine(kLongestLine + 2);
         if (text.isEmpty() && file.error() != QFileDevice::NoError)
             return fail(place + file.errorString());
         if (text.isEmpty())
             return ExitStatus::Done;
+        if (text.size() > kLongestLine)
+            return fail(place + u"the line has more than %1 bytes"_s.arg(kLongestLine));
         const ReplayLine line = readReplayLine(text, folder);
         if (!line.error.isNull())
             return fail(place + line.error);
@@ -71,9 +104,9 @@ ExitStatus runLines(QFile &file, const QString &name, const QDir &folder, Replay
 int runReplay(const QString &script, const QString &bundlePath, bool force)
 {
     QFile file;
-    if (!openScript(file, script))
-        return exitCode(
-            fail(u"the script %1 cannot be read: %2"_s.arg(script, file.errorString())));
+    const QString fault = openScript(file, script);
+    if (!fault.isNull())
+        return exitCode(fail(u"the script %1 cannot be read: %2"_s.arg(script, fault)));
     const QString name = script == "-"_L1 ? u"standard input"_s : script;
     OutputTerms terms;
     terms.addInput(script);

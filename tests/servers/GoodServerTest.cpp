@@ -35,7 +35,7 @@ TEST(ScriptedServerTest, WithoutAScriptGivesThePPD)
     CallGuard guard;
     const QueuePPD queue = fetchQueuePPD(server.address(), u"photo"_s, guard);
     ASSERT_TRUE(queue.file) << queue.answer.sentence.toStdString();
-    EXPECT_EQ(readFile(queue.file->fileName()), goodPPD());
+    EXPECT_EQ(readFile(queue.path()), goodPPD());
     EXPECT_EQ(server.requests(), QStringList{u"GET /printers/photo.ppd"_s});
 }
 

@@ -82,7 +82,7 @@ PrintServer *Server::s_server = nullptr;
 
 QString nickname(const QueuePPD &queue)
 {
-    const OpenedPPD opened = openPPD(queue.file->fileName());
+    const OpenedPPD opened = openPPD(queue.path());
     return opened.ppd ? ppdText(opened.ppd->nickname) : opened.error;
 }
 
@@ -135,18 +135,16 @@ TEST_F(Server, ListsTheUsersInstancesBehindTheirQueues)
     EXPECT_EQ(usual, u"photo/Large"_s);
 }
 
-TEST_F(Server, GivesThePPDOfAQueueAndLeavesNoFileBehind)
+TEST_F(Server, GivesThePPDOfAQueueInAFileWithoutAName)
 {
     // A folder of its own: everybody writes into the common one.
     const QByteArray common = qgetenv("TMPDIR");
     const auto restore = qScopeGuard(
         [&common] { common.isNull() ? qunsetenv("TMPDIR") : qputenv("TMPDIR", common); });
     qputenv("TMPDIR", m_folder.path().toLocal8Bit());
-    QueuePPD queue = fetchQueuePPD(s_server->address(), u"photo"_s, m_guard);
+    const QueuePPD queue = fetchQueuePPD(s_server->address(), u"photo"_s, m_guard);
     ASSERT_TRUE(queue.file) << queue.answer.sentence.toStdString();
     EXPECT_EQ(nickname(queue), u"Velkaro PX-T900, 1.0"_s);
-    EXPECT_EQ(QFileInfo(queue.file->fileName()).path(), m_folder.path());
-    queue.file.reset();
     EXPECT_EQ(QDir(m_folder.path()).entryList(QDir::Files), QStringList());
 }
 

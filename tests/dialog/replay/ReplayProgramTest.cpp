@@ -11,6 +11,8 @@
 
 #include <gtest/gtest.h>
 
+#include <sys/stat.h>
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -156,6 +158,33 @@ TEST_F(ReplayProgram, AFolderIsNoScript)
     EXPECT_EQ(result.status, 2);
     EXPECT_EQ(result.error.count(u'\n'), 1);
     EXPECT_TRUE(result.error.startsWith(u"velkaro-print: "_s)) << result.error.toStdString();
+}
+
+TEST_F(ReplayProgram, ANamedPipeIsNoScript)
+{
+    ASSERT_EQ(mkfifo(QFile::encodeName(path(u"pipe"_s)).constData(), 0600), 0);
+    const Result result = runProgram({u"--replay"_s, u"pipe"_s}, m_folder.path());
+    EXPECT_EQ(result.status, 2);
+    EXPECT_EQ(result.error,
+              u"velkaro-print: the script pipe cannot be read: it is no ordinary file\n"_s);
+}
+
+TEST_F(ReplayProgram, ADeviceIsNoScript)
+{
+    const Result result = runProgram({u"--replay"_s, u"/dev/zero"_s}, m_folder.path());
+    EXPECT_EQ(result.status, 2);
+    EXPECT_EQ(result.error,
+              u"velkaro-print: the script /dev/zero cannot be read: it is no ordinary file\n"_s);
+}
+
+TEST_F(ReplayProgram, ALineMayHaveAMillionBytes)
+{
+    const QByteArray comment = '#' + QByteArray(999'998, 'x') + '\n';
+    EXPECT_EQ(replay(comment).status, 0);
+    const Result longer = replay('#' + comment);
+    EXPECT_EQ(longer.status, 2);
+    EXPECT_EQ(longer.error,
+              u"velkaro-print: the.jsonl, line 1: the line has more than 1000000 bytes\n"_s);
 }
 
 TEST_F(ReplayProgram, ALineBreakInANameStaysOnOneLine)
