@@ -1,6 +1,7 @@
 #include "dialog/cups/DocumentFile.h"
 #include "dialog/cups/JobFileReader.h"
 #include "dialog/cups/OutgoingText.h"
+#include "dialog/files/FileDescriptor.h"
 #include "dialog/files/PathBytes.h"
 #include "dialog/job/PrintJob.h"
 #include "tests/fuzz/Harnesses.h"
@@ -9,6 +10,7 @@
 
 #include <algorithm>
 #include <fcntl.h>
+#include <unistd.h>
 
 using namespace Qt::StringLiterals;
 

@@ -1,3 +1,4 @@
+#include "dialog/cups/JobOptions.h"
 #include "dialog/cups/ReservedNames.h"
 #include "dialog/job/PrintJob.h"
 #include "dialog/job/ScriptedAnswers.h"
