@@ -80,7 +80,7 @@ QueuePPD fetchQueuePPD(const QString &server, const QString &queue, CallGuard &g
     ServerConnection connection(server, guard);
     const auto kept = std::make_shared<const FileDescriptor>(unnamedTemporaryFile());
     QFile file;
-    if (!kept->isOpen() || !file.open(kept->get(), QIODevice::WriteOnly))
+    if (!kept->isOpen() || !file.open(kept->get(), QIODevice::WriteOnly | QIODevice::Unbuffered))
         return {nullptr,
                 answerOf({Kind::NotStored, 0, QString::fromLocal8Bit(std::strerror(errno)), false},
                          connection.serverName(), queue)};
