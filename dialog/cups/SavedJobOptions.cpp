@@ -9,7 +9,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr std::array kNever{"job-uri"_L1, "printer-uri"_L1, "raw"_L1};
+constexpr std::array kNever{"document-format"_L1, "job-uri"_L1, "printer-uri"_L1, "raw"_L1};
 
 constexpr std::array kSettings{
     // The dialog's own.

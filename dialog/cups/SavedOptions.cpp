@@ -1,6 +1,7 @@
 #include "dialog/cups/SavedOptions.h"
 
 #include <QtCore/QFile>
+#include <QtCore/QFileInfo>
 #include <QtCore/QStringList>
 
 #include <cups/cups.h>
@@ -26,7 +27,8 @@ QList<SavedLine> savedLines()
     QList<SavedLine> lines;
     for (const QString &path : lpoptionsFiles()) {
         QFile file(path);
-        if (!file.open(QIODevice::ReadOnly))
+        // A pipe would keep whoever opens it waiting.
+        if (!QFileInfo(path).isFile() || !file.open(QIODevice::ReadOnly))
             continue;
         while (!file.atEnd()) {
             const SavedLine line = parseSavedLine(file.readLine());

@@ -74,3 +74,9 @@ void EndSignals::act()
     if (const std::function<void()> action = m_action)
         action();
 }
+
+void ignoreEndSignals()
+{
+    for (const int number : {SIGHUP, SIGINT, SIGTERM})
+        std::signal(number, SIG_IGN);
+}

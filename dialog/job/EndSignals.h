@@ -34,3 +34,7 @@ private:
     std::unique_ptr<QSocketNotifier> m_notifier;
     std::array<struct sigaction, kSignals.size()> m_former{};
 };
+
+/// From now on those signals do nothing: what the program was to do is done, and its exit status
+/// says how.
+void ignoreEndSignals();

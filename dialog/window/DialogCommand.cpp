@@ -69,6 +69,7 @@ int runDialogCommand(int &argc, char **argv, const CommandLine &line)
     QApplication::setApplicationDisplayName(
         QCoreApplication::translate("DialogWindow", "Velkaro Print"));
     const ExitStatus status = run(line);
+    ignoreEndSignals();
     waitForServerThreads(kPatienceAtTheEnd);
     return exitCode(status);
 }

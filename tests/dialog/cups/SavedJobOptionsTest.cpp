@@ -46,9 +46,9 @@ INSTANTIATE_TEST_SUITE_P(
     testing::Values(
         // what IPP says of a job, in whatever case
         Row{OptionOrigin::Foreign,
-            {u"job-name"_s, u"Job-Name"_s, u"job-cancel-after"_s, u"document-format"_s,
-             u"Document-Format"_s, u"requesting-user-name"_s, u"notify-recipient-uri"_s,
-             u"printer-info"_s, u"PRINTER-URI-SUPPORTED"_s, u"media-col"_s, u"auth-info"_s}},
+            {u"job-name"_s, u"Job-Name"_s, u"job-cancel-after"_s, u"requesting-user-name"_s,
+             u"notify-recipient-uri"_s, u"printer-info"_s, u"PRINTER-URI-SUPPORTED"_s,
+             u"media-col"_s, u"auth-info"_s}},
         // the platform's own keys
         Row{OptionOrigin::Foreign,
             {u"com.apple.print.PageToPaperMappingMediaName"_s, u"COM.APPLE.x"_s}},
@@ -58,6 +58,7 @@ INSTANTIATE_TEST_SUITE_P(
 INSTANTIATE_TEST_SUITE_P(Never, SavedJobOption,
                          testing::Values(Row{OptionOrigin::Never,
                                              {u"raw"_s, u"RAW"_s, u"printer-uri"_s,
-                                              u"Printer-URI"_s, u"job-uri"_s}}));
+                                              u"Printer-URI"_s, u"job-uri"_s, u"document-format"_s,
+                                              u"Document-Format"_s}}));
 
 } // namespace

@@ -12,6 +12,9 @@
 
 #include <gtest/gtest.h>
 
+#include <sys/stat.h>
+#include <unistd.h>
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -53,6 +56,15 @@ TEST_F(SavedOptions, OfAnInstanceLieAboveThoseOfItsQueue)
                                 {u"PageSize"_s, u"A4.Fullbleed"_s},
                                 {u"VKMediaType"_s, u"Glossy"_s}}));
     EXPECT_EQ(savedOptions({u"nobody"_s, {}}), QList<JobOption>());
+}
+
+TEST_F(SavedOptions, AreNoneInAPipeThatNobodyWritesTo)
+{
+    writeUser("");
+    const QByteArray file = qgetenv("HOME") + "/.cups/lpoptions";
+    ASSERT_EQ(unlink(file.constData()), 0);
+    ASSERT_EQ(mkfifo(file.constData(), 0600), 0);
+    EXPECT_EQ(savedOptions({u"photo"_s, {}}), QList<JobOption>());
 }
 
 TEST_F(SavedOptions, AreNoneWithoutFiles)

@@ -57,6 +57,14 @@ TEST_P(EndSignal, ThatWasIgnoredStaysSo)
     EXPECT_FALSE(EndSignals::haveCome());
 }
 
+TEST_P(EndSignal, WhenAllIsDoneChangesNothing)
+{
+    ignoreEndSignals();
+    g_formerCalls = 0;
+    std::raise(GetParam());
+    EXPECT_EQ(g_formerCalls, 0);
+}
+
 TEST_P(EndSignal, ForTheSecondTimeEndsTheProgram)
 {
     EXPECT_EXIT(
