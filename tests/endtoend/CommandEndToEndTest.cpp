@@ -68,6 +68,17 @@ TEST_F(Command, AChoiceArrivesInTheJobAndInThePrinter)
     EXPECT_FALSE(printed().contains("%% VKMediaType=Plain"));
 }
 
+TEST_F(Command, ARecordingOnAQueueKeepsItsPPDAndCanBeReplayed)
+{
+    const QString script = inFolder(u"session.jsonl"_s);
+    const ProgramRun run = print({u"--record"_s, script, u"-o"_s, u"VKMediaType=Glossy"_s});
+    EXPECT_EQ(run.status, 0) << run.errors.toStdString();
+    EXPECT_TRUE(readFile(inFolder(u"session.ppd"_s)).contains("*NickName: \"Velkaro PX-T900"));
+    const ProgramRun replay = runProgram({u"--replay"_s, script});
+    EXPECT_EQ(replay.status, 0) << replay.errors.toStdString();
+    EXPECT_TRUE(replay.output.contains(u"\"VKMediaType\":\"Glossy\""_s));
+}
+
 TEST_F(Command, TwoSidedPlainPaperArrivesAsTheTwoSidedMedium)
 {
     ASSERT_EQ(print({u"-o"_s, u"Duplex=DuplexNoTumble"_s}).status, 0);
