@@ -28,8 +28,7 @@ OutputVerdict verdictAt(const QString &path, const OutputTerms &terms);
 /// A file that is being written, whole or not at all: what stood at its path stays until commit(),
 /// and for good when that fails or is not reached.
 ///
-/// The order of calls: open(), write(), commit(). Paths are as pathOfBytes() gives
-/// them;
+/// The order of calls: open(), write(), commit(). Paths are as pathOfBytes() gives them;
 /// "/dev/stdout", "/dev/stderr", "/dev/fd/N" and "/proc/self/fd/N" are files that are open already.
 class OutputFile
 {

@@ -487,6 +487,10 @@
         <source>The server has ended job %1 with errors (%2).</source>
         <translation>サーバーでジョブ %1 がエラーで終了しました（%2）。</translation>
     </message>
+    <message>
+        <source>Whether the server keeps all settings of job %1 is not known: its account of the job cannot be read.</source>
+        <translation>ジョブ %1 の設定がサーバーにすべて保たれているかどうかは分かりません。サーバーの返したジョブの情報を読み取れませんでした。</translation>
+    </message>
 </context>
 <context>
     <name>JobSettlement</name>
