@@ -5,7 +5,7 @@
 #include "colorsettings/rules/EffectTable.h"
 #include "panel/TicketValue.h"
 #include "platform/imaging/CIFilter.h"
-#include "platform/pde/PPDText.h"
+#include "platform/ppd/PPDText.h"
 #include "platform/printmanager/PMPrintSettings.h"
 
 using namespace Qt::StringLiterals;

@@ -1,7 +1,7 @@
 #include "colorsettings/VKInkColorSettingPDE.h"
 
 #include "colorsettings/rules/ColorRules.h"
-#include "platform/pde/PPDText.h"
+#include "platform/ppd/PPDText.h"
 
 using namespace Qt::StringLiterals;
 

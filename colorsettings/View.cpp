@@ -2,12 +2,12 @@
 
 #include "colorsettings/rules/EffectTable.h"
 #include "panel/TicketValue.h"
-#include "platform/pde/PPDText.h"
+#include "platform/ppd/PPDText.h"
+#include "platform/toolkit/AccessibleName.h"
 #include "platform/toolkit/ImageView.h"
 #include "platform/toolkit/NumberField.h"
 #include "platform/toolkit/PlainLabel.h"
 #include "platform/toolkit/PlainText.h"
-#include "platform/toolkit/SpokenName.h"
 
 #include <QtWidgets/QAbstractButton>
 #include <QtWidgets/QLabel>
@@ -67,9 +67,9 @@ void VKInkColorSettingPDE::titleSection()
     if (optionLabel && !title.isNull())
         setLabelText(optionLabel, title);
     if (optionButton)
-        setSpokenName(optionButton, title);
+        giveAccessibleName(optionButton, title);
     if (effectImageView)
-        setSpokenName(effectImageView, localized("Preview"));
+        giveAccessibleName(effectImageView, localized("Preview"));
     QWidget *view = inspectedView();
     // The text of the view resource is in one language only.
     if (auto *button = view ? view->findChild<QAbstractButton *>(u"revertButton"_s) : nullptr)
@@ -98,7 +98,7 @@ void VKInkColorSettingPDE::nameControls()
         const ppd_option_t *option = findOption(ppd, keyword);
         QWidget *control = determineUI(keyword);
         if (control && option)
-            setSpokenName(control, ppdText(option->text));
+            giveAccessibleName(control, ppdText(option->text));
     }
     const QWidget *view = inspectedView();
     const auto parts = view ? view->findChildren<QWidget *>() : QList<QWidget *>();
@@ -106,7 +106,7 @@ void VKInkColorSettingPDE::nameControls()
         // A slider and its field are bound to the same value.
         const QString keyword = part->property("bind.value").toString();
         if (const QLabel *label = effectLabel(keyword))
-            setSpokenName(part, label->text());
+            giveAccessibleName(part, label->text());
     }
 }
 

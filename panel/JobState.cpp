@@ -1,7 +1,7 @@
 #include "panel/VKPrintQualityPDE.h"
 
 #include "panel/TicketValue.h"
-#include "platform/pde/PPDText.h"
+#include "platform/ppd/PPDText.h"
 #include "platform/printmanager/PMPrintSettings.h"
 
 #include <QtWidgets/QAbstractButton>

@@ -2,7 +2,7 @@
 
 #include "platform/foundation/Bundle.h"
 #include "platform/foundation/NotificationCenter.h"
-#include "platform/pde/PPDText.h"
+#include "platform/ppd/PPDText.h"
 #include "platform/printmanager/PMPrintSettings.h"
 
 namespace {

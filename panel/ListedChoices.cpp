@@ -1,6 +1,6 @@
 #include "panel/ListedChoices.h"
 
-#include "platform/pde/PPDText.h"
+#include "platform/ppd/PPDText.h"
 
 bool isListedChoice(const QString &name, const QString &text)
 {

@@ -4,13 +4,13 @@
 #include "panel/ListedChoices.h"
 #include "platform/foundation/Bundle.h"
 #include "platform/foundation/NotificationCenter.h"
-#include "platform/pde/PPDText.h"
+#include "platform/ppd/PPDText.h"
+#include "platform/toolkit/AccessibleName.h"
 #include "platform/toolkit/ControlColor.h"
 #include "platform/toolkit/KeyWindow.h"
 #include "platform/toolkit/PlainLabel.h"
 #include "platform/toolkit/PlainText.h"
 #include "platform/toolkit/RadioMatrix.h"
-#include "platform/toolkit/SpokenName.h"
 
 #include <QtWidgets/QAbstractButton>
 #include <QtWidgets/QGroupBox>
@@ -120,7 +120,7 @@ void VKPrintQualityPDE::titleLabel(const QString &keyword, const QString &text)
     else if (auto *box = qobject_cast<QGroupBox *>(label))
         box->setTitle(withoutMnemonic(text));
     if (QWidget *control = determineUI(keyword))
-        setSpokenName(control, text);
+        giveAccessibleName(control, text);
 }
 
 void VKPrintQualityPDE::updateUI()

@@ -1,7 +1,7 @@
 #include "panel/VKPrintQualityPDE.h"
 
 #include "panel/ControlValue.h"
-#include "platform/pde/PPDText.h"
+#include "platform/ppd/PPDText.h"
 
 using namespace Qt::StringLiterals;
 

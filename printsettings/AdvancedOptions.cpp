@@ -1,7 +1,7 @@
 #include "printsettings/VKInkPrintSetting14PDE.h"
 
-#include "platform/pde/PPDText.h"
-#include "platform/toolkit/SpokenName.h"
+#include "platform/ppd/PPDText.h"
+#include "platform/toolkit/AccessibleName.h"
 #include "printsettings/rules/AdvancedGroups.h"
 
 #include <QtWidgets/QAbstractButton>
@@ -48,7 +48,7 @@ void VKInkPrintSetting14PDE::initializeAdvOption(const QList<QWidget *> &parts)
     const QString title = localized("advancedItem");
     advanced_.finish(title);
     if (optionButton)
-        setSpokenName(optionButton, title);
+        giveAccessibleName(optionButton, title);
     advanced_.fitColumn(parts);
 }
 

@@ -1,7 +1,7 @@
 #include "printsettings/AdvancedSection.h"
 
+#include "platform/toolkit/AccessibleName.h"
 #include "platform/toolkit/PlainLabel.h"
-#include "platform/toolkit/SpokenName.h"
 #include "platform/toolkit/ViewConnections.h"
 
 #include <QtWidgets/QLabel>
@@ -42,7 +42,7 @@ void AdvancedSection::finish(const QString &title)
     if (optionLabel)
         setLabelText(optionLabel, title);
     if (advancedTableView)
-        setSpokenName(advancedTableView, title);
+        giveAccessibleName(advancedTableView, title);
 }
 
 void AdvancedSection::fitColumn(const QList<QWidget *> &parts)

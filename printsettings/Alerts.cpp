@@ -1,7 +1,7 @@
 #include "printsettings/VKInkPrintSetting14PDE.h"
 
 #include "platform/foundation/Bundle.h"
-#include "platform/pde/PPDText.h"
+#include "platform/ppd/PPDText.h"
 #include "platform/toolkit/ModalSession.h"
 
 using namespace Qt::StringLiterals;

@@ -1,7 +1,7 @@
 #include "printsettings/VKInkPrintSetting14PDE.h"
 
 #include "platform/foundation/PreferredLanguages.h"
-#include "platform/pde/PPDText.h"
+#include "platform/ppd/PPDText.h"
 #include "printsettings/rules/ModelClass.h"
 
 #include <QtWidgets/QCheckBox>

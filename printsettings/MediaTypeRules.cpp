@@ -1,7 +1,7 @@
 #include "printsettings/VKInkPrintSetting14PDE.h"
 
 #include "platform/foundation/NotificationCenter.h"
-#include "platform/pde/PPDText.h"
+#include "platform/ppd/PPDText.h"
 #include "platform/toolkit/PopUpButton.h"
 #include "printsettings/rules/DefaultChoices.h"
 #include "printsettings/rules/MediaQuality.h"

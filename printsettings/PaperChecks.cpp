@@ -1,6 +1,6 @@
 #include "printsettings/VKInkPrintSetting14PDE.h"
 
-#include "platform/pde/PPDText.h"
+#include "platform/ppd/PPDText.h"
 #include "platform/printmanager/PMPrintSettings.h"
 #include "printsettings/JobPaper.h"
 #include "printsettings/rules/CustomSizes.h"

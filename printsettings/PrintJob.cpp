@@ -1,6 +1,6 @@
 #include "printsettings/VKInkPrintSetting14PDE.h"
 
-#include "platform/pde/PPDText.h"
+#include "platform/ppd/PPDText.h"
 #include "printsettings/rules/TwoSidedMedium.h"
 
 using namespace Qt::StringLiterals;

@@ -14,7 +14,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int kPatience = 20000; // ms
+constexpr int kTimeout = 20000;  // ms
 constexpr int kNeverFilled = 99; // exit status
 
 /// A pop-up of each panel that every printer has; the last one is of the panel that is shown last.
@@ -35,7 +35,7 @@ public:
     FilledWatch()
     {
         qApp->installEventFilter(this);
-        QTimer::singleShot(kPatience, this, [] { std::_Exit(kNeverFilled); });
+        QTimer::singleShot(kTimeout, this, [] { std::_Exit(kNeverFilled); });
     }
 
     bool eventFilter(QObject *watched, QEvent *event) override

@@ -5,7 +5,7 @@
 #include "bench/support/DialogStage.h"
 #include "bench/support/Timing.h"
 #include "dialog/window/DialogWindow.h"
-#include "platform/pde/PPDText.h"
+#include "platform/ppd/PPDText.h"
 #include "platform/toolkit/PopUpButton.h"
 
 #include <QtCore/QAbstractEventDispatcher>

@@ -3,9 +3,9 @@
 // private cupsd, in turn.
 #include "bench/support/ProcessCost.h"
 #include "bench/support/Timing.h"
-#include "dialog/cups/DocumentFile.h"
 #include "dialog/cups/JobSubmission.h"
-#include "dialog/cups/ServerCall.h"
+#include "dialog/job/DocumentFile.h"
+#include "dialog/work/BackgroundCall.h"
 #include "tests/built/BuiltFiles.h"
 #include "tests/printserver/PrintServer.h"
 
@@ -48,8 +48,8 @@ bool submitByLibcups(const JobRequest &job)
 
 bool submitByDialog(const JobRequest &job)
 {
-    const auto receipt = waitForServer<JobReceipt>(
-        kServerPatience, [job](CallGuard &guard) { return submitJob(job, guard); });
+    const auto receipt = waitForCall<JobReceipt>(
+        kServerTimeout, [job](CallGuard &guard) { return submitJob(job, guard); });
     return receipt && receipt->answer.isGood();
 }
 

@@ -5,7 +5,7 @@
 
 namespace {
 
-constexpr int kPatience = 20000; // ms
+constexpr int kTimeout = 20000; // ms
 
 } // namespace
 
@@ -19,7 +19,7 @@ DisplayServer::DisplayServer()
 DisplayServer::~DisplayServer()
 {
     m_process.terminate(); // by its process id
-    m_process.waitForFinished(kPatience);
+    m_process.waitForFinished(kTimeout);
 }
 
 // The server picks a number that is free, and says it when clients may connect.
@@ -32,7 +32,7 @@ bool DisplayServer::start()
                      QStringLiteral("0"), QStringLiteral("1280x1024x24"),
                      QStringLiteral("-nolisten"), QStringLiteral("tcp")});
     while (!m_process.canReadLine())
-        if (!m_process.waitForReadyRead(kPatience))
+        if (!m_process.waitForReadyRead(kTimeout))
             return false;
     m_name = ':' + m_process.readLine().trimmed();
     return true;

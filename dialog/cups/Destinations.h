@@ -1,8 +1,8 @@
 #pragma once
 
-#include "dialog/cups/CallGuard.h"
-#include "dialog/cups/SavedOptions.h"
-#include "dialog/cups/ServerFault.h"
+#include "dialog/job/SavedOptions.h"
+#include "dialog/work/CallGuard.h"
+#include "dialog/work/ServerFault.h"
 
 #include <QtCore/QList>
 #include <QtCore/QString>
@@ -28,7 +28,7 @@ struct DestinationList
 
 /// Every queue and class of the server (null: the user's usual one), with the user's instances.
 /// Printers that announce themselves in the network and have no queue on the server are not among
-/// them: there is nothing to print to by that name. Blocks: call it in a ServerCall.
+/// them: there is nothing to print to by that name. Blocks: call it in a BackgroundCall.
 DestinationList listDestinations(const QString &server, CallGuard &guard);
 
 /// The queues of an answer that is already here, in order; none of them is marked as default.
@@ -41,5 +41,5 @@ struct DefaultQueue
     ServerAnswer answer;
 };
 
-/// Asks the server. Blocks: call it in a ServerCall.
+/// Asks the server. Blocks: call it in a BackgroundCall.
 DefaultQueue serverDefault(const QString &server, CallGuard &guard);

@@ -89,7 +89,7 @@ QStringList readJobBack(ServerConnection &connection, const QString &queue, int 
                         const QList<JobOption> &sent)
 {
     const IppHandle job = connection.request(jobRequest(queue, jobId, sent), queueResource(queue),
-                                             kPatiencesPerReadBack);
+                                             kTimeoutsPerReadBack);
     if (job)
         return connection.succeeded() ? differences(job.get(), jobId, sent) : QStringList();
     return {sentence(QT_TRANSLATE_NOOP("JobReadBack", "Whether the server keeps all settings of "

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "dialog/cups/JobOption.h"
 #include "dialog/cups/ServerConnection.h"
+#include "dialog/job/JobOption.h"
 
 #include <QtCore/QList>
 #include <QtCore/QStringList>

@@ -1,6 +1,6 @@
 #include "dialog/cups/JobSending.h"
 
-#include "dialog/cups/OutgoingText.h"
+#include "dialog/job/OutgoingText.h"
 
 namespace {
 

@@ -97,20 +97,20 @@ ServerAnswer perhapsPrinted(const QString &server, int id)
                 .arg(server, QString::number(id))};
 }
 
-// On connections of their own: the old one may be in the middle of a document. Half of the patience
+// On connections of their own: the old one may be in the middle of a document. Half of the timeout
 // to connect and half to answer: whoever waits for the guard is not out of it.
 void settle(JobReceipt &receipt, Sent sent, const JobRequest &request, JobProgress &progress,
             CallGuard &guard)
 {
     if (sent == Sent::Lost && !guard.isCancelled()) {
         guard.stampSignOfLife();
-        CallGuard looking(guard.patience() / 2);
+        CallGuard looking(guard.timeout() / 2);
         ServerConnection connection(request.server, looking);
         if (lookForAnswer(receipt, connection, request, progress))
             return;
     }
     guard.stampSignOfLife();
-    CallGuard cancelling(guard.patience() / 2);
+    CallGuard cancelling(guard.timeout() / 2);
     ServerConnection connection(request.server, cancelling);
     cancel(receipt, connection, sent, request, progress);
 }

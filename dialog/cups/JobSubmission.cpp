@@ -2,7 +2,7 @@
 
 #include "dialog/cups/JobSettlement.h"
 #include "dialog/cups/OptionAttribute.h"
-#include "dialog/cups/OutgoingText.h"
+#include "dialog/job/OutgoingText.h"
 
 namespace {
 

@@ -1,26 +1,14 @@
 #pragma once
 
-#include "dialog/cups/CallGuard.h"
-#include "dialog/cups/Document.h"
-#include "dialog/cups/JobOption.h"
-#include "dialog/cups/JobProgress.h"
-#include "dialog/cups/ServerFault.h"
+#include "dialog/job/JobProgress.h"
+#include "dialog/job/JobRequest.h"
+#include "dialog/work/CallGuard.h"
+#include "dialog/work/ServerFault.h"
 
-#include <QtCore/QList>
 #include <QtCore/QString>
 #include <QtCore/QStringList>
 
 #include <memory>
-
-/// A job as it is handed to a server.
-struct JobRequest
-{
-    QString server; ///< null: the user's usual one
-    QString queue;
-    QString title;
-    QList<JobOption> options;
-    Documents documents; ///< at least one, no pipe among them
-};
 
 /// What became of a job. Without a fault it has been accepted, and `id` is its number.
 struct JobReceipt
@@ -34,7 +22,7 @@ struct JobReceipt
 
 /// Creates the job, sends its documents, and reads the job back to compare it with what was sent.
 /// A job whose documents did not all arrive is cancelled: nothing half is printed. Blocks: call it
-/// in a ServerCall.
+/// in a BackgroundCall.
 ///
 /// Where the answer to the last document is late or lost, the server is asked for the job: it is
 /// accepted when the server has all of it, and ServerFault::Unsettled when that cannot be known. It

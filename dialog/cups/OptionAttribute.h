@@ -1,6 +1,6 @@
 #pragma once
 
-#include "dialog/cups/JobOption.h"
+#include "dialog/job/JobOption.h"
 
 #include <cups/cups.h>
 

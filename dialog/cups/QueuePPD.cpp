@@ -1,7 +1,7 @@
 #include "dialog/cups/QueuePPD.h"
 
 #include "dialog/cups/ServerConnection.h"
-#include "dialog/cups/TemporaryFile.h"
+#include "dialog/files/TemporaryFile.h"
 
 #include <QtCore/QCoreApplication>
 

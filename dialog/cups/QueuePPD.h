@@ -1,7 +1,7 @@
 #pragma once
 
-#include "dialog/cups/CallGuard.h"
-#include "dialog/cups/ServerFault.h"
+#include "dialog/work/CallGuard.h"
+#include "dialog/work/ServerFault.h"
 
 #include "dialog/files/FileDescriptor.h"
 
@@ -22,5 +22,5 @@ struct QueuePPD
 
 /// Fetches the PPD of the queue from the server (null: the user's usual one), of a class that of
 /// its first member. The queue is asked for by name, nothing is listed. Blocks: call it in a
-/// ServerCall.
+/// BackgroundCall.
 QueuePPD fetchQueuePPD(const QString &server, const QString &queue, CallGuard &guard);

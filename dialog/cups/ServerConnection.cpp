@@ -1,6 +1,6 @@
 #include "dialog/cups/ServerConnection.h"
 
-#include "dialog/cups/OutgoingText.h"
+#include "dialog/job/OutgoingText.h"
 
 #include <QtCore/QBuffer>
 #include <QtCore/QByteArray>
@@ -56,8 +56,8 @@ ServerConnection::ServerConnection(const QString &server, CallGuard &guard)
 bool ServerConnection::connectAnew()
 {
     m_isSpent = false;
-    const int patience = static_cast<int>(m_guard.patience().count());
-    if (httpReconnect2(m_http.get(), qMin(patience, kLongestConnect), m_guard.cancelFlag()) != 0)
+    const int timeout = static_cast<int>(m_guard.timeout().count());
+    if (httpReconnect2(m_http.get(), qMin(timeout, kLongestConnect), m_guard.cancelFlag()) != 0)
         return false;
     m_watch.watch(httpGetFd(m_http.get()));
     m_guard.stampSignOfLife();
@@ -70,7 +70,7 @@ void ServerConnection::endBy(Kind kind, int status)
     m_end.status = status;
     if (m_guard.isCancelled())
         m_end.kind = Kind::Cancelled;
-    else if (m_http && m_guard.isOutOfPatience())
+    else if (m_http && m_guard.hasTimedOut())
         m_end.kind = Kind::Silent;
     else if (m_http && m_guard.isOutOfTime())
         m_end.kind = Kind::TooSlow;
@@ -90,7 +90,7 @@ void ServerConnection::endByTransport()
 }
 
 /// Makes sure of a connection for a request and all of its answer.
-bool ServerConnection::begin(int patiences)
+bool ServerConnection::begin(int timeouts)
 {
     m_end = {};
     if (!m_http || !m_guard.mayWait()) {
@@ -98,7 +98,7 @@ bool ServerConnection::begin(int patiences)
         return false;
     }
     m_guard.stampSignOfLife();
-    m_guard.limitTime(patiences);
+    m_guard.limitTime(timeouts);
     // What can be read before anything was asked is the end of the connection.
     const bool isOver = m_isSpent || closesConnection(m_http.get()) || httpWait(m_http.get(), 0);
     if (!isOver || connectAnew())
@@ -162,9 +162,9 @@ int ServerConnection::goAhead()
     return httpWait(m_http.get(), kGoAheadWait) ? httpUpdate(m_http.get()) : HTTP_STATUS_CONTINUE;
 }
 
-IppHandle ServerConnection::request(IppHandle request, const QByteArray &resource, int patiences)
+IppHandle ServerConnection::request(IppHandle request, const QByteArray &resource, int timeouts)
 {
-    if (!begin(patiences))
+    if (!begin(timeouts))
         return {};
     m_end.isAboutJob = ippFindAttribute(request.get(), "job-id", IPP_TAG_INTEGER) != nullptr;
     return readAnswer(ask("POST", resource, [&]() -> int {
@@ -174,7 +174,7 @@ IppHandle ServerConnection::request(IppHandle request, const QByteArray &resourc
 
 bool ServerConnection::beginUpload(const IppHandle &request, const QByteArray &resource)
 {
-    if (!begin(kPatiencesPerExchange))
+    if (!begin(kTimeoutsPerExchange))
         return false;
     m_end.isAboutJob = true;
     const int status = ask("POST", resource, [&]() -> int {
@@ -197,7 +197,7 @@ bool ServerConnection::upload(const char *data, qint64 size)
     m_guard.stampSignOfLife();
     if (!httpWait(m_http.get(), 0))
         return true;
-    m_guard.limitTime(kPatiencesPerExchange);
+    m_guard.limitTime(kTimeoutsPerExchange);
     const int status = httpUpdate(m_http.get());
     if (status == HTTP_STATUS_CONTINUE)
         m_guard.unlimitTime();
@@ -215,15 +215,15 @@ void ServerConnection::takeRefusal(int status)
 
 IppHandle ServerConnection::endUpload()
 {
-    m_guard.expectSilence(kPatiencesAfterDocument);
-    m_guard.limitTime(kPatiencesPerExchange);
+    m_guard.expectSilence(kTimeoutsAfterDocument);
+    m_guard.limitTime(kTimeoutsPerExchange);
     const bool isSent = httpWrite2(m_http.get(), "", 0) >= 0; // the last chunk
     return readAnswer(isSent ? status() : HTTP_STATUS_ERROR);
 }
 
 bool ServerConnection::download(const QByteArray &resource, QFile &file, qint64 largest)
 {
-    if (!begin(kPatiencesPerPPD))
+    if (!begin(kTimeoutsPerPPD))
         return false;
     bool isFetched = false;
     const int answered = ask("GET", resource, [&]() -> int {

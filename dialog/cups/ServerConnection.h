@@ -1,12 +1,12 @@
 #pragma once
 
 #include "dialog/cups/AnswerBody.h"
-#include "dialog/cups/CallGuard.h"
 #include "dialog/cups/IppAnswer.h"
-#include "dialog/cups/ServerFault.h"
 #include "dialog/cups/ServerLimits.h"
 #include "dialog/cups/ServerSentences.h"
 #include "dialog/cups/SocketWatch.h"
+#include "dialog/work/CallGuard.h"
+#include "dialog/work/ServerFault.h"
 
 #include <QtCore/QFile>
 #include <QtCore/QString>
@@ -46,7 +46,7 @@ public:
     /// none. An answer that is whole counts, whatever became of the connection after it. Takes the
     /// request.
     IppHandle request(IppHandle request, const QByteArray &resource,
-                      int patiences = kPatiencesPerExchange);
+                      int timeouts = kTimeoutsPerExchange);
 
     /// The same of a request that data follow: first the request, then the data in any number of
     /// parts, then the answer. After a false one, nothing more of it is to be sent.
@@ -69,7 +69,7 @@ public:
 
 private:
     bool connectAnew();
-    bool begin(int patiences);
+    bool begin(int timeouts);
     int ask(const char *method, const QByteArray &resource, const std::function<int()> &send);
     bool meets(int demand, const char *method, const QByteArray &resource);
     bool post(ipp_t *request, const QByteArray &resource, bool dataFollow);

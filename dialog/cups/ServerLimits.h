@@ -2,23 +2,23 @@
 
 #include <QtCore/QtGlobal>
 
-// What a server may cost, beside its silence (kServerPatience in CallGuard.h). Times are multiples
-// of the call's patience, which is 8 seconds, so that one number shortens them all.
+// What a server may cost, beside its silence (kServerTimeout in CallGuard.h). Times are multiples
+// of the call's timeout, which is 8 seconds, so that one number shortens them all.
 
 /// A request and its whole answer: 32 s. A document is sent for as long as it moves; then its
 /// answer has this time.
-inline constexpr int kPatiencesPerExchange = 4;
+inline constexpr int kTimeoutsPerExchange = 4;
 
 /// The silence of a server that was sent a document, and may be busy with it: 24 s. Its answer
 /// decides whether the job prints.
-inline constexpr int kPatiencesAfterDocument = 3;
+inline constexpr int kTimeoutsAfterDocument = 3;
 
 /// A PPD: 64 s.
-inline constexpr int kPatiencesPerPPD = 8;
+inline constexpr int kTimeoutsPerPPD = 8;
 
-/// What is asked of an accepted job, in which nothing can fail any more: one patience, and never as
+/// What is asked of an accepted job, in which nothing can fail any more: one timeout, and never as
 /// long as whoever waits for the whole call would wait for a silent one.
-inline constexpr int kPatiencesPerReadBack = 1;
+inline constexpr int kTimeoutsPerReadBack = 1;
 
 /// An answer in IPP. A list of 20,000 printers takes 4 MB and 140,000 values.
 inline constexpr qint64 kLargestAnswer = 32LL * 1024 * 1024;

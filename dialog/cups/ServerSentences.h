@@ -1,6 +1,6 @@
 #pragma once
 
-#include "dialog/cups/ServerFault.h"
+#include "dialog/work/ServerFault.h"
 
 #include <QtCore/QString>
 

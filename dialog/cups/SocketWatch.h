@@ -1,6 +1,6 @@
 #pragma once
 
-#include "dialog/cups/CallGuard.h"
+#include "dialog/work/CallGuard.h"
 
 #include <condition_variable>
 #include <mutex>

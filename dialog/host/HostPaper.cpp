@@ -1,6 +1,6 @@
 #include "dialog/host/HostPaper.h"
 
-#include "platform/pde/PPDText.h"
+#include "platform/ppd/PPDText.h"
 
 using namespace Qt::StringLiterals;
 

@@ -7,7 +7,7 @@
 #include "platform/foundation/PreferredLanguages.h"
 #include "platform/foundation/UserDefaults.h"
 #include "platform/pde/PDEPanelInspection.h"
-#include "platform/pde/PPDText.h"
+#include "platform/ppd/PPDText.h"
 
 #include <algorithm>
 #include <utility>

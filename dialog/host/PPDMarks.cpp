@@ -1,6 +1,6 @@
 #include "dialog/host/PPDMarks.h"
 
-#include "platform/pde/PPDText.h"
+#include "platform/ppd/PPDText.h"
 
 #include <QtCore/QHash>
 

@@ -1,6 +1,6 @@
 #include "dialog/job/Conflicts.h"
 
-#include "platform/pde/PPDText.h"
+#include "platform/ppd/PPDText.h"
 #include "platform/toolkit/PlainText.h"
 
 #include <QtCore/QCoreApplication>

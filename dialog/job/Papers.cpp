@@ -1,7 +1,7 @@
 #include "dialog/job/Papers.h"
 
-#include "dialog/cups/JobOptions.h"
-#include "platform/pde/PPDText.h"
+#include "dialog/job/JobOptions.h"
+#include "platform/ppd/PPDText.h"
 
 #include <QtCore/QRegularExpression>
 

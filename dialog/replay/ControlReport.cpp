@@ -1,7 +1,7 @@
 #include "dialog/replay/ControlReport.h"
 
+#include "dialog/host/controls/PanelParts.h"
 #include "dialog/replay/JsonText.h"
-#include "dialog/replay/PanelParts.h"
 #include "platform/toolkit/ControlColor.h"
 #include "platform/toolkit/PlainText.h"
 #include "platform/toolkit/PopUpButton.h"

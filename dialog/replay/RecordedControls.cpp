@@ -1,4 +1,4 @@
-#include "dialog/replay/PanelParts.h"
+#include "dialog/host/controls/PanelParts.h"
 #include "dialog/replay/Recorder.h"
 #include "platform/toolkit/FractionSlider.h"
 #include "platform/toolkit/NumberField.h"

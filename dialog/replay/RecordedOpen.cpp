@@ -1,7 +1,7 @@
 #include "dialog/files/PathBytes.h"
+#include "dialog/host/HostOperationNames.h"
 #include "dialog/host/HostSession.h"
 #include "dialog/host/PPDMarks.h"
-#include "dialog/replay/LackingNames.h"
 #include "dialog/replay/Recorder.h"
 #include "platform/foundation/PreferredLanguages.h"
 #include "platform/toolkit/KeyWindow.h"

@@ -1,6 +1,6 @@
 #include "dialog/replay/ReplayScript.h"
 
-#include "dialog/replay/LackingNames.h"
+#include "dialog/host/HostOperationNames.h"
 #include "dialog/replay/ScriptField.h"
 
 #include <QtCore/QJsonArray>

@@ -1,7 +1,7 @@
+#include "dialog/host/controls/PanelParts.h"
+#include "dialog/host/controls/UserActions.h"
 #include "dialog/replay/JsonText.h"
-#include "dialog/replay/PanelParts.h"
 #include "dialog/replay/ReplaySession.h"
-#include "dialog/replay/UserActions.h"
 #include "platform/foundation/NotificationCenter.h"
 #include "platform/toolkit/ImageView.h"
 

@@ -1,6 +1,6 @@
 #include "dialog/replay/ScriptField.h"
 
-#include "dialog/replay/LackingNames.h"
+#include "dialog/host/HostOperationNames.h"
 
 #include <QtCore/QJsonArray>
 

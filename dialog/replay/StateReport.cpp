@@ -1,7 +1,7 @@
 #include "dialog/replay/StateReport.h"
 
+#include "dialog/host/controls/PanelParts.h"
 #include "dialog/replay/ControlReport.h"
-#include "dialog/replay/PanelParts.h"
 #include "platform/foundation/ObservableDictionary.h"
 #include "platform/toolkit/ImageView.h"
 

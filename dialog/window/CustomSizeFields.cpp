@@ -1,7 +1,7 @@
 #include "dialog/window/CustomSizeFields.h"
 
+#include "platform/toolkit/AccessibleName.h"
 #include "platform/toolkit/PlainLabel.h"
-#include "platform/toolkit/SpokenName.h"
 
 #include <QtCore/QLocale>
 #include <QtCore/QSignalBlocker>
@@ -41,7 +41,7 @@ CustomSizeFields::CustomSizeFields(QWidget *parent)
     m_unit->setObjectName(QStringLiteral("customUnit"));
     m_unit->addItems({tr("mm"), tr("inches")});
     m_unit->setCurrentIndex(QLocale().measurementSystem() == QLocale::ImperialUSSystem ? 1 : 0);
-    setSpokenName(m_unit, tr("Unit"));
+    giveAccessibleName(m_unit, tr("Unit"));
     QLabel *widthLabel = newPlainLabel(tr("&Width:"), this);
     widthLabel->setBuddy(m_width);
     QLabel *heightLabel = newPlainLabel(tr("Heigh&t:"), this);

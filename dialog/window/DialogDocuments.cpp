@@ -1,6 +1,6 @@
-#include "dialog/cups/ServerCall.h"
 #include "dialog/window/DialogWindow.h"
 #include "dialog/window/JobHeader.h"
+#include "dialog/work/BackgroundCall.h"
 
 #include <QtWidgets/QFileDialog>
 
@@ -17,9 +17,9 @@ void DialogWindow::readPipedDocuments()
     const Documents documents = m_job.documents();
     if (!hasPipes(documents))
         return;
-    m_reading = new ServerCall(
-        this, kFilePatience,
-        [this, documents](CallGuard &guard) -> ServerCall::Outcome {
+    m_reading = new BackgroundCall(
+        this, kFileTimeout,
+        [this, documents](CallGuard &guard) -> BackgroundCall::Outcome {
             const ReadDocuments read = readPipes(documents, guard);
             return [this, read] { takeRead(read); };
         },

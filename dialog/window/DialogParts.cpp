@@ -3,9 +3,9 @@
 #include "dialog/window/PageSetupPane.h"
 #include "dialog/window/PanelPane.h"
 #include "dialog/window/SentSettings.h"
-#include "platform/pde/PPDText.h"
+#include "platform/ppd/PPDText.h"
+#include "platform/toolkit/AccessibleName.h"
 #include "platform/toolkit/PlainText.h"
-#include "platform/toolkit/SpokenName.h"
 
 #include <QtCore/QSignalBlocker>
 #include <QtCore/QTimer>
@@ -56,7 +56,7 @@ void DialogWindow::buildParts()
             m_tabs->addTab(pane, tabTitle(panel.panel->panelName()));
         }
     m_parts.push_back({kSummary, m_summary, nullptr});
-    setSpokenName(m_summary, tr("Summary"));
+    giveAccessibleName(m_summary, tr("Summary"));
     m_tabs->addTab(m_summary, tr("Summary"));
     m_tabs->setCurrentIndex(m_parts[1].panel ? 1 : 0);
     changePart();

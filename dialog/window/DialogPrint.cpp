@@ -1,9 +1,9 @@
-#include "dialog/cups/JobFileWriter.h"
-#include "dialog/cups/ServerCall.h"
 #include "dialog/files/PathBytes.h"
-#include "dialog/job/CommandOutput.h"
+#include "dialog/job/JobFileWriter.h"
+#include "dialog/program/CommandOutput.h"
 #include "dialog/window/DialogWindow.h"
 #include "dialog/window/ProgressStrip.h"
+#include "dialog/work/BackgroundCall.h"
 #include "platform/toolkit/AlertObserver.h"
 
 #include <QtCore/QTimer>
@@ -103,9 +103,9 @@ void DialogWindow::writeFile(const QString &path, const JobRequest &request,
                              const OutputTerms &terms)
 {
     const auto progress = beginSending(tr("Writing the job to %1…").arg(path));
-    m_call = new ServerCall(
-        this, kFilePatience,
-        [this, path, request, terms, progress](CallGuard &guard) -> ServerCall::Outcome {
+    m_call = new BackgroundCall(
+        this, kFileTimeout,
+        [this, path, request, terms, progress](CallGuard &guard) -> BackgroundCall::Outcome {
             const WrittenJobFile written = writeJobFile(path, request, terms, guard, *progress);
             return [this, written] { takeWritten(written); };
         },
@@ -128,9 +128,9 @@ void DialogWindow::takeWritten(const WrittenJobFile &written)
 void DialogWindow::send(const JobRequest &request)
 {
     const auto progress = beginSending(tr("Sending the job to %1…").arg(request.queue));
-    m_call = new ServerCall(
-        this, kServerPatience,
-        [this, request, progress](CallGuard &guard) -> ServerCall::Outcome {
+    m_call = new BackgroundCall(
+        this, kServerTimeout,
+        [this, request, progress](CallGuard &guard) -> BackgroundCall::Outcome {
             const JobReceipt receipt = submitJob(request, guard, progress);
             return [this, receipt] { takeReceipt(receipt); };
         },

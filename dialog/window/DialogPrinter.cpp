@@ -1,11 +1,11 @@
-#include "dialog/cups/ServerCall.h"
 #include "dialog/cups/ServerConnection.h"
 #include "dialog/replay/Recorder.h"
 #include "dialog/window/DialogWindow.h"
 #include "dialog/window/JobHeader.h"
 #include "dialog/window/PageSetupPane.h"
 #include "dialog/window/PrinterPopUp.h"
-#include "platform/pde/PPDText.h"
+#include "dialog/work/BackgroundCall.h"
+#include "platform/ppd/PPDText.h"
 
 #include <QtCore/QFileInfo>
 
@@ -30,9 +30,9 @@ void DialogWindow::findPrinter(const PrinterSource &source)
     m_header->printers()->setCurrent(source.queue);
     m_notice->tell(NoticeBar::Kind::Information, waitFor(source));
     delete m_call;
-    m_call = new ServerCall(
-        this, kServerPatience,
-        [this, source](CallGuard &guard) -> ServerCall::Outcome {
+    m_call = new BackgroundCall(
+        this, kServerTimeout,
+        [this, source](CallGuard &guard) -> BackgroundCall::Outcome {
             const auto fetched = std::make_shared<FetchedPrinter>(fetchPrinter(source, guard));
             return [this, source, fetched] { takePrinter(source, *fetched); };
         },
@@ -155,9 +155,9 @@ void DialogWindow::listPrinters()
     if (std::exchange(m_printersAreListed, true) || !m_line.screenshot.isNull())
         return;
     m_header->printers()->setSearching(true);
-    new ServerCall(
-        this, kServerPatience,
-        [this, server = m_line.server](CallGuard &guard) -> ServerCall::Outcome {
+    new BackgroundCall(
+        this, kServerTimeout,
+        [this, server = m_line.server](CallGuard &guard) -> BackgroundCall::Outcome {
             const DestinationList list = listDestinations(server, guard);
             return [this, list] {
                 if (list.answer.isGood())

@@ -1,13 +1,13 @@
 #pragma once
 
-#include "dialog/commandline/CommandLine.h"
-#include "dialog/commandline/ExitStatus.h"
-#include "dialog/cups/DocumentFile.h"
-#include "dialog/cups/JobFileWriter.h"
-#include "dialog/cups/PipeDocuments.h"
 #include "dialog/files/OutputFile.h"
-#include "dialog/job/PrintJob.h"
-#include "dialog/job/SettingRequests.h"
+#include "dialog/job/DocumentFile.h"
+#include "dialog/job/JobFileWriter.h"
+#include "dialog/job/PipeDocuments.h"
+#include "dialog/printing/PrintJob.h"
+#include "dialog/printing/SettingRequests.h"
+#include "dialog/program/CommandLine.h"
+#include "dialog/program/ExitStatus.h"
 #include "dialog/window/NoticeBar.h"
 #include "dialog/window/SummaryPane.h"
 
@@ -24,12 +24,12 @@ class ProgressStrip;
 class QPushButton;
 class QTabWidget;
 class Recorder;
-class ServerCall;
+class BackgroundCall;
 
 /// The print dialog: printer, page setup, the plug-in's panels, the summary, and Print.
 ///
 /// It opens at once and waits for nothing: whatever a server has to say arrives later, from a
-/// ServerCall. Panels are released before the panes that show their views.
+/// BackgroundCall. Panels are released before the panes that show their views.
 class DialogWindow : public QDialog
 {
     Q_OBJECT
@@ -171,8 +171,8 @@ private:
     bool m_printersAreListed = false;
     bool m_isEnding = false;
     bool m_mayHavePrinted = false; ///< what Print did last
-    QPointer<ServerCall> m_call;
-    QPointer<ServerCall> m_reading; ///< of documents that are pipes
+    QPointer<BackgroundCall> m_call;
+    QPointer<BackgroundCall> m_reading; ///< of documents that are pipes
 
     JobHeader *m_header;
     NoticeBar *m_notice;

@@ -1,12 +1,12 @@
 #include "dialog/window/JobHeader.h"
 
-#include "dialog/cups/PageRanges.h"
-#include "dialog/job/PrintJob.h"
+#include "dialog/job/PageRanges.h"
+#include "dialog/printing/PrintJob.h"
 #include "dialog/window/PrinterPopUp.h"
+#include "platform/toolkit/AccessibleName.h"
 #include "platform/toolkit/NumberField.h"
 #include "platform/toolkit/PlainLabel.h"
 #include "platform/toolkit/PopUpButton.h"
-#include "platform/toolkit/SpokenName.h"
 
 #include <QtCore/QSignalBlocker>
 #include <QtWidgets/QFormLayout>
@@ -38,7 +38,7 @@ QLabel *label(const QString &text, QWidget *buddy)
     QLabel *made = newPlainLabel(text);
     made->setBuddy(buddy);
     // They stand in rows of their own: assistive technology would not find the label.
-    setSpokenName(buddy, QString(text).remove(u'&'));
+    giveAccessibleName(buddy, QString(text).remove(u'&'));
     return made;
 }
 

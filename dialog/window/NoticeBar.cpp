@@ -1,9 +1,9 @@
 #include "dialog/window/NoticeBar.h"
 
 #include "dialog/window/NoticeSign.h"
+#include "platform/toolkit/AccessibleName.h"
 #include "platform/toolkit/PlainLabel.h"
 #include "platform/toolkit/PlainText.h"
-#include "platform/toolkit/SpokenName.h"
 
 #include <QtCore/QEvent>
 #include <QtWidgets/QHBoxLayout>
@@ -63,7 +63,7 @@ void NoticeBar::tell(Kind kind, const QString &sentence)
     m_kind = kind;
     m_sentence = displayText(sentence);
     setLabelText(m_label, m_sentence);
-    setSpokenName(this, m_sentence);
+    giveAccessibleName(this, m_sentence);
     m_sign->setSign(lookOf(kind).mark, QColor::fromRgb(lookOf(kind).accent));
     applyColors();
     show();

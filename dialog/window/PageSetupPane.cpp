@@ -2,9 +2,9 @@
 
 #include "dialog/job/Conflicts.h"
 #include "dialog/job/Papers.h"
-#include "dialog/job/PrintJob.h"
+#include "dialog/printing/PrintJob.h"
 #include "dialog/window/CustomSizeFields.h"
-#include "platform/pde/PPDText.h"
+#include "platform/ppd/PPDText.h"
 #include "platform/toolkit/PlainLabel.h"
 #include "platform/toolkit/PlainText.h"
 #include "platform/toolkit/PopUpButton.h"

@@ -1,6 +1,6 @@
 #include "dialog/window/ProgressStrip.h"
 
-#include "platform/toolkit/SpokenName.h"
+#include "platform/toolkit/AccessibleName.h"
 
 #include <algorithm>
 
@@ -14,7 +14,7 @@ constexpr int kSteps = 1000;
 ProgressStrip::ProgressStrip(QWidget *parent) : QProgressBar(parent)
 {
     setObjectName(QStringLiteral("progressStrip"));
-    setSpokenName(this, tr("Progress"));
+    giveAccessibleName(this, tr("Progress"));
     setRange(0, kSteps);
     hide();
 }

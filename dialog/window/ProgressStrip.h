@@ -1,6 +1,6 @@
 #pragma once
 
-#include "dialog/cups/JobProgress.h"
+#include "dialog/job/JobProgress.h"
 
 #include <QtWidgets/QProgressBar>
 

@@ -1,8 +1,8 @@
 #include "dialog/window/SentSettings.h"
 
-#include "dialog/cups/StandardAttributes.h"
 #include "dialog/job/Papers.h"
-#include "platform/pde/PPDText.h"
+#include "dialog/job/StandardAttributes.h"
+#include "platform/ppd/PPDText.h"
 
 #include <algorithm>
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "dialog/job/PrintJob.h"
+#include "dialog/printing/PrintJob.h"
 #include "dialog/window/SummaryPane.h"
 
 #include <QtCore/QList>

@@ -29,8 +29,8 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int kPatience = 20000; // ms
-constexpr int kHeld = 3000;      // ms: far more than an event may wait, and less than a server may
+constexpr int kTimeout = 20000; // ms
+constexpr int kHeld = 3000;     // ms: far more than an event may wait, and less than a server may
 
 /// The real dialog on a queue of a real server, used with the mouse and the keyboard.
 class Dialog : public PrintServerFixture
@@ -61,7 +61,7 @@ protected:
 
     static void waitWhile(const DialogWindow &window, DialogWindow::State state)
     {
-        EXPECT_TRUE(QTest::qWaitFor([&] { return window.state() != state; }, kPatience));
+        EXPECT_TRUE(QTest::qWaitFor([&] { return window.state() != state; }, kTimeout));
     }
 
     template <typename Widget> static Widget *part(const QWidget &window, const char *name)
@@ -271,7 +271,7 @@ TEST_F(Dialog, ShowsWhatAServerSaysAsItStands)
     ASSERT_TRUE(server().lpadmin({u"-p"_s, queue, u"-D"_s, text, u"-L"_s, text}));
     const auto window = open(lineFor(server().address(), queue));
     const auto *state = part<QLabel>(*window, "printerState");
-    ASSERT_TRUE(QTest::qWaitFor([&] { return state->text() == text; }, kPatience));
+    ASSERT_TRUE(QTest::qWaitFor([&] { return state->text() == text; }, kTimeout));
     ASSERT_TRUE(server().command(u"cupsreject"_s, {queue}));
     click(*window, "printButton");
     waitWhile(*window, DialogWindow::State::Sending);
@@ -325,7 +325,7 @@ TEST_F(DialogOnAServerThatHoldsItsAnswers, ListsThePrintersWithoutWaiting)
     const auto *state = part<QLabel>(*window, "printerState");
     wait();
     EXPECT_EQ(state->text(), u"Searching for printers…"_s);
-    EXPECT_TRUE(QTest::qWaitFor([&] { return state->text().isEmpty(); }, kPatience));
+    EXPECT_TRUE(QTest::qWaitFor([&] { return state->text().isEmpty(); }, kTimeout));
 }
 
 TEST_F(DialogOnAServerThatHoldsItsAnswers, SendsTheJobWithoutWaiting)

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "dialog/cups/JobOption.h"
+#include "dialog/job/JobOption.h"
 #include "tests/support/QStringPrinting.h"
 
 /// What a failed comparison shows of a job's setting.

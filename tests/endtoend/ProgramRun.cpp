@@ -6,7 +6,7 @@
 
 namespace {
 
-constexpr int kPatience = 60000; // ms
+constexpr int kTimeout = 60000; // ms
 
 } // namespace
 
@@ -25,9 +25,9 @@ ProgramRun runProgram(const QStringList &arguments, const QByteArray &lpoptions,
     QProcess process;
     process.setProcessEnvironment(environment);
     process.start(QStringLiteral(VELKARO_PROGRAM), arguments);
-    if (meanwhile && process.waitForStarted(kPatience))
+    if (meanwhile && process.waitForStarted(kTimeout))
         meanwhile(process);
-    if (!process.waitForFinished(kPatience) || process.exitStatus() != QProcess::NormalExit) {
+    if (!process.waitForFinished(kTimeout) || process.exitStatus() != QProcess::NormalExit) {
         process.kill();
         process.waitForFinished();
         return {-1, QString::fromUtf8(process.readAllStandardOutput()),

@@ -19,7 +19,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int kPatience = 20000; // ms
+constexpr int kTimeout = 20000; // ms
 
 void send(int signal, const QProcess &program)
 {
@@ -54,7 +54,7 @@ TEST_P(Signal, DuringTheSecondDocumentLeavesNothingToPrint)
     const ProgramRun run = runProgram(
         {u"--no-dialog"_s, u"-h"_s, server().address(), u"-d"_s, u"photo"_s, pdf(), large()}, {},
         [&](const QProcess &program) {
-            ASSERT_TRUE(QTest::qWaitFor([&] { return hasFirstDocument(); }, kPatience));
+            ASSERT_TRUE(QTest::qWaitFor([&] { return hasFirstDocument(); }, kTimeout));
             send(GetParam(), program);
         });
     EXPECT_EQ(run.status, 1) << run.errors.toStdString();
@@ -75,7 +75,7 @@ TEST_F(Piped, StandardInputIsPrinted)
         {u"--no-dialog"_s, u"-h"_s, server().address(), u"-d"_s, u"photo"_s, u"-"_s}, {},
         [](QProcess &program) {
             program.write("%!PS-Adobe-3.0\n%%Pages: 1\n%%EndComments\n%%Page: 1 1\nshowpage\n");
-            ASSERT_TRUE(program.waitForBytesWritten(kPatience));
+            ASSERT_TRUE(program.waitForBytesWritten(kTimeout));
             program.write("%%EOF\n");
             program.closeWriteChannel();
         });
@@ -99,7 +99,7 @@ TEST_F(Piped, ADocumentWhoseNameIsNoUtf8IsPrinted)
         u"sh"_s,
         {u"-c"_s, u"\"$1\" --no-dialog -h \"$2\" -d photo \"$3/Gr$(printf '\\374').pdf\""_s,
          u"sh"_s, QStringLiteral(VELKARO_PROGRAM), server().address(), QFileInfo(link).path()});
-    ASSERT_TRUE(process.waitForFinished(kPatience));
+    ASSERT_TRUE(process.waitForFinished(kTimeout));
     EXPECT_EQ(process.exitCode(), 0) << process.readAllStandardError().toStdString();
     ASSERT_EQ(newJobs().size(), 1);
     EXPECT_EQ(server().jobAttributes(u"photo"_s, newJobs()[0]).value(u"job-name"_s),
@@ -149,7 +149,7 @@ TEST_P(SignalAt, EndsTheProgramInOrder)
         (GetParam().hasDialog ? QStringList() : QStringList{u"--no-dialog"_s}) + arguments(server),
         {}, [&](const QProcess &program) {
             ASSERT_TRUE(
-                QTest::qWaitFor([&] { return server.requests().contains(held); }, kPatience));
+                QTest::qWaitFor([&] { return server.requests().contains(held); }, kTimeout));
             send(SIGTERM, program);
         });
     EXPECT_EQ(run.status, GetParam().status);
@@ -197,14 +197,14 @@ TEST_F(SignalAt, ForTheSecondTimeEndsTheProgramAtOnce)
         {{"Send-Document", {readBody(), hold()}}, {"Cancel-Job", {readBody(), hold()}}});
     int exitCode = -1;
     const auto comes = [&](const QString &request) {
-        return QTest::qWaitFor([&] { return server.requests().contains(request); }, kPatience);
+        return QTest::qWaitFor([&] { return server.requests().contains(request); }, kTimeout);
     };
     runProgram(QStringList{u"--no-dialog"_s} + arguments(server), {}, [&](QProcess &program) {
         ASSERT_TRUE(comes(u"Send-Document"_s));
         send(SIGTERM, program);
         ASSERT_TRUE(comes(u"Cancel-Job"_s));
         send(SIGTERM, program);
-        ASSERT_TRUE(program.waitForFinished(kPatience));
+        ASSERT_TRUE(program.waitForFinished(kTimeout));
         EXPECT_EQ(program.exitStatus(), QProcess::CrashExit);
         exitCode = program.exitCode();
     });
@@ -228,7 +228,7 @@ TEST_F(SignalAt, TheWritingOfAJobLeavesWhatStoodThere)
                                ioctl(reader.get(), FIONREAD, &waiting);
                                return waiting > 0;
                            },
-                           kPatience));
+                           kTimeout));
                        send(SIGTERM, program);
                    });
     EXPECT_EQ(run.status, 1) << run.errors.toStdString();

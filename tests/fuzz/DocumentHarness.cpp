@@ -1,9 +1,9 @@
-#include "dialog/cups/DocumentFile.h"
-#include "dialog/cups/JobFileReader.h"
-#include "dialog/cups/OutgoingText.h"
 #include "dialog/files/FileDescriptor.h"
 #include "dialog/files/PathBytes.h"
-#include "dialog/job/PrintJob.h"
+#include "dialog/job/DocumentFile.h"
+#include "dialog/job/JobFileReader.h"
+#include "dialog/job/OutgoingText.h"
+#include "dialog/printing/PrintJob.h"
 #include "tests/fuzz/Harnesses.h"
 
 #include <QtCore/QTemporaryDir>

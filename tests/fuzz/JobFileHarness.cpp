@@ -1,6 +1,6 @@
-#include "dialog/cups/JobFileReader.h"
-#include "dialog/cups/JobOptions.h"
-#include "dialog/job/JobDelivery.h"
+#include "dialog/job/JobFileReader.h"
+#include "dialog/job/JobOptions.h"
+#include "dialog/printing/JobDelivery.h"
 #include "tests/fuzz/Harnesses.h"
 #include "tests/fuzz/InputFile.h"
 
@@ -38,7 +38,7 @@ void checkDocuments(const Documents &documents, const QByteArray &file)
 
 void checkOptions(const QList<JobOption> &options)
 {
-    harness::require(std::ranges::all_of(options, mayTravel), "every option of a job may travel");
+    harness::require(std::ranges::all_of(options, isSendable), "every option of a job may be sent");
     if (std::ranges::any_of(options, isHarmful))
         harness::require(!faultOfOptions(u"job"_s, options, true).isNull(),
                          "a saved job is never sent past the printer's settings, or elsewhere");

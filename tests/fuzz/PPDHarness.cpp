@@ -1,9 +1,9 @@
-#include "dialog/cups/JobOptions.h"
-#include "dialog/cups/ReservedNames.h"
-#include "dialog/job/PrintJob.h"
-#include "dialog/job/ScriptedAnswers.h"
-#include "dialog/job/SettingRequests.h"
-#include "platform/pde/PPDText.h"
+#include "dialog/job/JobOptions.h"
+#include "dialog/job/ReservedNames.h"
+#include "dialog/printing/PrintJob.h"
+#include "dialog/printing/ScriptedAnswers.h"
+#include "dialog/printing/SettingRequests.h"
+#include "platform/ppd/PPDText.h"
 #include "tests/built/BuiltFiles.h"
 #include "tests/fuzz/Harnesses.h"
 #include "tests/fuzz/InputFile.h"
@@ -68,7 +68,7 @@ bool isKeyOfTicket(const QString &name)
 
 void checkOption(ppd_file_t *ppd, const JobOption &option)
 {
-    harness::require(mayTravel(option), "every option of a job may travel");
+    harness::require(isSendable(option), "every option of a job may be sent");
     harness::require(std::ranges::none_of(kUnsettled,
                                           [&](QLatin1String name) {
                                               return option.name.compare(name,

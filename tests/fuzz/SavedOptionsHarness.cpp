@@ -1,6 +1,6 @@
-#include "dialog/cups/JobOptions.h"
-#include "dialog/cups/SavedOptions.h"
-#include "dialog/cups/SavedSettings.h"
+#include "dialog/job/JobOptions.h"
+#include "dialog/job/SavedOptions.h"
+#include "dialog/job/SavedSettings.h"
 #include "tests/fuzz/Harnesses.h"
 #include "tests/support/PPDSource.h"
 
@@ -33,5 +33,5 @@ void harness::savedOptions(const QByteArray &lpoptions)
     values.ppd = ppd.get();
     values.saved = applySavedOptions(ppd.get(), ::savedOptions(queue)).others;
     for (const JobOption &option : jobOptions(values).options)
-        require(mayTravel(option), "every option of a job may travel");
+        require(isSendable(option), "every option of a job may be sent");
 }

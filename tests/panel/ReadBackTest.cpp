@@ -1,6 +1,6 @@
 #include "tests/panel/PanelFixture.h"
 
-#include "platform/pde/PPDText.h"
+#include "platform/ppd/PPDText.h"
 #include "platform/toolkit/PopUpButton.h"
 #include "platform/toolkit/RadioMatrix.h"
 #include "tests/support/CaseName.h"

@@ -22,8 +22,8 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int kPatience = 20000; // ms
-constexpr int kLook = 20;        // ms between two looks at a state
+constexpr int kTimeout = 20000; // ms
+constexpr int kLook = 20;       // ms between two looks at a state
 
 QString programNamed(const QString &name)
 {
@@ -83,9 +83,9 @@ void PrintServer::stop()
     if (m_process.state() == QProcess::NotRunning)
         return;
     m_process.terminate(); // by its process id
-    if (!m_process.waitForFinished(kPatience))
+    if (!m_process.waitForFinished(kTimeout))
         m_process.kill();
-    m_process.waitForFinished(kPatience);
+    m_process.waitForFinished(kTimeout);
 }
 
 // The kernel goes on taking connections for a process that is stopped.
@@ -146,8 +146,8 @@ bool PrintServer::start()
     m_process.setChildProcessModifier([] { prctl(PR_SET_PDEATHSIG, SIGTERM); });
     m_process.start(programNamed(u"cupsd"_s), {u"-f"_s, u"-c"_s, root.filePath(u"cupsd.conf"_s),
                                                u"-s"_s, root.filePath(u"cups-files.conf"_s)});
-    const QDeadlineTimer deadline(kPatience);
-    while (m_process.waitForStarted(kPatience) && !deadline.hasExpired()) {
+    const QDeadlineTimer deadline(kTimeout);
+    while (m_process.waitForStarted(kTimeout) && !deadline.hasExpired()) {
         CallGuard guard(std::chrono::milliseconds{1000});
         if (ServerConnection(address(), guard).isConnected())
             return true;
@@ -162,7 +162,7 @@ bool PrintServer::command(const QString &program, const QStringList &arguments)
     QProcess process;
     process.setProcessChannelMode(QProcess::ForwardedChannels);
     process.start(programNamed(program), QStringList{u"-h"_s, address()} + arguments);
-    return process.waitForFinished(kPatience) && process.exitStatus() == QProcess::NormalExit &&
+    return process.waitForFinished(kTimeout) && process.exitStatus() == QProcess::NormalExit &&
            process.exitCode() == 0;
 }
 
@@ -215,7 +215,7 @@ QMap<QString, QString> PrintServer::jobAttributes(const QString &queue, int job)
 
 int PrintServer::waitForJob(const QString &queue, int job)
 {
-    const QDeadlineTimer deadline(kPatience);
+    const QDeadlineTimer deadline(kTimeout);
     while (!deadline.hasExpired()) {
         const int state = jobAttributes(queue, job).value(u"job-state"_s).toInt();
         if (state >= IPP_JSTATE_CANCELED)

@@ -1,6 +1,6 @@
 #include "dialog/cups/JobSubmission.h"
 #include "dialog/cups/QueuePPD.h"
-#include "dialog/cups/ServerCall.h"
+#include "dialog/work/BackgroundCall.h"
 #include "tests/built/BuiltFiles.h"
 #include "tests/servers/GoodAnswers.h"
 #include "tests/servers/IppBytes.h"
@@ -44,17 +44,17 @@ TEST_P(AGivenUpCall, EndsWithItsThreadAndItsConnection)
 {
     const ScriptedServer server({GetParam().rule});
     auto owner = std::make_unique<QObject>();
-    new ServerCall(owner.get(), kServerPatience,
-                   [address = server.address()](CallGuard &guard) -> ServerCall::Outcome {
-                       fetchQueuePPD(address, u"photo"_s, guard);
-                       return {};
-                   },
-                   {});
+    new BackgroundCall(owner.get(), kServerTimeout,
+                       [address = server.address()](CallGuard &guard) -> BackgroundCall::Outcome {
+                           fetchQueuePPD(address, u"photo"_s, guard);
+                           return {};
+                       },
+                       {});
     ASSERT_TRUE(QTest::qWaitFor([&] { return server.openConnections() == 1; }));
     const bool isAsked = GetParam().rule.request != "connect";
     ASSERT_TRUE(QTest::qWaitFor([&] { return !isAsked || !server.requests().isEmpty(); }));
     owner.reset();
-    EXPECT_TRUE(waitForServerThreads(kServerPatience / 2));
+    EXPECT_TRUE(waitForBackgroundThreads(kServerTimeout / 2));
     EXPECT_TRUE(QTest::qWaitFor([&] { return server.openConnections() == 0; }));
 }
 
@@ -100,11 +100,11 @@ TEST(ACancelledCall, WaitsForTheNumberOfTheJobThatItHasToCancel)
     std::optional<JobReceipt> receipt;
     QObject owner;
     auto *call =
-        new ServerCall(&owner, 10 * kServerPatience,
-                       [job, &receipt](CallGuard &guard) -> ServerCall::Outcome {
-                           return [got = submitJob(job, guard), &receipt] { receipt = got; };
-                       },
-                       {});
+        new BackgroundCall(&owner, 10 * kServerTimeout,
+                           [job, &receipt](CallGuard &guard) -> BackgroundCall::Outcome {
+                               return [got = submitJob(job, guard), &receipt] { receipt = got; };
+                           },
+                           {});
     ASSERT_TRUE(QTest::qWaitFor([&] { return server.requests() == QStringList{u"Create-Job"_s}; }));
     call->cancel();
     isCancelled = true;

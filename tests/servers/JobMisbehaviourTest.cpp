@@ -27,7 +27,7 @@ struct JobMisbehaviour
     const char *sentence; ///< %1 is the server's name; null for an accepted job
     QStringList notes;
     QStringList requests;
-    std::chrono::milliseconds patience = kServerPatience;
+    std::chrono::milliseconds timeout = kServerTimeout;
 };
 
 void PrintTo(const JobMisbehaviour &row, std::ostream *out)
@@ -48,7 +48,7 @@ TEST_P(AServerThatTakesJobs, IsTakenAtItsWord)
     job.options = {{u"VKMediaType"_s, u"Glossy"_s}};
     writeFile(folder.filePath(u"document.pdf"_s), QByteArray(1000000, 'd'));
     job.documents = openedDocuments({folder.filePath(u"document.pdf"_s)});
-    CallGuard guard(GetParam().patience);
+    CallGuard guard(GetParam().timeout);
     const JobReceipt receipt = submitJob(job, guard);
     EXPECT_EQ(receipt.answer.fault, GetParam().fault);
     EXPECT_EQ(receipt.answer.sentence,
@@ -164,7 +164,7 @@ INSTANTIATE_TEST_SUITE_P(
     CaseName());
 
 JobMisbehaviour taken(const char *behaviour, const Steps &steps,
-                      std::chrono::milliseconds patience = kServerPatience)
+                      std::chrono::milliseconds timeout = kServerTimeout)
 {
     return {behaviour,
             {{"Get-Job-Attributes", steps}},
@@ -173,7 +173,7 @@ JobMisbehaviour taken(const char *behaviour, const Steps &steps,
             {u"Whether the server keeps all settings of job 7 is not known: its account of the job "
              "cannot be read."_s},
             kAccepted,
-            patience};
+            timeout};
 }
 
 INSTANTIATE_TEST_SUITE_P(

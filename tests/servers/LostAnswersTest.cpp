@@ -14,7 +14,7 @@ using namespace std::chrono_literals;
 
 namespace {
 
-constexpr auto kPatience = 600ms;
+constexpr auto kTimeout = 600ms;
 constexpr qint64 kLarge = 64LL * 1024 * 1024; // more than all buffers on the way take
 
 class LostAnswer : public testing::Test
@@ -33,7 +33,7 @@ protected:
     }
 
     QTemporaryDir m_folder;
-    CallGuard m_guard{kPatience};
+    CallGuard m_guard{kTimeout};
 };
 
 Steps jobInState(ipp_jstate_t state, const char *reason)

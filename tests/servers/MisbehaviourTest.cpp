@@ -24,7 +24,7 @@ struct Misbehaviour
     Script script;
     ServerFault fault;
     const char *sentence; ///< %1 is the server's name
-    std::chrono::milliseconds patience = kServerPatience;
+    std::chrono::milliseconds timeout = kServerTimeout;
 };
 
 void PrintTo(const Misbehaviour &row, std::ostream *out)
@@ -60,7 +60,7 @@ TEST_P(AMisbehavingServer, IsToldOfInOneSentenceAndLeft)
 {
     const ScriptedServer server(GetParam().script);
     {
-        CallGuard guard(GetParam().patience);
+        CallGuard guard(GetParam().timeout);
         const ServerAnswer answer = GetParam().ask(server.address(), guard);
         EXPECT_EQ(answer.fault, GetParam().fault);
         const QString expected = QString::fromUtf8(GetParam().sentence);

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "dialog/cups/DocumentFile.h"
+#include "dialog/job/DocumentFile.h"
 #include "tests/support/QStringPrinting.h"
 
 #include <QtCore/QByteArray>

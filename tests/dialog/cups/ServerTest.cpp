@@ -3,9 +3,9 @@
 #include "dialog/cups/JobSubmission.h"
 #include "dialog/cups/OptionAttribute.h"
 #include "dialog/cups/QueuePPD.h"
-#include "dialog/cups/ServerCall.h"
 #include "dialog/host/PPDFile.h"
-#include "platform/pde/PPDText.h"
+#include "dialog/work/BackgroundCall.h"
+#include "platform/ppd/PPDText.h"
 #include "tests/built/BuiltFiles.h"
 #include "tests/endtoend/JobPrinting.h"
 #include "tests/printserver/PrintServer.h"
@@ -244,9 +244,9 @@ TEST_F(Server, CancelsAJobThatTheUserStoppedSending)
     JobReceipt receipt;
     bool isDone = false;
     QObject owner;
-    auto *call = new ServerCall(
-        &owner, kServerPatience,
-        [&](CallGuard &guard) -> ServerCall::Outcome {
+    auto *call = new BackgroundCall(
+        &owner, kServerTimeout,
+        [&](CallGuard &guard) -> BackgroundCall::Outcome {
             const JobReceipt got = submitJob(request, guard);
             return [&, got] {
                 receipt = got;
@@ -468,15 +468,15 @@ INSTANTIATE_TEST_SUITE_P(
                          }}),
     [](const auto &row) { return std::string(row.param.name); });
 
-TEST(ServerCallTest, GivesUpWorkThatDoesNotStop)
+TEST(BackgroundCallTest, GivesUpWorkThatDoesNotStop)
 {
     std::atomic<bool> release = false;
     bool gaveUp = false;
     bool arrived = false;
     QObject owner;
-    new ServerCall(
+    new BackgroundCall(
         &owner, 200ms,
-        [&](CallGuard &) -> ServerCall::Outcome {
+        [&](CallGuard &) -> BackgroundCall::Outcome {
             while (!release) // stands for a name look-up, which nothing can interrupt
                 std::this_thread::yield();
             return [&] { arrived = true; };
@@ -484,41 +484,41 @@ TEST(ServerCallTest, GivesUpWorkThatDoesNotStop)
         [&] { gaveUp = true; });
     EXPECT_TRUE(QTest::qWaitFor([&] { return gaveUp; }));
     release = true;
-    EXPECT_TRUE(waitForServerThreads(5s));
+    EXPECT_TRUE(waitForBackgroundThreads(5s));
     QCoreApplication::processEvents();
     EXPECT_FALSE(arrived);
 }
 
-TEST(ServerCallTest, DestroyedBeforeItsEndSaysNothing)
+TEST(BackgroundCallTest, DestroyedBeforeItsEndSaysNothing)
 {
     bool arrived = false;
     {
         QObject owner;
-        new ServerCall(
+        new BackgroundCall(
             &owner, 5s,
-            [&](CallGuard &guard) -> ServerCall::Outcome {
+            [&](CallGuard &guard) -> BackgroundCall::Outcome {
                 while (guard.mayWait())
                     std::this_thread::yield();
                 return [&] { arrived = true; };
             },
             [&] { arrived = true; });
     }
-    EXPECT_TRUE(waitForServerThreads(4s));
+    EXPECT_TRUE(waitForBackgroundThreads(4s));
     QCoreApplication::processEvents();
     EXPECT_FALSE(arrived);
 }
 
-TEST(ServerCallTest, IsWaitedForWhereThereIsNoWindow)
+TEST(BackgroundCallTest, IsWaitedForWhereThereIsNoWindow)
 {
-    const auto answer = waitForServer<int>(5s, [](CallGuard &) { return 42; });
+    const auto answer = waitForCall<int>(5s, [](CallGuard &) { return 42; });
     EXPECT_EQ(answer, 42);
-    const auto none = waitForServer<int>(100ms, [](CallGuard &guard) {
+    const auto none = waitForCall<int>(100ms, [](CallGuard &guard) {
         while (guard.silence() < 400ms)
             std::this_thread::yield();
         return 1;
     });
     EXPECT_EQ(none, std::nullopt);
-    EXPECT_TRUE(waitForServerThreads(5s));
+    EXPECT_TRUE(waitForBackgroundThreads(5s));
 }
 
 } // namespace

@@ -1,6 +1,6 @@
 #include "dialog/host/HostCallback.h"
 #include "dialog/host/PPDMarks.h"
-#include "platform/pde/PPDText.h"
+#include "platform/ppd/PPDText.h"
 #include "tests/support/CaseName.h"
 #include "tests/support/PPDSource.h"
 #include "tests/support/QStringPrinting.h"

@@ -1,7 +1,7 @@
 #include "dialog/host/HostSession.h"
 #include "platform/foundation/UserDefaults.h"
 #include "platform/pde/PDEPanelInspection.h"
-#include "platform/pde/PPDText.h"
+#include "platform/ppd/PPDText.h"
 #include "tests/support/Files.h"
 #include "tests/support/SmallPrinter.h"
 

@@ -1,5 +1,5 @@
 #include "dialog/host/PPDFile.h"
-#include "platform/pde/PPDText.h"
+#include "platform/ppd/PPDText.h"
 #include "tests/support/Files.h"
 #include "tests/support/SmallPrinter.h"
 

@@ -1,6 +1,6 @@
 #include "dialog/host/PPDFile.h"
 #include "dialog/host/PPDLimits.h"
-#include "platform/pde/PPDText.h"
+#include "platform/ppd/PPDText.h"
 #include "tests/support/Files.h"
 #include "tests/support/QStringPrinting.h"
 #include "tests/support/SmallPrinter.h"

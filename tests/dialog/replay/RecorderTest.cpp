@@ -1,11 +1,11 @@
 // A session that is driven as people drive it, recorded, and replayed: the script leads to the same
 // state.
 #include "dialog/replay/Recorder.h"
-#include "dialog/replay/PanelParts.h"
+#include "dialog/host/controls/PanelParts.h"
+#include "dialog/host/controls/UserActions.h"
 #include "dialog/replay/ReplayScript.h"
 #include "dialog/replay/ReplaySession.h"
 #include "dialog/replay/StateReport.h"
-#include "dialog/replay/UserActions.h"
 #include "platform/foundation/NotificationCenter.h"
 #include "platform/foundation/UserDefaults.h"
 #include "platform/toolkit/FractionSlider.h"

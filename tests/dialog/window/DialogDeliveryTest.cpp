@@ -1,4 +1,4 @@
-#include "dialog/cups/ServerCall.h"
+#include "dialog/work/BackgroundCall.h"
 #include "tests/dialog/window/DialogWindowFixture.h"
 #include "tests/support/EventLoopWatch.h"
 
@@ -207,7 +207,7 @@ TEST_F(PipedDocument, ThatNeverEndsKeepsNoDialogOpen)
     click("cancelButton");
     EXPECT_FALSE(m_window->isVisible());
     m_window.reset();
-    EXPECT_TRUE(waitForServerThreads(std::chrono::seconds(20)));
+    EXPECT_TRUE(waitForBackgroundThreads(std::chrono::seconds(20)));
 }
 
 } // namespace

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "dialog/window/DialogWindow.h"
-#include "platform/pde/PPDText.h"
+#include "platform/ppd/PPDText.h"
 #include "platform/toolkit/PopUpButton.h"
 #include "tests/built/BuiltFiles.h"
 #include "tests/support/Files.h"
@@ -19,7 +19,7 @@
 class DialogWindowFixture : public testing::Test
 {
 protected:
-    static constexpr int kPatience = 20000; // ms
+    static constexpr int kTimeout = 20000; // ms
 
     DialogWindowFixture()
     {
@@ -42,7 +42,7 @@ protected:
     void waitForPrinter()
     {
         ASSERT_TRUE(QTest::qWaitFor(
-            [this] { return m_window->state() != DialogWindow::State::Searching; }, kPatience));
+            [this] { return m_window->state() != DialogWindow::State::Searching; }, kTimeout));
         QCoreApplication::processEvents(); // what the settings of the command line have put off
     }
 

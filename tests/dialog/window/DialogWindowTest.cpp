@@ -1,9 +1,9 @@
-#include "dialog/cups/ServerCall.h"
 #include "dialog/host/PPDFile.h"
+#include "dialog/work/BackgroundCall.h"
 #include "platform/foundation/NotificationCenter.h"
 #include "platform/toolkit/KeyWindow.h"
 #include "platform/toolkit/NumberField.h"
-#include "tests/dialog/window/ClashingPPD.h"
+#include "tests/support/ClashingPPD.h"
 #include "tests/dialog/window/DialogWindowFixture.h"
 #include "tests/support/PPDSource.h"
 
@@ -66,7 +66,7 @@ TEST_F(Window, MayBeClosedWhileThePPDIsRead)
     m_window->show();
     m_window->reject();
     m_window.reset();
-    EXPECT_TRUE(waitForServerThreads(std::chrono::milliseconds(kPatience)));
+    EXPECT_TRUE(waitForBackgroundThreads(std::chrono::milliseconds(kTimeout)));
     QCoreApplication::processEvents(); // what the thread has left behind finds nobody
 }
 

@@ -1,0 +1,154 @@
+#include "dialog/job/JobOptions.h"
+
+#include "dialog/job/ReservedNames.h"
+#include "dialog/job/StandardAttributes.h"
+#include "platform/ppd/PPDText.h"
+#include "platform/toolkit/PlainText.h"
+
+#include <QtCore/QCoreApplication>
+#include <QtCore/QLocale>
+
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr qsizetype kLongestText = 255; // bytes: an IPP name
+constexpr auto kMappedPaper = "com.apple.print.PageToPaperMappingMediaName"_L1;
+constexpr auto kColorMatching = "AP_ColorMatchingMode"_L1;
+constexpr auto kPlatformKeys = "com.apple."_L1;
+constexpr auto kLandscape = "4"_L1; // orientation-requested
+
+bool isNameCharacter(QChar character)
+{
+    return (character.unicode() < 0x80 && character.isLetterOrNumber()) || character == u'.' ||
+           character == u'_' || character == u'-';
+}
+
+bool isValueCharacter(uint character)
+{
+    const bool breaksLine =
+        character == QChar::LineSeparator || character == QChar::ParagraphSeparator;
+    return QChar::isPrint(character) && !breaksLine;
+}
+
+// Half of a surrogate pair would leave as a question mark.
+bool isValue(const QString &value)
+{
+    return !value.isEmpty() && value.isValidUtf16() &&
+           std::ranges::all_of(value.toUcs4(), isValueCharacter);
+}
+
+QList<JobOption> changedChoices(const JobValues &values)
+{
+    QList<JobOption> choices;
+    for (const PPDMark &mark : changedMarks(values.ppd, values.defaultMarks))
+        if (!isReservedName(mark.keyword))
+            choices += JobOption{mark.keyword, mark.choice};
+    return choices;
+}
+
+void put(QList<JobOption> &options, const JobOption &option)
+{
+    options.removeIf([&](const JobOption &old) { return old.name == option.name; });
+    options += option;
+}
+
+/// The paper, where it is not simply the marked choice: a size of the user's, or the paper that the
+/// document is scaled to.
+void putPaper(QList<JobOption> &options, const JobValues &values)
+{
+    const std::optional<PMPaper> &paper = values.format.paper;
+    if (values.ppd && paper && paper->ppdName.isNull() && paper->width > 0 && paper->height > 0)
+        put(options, {u"PageSize"_s, customPageSize(paper->width, paper->height)});
+    const QString mapped = values.ticket.values().value(kMappedPaper).toString();
+    if (mapped.isEmpty())
+        return;
+    if (findChoice(findOption(values.ppd, u"PageSize"_s), mapped))
+        put(options, {u"PageSize"_s, mapped});
+    put(options, {u"fit-to-page"_s, u"true"_s});
+    put(options, {u"print-scaling"_s, u"fit"_s});
+}
+
+void putSettings(QList<JobOption> &options, const JobValues &values)
+{
+    if (values.settings.copies > 1)
+        put(options, {u"copies"_s, QString::number(values.settings.copies)});
+    if (!values.settings.pageRanges.isEmpty())
+        put(options, {u"page-ranges"_s, values.settings.pageRanges});
+    if (values.format.orientation == PMOrientation::Landscape)
+        put(options, {u"orientation-requested"_s, kLandscape});
+}
+
+QString ticketText(const QVariant &value)
+{
+    if (value.typeId() == QMetaType::Bool)
+        return value.toBool() ? u"true"_s : u"false"_s;
+    if (value.typeId() == QMetaType::Double || value.typeId() == QMetaType::Float)
+        return QString::number(value.toDouble(), 'g', QLocale::FloatingPointShortest);
+    return value.toString();
+}
+
+void putTicket(QList<JobOption> &options, const QVariantMap &ticket)
+{
+    for (auto entry = ticket.cbegin(); entry != ticket.cend(); ++entry) {
+        const QString &key = entry.key();
+        if (key == kColorMatching || (key.contains(u'.') && !key.startsWith(kPlatformKeys)))
+            put(options, {key, ticketText(entry.value())});
+    }
+}
+
+QString fault(const JobOption &option)
+{
+    return QCoreApplication::translate("JobOptions",
+                                       "The setting %1 cannot be sent: \"%2\" is no value that a "
+                                       "print server may be given.")
+        .arg(displayText(option.name.left(80)), displayText(option.value.left(80)));
+}
+
+} // namespace
+
+bool isChoice(ppd_file_t *ppd, const QString &name)
+{
+    return findOption(ppd, name) && !isReservedName(name);
+}
+
+bool isSendable(const JobOption &option)
+{
+    const bool nameIsGood =
+        !option.name.isEmpty() && std::ranges::all_of(option.name, isNameCharacter);
+    return nameIsGood && isValue(option.value) && option.name.size() <= kLongestText &&
+           option.value.toUtf8().size() <= kLongestText;
+}
+
+QString customPageSize(double width, double height)
+{
+    const auto number = [](double points) {
+        return QString::number(qRound(points * 100) / 100.0, 'g', 8);
+    };
+    return u"Custom.%1x%2"_s.arg(number(width), number(height));
+}
+
+JobOptions jobOptions(const JobValues &values)
+{
+    QList<JobOption> made;
+    for (const JobOption &option : values.saved)
+        if (option.name != "media"_L1 && !isChoice(values.ppd, option.name))
+            put(made, option);
+    const QList<JobOption> choices = changedChoices(values);
+    for (const JobOption &option : choices + standardAttributesBeside(choices))
+        put(made, option);
+    putPaper(made, values);
+    putSettings(made, values);
+    putTicket(made, values.ticket.values());
+
+    JobOptions job;
+    for (const JobOption &option : made) {
+        if (isSendable(option))
+            job.options += option;
+        else
+            job.faults += fault(option);
+    }
+    return job;
+}

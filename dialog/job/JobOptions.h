@@ -1,0 +1,59 @@
+#pragma once
+
+#include "dialog/host/PPDMarks.h"
+#include "dialog/job/JobOption.h"
+#include "platform/printmanager/PMPageFormat.h"
+#include "platform/printmanager/PMPrintSettings.h"
+
+#include <QtCore/QList>
+#include <QtCore/QString>
+#include <QtCore/QStringList>
+
+#include <cups/ppd.h>
+
+/// What the dialog itself settles, beside the PPD's choices.
+struct HostSettings
+{
+    int copies = 1;
+    QString pageRanges; ///< as normalizedPageRanges() gives them; empty: all
+
+    bool operator==(const HostSettings &) const = default;
+};
+
+/// Everything that a job's options are made from.
+struct JobValues
+{
+    ppd_file_t *ppd = nullptr;   ///< marked; null: a queue without a PPD
+    QList<PPDMark> defaultMarks; ///< OpenedPPD::defaults
+    PMPageFormat format;
+    PMPrintSettings ticket;
+    HostSettings settings;
+    QList<JobOption> saved; ///< lpoptions of the queue that are no choices of its PPD
+};
+
+/// The options of a job, or why it cannot be sent.
+struct JobOptions
+{
+    QList<JobOption> options;
+    /// One sentence for each value that must not be sent; the job is sent only when there is none.
+    QStringList faults;
+};
+
+/// The job's options: saved settings that are not the PPD's, the marks that are not there by
+/// default (without those whose keyword is reserved), the dialog's own settings, and every ticket
+/// value under a vendor key. A vendor key is one in reverse-domain form ("com.maker.thing") that is
+/// not the platform's own.
+///
+/// The paper is sent as `PageSize` alone. Beside it `media` would win in later versions of CUPS,
+/// and borderless paper would print with margins.
+JobOptions jobOptions(const JobValues &values);
+
+/// Whether the name is that of an option of the PPD (null: none) whose choices may be sent.
+bool isChoice(ppd_file_t *ppd, const QString &name);
+
+/// Whether the server may be given the option: a name of letters, digits, '.', '_' and '-', and a
+/// value of printable characters, up to 255 bytes. Filters are handed others unquoted.
+bool isSendable(const JobOption &option);
+
+/// `PageSize` for a size that the user defined, such as "Custom.283.46x425.2" (points).
+QString customPageSize(double width, double height);

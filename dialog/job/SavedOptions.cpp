@@ -1,0 +1,120 @@
+#include "dialog/job/SavedOptions.h"
+
+#include <QtCore/QFile>
+#include <QtCore/QFileInfo>
+#include <QtCore/QStringList>
+
+#include <cups/cups.h>
+
+#include <unistd.h>
+
+namespace {
+
+QStringList lpoptionsFiles()
+{
+    const QByteArray folder = qgetenv("CUPS_SERVERROOT");
+    QStringList files{QString::fromLocal8Bit(folder.isEmpty() ? QByteArray("/etc/cups") : folder) +
+                      QStringLiteral("/lpoptions")};
+    const QByteArray home = qgetenv("HOME");
+    if (!home.isEmpty())
+        files += QString::fromLocal8Bit(home) + QStringLiteral("/.cups/lpoptions");
+    return files;
+}
+
+/// The lines of all files, the user's own last.
+QList<SavedLine> savedLines()
+{
+    QList<SavedLine> lines;
+    for (const QString &path : lpoptionsFiles()) {
+        QFile file(path);
+        // A pipe would keep whoever opens it waiting.
+        if (!QFileInfo(path).isFile() || !file.open(QIODevice::ReadOnly))
+            continue;
+        while (!file.atEnd()) {
+            const SavedLine line = parseSavedLine(file.readLine());
+            if (!line.name.queue.isEmpty())
+                lines += line;
+        }
+    }
+    return lines;
+}
+
+void put(QList<JobOption> &options, const QList<JobOption> &added)
+{
+    for (const JobOption &option : added) {
+        options.removeIf([&](const JobOption &old) { return old.name == option.name; });
+        options += option;
+    }
+}
+
+QList<JobOption> parseOptions(const QByteArray &text)
+{
+    cups_option_t *parsed = nullptr;
+    const int count = cupsParseOptions(text.constData(), 0, &parsed);
+    QList<JobOption> options;
+    for (int index = 0; index < count; ++index)
+        options += JobOption{QString::fromUtf8(parsed[index].name),
+                             QString::fromUtf8(parsed[index].value)};
+    cupsFreeOptions(count, parsed);
+    return options;
+}
+
+} // namespace
+
+QueueName queueName(const QString &text)
+{
+    const qsizetype slash = text.indexOf(u'/');
+    return {text.left(slash), slash < 0 ? QString() : text.mid(slash + 1)};
+}
+
+SavedLine parseSavedLine(const QByteArray &line)
+{
+    const QByteArray words = line.simplified();
+    const qsizetype keywordEnd = words.indexOf(' ');
+    const QByteArray keyword = words.left(keywordEnd).toLower();
+    if (keywordEnd < 0 || (keyword != "dest" && keyword != "default"))
+        return {};
+    const QByteArray rest = line.trimmed().mid(keywordEnd).trimmed();
+    const qsizetype nameEnd = rest.simplified().indexOf(' ');
+    return {queueName(QString::fromUtf8(nameEnd < 0 ? rest : rest.left(nameEnd))),
+            keyword == "default",
+            nameEnd < 0 ? QList<JobOption>() : parseOptions(rest.mid(nameEnd))};
+}
+
+QList<JobOption> savedOptions(const QueueName &name)
+{
+    const QList<SavedLine> lines = savedLines();
+    QList<JobOption> options;
+    for (const SavedLine &line : lines)
+        if (line.name == QueueName{name.queue, {}})
+            put(options, line.options);
+    for (const SavedLine &line : lines)
+        if (!name.instance.isNull() && line.name == name)
+            put(options, line.options);
+    return options;
+}
+
+QList<QueueName> savedInstances()
+{
+    QList<QueueName> instances;
+    for (const SavedLine &line : savedLines())
+        if (!line.name.instance.isNull() && !instances.contains(line.name))
+            instances += line.name;
+    return instances;
+}
+
+QueueName usualQueue()
+{
+    const QString byLpdest = qEnvironmentVariable("LPDEST");
+    if (!byLpdest.isEmpty())
+        return queueName(byLpdest);
+    // "lp" is what the variable says on systems where nobody has set it up.
+    const QString byPrinter = qEnvironmentVariable("PRINTER");
+    if (!byPrinter.isEmpty() && byPrinter != QLatin1String("lp"))
+        return queueName(byPrinter);
+    QueueName usual;
+    for (const SavedLine &line : savedLines())
+        if (line.isDefault)
+            usual = line.name;
+    return usual;
+}

@@ -1,0 +1,40 @@
+#pragma once
+
+#include "dialog/job/JobOption.h"
+
+#include <QtCore/QString>
+
+/// A queue, or one of the instances that a user has saved settings under.
+struct QueueName
+{
+    QString queue;
+    QString instance; ///< null: the queue itself
+
+    bool operator==(const QueueName &) const = default;
+};
+
+/// The settings that the system and the user have saved with lpoptions for the queue and, above
+/// them, for the instance. Read from the files, without asking a server.
+QList<JobOption> savedOptions(const QueueName &name);
+
+/// The instances that the system and the user have saved settings for, each once. Some may be of
+/// queues that are no more.
+QList<QueueName> savedInstances();
+
+/// The queue that the user prints to unless told otherwise: the one of lpoptions, else what LPDEST
+/// or PRINTER say. Null queue: the server decides.
+QueueName usualQueue();
+
+/// One line of an lpoptions file, "Dest photo/glossy media=a4 ..." or "Default ...". An empty
+/// queue: the line says nothing.
+struct SavedLine
+{
+    QueueName name;
+    bool isDefault = false;
+    QList<JobOption> options;
+};
+
+SavedLine parseSavedLine(const QByteArray &line);
+
+/// "queue/instance" taken apart.
+QueueName queueName(const QString &text);

@@ -1,0 +1,78 @@
+#pragma once
+
+#include "dialog/cups/JobSubmission.h"
+#include "dialog/job/JobOptions.h"
+#include "dialog/printing/PrinterSource.h"
+
+#include <QtCore/QString>
+#include <QtCore/QStringList>
+
+#include <memory>
+#include <optional>
+
+/// A job while it is being prepared: a printer with its panels, what the user settles, and the
+/// documents. Every change goes through the host session, so that the panels hear of it.
+///
+/// A queue without a usable PPD has no session: its job has the dialog's own settings alone.
+class PrintJob
+{
+public:
+    enum class ColorMatching { Printer, Application };
+
+    explicit PrintJob(Documents documents = {});
+
+    const Documents &documents() const { return m_documents; }
+    const QString &title() const { return m_title; }
+    void setDocuments(const Documents &documents);
+
+    /// Takes another printer; the former one's panels must not be on screen any more. Copies and
+    /// pages that the user has settled stay, a session's own settings do not.
+    void setPrinter(const PrinterSource &source, OpenedPrinter printer);
+
+    /// Releases the panels.
+    void closePrinter();
+
+    const PrinterSource &source() const { return m_source; }
+    HostSession *session() const { return m_session.get(); }
+    ppd_file_t *ppd() const { return m_session ? m_session->ppd() : nullptr; }
+
+    HostSettings &settings() { return m_settings; }
+    const HostSettings &settings() const { return m_settings; }
+
+    PMOrientation orientation() const;
+    void setOrientation(PMOrientation orientation);
+
+    /// None without a session, or when nothing is marked.
+    std::optional<PMPaper> paper() const;
+    void setPaper(const PMPaper &paper);
+
+    /// The paper that the document is scaled to; null: its own.
+    QString mappedPaper() const;
+    void setMappedPaper(const QString &paper);
+
+    /// Whether the printer leaves the choice who matches the colors.
+    bool offersColorMatching() const;
+    ColorMatching colorMatching() const;
+    void setColorMatching(ColorMatching matching);
+
+    /// Marks a choice of the dialog's own. False without such a choice.
+    bool mark(const QString &keyword, const QString &choice);
+
+    /// Options that no panel shows but the dialog: the PPD's `Duplex`, and what the plug-in wants
+    /// watched. Those that the PPD has.
+    QStringList ownKeywords() const;
+
+    /// The job as it would be sent now.
+    JobOptions options() const;
+    JobRequest request(const QList<JobOption> &options) const;
+
+private:
+    PMPageFormat m_formatWithoutSession;
+    Documents m_documents;
+    QString m_title;
+    PrinterSource m_source;
+    HostSettings m_settings;
+    HostSettings m_savedSettings; // to tell whether the user has settled anything since
+    QList<JobOption> m_saved;
+    std::unique_ptr<HostSession> m_session;
+};

@@ -1,0 +1,57 @@
+#pragma once
+
+#include "dialog/cups/QueuePPD.h"
+#include "dialog/host/HostSession.h"
+#include "dialog/job/SavedOptions.h"
+#include "dialog/job/SavedSettings.h"
+#include "dialog/work/CallGuard.h"
+
+#include <QtCore/QString>
+
+#include <functional>
+#include <memory>
+
+/// Which printer a job is for: a queue of a server, or a PPD file alone.
+struct PrinterSource
+{
+    QString server;  ///< null: the user's usual one
+    QueueName queue; ///< a null queue: none, or not known yet
+    QString ppdPath; ///< null: the queue's own
+};
+
+/// What a server told of a queue, or what is in a PPD file.
+struct FetchedPrinter
+{
+    QueueName queue;  ///< null: none was named, and the server has no default
+    QueuePPD ppd;     ///< as a server gave it; of a PPD file nothing
+    QString ppdPath;  ///< of the file that was opened; null: there is none
+    OpenedPPD opened; ///< only where there is a path
+};
+
+/// Opens the source's PPD file. Without one it asks the server for the PPD of the source's queue,
+/// or of the server's default queue when none is named, and opens that. Blocks: call it in a
+/// BackgroundCall.
+FetchedPrinter fetchPrinter(const PrinterSource &source, CallGuard &guard);
+
+/// What stands for it when a BackgroundCall has given it up: no PPD, and why.
+FetchedPrinter givenUpPrinter(const PrinterSource &source);
+
+/// The queue that was asked for on the command line, else the user's usual one.
+QueueName wantedQueue(const QString &queue, const QString &instance);
+
+/// A printer whose panels run.
+struct OpenedPrinter
+{
+    std::unique_ptr<HostSession> session; ///< null: no PPD that can be used
+    SavedSettings saved;
+    QString error; ///< why the PPD cannot be used; null otherwise
+};
+
+/// The error of a PPD that was fetched into the file at `path`, as it concerns the queue.
+QString errorOfQueue(const QString &error, const QString &path, const QString &queue);
+
+/// Opens a session on the PPD, marks what the user has saved for the queue, and starts the panels.
+/// `beforeStart` may follow the session from its beginning. On the main thread.
+OpenedPrinter openPrinter(const SessionOptions &options, OpenedPPD ppd,
+                          const QList<JobOption> &saved,
+                          const std::function<void(HostSession &)> &beforeStart = {});

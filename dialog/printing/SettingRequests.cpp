@@ -1,0 +1,205 @@
+#include "dialog/printing/SettingRequests.h"
+
+#include "dialog/host/controls/PanelParts.h"
+#include "dialog/host/controls/UserActions.h"
+#include "dialog/job/Conflicts.h"
+#include "dialog/job/PageRanges.h"
+#include "dialog/job/Papers.h"
+#include "dialog/printing/PrintJob.h"
+#include "platform/ppd/PPDText.h"
+#include "platform/toolkit/FractionSlider.h"
+#include "platform/toolkit/PlainText.h"
+
+#include <QtCore/QCoreApplication>
+#include <QtWidgets/QAbstractButton>
+
+#include <algorithm>
+#include <array>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int kMostCopies = 999;
+
+QString sentence(const char *text)
+{
+    return QCoreApplication::translate("SettingRequests", text);
+}
+
+QString notNow(const QString &keyword, const QString &choice)
+{
+    return sentence(QT_TRANSLATE_NOOP("SettingRequests", "%1=%2 cannot be chosen while the other "
+                                                         "settings are as they are."))
+        .arg(displayText(keyword), displayText(choice));
+}
+
+QString badValue(const QString &keyword, const QString &choice)
+{
+    return sentence(QT_TRANSLATE_NOOP("SettingRequests", "%2 is no value for %1."))
+        .arg(displayText(keyword), displayText(choice));
+}
+
+// --- The dialog's own settings
+// --------------------------------------------------------------------
+
+bool takeCopies(PrintJob &job, const QString &value)
+{
+    const int copies = value.toInt();
+    const bool isGood = copies >= 1 && copies <= kMostCopies;
+    if (isGood)
+        job.settings().copies = copies;
+    return isGood;
+}
+
+bool takePages(PrintJob &job, const QString &value)
+{
+    const QString ranges = normalizedPageRanges(value);
+    if (!ranges.isNull())
+        job.settings().pageRanges = ranges;
+    return !ranges.isNull();
+}
+
+bool takeOrientation(PrintJob &job, const QString &value)
+{
+    const bool isLandscape = value == "4"_L1 || value == "landscape"_L1;
+    const bool isPortrait = value == "3"_L1 || value == "portrait"_L1;
+    job.setOrientation(isLandscape ? PMOrientation::Landscape : PMOrientation::Portrait);
+    return isLandscape || isPortrait;
+}
+
+struct OwnSetting
+{
+    QLatin1String name;
+    bool (*take)(PrintJob &job, const QString &value);
+};
+
+constexpr std::array kOwnSettings{OwnSetting{"copies"_L1, takeCopies},
+                                  OwnSetting{"page-ranges"_L1, takePages},
+                                  OwnSetting{"orientation-requested"_L1, takeOrientation}};
+
+// --- The panels' controls
+// -------------------------------------------------------------------------
+
+bool isOn(const QString &choice)
+{
+    return choice == "ON"_L1 || choice == "True"_L1;
+}
+
+/// The panel that manages the keyword; null without one.
+const HostPanel *panelOf(const HostSession &session, const QString &keyword)
+{
+    for (const HostPanel &panel : session.panels())
+        if (panel.panel->supportedPPDOptionKeys().value_or(QStringList()).contains(keyword))
+            return &panel;
+    return nullptr;
+}
+
+QString pick(const PDEPanelInspection &panel, const QString &keyword, const QString &choice)
+{
+    QWidget *control = panel.inspectedControl(keyword);
+    const QString name = outletsInView(panel).key(control);
+    auto *button = qobject_cast<QAbstractButton *>(control);
+    return button ? pickChecked(panel, name, isOn(choice)) : pickChoice(panel, name, choice);
+}
+
+/// Has every panel fill its controls, as it does when it is shown.
+void prepareControls(HostSession &session)
+{
+    for (const HostPanel &panel : session.panels()) {
+        if (!panel.inspection || panel.inspection->inspectedView())
+            continue;
+        session.show(panel);
+        session.hide(panel);
+    }
+}
+
+bool hasSlider(const HostSession &session, const QString &keyword)
+{
+    const auto sliders = partsOfViews<FractionSlider>(session);
+    return std::ranges::find(sliders, keyword, boundKeyOf) != sliders.end();
+}
+
+/// How the setting is made with a control. None when no panel has a control for it.
+std::optional<QString> pickInPanel(HostSession &session, const QString &keyword,
+                                   const QString &choice)
+{
+    const HostPanel *panel = panelOf(session, keyword);
+    if (panel && panel->inspection && panel->inspection->inspectedControl(keyword))
+        return pick(*panel->inspection, keyword, choice);
+    bool isNumber = false;
+    const double value = choice.toDouble(&isNumber);
+    if (isNumber && hasSlider(session, keyword))
+        return moveSlider(session, keyword, value);
+    return std::nullopt;
+}
+
+QString markByHost(PrintJob &job, const QString &keyword, const QString &choice)
+{
+    QString clash = refusalSentence(job.ppd(), keyword, choice);
+    if (clash.isNull())
+        job.mark(keyword, choice);
+    return clash;
+}
+
+QString missing(PrintJob &job, const QString &keyword, const QString &choice)
+{
+    if (!job.session())
+        return sentence(
+                   QT_TRANSLATE_NOOP("SettingRequests", "%1 cannot be set: the queue has no PPD."))
+            .arg(displayText(keyword));
+    ppd_option_t *option = findOption(job.ppd(), keyword);
+    if (!isChoice(job.ppd(), keyword))
+        return sentence(QT_TRANSLATE_NOOP("SettingRequests", "The printer has no setting %1."))
+            .arg(displayText(keyword));
+    return findChoice(option, choice) ? QString() : badValue(keyword, choice);
+}
+
+} // namespace
+
+QString makeSetting(PrintJob &job, const QString &keyword, const QString &choice, Refusal &refusal)
+{
+    const auto own = std::ranges::find(kOwnSettings, keyword, &OwnSetting::name);
+    if (own != kOwnSettings.end())
+        return own->take(job, choice) ? QString() : badValue(keyword, choice);
+    if (keyword == "PageSize"_L1)
+        return choosePaper(job, choice);
+    QString fault = missing(job, keyword, choice);
+    if (!fault.isNull())
+        return fault;
+    prepareControls(*job.session());
+    refusal = {};
+    const std::optional<QString> picked = pickInPanel(*job.session(), keyword, choice);
+    if (!picked)
+        return markByHost(job, keyword, choice);
+    // The reason names parts of the view, which nobody knows by name.
+    if (!picked->isNull())
+        return notNow(keyword, choice);
+    if (refusal.keyword != keyword || refusal.choice != choice)
+        return {};
+    QString clash = refusalSentence(job.ppd(), keyword, choice);
+    return clash.isNull() ? notNow(keyword, choice) : clash;
+}
+
+QString choosePaper(PrintJob &job, const QString &paper)
+{
+    if (!job.session())
+        return missing(job, u"PageSize"_s, paper);
+    const std::optional<PMPaper> listed = paperOfChoice(job.ppd(), paper);
+    const std::optional<PMPaper> custom = parseCustomPaper(paper);
+    const std::optional<CustomLimits> limits = customLimits(job.ppd());
+    if (listed) {
+        QString clash = refusalSentence(job.ppd(), u"PageSize"_s, paper);
+        if (clash.isNull())
+            job.setPaper(*listed);
+        return clash;
+    }
+    if (!custom)
+        return sentence(QT_TRANSLATE_NOOP("SettingRequests", "The printer has no paper %1."))
+            .arg(displayText(paper));
+    if (!limits)
+        return sentence(QT_TRANSLATE_NOOP("SettingRequests",
+                                          "The printer takes no paper of a size of your own."));
+    job.setPaper(*custom);
+    return {};
+}

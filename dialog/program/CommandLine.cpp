@@ -1,0 +1,168 @@
+#include "dialog/program/CommandLine.h"
+
+#include <QtCore/QCoreApplication>
+
+#include <algorithm>
+#include <array>
+
+namespace {
+
+QString sentence(const char *text)
+{
+    return QCoreApplication::translate("CommandLine", text);
+}
+
+/// One option: exactly one of `text`, `flag` and `take` is set.
+struct Option
+{
+    const char *longName;
+    char shortName; // '\0': none
+    QString CommandLine::*text = nullptr;
+    bool CommandLine::*flag = nullptr;
+    QString (*take)(CommandLine &, const QString &value) = nullptr; // null: all right
+};
+
+QString takeQueue(CommandLine &line, const QString &value)
+{
+    const qsizetype slash = value.indexOf(u'/');
+    line.queue = value.left(slash);
+    if (slash >= 0)
+        line.instance = value.mid(slash + 1);
+    if (line.queue.isEmpty() || (slash >= 0 && line.instance.isEmpty()))
+        return sentence(QT_TRANSLATE_NOOP("CommandLine", "\"%1\" is not the name of a queue."))
+            .arg(value);
+    return {};
+}
+
+QString takeChoice(CommandLine &line, const QString &value)
+{
+    const qsizetype equals = value.indexOf(u'=');
+    if (equals <= 0 || equals == value.size() - 1)
+        return sentence(QT_TRANSLATE_NOOP("CommandLine", "-o needs KEY=VALUE, not \"%1\"."))
+            .arg(value);
+    line.choices.append({value.left(equals), value.mid(equals + 1)});
+    return {};
+}
+
+constexpr std::array kOptions{
+    Option{"destination", 'd', nullptr, nullptr, takeQueue},
+    Option{"server", 'h', &CommandLine::server},
+    Option{"ppd", '\0', &CommandLine::ppd},
+    Option{"option", 'o', nullptr, nullptr, takeChoice},
+    Option{"paper", '\0', &CommandLine::paper},
+    Option{"output", '\0', &CommandLine::output},
+    Option{"force", '\0', nullptr, &CommandLine::force},
+    Option{"no-dialog", '\0', nullptr, &CommandLine::noDialog},
+    Option{"yes", '\0', nullptr, &CommandLine::yes},
+    Option{"screenshot", '\0', &CommandLine::screenshot},
+    Option{"panel", '\0', &CommandLine::panel},
+    Option{"record", '\0', &CommandLine::record},
+    Option{"replay", '\0', &CommandLine::replay},
+    Option{"plug-in", '\0', &CommandLine::plugIn},
+    Option{"version", '\0', nullptr, &CommandLine::version},
+    Option{"help", '\0', nullptr, &CommandLine::help},
+};
+
+/// An argument taken apart: the option, and the value that stands in the same argument.
+struct Argument
+{
+    const Option *option = nullptr;
+    QString name; // as it was typed
+    QString value;
+};
+
+Argument longOption(const QString &argument)
+{
+    const qsizetype equals = argument.indexOf(u'=');
+    const QString name = argument.left(equals);
+    const auto found = std::ranges::find_if(kOptions, [&](const Option &option) {
+        return name.mid(2) == QLatin1String(option.longName);
+    });
+    return {found == kOptions.end() ? nullptr : &*found, name,
+            equals < 0 ? QString() : argument.mid(equals + 1)};
+}
+
+Argument shortOption(const QString &argument)
+{
+    const auto found = std::ranges::find_if(kOptions, [&](const Option &option) {
+        return option.shortName != '\0' && argument[1] == QLatin1Char(option.shortName);
+    });
+    return {found == kOptions.end() ? nullptr : &*found, argument.left(2),
+            argument.size() > 2 ? argument.mid(2) : QString()};
+}
+
+QString takeValue(CommandLine &line, const Argument &argument)
+{
+    if (argument.value.isEmpty())
+        return sentence(QT_TRANSLATE_NOOP("CommandLine", "%1 needs a value.")).arg(argument.name);
+    if (!argument.value.isValidUtf16())
+        return sentence(QT_TRANSLATE_NOOP("CommandLine", "The value of %1 is no UTF-8 text."))
+            .arg(argument.name);
+    if (argument.option->take)
+        return argument.option->take(line, argument.value);
+    line.*argument.option->text = argument.value;
+    return {};
+}
+
+/// Applies one option; a value that is an argument of its own is taken off `rest`.
+QString takeOption(CommandLine &line, Argument argument, QStringList &rest)
+{
+    if (!argument.option)
+        return sentence(QT_TRANSLATE_NOOP("CommandLine", "There is no option %1."))
+            .arg(argument.name);
+    if (argument.option->flag) {
+        if (!argument.value.isNull())
+            return sentence(QT_TRANSLATE_NOOP("CommandLine", "%1 takes no value."))
+                .arg(argument.name);
+        line.*argument.option->flag = true;
+        return {};
+    }
+    if (argument.value.isNull() && !rest.isEmpty())
+        argument.value = rest.takeFirst();
+    return takeValue(line, argument);
+}
+
+/// Options that do not go together, or need another one.
+QString contradiction(const CommandLine &line)
+{
+    if (!line.replay.isNull() && !line.record.isNull())
+        return sentence(
+            QT_TRANSLATE_NOOP("CommandLine", "--replay and --record do not go together."));
+    if (line.noDialog && !line.screenshot.isNull())
+        return sentence(
+            QT_TRANSLATE_NOOP("CommandLine", "--no-dialog and --screenshot do not go together."));
+    if (line.noDialog && line.files.isEmpty())
+        return sentence(QT_TRANSLATE_NOOP("CommandLine", "--no-dialog needs a document to print."));
+    if (line.yes && !line.noDialog)
+        return sentence(QT_TRANSLATE_NOOP("CommandLine", "--yes is for --no-dialog."));
+    return {};
+}
+
+} // namespace
+
+ParsedCommandLine parseCommandLine(const QStringList &arguments)
+{
+    ParsedCommandLine parsed;
+    CommandLine &line = parsed.commandLine;
+    QStringList rest = arguments;
+    bool optionsEnded = false;
+    while (!rest.isEmpty()) {
+        const QString argument = rest.takeFirst();
+        if (optionsEnded || argument.size() < 2 || !argument.startsWith(u'-')) {
+            line.files.append(argument);
+        } else if (argument == QLatin1String("--")) {
+            optionsEnded = true;
+        } else {
+            const bool isLong = argument.startsWith(QLatin1String("--"));
+            const QString fault =
+                takeOption(line, isLong ? longOption(argument) : shortOption(argument), rest);
+            if (parsed.error.isNull())
+                parsed.error = fault;
+        }
+    }
+    if (parsed.error.isNull())
+        parsed.error = contradiction(line);
+    if (line.help || line.version)
+        parsed.error = QString();
+    return parsed;
+}

@@ -1,0 +1,75 @@
+#include "dialog/program/DialogCommand.h"
+
+#include "dialog/program/CommandOutput.h"
+#include "dialog/program/ExitStatus.h"
+#include "dialog/program/NoDialogCommand.h"
+#include "dialog/program/Screenshot.h"
+#include "dialog/program/ToolkitMessages.h"
+#include "dialog/program/Translations.h"
+#include "dialog/window/DialogWindow.h"
+#include "dialog/work/BackgroundCall.h"
+#include "dialog/work/EndSignals.h"
+
+#include <QtWidgets/QApplication>
+
+#include <cstdlib>
+
+using enum ExitStatus;
+
+namespace {
+
+// The threads of calls that were given up may wait for a name server; nobody wants to.
+constexpr std::chrono::milliseconds kTimeoutAtTheEnd{300};
+
+ExitStatus runDialog(const CommandLine &line)
+{
+    DialogWindow window(line);
+    if (!window.documentError().isNull())
+        return failWith(Document, window.documentError());
+    if (!window.beginRecording())
+        return failWith(Output, window.recordingError());
+    window.start();
+    window.show();
+    const EndSignals signals([&window] { window.end(); });
+    QApplication::exec();
+    const bool hasOtherFault = window.exitStatus() != Done && window.exitStatus() != Cancelled;
+    return window.finishRecording() || hasOtherFault ? window.exitStatus()
+                                                     : failWith(Output, window.recordingError());
+}
+
+// The toolkit would advise to install the program again, and abort.
+[[noreturn]] void refuseToShow()
+{
+    installTranslations();
+    std::_Exit(exitCode(failWith(
+        Usage, QCoreApplication::translate("DialogCommand", "There is no display for the dialog; "
+                                                            "--no-dialog prints without it."))));
+}
+
+ExitStatus run(const CommandLine &line)
+{
+    if (line.noDialog)
+        return runNoDialogCommand(line);
+    return line.screenshot.isNull() ? runDialog(line) : takeScreenshot(line);
+}
+
+} // namespace
+
+int runDialogCommand(int &argc, char **argv, const CommandLine &line)
+{
+    const bool showsWindow = !line.noDialog && line.screenshot.isNull();
+    // Whatever a desktop's session names: its display may be out of reach.
+    if (!showsWindow)
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+    giveUpInsteadOfAborting(showsWindow ? refuseToShow : nullptr);
+    QApplication application(argc, argv);
+    giveUpInsteadOfAborting(nullptr);
+    QApplication::setApplicationName(QStringLiteral("velkaro-print"));
+    installTranslations();
+    QApplication::setApplicationDisplayName(
+        QCoreApplication::translate("DialogWindow", "Velkaro Print"));
+    const ExitStatus status = run(line);
+    ignoreEndSignals();
+    waitForBackgroundThreads(kTimeoutAtTheEnd);
+    return exitCode(status);
+}

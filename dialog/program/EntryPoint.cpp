@@ -1,0 +1,57 @@
+#include "dialog/files/PathBytes.h"
+#include "dialog/program/CommandLine.h"
+#include "dialog/program/CommandOutput.h"
+#include "dialog/program/DialogCommand.h"
+#include "dialog/program/ExitStatus.h"
+#include "dialog/program/HelpText.h"
+#include "dialog/program/ReplayCommand.h"
+#include "dialog/program/ToolkitMessages.h"
+#include "dialog/program/Translations.h"
+
+#include <QtCore/QCoreApplication>
+
+#include <cstdio>
+
+namespace {
+
+QStringList argumentsOf(int argc, char **argv)
+{
+    QStringList arguments;
+    for (int index = 1; index < argc; ++index)
+        arguments << pathOfBytes(argv[index]);
+    return arguments;
+}
+
+/// Reads the arguments once more, with the user's language at hand: only what is wrong needs it.
+int refuse(int argc, char **argv, const QStringList &arguments)
+{
+    const QCoreApplication application(argc, argv);
+    installTranslations();
+    return exitCode(failWith(ExitStatus::Usage, parseCommandLine(arguments).error));
+}
+
+int print(const char *text)
+{
+    std::fputs(text, stdout);
+    return exitCode(std::fflush(stdout) == 0 ? ExitStatus::Done : ExitStatus::Output);
+}
+
+} // namespace
+
+/// What the launcher calls: the whole program.
+extern "C" Q_DECL_EXPORT int velkaroPrintMain(int argc, char **argv)
+{
+    const QStringList arguments = argumentsOf(argc, argv);
+    const ParsedCommandLine parsed = parseCommandLine(arguments);
+    if (!parsed.error.isNull())
+        return refuse(argc, argv, arguments);
+    const CommandLine &line = parsed.commandLine;
+    if (line.help)
+        return print(helpText());
+    if (line.version)
+        return print(versionText());
+    tellToolkitFaultsOnly();
+    if (!line.replay.isNull())
+        return runReplayCommand(argc, argv, line);
+    return runDialogCommand(argc, argv, line);
+}

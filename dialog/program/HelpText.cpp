@@ -1,0 +1,61 @@
+#include "dialog/program/HelpText.h"
+
+const char *helpText()
+{
+    return R"(Usage: velkaro-print [options] [FILE...]
+Prints documents with the settings that you choose in a dialog. The file - is
+standard input.
+
+Printer
+  -d, --destination QUEUE[/INSTANCE]
+                          print to this queue (with the settings saved for
+                          the instance)
+  -h, --server HOST[:PORT]
+                          ask this print server instead of the usual one
+      --ppd FILE          take the printer from a PPD file instead of a queue
+
+Settings
+  -o, --option KEY=VALUE  make a setting of the printer; may be given again
+      --paper NAME        choose the paper by its name in the PPD, or
+                          Custom.WIDTHxHEIGHT with a unit: Custom.100x150mm
+
+Job
+      --output FILE       put the job into a file, settings and documents
+                          together; print it later with
+                          --no-dialog -d QUEUE FILE
+      --force             replace files that exist already: those of --output,
+                          --screenshot, --record and of a script's pictures
+      --no-dialog         print without showing the dialog; every check is made
+      --yes               answer yes to what a check asks, instead of no
+
+Looking and testing
+      --screenshot FILE.png
+                          paint the dialog into a picture instead of showing it
+      --panel NAME        show this part first: setup, print, color or
+                          summary; in a picture, this part alone
+      --record SCRIPT     note the session in a script
+      --replay SCRIPT     run a session from a script (-: standard input)
+                          and print what happens, a line of JSON an event
+      --plug-in FOLDER    load the plug-in from this bundle
+      --version           print the version
+      --help              print this text
+
+Exit status
+  0  printed, written, or the script ran to its end
+  1  cancelled in the dialog, or by a signal before the server had the
+     whole job
+  2  a wrong option, setting or script, a PPD that cannot be opened, or no
+     display for the dialog
+  3  a check stopped the job
+  4  a document cannot be read
+  5  an output file cannot be written, or exists already
+  6  the server or the queue cannot be reached, the job was refused, or it
+     is not known whether it was taken
+  7  the plug-in cannot be used
+)";
+}
+
+const char *versionText()
+{
+    return "velkaro-print " VELKARO_VERSION "\n";
+}

@@ -1,0 +1,132 @@
+#include "dialog/job/SavedOptions.h"
+#include "dialog/host/PPDFile.h"
+#include "dialog/job/SavedSettings.h"
+#include "platform/ppd/PPDText.h"
+#include "tests/built/BuiltFiles.h"
+#include "tests/endtoend/JobPrinting.h"
+#include "tests/support/Files.h"
+
+#include <QtCore/QDir>
+#include <QtCore/QFile>
+#include <QtCore/QTemporaryDir>
+
+#include <gtest/gtest.h>
+
+#include <sys/stat.h>
+#include <unistd.h>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// The lpoptions files of a system and of a user, in folders of the test's own.
+class SavedOptions : public testing::Test
+{
+protected:
+    SavedOptions()
+    {
+        qputenv("CUPS_SERVERROOT", QFile::encodeName(m_folder.filePath(u"etc"_s)));
+        qputenv("HOME", QFile::encodeName(m_folder.filePath(u"home"_s)));
+        qunsetenv("LPDEST");
+        qunsetenv("PRINTER");
+    }
+
+    void writeSystem(const char *text) { write(u"etc"_s, text); }
+    void writeUser(const char *text) { write(u"home/.cups"_s, text); }
+
+private:
+    void write(const QString &folder, const char *text)
+    {
+        writeFile(m_folder.filePath(folder + u"/lpoptions"_s), text);
+    }
+
+    QTemporaryDir m_folder;
+};
+
+TEST_F(SavedOptions, OfAnInstanceLieAboveThoseOfItsQueue)
+{
+    writeSystem("Dest photo copies=2 VKMediaType=Plain\n");
+    writeUser("# mine\nDest photo/glossy VKMediaType=Glossy PageSize=A4.Fullbleed\n"
+              "Default photo VKMediaType=HiRes\n"
+              "Dest other VKMediaType=Matte\n");
+    EXPECT_EQ(savedOptions({u"photo"_s, {}}),
+              (QList<JobOption>{{u"copies"_s, u"2"_s}, {u"VKMediaType"_s, u"HiRes"_s}}));
+    EXPECT_EQ(savedOptions({u"photo"_s, u"glossy"_s}),
+              (QList<JobOption>{{u"copies"_s, u"2"_s},
+                                {u"PageSize"_s, u"A4.Fullbleed"_s},
+                                {u"VKMediaType"_s, u"Glossy"_s}}));
+    EXPECT_EQ(savedOptions({u"nobody"_s, {}}), QList<JobOption>());
+}
+
+TEST_F(SavedOptions, AreNoneInAPipeThatNobodyWritesTo)
+{
+    writeUser("");
+    const QByteArray file = qgetenv("HOME") + "/.cups/lpoptions";
+    ASSERT_EQ(unlink(file.constData()), 0);
+    ASSERT_EQ(mkfifo(file.constData(), 0600), 0);
+    EXPECT_EQ(savedOptions({u"photo"_s, {}}), QList<JobOption>());
+}
+
+TEST_F(SavedOptions, AreNoneWithoutFiles)
+{
+    EXPECT_EQ(savedOptions({u"photo"_s, {}}), QList<JobOption>());
+    EXPECT_EQ(usualQueue(), QueueName());
+}
+
+TEST_F(SavedOptions, NameTheUsualQueue)
+{
+    writeSystem("Default office\n");
+    EXPECT_EQ(usualQueue(), (QueueName{u"office"_s, {}}));
+    writeUser("Default photo/glossy VKMediaType=Glossy\n");
+    EXPECT_EQ(usualQueue(), (QueueName{u"photo"_s, u"glossy"_s}));
+    qputenv("PRINTER", "lp");
+    EXPECT_EQ(usualQueue(), (QueueName{u"photo"_s, u"glossy"_s}));
+    qputenv("PRINTER", "second");
+    EXPECT_EQ(usualQueue(), (QueueName{u"second"_s, {}}));
+    qputenv("LPDEST", "third/x");
+    EXPECT_EQ(usualQueue(), (QueueName{u"third"_s, u"x"_s}));
+}
+
+TEST(SavedLine, UnderstandsQuotesAndSkipsTheRest)
+{
+    const SavedLine line = parseSavedLine("Dest  a/b  title=\"two words\" x=1\n");
+    EXPECT_EQ(line.name, (QueueName{u"a"_s, u"b"_s}));
+    EXPECT_FALSE(line.isDefault);
+    EXPECT_EQ(line.options, (QList<JobOption>{{u"title"_s, u"two words"_s}, {u"x"_s, u"1"_s}}));
+    EXPECT_TRUE(parseSavedLine("# Dest a x=1").name.queue.isEmpty());
+    EXPECT_TRUE(parseSavedLine("").name.queue.isEmpty());
+    EXPECT_TRUE(parseSavedLine("Dest").name.queue.isEmpty());
+}
+
+TEST(SavedSettings, BecomeMarksSettingsAndTheRest)
+{
+    const OpenedPPD opened = openPPD(samplePPD(u"velkaro-px-t900"_s));
+    ASSERT_TRUE(opened.ppd) << opened.error.toStdString();
+    const SavedSettings settings =
+        applySavedOptions(opened.ppd.get(), {{u"VKMediaType"_s, u"Glossy"_s},
+                                             {u"PageSize"_s, u"A4.Fullbleed"_s},
+                                             {u"VKResolution"_s, u"NoSuchChoice"_s},
+                                             {u"sides"_s, u"two-sided-long-edge"_s},
+                                             {u"copies"_s, u"3"_s},
+                                             {u"page-ranges"_s, u"2-4"_s},
+                                             {u"orientation-requested"_s, u"5"_s},
+                                             {u"number-up"_s, u"2"_s}});
+    EXPECT_EQ(markedChoice(opened.ppd.get(), u"VKMediaType"_s), u"Glossy"_s);
+    EXPECT_EQ(markedChoice(opened.ppd.get(), u"PageSize"_s), u"A4.Fullbleed"_s);
+    EXPECT_EQ(markedChoice(opened.ppd.get(), u"Duplex"_s), u"DuplexNoTumble"_s);
+    EXPECT_EQ(settings.settings.copies, 3);
+    EXPECT_EQ(settings.settings.pageRanges, u"2-4"_s);
+    EXPECT_EQ(settings.orientation, PMOrientation::Landscape);
+    EXPECT_EQ(settings.others, (QList<JobOption>{{u"number-up"_s, u"2"_s}}));
+}
+
+TEST(SavedSettings, WithoutAPPDKeepEverythingElse)
+{
+    const SavedSettings settings = applySavedOptions(
+        nullptr, {{u"media"_s, u"a4"_s}, {u"copies"_s, u"0"_s}, {u"sides"_s, u"one-sided"_s}});
+    EXPECT_EQ(settings.settings.copies, 1);
+    EXPECT_EQ(settings.others,
+              (QList<JobOption>{{u"media"_s, u"a4"_s}, {u"sides"_s, u"one-sided"_s}}));
+}
+
+} // namespace

@@ -1,0 +1,124 @@
+#include "dialog/program/CommandLine.h"
+#include "dialog/program/ExitStatus.h"
+#include "dialog/program/HelpText.h"
+
+#include <gtest/gtest.h>
+
+#include <ostream>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+struct Refused
+{
+    const char *name;
+    QStringList arguments;
+    const char *sentence;
+};
+
+void PrintTo(const Refused &row, std::ostream *out)
+{
+    *out << row.name;
+}
+
+class RefusedCommandLine : public testing::TestWithParam<Refused>
+{};
+
+TEST_P(RefusedCommandLine, SaysWhatIsWrong)
+{
+    EXPECT_EQ(parseCommandLine(GetParam().arguments).error.toStdString(), GetParam().sentence);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Table, RefusedCommandLine,
+    testing::Values(
+        Refused{"UnknownLong", {u"--frob"_s}, "There is no option --frob."},
+        Refused{"UnknownShort", {u"-x"_s}, "There is no option -x."},
+        Refused{"UnknownWithValue", {u"--frob=1"_s}, "There is no option --frob."},
+        Refused{"MissingValue", {u"a.pdf"_s, u"-d"_s}, "-d needs a value."},
+        Refused{"EmptyValue", {u"--ppd="_s}, "--ppd needs a value."},
+        Refused{"FlagWithValue", {u"--yes=1"_s}, "--yes takes no value."},
+        Refused{
+            "ChoiceWithoutEquals", {u"-o"_s, u"Glossy"_s}, "-o needs KEY=VALUE, not \"Glossy\"."},
+        Refused{"ChoiceWithoutKey", {u"-o"_s, u"=x"_s}, "-o needs KEY=VALUE, not \"=x\"."},
+        Refused{"ChoiceWithoutValue", {u"-o"_s, u"x="_s}, "-o needs KEY=VALUE, not \"x=\"."},
+        Refused{"EmptyInstance", {u"-d"_s, u"q/"_s}, "\"q/\" is not the name of a queue."},
+        Refused{"EmptyQueue", {u"-d"_s, u"/i"_s}, "\"/i\" is not the name of a queue."},
+        Refused{"ReplayAndRecord",
+                {u"--replay=a"_s, u"--record=b"_s},
+                "--replay and --record do not go together."},
+        Refused{"NothingToPrint", {u"--no-dialog"_s}, "--no-dialog needs a document to print."},
+        Refused{"PictureOfNoDialog",
+                {u"--no-dialog"_s, u"--screenshot=a.png"_s, u"a.pdf"_s},
+                "--no-dialog and --screenshot do not go together."},
+        Refused{"YesInTheDialog", {u"--yes"_s, u"a.pdf"_s}, "--yes is for --no-dialog."}),
+    [](const auto &row) { return std::string(row.param.name); });
+
+TEST(CommandLine, TakesEveryOption)
+{
+    const ParsedCommandLine parsed =
+        parseCommandLine({u"-d"_s,          u"photo/glossy"_s,
+                          u"-h"_s,          u"host:8631"_s,
+                          u"--ppd"_s,       u"a.ppd"_s,
+                          u"-o"_s,          u"A=b=c"_s,
+                          u"-oD=e"_s,       u"--paper=Custom.100x150mm"_s,
+                          u"--output"_s,    u"out"_s,
+                          u"--no-dialog"_s, u"--yes"_s,
+                          u"--force"_s,     u"--panel"_s,
+                          u"summary"_s,     u"--record"_s,
+                          u"r"_s,           u"--plug-in"_s,
+                          u"p.bundle"_s,    u"one.pdf"_s,
+                          u"--"_s,          u"-two.pdf"_s});
+    EXPECT_TRUE(parsed.error.isNull()) << parsed.error.toStdString();
+    const CommandLine &line = parsed.commandLine;
+    EXPECT_EQ(line.queue, u"photo"_s);
+    EXPECT_EQ(line.instance, u"glossy"_s);
+    EXPECT_EQ(line.server, u"host:8631"_s);
+    EXPECT_EQ(line.ppd, u"a.ppd"_s);
+    EXPECT_EQ(line.choices, (QList<RequestedChoice>{{u"A"_s, u"b=c"_s}, {u"D"_s, u"e"_s}}));
+    EXPECT_EQ(line.paper, u"Custom.100x150mm"_s);
+    EXPECT_EQ(line.output, u"out"_s);
+    EXPECT_TRUE(line.noDialog);
+    EXPECT_TRUE(line.yes);
+    EXPECT_TRUE(line.force);
+    EXPECT_EQ(line.panel, u"summary"_s);
+    EXPECT_EQ(line.record, u"r"_s);
+    EXPECT_EQ(line.plugIn, u"p.bundle"_s);
+    EXPECT_EQ(line.files, (QStringList{u"one.pdf"_s, u"-two.pdf"_s}));
+}
+
+TEST(CommandLine, LeavesWhatWasNotGivenNull)
+{
+    const CommandLine line = parseCommandLine({u"-dphoto"_s, u"-"_s}).commandLine;
+    EXPECT_EQ(line.queue, u"photo"_s);
+    EXPECT_TRUE(line.instance.isNull());
+    EXPECT_TRUE(line.server.isNull());
+    EXPECT_TRUE(line.paper.isNull());
+    EXPECT_EQ(line.files, QStringList{u"-"_s});
+}
+
+TEST(CommandLine, GivesHelpAndVersionDespiteFaults)
+{
+    const ParsedCommandLine parsed =
+        parseCommandLine({u"--frob"_s, u"--help"_s, u"--version"_s, u"--no-dialog"_s});
+    EXPECT_TRUE(parsed.error.isNull());
+    EXPECT_TRUE(parsed.commandLine.help);
+    EXPECT_TRUE(parsed.commandLine.version);
+}
+
+TEST(HelpText, NamesEveryOptionAndEveryStatus)
+{
+    const QString text = QString::fromUtf8(helpText());
+    for (const char *option :
+         {"-d,", "-h,", "-o,", "--ppd", "--paper", "--output", "--no-dialog", "--yes",
+          "--screenshot", "--panel", "--record", "--replay", "--plug-in", "--version", "--help"})
+        EXPECT_TRUE(text.contains(QLatin1String(option))) << option;
+    for (int status = exitCode(ExitStatus::Done); status <= exitCode(ExitStatus::PlugIn); ++status)
+        EXPECT_TRUE(text.contains(QStringLiteral("\n  %1  ").arg(status))) << status;
+    for (const QString &line : text.split(u'\n'))
+        EXPECT_LE(line.size(), 80) << line.toStdString();
+    EXPECT_STREQ(versionText(), "velkaro-print 1.0.0\n");
+}
+
+} // namespace
