@@ -30,30 +30,30 @@ QString gainKeyword(int color)
 
 std::shared_ptr<const CIImage> VKInkColorSettingPDE::refImage() const
 {
-    if (refImageName_.isNull())
-        return refImage_;
-    const auto known = readPictures_.constFind(refImageName_);
-    if (known != readPictures_.constEnd())
+    if (m_refImageName.isNull())
+        return m_refImage;
+    const auto known = m_readPictures.constFind(m_refImageName);
+    if (known != m_readPictures.constEnd())
         return *known;
-    const QString path = pluginBundle->pathForResource(refImageName_, u"tiff"_s);
-    return *readPictures_.insert(refImageName_, CIImage::imageWithContentsOfFile(path));
+    const QString path = pluginBundle->pathForResource(m_refImageName, u"tiff"_s);
+    return *m_readPictures.insert(m_refImageName, CIImage::imageWithContentsOfFile(path));
 }
 
 void VKInkColorSettingPDE::setRefImage(const std::shared_ptr<const CIImage> &image)
 {
-    refImage_ = image;
-    refImageName_ = QString();
+    m_refImage = image;
+    m_refImageName = QString();
 }
 
 // The controls' rules name the picture at every step, mostly while nobody sees it: it is read when
 // it is first drawn.
 void VKInkColorSettingPDE::setRefImageWithName(const QString &name)
 {
-    if (name == refImageName_ || !pluginBundle ||
+    if (name == m_refImageName || !pluginBundle ||
         pluginBundle->pathForResource(name, u"tiff"_s).isNull())
         return;
     setRefImage(nullptr);
-    refImageName_ = name;
+    m_refImageName = name;
 }
 
 std::shared_ptr<const CIImage>
@@ -140,7 +140,7 @@ void VKInkColorSettingPDE::drawEffect(const std::shared_ptr<const CIImage> &resu
     // The view gives its picture back to be drawn over: a new one a render would cost more than the
     // render.
     QImage picture = effectImageView->takeImage();
-    context_.drawImage(result, picture);
+    m_context.drawImage(result, picture);
     effectImageView->setImage(picture);
 }
 

@@ -8,7 +8,7 @@ QWidget *VKInkColorSettingPDE::determineField(const QString &keyword) const
 {
     for (std::size_t index = 0; index < kEffects.size(); ++index) {
         if (keyword == kEffects[index].keyword)
-            return effectFields_[index];
+            return m_effectFields[index];
     }
     return nullptr;
 }

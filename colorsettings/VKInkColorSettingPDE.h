@@ -161,14 +161,14 @@ private:
     ImageView *effectImageView = nullptr;
     ImageView *colorModeImageView = nullptr;
     QLabel *optionLabel = nullptr;
-    std::array<NumberField *, 5> effectFields_{}; ///< in the order of kEffects
+    std::array<NumberField *, 5> m_effectFields{}; ///< in the order of kEffects
 
     QStringList PPDEffectKeys; ///< empty until the first setEffectDefaults()
-    QString refImageName_;     ///< the resource that is the reference image; null: refImage_ is
-    std::shared_ptr<const CIImage> refImage_;
+    QString m_refImageName;    ///< the resource that is the reference image; null: m_refImage is
+    std::shared_ptr<const CIImage> m_refImage;
     /// The resources that have been read, null for one that cannot be; by name.
-    mutable QHash<QString, std::shared_ptr<const CIImage>> readPictures_;
+    mutable QHash<QString, std::shared_ptr<const CIImage>> m_readPictures;
     std::unique_ptr<CIFilter> ccFilter;
     std::unique_ptr<CIFilter> cmFilter;
-    CIContext context_;
+    CIContext m_context;
 };

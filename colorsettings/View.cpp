@@ -40,7 +40,7 @@ void VKInkColorSettingPDE::connectOutlets(ViewConnections &connections)
     connections.outlet(u"colorModeImageView"_s, colorModeImageView);
     connections.outlet(u"optionLabel"_s, optionLabel);
     for (std::size_t index = 0; index < kEffects.size(); ++index)
-        connections.outlet(kEffects[index].field, effectFields_[index]);
+        connections.outlet(kEffects[index].field, m_effectFields[index]);
 }
 
 void VKInkColorSettingPDE::initializePopup()

@@ -90,15 +90,15 @@ void VKPrintQualityPDE::commitControl(QWidget &control, const QString &keyword)
 
 QString VKPrintQualityPDE::determineKey(QWidget *control) const
 {
-    return keywordControls_.keyword(control);
+    return m_keywordControls.keyword(control);
 }
 
 QWidget *VKPrintQualityPDE::determineUI(const QString &keyword) const
 {
-    return keywordControls_.control(keyword);
+    return m_keywordControls.control(keyword);
 }
 
 QWidget *VKPrintQualityPDE::determineLabel(const QString &keyword) const
 {
-    return keywordControls_.label(keyword);
+    return m_keywordControls.label(keyword);
 }

@@ -11,7 +11,7 @@ QString VKPrintQualityPDE::helpBookPath() const
 {
     if (!pluginBundle)
         return {};
-    const QString path = pluginBundle->bundlePath() + u"/../../Help/"_s + thePDEName_ + u".help"_s;
+    const QString path = pluginBundle->bundlePath() + u"/../../Help/"_s + m_thePDEName + u".help"_s;
     return QDir::cleanPath(path);
 }
 

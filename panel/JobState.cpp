@@ -37,13 +37,13 @@ void VKPrintQualityPDE::checkColorSync()
 
 QString VKPrintQualityPDE::optionName() const
 {
-    return isColorPanel(thePDEName_) ? u"advancedcolorItem"_s : u"advancedItem"_s;
+    return isColorPanel(m_thePDEName) ? u"advancedcolorItem"_s : u"advancedItem"_s;
 }
 
 QString VKPrintQualityPDE::optionStateKey() const
 {
-    return isColorPanel(thePDEName_) ? u"com.velkaro.print.PrintSettings.advancedcolorItem"_s
-                                     : u"com.velkaro.print.PrintSettings.advancedItem"_s;
+    return isColorPanel(m_thePDEName) ? u"com.velkaro.print.PrintSettings.advancedcolorItem"_s
+                                      : u"com.velkaro.print.PrintSettings.advancedItem"_s;
 }
 
 void VKPrintQualityPDE::saveOptionState()

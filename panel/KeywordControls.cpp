@@ -7,12 +7,12 @@
 KeywordControls::KeywordControls(std::span<const KeywordControl> table)
 {
     for (const KeywordControl &row : table)
-        rows_.push_back({row.keyword, &outlets_[row.control], &outlets_[row.label]});
+        m_rows.push_back({row.keyword, &m_outlets[row.control], &m_outlets[row.label]});
 }
 
 void KeywordControls::connect(ViewConnections &connections)
 {
-    for (auto &[name, widget] : outlets_) {
+    for (auto &[name, widget] : m_outlets) {
         if (!name.isEmpty())
             connections.outlet(name, widget);
     }
@@ -20,10 +20,10 @@ void KeywordControls::connect(ViewConnections &connections)
 
 const KeywordControls::Row *KeywordControls::row(const QString &keyword) const
 {
-    const auto found = std::find_if(rows_.begin(), rows_.end(), [&](const Row &candidate) {
+    const auto found = std::find_if(m_rows.begin(), m_rows.end(), [&](const Row &candidate) {
         return candidate.keyword == keyword;
     });
-    return found == rows_.end() ? nullptr : &*found;
+    return found == m_rows.end() ? nullptr : &*found;
 }
 
 QWidget *KeywordControls::control(const QString &keyword) const
@@ -41,8 +41,8 @@ QWidget *KeywordControls::label(const QString &keyword) const
 QString KeywordControls::keyword(const QWidget *control) const
 {
     // An outlet that is not connected is null too, and must not answer for no control at all.
-    const auto found = std::find_if(rows_.begin(), rows_.end(), [&](const Row &candidate) {
+    const auto found = std::find_if(m_rows.begin(), m_rows.end(), [&](const Row &candidate) {
         return control && *candidate.control == control;
     });
-    return found == rows_.end() ? QString() : QString(found->keyword);
+    return found == m_rows.end() ? QString() : QString(found->keyword);
 }

@@ -40,11 +40,11 @@ private:
     struct Row
     {
         QLatin1String keyword;
-        QWidget *const *control; ///< never null; into outlets_
+        QWidget *const *control; ///< never null; into m_outlets
         QWidget *const *label;
     };
     const Row *row(const QString &keyword) const;
 
-    std::map<QString, QWidget *> outlets_;
-    std::vector<Row> rows_;
+    std::map<QString, QWidget *> m_outlets;
+    std::vector<Row> m_rows;
 };

@@ -12,24 +12,24 @@ using namespace Qt::StringLiterals;
 
 QWidget *VKPrintQualityPDE::panelView()
 {
-    if (panelView_ || view_ || !pluginBundle)
-        return panelView_;
-    const QString path = pluginBundle->pathForResource(thePDEName_, u"ui"_s);
+    if (m_panelView || m_view || !pluginBundle)
+        return m_panelView;
+    const QString path = pluginBundle->pathForResource(m_thePDEName, u"ui"_s);
     if (path.isNull())
         return nullptr;
     ViewConnections connections;
     connectView(connections);
-    view_ = loadView(path, connections);
-    effectContent = view_ ? view_->content() : nullptr;
-    return panelView_;
+    m_view = loadView(path, connections);
+    effectContent = m_view ? m_view->content() : nullptr;
+    return m_panelView;
 }
 
 void VKPrintQualityPDE::connectView(ViewConnections &connections)
 {
     connections.widgetClass<ExtraAccessoryView>(u"ExtraAccessoryView"_s);
-    connections.outlet(u"panelView"_s, panelView_);
+    connections.outlet(u"panelView"_s, m_panelView);
     connections.outlet(u"optionButton"_s, optionButton);
-    keywordControls_.connect(connections);
+    m_keywordControls.connect(connections);
     connections.action(u"requestNewOutputBin:"_s,
                        [this](QWidget *sender) { requestNewOutputBin(sender); });
     connections.action(u"toggleShowOption:"_s,
@@ -39,7 +39,7 @@ void VKPrintQualityPDE::connectView(ViewConnections &connections)
 
 QHash<QString, QWidget *> VKPrintQualityPDE::inspectedOutlets() const
 {
-    return view_ ? view_->outlets() : QHash<QString, QWidget *>();
+    return m_view ? m_view->outlets() : QHash<QString, QWidget *>();
 }
 
 void VKPrintQualityPDE::willShow()
@@ -78,8 +78,8 @@ void VKPrintQualityPDE::setViewFrameSize(const QSizeF &size)
 {
     if (!pdePluginCallbackObject->respondsTo(HostOperation::PanelViewDidResize))
         return;
-    if (panelView_)
-        panelView_->setFixedSize(size.toSize());
+    if (m_panelView)
+        m_panelView->setFixedSize(size.toSize());
     const std::optional<double> windowHeight = keyWindowHeight();
     if (!hasFlag(PanelOnScreen) || !windowHeight)
         return;
@@ -89,7 +89,7 @@ void VKPrintQualityPDE::setViewFrameSize(const QSizeF &size)
     }
     NotificationCenter::defaultCenter().addObserver(
         this, [this](const Notification &notification) { dialogDidExpand(notification); },
-        QLatin1String(kViewDidUpdateTrackingAreasNotification), panelView_);
+        QLatin1String(kViewDidUpdateTrackingAreasNotification), m_panelView);
 }
 
 void VKPrintQualityPDE::toggleShowOption(QWidget *sender)
@@ -98,7 +98,7 @@ void VKPrintQualityPDE::toggleShowOption(QWidget *sender)
         return;
     const auto *button = qobject_cast<QAbstractButton *>(sender);
     const bool unfolded = button && button->isChecked();
-    QSizeF size = panelView_ ? QSizeF(panelView_->size()) : QSizeF(0, 0);
+    QSizeF size = m_panelView ? QSizeF(m_panelView->size()) : QSizeF(0, 0);
     size.rheight() += unfolded ? advancedHeight() : -advancedHeight();
     setViewFrameSize(size);
 }
@@ -106,7 +106,7 @@ void VKPrintQualityPDE::toggleShowOption(QWidget *sender)
 void VKPrintQualityPDE::dialogDidExpand(const Notification &)
 {
     NotificationCenter::defaultCenter().removeObserver(
-        this, QLatin1String(kViewDidUpdateTrackingAreasNotification), panelView_);
+        this, QLatin1String(kViewDidUpdateTrackingAreasNotification), m_panelView);
     pdePluginCallbackObject->panelViewDidResize();
 }
 

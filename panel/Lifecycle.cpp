@@ -11,12 +11,12 @@ const char kCodeOfThePanels = 0;
 } // namespace
 
 VKPrintQualityPDE::VKPrintQualityPDE(std::span<const KeywordControl> controls)
-    : keywordControls_(controls)
+    : m_keywordControls(controls)
 {}
 
 VKPrintQualityPDE::~VKPrintQualityPDE()
 {
-    view_.reset();
+    m_view.reset();
     NotificationCenter::defaultCenter().removeObserver(this);
 }
 
@@ -24,12 +24,12 @@ bool VKPrintQualityPDE::initWithCallback(const std::shared_ptr<PDEPluginCallback
 {
     pdePluginCallbackObject = callback;
     pluginBundle = Bundle::bundleContaining(&kCodeOfThePanels);
-    outputBin_.clear();
+    m_outputBin.clear();
     if (pluginBundle && pluginBundle->infoDictionary())
         setThePDEName(pluginBundle->infoValue(QStringLiteral("CFBundleName")).toString());
     paperName = QString();
     popupInited = false;
-    imageModeFlag_ = 0;
+    m_imageModeFlag = 0;
     if (!pdePluginCallbackObject ||
         !pdePluginCallbackObject->respondsTo(HostOperation::WillChangePPDOptionKeyValue)) {
         pdePluginCallbackObject.reset();
@@ -108,7 +108,7 @@ void VKPrintQualityPDE::PPDOptionKeyValueDidChange(const QString &keyword, const
     if (!managesKeyword(keyword))
         return;
     recordPendingValue(keyword, choice);
-    if (panelView_)
+    if (m_panelView)
         updateUIforKey(keyword);
 }
 
@@ -119,24 +119,24 @@ void VKPrintQualityPDE::removeNotificationObserver(const Notification &)
 
 QString VKPrintQualityPDE::panelKind() const
 {
-    return QStringLiteral("com.velkaro.print.pde.Cocoa%1").arg(thePDEName_);
+    return QStringLiteral("com.velkaro.print.pde.Cocoa%1").arg(m_thePDEName);
 }
 
 void VKPrintQualityPDE::setFlag(ImageModeFlag flag, bool on)
 {
-    imageModeFlag_ = on ? imageModeFlag_ | flag : imageModeFlag_ & ~flag;
+    m_imageModeFlag = on ? m_imageModeFlag | flag : m_imageModeFlag & ~flag;
 }
 
 QString VKPrintQualityPDE::pendingValue(const QString &keyword) const
 {
-    const auto value = outputBin_.constFind(keyword);
-    const bool text = value != outputBin_.constEnd() && value->typeId() == QMetaType::QString;
+    const auto value = m_outputBin.constFind(keyword);
+    const bool text = value != m_outputBin.constEnd() && value->typeId() == QMetaType::QString;
     return text ? value->toString() : QString();
 }
 
 void VKPrintQualityPDE::recordPendingValue(const QString &keyword, const QVariant &value)
 {
-    outputBin_.insert(keyword, value);
+    m_outputBin.insert(keyword, value);
 }
 
 const QStringList &VKPrintQualityPDE::managedKeywords() const

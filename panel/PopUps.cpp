@@ -159,10 +159,10 @@ void VKPrintQualityPDE::checkUIConstraints()
         // What the view binds has just followed "VKOutput", and other keys beside it: set here, it
         // would change back and forth at every pick.
         QWidget *control = determineUI(keyword);
-        if (control && !(view_ && view_->bindsEnabled(control)))
+        if (control && !(m_view && m_view->bindsEnabled(control)))
             control->setEnabled(enabled);
         auto *label = qobject_cast<QLabel *>(determineLabel(keyword));
-        if (label && !(view_ && view_->bindsTextColor(label)))
+        if (label && !(m_view && m_view->bindsTextColor(label)))
             setTextColor(label, color);
     }
 }

@@ -77,15 +77,15 @@ public:
     // --- Values --------------------------------------------------------------------------------
 
     /// The panel's resource name: it names the view resource, the help book and the panel's kind.
-    QString thePDEName() const { return thePDEName_; }
-    void setThePDEName(const QString &name) { thePDEName_ = name; }
+    QString thePDEName() const { return m_thePDEName; }
+    void setThePDEName(const QString &name) { m_thePDEName = name; }
 
     /// The pending values: PPD keyword to choice name. Setting them replaces all.
-    const QVariantMap &outputBin() const { return outputBin_; }
-    void setOutputBin(const QVariantMap &values) { outputBin_ = values; }
+    const QVariantMap &outputBin() const { return m_outputBin; }
+    void setOutputBin(const QVariantMap &values) { m_outputBin = values; }
 
     /// A bit set of ImageModeFlag.
-    std::int32_t imageModeFlag() const { return imageModeFlag_; }
+    std::int32_t imageModeFlag() const { return m_imageModeFlag; }
 
     /// Offers a choice of the program's own to the dialog. True when it was accepted and recorded;
     /// false when the keyword is null, the choice is pending already (the dialog is not asked), or
@@ -189,11 +189,11 @@ public:
 
     // --- Inspection ----------------------------------------------------------------------------
 
-    std::int32_t inspectedFlags() const override { return imageModeFlag_; }
+    std::int32_t inspectedFlags() const override { return m_imageModeFlag; }
     QString inspectedPaperName() const override { return paperName; }
-    QVariantMap inspectedOutputBin() const override { return outputBin_; }
+    QVariantMap inspectedOutputBin() const override { return m_outputBin; }
     const ObservableDictionary *inspectedEffectContent() const override { return effectContent; }
-    QWidget *inspectedView() const override { return panelView_; }
+    QWidget *inspectedView() const override { return m_panelView; }
     QHash<QString, QWidget *> inspectedOutlets() const override;
     QWidget *inspectedControl(const QString &keyword) const override
     {
@@ -204,7 +204,7 @@ protected:
     /// Names the outlets and actions that the view resource connects. A panel class adds its own.
     virtual void connectView(ViewConnections &connections);
 
-    bool hasFlag(ImageModeFlag flag) const { return (imageModeFlag_ & flag) != 0; }
+    bool hasFlag(ImageModeFlag flag) const { return (m_imageModeFlag & flag) != 0; }
     void setFlag(ImageModeFlag flag, bool on);
 
     /// The pending choice; null when there is none (or a number).
@@ -232,7 +232,7 @@ protected:
     /// The alert that a paper outside the printer's range raises.
     AlertContent unsupportedPaperAlert() const;
 
-    QObject *lifetime() { return &lifetime_; }
+    QObject *lifetime() { return &m_lifetime; }
 
     /// What a dialog's window needs around a panel's view, in points.
     static constexpr double kWindowMargin = 96.0;
@@ -258,11 +258,11 @@ private:
     QString summaryText(const QString &keyword) const;
     QString optionStateKey() const;
 
-    KeywordControls keywordControls_;
-    QString thePDEName_;
-    QVariantMap outputBin_;
-    std::int32_t imageModeFlag_ = 0;
-    QWidget *panelView_ = nullptr;
-    std::unique_ptr<LoadedView> view_;
-    QObject lifetime_; // what sheets that outlive the panel look for
+    KeywordControls m_keywordControls;
+    QString m_thePDEName;
+    QVariantMap m_outputBin;
+    std::int32_t m_imageModeFlag = 0;
+    QWidget *m_panelView = nullptr;
+    std::unique_ptr<LoadedView> m_view;
+    QObject m_lifetime; // what sheets that outlive the panel look for
 };

@@ -25,7 +25,7 @@ void showPage(QStackedWidget &pages, const QString &id)
 
 } // namespace
 
-AdvancedOptionList::AdvancedOptionList(QListWidget &list, QStackedWidget *pages) : list_(&list)
+AdvancedOptionList::AdvancedOptionList(QListWidget &list, QStackedWidget *pages) : m_list(&list)
 {
     if (!pages)
         return;
@@ -35,24 +35,24 @@ AdvancedOptionList::AdvancedOptionList(QListWidget &list, QStackedWidget *pages)
 
 void AdvancedOptionList::add(const PDEPanelInspection::Row &row)
 {
-    if (!list_)
+    if (!m_list)
         return;
     auto *item = new QListWidgetItem(row.label);
     item->setData(kRowId, row.id);
-    list_->addItem(item);
+    m_list->addItem(item);
 }
 
 void AdvancedOptionList::selectRow(int row)
 {
-    if (list_)
-        list_->setCurrentRow(row);
+    if (m_list)
+        m_list->setCurrentRow(row);
 }
 
 std::vector<PDEPanelInspection::Row> AdvancedOptionList::rows() const
 {
     std::vector<PDEPanelInspection::Row> rows;
-    for (int index = 0; list_ && index < list_->count(); ++index) {
-        const QListWidgetItem *item = list_->item(index);
+    for (int index = 0; m_list && index < m_list->count(); ++index) {
+        const QListWidgetItem *item = m_list->item(index);
         rows.push_back({item->text(), idOf(item)});
     }
     return rows;
@@ -60,12 +60,12 @@ std::vector<PDEPanelInspection::Row> AdvancedOptionList::rows() const
 
 QString AdvancedOptionList::selectedRow() const
 {
-    return list_ ? idOf(list_->currentItem()) : QString();
+    return m_list ? idOf(m_list->currentItem()) : QString();
 }
 
 double AdvancedOptionList::widestLabel() const
 {
-    const QFontMetricsF metrics(list_->font());
+    const QFontMetricsF metrics(m_list->font());
     double widest = 0;
     for (const PDEPanelInspection::Row &row : rows())
         widest = std::max(widest, metrics.horizontalAdvance(row.label));
@@ -74,17 +74,17 @@ double AdvancedOptionList::widestLabel() const
 
 void AdvancedOptionList::fitColumn()
 {
-    if (!list_)
+    if (!m_list)
         return;
     const double widest = widestLabel();
-    if (widest <= list_->contentsRect().width()) {
-        list_->setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
-        list_->setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
+    if (widest <= m_list->contentsRect().width()) {
+        m_list->setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
+        m_list->setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
         return;
     }
-    for (int index = 0; index < list_->count(); ++index) {
-        QListWidgetItem *item = list_->item(index);
-        const int height = list_->sizeHintForRow(index);
+    for (int index = 0; index < m_list->count(); ++index) {
+        QListWidgetItem *item = m_list->item(index);
+        const int height = m_list->sizeHintForRow(index);
         item->setSizeHint(QSize(qCeil(widest + kColumnMargin), height));
     }
 }

@@ -35,5 +35,5 @@ public:
 private:
     double widestLabel() const;
 
-    QPointer<QListWidget> list_;
+    QPointer<QListWidget> m_list;
 };

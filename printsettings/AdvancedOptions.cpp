@@ -23,7 +23,7 @@ void VKInkPrintSetting14PDE::initializePopup()
     if (popupInited)
         return;
     VKPrintQualityPDE::initializePopup();
-    const QList<QWidget *> parts = advanced_.parts(optionButton);
+    const QList<QWidget *> parts = m_advanced.parts(optionButton);
     initializeAdvOption(parts);
     const bool feed = managesKeyword(u"VKInputSlot"_s);
     if (!feed)
@@ -35,7 +35,7 @@ void VKInkPrintSetting14PDE::initializePopup()
 
 void VKInkPrintSetting14PDE::initializeAdvOption(const QList<QWidget *> &parts)
 {
-    const bool hasList = advanced_.start();
+    const bool hasList = m_advanced.start();
     for (const AdvancedGroup &group : advancedGroups(managedKeywords()))
         addGroup(group);
     if (!hasList) {
@@ -46,10 +46,10 @@ void VKInkPrintSetting14PDE::initializeAdvOption(const QList<QWidget *> &parts)
         return;
     }
     const QString title = localized("advancedItem");
-    advanced_.finish(title);
+    m_advanced.finish(title);
     if (optionButton)
         giveAccessibleName(optionButton, title);
-    advanced_.fitColumn(parts);
+    m_advanced.fitColumn(parts);
 }
 
 void VKInkPrintSetting14PDE::addGroup(const AdvancedGroup &group)
@@ -73,7 +73,7 @@ std::optional<QString> VKInkPrintSetting14PDE::groupLabel(const AdvancedGroup &g
 
 void VKInkPrintSetting14PDE::addAdvOption(const QString &label, const QString &id)
 {
-    advanced_.add({label, id});
+    m_advanced.add({label, id});
 }
 
 double VKInkPrintSetting14PDE::advancedHeight() const
@@ -83,5 +83,5 @@ double VKInkPrintSetting14PDE::advancedHeight() const
 
 std::optional<PDEPanelInspection::Rows> VKInkPrintSetting14PDE::inspectedRows() const
 {
-    return advanced_.rows();
+    return m_advanced.rows();
 }

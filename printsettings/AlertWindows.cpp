@@ -45,7 +45,7 @@ void setTitle(QAbstractButton *button, const QString &title)
 
 void AlertWindows::load(const QString &path, const Action &ok, const Action &cancel)
 {
-    if (view_)
+    if (m_view)
         return;
     ViewConnections connections;
     connections.outlet(u"envAlertWindow"_s, envAlertWindow);
@@ -61,12 +61,12 @@ void AlertWindows::load(const QString &path, const Action &ok, const Action &can
     connections.outlet(u"suppressionButton"_s, suppressionButton);
     connections.action(u"dialogOkDidClick:"_s, ok);
     connections.action(u"dialogCancelDidClick:"_s, cancel);
-    view_ = loadView(path, connections);
+    m_view = loadView(path, connections);
 }
 
 QHash<QString, QWidget *> AlertWindows::outlets() const
 {
-    return view_ ? view_->outlets() : QHash<QString, QWidget *>();
+    return m_view ? m_view->outlets() : QHash<QString, QWidget *>();
 }
 
 void AlertWindows::fillEnvelope(const EnvelopeAlert &alert)

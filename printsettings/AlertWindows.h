@@ -37,7 +37,7 @@ public:
     /// Loads the windows once; `ok` and `cancel` are what their buttons do.
     void load(const QString &path, const Action &ok, const Action &cancel);
 
-    bool isLoaded() const { return view_ != nullptr; }
+    bool isLoaded() const { return m_view != nullptr; }
     /// By name; none until the windows are loaded.
     QHash<QString, QWidget *> outlets() const;
 
@@ -53,7 +53,7 @@ public:
     bool isSuppressed() const;
 
 private:
-    std::unique_ptr<LoadedView> view_;
+    std::unique_ptr<LoadedView> m_view;
     QWidget *envAlertWindow = nullptr;
     ImageView *envAlertImageView = nullptr;
     QLabel *envInstructionLabel1 = nullptr;

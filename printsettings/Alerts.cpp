@@ -9,9 +9,9 @@ using namespace Qt::StringLiterals;
 void VKInkPrintSetting14PDE::loadAlertWindows()
 {
     const bool viewIsLoaded = effectContent != nullptr;
-    if (!viewIsLoaded || alertWindows_.isLoaded())
+    if (!viewIsLoaded || m_alertWindows.isLoaded())
         return;
-    alertWindows_.load(
+    m_alertWindows.load(
         pluginBundle->pathForResource(thePDEName() + u"Alerts"_s, u"ui"_s),
         [this](QWidget *sender) { dialogOkDidClick(sender); },
         [this](QWidget *sender) { dialogCancelDidClick(sender); });
@@ -20,14 +20,14 @@ void VKInkPrintSetting14PDE::loadAlertWindows()
 QHash<QString, QWidget *> VKInkPrintSetting14PDE::inspectedOutlets() const
 {
     auto outlets = VKPrintQualityPDE::inspectedOutlets();
-    outlets.insert(alertWindows_.outlets());
+    outlets.insert(m_alertWindows.outlets());
     return outlets;
 }
 
 bool VKInkPrintSetting14PDE::confirmEnvelope()
 {
     readyToShowEnvelopeAlert();
-    return showDialog(alertWindows_.envelopeWindow(), QString()) == kModalOK;
+    return showDialog(m_alertWindows.envelopeWindow(), QString()) == kModalOK;
 }
 
 void VKInkPrintSetting14PDE::readyToShowEnvelopeAlert()
@@ -45,7 +45,7 @@ void VKInkPrintSetting14PDE::readyToShowEnvelopeAlert()
     alert.cancel = localized("Cancel");
     alert.picture = multiPurposeTray ? u"QTLark22_Tray_Env"_s : u"QTLark22_Env"_s;
     alert.picturePath = picturePath(alert.picture);
-    alertWindows_.fillEnvelope(alert);
+    m_alertWindows.fillEnvelope(alert);
 }
 
 void VKInkPrintSetting14PDE::readyToShowPaperAlertWithKind(
@@ -54,9 +54,9 @@ void VKInkPrintSetting14PDE::readyToShowPaperAlertWithKind(
 {
     loadAlertWindows();
     showAlertPicture(alertView, alertImage, picturePath(alertImage));
-    alertWindows_.titlePaperButtons(localized("OK"), localized("Cancel"),
-                                    kind == "Normal Paper"_L1 ? localized("Suppression")
-                                                              : QString());
+    m_alertWindows.titlePaperButtons(localized("OK"), localized("Cancel"),
+                                     kind == "Normal Paper"_L1 ? localized("Suppression")
+                                                               : QString());
     fitMessage(alertWindow, alertMessageLabel,
                pluginBundle ? pluginBundle->localizedString(orientationMessage)
                             : orientationMessage);
@@ -73,7 +73,7 @@ int VKInkPrintSetting14PDE::showDialog(QWidget *window, const QString &alertKey)
 {
     const int result = runModalForWindow(window);
     if (result == kModalOK)
-        alertDidEnd({0, alertWindows_.isSuppressed()}, result, alertKey);
+        alertDidEnd({0, m_alertWindows.isSuppressed()}, result, alertKey);
     if (window)
         window->hide();
     return result;

@@ -31,15 +31,15 @@ std::optional<QSizeF> sizeOf(const PMPaper *paper)
 
 bool JobPaper::offersTicket() const
 {
-    return host_ && host_->respondsTo(HostOperation::PrintSettings);
+    return m_host && m_host->respondsTo(HostOperation::PrintSettings);
 }
 
 const PMPaper *JobPaper::pagePaper() const
 {
-    if (!host_ || !host_->respondsTo(HostOperation::PageFormat))
+    if (!m_host || !m_host->respondsTo(HostOperation::PageFormat))
         return nullptr;
     const PMPaper *paper = nullptr;
-    PMGetPageFormatPaper(host_->pageFormat(), &paper);
+    PMGetPageFormatPaper(m_host->pageFormat(), &paper);
     return paper;
 }
 
@@ -47,7 +47,7 @@ QString JobPaper::mappedName() const
 {
     QVariant mapped;
     if (offersTicket())
-        PMPrintSettingsGetValue(host_->printSettings(), kMappedPaper, &mapped);
+        PMPrintSettingsGetValue(m_host->printSettings(), kMappedPaper, &mapped);
     return mapped.toString();
 }
 
@@ -62,7 +62,7 @@ QString JobPaper::checkedName(const QString &name) const
 {
     const PMPaper *paper = name == "Letter"_L1 ? pagePaper() : nullptr;
     QString ppdName;
-    if (!paper || !ppd_ || PMPaperGetPPDPaperName(paper, &ppdName) == noErr)
+    if (!paper || !m_ppd || PMPaperGetPPDPaperName(paper, &ppdName) == noErr)
         return name;
     const std::optional<QSizeF> size = sizeOf(paper);
     return !size || isWithinLimits(*size) ? name : u"UnsupportedPaper"_s;
@@ -80,5 +80,5 @@ std::optional<QSizeF> JobPaper::size() const
 
 bool JobPaper::isWithinLimits(const QSizeF &size) const
 {
-    return ppd_ && isWithinCustomSizes(limitsOf(*ppd_), size);
+    return m_ppd && isWithinCustomSizes(limitsOf(*m_ppd), size);
 }

@@ -18,7 +18,7 @@ class JobPaper
 {
 public:
     /// Neither is owned; both may be null.
-    JobPaper(const PDEPluginCallback *host, const ppd_file_t *ppd) : host_(host), ppd_(ppd) {}
+    JobPaper(const PDEPluginCallback *host, const ppd_file_t *ppd) : m_host(host), m_ppd(ppd) {}
 
     /// The name of the paper that the document is scaled to; null when it is not scaled.
     QString mappedName() const;
@@ -41,6 +41,6 @@ private:
     const PMPaper *pagePaper() const;
     bool offersTicket() const;
 
-    const PDEPluginCallback *host_;
-    const ppd_file_t *ppd_;
+    const PDEPluginCallback *m_host;
+    const ppd_file_t *m_ppd;
 };

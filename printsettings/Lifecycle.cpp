@@ -64,7 +64,7 @@ void VKInkPrintSetting14PDE::connectView(ViewConnections &connections)
     connections.outlet(u"biDirButton"_s, biDirButton);
     connections.outlet(u"mirrorButton"_s, mirrorButton);
     connections.outlet(u"jpegLabel"_s, jpegLabel);
-    advanced_.connect(connections);
+    m_advanced.connect(connections);
 }
 
 QString VKInkPrintSetting14PDE::inspectedClassName() const

@@ -215,6 +215,6 @@ private:
     QCheckBox *mirrorButton = nullptr;
     QLabel *jpegLabel = nullptr;
 
-    AdvancedSection advanced_;
-    AlertWindows alertWindows_;
+    AdvancedSection m_advanced;
+    AlertWindows m_alertWindows;
 };

@@ -1,7 +1,7 @@
 #include "bench/imaging/Peers.h"
 
-#include <QColorSpace>
-#include <QRgba64>
+#include <QtGui/QColorSpace>
+#include <QtGui/QRgba64>
 
 #include <algorithm>
 

@@ -7,7 +7,7 @@
 
 #include "bench/imaging/Peers.h"
 
-#include <QThreadPool>
+#include <QtCore/QThreadPool>
 
 #include <sys/resource.h>
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <QMetaType>
+#include <QtCore/QMetaType>
 
 /// A colour as a filter's input: components in linear light, nominally from 0 to 1.
 struct CIColor

@@ -2,7 +2,7 @@
 
 #include "platform/Export.h"
 
-#include <QImage>
+#include <QtGui/QImage>
 
 #include <memory>
 

@@ -6,8 +6,8 @@
 #include "platform/imaging/CIImage.h"
 #include "platform/imaging/CIVector.h"
 
-#include <QHash>
-#include <QVariant>
+#include <QtCore/QHash>
+#include <QtCore/QVariant>
 
 #include <memory>
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <QString>
+#include <QtCore/QString>
 
 /// The keys under which a filter's inputs are set and its output is asked for. The four rows of
 /// the colour matrix and its bias have no public constants elsewhere and are spelled out by most

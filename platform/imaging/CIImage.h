@@ -3,10 +3,10 @@
 #include "platform/Export.h"
 #include "platform/imaging/ColorTransform.h"
 
-#include <QImage>
-#include <QMetaType>
-#include <QRect>
-#include <QString>
+#include <QtCore/QMetaType>
+#include <QtCore/QRect>
+#include <QtCore/QString>
+#include <QtGui/QImage>
 
 #include <memory>
 

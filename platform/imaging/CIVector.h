@@ -1,6 +1,6 @@
 #pragma once
 
-#include <QMetaType>
+#include <QtCore/QMetaType>
 
 /// Four double-precision components: one row of a colour matrix, or its bias. A row's components
 /// weigh the red, green, blue and alpha that come in.

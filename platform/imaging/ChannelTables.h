@@ -2,7 +2,7 @@
 
 #include "platform/imaging/ColorTransform.h"
 
-#include <QRgb>
+#include <QtGui/QRgb>
 
 #include <array>
 

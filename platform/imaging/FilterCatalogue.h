@@ -4,8 +4,8 @@
 #include "platform/imaging/CIVector.h"
 #include "platform/imaging/ColorTransform.h"
 
-#include <QString>
-#include <QVariant>
+#include <QtCore/QString>
+#include <QtCore/QVariant>
 
 #include <functional>
 #include <span>

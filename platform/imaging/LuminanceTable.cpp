@@ -3,7 +3,7 @@
 #include "platform/imaging/PixelPair.h"
 #include "platform/imaging/SrgbCurve.h"
 
-#include <QRgba64>
+#include <QtGui/QRgba64>
 
 #include <algorithm>
 #include <cmath>

@@ -3,7 +3,7 @@
 #include "platform/imaging/ColorTransform.h"
 #include "platform/imaging/Picture.h"
 
-#include <QRgb>
+#include <QtGui/QRgb>
 
 #include <array>
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <QImage>
+#include <QtGui/QImage>
 
 #include <vector>
 

@@ -2,10 +2,10 @@
 
 #include "platform/imaging/PlainTiff.h"
 
-#include <QColorSpace>
-#include <QFile>
-#include <QFileInfo>
-#include <QImageReader>
+#include <QtCore/QFile>
+#include <QtCore/QFileInfo>
+#include <QtGui/QColorSpace>
+#include <QtGui/QImageReader>
 
 using namespace Qt::StringLiterals;
 

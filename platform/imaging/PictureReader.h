@@ -2,8 +2,8 @@
 
 #include "platform/Export.h"
 
-#include <QImage>
-#include <QString>
+#include <QtCore/QString>
+#include <QtGui/QImage>
 
 namespace imaging {
 

@@ -3,7 +3,7 @@
 #include "platform/imaging/Picture.h"
 #include "platform/imaging/SrgbCurve.h"
 
-#include <QRgba64>
+#include <QtGui/QRgba64>
 
 namespace imaging {
 

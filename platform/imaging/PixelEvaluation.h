@@ -2,7 +2,7 @@
 
 #include "platform/imaging/ColorTransform.h"
 
-#include <QImage>
+#include <QtGui/QImage>
 
 namespace imaging {
 

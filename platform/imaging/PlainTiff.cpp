@@ -2,8 +2,8 @@
 
 #include "platform/imaging/PictureReader.h"
 
-#include <QHash>
-#include <QtEndian>
+#include <QtCore/QHash>
+#include <QtCore/QtEndian>
 
 #include <algorithm>
 #include <optional>

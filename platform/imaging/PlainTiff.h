@@ -1,7 +1,7 @@
 #pragma once
 
-#include <QByteArray>
-#include <QImage>
+#include <QtCore/QByteArray>
+#include <QtGui/QImage>
 
 namespace imaging {
 

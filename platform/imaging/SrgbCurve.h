@@ -1,6 +1,6 @@
 #pragma once
 
-#include <QtGlobal>
+#include <QtCore/QtGlobal>
 
 #include <array>
 #include <vector>

@@ -3,7 +3,7 @@
 #include "platform/imaging/CIContext.h"
 #include "platform/imaging/CIFilter.h"
 
-#include <QString>
+#include <QtCore/QString>
 
 #include <initializer_list>
 

@@ -4,8 +4,8 @@
 #include "tests/imaging/TestPictures.h"
 #include "tests/imaging/TiffBuilder.h"
 
-#include <QColorSpace>
-#include <QImageReader>
+#include <QtGui/QColorSpace>
+#include <QtGui/QImageReader>
 
 #include <gtest/gtest.h>
 

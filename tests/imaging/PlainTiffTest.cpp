@@ -2,7 +2,7 @@
 
 #include "TiffBuilder.h"
 
-#include <QFile>
+#include <QtCore/QFile>
 
 #include <gtest/gtest.h>
 

@@ -1,7 +1,7 @@
 #pragma once
 
-#include <QImage>
-#include <QRgba64>
+#include <QtGui/QImage>
+#include <QtGui/QRgba64>
 
 #include <functional>
 

@@ -2,10 +2,10 @@
 
 #include "tests/support/Files.h"
 
-#include <QFile>
-#include <QImage>
-#include <QImageWriter>
-#include <QTemporaryDir>
+#include <QtCore/QFile>
+#include <QtCore/QTemporaryDir>
+#include <QtGui/QImage>
+#include <QtGui/QImageWriter>
 
 #include <gtest/gtest.h>
 

@@ -1,6 +1,6 @@
 #include "tests/imaging/TiffBuilder.h"
 
-#include <QtEndian>
+#include <QtCore/QtEndian>
 
 #include <algorithm>
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <QByteArray>
+#include <QtCore/QByteArray>
 
 #include <vector>
 

@@ -48,12 +48,12 @@ PanelControls::PanelControls(const TestedPanel &panel)
 
 PanelSnapshot::PanelSnapshot(const TestedPanel &panel, PanelSession &session,
                              const PanelControls &controls)
-    : flags_(panel.imageModeFlag()), pending_(panel.outputBin()), marks_(marksOf(panel, session))
+    : m_flags(panel.imageModeFlag()), m_pending(panel.outputBin()), m_marks(marksOf(panel, session))
 {
     for (const PopUpButton *popup : controls.popups)
-        popups_.push_back(stateOfPopUp(*popup));
+        m_popups.push_back(stateOfPopUp(*popup));
     for (const QAbstractButton *box : controls.boxes)
-        boxes_.push_back({box->objectName(), stateOf(box), box->isChecked(), box->isEnabled()});
+        m_boxes.push_back({box->objectName(), stateOf(box), box->isChecked(), box->isEnabled()});
 }
 
 PanelSnapshot::PopUp PanelSnapshot::stateOfPopUp(const PopUpButton &popup)
@@ -85,29 +85,29 @@ void PanelSnapshot::restorePopUp(const PopUp &saved, PopUpButton &popup)
 void PanelSnapshot::restore(TestedPanel &panel, PanelSession &session,
                             const PanelControls &controls) const
 {
-    for (auto mark = marks_.cbegin(); mark != marks_.cend(); ++mark) {
+    for (auto mark = m_marks.cbegin(); mark != m_marks.cend(); ++mark) {
         if (session.marked(mark.key()) != mark.value().toString())
             forceChoice(session.ppd(), mark.key(), mark.value().toString());
     }
-    panel.setOutputBin(pending_);
+    panel.setOutputBin(m_pending);
     panel.setFlag(static_cast<ImageModeFlag>(-1), false);
-    panel.setFlag(static_cast<ImageModeFlag>(flags_), true);
-    for (std::size_t index = 0; index < popups_.size(); ++index)
-        restorePopUp(popups_[index], *controls.popups[index]);
-    for (std::size_t index = 0; index < boxes_.size(); ++index) {
-        controls.boxes[index]->setChecked(boxes_[index].checked);
-        controls.boxes[index]->setEnabled(boxes_[index].enabled);
+    panel.setFlag(static_cast<ImageModeFlag>(m_flags), true);
+    for (std::size_t index = 0; index < m_popups.size(); ++index)
+        restorePopUp(m_popups[index], *controls.popups[index]);
+    for (std::size_t index = 0; index < m_boxes.size(); ++index) {
+        controls.boxes[index]->setChecked(m_boxes[index].checked);
+        controls.boxes[index]->setEnabled(m_boxes[index].enabled);
     }
 }
 
 QStringList PanelSnapshot::differences(const PanelSnapshot &later) const
 {
     QStringList differences;
-    if (flags_ != later.flags_)
-        differences << u"flags: %1"_s.arg(later.flags_, 0, 16);
-    compare(differences, pending_, later.pending_, u"pending"_s);
-    compare(differences, marks_, later.marks_, u"marked"_s);
-    compareControls(differences, popups_, later.popups_);
-    compareControls(differences, boxes_, later.boxes_);
+    if (m_flags != later.m_flags)
+        differences << u"flags: %1"_s.arg(later.m_flags, 0, 16);
+    compare(differences, m_pending, later.m_pending, u"pending"_s);
+    compare(differences, m_marks, later.m_marks, u"marked"_s);
+    compareControls(differences, m_popups, later.m_popups);
+    compareControls(differences, m_boxes, later.m_boxes);
     return differences;
 }

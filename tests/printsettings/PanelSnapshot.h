@@ -26,8 +26,8 @@ public:
     /// What is different in `later`, as "WHAT: HOW IT IS THEN"; empty when nothing is.
     QStringList differences(const PanelSnapshot &later) const;
 
-    const QVariantMap &pending() const { return pending_; }
-    const QVariantMap &marks() const { return marks_; }
+    const QVariantMap &pending() const { return m_pending; }
+    const QVariantMap &marks() const { return m_marks; }
 
 private:
     struct PopUp
@@ -50,9 +50,9 @@ private:
     static PopUp stateOfPopUp(const PopUpButton &popup);
     static void restorePopUp(const PopUp &saved, PopUpButton &popup);
 
-    std::int32_t flags_;
-    QVariantMap pending_;
-    QVariantMap marks_;
-    std::vector<PopUp> popups_;
-    std::vector<Box> boxes_;
+    std::int32_t m_flags;
+    QVariantMap m_pending;
+    QVariantMap m_marks;
+    std::vector<PopUp> m_popups;
+    std::vector<Box> m_boxes;
 };
