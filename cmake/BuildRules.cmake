@@ -29,9 +29,7 @@ add_library(velkaro_build_rules INTERFACE)
 target_include_directories(velkaro_build_rules INTERFACE ${CMAKE_SOURCE_DIR})
 target_compile_options(velkaro_build_rules INTERFACE
     # A newer compiler may warn of more: that ends no user's build.
-    -Wall -Wextra -Wpedantic -Wconversion -Wshadow $<$<BOOL:${VELKARO_WERROR}>:-Werror>
-    # libcups marks its PPD functions as deprecated; PPDs are what this program is about.
-    -Wno-deprecated-declarations)
+    -Wall -Wextra -Wpedantic -Wconversion -Wshadow $<$<BOOL:${VELKARO_WERROR}>:-Werror>)
 target_compile_definitions(velkaro_build_rules INTERFACE
     QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII QT_NO_FOREACH QT_NO_KEYWORDS)
 velkaro_harden(velkaro_build_rules)

@@ -1,8 +1,7 @@
 #pragma once
 
+#include "platform/ppd/CupsPPD.h"
 #include "platform/toolkit/PopUpButton.h"
-
-#include <cups/ppd.h>
 
 #include <vector>
 

@@ -1,11 +1,10 @@
 #pragma once
 
+#include "platform/ppd/CupsPPD.h"
 #include "printsettings/rules/CustomSizes.h"
 
 #include <QtCore/QSizeF>
 #include <QtCore/QString>
-
-#include <cups/ppd.h>
 
 #include <optional>
 

@@ -1,8 +1,7 @@
 #pragma once
 
+#include "platform/ppd/CupsPPD.h"
 #include "platform/printmanager/PMPageFormat.h"
-
-#include <cups/ppd.h>
 
 #include <optional>
 

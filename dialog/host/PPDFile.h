@@ -1,10 +1,9 @@
 #pragma once
 
 #include "dialog/host/PPDMarks.h"
+#include "platform/ppd/CupsPPD.h"
 
 #include <QtCore/QString>
-
-#include <cups/ppd.h>
 
 #include <memory>
 

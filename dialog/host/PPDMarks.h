@@ -1,9 +1,9 @@
 #pragma once
 
+#include "platform/ppd/CupsPPD.h"
+
 #include <QtCore/QList>
 #include <QtCore/QString>
-
-#include <cups/ppd.h>
 
 /// A choice that is marked.
 struct PPDMark

@@ -1,9 +1,9 @@
 #pragma once
 
+#include "platform/ppd/CupsPPD.h"
+
 #include <QtCore/QString>
 #include <QtCore/QStringList>
-
-#include <cups/ppd.h>
 
 /// "Media Type: Glossy", the way people read a choice; plain text.
 QString choiceText(ppd_file_t *ppd, const QString &keyword, const QString &choice);

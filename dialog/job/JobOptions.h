@@ -2,6 +2,7 @@
 
 #include "dialog/host/PPDMarks.h"
 #include "dialog/job/JobOption.h"
+#include "platform/ppd/CupsPPD.h"
 #include "platform/printmanager/PMPageFormat.h"
 #include "platform/printmanager/PMPrintSettings.h"
 
@@ -9,9 +10,7 @@
 #include <QtCore/QString>
 #include <QtCore/QStringList>
 
-#include <cups/ppd.h>
-
-/// What the dialog itself settles, beside the PPD's choices.
+/// The settings that are the dialog's own, beside the PPD's choices.
 struct HostSettings
 {
     int copies = 1;

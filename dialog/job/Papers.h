@@ -1,11 +1,10 @@
 #pragma once
 
+#include "platform/ppd/CupsPPD.h"
 #include "platform/printmanager/PMPageFormat.h"
 
 #include <QtCore/QList>
 #include <QtCore/QString>
-
-#include <cups/ppd.h>
 
 #include <optional>
 
@@ -36,7 +35,7 @@ struct CustomLimits
 /// None when the PPD takes no custom sizes.
 std::optional<CustomLimits> customLimits(ppd_file_t *ppd);
 
-/// What is wrong with a length beside the limits.
+/// Where a length lies as compared with its limits.
 enum class LengthFault { None, TooSmall, TooLarge };
 
 LengthFault faultOfLength(double length, double least, double most);
@@ -44,6 +43,6 @@ LengthFault faultOfLength(double length, double least, double most);
 /// Whether both lengths are within the limits.
 bool isWithin(const CustomLimits &limits, double width, double height);
 
-/// "Custom.100x150mm" read: the unit may be pt (also meant without one), mm, cm, in. None for any
-/// other text.
+/// The paper of a text such as "Custom.100x150mm". Units are pt, mm, cm and in; without one the
+/// numbers are points. None for any other text.
 std::optional<PMPaper> parseCustomPaper(const QString &text);

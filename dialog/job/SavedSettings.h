@@ -2,12 +2,11 @@
 
 #include "dialog/job/JobOption.h"
 #include "dialog/job/JobOptions.h"
+#include "platform/ppd/CupsPPD.h"
 
 #include <QtCore/QList>
 
-#include <cups/ppd.h>
-
-/// What saved options (lpoptions) come to in a dialog.
+/// Saved options (lpoptions) as a dialog takes them over.
 struct SavedSettings
 {
     HostSettings settings;

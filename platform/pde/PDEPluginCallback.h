@@ -1,8 +1,8 @@
 #pragma once
 
-#include <QtCore/QString>
+#include "platform/ppd/CupsPPD.h"
 
-#include <cups/ppd.h>
+#include <QtCore/QString>
 
 class PMPrintSettings;
 struct PMPageFormat;

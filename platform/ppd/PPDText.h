@@ -1,11 +1,10 @@
 #pragma once
 
 #include "platform/Export.h"
+#include "platform/ppd/CupsPPD.h"
 
 #include <QtCore/QByteArray>
 #include <QtCore/QString>
-
-#include <cups/ppd.h>
 
 /// A text of a PPD as people read it: UTF-8, on one line. libcups cuts texts at 80 bytes, which may
 /// be in the middle of a character: what is left of it is dropped. Null for a null pointer.

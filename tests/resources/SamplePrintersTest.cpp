@@ -1,3 +1,4 @@
+#include "platform/ppd/CupsPPD.h"
 #include "tests/resources/Places.h"
 #include "tests/support/Files.h"
 
@@ -5,7 +6,6 @@
 #include <QtCore/QProcess>
 #include <QtCore/QStringList>
 
-#include <cups/ppd.h>
 #include <gtest/gtest.h>
 
 #include <memory>
