@@ -383,10 +383,6 @@
 <context>
     <name>JobFile</name>
     <message>
-        <source>The file %1 cannot be written: %2.</source>
-        <translation>ファイル %1 に書き込めません（%2）。</translation>
-    </message>
-    <message>
         <source>%1 is no saved job.</source>
         <translation>%1 は保存されたジョブではありません。</translation>
     </message>
@@ -509,8 +505,6 @@
     <message>
         <source>The print server %1 did not say whether it took the job: it may have been printed as job %2.</source>
         <translation>プリントサーバー %1 から、ジョブを受け付けたかどうかの応答がありません。ジョブ %2 として印刷された可能性があります。</translation>
-        <source>Whether the server keeps all settings of job %1 is not known: its account of the job cannot be read.</source>
-        <translation>サーバーがジョブ %1 のすべての設定を保持しているかどうかは不明です。サーバーからのジョブ情報を読み取れませんでした。</translation>
     </message>
 </context>
 <context>

@@ -1,10 +1,8 @@
+#include "tests/sources/ProjectFiles.h"
 #include "tests/sources/SourceRules.h"
 #include "tests/support/CaseName.h"
 #include "tests/support/QStringPrinting.h"
 
-#include <QtCore/QDir>
-#include <QtCore/QDirIterator>
-#include <QtCore/QFile>
 #include <QtXml/QDomDocument>
 
 #include <gmock/gmock.h>
@@ -16,41 +14,20 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-const QDir kProject(QStringLiteral(VELKARO_SOURCE_DIR));
-
-QString contents(const QString &path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
-}
-
-QStringList filesBelow(const QString &folder, const QStringList &patterns)
-{
-    QStringList files;
-    QDirIterator all(kProject.filePath(folder), patterns, QDir::Files,
-                     QDirIterator::Subdirectories);
-    while (all.hasNext())
-        files += all.next();
-    return files;
-}
-
-class ProductSources : public testing::TestWithParam<const char *>
+class ProductSources : public testing::TestWithParam<QString>
 {};
 
 TEST_P(ProductSources, GiveNoTextToWhatGuessesAtRichText)
 {
-    const QStringList files = filesBelow(QLatin1String(GetParam()), {u"*.cpp"_s, u"*.h"_s});
+    const QStringList files = filesBelow(GetParam(), {u"*.cpp"_s, u"*.h"_s});
     ASSERT_FALSE(files.isEmpty());
     for (const QString &file : files)
-        for (const QString &breach :
-             breaches(kProject.relativeFilePath(file), contents(file), plainTextRules()))
+        for (const QString &breach : breaches(projectName(file), contents(file), plainTextRules()))
             ADD_FAILURE() << breach.toStdString();
 }
 
-INSTANTIATE_TEST_SUITE_P(Folders, ProductSources,
-                         testing::Values("platform", "panel", "printsettings", "colorsettings",
-                                         "plugin", "dialog"),
-                         [](const auto &folder) { return std::string(folder.param); });
+INSTANTIATE_TEST_SUITE_P(Folders, ProductSources, testing::ValuesIn(kProductFolders),
+                         [](const auto &folder) { return folder.param.toStdString(); });
 
 TEST(ViewResources, HaveNoRichTextAndNoTips)
 {
@@ -159,7 +136,7 @@ TEST(PlainTextRules, AllowNothingThatIsNotThere)
         for (const QString &place : rule.allowed) {
             const QString file = place.section(u": "_s, 0, 0);
             const QString line = place.section(u": "_s, 1);
-            const QString text = contents(kProject.filePath(file));
+            const QString text = contents(projectPath(file));
             EXPECT_FALSE(text.isEmpty()) << rule.name << ": " << file.toStdString();
             EXPECT_TRUE(text.contains(line)) << rule.name << ": " << place.toStdString();
         }

@@ -1,0 +1,132 @@
+#include "tests/sources/Catalogues.h"
+#include "tests/sources/ProjectFiles.h"
+#include "tests/support/CaseName.h"
+#include "tests/support/Files.h"
+#include "tests/support/QStringPrinting.h"
+
+#include <QtCore/QTemporaryDir>
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+// The sentences of the product, and the texts of the bundle by their keys.
+
+QString stringTable(const QString &name)
+{
+    return projectPath(u"resources/strings/"_s + name);
+}
+
+TEST(Catalogue, OfTheDialogHasEverySentenceOfTheSourcesAndNoOther)
+{
+    QStringList folders;
+    for (const QString &folder : kProductFolders)
+        folders += projectPath(folder);
+    EXPECT_EQ(catalogueFaults(stringTable(u"Dialog_ja.ts"_s), folders), QStringList());
+}
+
+QString panelSources()
+{
+    QString all;
+    for (const auto *folder : {"panel", "printsettings", "colorsettings"})
+        for (const QString &file : filesBelow(QLatin1String(folder), {u"*.cpp"_s}))
+            all += contents(file);
+    return all;
+}
+
+class StringTable : public testing::TestWithParam<QString>
+{};
+
+TEST_P(StringTable, HasEveryKeyThatThePanelsLookUpAndNoOther)
+{
+    const QString sources = panelSources();
+    const QStringList keys = translatedKeys(stringTable(GetParam()));
+    for (const QString &key : keysLookedUp(sources))
+        EXPECT_THAT(keys, testing::Contains(key));
+    for (const QString &key : keys)
+        EXPECT_TRUE(sources.contains(u'"' + key + u'"')) << qPrintable(key) << " is not looked up";
+}
+
+INSTANTIATE_TEST_SUITE_P(Languages, StringTable,
+                         testing::Values(u"Localizable_en.ts"_s, u"Localizable_ja.ts"_s),
+                         [](const auto &table) { return table.param.chopped(3).toStdString(); });
+
+TEST(StringTables, HaveTheSameKeysInBothLanguages)
+{
+    EXPECT_EQ(translatedKeys(stringTable(u"Localizable_en.ts"_s)),
+              translatedKeys(stringTable(u"Localizable_ja.ts"_s)));
+}
+
+TEST(KeysLookedUp, AreAllLiteralsOfACall)
+{
+    EXPECT_EQ(keysLookedUp(u"title = localized(\"A\") + localized(\n  tray ? \"B 1\" : \"B 2\");\n"
+                           "other(\"C\"); localized(kBest);"_s),
+              QStringList({u"A"_s, u"B 1"_s, u"B 2"_s}));
+}
+
+// The check itself, held against a source of one sentence.
+
+constexpr auto kSource = R"(
+#include <QtCore/QCoreApplication>
+QString sentence() { return QCoreApplication::translate("Place", "The paper is out."); }
+QString other() { return shown(QT_TRANSLATE_NOOP("Place", "Add " "paper.")); }
+)";
+
+const QString kCatalogue = uR"(<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="ja" sourcelanguage="en">
+<context><name>Place</name>%1</context>
+</TS>)"_s;
+
+struct Written
+{
+    const char *behaviour;
+    QString messages; ///< of the context "Place"
+    QStringList faults;
+};
+
+QString message(const QString &source, const QString &translation)
+{
+    return u"<message><source>%1</source>%2</message>"_s.arg(source, translation);
+}
+
+const QString kOut = message(u"The paper is out."_s, u"<translation>紙切れ</translation>"_s);
+const QString kAdd = message(u"Add paper."_s, u"<translation>給紙</translation>"_s);
+
+class WrittenCatalogue : public testing::TestWithParam<Written>
+{};
+
+TEST_P(WrittenCatalogue, IsHeldAgainstTheSources)
+{
+    const QTemporaryDir scratch;
+    const QString sources = scratch.filePath(u"sources"_s);
+    const QString catalogue = scratch.filePath(u"Test_ja.ts"_s);
+    writeFile(sources + u"/Place.cpp"_s, kSource);
+    writeFile(catalogue, kCatalogue.arg(GetParam().messages).toUtf8());
+    EXPECT_THAT(catalogueFaults(catalogue, {sources}),
+                testing::UnorderedElementsAreArray(GetParam().faults));
+}
+
+const Written kWritten[] = {
+    {"Whole", kOut + kAdd, {}},
+    {"Lacking", kOut, {u"Place: Add paper.: is not translated"_s}},
+    {"Unfinished",
+     kOut + message(u"Add paper."_s, u"<translation type=\"unfinished\">給紙</translation>"_s),
+     {u"Place: Add paper.: is not translated"_s}},
+    {"Empty",
+     kOut + message(u"Add paper."_s, u"<translation></translation>"_s),
+     {u"Place: Add paper.: is not translated"_s}},
+    {"LeftOver",
+     kOut + kAdd + message(u"Ink is out."_s, u"<translation>インク切れ</translation>"_s),
+     {u"Place: Ink is out.: is said nowhere"_s}},
+    {"TwoInOneMessage",
+     QString(kOut + kAdd).remove(u"</message><message>"_s),
+     {u"Place: The paper is out.: is not translated"_s}},
+};
+
+INSTANTIATE_TEST_SUITE_P(Table, WrittenCatalogue, testing::ValuesIn(kWritten), CaseName());
+
+} // namespace

@@ -1,0 +1,36 @@
+#include "tests/sources/ProjectFiles.h"
+
+#include <QtCore/QDir>
+#include <QtCore/QDirIterator>
+#include <QtCore/QFile>
+
+namespace {
+
+const QDir kProject(QStringLiteral(VELKARO_SOURCE_DIR));
+
+} // namespace
+
+QString projectPath(const QString &name)
+{
+    return kProject.filePath(name);
+}
+
+QString projectName(const QString &path)
+{
+    return kProject.relativeFilePath(path);
+}
+
+QStringList filesBelow(const QString &folder, const QStringList &patterns)
+{
+    QStringList files;
+    QDirIterator all(projectPath(folder), patterns, QDir::Files, QDirIterator::Subdirectories);
+    while (all.hasNext())
+        files += all.next();
+    return files;
+}
+
+QString contents(const QString &path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
+}
