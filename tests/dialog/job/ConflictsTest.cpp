@@ -1,8 +1,8 @@
 #include "dialog/job/Conflicts.h"
 #include "dialog/host/PPDFile.h"
 #include "dialog/host/PPDMarks.h"
-#include "tests/support/ClashingPPD.h"
 #include "tests/endtoend/JobPrinting.h"
+#include "tests/support/ClashingPPD.h"
 
 #include <gtest/gtest.h>
 

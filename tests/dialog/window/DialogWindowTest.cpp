@@ -3,8 +3,8 @@
 #include "platform/foundation/NotificationCenter.h"
 #include "platform/toolkit/KeyWindow.h"
 #include "platform/toolkit/NumberField.h"
-#include "tests/support/ClashingPPD.h"
 #include "tests/dialog/window/DialogWindowFixture.h"
+#include "tests/support/ClashingPPD.h"
 #include "tests/support/PPDSource.h"
 
 #include <QtCore/QProcess>
