@@ -61,6 +61,7 @@ public:
     /// that has a table (English where none has); the key itself when the table lacks it.
     QString localizedString(const QString &key) const;
 
+    /// The tables, unless something else is set.
     void setStrings(Strings strings) { m_strings = strings; }
 
 private:

@@ -15,6 +15,7 @@
 class VELKARO_PLATFORM_EXPORT NotificationCenter
 {
 public:
+    /// What an observer does with a notification.
     using Handler = std::function<void(const Notification &)>;
 
     /// The centre of the process.
@@ -29,7 +30,10 @@ public:
     void removeObserver(const void *observer, const QString &name = QString(),
                         const void *object = nullptr);
 
+    /// Delivers the notification; all observers have had it when this returns.
     void post(const Notification &notification);
+
+    /// The same, made of its parts.
     void post(const QString &name, const void *object = nullptr,
               const std::optional<QVariantMap> &userInfo = std::nullopt);
 

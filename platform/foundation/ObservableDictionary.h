@@ -17,6 +17,7 @@
 class VELKARO_PLATFORM_EXPORT ObservableDictionary
 {
 public:
+    /// What is called after a write.
     using Observer = std::function<void()>;
 
     /// What stands under one key.

@@ -25,16 +25,15 @@ public:
     /// One row of a panel's list of advanced options.
     struct Row
     {
-        QString label;
-        QString id;
+        QString label; ///< what people read
+        QString id;    ///< what the row stands for, the same in every language
     };
 
-    /// The list of advanced options: its rows in order, and the id of the selected one (null:
-    /// none).
+    /// The list of advanced options.
     struct Rows
     {
-        std::vector<Row> rows;
-        QString selectedRow;
+        std::vector<Row> rows; ///< in the order in which they are shown
+        QString selectedRow;   ///< the id of the selected one; null: none
     };
 
     /// The panel's class name, such as "VKInkPrintSetting14PDE".
@@ -43,6 +42,7 @@ public:
     /// The short name of the panel in scripts, such as "print".
     virtual QString inspectedName() const = 0;
 
+    /// What the panel has found out about the printer, one bit each as the panel numbers them.
     virtual std::int32_t inspectedFlags() const = 0;
 
     /// The current paper name; null before one is known.

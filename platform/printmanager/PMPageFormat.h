@@ -14,8 +14,8 @@ struct PMPaper
     QString name;
     /// The choice of `PageSize` that the paper stands for; null for a size that the user defined.
     QString ppdName;
-    double width = 0;
-    double height = 0;
+    double width = 0;  ///< of the upright sheet
+    double height = 0; ///< of the upright sheet
 };
 
 enum class PMOrientation { Portrait, Landscape };
@@ -23,8 +23,8 @@ enum class PMOrientation { Portrait, Landscape };
 /// The page format of a job: the paper and how the page lies on it.
 struct PMPageFormat
 {
-    std::optional<PMPaper> paper;
-    PMOrientation orientation = PMOrientation::Portrait;
+    std::optional<PMPaper> paper;                        ///< none before one is known
+    PMOrientation orientation = PMOrientation::Portrait; ///< of the page on the upright sheet
 };
 
 /// The format's paper, owned by the format. Without a format or a paper kPMInvalidParameter, and

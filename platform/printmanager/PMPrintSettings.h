@@ -16,7 +16,9 @@ inline constexpr OSStatus kPMKeyNotFound = -9589;
 class VELKARO_PLATFORM_EXPORT PMPrintSettings
 {
 public:
+    /// All values by their keys.
     const QVariantMap &values() const { return m_values; }
+    /// Replaces all values.
     void setValues(const QVariantMap &values) { m_values = values; }
 
 private:

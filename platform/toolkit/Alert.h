@@ -19,19 +19,19 @@ enum class AlertStyle {
 /// What an alert says. All of it is plain text.
 struct AlertContent
 {
-    AlertStyle style = AlertStyle::Informational;
+    AlertStyle style = AlertStyle::Informational; ///< which sign stands beside the text
     /// Only for a window of its own; null for an alert.
     QString title;
-    QString text;
-    QString informative;
+    QString text;        ///< what happened, set off from the rest
+    QString informative; ///< what it means; null: nothing
     /// The button titles. The last one answers Escape and closing.
     QStringList buttons;
-    /// Whether the box that suppresses the alert from now on is shown, and what it says.
-    bool suppression = false;
-    QString suppressionTitle;
-    int defaultButton = 0; ///< index into `buttons`: the one that answers Return
+    bool suppression = false; ///< whether the box that suppresses the alert from now on is shown
+    QString suppressionTitle; ///< what that box says
+    int defaultButton = 0;    ///< index into `buttons`: the one that answers Return
 };
 
+/// How an alert was answered.
 struct AlertResult
 {
     int button = 0;          ///< index into AlertContent::buttons

@@ -13,13 +13,14 @@ class QCheckBox;
 class VELKARO_PLATFORM_EXPORT ShownAlert
 {
 public:
+    /// How it is shown: blocking the application, on a window, or as a window of a panel's own.
     enum class Kind { Modal, Sheet, Window };
 
-    Kind kind = Kind::Modal;
-    AlertContent content;
-    QPointer<QWidget> window;
-    QList<QPointer<QAbstractButton>> buttons;
-    QPointer<QCheckBox> suppressionBox;
+    Kind kind = Kind::Modal;                  ///< how it is shown
+    AlertContent content;                     ///< what it says
+    QPointer<QWidget> window;                 ///< null once the alert has gone
+    QList<QPointer<QAbstractButton>> buttons; ///< in the order of the content's titles
+    QPointer<QCheckBox> suppressionBox;       ///< null without one
 
     /// Presses the real button; the alert closes. Nothing when the alert has gone, or has no such
     /// button.
@@ -34,9 +35,12 @@ class VELKARO_PLATFORM_EXPORT AlertObserver
 {
 public:
     virtual ~AlertObserver() = default;
+
+    /// The alert is on screen, and waits for an answer.
     virtual void alertShown(const ShownAlert &alert) = 0;
 
     /// Registers the observer of the process, not owned; null: alerts wait for a person.
     static void setAlertObserver(AlertObserver *observer);
+    /// The observer that is registered; null without one.
     static AlertObserver *alertObserver();
 };

@@ -16,12 +16,14 @@ class VELKARO_PLATFORM_EXPORT FractionSlider : public QSlider
 public:
     explicit FractionSlider(QWidget *parent = nullptr);
 
+    /// Where the slider ends on its right side, and negated on its left.
     int limit() const;
 
     /// Also makes keys move the slider by one, clicks beside the knob by five, and puts a tick at
     /// both ends and in the middle.
     void setLimit(int limit);
 
+    /// The value, with its fraction.
     double doubleValue() const { return m_value; }
 
     /// Moves the slider without telling anybody; the value is kept as it is given, the knob stays

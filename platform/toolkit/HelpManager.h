@@ -16,6 +16,7 @@ class QWidget;
 class VELKARO_PLATFORM_EXPORT HelpManager
 {
 public:
+    /// The one of the process.
     static HelpManager &sharedHelpManager();
 
     /// Registers the book in the folder. False when there is no readable book.

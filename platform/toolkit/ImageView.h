@@ -29,6 +29,7 @@ public:
 
     /// The name of the picture that is shown, given by whoever put it there; null without one.
     QString imageName() const { return m_imageName; }
+    /// Names the picture; the view itself makes nothing of the name.
     void setImageName(const QString &name) { m_imageName = name; }
 
     /// How often a picture has been put into the view.

@@ -15,6 +15,7 @@ class VELKARO_PLATFORM_EXPORT NumberField : public QSpinBox
 public:
     explicit NumberField(QWidget *parent = nullptr);
 
+    /// Numbers run from -limit to limit.
     void setLimit(int limit) { setRange(-limit, limit); }
 
     /// Shows the number, cut toward zero, without telling anybody.

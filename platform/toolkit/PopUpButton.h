@@ -21,10 +21,11 @@ class VELKARO_PLATFORM_EXPORT PopUpButton : public QComboBox
     Q_PROPERTY(int tag MEMBER m_tag)
 
 public:
+    /// One line of the list.
     struct Item
     {
-        QString title;
-        QString representedObject;
+        QString title;             ///< what people read
+        QString representedObject; ///< what the item stands for
     };
 
     /// The path of the picture before the title of the item with the represented object; null:
@@ -40,10 +41,13 @@ public:
     /// list that is the selected item's only.
     void setPictures(PictureOf pictureOf);
 
-    /// The index of the first item with the represented object, or title; -1 when there is none.
+    /// The index of the first item with the represented object; -1 when there is none.
     int indexOfRepresentedObject(const QString &object) const;
+
+    /// The index of the first item with the title; -1 when there is none.
     int indexOfTitle(const QString &title) const;
 
+    /// The tag that the view resource gave the control; 0 without one.
     int tag() const { return m_tag; }
 
     /// Null for an index that is not there.
@@ -55,7 +59,10 @@ public:
     /// Selects the item with the represented object. False, and no change, when there is none.
     bool selectObject(const QString &object);
 
+    /// Whether the item can be picked. False for an index that is not there.
     bool isItemEnabled(int index) const;
+
+    /// Lets the item be picked, or not. A disabled one stays selected.
     void setItemEnabled(int index, bool enabled);
 
     /// Picks the item as a user does who opens the list and clicks: also when it is selected

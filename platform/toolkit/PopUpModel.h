@@ -22,16 +22,20 @@ public:
     /// See PopUpButton::setPictures().
     void setPictures(PopUpButton::PictureOf pictureOf);
 
-    /// The row of the first item with the represented object or title; -1 without one. No item is
-    /// found by a null object.
+    /// The row of the first item with the represented object; -1 without one. No item is found by a
+    /// null object.
     int rowOfObject(const QString &object) const;
+
+    /// The row of the first item with the title; -1 without one.
     int rowOfTitle(const QString &title) const;
 
     /// Null for a row that is not there.
     QString representedObject(int row) const;
 
-    /// False for a row that is not there.
+    /// Whether the row can be picked. False for a row that is not there.
     bool isEnabled(int row) const;
+
+    /// Lets the row be picked, or not.
     void setEnabled(int row, bool enabled);
 
     int rowCount(const QModelIndex &parent = QModelIndex()) const override;

@@ -22,17 +22,22 @@ class VELKARO_PLATFORM_EXPORT RadioMatrix : public QWidget
 public:
     explicit RadioMatrix(QWidget *parent = nullptr);
 
+    /// How many cells there are, with a title or without.
     int numberOfRows() const { return static_cast<int>(m_cells.size()); }
 
     /// Adds rows at the end, or removes them from there.
     void setNumberOfRows(int rows);
 
+    /// Adds a row without a title at the end.
     void addRow();
 
     /// Removes a row. If it was the selected one, none is selected then.
     void removeRow(int row);
 
+    /// Says what the cell shows and what it stands for.
     void setCell(int row, const QString &title, const QString &representedObject);
+
+    /// What the cell shows; null for a row that is not there.
     QString title(int row) const;
 
     /// Null for a row that is not there or was never given one.

@@ -20,6 +20,7 @@ public:
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 Q_SIGNALS:
+    /// The part has come on screen, or the window has another height.
     void fired();
 
 protected:

@@ -18,9 +18,12 @@
 class VELKARO_PLATFORM_EXPORT ViewConnections
 {
 public:
+    /// An operation of the owner.
     using Action = std::function<void(QWidget *sender)>;
+    /// What makes a widget of a class of the owner's.
     using Factory = std::function<QWidget *(QWidget *parent)>;
 
+    /// Has `pointer`, which must outlive the view, point to the widget of the name.
     template <typename Widget> void outlet(const QString &name, Widget *&pointer)
     {
         m_outlets[name].append([&pointer](QWidget *widget) {
@@ -29,6 +32,7 @@ public:
         });
     }
 
+    /// Gives the operation the name that controls call it by.
     void action(const QString &name, Action action) { m_actions[name] = std::move(action); }
 
     /// Makes a widget class of the owner's own known to the loader.

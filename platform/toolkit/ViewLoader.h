@@ -16,6 +16,7 @@
 class VELKARO_PLATFORM_EXPORT LoadedView
 {
 public:
+    /// Made by loadView(). Takes the root over.
     LoadedView(QWidget *root, std::unique_ptr<ObservableDictionary> content,
                const QHash<QString, QWidget *> &outlets);
     ~LoadedView();
@@ -28,8 +29,10 @@ public:
     /// The widgets that became outlets of the owner, by name.
     QHash<QString, QWidget *> outlets() const;
 
-    /// Whether the view binds this state of the outlet.
+    /// Whether the view binds the outlet's enabled state.
     bool bindsEnabled(const QWidget *outlet) const { return m_enabledBound.contains(outlet); }
+
+    /// Whether the view binds the colour of the outlet's text.
     bool bindsTextColor(const QWidget *outlet) const { return m_textColorBound.contains(outlet); }
 
 private:
