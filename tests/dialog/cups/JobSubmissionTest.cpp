@@ -1,0 +1,134 @@
+#include "dialog/cups/JobSubmission.h"
+#include "dialog/cups/Destinations.h"
+#include "dialog/work/BackgroundCall.h"
+#include "tests/dialog/cups/ServerFixture.h"
+#include "tests/support/Documents.h"
+#include "tests/support/QStringPrinting.h"
+
+#include <QtCore/QFile>
+#include <QtTest/QTest>
+
+#include <gtest/gtest.h>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+TEST_F(Server, TakesAJobAsItWasSent)
+{
+    JobRequest request = job(u"photo"_s);
+    request.options = {{u"VKMediaType"_s, u"Glossy"_s},
+                       {u"VKBiDir"_s, u"ON"_s},
+                       {u"PageSize"_s, u"Custom.283.47x425.2"_s},
+                       {u"copies"_s, u"2"_s},
+                       {u"page-ranges"_s, u"1-2,4"_s},
+                       {u"orientation-requested"_s, u"4"_s},
+                       {u"fit-to-page"_s, u"true"_s},
+                       {u"com.velkaro.print.PrintSettings.T2T_Red"_s, u"-7"_s},
+                       {u"com.velkaro.text"_s, u"a, \"b\" 'c' \\d $(e)"_s}};
+    request.documents.push_back(document("second").front());
+    const JobReceipt receipt = submitJob(request, m_guard);
+    ASSERT_TRUE(receipt.answer.isGood()) << receipt.answer.sentence.toStdString();
+    EXPECT_EQ(receipt.notes, QStringList());
+    const QMap<QString, QString> kept = s_server->jobAttributes(u"photo"_s, receipt.id);
+    for (const JobOption &option : request.options)
+        EXPECT_EQ(kept.value(option.name), option.value) << option.name.toStdString();
+    EXPECT_EQ(kept.value(u"job-name"_s), u"A & B <i>"_s);
+    EXPECT_EQ(kept.value(u"number-of-documents"_s), u"2"_s);
+    EXPECT_FALSE(kept.contains(u"media"_s));
+    EXPECT_EQ(s_server->waitForJob(u"photo"_s, receipt.id), IPP_JSTATE_COMPLETED);
+}
+
+TEST_F(Server, IsGivenNamesWithoutControlCharacters)
+{
+    JobRequest request = job(u"raw"_s);
+    request.title = u"A\nB\u001B[2J\u202E"_s;
+    const QString odd = m_folder.filePath(u"x\ny\u001B.ps"_s);
+    ASSERT_TRUE(QFile::rename(request.documents[0].path(), odd));
+    request.documents = openedDocuments({odd});
+    const JobReceipt receipt = submitJob(request, m_guard);
+    ASSERT_TRUE(receipt.answer.isGood()) << receipt.answer.sentence.toStdString();
+    const QMap<QString, QString> kept = s_server->jobAttributes(u"raw"_s, receipt.id);
+    EXPECT_EQ(kept.value(u"job-name"_s), u"A B [2J"_s);
+    EXPECT_EQ(kept.value(u"document-name-supplied"_s), u"x y .ps"_s);
+}
+
+TEST_F(Server, RefusesAJobForAQueueThatIsClosed)
+{
+    const JobReceipt receipt = submitJob(job(u"closed"_s), m_guard);
+    EXPECT_EQ(receipt.id, 0);
+    EXPECT_EQ(receipt.answer.fault, ServerFault::Refused);
+    EXPECT_TRUE(receipt.answer.sentence.startsWith(
+        u"The print server %1 refused: "_s.arg(s_server->address())))
+        << receipt.answer.sentence.toStdString();
+    EXPECT_EQ(s_server->jobs(u"closed"_s), QList<int>());
+}
+
+TEST_F(Server, GetsNoJobWhoseDocumentHasChanged)
+{
+    const QList<int> before = s_server->jobs(u"photo"_s);
+    JobRequest request = job(u"photo"_s);
+    request.documents.push_back(document("second").front());
+    const QString path = request.documents.back().path();
+    ASSERT_TRUE(QFile::resize(path, 10));
+    const JobReceipt receipt = submitJob(request, m_guard);
+    EXPECT_EQ(receipt.answer.fault, ServerFault::Document);
+    EXPECT_EQ(receipt.answer.sentence,
+              u"The document %1 has become shorter or longer since it was opened."_s.arg(path));
+    EXPECT_EQ(s_server->jobs(u"photo"_s), before);
+}
+
+TEST_F(Server, HoldsAJobAndItIsSaid)
+{
+    JobRequest request = job(u"photo"_s);
+    request.options = {{u"job-hold-until"_s, u"indefinite"_s}};
+    const JobReceipt receipt = submitJob(request, m_guard);
+    ASSERT_TRUE(receipt.answer.isGood());
+    EXPECT_EQ(
+        receipt.notes,
+        QStringList{u"The server holds job %1 (job-hold-until-specified)."_s.arg(receipt.id)});
+}
+
+TEST_F(Server, CancelsAJobThatTheUserStoppedSending)
+{
+    const QList<int> before = s_server->jobs(u"photo"_s);
+    QFile endless(m_folder.filePath(u"large.ps"_s));
+    ASSERT_TRUE(endless.open(QIODevice::WriteOnly));
+    ASSERT_TRUE(endless.resize(4096LL * 1024 * 1024));
+    JobRequest request = job(u"photo"_s);
+    request.documents = openedDocuments({endless.fileName()});
+    JobReceipt receipt;
+    bool isDone = false;
+    QObject owner;
+    auto *call = new BackgroundCall(
+        &owner, kServerTimeout,
+        [&](CallGuard &guard) -> BackgroundCall::Outcome {
+            const JobReceipt got = submitJob(request, guard);
+            return [&, got] {
+                receipt = got;
+                isDone = true;
+            };
+        },
+        nullptr);
+    ASSERT_TRUE(QTest::qWaitFor([&] { return s_server->jobs(u"photo"_s).size() > before.size(); }));
+    call->cancel();
+    // The server's disk may be faster than the look at its jobs: then all has arrived.
+    ASSERT_TRUE(QTest::qWaitFor([&] { return isDone; }, 20000));
+    if (receipt.answer.isGood())
+        FAIL() << "the document was too short for this test";
+    EXPECT_EQ(receipt.answer.fault, ServerFault::Cancelled);
+    EXPECT_EQ(s_server->waitForJob(u"photo"_s, receipt.id), IPP_JSTATE_CANCELED);
+}
+
+TEST_F(Server, IsReachedByItsSocketToo)
+{
+    JobRequest request = job(u"photo"_s);
+    request.server = s_server->socketPath();
+    EXPECT_EQ(listDestinations(request.server, m_guard).destinations.size(), 4);
+    EXPECT_EQ(nickname(fetchQueuePPD(request.server, u"photo"_s, m_guard)),
+              u"Velkaro PX-T900, 1.0"_s);
+    const JobReceipt receipt = submitJob(request, m_guard);
+    EXPECT_TRUE(receipt.answer.isGood()) << receipt.answer.sentence.toStdString();
+}
+
+} // namespace

@@ -1,0 +1,79 @@
+#include "dialog/cups/QueuePPD.h"
+#include "tests/dialog/cups/ServerFixture.h"
+#include "tests/support/FileSizeLimit.h"
+#include "tests/support/QStringPrinting.h"
+
+#include <QtCore/QDir>
+#include <QtCore/QFileInfo>
+#include <QtCore/QScopeGuard>
+
+#include <gtest/gtest.h>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+TEST_F(Server, GivesThePPDOfAQueueInAFileWithoutAName)
+{
+    // A folder of its own: everybody writes into the common one.
+    const QByteArray common = qgetenv("TMPDIR");
+    const auto restore = qScopeGuard(
+        [&common] { common.isNull() ? qunsetenv("TMPDIR") : qputenv("TMPDIR", common); });
+    qputenv("TMPDIR", m_folder.path().toLocal8Bit());
+    const QueuePPD queue = fetchQueuePPD(s_server->address(), u"photo"_s, m_guard);
+    ASSERT_TRUE(queue.file) << queue.answer.sentence.toStdString();
+    EXPECT_EQ(nickname(queue), u"Velkaro PX-T900, 1.0"_s);
+    EXPECT_EQ(QDir(m_folder.path()).entryList(QDir::Files), QStringList());
+}
+
+TEST_F(Server, GivesTheFirstMembersPPDForAClass)
+{
+    const QueuePPD queue = fetchQueuePPD(s_server->address(), u"group"_s, m_guard);
+    ASSERT_TRUE(queue.file) << queue.answer.sentence.toStdString();
+    EXPECT_EQ(nickname(queue), u"Velkaro PX-T900, 1.0"_s);
+}
+
+TEST_F(Server, SaysThatAQueueHasNoPPD)
+{
+    const QueuePPD queue = fetchQueuePPD(s_server->address(), u"raw"_s, m_guard);
+    EXPECT_FALSE(queue.file);
+    EXPECT_EQ(queue.answer.fault, ServerFault::None);
+    EXPECT_EQ(queue.answer.sentence, u"The queue raw has no PPD."_s);
+}
+
+TEST_F(Server, SaysThatThereIsNoSuchQueue)
+{
+    const QueuePPD queue = fetchQueuePPD(s_server->address(), u"no/such queue"_s, m_guard);
+    EXPECT_FALSE(queue.file);
+    EXPECT_EQ(queue.answer.fault, ServerFault::NotFound);
+    EXPECT_EQ(queue.answer.sentence,
+              u"The print server %1 has no queue no/such queue."_s.arg(s_server->address()));
+}
+
+TEST_F(Server, ThatDemandsAPasswordGetsNone)
+{
+    PrintServer server(u"AuthType Basic\nRequire valid-user"_s);
+    ASSERT_EQ(server.fault(), QString());
+    const QueuePPD queue = fetchQueuePPD(server.address(), u"photo"_s, m_guard);
+    EXPECT_EQ(queue.answer.fault, ServerFault::NeedsPassword);
+    EXPECT_EQ(queue.answer.sentence,
+              u"The print server %1 lets nobody print to photo without a password."_s.arg(
+                  server.address()));
+}
+
+// A folder that is full but for less than what is usually written at once.
+TEST_F(Server, SaysThatTheTemporaryFolderTakesNotAllOfAPPD)
+{
+    const QString server = s_server->address();
+    const auto size = QFileInfo(fetchQueuePPD(server, u"photo"_s, m_guard).path()).size();
+    ASSERT_GT(size, 10000);
+    const FileSizeLimit limit(static_cast<rlim_t>(size - 1));
+    const QueuePPD queue = fetchQueuePPD(server, u"photo"_s, m_guard);
+    EXPECT_FALSE(queue.file);
+    EXPECT_EQ(queue.answer.fault, ServerFault::Refused);
+    EXPECT_EQ(queue.answer.sentence,
+              u"What the print server %1 sends cannot be kept in the temporary folder: "
+              "File too large."_s.arg(server));
+}
+
+} // namespace
