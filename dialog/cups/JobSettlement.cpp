@@ -7,27 +7,23 @@
 
 namespace {
 
-QString sentence(const char *text)
-{
-    return QCoreApplication::translate("JobSettlement", text);
-}
-
 ServerAnswer endedByServer(const char *text, const QString &server, int id)
 {
-    return {ServerFault::Refused, sentence(text).arg(server, QString::number(id))};
+    return {ServerFault::Refused,
+            QCoreApplication::translate("JobSettlement", text).arg(server, QString::number(id))};
 }
 
 ServerAnswer notCancelled(const QString &why, const QString &server, int id)
 {
     return {ServerFault::Unsettled,
-            sentence(QT_TRANSLATE_NOOP("JobSettlement",
-                                       "%1 Job %2 could not be cancelled at %3 and may be "
-                                       "printed."))
+            QCoreApplication::translate("JobSettlement",
+                                        "%1 Job %2 could not be cancelled at %3 and may be "
+                                        "printed.")
                 .arg(why, QString::number(id), server)};
 }
 
-/// Nothing half is printed: what the server has of the job is cancelled. It may be too late for
-/// that, where the server has got the whole job.
+/// Cancels the job at the server, so that no part of it is printed. That can come too late where
+/// the server has the whole job: it counts as accepted then.
 void cancel(JobReceipt &receipt, ServerConnection &connection, Sent sent, const JobRequest &request,
             JobProgress &progress)
 {
@@ -49,8 +45,8 @@ void cancel(JobReceipt &receipt, ServerConnection &connection, Sent sent, const 
     }
 }
 
-/// The answer that decides has not come: the server is asked what it made of the job. True when
-/// that settles it.
+/// Asks the server for the fate of a job whose last answer was lost. True when that is an answer,
+/// and the receipt has it.
 bool lookForAnswer(JobReceipt &receipt, ServerConnection &connection, const JobRequest &request,
                    JobProgress &progress)
 {
@@ -91,14 +87,15 @@ void accept(JobReceipt &receipt, ServerConnection &connection, const JobRequest 
 ServerAnswer perhapsPrinted(const QString &server, int id)
 {
     return {ServerFault::Unsettled,
-            sentence(QT_TRANSLATE_NOOP("JobSettlement",
-                                       "The print server %1 did not say whether it took the job: "
-                                       "it may have been printed as job %2."))
+            QCoreApplication::translate("JobSettlement",
+                                        "The print server %1 did not say whether it took the job: "
+                                        "it may have been printed as job %2.")
                 .arg(server, QString::number(id))};
 }
 
-// On connections of their own: the old one may be in the middle of a document. Half of the timeout
-// to connect and half to answer: whoever waits for the guard is not out of it.
+// New connections, since the old one may be in the middle of a document. Each has half of the
+// timeout to connect and half to answer, so that whoever waits for the outer guard does not give up
+// first.
 void settle(JobReceipt &receipt, Sent sent, const JobRequest &request, JobProgress &progress,
             CallGuard &guard)
 {

@@ -15,11 +15,6 @@ namespace {
 
 using Kind = ExchangeEnd::Kind;
 
-QString sentence(const char *text)
-{
-    return QCoreApplication::translate("Server", text);
-}
-
 bool fetch(ServerConnection &connection, const QString &queue, QFile &file)
 {
     return connection.download(queueResource(queue) + ".ppd", file, kLargestPPDAnswer);
@@ -31,7 +26,7 @@ bool isAbsent(const ServerConnection &connection)
            connection.lastEnd().status == HTTP_STATUS_NOT_FOUND;
 }
 
-/// What the server says of a queue whose PPD it does not have.
+/// What the server says of a queue when it has been asked why there is no PPD.
 struct QueueLook
 {
     ServerAnswer answer;
@@ -56,12 +51,12 @@ ServerAnswer failure(const ServerConnection &connection, const QString &queue)
     switch (connection.lastEnd().kind) {
     case Kind::TooLarge:
         return {ServerFault::Refused,
-                sentence(QT_TRANSLATE_NOOP("Server", "The PPD of the queue %1 is too large."))
+                QCoreApplication::translate("Server", "The PPD of the queue %1 is too large.")
                     .arg(queue)};
     case Kind::CutShort:
         return {ServerFault::Unreachable,
-                sentence(QT_TRANSLATE_NOOP("Server", "The print server %1 sent only part of the "
-                                                     "PPD of the queue %2. Try again."))
+                QCoreApplication::translate("Server", "The print server %1 sent only part of the "
+                                                      "PPD of the queue %2. Try again.")
                     .arg(connection.serverName(), queue)};
     default:
         return connection.lastAnswer(queue);
@@ -93,7 +88,7 @@ QueuePPD fetchQueuePPD(const QString &server, const QString &queue, CallGuard &g
         if (!isFetched && (look.firstMember.isNull() || isAbsent(connection)))
             return {nullptr,
                     {ServerFault::None,
-                     sentence(QT_TRANSLATE_NOOP("Server", "The queue %1 has no PPD.")).arg(queue)}};
+                     QCoreApplication::translate("Server", "The queue %1 has no PPD.").arg(queue)}};
     }
     if (!isFetched)
         return {nullptr, failure(connection, queue)};

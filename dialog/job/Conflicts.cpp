@@ -9,17 +9,12 @@
 
 namespace {
 
-QString sentence(const char *text)
-{
-    return QCoreApplication::translate("Conflicts", text);
-}
-
 QString quotedList(const QStringList &texts)
 {
     QStringList quoted;
     for (const QString &text : texts)
-        quoted += sentence(QT_TRANSLATE_NOOP("Conflicts", "\"%1\"")).arg(text);
-    return quoted.join(sentence(QT_TRANSLATE_NOOP("Conflicts", ", ")));
+        quoted += QCoreApplication::translate("Conflicts", "\"%1\"").arg(text);
+    return quoted.join(QCoreApplication::translate("Conflicts", ", "));
 }
 
 } // namespace
@@ -40,7 +35,7 @@ QStringList clashesWith(ppd_file_t *ppd, const QString &keyword, const QString &
     QStringList clashes;
     for (int index = 0; index < count; ++index) {
         const QString other = ppdName(options[index].name);
-        // The paper stands in the PPD twice; people know one of them.
+        // PPDs have every paper twice, as PageSize and PageRegion: one of them is enough to name.
         if (other != QLatin1String("PageRegion"))
             clashes += choiceText(ppd, other, ppdName(options[index].value));
     }
@@ -53,7 +48,7 @@ QString refusalSentence(ppd_file_t *ppd, const QString &keyword, const QString &
     const QStringList clashes = clashesWith(ppd, keyword, choice);
     if (clashes.isEmpty())
         return {};
-    return sentence(QT_TRANSLATE_NOOP("Conflicts", "\"%1\" cannot be chosen: the printer does not "
-                                                   "allow it together with %2."))
+    return QCoreApplication::translate("Conflicts", "\"%1\" cannot be chosen: the printer does not "
+                                                    "allow it together with %2.")
         .arg(choiceText(ppd, keyword, choice), quotedList(clashes));
 }

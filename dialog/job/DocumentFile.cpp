@@ -14,18 +14,13 @@
 
 namespace {
 
-QString sentence(const char *text)
-{
-    return QCoreApplication::translate("DocumentFile", text);
-}
-
 QString systemFault(const QString &path)
 {
     const int error = errno;
     if (error == ENOENT)
-        return sentence(QT_TRANSLATE_NOOP("DocumentFile", "The document %1 does not exist."))
+        return QCoreApplication::translate("DocumentFile", "The document %1 does not exist.")
             .arg(path);
-    return sentence(QT_TRANSLATE_NOOP("DocumentFile", "The document %1 cannot be read: %2."))
+    return QCoreApplication::translate("DocumentFile", "The document %1 cannot be read: %2.")
         .arg(path, QString::fromLocal8Bit(std::strerror(error)));
 }
 
@@ -58,12 +53,12 @@ Opened ordinary(FileDescriptor file, qint64 begin, const QString &path, const QS
     Document document(std::move(file), begin, path, name);
     if (document.size() == 0)
         return {{},
-                sentence(QT_TRANSLATE_NOOP("DocumentFile", "The document %1 is empty.")).arg(path)};
+                QCoreApplication::translate("DocumentFile", "The document %1 is empty.").arg(path)};
     return {std::move(document), {}};
 }
 
-/// A device may answer to being opened alone, and a named pipe would keep whoever opens it waiting:
-/// what the name stands for is asked before, and of the open file again.
+/// What the name stands for is looked at before it is opened, since opening alone can set off a
+/// device, or wait for the writer of a named pipe; and the open file is looked at again.
 Opened openByName(const QString &path)
 {
     const QByteArray bytes = bytesOfPath(path);
@@ -78,11 +73,11 @@ Opened openByName(const QString &path)
             return {{}, systemFault(shown)};
     }
     if (const char *fault = faultOfKind(status.st_mode))
-        return {{}, sentence(fault).arg(shown)};
+        return {{}, QCoreApplication::translate("DocumentFile", fault).arg(shown)};
     return ordinary(std::move(file), 0, shown, QFileInfo(shown).fileName());
 }
 
-/// A descriptor that whoever started the program has left open for it; none of the program's own.
+/// A descriptor that the program was started with. Its own files are closed on exec, and are none.
 FileDescriptor inherited(int descriptor)
 {
     const int flags = fcntl(descriptor, F_GETFD);
@@ -104,7 +99,7 @@ bool mayBeRead(const FileDescriptor &file)
 Opened openDescriptor(int descriptor, const QString &path)
 {
     const QString shown = descriptor == STDIN_FILENO
-                              ? sentence(QT_TRANSLATE_NOOP("DocumentFile", "Standard input"))
+                              ? QCoreApplication::translate("DocumentFile", "Standard input")
                               : path;
     FileDescriptor file = inherited(descriptor);
     struct stat status = {};
@@ -113,7 +108,7 @@ Opened openDescriptor(int descriptor, const QString &path)
     if (S_ISFIFO(status.st_mode) || S_ISSOCK(status.st_mode))
         return {Document::pipe(std::move(file), shown, shown), {}};
     if (const char *fault = faultOfKind(status.st_mode))
-        return {{}, sentence(fault).arg(shown)};
+        return {{}, QCoreApplication::translate("DocumentFile", fault).arg(shown)};
     const qint64 begin = lseek(file.get(), 0, SEEK_CUR);
     return ordinary(std::move(file), begin, shown, shown);
 }

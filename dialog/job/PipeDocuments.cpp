@@ -18,11 +18,6 @@ constexpr qint64 kMegabyte = 1'000'000;
 
 enum class Spooled { All, TooLong, CannotRead, CannotKeep, Cancelled };
 
-QString sentence(const char *text)
-{
-    return QCoreApplication::translate("PipeDocuments", text);
-}
-
 bool waitForBytes(int pipe, CallGuard &guard)
 {
     pollfd waited{pipe, POLLIN, 0};
@@ -70,11 +65,11 @@ QString roomFault(const QString &path)
     const int error = errno;
     const QString folder = shownPath(pathOfBytes(temporaryFolder()));
     if (error == ENOSPC || error == EDQUOT || error == EFBIG)
-        return sentence(QT_TRANSLATE_NOOP("PipeDocuments", "There is no room in the temporary "
-                                                           "folder %1 for the document %2."))
+        return QCoreApplication::translate("PipeDocuments", "There is no room in the temporary "
+                                                            "folder %1 for the document %2.")
             .arg(folder, path);
-    return sentence(QT_TRANSLATE_NOOP("PipeDocuments", "The document %1 cannot be kept in the "
-                                                       "temporary folder %2: %3."))
+    return QCoreApplication::translate("PipeDocuments", "The document %1 cannot be kept in the "
+                                                        "temporary folder %2: %3.")
         .arg(path, folder, QString::fromLocal8Bit(std::strerror(error)));
 }
 
@@ -85,9 +80,9 @@ ServerAnswer faultOf(Spooled spooled, const QString &path, qint64 longest)
         return {};
     case Spooled::TooLong:
         return {ServerFault::Document,
-                sentence(QT_TRANSLATE_NOOP("PipeDocuments",
-                                           "The document %1 is longer than %2 MB, the most that is "
-                                           "read from a pipe."))
+                QCoreApplication::translate(
+                    "PipeDocuments", "The document %1 is longer than %2 MB, the most that is "
+                                     "read from a pipe.")
                     .arg(path, QString::number(longest / kMegabyte))};
     case Spooled::CannotRead:
         return {ServerFault::Document,
