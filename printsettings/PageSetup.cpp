@@ -38,7 +38,7 @@ bool VKInkPrintSetting14PDE::readPageSetup()
 QString VKInkPrintSetting14PDE::pageSetupPaperName()
 {
     const JobPaper paper = jobPaper();
-    const QString mapped = paper.mappedName();
+    QString mapped = paper.mappedName();
     if (!mapped.isNull())
         return mapped;
     // Without keywords the panel is not set up yet: it follows the dialog's paper menu instead.

@@ -14,7 +14,8 @@ IppHandle sendDocumentRequest(const JobRequest &job, int id, const QString &name
     return request;
 }
 
-/// A server that has got a document and fails, or breaks off, may have taken it.
+/// Whether the answer to a document leaves open if the server has taken it: it failed, or broke
+/// off, after it had all bytes.
 bool isLost(const ExchangeEnd &end)
 {
     return end.kind == ExchangeEnd::Kind::HttpStatus ? end.status >= HTTP_STATUS_SERVER_ERROR
@@ -51,10 +52,10 @@ SentDocuments sendDocuments(ServerConnection &connection, const JobRequest &job,
 {
     for (const Document &document : job.documents) {
         const bool isLast = &document == &job.documents.back();
-        const SentDocuments one = sendDocument(
+        SentDocuments one = sendDocument(
             connection, job, document,
             sendDocumentRequest(job, progress.id(), document.name(), isLast), progress);
-        // Without one of the others the job is incomplete, whatever the server made of it.
+        // The documents that follow are missing at the server: it cannot have taken the whole job.
         if (one.sent == Sent::Lost && !isLast)
             return {Sent::Refused, {}};
         if (one.sent != Sent::Accepted)

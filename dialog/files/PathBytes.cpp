@@ -16,7 +16,7 @@ QChar keptByte(char byte)
 
 QString pathOfBytes(const QByteArray &bytes)
 {
-    const QString text = QString::fromUtf8(bytes);
+    QString text = QString::fromUtf8(bytes);
     if (text.toUtf8() == bytes)
         return text;
     QString kept;

@@ -7,7 +7,7 @@ namespace {
 
 constexpr auto kMagic = "\x1f\x8b";
 constexpr int kGzipOnly = 16 + MAX_WBITS; // zlib's way to ask for the format of gzip
-constexpr qsizetype kStep = 256 * 1024;
+constexpr qsizetype kStep = 262'144;      // bytes
 
 /// An inflater of zlib for as long as it is needed.
 class Inflater
