@@ -76,7 +76,7 @@ private:
     int m_count = 0;
 };
 
-// A change that is not painted, or not kept, would not be one.
+// Ends the program when the pick changes nothing, or is not painted: it would measure nothing.
 void checkThatItChanges(QComboBox &box, int from, int to)
 {
     for (const int index : {to, from}) {

@@ -13,9 +13,9 @@ namespace {
 
 constexpr int kRuns = 31;
 
-// The watch costs half a millisecond itself. Cancelled, says the exit status, and that is what
-// happens to it once it is filled. Asked for the second panel, it shows the first one before: what
-// a person gets who looks at both.
+// Runs the dialog with FilledWatch, which costs half a millisecond itself and cancels the dialog
+// once both panels are filled; hence the exit status. With --panel for the second panel the dialog
+// shows the first one before it, as for a person who looks at both.
 Command ourDialog(const DialogStage &stage)
 {
     return {{PROGRAM, "-h", stage.server().toStdString(), "-d", DialogStage::queue().toStdString(),

@@ -72,7 +72,7 @@ void measureWay(Windows &windows, const char *keyword, const char *from, const c
     printRatio("  the same with 2000 choices", many.microseconds, few.microseconds, 1.3);
 }
 
-// There, and in the end back again, so that the next pick starts from the defaults.
+// Measures the pick and the one that leads back, so that the next one starts from the defaults.
 void measurePick(Windows &windows, const Pick &pick, double reach)
 {
     measureWay(windows, pick.keyword, pick.from, pick.to, reach);

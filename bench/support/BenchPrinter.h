@@ -5,9 +5,9 @@
 
 /// The PPD of a printer that has every control of both panels, as text.
 ///
-/// `choices` is how many choices the keywords of the panels have together, 46 at least. What goes
-/// beyond that is spread over the pop-ups, each one's before its ordinary choices: whoever looks a
-/// choice up by walking the list walks all of it.
+/// `choices` is how many choices the keywords of the panels have together, 46 at least. Those
+/// beyond 46 are spread over the pop-ups and stand before the ordinary choices, so that a look-up
+/// that walks along a list is measured at its longest.
 QByteArray benchPrinter(int choices);
 
 inline constexpr int kFewestChoices = 46;

@@ -4,8 +4,8 @@
 
 namespace {
 
-/// After libcups has said that there is no more, which it says of every end: without its last chunk
-/// a body ends with an error, and headers that were cut off leave a length without a body.
+/// Whether the body is complete. libcups reports the same end for a body that was cut off: what it
+/// has read is compared with the announced length, and a chunked body must have had its last chunk.
 bool isWhole(http_t *http, qint64 bytes)
 {
     const bool isOfStatedLength =

@@ -9,7 +9,7 @@
 /// How the body of an answer ended.
 enum class BodyEnd {
     Whole,     ///< where HTTP said that it would end
-    CutShort,  ///< before that; an end that nobody announced is none, either
+    CutShort,  ///< before that, or where HTTP said nothing of the end
     TooLarge,  ///< larger than it may be; the rest was not read
     TooLate,   ///< the guard waits no longer
     NotStored, ///< the device took no more, and says why

@@ -15,7 +15,7 @@ QString text(ipp_attribute_t *attribute)
     return QString::fromUtf8(ippGetString(attribute, 0, nullptr));
 }
 
-/// Takes what the attribute says, where it has the syntax that it should have.
+/// Takes over the attribute's value, unless it has another syntax than the standard gives it.
 void take(ipp_attribute_t *attribute, Destination &destination)
 {
     const QByteArrayView name(ippGetName(attribute));
@@ -48,7 +48,7 @@ QList<Destination> destinationsOf(ipp_t *answer)
     return found;
 }
 
-/// A name that -d and lpoptions can say too.
+/// Whether the name can be given to -d and stand in lpoptions: others cannot be printed to.
 bool isQueueName(const QString &name)
 {
     return !name.isEmpty() && std::ranges::all_of(name, [](QChar one) {

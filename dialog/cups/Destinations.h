@@ -31,7 +31,7 @@ struct DestinationList
 /// them: there is nothing to print to by that name. Blocks: call it in a BackgroundCall.
 DestinationList listDestinations(const QString &server, CallGuard &guard);
 
-/// The queues of an answer that is already here, in order; none of them is marked as default.
+/// The queues that an answer lists, in order; none of them is marked as default.
 QList<Destination> queuesOf(ipp_t *answer);
 
 /// The queue that a server prints to by default; a null queue when it has none.

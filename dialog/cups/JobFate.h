@@ -11,7 +11,7 @@ enum class JobFate {
     Aborted, ///< the server gave it up
 };
 
-/// The same of the server's answer about the job.
+/// The fate that an answer to Get-Job-Attributes tells of.
 JobFate fateOf(ipp_t *job);
 
 /// Asks the server for the job's fate.

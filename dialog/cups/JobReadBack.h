@@ -13,5 +13,5 @@
 QStringList readJobBack(ServerConnection &connection, const QString &queue, int jobId,
                         const QList<JobOption> &sent);
 
-/// The same of an answer that is already here.
+/// The same sentences, for an answer that has been fetched already.
 QStringList differences(ipp_t *job, int jobId, const QList<JobOption> &sent);

@@ -8,7 +8,7 @@ enum class Sent {
     Accepted,
     Refused, ///< the server answered no, or has not got all documents
     Lost,    ///< it has got all of them, and no answer came to the last one
-    Changed, ///< a document has, on its way
+    Changed, ///< a document became shorter or longer while it was sent
 };
 
 struct SentDocuments

@@ -2,10 +2,12 @@
 
 #include "dialog/cups/JobSending.h"
 
-/// Finds out and settles what becomes of a job whose documents were not accepted: it is accepted
-/// after all, or cancelled, or nobody knows. The receipt has the job's number and why it was not
-/// accepted; its answer is made good, or says more. Talks to the server on a new connection, for no
-/// longer than the guard's timeout at a time.
+/// Finds out what becomes of a job whose documents were not accepted, and puts it in order. It
+/// turns out to be accepted after all, or it is cancelled, or its fate stays unknown.
+///
+/// The receipt comes with the job's number and the fault of sending. A job that was accepted after
+/// all leaves no fault in it; otherwise the fault says what has become of the job. Talks to the
+/// server on a new connection, for no longer than the guard's timeout at a time.
 void settle(JobReceipt &receipt, Sent sent, const JobRequest &request, JobProgress &progress,
             CallGuard &guard);
 

@@ -81,7 +81,7 @@ void ServerConnection::endBy(Kind kind, int status)
 void ServerConnection::endByTransport()
 {
     const int error = httpError(m_http.get());
-    if (error == 0 || error == EINVAL) // all is well with the connection, and libcups is at a loss
+    if (error == 0 || error == EINVAL) // no fault of the connection: libcups cannot read the answer
         endBy(Kind::Unreadable);
     else if (error == EPIPE || error == ECONNRESET)
         endBy(Kind::Closed);
@@ -99,7 +99,7 @@ bool ServerConnection::begin(int timeouts)
     }
     m_guard.stampSignOfLife();
     m_guard.limitTime(timeouts);
-    // What can be read before anything was asked is the end of the connection.
+    // A connection that has something to read before a request was sent has been closed.
     const bool isOver = m_isSpent || closesConnection(m_http.get()) || httpWait(m_http.get(), 0);
     if (!isOver || connectAnew())
         return true;
@@ -107,7 +107,8 @@ bool ServerConnection::begin(int timeouts)
     return false;
 }
 
-/// Sends, again where the server makes a demand that can be met, and gives the status of HTTP.
+/// Sends the request and gives the status of HTTP. Where the server demands TLS or credentials, the
+/// demand is met and the request is sent again.
 int ServerConnection::ask(const char *method, const QByteArray &resource,
                           const std::function<int()> &send)
 {
@@ -121,7 +122,7 @@ bool ServerConnection::meets(int demand, const char *method, const QByteArray &r
 {
     if (demand != HTTP_STATUS_UPGRADE_REQUIRED && demand != HTTP_STATUS_UNAUTHORIZED)
         return false;
-    // On a new connection, so that whatever the server goes on to say of the old one is past.
+    // On a new connection: the rest of the answer may still arrive on the old one.
     if (demand == HTTP_STATUS_UNAUTHORIZED &&
         cupsDoAuthentication(m_http.get(), method, resource.constData()) != 0)
         return false;
@@ -156,7 +157,8 @@ int ServerConnection::status()
     return status;
 }
 
-/// The status before the data were sent: to continue, unless the server says otherwise.
+/// The status with which the server answers before it has any data. A silent one is taken for
+/// "continue".
 int ServerConnection::goAhead()
 {
     return httpWait(m_http.get(), kGoAheadWait) ? httpUpdate(m_http.get()) : HTTP_STATUS_CONTINUE;
@@ -206,7 +208,8 @@ bool ServerConnection::upload(const char *data, qint64 size)
     return status == HTTP_STATUS_CONTINUE;
 }
 
-/// The server answers before it has all data: whatever it says, it has not taken them.
+/// Reads an answer that comes before all data were sent. Even one that reports success is a
+/// refusal.
 void ServerConnection::takeRefusal(int status)
 {
     if (readAnswer(status) && succeeded())
@@ -245,7 +248,7 @@ bool ServerConnection::download(const QByteArray &resource, QFile &file, qint64 
     return isFetched;
 }
 
-/// Whether the status is followed by what was asked for.
+/// Whether the status of HTTP is 200; notes the fault otherwise.
 bool ServerConnection::isOk(int status)
 {
     if (status == HTTP_STATUS_ERROR || status == HTTP_STATUS_CONTINUE)

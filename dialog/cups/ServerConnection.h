@@ -48,8 +48,9 @@ public:
     IppHandle request(IppHandle request, const QByteArray &resource,
                       int timeouts = kTimeoutsPerExchange);
 
-    /// The same of a request that data follow: first the request, then the data in any number of
-    /// parts, then the answer. After a false one, nothing more of it is to be sent.
+    /// The same for a request that is followed by data. The order of calls: beginUpload() sends the
+    /// request, upload() the next part of the data, any number of times, and endUpload() gives the
+    /// answer. False: the server takes no more, and the upload is over.
     bool beginUpload(const IppHandle &request, const QByteArray &resource);
     bool upload(const char *data, qint64 size);
     IppHandle endUpload();
@@ -57,14 +58,15 @@ public:
     /// Fetches what stands at the resource into the open file. True when it is all there.
     bool download(const QByteArray &resource, QFile &file, qint64 largest);
 
-    /// How the last one of the above ended.
+    /// How the last exchange ended.
     const ExchangeEnd &lastEnd() const { return m_end; }
 
-    /// Whether it ended with an answer that says yes.
+    /// Whether the last exchange ended with an answer that reports success.
     bool succeeded() const;
 
-    /// What the last one came to when it failed, or when it said yes and yet not what was asked.
-    /// `queue` is for the sentence, null where none was asked for.
+    /// The fault of the last exchange and its sentence. Where the answer reported success and yet
+    /// did not hold what was asked for, that is the fault. `queue` is the queue that the sentence
+    /// names; null where the request was about none.
     ServerAnswer lastAnswer(const QString &queue = QString()) const;
 
 private:
@@ -86,11 +88,11 @@ private:
     QString m_name;
     SocketWatch m_watch;
     std::unique_ptr<http_t, HttpCloser> m_http;
-    bool m_isSpent = false; ///< nothing sensible can follow on the connection as it is
+    bool m_isSpent = false; ///< an exchange was left in the middle: the next one connects anew
     ExchangeEnd m_end;
 };
 
-/// The user as a server is told of him.
+/// The user's name as servers are told it.
 QByteArray requestingUser();
 
 /// A request about the queue, with the attributes that every request begins with.

@@ -17,7 +17,7 @@ namespace {
 
 using Kind = ExchangeEnd::Kind;
 
-/// A sentence about the server %1.
+/// A fault and its sentence, in which %1 is the server.
 struct Said
 {
     ServerFault fault;
@@ -30,7 +30,7 @@ struct KindRow
     Said said;
 };
 
-// %2: more about the end.
+// %2: the text that goes with the end, such as the system's word for errno.
 constexpr std::array kKinds{
     KindRow{Kind::NotConnected,
             {ServerFault::Unreachable,
@@ -65,12 +65,12 @@ constexpr std::array kKinds{
              QT_TRANSLATE_NOOP("Server", "The print server %1 takes too long to answer.")}},
 };
 
-/// The first row counts that holds the status.
+/// Statuses with the same meaning. The first row that holds a status counts.
 struct StatusRow
 {
     int first;
     int last;
-    Said said; ///< %2: more about the end
+    Said said; ///< %2: the server's own words, or the status
 };
 
 struct QueueRow

@@ -9,14 +9,14 @@ struct ExchangeEnd
 {
     enum class Kind {
         Answered,     ///< in IPP: `status` and `text` are the server's own
-        NotConnected, ///< nobody is there
-        Broken,       ///< the connection: `status` is errno
-        Closed,       ///< the connection, by the server and before it answered
-        CutShort,     ///< in the middle of an answer
-        HttpStatus,   ///< no answer but `status`
+        NotConnected, ///< nobody answers at the server's address
+        Broken,       ///< the connection failed: `status` is errno
+        Closed,       ///< the server closed the connection before it answered
+        CutShort,     ///< the connection ended in the middle of an answer
+        HttpStatus,   ///< with a status of HTTP alone, which is `status`
         Unreadable,   ///< an answer that is not IPP, or not what was asked for
         TooLarge,
-        NotStored, ///< by us: `text` says why the file for the answer cannot take it
+        NotStored, ///< the file for the answer took no more: `text` says why
         Silent,
         TooSlow,
         Cancelled,
@@ -25,11 +25,11 @@ struct ExchangeEnd
     Kind kind = Kind::Answered;
     int status = 0;
     QString text;
-    bool isAboutJob = false; ///< what is missing then is the job, and not its queue
+    bool isAboutJob = false; ///< "not found" means the job, and not its queue
 };
 
-/// The end, which is no success, as people are told of it. `queue` is null where none was asked
-/// for.
+/// The fault and the sentence for people of an exchange that did not succeed. `queue` is null where
+/// the request was about none.
 ServerAnswer answerOf(const ExchangeEnd &end, const QString &server, const QString &queue);
 
 /// A server's own words as they are shown: one line of a sane length.

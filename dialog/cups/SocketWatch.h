@@ -31,6 +31,7 @@ private:
     std::mutex m_mutex; // guards what follows
     std::condition_variable m_ended;
     bool m_ends = false;
-    int m_socket = -1; // our own number for it, which nobody else closes and gives to another file
+    int m_socket =
+        -1; // a duplicate: libcups may close its own, whose number another file then gets
     std::thread m_thread;
 };

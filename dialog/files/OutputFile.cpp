@@ -172,7 +172,8 @@ bool OutputFile::take(int descriptor)
     return m_file.isOpen() || failForErrno();
 }
 
-/// Whether a stream takes as much as it always takes at once; so nothing waits in write().
+/// Waits until the stream has room for PIPE_BUF bytes, which write() then hands over without
+/// waiting. False when whoever may end the waiting does.
 bool OutputFile::waitForRoom()
 {
     pollfd waited{m_file.get(), POLLOUT, 0};

@@ -19,7 +19,7 @@
 /// The first line, without its line break.
 constexpr auto kJobFileFirstLine = "Velkaro-Print-Job: 1";
 
-// What no job of this program comes near; a header at all limits is 900 KB.
+// Far above what a job of this program has; a header that reaches all of them has 900 KB.
 constexpr qsizetype kMostJobFileDocuments = 1000;
 constexpr qsizetype kMostJobFileOptions = 1000;
 constexpr qint64 kLongestJobFileHeader = 1'048'576; // bytes, the empty line among them

@@ -13,7 +13,7 @@ namespace {
 
 using enum JobFileFlaw;
 
-// Whoever looks an option up in a job disregards case.
+// Servers and filters look options up without regard to case, so two spellings are one option.
 bool hasOption(const QList<JobOption> &options, const QString &name)
 {
     return std::ranges::any_of(options, [&](const JobOption &option) {
@@ -79,7 +79,7 @@ JobFileFlaw takeLine(JobFileHeader &header, QByteArrayView line)
     return field->take(header, QString::fromUtf8(bytes.mid(colon + 2)));
 }
 
-/// Whether the documents fill what the header leaves of the file.
+/// The flaw when the documents' lengths and the rest of the file, after the header, are not equal.
 JobFileFlaw flawOfLengths(const JobFileHeader &header, qint64 fileSize)
 {
     if (header.documents.isEmpty())

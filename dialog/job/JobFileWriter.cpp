@@ -27,7 +27,7 @@ QByteArray header(const JobRequest &job)
     return lines + '\n';
 }
 
-/// A job on its way into the file, as far as the user wants that.
+/// Writes a job into the file, until all of it is there or the user cancels.
 struct Writing
 {
     OutputFile &file;

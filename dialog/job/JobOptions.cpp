@@ -33,7 +33,7 @@ bool isValueCharacter(uint character)
     return QChar::isPrint(character) && !breaksLine;
 }
 
-// Half of a surrogate pair would leave as a question mark.
+// Half of a surrogate pair has no UTF-8: the server would get a question mark.
 bool isValue(const QString &value)
 {
     return !value.isEmpty() && value.isValidUtf16() &&

@@ -34,7 +34,7 @@ OptionOrigin originOf(const QString &option)
     if (isNever)
         return OptionOrigin::Never;
     const bool isSetting = std::ranges::find(kSettings, option) != kSettings.end();
-    // Whatever else is written is a keyword of a PPD or a vendor's key.
+    // A name that is neither reserved nor the platform's is a keyword of a PPD or a vendor's key.
     const bool isForeign =
         isReservedName(option) || option.startsWith(kPlatformKeys, Qt::CaseInsensitive);
     return isSetting || !isForeign ? OptionOrigin::Ours : OptionOrigin::Foreign;

@@ -10,7 +10,8 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-// What libcups turns into choices of the PPD: sending it beside them could contradict a later pick.
+// libcups turns these into choices of the PPD. They are not sent beside them as well: the user may
+// pick another choice later.
 constexpr std::array kMappedByCups{"media"_L1,           "PageSize"_L1,   "PageRegion"_L1,
                                    "sides"_L1,           "output-bin"_L1, "print-quality"_L1,
                                    "print-color-mode"_L1};

@@ -10,8 +10,9 @@
 
 using namespace Qt::StringLiterals;
 
-// The panel has connected its actions before: what is noted here has been done already. So what was
-// picked is taken from the signal; the control may show something else by now (the host refused).
+// The panel connected its actions first, so it has acted on a pick by the time it is noted here.
+// What was picked is taken from the signal: the control may show another choice again (the host
+// refused).
 
 namespace {
 

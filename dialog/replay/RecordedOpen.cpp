@@ -89,8 +89,9 @@ bool Recorder::attach(HostSession &session, QString *error)
     return true;
 }
 
-/// Answers the copy's name, as the script has it; null when there is none. A file of another
-/// content keeps its name, and one of the same content will do.
+/// Copies the PPD beside the script, and gives the copy's name as the script has it; null, with
+/// `error`, when that fails. A file that is there already is used when it has the same content, and
+/// left alone otherwise.
 QString Recorder::copyPPD(QString *error)
 {
     QFile original(m_session->options().ppdPath);

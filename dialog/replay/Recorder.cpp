@@ -107,7 +107,7 @@ void Recorder::didShow(const HostPanel &panel)
 
 void Recorder::didPerform(PanelOperation operation, const HostPanel &panel)
 {
-    // In the order of PanelOperation.
+    // The scripts' words, in the order of PanelOperation.
     static constexpr const char *kinds[] = {"hide", "restore", "save", "summary", "help"};
     note(kinds[static_cast<std::size_t>(operation)], {{u"panel"_s, panel.name}});
 }
@@ -144,8 +144,8 @@ void Recorder::didResizeWindow()
     deferSurroundings();
 }
 
-// A window that grows because a section unfolds does so in the midst of that event, which is noted
-// at its end: what happened to the window is noted after it.
+// Events are noted when they end. A window that changes in the midst of one, as when a section
+// unfolds, is therefore noted from the event loop: after the event that changed it.
 void Recorder::deferSurroundings()
 {
     if (std::exchange(m_deferred, true))

@@ -8,7 +8,7 @@ using namespace Qt::StringLiterals;
 
 bool isPlainName(const QString &name)
 {
-    // A half of a surrogate pair stands for a byte in a path, which could be any.
+    // Half of a surrogate pair would become a byte of the path (pathOfBytes()), perhaps a slash.
     return !name.isEmpty() && name.isValidUtf16() && !name.startsWith(u'.') &&
            !name.contains(u'/') && !name.contains(QChar::Null);
 }

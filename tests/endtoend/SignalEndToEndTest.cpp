@@ -26,8 +26,7 @@ void send(int signal, const QProcess &program)
     ASSERT_EQ(kill(static_cast<pid_t>(program.processId()), signal), 0);
 }
 
-// --- A real server
-// ---------------------------------------------------------------------------------------------
+// --- A real server -------------------------------------------------------------------------------
 
 class Signal : public PrintServerFixture, public testing::WithParamInterface<int>
 {
@@ -107,8 +106,7 @@ TEST_F(Piped, ADocumentWhoseNameIsNoUtf8IsPrinted)
     QProcess::execute(u"sh"_s, {u"-c"_s, u"rm \"$1\"/Gr*"_s, u"sh"_s, QFileInfo(link).path()});
 }
 
-// --- A server that holds its answers
-// ---------------------------------------------------------------------------------------------
+// --- A server that holds its answers -------------------------------------------------------------
 
 /// When the signal comes, and what the program makes of it.
 struct Moment

@@ -58,8 +58,7 @@ QJsonObject pickIn(Random &random, const ShownControl &control)
     return all.isEmpty() ? QJsonObject() : pickOf(control, random.pick(all));
 }
 
-// --- What can be done
-// --------------------------------------------------------------------------------------
+// --- What can be done ----------------------------------------------------------------------------
 
 QJsonObject show(Random &random, const EventContext &context)
 {
@@ -230,8 +229,7 @@ QJsonObject close(Random &, const EventContext &)
     return {{u"do"_s, u"close"_s}};
 }
 
-// --- What cannot
-// --------------------------------------------------------------------------------------
+// --- What cannot ---------------------------------------------------------------------------------
 
 QJsonObject pickBlocked(Random &random, const EventContext &context)
 {

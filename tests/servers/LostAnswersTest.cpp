@@ -201,8 +201,7 @@ TEST_F(LostAnswer, ToOneOfSeveralDocumentsLeavesAJobThatIsCancelled)
               (QStringList{u"Create-Job"_s, u"Send-Document"_s, u"Cancel-Job"_s}));
 }
 
-// --- Cancelling, at any time
-// ---------------------------------------------------------------------------------------------
+// --- Cancelling, at any time ---------------------------------------------------------------------
 
 /// When the user cancels, and what becomes of the job.
 struct Cancelling
@@ -266,8 +265,7 @@ TEST_F(LostAnswer, OfAJobThatWasCancelledBeforeItsCreationIsNone)
     EXPECT_EQ(server.requests(), QStringList());
 }
 
-// --- Documents that change on the way
-// ---------------------------------------------------------------------------------------------
+// --- Documents that change on the way ------------------------------------------------------------
 
 class JobWhoseDocumentBecomes : public LostAnswer, public testing::WithParamInterface<qint64>
 {};

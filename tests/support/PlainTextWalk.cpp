@@ -78,9 +78,9 @@ void PlainTextWalk::lookAt(QWidget &widget)
         for (int row = 0; row < list->model()->rowCount(); ++row)
             judge(widget, "row", shownOf(*list->model(), row));
     judge(widget, "window title", widget.windowTitle());
-    if (QAccessibleInterface *spoken = QAccessible::queryAccessibleInterface(&widget)) {
-        judge(widget, "spoken name", spoken->text(QAccessible::Name));
-        judge(widget, "spoken description", spoken->text(QAccessible::Description));
+    if (QAccessibleInterface *accessible = QAccessible::queryAccessibleInterface(&widget)) {
+        judge(widget, "accessible name", accessible->text(QAccessible::Name));
+        judge(widget, "accessible description", accessible->text(QAccessible::Description));
     }
 }
 

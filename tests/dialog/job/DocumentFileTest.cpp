@@ -144,8 +144,7 @@ TEST(DocumentFile, ThatIsMissingIsNamedInPlainText)
               u"The document /nowhere/\ufffd .ps does not exist."_s);
 }
 
-// --- Files that are open already
-// ---------------------------------------------------------------------------------------------
+// --- Files that are open already -----------------------------------------------------------------
 
 /// Standard input is the descriptor, for as long as the object lives.
 class StandardInput

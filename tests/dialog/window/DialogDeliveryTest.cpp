@@ -106,8 +106,7 @@ TEST_F(Delivery, ThatIsCancelledKeepsTheFormerFile)
     EXPECT_EQ(QDir(m_folder.path()).entryList(QDir::Files).size(), 2) << "job and document alone";
 }
 
-// --- A signal
-// ---------------------------------------------------------------------------------------------
+// --- A signal ------------------------------------------------------------------------------------
 
 TEST_F(Delivery, EndsWithTheDialogWhenASignalComes)
 {
@@ -148,8 +147,7 @@ TEST_F(Delivery, IsNoneWhenASignalComesBeforePrint)
     EXPECT_EQ(m_window->exitStatus(), ExitStatus::Cancelled);
 }
 
-// --- Documents that are pipes
-// ---------------------------------------------------------------------------------------------
+// --- Documents that are pipes --------------------------------------------------------------------
 
 class PipedDocument : public DialogWindowFixture
 {

@@ -161,7 +161,7 @@ TEST_P(ForeignText, IsPlainInTheNoticeOfAConflict)
     EXPECT_TRUE(notice().contains(u"<img src="_s + opened())) << notice().toStdString();
     look();
     EXPECT_TRUE(m_walk.seen().contains(u"QLabel noticeLabel"_s));
-    EXPECT_TRUE(m_walk.seen().contains(u"NoticeBar noticeBar"_s)) << "its spoken name";
+    EXPECT_TRUE(m_walk.seen().contains(u"NoticeBar noticeBar"_s)) << "its accessible name";
 }
 
 TEST_P(ForeignText, IsPlainInAlerts)

@@ -9,14 +9,14 @@ using namespace Qt::StringLiterals;
 namespace {
 
 /// What a screen reader calls the control: not what a pop-up has chosen, but what for.
-QString spokenName(QWidget *control)
+QString accessibleNameOf(QWidget *control)
 {
-    QAccessibleInterface *spoken = QAccessible::queryAccessibleInterface(control);
-    const auto labels = spoken->relations(QAccessible::Label);
+    QAccessibleInterface *accessible = QAccessible::queryAccessibleInterface(control);
+    const auto labels = accessible->relations(QAccessible::Label);
     if (!labels.isEmpty())
         return labels[0].first->text(QAccessible::Name);
-    const bool isPopUp = spoken->role() == QAccessible::ComboBox;
-    return spoken->text(isPopUp ? QAccessible::Description : QAccessible::Name);
+    const bool isPopUp = accessible->role() == QAccessible::ComboBox;
+    return accessible->text(isPopUp ? QAccessible::Description : QAccessible::Name);
 }
 
 /// The dialog, used with the keyboard alone.
@@ -40,7 +40,7 @@ protected:
         auto *first = part<QWidget>("chooseButton");
         first->setFocus();
         do {
-            names += spokenName(QApplication::focusWidget());
+            names += accessibleNameOf(QApplication::focusWidget());
             QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
         } while (QApplication::focusWidget() != first && names.size() < 50);
         return names;
