@@ -58,7 +58,7 @@ bool Recorder::open(const QString &path, const OutputTerms &terms, QString *erro
 
 QString Recorder::finish()
 {
-    const QString fault = m_script.finish();
+    QString fault = m_script.finish();
     if (!fault.isNull())
         return fault;
     for (const auto &copy : m_copies)

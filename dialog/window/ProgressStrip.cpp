@@ -2,7 +2,10 @@
 
 #include "platform/toolkit/AccessibleName.h"
 
+#include <QtCore/QTimerEvent>
+
 #include <algorithm>
+#include <chrono>
 
 namespace {
 
