@@ -99,7 +99,7 @@ bool AlertWindows::isSuppressed() const
 
 void showAlertPicture(ImageView *view, const QString &name, const QString &path)
 {
-    const QImage image = view ? imaging::readPicture(path) : QImage();
+    const QImage image = view ? readPicture(path) : QImage();
     if (image.isNull())
         return;
     view->setImage(image, kAlertImageSize);
