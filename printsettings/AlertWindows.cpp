@@ -45,7 +45,7 @@ void setTitle(QAbstractButton *button, const QString &title)
 
 void AlertWindows::load(const QString &path, const Action &ok, const Action &cancel)
 {
-    if (m_view)
+    if (isLoaded())
         return;
     ViewConnections connections;
     connections.outlet(u"envAlertWindow"_s, envAlertWindow);
