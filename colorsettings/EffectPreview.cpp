@@ -137,8 +137,8 @@ void VKInkColorSettingPDE::drawEffect(const std::shared_ptr<const CIImage> &resu
 {
     if (!effectImageView)
         return;
-    // The view gives its picture back to be drawn over: a new one a render would cost more than the
-    // render.
+    // Drawn over the picture that the view has shown: allocating a new one costs more than drawing
+    // it.
     QImage picture = effectImageView->takeImage();
     m_context.drawImage(result, picture);
     effectImageView->setImage(picture);

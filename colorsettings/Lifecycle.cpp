@@ -40,7 +40,7 @@ void VKInkColorSettingPDE::observeNotifications()
     center.addObserver(
         this, [this](const Notification &notification) { printSettingsNotified(notification); },
         kPrintSettingNotification, host);
-    // The panel itself takes the colour mode of the ticket from this.
+    // This panel itself receives it, and reads the colour mode from the ticket.
     center.post(kPrintSettingNotification, host);
     center.addObserver(
         this, [this](const Notification &notification) { checkPageSizeChange(notification); },

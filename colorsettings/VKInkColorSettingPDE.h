@@ -135,6 +135,7 @@ private:
     void connectOutlets(ViewConnections &connections);
     void observeNotifications();
 
+    void fitMatrix();
     void titleSection();
     void titleEffects();
     void nameControls();

@@ -8,9 +8,12 @@
 #include "platform/toolkit/NumberField.h"
 #include "platform/toolkit/PlainLabel.h"
 #include "platform/toolkit/PlainText.h"
+#include "platform/toolkit/RadioMatrix.h"
 
 #include <QtWidgets/QAbstractButton>
 #include <QtWidgets/QLabel>
+
+#include <algorithm>
 
 using namespace Qt::StringLiterals;
 
@@ -20,6 +23,7 @@ namespace {
 // the view resource.
 constexpr int kFoldedHeight = 110;
 constexpr double kSectionHeight = 202.0;
+constexpr int kLeastRowHeight = 17; // of the radio matrix: closer circles would touch
 
 } // namespace
 
@@ -51,6 +55,7 @@ void VKInkColorSettingPDE::initializePopup()
     // A label must not stand there without its control.
     if (QWidget *label = determineLabel(u"VKColorMatching"_s))
         label->setVisible(managesKeyword(u"VKColorMatching"_s));
+    fitMatrix();
     titleSection();
     if (QWidget *view = inspectedView())
         view->setFixedSize(view->width(), kFoldedHeight);
@@ -59,6 +64,22 @@ void VKInkColorSettingPDE::initializePopup()
     restoreOptionState();
     for (const QString &keyword : std::as_const(PPDEffectKeys))
         setContent(keyword, ticketInteger(outputBin().value(keyword)));
+}
+
+// More rows than the view resource has room for take what is left above the section's title, which
+// gives way to the bottom of the folded panel.
+void VKInkColorSettingPDE::fitMatrix()
+{
+    auto *matrix = qobject_cast<RadioMatrix *>(determineUI(u"VKColorMatching"_s));
+    const int needed = matrix ? matrix->numberOfRows() * kLeastRowHeight : 0;
+    if (!matrix || !optionLabel || needed <= matrix->height())
+        return;
+    const int bottom = std::min(needed, kFoldedHeight - optionLabel->height());
+    const int top = std::clamp(bottom - needed, 0, matrix->y());
+    adjustUIPosition(std::min(optionLabel->y() - bottom, 0), {optionButton, optionLabel});
+    matrix->setGeometry(matrix->x(), top, matrix->width(), bottom - top);
+    if (QWidget *label = determineLabel(u"VKColorMatching"_s))
+        label->setGeometry(label->x(), top, label->width(), kLeastRowHeight);
 }
 
 void VKInkColorSettingPDE::titleSection()

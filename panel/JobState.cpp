@@ -1,5 +1,6 @@
 #include "panel/VKPrintQualityPDE.h"
 
+#include "panel/PPDWords.h"
 #include "panel/TicketValue.h"
 #include "platform/ppd/PPDText.h"
 #include "platform/printmanager/PMPrintSettings.h"
@@ -19,12 +20,12 @@ bool isColorPanel(const QString &panelName)
 
 void VKPrintQualityPDE::checkFax()
 {
-    setFlag(FaxOutput, markedChoice(ppd, u"VKOutput"_s) == "FAX"_L1);
+    setFlag(FaxOutput, markedChoice(ppd, kOutputKeyword) == kFaxChoice);
 }
 
 void VKPrintQualityPDE::checkColorSync()
 {
-    if (!ppd || !ppdFindAttr(ppd, "APSupportsCustomColorMatching", nullptr)) {
+    if (!ppd || !ppdFindAttr(ppd, kCustomMatchingAttribute, nullptr)) {
         setFlag(VendorColorMatching, false);
         return;
     }

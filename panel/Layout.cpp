@@ -63,13 +63,15 @@ void VKPrintQualityPDE::changeImage(const QString &imageName, ImageView *view)
     QString path = pluginBundle ? pluginBundle->pathForResource(imageName, u"tiff"_s) : QString();
     if (path.isNull() && pluginBundle)
         path = pluginBundle->pathForResource(imageName, u"pdf"_s);
-    if (path.isNull()) {
+    // A file that the toolkit cannot read counts as missing: without a plug-in it reads no PDF.
+    const QImage image = path.isNull() ? QImage() : QImage(path);
+    if (image.isNull()) {
         if (!view->image().isNull())
             view->setImageName(u"None"_s);
         view->setVisible(false);
         return;
     }
-    view->setImage(QImage(path));
+    view->setImage(image);
     view->setImageName(imageName);
     view->setVisible(true);
 }

@@ -156,8 +156,8 @@ void VKPrintQualityPDE::checkUIConstraints()
         effectContent->setValue(u"VKOutput"_s, enabled);
     const ControlColor color = enabled ? controlTextColor() : disabledControlTextColor();
     for (const QString &keyword : managedKeywords()) {
-        // What the view binds has just followed "VKOutput", and other keys beside it: set here, it
-        // would change back and forth at every pick.
+        // Where the view binds the enabled state, the control has followed "VKOutput" and its other
+        // keys already. Enabled here as well, it would flicker at every pick.
         QWidget *control = determineUI(keyword);
         if (control && !(m_view && m_view->bindsEnabled(control)))
             control->setEnabled(enabled);

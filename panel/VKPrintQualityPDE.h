@@ -117,7 +117,7 @@ public:
     virtual void updateUIforKey(const QString &keyword);
 
     /// Shows the picture resource of this name ("tiff", else "pdf") in the view; hides the view
-    /// when there is none. Nothing is loaded when the view shows it already.
+    /// when there is none that can be read. Nothing is loaded when the view shows it already.
     void changeImage(const QString &imageName, ImageView *view);
 
     /// Gives the panel's view another size (points) and tells the dialog: at once when its window

@@ -1,14 +1,15 @@
 #pragma once
 
+#include "platform/pde/PDEPPDCheck.h"
 #include "platform/pde/PDEPlugIn.h"
 
 /// The principal class of the plug-in: it hands out the panels of a print dialog. It keeps neither
 /// the bundle that it is given (the panels find theirs by themselves) nor the panels that it makes.
-class VKInkQuality14PDEPlugIn : public QObject, public PDEPlugIn
+class VKInkQuality14PDEPlugIn : public QObject, public PDEPlugIn, public PDEPPDCheck
 {
     Q_OBJECT
     Q_PLUGIN_METADATA(IID PDEPlugIn_iid)
-    Q_INTERFACES(PDEPlugIn)
+    Q_INTERFACES(PDEPlugIn PDEPPDCheck)
 
 public:
     bool initWithBundle(Bundle *bundle) override;
@@ -18,4 +19,7 @@ public:
     std::vector<std::unique_ptr<PDEPanel>>
     PDEPanelsForType(const QString &type,
                      const std::shared_ptr<PDEPluginCallback> &callback) override;
+
+    /// What both panels find, in the bundle's words.
+    QStringList findingsInPPD(ppd_file_t *ppd) override;
 };

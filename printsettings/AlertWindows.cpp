@@ -45,7 +45,7 @@ void setTitle(QAbstractButton *button, const QString &title)
 
 void AlertWindows::load(const QString &path, const Action &ok, const Action &cancel)
 {
-    if (m_view)
+    if (isLoaded())
         return;
     ViewConnections connections;
     connections.outlet(u"envAlertWindow"_s, envAlertWindow);
@@ -99,7 +99,7 @@ bool AlertWindows::isSuppressed() const
 
 void showAlertPicture(ImageView *view, const QString &name, const QString &path)
 {
-    const QImage image = view ? imaging::readPicture(path) : QImage();
+    const QImage image = view ? readPicture(path) : QImage();
     if (image.isNull())
         return;
     view->setImage(image, kAlertImageSize);

@@ -4,6 +4,7 @@
 #include "platform/toolkit/ViewLoader.h"
 
 #include <QtCore/QHash>
+#include <QtCore/QPointer>
 #include <QtCore/QString>
 
 #include <memory>
@@ -34,10 +35,11 @@ class AlertWindows
 public:
     using Action = ViewConnections::Action;
 
-    /// Loads the windows once; `ok` and `cancel` are what their buttons do.
+    /// Loads the windows, unless they are; `ok` and `cancel` are what their buttons do.
     void load(const QString &path, const Action &ok, const Action &cancel);
 
-    bool isLoaded() const { return m_view != nullptr; }
+    /// False again when the windows have gone with the dialog that they stood before.
+    bool isLoaded() const { return !envAlertWindow.isNull(); }
     /// By name; none until the windows are loaded.
     QHash<QString, QWidget *> outlets() const;
 
@@ -54,17 +56,17 @@ public:
 
 private:
     std::unique_ptr<LoadedView> m_view;
-    QWidget *envAlertWindow = nullptr;
-    ImageView *envAlertImageView = nullptr;
-    QLabel *envInstructionLabel1 = nullptr;
-    QLabel *envInstructionLabel2 = nullptr;
-    QPushButton *envAlertOKButton = nullptr;
-    QPushButton *envAlertCancelButton = nullptr;
-    QPushButton *normalPaperAlertOKButton = nullptr;
-    QPushButton *normalPaperAlertCancelButton = nullptr;
-    QPushButton *customPaperAlertOKButton = nullptr;
-    QPushButton *customPaperAlertCancelButton = nullptr;
-    QCheckBox *suppressionButton = nullptr;
+    QPointer<QWidget> envAlertWindow;
+    QPointer<ImageView> envAlertImageView;
+    QPointer<QLabel> envInstructionLabel1;
+    QPointer<QLabel> envInstructionLabel2;
+    QPointer<QPushButton> envAlertOKButton;
+    QPointer<QPushButton> envAlertCancelButton;
+    QPointer<QPushButton> normalPaperAlertOKButton;
+    QPointer<QPushButton> normalPaperAlertCancelButton;
+    QPointer<QPushButton> customPaperAlertOKButton;
+    QPointer<QPushButton> customPaperAlertCancelButton;
+    QPointer<QCheckBox> suppressionButton;
 };
 
 /// Shows the picture at the size that alerts have; the view keeps its own where there is none.

@@ -2,6 +2,7 @@
 
 #include "platform/foundation/Bundle.h"
 #include "platform/ppd/PPDText.h"
+#include "platform/toolkit/KeyWindowChild.h"
 #include "platform/toolkit/ModalSession.h"
 
 using namespace Qt::StringLiterals;
@@ -71,11 +72,11 @@ QString VKInkPrintSetting14PDE::picturePath(const QString &name) const
 
 int VKInkPrintSetting14PDE::showDialog(QWidget *window, const QString &alertKey)
 {
+    loadAlertWindows(); // whichever window this is, the suppression box is one of theirs
+    const KeyWindowChild inFront(window);
     const int result = runModalForWindow(window);
     if (result == kModalOK)
         alertDidEnd({0, m_alertWindows.isSuppressed()}, result, alertKey);
-    if (window)
-        window->hide();
     return result;
 }
 

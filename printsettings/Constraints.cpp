@@ -63,7 +63,7 @@ void VKInkPrintSetting14PDE::constrainBiDir()
         setAndMarkValue(u"OFF"_s, keyword);
         return;
     }
-    // Told again: a paper change records the value without offering it.
+    // Offered again: a paper change records the value without offering it.
     const QString pending = pendingValue(keyword);
     if (!pending.isNull())
         pdePluginCallbackObject->willChangePPDOptionKeyValue(keyword, pending);

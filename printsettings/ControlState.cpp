@@ -61,8 +61,8 @@ void VKInkPrintSetting14PDE::changeState(PopUpButton *popup, const QStringList &
         if (isSelectedItemEnabled(*popup))
             return;
     }
-    // Wanted, the default takes the place of a valid selection too, and is selected even where it
-    // is disabled itself: no other item is looked for.
+    // With applyDefault the default replaces a valid selection too. It is selected even where it is
+    // disabled itself: no other item is looked for.
     selectDefaultItem(*popup);
 }
 

@@ -3,6 +3,7 @@
 #include "platform/foundation/NotificationCenter.h"
 #include "platform/ppd/PPDText.h"
 #include "platform/toolkit/PopUpButton.h"
+#include "printsettings/rules/ColorModes.h"
 #include "printsettings/rules/DefaultChoices.h"
 #include "printsettings/rules/MediaQuality.h"
 #include "printsettings/rules/MediumEffects.h"
@@ -22,8 +23,8 @@ void setTicked(QCheckBox *box, bool ticked)
         box->setChecked(ticked);
 }
 
-// By its title, alone of all items: a printer may name the second tray's choice otherwise and give
-// it the same text.
+// Found by its title, unlike every other item: a printer may have another choice with the text of
+// the second tray.
 void enableTray2(PopUpButton *paperFeed, ppd_file_t *ppd, bool enabled)
 {
     const ppd_choice_t *tray2 = findChoice(findOption(ppd, u"VKInputSlot"_s), u"Tray2"_s);
@@ -69,7 +70,7 @@ void VKInkPrintSetting14PDE::restoreDefault(const QString &keyword)
     facts.keyword = keyword;
     facts.pending = pendingValue(keyword);
     facts.defaultChoice = ppdName(option->defchoice);
-    // Most are, and looking for the mark costs more than all the rest.
+    // Most choices are, and looking the mark up costs more than everything else here.
     if (isDefaultPending(facts.pending, facts.defaultChoice))
         return;
     facts.marked = markedChoice(ppd, keyword);
@@ -90,7 +91,7 @@ void VKInkPrintSetting14PDE::applyDefault(const QString &keyword, const KeywordD
 
 void VKInkPrintSetting14PDE::canSelectColorMode()
 {
-    setFlag(MonoColorMode, pendingValue(u"VKMonoColor"_s) == "Mono"_L1);
+    setFlag(MonoColorMode, isMonoMode(pendingValue(u"VKMonoColor"_s)));
     NotificationCenter::defaultCenter().post(kPrintSettingNotification,
                                              pdePluginCallbackObject.get(),
                                              QVariantMap{
@@ -106,14 +107,15 @@ void VKInkPrintSetting14PDE::canSelectJpegPrint()
 
 void VKInkPrintSetting14PDE::checkUIStateWithMediaType(bool applyDefaults)
 {
-    // Held for all the steps: the qualities may replace the pending medium meanwhile.
+    // All steps are about the medium that is shown now: allowedQuality() may replace the pending
+    // one on the way.
     const QString mediaType = selectedMediaType();
     const MediumEffects effects = mediumEffects(mediaType);
     applySlowDrying(effects, applyDefaults);
     applyQualities(mediaType, applyDefaults);
     if (applyDefaults)
         setTicked(biDirButton, effects.bothDirections);
-    // Both are told, in this order: the other panel's choices offered to the dialog depend on both.
+    // Both are posted, in this order: the Color Settings panel offers the dialog a choice for each.
     postNaturalColorMatching(effects.naturalAtFirst, applyDefaults);
     postNaturalColorMatching(effects.natural, applyDefaults);
     setFlag(TransparenciesMedium, effects.transparencies);

@@ -19,7 +19,8 @@ bool VKInkPrintSetting14PDE::readPageSetup()
     if (name.isNull() || (!paperName.isNull() && paperName == name))
         return false;
     trackDisc(name);
-    // By the envelope bit of the paper before: a custom paper inherits its thickness.
+    // The bit EnvelopePaper is still that of the paper before: a custom paper inherits its
+    // thickness.
     applyPaperThickness();
     setFlag(BorderlessPaper, isBorderlessPaper(name));
     setFlag(EnvelopePaper, countsAsEnvelope(name, pendingValue(u"VKColorPaperThick"_s)));

@@ -21,6 +21,13 @@ bool writeOrientation(PMPrintSettings *ticket, const QString &orientation)
     return PMPrintSettingsSetValue(ticket, kOrientation, orientation, false) == noErr;
 }
 
+// The message as a format without arguments, in which a percent sign is written twice.
+AlertContent withMessageAsFormat(AlertContent alert)
+{
+    alert.informative.replace("%%"_L1, "%"_L1);
+    return alert;
+}
+
 } // namespace
 
 bool VKInkPrintSetting14PDE::checkCustomPaperSizeAlert()
@@ -29,7 +36,7 @@ bool VKInkPrintSetting14PDE::checkCustomPaperSizeAlert()
         return true;
     const JobPaper paper = jobPaper();
     const std::optional<QSizeF> size = paper.size();
-    return size && (paper.isWithinLimits(*size) || refuseUnsupportedPaper());
+    return size && (paper.isWithinLimits(*size) || refuseUnsupportedPaper(unsupportedPaperAlert()));
 }
 
 bool VKInkPrintSetting14PDE::checkShouldShowDiscAlert()
@@ -68,7 +75,7 @@ bool VKInkPrintSetting14PDE::checkPaperAndShowOrientationAlert()
     case OrientationCheck::Portrait:
         return true;
     case OrientationCheck::Refuse:
-        return refuseUnsupportedPaper();
+        return refuseUnsupportedPaper(withMessageAsFormat(unsupportedPaperAlert()));
     case OrientationCheck::BySize:
         break;
     }
@@ -82,14 +89,14 @@ bool VKInkPrintSetting14PDE::checkOrientationBySize()
     if (!size)
         return false;
     if (!paper.isWithinLimits(*size))
-        return refuseUnsupportedPaper();
+        return refuseUnsupportedPaper(unsupportedPaperAlert());
     if (isLandscapeSize(*size))
         writeOrientation(ticket(), u"Landscape"_s);
     return true;
 }
 
-bool VKInkPrintSetting14PDE::refuseUnsupportedPaper()
+bool VKInkPrintSetting14PDE::refuseUnsupportedPaper(const AlertContent &alert)
 {
-    runAlert(unsupportedPaperAlert());
+    runAlert(alert);
     return false;
 }

@@ -1,5 +1,6 @@
 #include "printsettings/VKInkPrintSetting14PDE.h"
 
+#include "panel/PPDWords.h"
 #include "platform/ppd/PPDText.h"
 #include "printsettings/rules/TwoSidedMedium.h"
 
@@ -32,7 +33,7 @@ bool VKInkPrintSetting14PDE::shouldPrint()
 
 bool VKInkPrintSetting14PDE::checkIfOutputToFax() const
 {
-    return markedChoice(ppd, u"VKOutput"_s) == "FAX"_L1;
+    return markedChoice(ppd, kOutputKeyword) == kFaxChoice;
 }
 
 QVariantMap VKInkPrintSetting14PDE::summaryInfo()

@@ -30,8 +30,8 @@ struct MediumEffects;
 ///
 /// The decisions themselves are tables and pure functions in a room of their own (rules/), on plain
 /// values; this class gathers the facts and applies what was decided to the pending values and the
-/// controls. Every operation works without a view: then
-/// the pending values and the PPD change, and no control does.
+/// controls. Every operation works without a view: then the pending values and the PPD change, and
+/// no control does.
 ///
 /// The order of the steps within each operation is what the dialog and the other panel see (choices
 /// offered, notifications posted); it is part of the interface.
@@ -131,8 +131,9 @@ public:
                                        const QString &alertImage, QLabel *alertMessageLabel);
 
     void readyToShowEnvelopeAlert();
-    /// Shows the window until one of its buttons is pressed: 1 for OK, 0 for Cancel. With an alert
-    /// key, OK stores whether the alert is to be shown again.
+    /// Shows the window in front of the dialog until one of its buttons is pressed: 1 for OK, 0 for
+    /// Cancel, closing and a window that is destroyed. With an alert key, OK stores whether the
+    /// alert is to be shown again: not where the outlet `suppressionButton` is ticked.
     int showDialog(QWidget *window, const QString &alertKey);
     void dialogOkDidClick(QWidget *sender);
     void dialogCancelDidClick(QWidget *sender);
@@ -195,7 +196,7 @@ private:
     /// Connects the outlets of the alert windows, if the panel's view is loaded.
     void loadAlertWindows();
     bool confirmEnvelope();
-    bool refuseUnsupportedPaper();
+    bool refuseUnsupportedPaper(const AlertContent &alert);
     bool checkOrientationBySize();
     /// The path of the bundle's picture; null without one.
     QString picturePath(const QString &name) const;

@@ -20,7 +20,7 @@
 
 namespace {
 
-constexpr int rounds = 3;
+constexpr int kRounds = 3;
 
 struct Contender
 {
@@ -117,12 +117,12 @@ void measure(QSize size)
 #endif
     };
     const int repetitions = std::clamp(20'000'000 / pixels, 4, 200);
-    for (int round = 0; round < rounds; ++round)
+    for (int round = 0; round < kRounds; ++round)
         for (Contender &contender : contenders)
             for (int repetition = 0; repetition < repetitions; ++repetition)
                 run(contender, round * repetitions + repetition);
 
-    std::printf("%d x %d, best of %d\n", size.width(), size.height(), rounds * repetitions);
+    std::printf("%d x %d, best of %d\n", size.width(), size.height(), kRounds * repetitions);
     const Contender &ours = contenders[0];
     for (const Contender &contender : contenders)
         printRow(contender, ours, pixels);

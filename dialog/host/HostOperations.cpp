@@ -70,12 +70,13 @@ bool HostSession::markElsewhere(const QString &keyword, const QString &choice)
 {
     if (!forceChoice(m_ppd.get(), keyword, choice))
         return false;
+    const PPDMark mark = spelled(keyword, choice);
     for (const HostPanel &panel : m_panels)
-        panel.panel->PPDOptionKeyValueDidChange(keyword, choice);
-    if (keyword == "Duplex"_L1)
+        panel.panel->PPDOptionKeyValueDidChange(mark.keyword, mark.choice);
+    if (mark.keyword == "Duplex"_L1)
         post(u"PMPrintDuplexChangedNotification"_s);
     if (m_observer)
-        m_observer->didMark(keyword, choice);
+        m_observer->didMark(mark.keyword, mark.choice);
     return true;
 }
 

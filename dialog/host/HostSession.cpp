@@ -107,6 +107,18 @@ QMap<QString, QString> HostSession::reportedMarks() const
     return marks;
 }
 
+PPDMark HostSession::spelled(const QString &keyword, const QString &choice) const
+{
+    ppd_option_t *option = findOption(m_ppd.get(), keyword);
+    if (!option)
+        return {keyword, choice};
+    const auto reported = std::ranges::find_if(
+        m_reportedKeywords, [&](const QString &name) { return isSameName(name, keyword); });
+    const ppd_choice_t *found = findChoice(option, choice);
+    return {reported == m_reportedKeywords.end() ? ppdName(option->keyword) : *reported,
+            found ? ppdName(found->choice) : choice};
+}
+
 QStringList HostSession::watchedKeywords() const
 {
     return m_plugIn.bundle ? m_plugIn.bundle->infoValue(u"PMPPDKeysWatched"_s).toStringList()

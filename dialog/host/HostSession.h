@@ -95,6 +95,11 @@ public:
     /// watched, and those of the panels; keyword to choice, without those where nothing is marked.
     QMap<QString, QString> reportedMarks() const;
 
+    /// The choice by the names that the session knows it by, whatever their case: the keyword as the
+    /// reported marks have it, else as the PPD spells it, and the choice as the PPD spells it. A
+    /// name that the PPD lacks stays as it is.
+    PPDMark spelled(const QString &keyword, const QString &choice) const;
+
     /// The PPD keywords that no panel shows and the plug-in wants the dialog to offer.
     QStringList watchedKeywords() const;
 
@@ -126,8 +131,8 @@ public:
     // --- Operations on the job -------------------------------------------------------------------
 
     /// A choice made by the dialog itself: marked whatever it conflicts with, reported to every
-    /// panel, and for `Duplex` followed by the duplex-change notification. False, and nothing
-    /// happens, without such a choice.
+    /// panel by its own names (spelled()), and for `Duplex` followed by the duplex-change
+    /// notification. False, and nothing happens, without such a choice.
     bool markElsewhere(const QString &keyword, const QString &choice);
 
     /// Another page setup: the format's paper, the marked `PageSize` where the PPD has a choice

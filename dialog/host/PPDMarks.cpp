@@ -23,11 +23,36 @@ std::vector<const ppd_option_t *> conflictingOptions(ppd_file_t *ppd)
     return conflicting;
 }
 
-// libcups looks a mark up in an array of its own beside the flag.
-void unmark(ppd_file_t *ppd, ppd_choice_t *choice)
+// libcups looks a mark up in an array of its own beside the flags. There the choices of one option
+// are all alike to it, so that it may remove another one than it is given.
+void unmarkAll(ppd_file_t *ppd, ppd_option_t &option)
 {
-    choice->marked = 0;
-    cupsArrayRemove(ppd->marked, choice);
+    for (int index = 0; index < option.num_choices; ++index)
+        option.choices[index].marked = 0;
+    while (ppd_choice_t *choice = ppdFindMarkedChoice(ppd, option.keyword))
+        cupsArrayRemove(ppd->marked, choice);
+}
+
+// Of an option with several marks at once, libcups leaves the earlier ones beside a new one and
+// answers any of them.
+void mark(ppd_file_t *ppd, ppd_option_t &option, const ppd_choice_t &choice)
+{
+    if (option.ui == PPD_UI_PICKMANY)
+        unmarkAll(ppd, option);
+    ppdMarkOption(ppd, option.keyword, choice.choice);
+}
+
+std::vector<const ppd_choice_t *> markedChoices(ppd_file_t *ppd, const ppd_option_t &option)
+{
+    std::vector<const ppd_choice_t *> marked;
+    for (int index = 0; option.ui == PPD_UI_PICKMANY && index < option.num_choices; ++index) {
+        if (option.choices[index].marked)
+            marked.push_back(&option.choices[index]);
+    }
+    const ppd_choice_t *single = ppdFindMarkedChoice(ppd, option.keyword);
+    if (option.ui != PPD_UI_PICKMANY && single)
+        marked.push_back(single);
+    return marked;
 }
 
 void addMarks(ppd_file_t *ppd, ppd_group_t *groups, int count, QList<PPDMark> &marks)
@@ -37,7 +62,7 @@ void addMarks(ppd_file_t *ppd, ppd_group_t *groups, int count, QList<PPDMark> &m
             const ppd_option_t &option = groups[group].options[index];
             const bool isFound = ppdFindOption(ppd, option.keyword) == &option;
             const ppd_choice_t *choice = ppdFindMarkedChoice(ppd, option.keyword);
-            if (isFound && choice && qstrcmp(option.keyword, "PageRegion") != 0)
+            if (isFound && choice && qstricmp(option.keyword, "PageRegion") != 0)
                 marks += PPDMark{ppdName(option.keyword), ppdName(choice->choice)};
         }
         addMarks(ppd, groups[group].subgroups, groups[group].num_subgroups, marks);
@@ -69,22 +94,25 @@ bool forceChoice(ppd_file_t *ppd, const QString &keyword, const QString &choice)
     ppd_option_t *option = findOption(ppd, keyword);
     const ppd_choice_t *wanted = findChoice(option, choice);
     if (wanted)
-        ppdMarkOption(ppd, option->keyword, wanted->choice);
+        mark(ppd, *option, *wanted);
     return wanted != nullptr;
 }
 
 bool markChoice(ppd_file_t *ppd, const QString &keyword, const QString &choice)
 {
     ppd_option_t *option = findOption(ppd, keyword);
-    ppd_choice_t *wanted = findChoice(option, choice);
-    const QString before = markedChoice(ppd, keyword);
-    if (!wanted || before == choice)
-        return wanted != nullptr;
+    const ppd_choice_t *wanted = findChoice(option, choice);
+    if (!wanted)
+        return false;
+    const auto before = markedChoices(ppd, *option);
+    if (before == std::vector{wanted})
+        return true;
     const auto conflictsBefore = conflictingOptions(ppd);
-    ppdMarkOption(ppd, option->keyword, wanted->choice);
+    mark(ppd, *option, *wanted);
     if (std::ranges::includes(conflictsBefore, conflictingOptions(ppd)))
         return true;
-    if (!forceChoice(ppd, keyword, before))
-        unmark(ppd, wanted);
+    unmarkAll(ppd, *option);
+    for (const ppd_choice_t *former : before)
+        ppdMarkOption(ppd, option->keyword, former->choice);
     return false;
 }

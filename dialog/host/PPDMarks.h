@@ -22,9 +22,10 @@ QList<PPDMark> marksOf(ppd_file_t *ppd);
 /// Those of the marks that are not among `before`.
 QList<PPDMark> changedMarks(ppd_file_t *ppd, const QList<PPDMark> &before);
 
-/// Marks the choice when the PPD has the option and the choice, and marking it adds no conflict
-/// with the PPD's own constraints. Otherwise the earlier marks stand and the answer is false.
+/// Marks the choice in the place of whatever is marked of its option, when the PPD has the option
+/// and the choice, and marking it adds no conflict with the PPD's own constraints. Otherwise the
+/// earlier marks stand and the answer is false.
 bool markChoice(ppd_file_t *ppd, const QString &keyword, const QString &choice);
 
-/// Marks the choice whatever it conflicts with. False without such an option or choice.
+/// The same, whatever it conflicts with. False without such an option or choice.
 bool forceChoice(ppd_file_t *ppd, const QString &keyword, const QString &choice);

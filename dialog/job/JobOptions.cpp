@@ -51,7 +51,7 @@ QList<JobOption> changedChoices(const JobValues &values)
 
 void put(QList<JobOption> &options, const JobOption &option)
 {
-    options.removeIf([&](const JobOption &old) { return old.name == option.name; });
+    options.removeIf([&](const JobOption &old) { return isSameName(old.name, option.name); });
     options += option;
 }
 
@@ -65,8 +65,8 @@ void putPaper(QList<JobOption> &options, const JobValues &values)
     const QString mapped = values.ticket.values().value(kMappedPaper).toString();
     if (mapped.isEmpty())
         return;
-    if (findChoice(findOption(values.ppd, u"PageSize"_s), mapped))
-        put(options, {u"PageSize"_s, mapped});
+    if (const ppd_choice_t *paper = findChoice(findOption(values.ppd, u"PageSize"_s), mapped))
+        put(options, {u"PageSize"_s, ppdName(paper->choice)});
     put(options, {u"fit-to-page"_s, u"true"_s});
     put(options, {u"print-scaling"_s, u"fit"_s});
 }

@@ -27,10 +27,12 @@ constexpr double kRounding = 0.05;
 
 std::optional<PMPaper> paperOfChoice(ppd_file_t *ppd, const QString &choice)
 {
-    if (!findChoice(findOption(ppd, u"PageSize"_s), choice))
+    const ppd_choice_t *found = findChoice(findOption(ppd, u"PageSize"_s), choice);
+    if (!found)
         return std::nullopt;
-    PMPaper paper{choice, choice, 0, 0};
-    if (const ppd_size_t *size = ppdPageSize(ppd, ppdBytes(choice).constData())) {
+    const QString name = ppdName(found->choice);
+    PMPaper paper{name, name, 0, 0};
+    if (const ppd_size_t *size = ppdPageSize(ppd, found->choice)) {
         paper.width = static_cast<double>(size->width);
         paper.height = static_cast<double>(size->length);
     }

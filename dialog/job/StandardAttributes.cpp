@@ -1,5 +1,7 @@
 #include "dialog/job/StandardAttributes.h"
 
+#include "platform/ppd/PPDText.h"
+
 #include <array>
 
 namespace {
@@ -33,8 +35,8 @@ QList<JobOption> standardAttributesBeside(const QList<JobOption> &choices)
     QList<JobOption> attributes;
     for (const JobOption &choice : choices)
         for (const Twin &twin : kTwins)
-            if (choice.name == QLatin1String(twin.keyword) &&
-                choice.value == QLatin1String(twin.choice))
+            if (isSameName(choice.name, QLatin1String(twin.keyword)) &&
+                isSameName(choice.value, QLatin1String(twin.choice)))
                 attributes +=
                     JobOption{QString::fromLatin1(twin.attribute), QString::fromLatin1(twin.value)};
     return attributes;

@@ -105,7 +105,7 @@ bool PrintJob::mark(const QString &keyword, const QString &choice)
     if (!m_session || !m_session->markElsewhere(keyword, choice))
         return false;
     // Panels hear of their own keywords only; of the others they read when they restore.
-    if (m_session->watchedKeywords().contains(keyword))
+    if (m_session->watchedKeywords().contains(keyword, Qt::CaseInsensitive))
         for (const HostPanel &panel : m_session->panels())
             m_session->restore(panel);
     return true;

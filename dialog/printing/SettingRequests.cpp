@@ -83,7 +83,7 @@ constexpr std::array kOwnSettings{OwnSetting{"copies"_L1, takeCopies},
 
 bool isOn(const QString &choice)
 {
-    return choice == "ON"_L1 || choice == "True"_L1;
+    return isSameName(choice, u"ON"_s) || isSameName(choice, u"True"_s);
 }
 
 /// The panel that manages the keyword; null without one.
@@ -114,10 +114,13 @@ void prepareControls(HostSession &session)
     }
 }
 
-bool hasSlider(const HostSession &session, const QString &keyword)
+/// The keyword as the slider spells it; null without one.
+QString keywordOfSlider(const HostSession &session, const QString &keyword)
 {
-    const auto sliders = partsOfViews<FractionSlider>(session);
-    return std::ranges::find(sliders, keyword, boundKeyOf) != sliders.end();
+    for (const FractionSlider *slider : partsOfViews<FractionSlider>(session))
+        if (isSameName(boundKeyOf(slider), keyword))
+            return boundKeyOf(slider);
+    return {};
 }
 
 /// How the setting is made with a control. None when no panel has a control for it.
@@ -129,8 +132,9 @@ std::optional<QString> pickInPanel(HostSession &session, const QString &keyword,
         return pick(*panel->inspection, keyword, choice);
     bool isNumber = false;
     const double value = choice.toDouble(&isNumber);
-    if (isNumber && hasSlider(session, keyword))
-        return moveSlider(session, keyword, value);
+    const QString bound = isNumber ? keywordOfSlider(session, keyword) : QString();
+    if (!bound.isNull())
+        return moveSlider(session, bound, value);
     return std::nullopt;
 }
 
@@ -157,11 +161,13 @@ QString missing(PrintJob &job, const QString &keyword, const QString &choice)
 
 } // namespace
 
-QString makeSetting(PrintJob &job, const QString &keyword, const QString &choice, Refusal &refusal)
+QString makeSetting(PrintJob &job, const QString &name, const QString &value, Refusal &refusal)
 {
-    const auto own = std::ranges::find(kOwnSettings, keyword, &OwnSetting::name);
+    const auto own = std::ranges::find(kOwnSettings, name, &OwnSetting::name);
     if (own != kOwnSettings.end())
-        return own->take(job, choice) ? QString() : badValue(keyword, choice);
+        return own->take(job, value) ? QString() : badValue(name, value);
+    const auto [keyword, choice] =
+        job.session() ? job.session()->spelled(name, value) : PPDMark{name, value};
     if (keyword == "PageSize"_L1)
         return choosePaper(job, choice);
     QString fault = missing(job, keyword, choice);
@@ -175,7 +181,7 @@ QString makeSetting(PrintJob &job, const QString &keyword, const QString &choice
     // The reason names parts of the view, which nobody knows by name.
     if (!picked->isNull())
         return notNow(keyword, choice);
-    if (refusal.keyword != keyword || refusal.choice != choice)
+    if (refusal.keyword != keyword || !isSameName(refusal.choice, choice))
         return {};
     QString clash = refusalSentence(job.ppd(), keyword, choice);
     return clash.isNull() ? notNow(keyword, choice) : clash;

@@ -58,6 +58,7 @@ constexpr std::array kOptions{
     Option{"panel", '\0', &CommandLine::panel},
     Option{"record", '\0', &CommandLine::record},
     Option{"replay", '\0', &CommandLine::replay},
+    Option{"check-ppd", '\0', &CommandLine::checkPPD},
     Option{"plug-in", '\0', &CommandLine::plugIn},
     Option{"version", '\0', nullptr, &CommandLine::version},
     Option{"help", '\0', nullptr, &CommandLine::help},
@@ -128,6 +129,11 @@ QString contradiction(const CommandLine &line)
     if (!line.replay.isNull() && !line.record.isNull())
         return sentence(
             QT_TRANSLATE_NOOP("CommandLine", "--replay and --record do not go together."));
+    const bool asksForWork = line.noDialog || !line.files.isEmpty() || !line.replay.isNull() ||
+                             !line.record.isNull() || !line.screenshot.isNull();
+    if (!line.checkPPD.isNull() && asksForWork)
+        return sentence(QT_TRANSLATE_NOOP(
+            "CommandLine", "--check-ppd only looks at a PPD: it prints and replays nothing."));
     if (line.noDialog && !line.screenshot.isNull())
         return sentence(
             QT_TRANSLATE_NOOP("CommandLine", "--no-dialog and --screenshot do not go together."));

@@ -27,7 +27,8 @@ struct CommandLine
     QString screenshot;
     QString panel; ///< --panel: the name of a panel, "setup" or "summary"
     QString record;
-    QString replay; ///< "-": standard input
+    QString replay;   ///< "-": standard input
+    QString checkPPD; ///< --check-ppd
     QString plugIn;
     bool force = false; ///< files that exist may be replaced
     bool noDialog = false;

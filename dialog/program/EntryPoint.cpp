@@ -1,4 +1,5 @@
 #include "dialog/files/PathBytes.h"
+#include "dialog/program/CheckCommand.h"
 #include "dialog/program/CommandLine.h"
 #include "dialog/program/CommandOutput.h"
 #include "dialog/program/DialogCommand.h"
@@ -51,6 +52,8 @@ extern "C" Q_DECL_EXPORT int velkaroPrintMain(int argc, char **argv)
     if (line.version)
         return print(versionText());
     tellToolkitFaultsOnly();
+    if (!line.checkPPD.isNull())
+        return runCheckCommand(argc, argv, line);
     if (!line.replay.isNull())
         return runReplayCommand(argc, argv, line);
     return runDialogCommand(argc, argv, line);

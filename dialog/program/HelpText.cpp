@@ -36,12 +36,14 @@ Looking and testing
       --record SCRIPT     note the session in a script
       --replay SCRIPT     run a session from a script (-: standard input)
                           and print what happens, a line of JSON an event
+      --check-ppd FILE    print what the plug-in will not understand in a PPD
+                          file, a line a finding
       --plug-in FOLDER    load the plug-in from this bundle
       --version           print the version
       --help              print this text
 
 Exit status
-  0  printed, written, or the script ran to its end
+  0  printed, written, checked, or the script ran to its end
   1  cancelled in the dialog, or by a signal before the server had the
      whole job
   2  a wrong option, setting or script, a PPD that cannot be opened, or no
@@ -51,7 +53,7 @@ Exit status
   5  an output file cannot be written, or exists already
   6  the server or the queue cannot be reached, the job was refused, or it
      is not known whether it was taken
-  7  the plug-in cannot be used
+  7  the plug-in cannot be used, or cannot check a PPD
 )";
 }
 

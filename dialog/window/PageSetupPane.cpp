@@ -4,7 +4,9 @@
 #include "dialog/job/Papers.h"
 #include "dialog/printing/PrintJob.h"
 #include "dialog/window/CustomSizeFields.h"
+#include "platform/foundation/NotificationCenter.h"
 #include "platform/ppd/PPDText.h"
+#include "platform/toolkit/KeyWindow.h"
 #include "platform/toolkit/PlainLabel.h"
 #include "platform/toolkit/PlainText.h"
 #include "platform/toolkit/PopUpButton.h"
@@ -69,6 +71,14 @@ QWidget *newRadioPair(const std::array<std::pair<QString, QString>, 2> &namesAnd
     return row;
 }
 
+/// Tells that an item of the menu has sent its action. The menu is compared with, and may have
+/// gone.
+void postMenuAction(const QWidget *menu, const QString &title)
+{
+    NotificationCenter::defaultCenter().post(QLatin1String(kMenuDidSendActionNotification), menu,
+                                             QVariantMap{{u"MenuItem"_s, title}});
+}
+
 } // namespace
 
 PageSetupPane::PageSetupPane(PrintJob &job, QWidget *parent) : QWidget(parent), m_job(job)
@@ -119,7 +129,11 @@ void PageSetupPane::addPaper(QFormLayout *form)
     m_paper = newPopUp(u"paperPopup"_s);
     m_paper->setItems(items);
     addLabelledRow(form, tr("&Paper:"), m_paper);
-    connect(m_paper, &QComboBox::activated, this, &PageSetupPane::choosePaper);
+    connect(m_paper, &QComboBox::activated, this, [this, popup = m_paper] {
+        const QString title = popup->currentText();
+        choosePaper();
+        postMenuAction(popup, title);
+    });
 
     if (limits)
         addCustomSize(form, *limits);

@@ -44,21 +44,23 @@ bool isScalingTold(const PrintJob &job)
 bool isTold(const PrintJob &job, const JobOption &option)
 {
     static const QStringList always{u"copies"_s, u"page-ranges"_s, u"orientation-requested"_s};
-    if (option.name == "PageSize"_L1)
+    if (isSameName(option.name, u"PageSize"_s))
         return isPaperTold(job, option.value);
     if (option.name == "fit-to-page"_L1 || option.name == "print-scaling"_L1)
         return isScalingTold(job);
     if (option.name == "AP_ColorMatchingMode"_L1)
         return job.offersColorMatching();
-    return always.contains(option.name) || job.ownKeywords().contains(option.name);
+    return always.contains(option.name) ||
+           job.ownKeywords().contains(option.name, Qt::CaseInsensitive);
 }
 
 bool isTold(const PrintJob &job, const JobOption &option, const PanelSummary &panel)
 {
     const ppd_option_t *named = optionOf(job, option.name);
     const QVariant told = named ? toldUnder(ppdText(named->text), panel) : QVariant();
-    return isChoice(job.ppd(), option.name) ? told.isValid() && panel.keywords.contains(option.name)
-                                            : told.isValid() && told.toString() == option.value;
+    return isChoice(job.ppd(), option.name)
+               ? told.isValid() && panel.keywords.contains(option.name, Qt::CaseInsensitive)
+               : told.isValid() && told.toString() == option.value;
 }
 
 /// Without the standard attributes that say the same as a choice.

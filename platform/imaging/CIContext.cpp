@@ -7,13 +7,13 @@
 
 struct CIContext::Tables
 {
-    imaging::ChannelTables channels;
-    imaging::LuminanceTable luminance;
+    ChannelTables channels;
+    LuminanceTable luminance;
 };
 
 namespace {
 
-/// Makes the target one that the image can be drawn into.
+// Makes the target one that the image can be drawn into.
 void prepareTarget(const CIImage &image, QImage &target)
 {
     const bool alpha = image.picture().hasAlpha() || !image.change().keepsAlpha();
@@ -28,14 +28,14 @@ QRgb *rowOf(QImage &target, int y)
     return reinterpret_cast<QRgb *>(target.scanLine(y));
 }
 
-/// The picture as few long runs of pixels: one, where nothing lies between the rows.
+// The picture as few long runs of pixels: one, where nothing lies between the rows.
 struct Runs
 {
     int rows;
     int length;
 };
 
-Runs runsOf(const imaging::Picture &picture, const QImage &target)
+Runs runsOf(const DecodedPicture &picture, const QImage &target)
 {
     const qsizetype pixelBytes = target.width() * qsizetype(sizeof(QRgb));
     if (target.bytesPerLine() == pixelBytes && picture.hasTightRows())
@@ -43,8 +43,7 @@ Runs runsOf(const imaging::Picture &picture, const QImage &target)
     return {target.height(), target.width()};
 }
 
-void drawChannels(const imaging::Picture &picture, const imaging::ChannelTables &tables,
-                  QImage &target)
+void drawChannels(const DecodedPicture &picture, const ChannelTables &tables, QImage &target)
 {
     const Runs runs = runsOf(picture, target);
     for (int y = 0; y < runs.rows; ++y) {
@@ -55,8 +54,7 @@ void drawChannels(const imaging::Picture &picture, const imaging::ChannelTables 
     }
 }
 
-void drawLuminance(const imaging::Picture &picture, const imaging::LuminanceTable &table,
-                   QImage &target)
+void drawLuminance(const DecodedPicture &picture, const LuminanceTable &table, QImage &target)
 {
     const Runs runs = runsOf(picture, target);
     for (int y = 0; y < runs.rows; ++y) {
@@ -73,7 +71,7 @@ void drawLuminance(const imaging::Picture &picture, const imaging::LuminanceTabl
 void drawPixels(const CIImage &image, QImage &target)
 {
     for (int y = 0; y < target.height(); ++y)
-        imaging::evaluateRow(image.picture(), y, image.change(), rowOf(target, y));
+        evaluateRow(image.picture(), y, image.change(), rowOf(target, y));
 }
 
 } // namespace
@@ -95,7 +93,7 @@ void CIContext::drawImage(const std::shared_ptr<const CIImage> &image, QImage &t
     if (image->change().separatesChannels() && !image->picture().isDeep()) {
         m_tables->channels.build(image->change(), !image->picture().hasAlpha());
         drawChannels(image->picture(), m_tables->channels, target);
-    } else if (ramp && imaging::LuminanceTable::isFineEnoughFor(*ramp)) {
+    } else if (ramp && LuminanceTable::isFineEnoughFor(*ramp)) {
         m_tables->luminance.build(*ramp);
         drawLuminance(image->picture(), m_tables->luminance, target);
     } else {

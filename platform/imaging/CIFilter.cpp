@@ -2,14 +2,14 @@
 
 #include "platform/imaging/FilterCatalogue.h"
 
-CIFilter::CIFilter(const imaging::FilterDescription &description) : m_description(&description)
+CIFilter::CIFilter(const FilterDescription &description) : m_description(&description)
 {
     setDefaults();
 }
 
 std::unique_ptr<CIFilter> CIFilter::filterWithName(const QString &name)
 {
-    const imaging::FilterDescription *description = imaging::findFilter(name);
+    const FilterDescription *description = filterNamed(name);
     return description ? std::unique_ptr<CIFilter>(new CIFilter(*description)) : nullptr;
 }
 
@@ -20,7 +20,7 @@ QString CIFilter::name() const
 
 void CIFilter::setDefaults()
 {
-    for (const imaging::FilterInput &input : m_description->inputs)
+    for (const FilterInput &input : m_description->inputs)
         m_values.insert(input.key, input.defaultValue);
 }
 
@@ -31,8 +31,8 @@ void CIFilter::setValue(const QVariant &value, const QString &forKey)
             m_inputImage = value.value<std::shared_ptr<const CIImage>>();
         return;
     }
-    for (const imaging::FilterInput &input : m_description->inputs)
-        if (input.key == forKey && imaging::accepts(input, value))
+    for (const FilterInput &input : m_description->inputs)
+        if (input.key == forKey && acceptsValue(input, value))
             m_values.insert(forKey, value);
 }
 

@@ -11,9 +11,7 @@
 
 #include <memory>
 
-namespace imaging {
 struct FilterDescription;
-}
 
 /// A colour filter with keyed inputs. It computes nothing by itself: outputImage answers a recipe.
 ///
@@ -72,9 +70,9 @@ public:
     std::shared_ptr<const CIImage> outputImage() const;
 
 private:
-    explicit CIFilter(const imaging::FilterDescription &description);
+    explicit CIFilter(const FilterDescription &description);
 
-    const imaging::FilterDescription *m_description;
+    const FilterDescription *m_description;
     QHash<QString, QVariant> m_values;
     std::shared_ptr<const CIImage> m_inputImage;
 };

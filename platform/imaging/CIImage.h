@@ -10,9 +10,7 @@
 
 #include <memory>
 
-namespace imaging {
-class Picture;
-}
+class DecodedPicture;
 
 /// An image as a recipe: a decoded picture, and the colour change to be made to it. Immutable; a
 /// filter answers a new recipe over the same picture and touches no pixel. CIContext evaluates
@@ -33,17 +31,17 @@ public:
     QRect extent() const;
 
     /// The recipe that does what this one does, and then `change`. For filters.
-    std::shared_ptr<const CIImage> imageByApplying(const imaging::ColorTransform &change) const;
+    std::shared_ptr<const CIImage> imageByApplying(const ColorTransform &change) const;
 
     /// For drawing.
-    const imaging::Picture &picture() const { return *m_picture; }
-    const imaging::ColorTransform &change() const { return m_change; }
+    const DecodedPicture &picture() const { return *m_picture; }
+    const ColorTransform &change() const { return m_change; }
 
 private:
-    CIImage(std::shared_ptr<const imaging::Picture> picture, const imaging::ColorTransform &change);
+    CIImage(std::shared_ptr<const DecodedPicture> picture, const ColorTransform &change);
 
-    std::shared_ptr<const imaging::Picture> m_picture;
-    imaging::ColorTransform m_change;
+    std::shared_ptr<const DecodedPicture> m_picture;
+    ColorTransform m_change;
 };
 
 Q_DECLARE_METATYPE(std::shared_ptr<const CIImage>)

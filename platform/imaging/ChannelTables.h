@@ -6,8 +6,6 @@
 
 #include <array>
 
-namespace imaging {
-
 /// What each of the 256 values of a channel becomes, for a change that keeps the channels apart:
 /// exact, since the tables are computed in double precision.
 ///
@@ -30,11 +28,9 @@ private:
     /// Each channel's table for the first and the second pixel of a word.
     using Pair = std::array<std::array<quint64, 256>, 2>;
 
-    template <quint64 keptBits> void map(const QRgb *in, QRgb *out, int count) const;
+    template <quint64 KeptBits> void map(const QRgb *in, QRgb *out, int count) const;
 
     Pair m_red;
     Pair m_green;
     Pair m_blue;
 };
-
-} // namespace imaging

@@ -2,37 +2,35 @@
 
 #include <cmath>
 
-namespace imaging {
-
 namespace {
 
-constexpr std::size_t alpha = 3;
-constexpr std::size_t bias = 4;
+constexpr std::size_t kAlpha = 3;
+constexpr std::size_t kBias = 4;
 
-constexpr ColorTransform::Rows identity{{
+constexpr ColorTransform::Rows kIdentity{{
     {1, 0, 0, 0, 0},
     {0, 1, 0, 0, 0},
     {0, 0, 1, 0, 0},
     {0, 0, 0, 1, 0},
 }};
 
-/// A chain of filters rounds in the last bits of a double; a picture has 16 bits at most.
-constexpr double roundingLeft = 1e-12;
+// A chain of filters rounds in the last bits of a double; a picture has 16 bits at most.
+constexpr double kRoundingLeft = 1e-12;
 
-/// The gain if the row weighs red, green and blue as the luminance does.
+// The gain if the row weighs red, green and blue as the luminance does.
 std::optional<double> luminanceGain(const ColorTransform::Row &row)
 {
     const double gain = row[0] + row[1] + row[2];
-    const double allowed = roundingLeft * (1.0 + std::abs(gain));
-    bool same = row[alpha] == 0.0;
-    for (std::size_t i = 0; i < luminanceWeights.size(); ++i)
-        same = same && std::abs(row[i] - gain * luminanceWeights[i]) <= allowed;
+    const double allowed = kRoundingLeft * (1.0 + std::abs(gain));
+    bool same = row[kAlpha] == 0.0;
+    for (std::size_t i = 0; i < kLuminanceWeights.size(); ++i)
+        same = same && std::abs(row[i] - gain * kLuminanceWeights[i]) <= allowed;
     return same ? std::optional(gain) : std::nullopt;
 }
 
 } // namespace
 
-ColorTransform::ColorTransform() : m_rows(identity) {}
+ColorTransform::ColorTransform() : m_rows(kIdentity) {}
 
 ColorTransform::ColorTransform(const Rows &rows) : m_rows(rows) {}
 
@@ -41,7 +39,7 @@ ColorTransform ColorTransform::then(const ColorTransform &next) const
     Rows rows{};
     for (std::size_t out = 0; out < rows.size(); ++out) {
         const Row &weights = next.m_rows[out];
-        rows[out][bias] = weights[bias];
+        rows[out][kBias] = weights[kBias];
         for (std::size_t between = 0; between < m_rows.size(); ++between)
             for (std::size_t in = 0; in < weights.size(); ++in)
                 rows[out][in] += weights[between] * m_rows[between][in];
@@ -51,14 +49,14 @@ ColorTransform ColorTransform::then(const ColorTransform &next) const
 
 bool ColorTransform::keepsAlpha() const
 {
-    return m_rows[alpha] == identity[alpha];
+    return m_rows[kAlpha] == kIdentity[kAlpha];
 }
 
 bool ColorTransform::separatesChannels() const
 {
     bool separate = keepsAlpha();
-    for (std::size_t out = 0; out < alpha; ++out)
-        for (std::size_t in = 0; in <= alpha; ++in)
+    for (std::size_t out = 0; out < kAlpha; ++out)
+        for (std::size_t in = 0; in <= kAlpha; ++in)
             separate = separate && (in == out || m_rows[out][in] == 0.0);
     return separate;
 }
@@ -73,9 +71,7 @@ std::optional<LuminanceRamp> ColorTransform::luminanceRamp() const
         if (!gain)
             return std::nullopt;
         ramp.gain[channel] = *gain;
-        ramp.bias[channel] = m_rows[channel][bias];
+        ramp.bias[channel] = m_rows[channel][kBias];
     }
     return ramp;
 }
-
-} // namespace imaging

@@ -3,10 +3,8 @@
 #include <array>
 #include <optional>
 
-namespace imaging {
-
 /// What each linear component adds to the luminance (the sRGB primaries under D65).
-inline constexpr std::array<double, 3> luminanceWeights{0.2126, 0.7152, 0.0722};
+inline constexpr std::array<double, 3> kLuminanceWeights{0.2126, 0.7152, 0.0722};
 
 /// A colour that depends on a pixel's luminance alone: gain * luminance + bias for red, green and
 /// blue. The alpha is the pixel's own.
@@ -44,5 +42,3 @@ public:
 private:
     Rows m_rows;
 };
-
-} // namespace imaging

@@ -6,8 +6,6 @@
 #include <array>
 #include <cmath>
 
-namespace imaging {
-
 namespace {
 
 QVariant vectorValue(double x, double y, double z, double w)
@@ -15,14 +13,14 @@ QVariant vectorValue(double x, double y, double z, double w)
     return QVariant::fromValue(CIVector{x, y, z, w});
 }
 
-ColorTransform controlsChange(const InputValues &values)
+ColorTransform controlsChange(const FilterInputValues &values)
 {
     return colorControls(values(kCIInputSaturationKey).toDouble(),
                          values(kCIInputBrightnessKey).toDouble(),
                          values(kCIInputContrastKey).toDouble());
 }
 
-ColorTransform matrixChange(const InputValues &values)
+ColorTransform matrixChange(const FilterInputValues &values)
 {
     const auto bias = values(kCIInputBiasVectorKey).value<CIVector>();
     const auto row = [&values](const QString &key, double offset) {
@@ -33,13 +31,13 @@ ColorTransform matrixChange(const InputValues &values)
                            row(kCIInputBVectorKey, bias.z), row(kCIInputAVectorKey, bias.w)});
 }
 
-ColorTransform monochromeChange(const InputValues &values)
+ColorTransform monochromeChange(const FilterInputValues &values)
 {
     return colorMonochrome(values(kCIInputColorKey).value<CIColor>(),
                            values(kCIInputIntensityKey).toDouble());
 }
 
-/// The inputs and their defaults as the filters' public documentation gives them.
+// The inputs and their defaults as the filters' public documentation gives them.
 std::span<const FilterDescription> catalogue()
 {
     static const std::array controlsInputs{
@@ -94,10 +92,10 @@ bool allFinite(std::initializer_list<double> components)
 ColorTransform colorControls(double saturation, double brightness, double contrast)
 {
     ColorTransform::Rows rows{};
-    for (std::size_t out = 0; out < luminanceWeights.size(); ++out) {
-        for (std::size_t in = 0; in < luminanceWeights.size(); ++in)
+    for (std::size_t out = 0; out < kLuminanceWeights.size(); ++out) {
+        for (std::size_t in = 0; in < kLuminanceWeights.size(); ++in)
             rows[out][in] = contrast * ((in == out ? saturation : 0.0) +
-                                        (1.0 - saturation) * luminanceWeights[in]);
+                                        (1.0 - saturation) * kLuminanceWeights[in]);
         rows[out][4] = contrast * (brightness - 0.5) + 0.5;
     }
     rows[3][3] = 1.0;
@@ -111,12 +109,12 @@ ColorTransform colorMonochrome(const CIColor &color, double intensity)
     for (std::size_t out = 0; out < tint.size(); ++out)
         for (std::size_t in = 0; in < tint.size(); ++in)
             rows[out][in] =
-                intensity * tint[out] * luminanceWeights[in] + (in == out ? 1.0 - intensity : 0.0);
+                intensity * tint[out] * kLuminanceWeights[in] + (in == out ? 1.0 - intensity : 0.0);
     rows[3][3] = 1.0;
     return ColorTransform(rows);
 }
 
-const FilterDescription *findFilter(const QString &name)
+const FilterDescription *filterNamed(const QString &name)
 {
     const auto filters = catalogue();
     const auto found = std::find_if(filters.begin(), filters.end(),
@@ -124,7 +122,7 @@ const FilterDescription *findFilter(const QString &name)
     return found == filters.end() ? nullptr : &*found;
 }
 
-bool accepts(const FilterInput &input, const QVariant &value)
+bool acceptsValue(const FilterInput &input, const QVariant &value)
 {
     if (isNumber(input.defaultValue))
         return isNumber(value);
@@ -137,5 +135,3 @@ bool accepts(const FilterInput &input, const QVariant &value)
     const auto color = value.value<CIColor>();
     return allFinite({color.red, color.green, color.blue, color.alpha});
 }
-
-} // namespace imaging

@@ -10,8 +10,6 @@
 #include <functional>
 #include <span>
 
-namespace imaging {
-
 /// One keyed input of a filter beside its image. The kind of the default is the kind of the
 /// input: any number for a number, a CIVector or a CIColor for theirs.
 struct FilterInput
@@ -21,14 +19,14 @@ struct FilterInput
 };
 
 /// The current value of an input that the filter has, by its key.
-using InputValues = std::function<QVariant(const QString &key)>;
+using FilterInputValues = std::function<QVariant(const QString &key)>;
 
 /// A filter by its name, its inputs, and what it does to a colour.
 struct FilterDescription
 {
     QString name;
     std::span<const FilterInput> inputs;
-    ColorTransform (*change)(const InputValues &values);
+    ColorTransform (*change)(const FilterInputValues &values);
 };
 
 /// Saturation about the luminance, then the brightness added, then contrast about 0.5.
@@ -39,9 +37,7 @@ ColorTransform colorControls(double saturation, double brightness, double contra
 ColorTransform colorMonochrome(const CIColor &color, double intensity);
 
 /// The three filters of the system; null for a name that is none of them.
-const FilterDescription *findFilter(const QString &name);
+const FilterDescription *filterNamed(const QString &name);
 
 /// True if `value` is of the kind of `input` and finite.
-bool accepts(const FilterInput &input, const QVariant &value);
-
-} // namespace imaging
+bool acceptsValue(const FilterInput &input, const QVariant &value);

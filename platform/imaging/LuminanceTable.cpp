@@ -9,19 +9,17 @@
 #include <cmath>
 #include <cstring>
 
-namespace imaging {
-
 namespace {
 
-constexpr QRgb opaque = 0xff000000U;
+constexpr QRgb kOpaque = 0xff000000U;
 
-/// The luminance of every step.
-struct Steps
+// The luminance of every step.
+struct LuminanceSteps
 {
-    static constexpr std::size_t size() { return Picture::luminanceSteps + 1; }
+    static constexpr std::size_t size() { return DecodedPicture::kLuminanceSteps + 1; }
     double operator[](std::size_t step) const
     {
-        return static_cast<int>(step) * (1.0 / Picture::luminanceSteps);
+        return static_cast<int>(step) * (1.0 / DecodedPicture::kLuminanceSteps);
     }
 };
 
@@ -36,7 +34,7 @@ bool isNeutral(const LuminanceRamp &ramp)
 bool LuminanceTable::isFineEnoughFor(const LuminanceRamp &ramp)
 {
     // Half a step, through the steepest part of the sRGB curve, has to stay below one level.
-    constexpr double levelsPerGain = 0.5 / Picture::luminanceSteps * 12.92 * 255.0;
+    constexpr double levelsPerGain = 0.5 / DecodedPicture::kLuminanceSteps * 12.92 * 255.0;
     return std::all_of(ramp.gain.begin(), ramp.gain.end(),
                        [](double gain) { return std::abs(gain) * levelsPerGain < 0.99; });
 }
@@ -59,7 +57,8 @@ void LuminanceTable::buildChannel(std::size_t channel, const LuminanceRamp &ramp
     const auto put = [&levels = m_levels[channel]](std::size_t step, quint8 level) {
         levels[step] = level;
     };
-    SrgbEncoder::instance().encodeEach(Steps(), ramp.gain[channel], ramp.bias[channel], put);
+    SrgbEncoder::instance().encodeEach(LuminanceSteps(), ramp.gain[channel], ramp.bias[channel],
+                                       put);
 }
 
 QRgb LuminanceTable::color(std::size_t step) const
@@ -72,13 +71,13 @@ void LuminanceTable::mapNeutral(const quint16 *luminance, QRgb *out, int count) 
 {
     const Levels &levels = m_levels[0];
     for (const QRgb *end = out + (count - count % 2); out != end; out += 2, luminance += 2) {
-        const quint64 pair = quint64(levels[luminance[0]]) << pixelShift[0] |
-                             quint64(levels[luminance[1]]) << pixelShift[1];
+        const quint64 pair = quint64(levels[luminance[0]]) << kPixelShift[0] |
+                             quint64(levels[luminance[1]]) << kPixelShift[1];
         const quint64 both = pair * 0x010101U | 0xff000000'ff000000;
         std::memcpy(out, &both, sizeof both);
     }
     if (count % 2 != 0)
-        *out = levels[*luminance] * 0x010101U | opaque;
+        *out = levels[*luminance] * 0x010101U | kOpaque;
 }
 
 void LuminanceTable::mapOpaque(const quint16 *luminance, QRgb *out, int count) const
@@ -88,14 +87,14 @@ void LuminanceTable::mapOpaque(const quint16 *luminance, QRgb *out, int count) c
         return;
     }
     for (int i = 0; i < count; ++i)
-        out[i] = opaque | color(luminance[i]);
+        out[i] = kOpaque | color(luminance[i]);
 }
 
 void LuminanceTable::mapWithAlpha(const quint16 *luminance, const QRgb *in, QRgb *out,
                                   int count) const
 {
     for (int i = 0; i < count; ++i)
-        out[i] = (in[i] & opaque) | color(luminance[i]);
+        out[i] = (in[i] & kOpaque) | color(luminance[i]);
 }
 
 void LuminanceTable::mapWithAlpha(const quint16 *luminance, const QRgba64 *in, QRgb *out,
@@ -104,5 +103,3 @@ void LuminanceTable::mapWithAlpha(const quint16 *luminance, const QRgba64 *in, Q
     for (int i = 0; i < count; ++i)
         out[i] = QRgb(in[i].alpha8()) << 24 | color(luminance[i]);
 }
-
-} // namespace imaging

@@ -9,19 +9,17 @@
 
 using namespace Qt::StringLiterals;
 
-namespace imaging {
-
 namespace {
 
-/// Qt refuses pictures of more than 128 MiB by a limit for the whole process. Lifts it to what
-/// maximumPixels needs, and puts it back.
+// Qt refuses pictures of more than 128 MiB by a limit for the whole process. Lifts it to what
+// kMaximumPixels needs, and puts it back.
 class AllocationLimit
 {
 public:
     AllocationLimit() : m_former(QImageReader::allocationLimit())
     {
         // 16 bytes a pixel: four floats, the widest format that a decoder answers.
-        QImageReader::setAllocationLimit(static_cast<int>(maximumPixels * 16 >> 20));
+        QImageReader::setAllocationLimit(static_cast<int>(kMaximumPixels * 16 >> 20));
     }
     ~AllocationLimit() { QImageReader::setAllocationLimit(m_former); }
     Q_DISABLE_COPY_MOVE(AllocationLimit)
@@ -30,8 +28,8 @@ private:
     int m_former;
 };
 
-/// The format that the file's first bytes tell; empty for any other. Qt would ask every image
-/// plug-in of the system, and loading those costs more than reading a picture.
+// The format that the file's first bytes tell; empty for any other. Qt would ask every image
+// plug-in of the system, and loading those costs more than reading a picture.
 QByteArray formatOf(const QString &path)
 {
     QFile file(path);
@@ -42,7 +40,7 @@ QByteArray formatOf(const QString &path)
     return start == "\x89PNG\r\n\x1a\n" ? "png" : "";
 }
 
-/// The whole file where it may be a plain one; larger files take their time in any case.
+// The whole file where it may be a plain one; larger files take their time in any case.
 QByteArray contentsIfSmall(const QString &path)
 {
     constexpr qint64 largestPlainFile = 1 << 20;
@@ -55,11 +53,11 @@ bool isAcceptable(QImageReader &reader)
 {
     const QSize size = reader.size();
     return size.isValid() && !size.isEmpty() &&
-           qint64(size.width()) * size.height() <= maximumPixels;
+           qint64(size.width()) * size.height() <= kMaximumPixels;
 }
 
-/// A conversion of the colour space goes back to the image's own format in the end, and a grey or
-/// palette image cannot hold what comes out of it.
+// A conversion of the colour space goes back to the image's own format in the end, and a grey or
+// palette image cannot hold what comes out of it.
 void widenToColor(QImage &pixels)
 {
     if (pixels.format() == QImage::Format_Grayscale16)
@@ -100,5 +98,3 @@ QImage readPicture(const QString &path)
     convertToSrgb(pixels);
     return pixels;
 }
-
-} // namespace imaging

@@ -5,11 +5,9 @@
 #include <QtCore/QString>
 #include <QtGui/QImage>
 
-namespace imaging {
-
 /// The most pixels that a file may have: 134 million, so that 100 megapixels fit. Decoded, that
 /// is 0.5 GiB, or 1 GiB with 16 bits a channel. A file that claims more is not decoded at all.
-inline constexpr qint64 maximumPixels = qint64(1) << 27;
+inline constexpr qint64 kMaximumPixels = qint64(1) << 27;
 
 /// Decodes the first picture of a TIFF or PNG file (the kind is told by the contents, not by the
 /// name), turned the way up that the file asks for, and converted to sRGB if the file has a
@@ -20,7 +18,5 @@ inline constexpr qint64 maximumPixels = qint64(1) << 27;
 /// seen.)
 ///
 /// The null image if the path names no regular file, or the file is of another kind, damaged,
-/// cut short, or larger than maximumPixels.
+/// cut short, or larger than kMaximumPixels.
 VELKARO_PLATFORM_EXPORT QImage readPicture(const QString &path);
-
-} // namespace imaging

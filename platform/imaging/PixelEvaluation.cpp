@@ -1,11 +1,9 @@
 #include "platform/imaging/PixelEvaluation.h"
 
-#include "platform/imaging/Picture.h"
+#include "platform/imaging/DecodedPicture.h"
 #include "platform/imaging/SrgbCurve.h"
 
 #include <QtGui/QRgba64>
-
-namespace imaging {
 
 namespace {
 
@@ -28,7 +26,7 @@ double changed(const LinearPixel &in, const ColorTransform::Row &row)
     return row[0] * in[0] + row[1] * in[1] + row[2] * in[2] + row[3] * in[3] + row[4];
 }
 
-/// Alpha is a share, not light: it has no curve.
+// Alpha is a share, not light: it has no curve.
 quint8 encodedAlpha(double alpha)
 {
     if (!(alpha > 0.0))
@@ -52,7 +50,7 @@ void evaluate(const Pixel *in, int count, const Linear &linear, const ColorTrans
 
 } // namespace
 
-void evaluateRow(const Picture &picture, int y, const ColorTransform &change, QRgb *out)
+void evaluateRow(const DecodedPicture &picture, int y, const ColorTransform &change, QRgb *out)
 {
     const int width = picture.size().width();
     if (picture.isDeep())
@@ -60,5 +58,3 @@ void evaluateRow(const Picture &picture, int y, const ColorTransform &change, QR
     else
         evaluate(picture.row(y), width, srgbDecode8(), change, out);
 }
-
-} // namespace imaging

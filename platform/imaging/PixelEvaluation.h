@@ -4,12 +4,8 @@
 
 #include <QtGui/QImage>
 
-namespace imaging {
-
-class Picture;
+class DecodedPicture;
 
 /// Evaluates any change, pixel by pixel in double precision. `out` has room for a row of the
 /// picture; its alpha is the changed one, rounded to 8 bits.
-void evaluateRow(const Picture &picture, int y, const ColorTransform &change, QRgb *out);
-
-} // namespace imaging
+void evaluateRow(const DecodedPicture &picture, int y, const ColorTransform &change, QRgb *out);

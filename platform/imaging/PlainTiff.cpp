@@ -8,8 +8,6 @@
 #include <algorithm>
 #include <optional>
 
-namespace imaging {
-
 namespace {
 
 // The tags that say how the pixels lie, by their numbers in the format.
@@ -40,7 +38,7 @@ constexpr quint32 kMostStrips = 1U << 16;
 
 using Values = QList<quint32>;
 
-/// The file's numbers, in its own byte order. Reading behind the end answers none.
+// The file's numbers, in its own byte order. Reading behind the end answers none.
 class Numbers
 {
 public:
@@ -59,7 +57,7 @@ private:
     bool m_big;
 };
 
-/// The values of the directory entry at the offset; empty when they are no whole numbers.
+// The values of the directory entry at the offset; empty when they are no whole numbers.
 Values valuesAt(const Numbers &numbers, quint64 entry)
 {
     constexpr quint16 shortType = 3;
@@ -104,7 +102,7 @@ bool isTiff(const QByteArray &file)
     return file.startsWith("II*") || file.startsWith(QByteArray("MM\0*", 4));
 }
 
-/// What a plain file says, or leaves to the default.
+// What a plain file says, or leaves to the default.
 bool isPlain(const Directory &directory)
 {
     const auto is = [&](Tag tag, quint32 value) {
@@ -133,7 +131,7 @@ struct Layout
     Values sizes;
 };
 
-/// None when the strips do not make up the picture.
+// None when the strips do not make up the picture.
 std::optional<Layout> layoutOf(const Directory &directory)
 {
     const auto single = [&](Tag tag) {
@@ -145,7 +143,7 @@ std::optional<Layout> layoutOf(const Directory &directory)
         single(RowsPerStrip), directory.value(StripOffsets), directory.value(StripByteCounts)};
     const qint64 largest = 1 << 15;
     if (layout.width < 1 || layout.width > largest || layout.height < 1 ||
-        layout.height > largest || layout.width * layout.height > maximumPixels)
+        layout.height > largest || layout.width * layout.height > kMaximumPixels)
         return std::nullopt;
     if (!directory.contains(RowsPerStrip))
         layout.rowsPerStrip = layout.height;
@@ -158,7 +156,7 @@ std::optional<Layout> layoutOf(const Directory &directory)
     return layout;
 }
 
-/// The bytes of the strip; none when the file has not exactly `size` of them.
+// The bytes of the strip; none when the file has not exactly `size` of them.
 const uchar *stripOf(const QByteArray &file, const Layout &layout, qsizetype strip, qint64 size)
 {
     const qint64 offset = layout.offsets[strip];
@@ -194,5 +192,3 @@ QImage readPlainTiff(const QByteArray &file)
     }
     return image;
 }
-
-} // namespace imaging

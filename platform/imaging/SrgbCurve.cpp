@@ -3,8 +3,6 @@
 #include <cmath>
 #include <limits>
 
-namespace imaging {
-
 double srgbDecode(double encoded)
 {
     if (encoded <= 0.04045)
@@ -47,10 +45,8 @@ SrgbEncoder::SrgbEncoder() : m_atBin{}, m_step{}
     m_step[255] = std::numeric_limits<double>::infinity();
     quint8 value = 0;
     for (std::size_t bin = 0; bin < m_atBin.size(); ++bin) {
-        if (m_step[value] <= static_cast<double>(bin) / binsPerUnit + lowest)
+        if (m_step[value] <= static_cast<double>(bin) / kBinsPerUnit + kLowest)
             ++value;
         m_atBin[bin] = value;
     }
 }
-
-} // namespace imaging

@@ -5,8 +5,6 @@
 #include <array>
 #include <vector>
 
-namespace imaging {
-
 /// Linear light of an sRGB component, both from 0 to 1 (IEC 61966-2-1).
 double srgbDecode(double encoded);
 
@@ -46,28 +44,26 @@ public:
     }
 
 private:
-    static constexpr int binsPerUnit = 4096;
-    static constexpr int lowest = -1;
-    static constexpr int highest = 2;
+    static constexpr int kBinsPerUnit = 4096;
+    static constexpr int kLowest = -1;
+    static constexpr int kHighest = 2;
 
     SrgbEncoder();
 
-    static bool isNear(double linear) { return linear >= lowest && linear < highest; }
+    static bool isNear(double linear) { return linear >= kLowest && linear < kHighest; }
 
     /// For values that isNear: the bins beyond 0 and 1 do the clamping, since two comparisons a
     /// value would cost more than all the rest.
     quint8 encodeNear(double linear) const
     {
-        const auto bin = static_cast<int>((linear - lowest) * binsPerUnit);
+        const auto bin = static_cast<int>((linear - kLowest) * kBinsPerUnit);
         const unsigned value = m_atBin[static_cast<std::size_t>(bin)];
         return static_cast<quint8>(value + unsigned(linear >= m_step[value]));
     }
 
     /// The value at each bin's lower edge; one bin more for a value that was rounded up to the
     /// upper end.
-    std::array<quint8, (highest - lowest) * binsPerUnit + 1> m_atBin;
+    std::array<quint8, (kHighest - kLowest) * kBinsPerUnit + 1> m_atBin;
     /// Where the value after the index begins; nowhere after 255.
     std::array<double, 256> m_step;
 };
-
-} // namespace imaging

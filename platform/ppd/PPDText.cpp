@@ -26,13 +26,16 @@ QByteArray ppdBytes(const QString &name)
     return ascii ? name.toLatin1() : QByteArray("?");
 }
 
+bool isSameName(const QString &one, const QString &other)
+{
+    return one.compare(other, Qt::CaseInsensitive) == 0;
+}
+
 ppd_option_t *findOption(ppd_file_t *ppd, const QString &keyword)
 {
     if (!ppd || keyword.isEmpty())
         return nullptr;
-    const QByteArray name = ppdBytes(keyword);
-    ppd_option_t *option = ppdFindOption(ppd, name.constData());
-    return option && name == option->keyword ? option : nullptr;
+    return ppdFindOption(ppd, ppdBytes(keyword).constData());
 }
 
 ppd_choice_t *findChoice(ppd_option_t *option, const QString &choice)
@@ -41,7 +44,8 @@ ppd_choice_t *findChoice(ppd_option_t *option, const QString &choice)
         return nullptr;
     const QByteArray name = ppdBytes(choice);
     ppd_choice_t *found = ppdFindChoice(option, name.constData());
-    return found && name == found->choice ? found : nullptr;
+    // "Custom.72x72" would find the choice "Custom", and lose its value.
+    return found && qstricmp(name.constData(), found->choice) == 0 ? found : nullptr;
 }
 
 QString markedChoice(ppd_file_t *ppd, const QString &keyword)

@@ -30,7 +30,7 @@ void DisclosureButton::paintEvent(QPaintEvent *)
 {
     QStyleOptionToolButton option;
     initStyleOption(&option);
-    // The arrow says it; a pressed-in frame around it would say it twice.
+    // The arrow tells the state; a sunken frame around it would only repeat it.
     option.state.setFlag(QStyle::State_On, false);
     QStylePainter(this).drawComplexControl(QStyle::CC_ToolButton, option);
 }

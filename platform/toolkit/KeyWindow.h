@@ -23,5 +23,7 @@ inline constexpr auto kWindowWillCloseNotification = "NSWindowWillCloseNotificat
 /// Posted by the toolkit when a view has come to a new size on screen; its object is the view.
 inline constexpr auto kViewDidUpdateTrackingAreasNotification =
     "NSViewDidUpdateTrackingAreasNotification";
-/// Posted by the toolkit when an item of a menu has been chosen; its object is the pop-up button.
+/// Posted by the dialog when an item of its pop-up of papers has been chosen and has done its work.
+/// Its object is the pop-up (a QWidget), which may have gone by then, and its user information has
+/// the item's title under "MenuItem".
 inline constexpr auto kMenuDidSendActionNotification = "NSMenuDidSendActionNotification";

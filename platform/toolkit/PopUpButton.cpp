@@ -20,8 +20,9 @@ PopUpButton::PopUpButton(QWidget *parent) : QComboBox(parent), m_items(new PopUp
     setFocusPolicy(Qt::StrongFocus);
 }
 
-// A combo box would measure the text of every item, which is what showing a panel with many choices
-// would spend its time on; its own policy for a fixed length makes the list that opens, at once.
+// A combo box measures the text of every item, which would be most of the time that a panel with
+// many choices takes to show. With its own policy for a fixed length it creates the drop-down list
+// at once.
 QSize PopUpButton::sizeHint() const
 {
     const QFontMetrics metrics = fontMetrics();

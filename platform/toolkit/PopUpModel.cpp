@@ -52,7 +52,7 @@ const QIcon &PopUpModel::iconOf(const Row &row) const
 {
     if (!row.icon) {
         const QString path = m_pictureOf ? m_pictureOf(row.item.representedObject) : QString();
-        row.icon = path.isNull() ? QIcon() : QIcon(QPixmap::fromImage(imaging::readPicture(path)));
+        row.icon = path.isNull() ? QIcon() : QIcon(QPixmap::fromImage(readPicture(path)));
     }
     return *row.icon;
 }

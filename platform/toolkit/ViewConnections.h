@@ -4,6 +4,7 @@
 
 #include <QtCore/QHash>
 #include <QtCore/QList>
+#include <QtCore/QPointer>
 #include <QtCore/QString>
 #include <QtWidgets/QWidget>
 
@@ -29,6 +30,15 @@ public:
         m_outlets[name].append([&pointer](QWidget *widget) {
             pointer = dynamic_cast<Widget *>(widget);
             return pointer != nullptr;
+        });
+    }
+
+    /// The same for a pointer that becomes null when its widget is destroyed.
+    template <typename Widget> void outlet(const QString &name, QPointer<Widget> &pointer)
+    {
+        m_outlets[name].append([&pointer](QWidget *widget) {
+            pointer = dynamic_cast<Widget *>(widget);
+            return !pointer.isNull();
         });
     }
 

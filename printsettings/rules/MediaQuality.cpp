@@ -55,6 +55,16 @@ const QStringList &plainQualities(bool duplex)
 
 } // namespace
 
+QStringList knownMedia()
+{
+    QStringList media = plainPaperMedia();
+    for (const std::vector<Row> &table : {coatedTable(), discTable()}) {
+        for (const Row &row : table)
+            media << row.media;
+    }
+    return media;
+}
+
 AllowedQualities allowedQualities(const QString &mediaType, bool discPaper, bool duplex)
 {
     if (discPaper) {

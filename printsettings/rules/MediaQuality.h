@@ -6,6 +6,9 @@
 /// Which print qualities (choices of `VKResolution`) go with a medium (choice of `VKMediaType`),
 /// and which of them the paper takes away. A null medium is a medium that nobody knows.
 
+/// The media that have qualities of their own. All others are taken for plain paper.
+QStringList knownMedia();
+
 struct AllowedQualities
 {
     QStringList qualities; ///< in the order of the pop-up

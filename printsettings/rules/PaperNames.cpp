@@ -22,9 +22,15 @@ QString withoutVariant(const QString &paperName)
 
 } // namespace
 
+QStringList plainPaperMedia()
+{
+    return {u"Plain"_s, u"PlainDuplex"_s, u"HagakiAtena"_s};
+}
+
 bool isKindOfPlainPaper(const QString &mediaType)
 {
-    return isListed(mediaType, {"Plain"_L1, "PlainDuplex"_L1, "HagakiAtena"_L1});
+    static const QStringList media = plainPaperMedia();
+    return !mediaType.isNull() && media.contains(mediaType);
 }
 
 bool isBorderelessForPaperSize(const QString &paperName, const QString &baseSize)

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QtCore/QString>
+#include <QtCore/QStringList>
 
 /// Yes-or-no questions about the name of a medium, of a paper or of a model.
 ///
@@ -9,7 +10,8 @@
 /// exact and case-sensitive. "Without its variant" means without the last point and all behind it,
 /// also where the point belongs to the size: "3.5x5" is then "3". A null name gets the answer no.
 
-/// Media that count as plain paper.
+/// Media that count as plain paper, and whether the medium is one of them.
+QStringList plainPaperMedia();
 bool isKindOfPlainPaper(const QString &mediaType);
 
 /// Whether the paper is the borderless form of the base size: its name begins with the size and

@@ -2,6 +2,13 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="ja" sourcelanguage="en">
 <context>
+    <name>CheckCommand</name>
+    <message>
+        <source>The plug-in %1 cannot check a PPD.</source>
+        <translation>プラグイン %1 は PPD を調べることができません。</translation>
+    </message>
+</context>
+<context>
     <name>CommandLine</name>
     <message>
         <source>&quot;%1&quot; is not the name of a queue.</source>
@@ -42,6 +49,10 @@
     <message>
         <source>The value of %1 is no UTF-8 text.</source>
         <translation>%1 の値は UTF-8 の文字列ではありません。</translation>
+    </message>
+    <message>
+        <source>--check-ppd only looks at a PPD: it prints and replays nothing.</source>
+        <translation>--check-ppd は PPD を調べるだけです。印刷やスクリプトの実行とは同時に指定できません。</translation>
     </message>
 </context>
 <context>

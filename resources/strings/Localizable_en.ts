@@ -151,5 +151,30 @@
         <source>Paper Orientation Title</source>
         <translation>Check the paper orientation</translation>
     </message>
+    <!-- What a look at a PPD finds: keyword, choice, and how the panels spell it -->
+    <message>
+        <source>PPD Choice Unknown</source>
+        <translation>The panels do not know the choice %2 of %1.</translation>
+    </message>
+    <message>
+        <source>PPD Choice Missing</source>
+        <translation>%1 lacks the choice %2, which the panels set by themselves.</translation>
+    </message>
+    <message>
+        <source>PPD Letters</source>
+        <translation>The choice %2 of %1 is %3 to the panels: spell it so, or they take it for another one.</translation>
+    </message>
+    <message>
+        <source>PPD Default</source>
+        <translation>%2, the default of %1, is none of its choices as they are spelt.</translation>
+    </message>
+    <message>
+        <source>PPD Partner Missing</source>
+        <translation>%1 needs %2, which the PPD lacks.</translation>
+    </message>
+    <message>
+        <source>PPD Picture</source>
+        <translation>The preview has no picture for the choice %2 of %1.</translation>
+    </message>
 </context>
 </TS>

@@ -151,5 +151,30 @@
         <source>Paper Orientation Title</source>
         <translation>用紙の向きを確認してください</translation>
     </message>
+    <!-- What a look at a PPD finds: keyword, choice, and how the panels spell it -->
+    <message>
+        <source>PPD Choice Unknown</source>
+        <translation>%1 の選択肢 %2 は設定パネルが認識できません。</translation>
+    </message>
+    <message>
+        <source>PPD Choice Missing</source>
+        <translation>%1 に、設定パネルが自動的に選ぶ選択肢 %2 がありません。</translation>
+    </message>
+    <message>
+        <source>PPD Letters</source>
+        <translation>%1 の選択肢 %2 は、設定パネルでは %3 と書きます。大文字と小文字を合わせないと別の選択肢とみなされます。</translation>
+    </message>
+    <message>
+        <source>PPD Default</source>
+        <translation>%1 の初期値 %2 と同じつづりの選択肢がありません。</translation>
+    </message>
+    <message>
+        <source>PPD Partner Missing</source>
+        <translation>%1 に必要な %2 が PPD にありません。</translation>
+    </message>
+    <message>
+        <source>PPD Picture</source>
+        <translation>%1 の選択肢 %2 には、プレビュー用の画像がありません。</translation>
+    </message>
 </context>
 </TS>

@@ -1,5 +1,6 @@
 #include "platform/foundation/NotificationCenter.h"
 #include "platform/toolkit/ControlColor.h"
+#include "platform/toolkit/ImageView.h"
 #include "platform/toolkit/KeyWindow.h"
 #include "platform/toolkit/PopUpButton.h"
 #include "platform/toolkit/RadioMatrix.h"
@@ -9,6 +10,10 @@
 #include <QtWidgets/QCheckBox>
 #include <QtWidgets/QLabel>
 #include <QtWidgets/QPushButton>
+#include <QtWidgets/QRadioButton>
+#include <QtWidgets/QStyle>
+
+#include <cstdlib>
 
 using namespace Qt::StringLiterals;
 
@@ -244,6 +249,49 @@ TEST_F(ControlsTest, ARefusedMatchingIsPutBack)
     matrix.pick(matrix.rowOfRepresentedObject(u"None"_s));
     EXPECT_EQ(matrix.selectedObject(), u"Vivid"_s);
     EXPECT_EQ(dialog.calls, QStringList{u"VKColorMatching=None refused"_s});
+}
+
+TEST_F(ControlsTest, TheMatrixGrowsWithItsRowsAboveTheSectionsTitle)
+{
+    ColorDialog dialog(
+        openText(sampleText(u"velkaro-px-t900"_s)
+                     .replace("*VKColorMatching None/None:", "*VKColorMatching Soft/Soft: \"\"\n"
+                                                             "*VKColorMatching Warm/Warm: \"\"\n"
+                                                             "*VKColorMatching None/None:")));
+    dialog.show();
+    const auto &matrix = dialog.part<RadioMatrix>("colorMatchingMatrix");
+    const auto cells = matrix.findChildren<QRadioButton *>();
+    ASSERT_EQ(cells.size(), 5);
+    const int circle = matrix.style()->pixelMetric(QStyle::PM_ExclusiveIndicatorHeight);
+    for (qsizetype row = 1; row < cells.size(); ++row) {
+        const int pitch =
+            cells[row]->geometry().center().y() - cells[row - 1]->geometry().center().y();
+        EXPECT_GT(pitch, circle) << row;
+    }
+    const QRect label = dialog.part<QWidget>("colorMatchingLabel").geometry();
+    const int firstRow = matrix.y() + cells[0]->geometry().center().y();
+    EXPECT_LE(std::abs(label.center().y() - firstRow), 1) << "beside the first row";
+    EXPECT_LE(matrix.geometry().bottom(), dialog.part<QWidget>("optionLabel").geometry().top());
+    EXPECT_LE(dialog.part<QWidget>("optionLabel").geometry().bottom(), 110);
+    EXPECT_EQ(dialog.part<QWidget>("optionButton").y(), dialog.part<QWidget>("optionLabel").y());
+    EXPECT_EQ(dialog.panel->inspectedView()->height(), 110);
+}
+
+TEST_F(ControlsTest, AMatrixThatHasRoomStaysAsTheViewHasIt)
+{
+    ColorDialog dialog;
+    dialog.show();
+    EXPECT_EQ(dialog.part<QWidget>("colorMatchingMatrix").geometry(), QRect(152, 6, 112, 66));
+    EXPECT_EQ(dialog.part<QWidget>("optionLabel").y(), 81);
+}
+
+TEST_F(ControlsTest, TheViewHasAnImageViewForTheColourMode)
+{
+    ColorDialog dialog;
+    dialog.show();
+    QWidget *image = dialog.panel->inspectedOutlets().value(u"colorModeImageView"_s);
+    ASSERT_TRUE(qobject_cast<ImageView *>(image));
+    EXPECT_TRUE(image->isHidden()) << "it has nothing to show";
 }
 
 TEST_F(ControlsTest, TheEnhancementBoxSwitchesTheValuesOnAndOff)

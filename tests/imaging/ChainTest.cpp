@@ -6,12 +6,10 @@
 
 #include <limits>
 
-using namespace reference;
-
 namespace {
 
-constexpr CIColor white{1.0, 1.0, 1.0, 1.0};
-constexpr CIColor sepia{0.6, 0.45, 0.3, 1.0};
+constexpr CIColor kWhite{1.0, 1.0, 1.0, 1.0};
+constexpr CIColor kSepia{0.6, 0.45, 0.3, 1.0};
 
 /// A chain of filters, the same chain by its formulas, and by how many levels of 255 a drawn
 /// pixel may differ.
@@ -19,7 +17,7 @@ struct ChainCase
 {
     const char *name;
     std::vector<ChainLink> links;
-    std::vector<Step> steps;
+    std::vector<ReferenceStep> steps;
     int allowed;
 };
 
@@ -33,7 +31,7 @@ ChainLink mixing()
              {kCIInputBiasVectorKey, QVariant::fromValue(CIVector{0.05, -0.02, 0.01, 0.1})}}};
 }
 
-Pixel mixed(const Pixel &in)
+LinearPixel mixed(const LinearPixel &in)
 {
     return {0.2 * in.red + 0.9 * in.green - 0.3 * in.blue + 0.1 * in.alpha + 0.05,
             0.5 * in.red + 0.1 * in.green + 0.4 * in.blue - 0.02,
@@ -60,27 +58,27 @@ const std::vector<ChainCase> &chains()
          {gains(1.5, 0.43, 1.1), controls(1, 0.1, 0.875)},
          0},
         {"controlsThenMono",
-         {controlsLink(1, -0.1, 1.125), monoLink(white, 1)},
+         {controlsLink(1, -0.1, 1.125), monoLink(kWhite, 1)},
          {controls(1, -0.1, 1.125), mono(1, 1, 1, 1)},
          1},
         {"monoThenControls",
-         {monoLink(white, 1), controlsLink(1, -0.1, 1.125)},
+         {monoLink(kWhite, 1), controlsLink(1, -0.1, 1.125)},
          {mono(1, 1, 1, 1), controls(1, -0.1, 1.125)},
          1},
         // What depends on the luminance alone, tinted; and what only seems to.
-        {"sepia", {monoLink(sepia, 1)}, {mono(0.6, 0.45, 0.3, 1)}, 1},
+        {"sepia", {monoLink(kSepia, 1)}, {mono(0.6, 0.45, 0.3, 1)}, 1},
         {"monoThenGains",
-         {monoLink(white, 1), gainsLink(1.4, 1, 0.6)},
+         {monoLink(kWhite, 1), gainsLink(1.4, 1, 0.6)},
          {mono(1, 1, 1, 1), gains(1.4, 1, 0.6)},
          1},
         {"noSaturation", {controlsLink(0, 0.05, 1.1)}, {controls(0, 0.05, 1.1)}, 1},
         {"monoTooSteepForTheKeptLuminance",
-         {monoLink(white, 1), controlsLink(1, 0, 9)},
+         {monoLink(kWhite, 1), controlsLink(1, 0, 9)},
          {mono(1, 1, 1, 1), controls(1, 0, 9)},
          0},
-        {"halfMono", {monoLink(sepia, 0.5)}, {mono(0.6, 0.45, 0.3, 0.5)}, 0},
+        {"halfMono", {monoLink(kSepia, 0.5)}, {mono(0.6, 0.45, 0.3, 0.5)}, 0},
         {"gainsThenMono",
-         {gainsLink(1.5, 0.43, 1.1), monoLink(white, 1)},
+         {gainsLink(1.5, 0.43, 1.1), monoLink(kWhite, 1)},
          {gains(1.5, 0.43, 1.1), mono(1, 1, 1, 1)},
          0},
         // Channels that depend on each other.

@@ -11,11 +11,9 @@
 #include <cmath>
 #include <cstdlib>
 
-using namespace reference;
-
 namespace {
 
-constexpr int settings = 41; ///< a slider's whole numbers, -20 to 20
+constexpr int kSettings = 41; ///< a slider's whole numbers, -20 to 20
 
 float brightnessOf(int setting)
 {
@@ -77,7 +75,7 @@ private:
 };
 
 using Levels = std::array<quint8, 256>;
-using LevelsByGain = std::array<Levels, settings>;
+using LevelsByGain = std::array<Levels, kSettings>;
 
 double controlled(double linear, int brightness, int contrast)
 {
@@ -95,7 +93,7 @@ template <typename Formula> LevelsByGain expectedLevels(const Formula &formula)
         return values;
     }();
     LevelsByGain expected;
-    for (int gain = 0; gain < settings; ++gain)
+    for (int gain = 0; gain < kSettings; ++gain)
         for (std::size_t i = 0; i < linear.size(); ++i)
             expected[std::size_t(gain)][i] = quint8(level(formula(linear[i], gainOf(gain))));
     return expected;
@@ -119,7 +117,7 @@ long wrongBytes(const QImage &drawn, const LevelsByGain &expected, const std::ar
 /// Each channel goes through all gains, and no two channels ever have the same.
 std::array<int, 3> gainsAt(int gain)
 {
-    return {gain, (gain + 13) % settings, (gain + 29) % settings};
+    return {gain, (gain + 13) % kSettings, (gain + 29) % kSettings};
 }
 
 /// Colours all over the cube, and every grey.
@@ -160,8 +158,8 @@ TEST(Exactness, NoColourByteIsOffInAnySettingAndEitherOrder)
 {
     Preview preview(greyRamp());
     long wrong = 0;
-    for (int brightness = 0; brightness < settings; ++brightness) {
-        for (int contrast = 0; contrast < settings; ++contrast) {
+    for (int brightness = 0; brightness < kSettings; ++brightness) {
+        for (int contrast = 0; contrast < kSettings; ++contrast) {
             preview.set(brightness, contrast);
             const LevelsByGain matrixLast = expectedLevels([&](double linear, double gain) {
                 return controlled(linear, brightness, contrast) * gain;
@@ -169,7 +167,7 @@ TEST(Exactness, NoColourByteIsOffInAnySettingAndEitherOrder)
             const LevelsByGain matrixFirst = expectedLevels([&](double linear, double gain) {
                 return controlled(linear * gain, brightness, contrast);
             });
-            for (int gain = 0; gain < settings; ++gain) {
+            for (int gain = 0; gain < kSettings; ++gain) {
                 const auto gains = gainsAt(gain);
                 preview.setGains(gains);
                 wrong += wrongBytes(preview.controlsThenMatrix(), matrixLast, gains);
@@ -188,8 +186,8 @@ TEST(Exactness, NoMonoByteIsMoreThanOneLevelOffInAnySettingAndEitherOrder)
     Preview preview(picture);
     std::vector<int> expected(grey.size());
     int worst = 0;
-    for (int brightness = 0; brightness < settings; ++brightness) {
-        for (int contrast = 0; contrast < settings; ++contrast) {
+    for (int brightness = 0; brightness < kSettings; ++brightness) {
+        for (int contrast = 0; contrast < kSettings; ++contrast) {
             preview.set(brightness, contrast);
             std::transform(grey.begin(), grey.end(), expected.begin(), [&](double linear) {
                 return level(controlled(linear, brightness, contrast));

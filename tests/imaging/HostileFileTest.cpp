@@ -60,7 +60,7 @@ std::vector<HostileCase> hostileFiles()
                                     .remove(Tag::RowsPerStrip)
                                     .set(Tag::TileWidth, {0x10000})
                                     .set(Tag::TileLength, {0x7ff0})
-                                    .set(Tag::TileOffsets, {TiffBuilder::pixelOffset})
+                                    .set(Tag::TileOffsets, {TiffBuilder::kPixelOffset})
                                     .set(Tag::TileByteCounts, {16})
                                     .file()},
         {"TileOfNoWidth", small()
@@ -68,7 +68,7 @@ std::vector<HostileCase> hostileFiles()
                               .remove(Tag::StripByteCounts)
                               .set(Tag::TileWidth, {0})
                               .set(Tag::TileLength, {16})
-                              .set(Tag::TileOffsets, {TiffBuilder::pixelOffset})
+                              .set(Tag::TileOffsets, {TiffBuilder::kPixelOffset})
                               .set(Tag::TileByteCounts, {16})
                               .file()},
         // Samples that nobody has.

@@ -7,12 +7,10 @@
 
 #include <sys/resource.h>
 
-using namespace reference;
-
 namespace {
 
-constexpr quint32 side = 10000;
-constexpr quint32 stripRows = 100;
+constexpr quint32 kSide = 10000;
+constexpr quint32 kStripRows = 100;
 
 /// A file in which all strips are the same one: large pictures in few bytes. `height` is a
 /// multiple of the strip's rows.
@@ -24,14 +22,14 @@ QByteArray repeatedStrip(quint32 width, quint32 height, quint32 rows)
     const std::size_t strips = height / rows;
     return TiffBuilder::grey(width, height, strip)
         .set(TiffBuilder::RowsPerStrip, {rows})
-        .set(TiffBuilder::StripOffsets, std::vector(strips, TiffBuilder::pixelOffset))
+        .set(TiffBuilder::StripOffsets, std::vector(strips, TiffBuilder::kPixelOffset))
         .set(TiffBuilder::StripByteCounts, std::vector(strips, quint32(strip.size())))
         .file();
 }
 
 int expectedLevel(int x, int y, double gain)
 {
-    const auto index = (y % int(stripRows)) * int(side) + x;
+    const auto index = (y % int(kStripRows)) * int(kSide) + x;
     return level(toLinear(index % 251 / 255.0) * gain);
 }
 
@@ -46,15 +44,15 @@ double peakMegabytes()
 
 TEST(LargePicture, OfAHundredMegapixelsIsReadAndDrawnInBoundedMemory)
 {
-    const TestFile file(repeatedStrip(side, side, stripRows));
+    const TestFile file(repeatedStrip(kSide, kSide, kStripRows));
     const Image image = CIImage::imageWithContentsOfFile(file.path());
     ASSERT_TRUE(image);
-    EXPECT_EQ(image->extent(), QRect(0, 0, int(side), int(side)));
+    EXPECT_EQ(image->extent(), QRect(0, 0, int(kSide), int(kSide)));
 
     const QImage result = drawn(chained(image, {gainsLink(1.3, 1, 0.7)}));
-    for (int i = 0; i < int(side); i += 7) {
-        const QRgb pixel = result.pixel(i, int(side) - 1 - i);
-        const int y = int(side) - 1 - i;
+    for (int i = 0; i < int(kSide); i += 7) {
+        const QRgb pixel = result.pixel(i, int(kSide) - 1 - i);
+        const int y = int(kSide) - 1 - i;
         ASSERT_EQ(pixel,
                   qRgb(expectedLevel(i, y, 1.3), expectedLevel(i, y, 1), expectedLevel(i, y, 0.7)))
             << i;

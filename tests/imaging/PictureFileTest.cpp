@@ -9,8 +9,6 @@
 
 #include <gtest/gtest.h>
 
-using namespace reference;
-
 namespace {
 
 QImage drawnFile(const TestFile &file)

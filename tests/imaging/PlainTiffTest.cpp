@@ -12,9 +12,9 @@ namespace {
 
 using Tag = TiffBuilder::Tag;
 
-constexpr Tag predictor = Tag(317);
-constexpr Tag extraSamples = Tag(338);
-constexpr Tag colorProfile = Tag(34675);
+constexpr Tag kPredictor = Tag(317);
+constexpr Tag kExtraSamples = Tag(338);
+constexpr Tag kColorProfile = Tag(34675);
 
 /// Two by two pixels of `samples` bytes each, in the order of the rows.
 TiffBuilder colorFile(quint32 samples, const QByteArray &bytes)
@@ -26,8 +26,8 @@ TiffBuilder colorFile(quint32 samples, const QByteArray &bytes)
         .set(Tag::StripByteCounts, {quint32(bytes.size())});
 }
 
-const QByteArray opaqueBytes = QByteArray::fromHex("010203 0a0b0c fffefd 000000");
-const QByteArray alphaBytes = QByteArray::fromHex("01020300 0a0b0c01 fffefd80 000000ff");
+const QByteArray kOpaqueBytes = QByteArray::fromHex("010203 0a0b0c fffefd 000000");
+const QByteArray kAlphaBytes = QByteArray::fromHex("01020300 0a0b0c01 fffefd80 000000ff");
 
 QList<QRgb> pixelsOf(const QImage &image)
 {
@@ -39,35 +39,34 @@ QList<QRgb> pixelsOf(const QImage &image)
     return pixels;
 }
 
-const QList<QRgb> opaquePixels = {0xff010203, 0xff0a0b0c, 0xfffffefd, 0xff000000};
-const QList<QRgb> alphaPixels = {0x00010203, 0x010a0b0c, 0x80fffefd, 0xff000000};
+const QList<QRgb> kOpaquePixels = {0xff010203, 0xff0a0b0c, 0xfffffefd, 0xff000000};
+const QList<QRgb> kAlphaPixels = {0x00010203, 0x010a0b0c, 0x80fffefd, 0xff000000};
 
 } // namespace
 
 TEST(PlainTiff, GivesTheBytesAsTheyStand)
 {
-    const QImage image = imaging::readPlainTiff(colorFile(3, opaqueBytes).file());
+    const QImage image = readPlainTiff(colorFile(3, kOpaqueBytes).file());
     EXPECT_EQ(image.format(), QImage::Format_RGB32);
-    EXPECT_EQ(pixelsOf(image), opaquePixels);
+    EXPECT_EQ(pixelsOf(image), kOpaquePixels);
 }
 
 TEST(PlainTiff, KeepsTheColorsOfTransparentPixels)
 {
-    const QImage image =
-        imaging::readPlainTiff(colorFile(4, alphaBytes).set(extraSamples, {2}).file());
+    const QImage image = readPlainTiff(colorFile(4, kAlphaBytes).set(kExtraSamples, {2}).file());
     EXPECT_EQ(image.format(), QImage::Format_ARGB32);
-    EXPECT_EQ(pixelsOf(image), alphaPixels);
+    EXPECT_EQ(pixelsOf(image), kAlphaPixels);
 }
 
 TEST(PlainTiff, ReadsStripAfterStrip)
 {
     const auto file =
-        colorFile(3, opaqueBytes)
+        colorFile(3, kOpaqueBytes)
             .set(Tag::RowsPerStrip, {1})
-            .set(Tag::StripOffsets, {TiffBuilder::pixelOffset, TiffBuilder::pixelOffset + 6})
+            .set(Tag::StripOffsets, {TiffBuilder::kPixelOffset, TiffBuilder::kPixelOffset + 6})
             .set(Tag::StripByteCounts, {6, 6})
             .file();
-    EXPECT_EQ(pixelsOf(imaging::readPlainTiff(file)), opaquePixels);
+    EXPECT_EQ(pixelsOf(readPlainTiff(file)), kOpaquePixels);
 }
 
 TEST(PlainTiff, ReadsThePicturesThatThePanelsShow)
@@ -75,7 +74,7 @@ TEST(PlainTiff, ReadsThePicturesThatThePanelsShow)
     for (const char *name : {"Natural", "Vivid", "None", "Glossy"}) {
         QFile file(QStringLiteral(PICTURE_FOLDER "/%1.tiff").arg(QLatin1String(name)));
         ASSERT_TRUE(file.open(QIODevice::ReadOnly)) << name;
-        const QImage plain = imaging::readPlainTiff(file.readAll());
+        const QImage plain = readPlainTiff(file.readAll());
         const QImage other(file.fileName());
         ASSERT_EQ(plain.size(), other.size()) << name;
         // Qt's decoder has multiplied the alpha in.
@@ -97,9 +96,9 @@ TEST(PlainTiff, LeavesEverythingElseToAnotherDecoder)
         {"not as many bits", [](TiffBuilder &tiff) { tiff.set(Tag::BitsPerSample, {8}); }},
         {"grey", [](TiffBuilder &tiff) { tiff.set(Tag::Photometric, {1}); }},
         {"no samples", [](TiffBuilder &tiff) { tiff.set(Tag::SamplesPerPixel, {0}); }},
-        {"alpha multiplied in", [](TiffBuilder &tiff) { tiff.set(extraSamples, {1}); }},
-        {"predicted", [](TiffBuilder &tiff) { tiff.set(predictor, {2}); }},
-        {"with a profile", [](TiffBuilder &tiff) { tiff.set(colorProfile, {1}); }},
+        {"alpha multiplied in", [](TiffBuilder &tiff) { tiff.set(kExtraSamples, {1}); }},
+        {"predicted", [](TiffBuilder &tiff) { tiff.set(kPredictor, {2}); }},
+        {"with a profile", [](TiffBuilder &tiff) { tiff.set(kColorProfile, {1}); }},
         {"in tiles", [](TiffBuilder &tiff) { tiff.set(Tag::TileWidth, {16}); }},
         {"without a width", [](TiffBuilder &tiff) { tiff.set(Tag::ImageWidth, {0}); }},
         {"too high", [](TiffBuilder &tiff) { tiff.set(Tag::ImageLength, {0xffffffff}); }},
@@ -109,19 +108,19 @@ TEST(PlainTiff, LeavesEverythingElseToAnotherDecoder)
         {"a strip outside", [](TiffBuilder &tiff) { tiff.set(Tag::StripOffsets, {0xfffffff0}); }},
     };
     for (const auto &[name, change] : changes) {
-        TiffBuilder tiff = colorFile(3, opaqueBytes);
+        TiffBuilder tiff = colorFile(3, kOpaqueBytes);
         change(tiff);
-        EXPECT_TRUE(imaging::readPlainTiff(tiff.file()).isNull()) << name;
+        EXPECT_TRUE(readPlainTiff(tiff.file()).isNull()) << name;
     }
 }
 
 TEST(PlainTiff, ReadsNothingOfACutFile)
 {
-    const QByteArray whole = colorFile(3, opaqueBytes).file();
+    const QByteArray whole = colorFile(3, kOpaqueBytes).file();
     constexpr qsizetype nextDirectory = 4; // the last field, which nobody asks for
     for (qsizetype size = 0; size < whole.size() - nextDirectory; ++size) {
-        const QImage image = imaging::readPlainTiff(whole.left(size));
-        EXPECT_TRUE(image.isNull() || pixelsOf(image) == opaquePixels) << size;
+        const QImage image = readPlainTiff(whole.left(size));
+        EXPECT_TRUE(image.isNull() || pixelsOf(image) == kOpaquePixels) << size;
     }
-    EXPECT_TRUE(imaging::readPlainTiff(whole.left(whole.size() / 2)).isNull());
+    EXPECT_TRUE(readPlainTiff(whole.left(whole.size() / 2)).isNull());
 }

@@ -24,7 +24,7 @@ TiffBuilder TiffBuilder::grey(quint32 width, quint32 height, const QByteArray &p
         .set(BitsPerSample, {8})
         .set(Compression, {1})
         .set(Photometric, {1})
-        .set(StripOffsets, {pixelOffset})
+        .set(StripOffsets, {kPixelOffset})
         .set(SamplesPerPixel, {1})
         .set(RowsPerStrip, {height})
         .set(StripByteCounts, {quint32(pixels.size())});
@@ -56,12 +56,12 @@ QByteArray TiffBuilder::file() const
 {
     constexpr quint16 longType = 4;
     QByteArray values; // of the fields that have more than one
-    const auto directory = quint32(pixelOffset + quint32(m_pixels.size()) + 1) & ~1U;
+    const auto directory = quint32(kPixelOffset + quint32(m_pixels.size()) + 1) & ~1U;
     const auto valuesOffset = quint32(directory + 2 + 12 * m_fields.size() + 4);
 
     QByteArray bytes("II*\0", 4);
     append(bytes, directory);
-    bytes.append(QByteArray(pixelOffset - bytes.size(), '\0'));
+    bytes.append(QByteArray(kPixelOffset - bytes.size(), '\0'));
     bytes.append(m_pixels);
     bytes.append(QByteArray(directory - quint32(bytes.size()), '\0'));
     append(bytes, quint16(m_fields.size()));

@@ -35,7 +35,7 @@ public:
     TiffBuilder &setNext(quint32 offset);
 
     /// Where the pixels will be in the file.
-    static constexpr quint32 pixelOffset = 16;
+    static constexpr quint32 kPixelOffset = 16;
 
     QByteArray file() const;
 

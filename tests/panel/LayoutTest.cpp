@@ -201,6 +201,22 @@ TEST_F(LayoutTest, HidesTheViewOfAPictureThatIsMissing)
     EXPECT_FALSE(panel->imageView->image().isNull());
 }
 
+// The toolkit reads no PDF by itself, and no damaged picture.
+TEST_F(LayoutTest, HidesTheViewOfAPictureThatCannotBeRead)
+{
+    showPanel();
+    for (const QString &file : {u"Resources/Page.pdf"_s, u"Resources/Damaged.tiff"_s}) {
+        writeBundleFile(file, "%PDF-1.4\n%%EOF\n");
+        panel->imageView->setImage(picture(Qt::red));
+        panel->imageView->setImageName(u"Vivid"_s);
+        panel->imageView->show();
+        panel->changeImage(QFileInfo(file).baseName(), panel->imageView);
+        EXPECT_TRUE(panel->imageView->isHidden()) << qPrintable(file);
+        EXPECT_EQ(panel->imageView->imageName(), u"None"_s);
+        EXPECT_EQ(panel->imageView->image().pixelColor(0, 0), QColor(Qt::red));
+    }
+}
+
 TEST_F(LayoutTest, HidesAnEmptyViewWithoutNamingAPicture)
 {
     showPanel();

@@ -71,19 +71,21 @@ protected:
     PPDHandle ppd = PPDSource().option("VKMediaType/Media Type", {"Plain", "Glossy"}).open();
 };
 
-TEST_F(PPDLookUpTest, FindsOptionsAndChoicesByTheirExactNames)
+TEST_F(PPDLookUpTest, FindsOptionsAndChoicesByTheirNamesInAnyLetterCase)
 {
     ASSERT_NE(ppd, nullptr);
     ppd_option_t *option = findOption(ppd.get(), u"VKMediaType"_s);
     ASSERT_NE(option, nullptr);
     EXPECT_STREQ(option->text, "Media Type");
-    EXPECT_EQ(findOption(ppd.get(), u"vkmediatype"_s), nullptr);
+    EXPECT_EQ(findOption(ppd.get(), u"vkmediatype"_s), option);
+    EXPECT_EQ(findOption(ppd.get(), u"VKMEDIATYPE"_s), option);
     EXPECT_EQ(findOption(ppd.get(), u"VKMedia"_s), nullptr);
     EXPECT_EQ(findOption(ppd.get(), u"用紙"_s), nullptr);
     EXPECT_EQ(findOption(ppd.get(), QString()), nullptr);
     EXPECT_EQ(findOption(nullptr, u"VKMediaType"_s), nullptr);
     EXPECT_STREQ(findChoice(option, u"Glossy"_s)->text, "Glossy");
-    EXPECT_EQ(findChoice(option, u"glossy"_s), nullptr);
+    EXPECT_STREQ(findChoice(option, u"gLOSSY"_s)->choice, "Glossy");
+    EXPECT_EQ(findChoice(option, u"Gloss"_s), nullptr);
     EXPECT_EQ(findChoice(option, QString()), nullptr);
     EXPECT_EQ(findChoice(nullptr, u"Glossy"_s), nullptr);
 }
@@ -93,7 +95,7 @@ TEST_F(PPDLookUpTest, TellsTheMarkedChoice)
     EXPECT_EQ(markedChoice(ppd.get(), u"VKMediaType"_s), u"Plain"_s);
     ppdMarkOption(ppd.get(), "VKMediaType", "Glossy");
     EXPECT_EQ(markedChoice(ppd.get(), u"VKMediaType"_s), u"Glossy"_s);
-    EXPECT_TRUE(markedChoice(ppd.get(), u"vkmediatype"_s).isNull());
+    EXPECT_EQ(markedChoice(ppd.get(), u"vkmediatype"_s), u"Glossy"_s);
     EXPECT_TRUE(markedChoice(ppd.get(), u"NoSuchOption"_s).isNull());
     EXPECT_TRUE(markedChoice(nullptr, u"VKMediaType"_s).isNull());
     unmark(ppd.get(), "VKMediaType");

@@ -1,12 +1,22 @@
+#include "platform/foundation/Bundle.h"
 #include "platform/foundation/UserDefaults.h"
 #include "platform/printmanager/PMPrintSettings.h"
 #include "platform/toolkit/ImageView.h"
+#include "platform/toolkit/KeyWindow.h"
 #include "platform/toolkit/PlainText.h"
 #include "printsettings/TextHeight.h"
+#include "tests/built/BuiltFiles.h"
 #include "tests/printsettings/PrintPanel.h"
+#include "tests/support/Files.h"
 
+#include <QtCore/QPointer>
+#include <QtCore/QStringEncoder>
+#include <QtCore/QTemporaryDir>
 #include <QtGui/QFontDatabase>
+#include <QtWidgets/QApplication>
+#include <QtWidgets/QDialog>
 #include <QtWidgets/QLabel>
+#include <QtWidgets/QPushButton>
 
 using namespace Qt::StringLiterals;
 
@@ -173,6 +183,53 @@ TEST_F(Alerts, AJapaneseEnvelopeIsConfirmedInItsWindow)
     EXPECT_EQ(memory(), QVariantMap());
 }
 
+/// A print dialog's window, which the alerts stand before.
+class AlertsBeforeADialog : public Alerts
+{
+protected:
+    void SetUp() override
+    {
+        show();
+        usePaper(u"EnvChou3"_s);
+        dialog->setGeometry(150, 120, 500, 400);
+        dialog->show();
+        setKeyWindow(dialog.get());
+    }
+    void TearDown() override { setKeyWindow(nullptr); }
+
+    std::unique_ptr<QWidget> dialog = std::make_unique<QWidget>();
+};
+
+TEST_F(AlertsBeforeADialog, TheEnvelopeWindowIsAModalChildInTheMiddle)
+{
+    QPointer<QWidget> window;
+    session->alerts().expect([&](const ShownAlert &alert) {
+        window = alert.window;
+        EXPECT_EQ(window->parentWidget(), dialog.get());
+        EXPECT_TRUE(window->isWindow());
+        EXPECT_EQ(QApplication::activeModalWidget(), window);
+        const QPoint offset = window->frameGeometry().center() - dialog->frameGeometry().center();
+        EXPECT_LE(offset.manhattanLength(), 2) << offset.x() << ", " << offset.y();
+        alert.press(0);
+    });
+    EXPECT_TRUE(panel->checkShouldShowEnvelopeAlert());
+    takeAlert(ShownAlert::Kind::Window);
+    ASSERT_TRUE(window);
+    EXPECT_FALSE(window->isVisible());
+    dialog.reset();
+    EXPECT_TRUE(window) << "it belongs to the panel again";
+}
+
+TEST_F(AlertsBeforeADialog, ADialogThatGoesTakesTheWindowAlongAndTheNextOneGetsAnother)
+{
+    session->alerts().expect([&](const ShownAlert &) { dialog.reset(); });
+    EXPECT_FALSE(panel->checkShouldShowEnvelopeAlert());
+    takeAlert(ShownAlert::Kind::Window);
+    session->alerts().expect();
+    EXPECT_TRUE(panel->checkShouldShowEnvelopeAlert());
+    takeAlert(ShownAlert::Kind::Window);
+}
+
 TEST_F(Alerts, TheAlertWindowsAreLoadedForTheFirstAlertThatNeedsThem)
 {
     open();
@@ -275,6 +332,24 @@ TEST_F(Alerts, AWindowWithAKeyIsRememberedWhenItIsConfirmed)
     EXPECT_TRUE(panel->shouldShowAlert(u"Best Alert"_s));
 }
 
+TEST_F(Alerts, ADialogOfAnotherCallerFindsTheSuppressionBoxBeforeTheFirstAlert)
+{
+    show();
+    QDialog window;
+    auto *ok = new QPushButton(u"OK"_s, &window);
+    QObject::connect(ok, &QPushButton::clicked, &window, [&] { panel->dialogOkDidClick(ok); });
+    session->alerts().expect([&](const ShownAlert &alert) {
+        QAbstractButton *suppression = box(u"suppressionButton"_s);
+        ASSERT_TRUE(suppression);
+        suppression->setChecked(true);
+        alert.press(0);
+    });
+    const QString key = u"Paper Alert"_s;
+    EXPECT_EQ(panel->showDialog(&window, key), 1);
+    takeAlert(ShownAlert::Kind::Window);
+    EXPECT_EQ(memory(), (QVariantMap{{key, false}}));
+}
+
 TEST_F(Alerts, NoWindowIsCancelled)
 {
     open();
@@ -361,6 +436,41 @@ INSTANTIATE_TEST_SUITE_P(
                     Orientation{u"A3.ShortGrain"_s, {842, 1191}, true, u"Portrait"_s},
                     Orientation{u"Other"_s, {181, 842}, false, u"Portrait"_s, true},
                     Orientation{u"Custom.1x1"_s, {936, 1369}, false, u"Portrait"_s, true}));
+
+/// The built bundle with the last line of the unsupported-paper message in another wording, which
+/// is as long as its own: the string table tells no lengths but the texts'.
+std::shared_ptr<Bundle> bundleThatSaysPerCent(const QTemporaryDir &folder)
+{
+    const auto utf16 = [](const QString &text) -> QByteArray {
+        return QStringEncoder(QStringEncoder::Utf16BE)(text);
+    };
+    const QString table = u"/Resources/Localizable_en.qm"_s;
+    QByteArray strings = readFile(builtBundle() + table);
+    const QByteArray line = utf16(u"3. Print again."_s);
+    EXPECT_EQ(strings.count(line), 1);
+    writeFile(folder.path() + table, strings.replace(line, utf16(u"At 100%% it is."_s)));
+    QFile::copy(builtBundle() + u"/Info.json"_s, folder.filePath(u"Info.json"_s));
+    return Bundle::open(folder.path());
+}
+
+TEST_F(Alerts, TheOrientationCheckTakesItsMessageAsAFormatAndNoOtherCheckDoes)
+{
+    const QTemporaryDir folder;
+    session->setBundle(bundleThatSaysPerCent(folder));
+    session->bundle().setStrings(Bundle::Strings::Tables);
+    open();
+    usePaper(u"UnsupportedPaper"_s);
+    session->alerts().expect();
+    EXPECT_FALSE(panel->checkPaperAndShowOrientationAlert());
+    EXPECT_TRUE(takeAlert().informative.endsWith(u"\nAt 100% it is."));
+    session->alerts().expect();
+    EXPECT_FALSE(panel->shouldPrint());
+    EXPECT_TRUE(takeAlert().informative.endsWith(u"\nAt 100%% it is."));
+    usePaper(u"Other"_s, {1, 1});
+    session->alerts().expect();
+    EXPECT_FALSE(panel->checkPaperAndShowOrientationAlert());
+    EXPECT_TRUE(takeAlert().informative.endsWith(u"\nAt 100%% it is."));
+}
 
 TEST_F(Alerts, TheOrientationCheckConfirmsJapaneseEnvelopes)
 {

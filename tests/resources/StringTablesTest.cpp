@@ -43,6 +43,12 @@ const QStringList KEYS{
     u"Duplex Alert"_s,
     u"Duplex Alert2"_s,
     u"Paper Orientation Title"_s,
+    u"PPD Choice Unknown"_s,
+    u"PPD Choice Missing"_s,
+    u"PPD Letters"_s,
+    u"PPD Default"_s,
+    u"PPD Partner Missing"_s,
+    u"PPD Picture"_s,
 };
 
 class StringTables : public testing::TestWithParam<QString>

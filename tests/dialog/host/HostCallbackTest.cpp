@@ -70,8 +70,8 @@ const Offer kOffers[] = {
     {"ThatIsMarkedIsAcceptedAgain", u"Finish"_s, u"Matt"_s, true, u"Matt Light Hand Small"_s},
     {"OfNoOption", u"Coat"_s, u"Shiny"_s, false, u"Matt Light Hand Small"_s},
     {"ThatTheOptionLacks", u"Finish"_s, u"Rough"_s, false, u"Matt Light Hand Small"_s},
-    {"OfAKeywordInAnotherCase", u"finish"_s, u"Shiny"_s, false, u"Matt Light Hand Small"_s},
-    {"InAnotherCase", u"Finish"_s, u"shiny"_s, false, u"Matt Light Hand Small"_s},
+    {"OfAKeywordInAnotherCase", u"finish"_s, u"Shiny"_s, true, u"Shiny Light Hand Small"_s},
+    {"InAnotherCase", u"Finish"_s, u"shiny"_s, true, u"Shiny Light Hand Small"_s},
     {"WithoutAKeyword", QString(), u"Shiny"_s, false, u"Matt Light Hand Small"_s},
     {"WithoutAName", u"Finish"_s, QString(), false, u"Matt Light Hand Small"_s},
 };

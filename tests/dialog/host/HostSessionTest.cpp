@@ -112,10 +112,37 @@ TEST_F(HostSessionTest, ADuplexChoicePostsItsNotificationAfterTheReports)
     EXPECT_EQ(calls(u"second"_s), expected);
 }
 
+TEST_F(HostSessionTest, AChoiceInOtherLettersIsMarkedAndReportedAsItIsSpelt)
+{
+    m_options.restore = false;
+    EXPECT_TRUE(start().markElsewhere(u"FINISH"_s, u"shiny"_s));
+    EXPECT_EQ(markedChoice(m_session->ppd(), u"Finish"_s), u"Shiny"_s);
+    EXPECT_TRUE(m_session->markElsewhere(u"duplex"_s, u"DUPLEXNOTUMBLE"_s));
+    const QStringList expected{u"Finish=Shiny"_s, u"Duplex=DuplexNoTumble"_s,
+                               u"PMPrintDuplexChangedNotification of this dialog"_s};
+    EXPECT_EQ(calls(u"first"_s), expected);
+}
+
+TEST_F(HostSessionTest, AKeywordInOtherLettersIsReportedAsThePanelsKnowIt)
+{
+    writeFile(m_options.ppdPath, PPDSource()
+                                     .option("duplex/Two-Sided", {"None", "DuplexNoTumble"})
+                                     .option("finish", {"Matt", "Shiny"})
+                                     .text());
+    m_options.restore = false;
+    EXPECT_TRUE(start().markElsewhere(u"duplex"_s, u"DuplexNoTumble"_s));
+    EXPECT_EQ(calls(u"first"_s),
+              (QStringList{u"Duplex=DuplexNoTumble"_s,
+                           u"PMPrintDuplexChangedNotification of this dialog"_s}));
+    const QMap<QString, QString> expected{{u"Duplex"_s, u"DuplexNoTumble"_s},
+                                          {u"Finish"_s, u"Matt"_s}};
+    EXPECT_EQ(m_session->reportedMarks(), expected);
+}
+
 TEST_F(HostSessionTest, AChoiceThatThePPDLacksChangesNothing)
 {
     m_options.restore = false;
-    EXPECT_FALSE(start().markElsewhere(u"Finish"_s, u"shiny"_s));
+    EXPECT_FALSE(start().markElsewhere(u"Finish"_s, u"Shin"_s));
     EXPECT_FALSE(m_session->markElsewhere(u"Coat"_s, u"Shiny"_s));
     EXPECT_EQ(markedChoice(m_session->ppd(), u"Finish"_s), u"Matt"_s);
     EXPECT_EQ(calls(u"first"_s), QStringList());

@@ -1,6 +1,7 @@
 #include "dialog/host/PPDMarks.h"
 
 #include "dialog/host/PPDFile.h"
+#include "platform/ppd/PPDText.h"
 #include "tests/support/Files.h"
 #include "tests/support/QStringPrinting.h"
 #include "tests/support/SmallPrinter.h"
@@ -92,6 +93,69 @@ TEST_F(MarksOf, AChoiceThatIsTakenBackAreUnchanged)
     EXPECT_EQ(changed(), (Marks{{u"Finish"_s, u"Shiny"_s}}));
     ASSERT_TRUE(forceChoice(m_opened.ppd.get(), u"Finish"_s, u"Matt"_s));
     EXPECT_EQ(changed(), Marks());
+}
+
+TEST_F(MarksOf, AChoiceInOtherLettersAreAsThePPDSpellsIt)
+{
+    open(smallPrinter().text());
+    ASSERT_TRUE(forceChoice(m_opened.ppd.get(), u"finish"_s, u"SHINY"_s));
+    EXPECT_EQ(changed(), (Marks{{u"Finish"_s, u"Shiny"_s}}));
+    EXPECT_TRUE(markChoice(m_opened.ppd.get(), u"FINISH"_s, u"matt"_s));
+    EXPECT_EQ(changed(), Marks());
+}
+
+/// Options of which several choices may be marked at once.
+class SeveralMarks : public MarksOf
+{
+protected:
+    SeveralMarks()
+    {
+        open(PPDSource()
+                 .option("Finish", {"Matt", "Shiny", "Coarse"})
+                 .option("Weight", {"Light", "Heavy"})
+                 .constraint("Finish Shiny", "Weight Heavy")
+                 .text()
+                 .replace("PickOne", "PickMany"));
+    }
+
+    QStringList marked(const char *keyword)
+    {
+        QStringList marked;
+        const ppd_option_t *option = ppdFindOption(m_opened.ppd.get(), keyword);
+        for (int index = 0; index < option->num_choices; ++index) {
+            if (option->choices[index].marked)
+                marked << ppdName(option->choices[index].choice);
+        }
+        return marked;
+    }
+};
+
+TEST_F(SeveralMarks, GiveWayToAPick)
+{
+    ppdMarkOption(m_opened.ppd.get(), "Finish", "Coarse");
+    ASSERT_EQ(marked("Finish"), (QStringList{u"Matt"_s, u"Coarse"_s}));
+    EXPECT_TRUE(markChoice(m_opened.ppd.get(), u"Finish"_s, u"Shiny"_s));
+    EXPECT_EQ(marked("Finish"), QStringList{u"Shiny"_s});
+    EXPECT_EQ(markedChoice(m_opened.ppd.get(), u"Finish"_s), u"Shiny"_s);
+    EXPECT_TRUE(markChoice(m_opened.ppd.get(), u"Finish"_s, u"Matt"_s));
+    EXPECT_EQ(markedChoice(m_opened.ppd.get(), u"Finish"_s), u"Matt"_s);
+}
+
+TEST_F(SeveralMarks, GiveWayToAChoiceOfTheDialogs)
+{
+    EXPECT_TRUE(forceChoice(m_opened.ppd.get(), u"Finish"_s, u"Coarse"_s));
+    EXPECT_EQ(marked("Finish"), QStringList{u"Coarse"_s});
+    EXPECT_EQ(changed(), (Marks{{u"Finish"_s, u"Coarse"_s}}));
+}
+
+TEST_F(SeveralMarks, StandWhereAPickIsRefused)
+{
+    ppdMarkOption(m_opened.ppd.get(), "Finish", "Coarse");
+    ASSERT_TRUE(forceChoice(m_opened.ppd.get(), u"Weight"_s, u"Heavy"_s));
+    EXPECT_FALSE(markChoice(m_opened.ppd.get(), u"Finish"_s, u"Shiny"_s));
+    EXPECT_EQ(marked("Finish"), (QStringList{u"Matt"_s, u"Coarse"_s}));
+    EXPECT_TRUE(forceChoice(m_opened.ppd.get(), u"Finish"_s, u"Coarse"_s));
+    EXPECT_EQ(markedChoice(m_opened.ppd.get(), u"Finish"_s), u"Coarse"_s);
 }
 
 } // namespace

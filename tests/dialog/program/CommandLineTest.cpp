@@ -48,6 +48,12 @@ INSTANTIATE_TEST_SUITE_P(
         Refused{"ReplayAndRecord",
                 {u"--replay=a"_s, u"--record=b"_s},
                 "--replay and --record do not go together."},
+        Refused{"CheckAndADocument",
+                {u"--check-ppd=a.ppd"_s, u"a.pdf"_s},
+                "--check-ppd only looks at a PPD: it prints and replays nothing."},
+        Refused{"CheckAndReplay",
+                {u"--check-ppd=a.ppd"_s, u"--replay=a"_s},
+                "--check-ppd only looks at a PPD: it prints and replays nothing."},
         Refused{"NothingToPrint", {u"--no-dialog"_s}, "--no-dialog needs a document to print."},
         Refused{"PictureOfNoDialog",
                 {u"--no-dialog"_s, u"--screenshot=a.png"_s, u"a.pdf"_s},
@@ -88,6 +94,15 @@ TEST(CommandLine, TakesEveryOption)
     EXPECT_EQ(line.files, (QStringList{u"one.pdf"_s, u"-two.pdf"_s}));
 }
 
+TEST(CommandLine, TakesAPPDToCheckWithAPlugIn)
+{
+    const ParsedCommandLine parsed =
+        parseCommandLine({u"--check-ppd"_s, u"a.ppd"_s, u"--plug-in=p.bundle"_s});
+    EXPECT_TRUE(parsed.error.isNull()) << parsed.error.toStdString();
+    EXPECT_EQ(parsed.commandLine.checkPPD, u"a.ppd"_s);
+    EXPECT_EQ(parsed.commandLine.plugIn, u"p.bundle"_s);
+}
+
 TEST(CommandLine, LeavesWhatWasNotGivenNull)
 {
     const CommandLine line = parseCommandLine({u"-dphoto"_s, u"-"_s}).commandLine;
@@ -110,9 +125,9 @@ TEST(CommandLine, GivesHelpAndVersionDespiteFaults)
 TEST(HelpText, NamesEveryOptionAndEveryStatus)
 {
     const QString text = QString::fromUtf8(helpText());
-    for (const char *option :
-         {"-d,", "-h,", "-o,", "--ppd", "--paper", "--output", "--no-dialog", "--yes",
-          "--screenshot", "--panel", "--record", "--replay", "--plug-in", "--version", "--help"})
+    for (const char *option : {"-d,", "-h,", "-o,", "--ppd", "--paper", "--output", "--no-dialog",
+                               "--yes", "--screenshot", "--panel", "--record", "--replay",
+                               "--check-ppd", "--plug-in", "--version", "--help"})
         EXPECT_TRUE(text.contains(QLatin1String(option))) << option;
     for (int status = exitCode(ExitStatus::Done); status <= exitCode(ExitStatus::PlugIn); ++status)
         EXPECT_TRUE(text.contains(QStringLiteral("\n  %1  ").arg(status))) << status;

@@ -104,6 +104,25 @@ TEST_F(Window, WritesTheJobThatWasPicked)
         EXPECT_TRUE(job.contains(line)) << line << job.toStdString();
 }
 
+TEST_F(Window, TellsThatThePaperMenuHasSentItsAction)
+{
+    open();
+    part<QTabWidget>("parts")->setCurrentIndex(0);
+    QStringList told;
+    const QWidget *menu = part<QWidget>("paperPopup");
+    NotificationCenter::defaultCenter().addObserver(
+        this,
+        [&](const Notification &posted) {
+            told << posted.userInfo.value_or(QVariantMap()).value(u"MenuItem"_s).toString() +
+                        u" on "_s + m_window->job().paper()->name;
+        },
+        QLatin1String(kMenuDidSendActionNotification), menu);
+    pick("paperPopup", u"A3"_s);
+    pick("paperPopup", u"Custom"_s);
+    NotificationCenter::defaultCenter().removeObserver(this);
+    EXPECT_EQ(told, (QStringList{u"A3 on A3"_s, u"Custom Size on Custom.842x1191"_s}));
+}
+
 TEST_F(Window, TakesNothingFromAPaneThatCannotBeUsed)
 {
     open();

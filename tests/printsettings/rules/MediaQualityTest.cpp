@@ -61,6 +61,16 @@ TEST(UnavailableQualities, WithoutBordersAreTheFastestAndOnA3AllButTheBestOfPlai
             << qPrintable(paper);
 }
 
+TEST(MediaWithQualitiesOfTheirOwn, AreAllThatTheTablesName)
+{
+    const QStringList media = {
+        u"Plain"_s,          u"PlainDuplex"_s,      u"HagakiAtena"_s,
+        u"Inkjet"_s,         u"VelkaroQM41Matte"_s, u"VelkaroGlossy"_s,
+        u"VelkaroGlossyR"_s, u"Glossy"_s,           u"HagakiUra"_s,
+        u"Transparencies"_s, u"PrintableDisc"_s,    u"GlossyPrintableDisc"_s};
+    EXPECT_EQ(knownMedia(), media);
+}
+
 TEST(QualitiesLeftFromADisc, AreThoseOfDiscsBesideOtherMedia)
 {
     EXPECT_TRUE(isLeftFromDisc(u"DiscNormal"_s, u"Glossy"_s, false));

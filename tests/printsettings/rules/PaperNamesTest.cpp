@@ -56,6 +56,14 @@ const QStringList kPortrait = {u"A3"_s,
                                u"EnvC6"_s,
                                u"EnvYou4"_s};
 
+// What the other lists name besides, variants included.
+const QStringList kOtherPapers = {u"Executive"_s,     u"B5"_s,
+                                  u"VkHagaki_B"_s,    u"EnvChou3"_s,
+                                  u"EnvChou4"_s,      u"A3.LongGrain"_s,
+                                  u"A3.ShortGrain"_s, u"Tabloid.ShortGrain"_s,
+                                  u"B4.ShortGrain"_s, u"EnvDL.Fullbleed"_s,
+                                  u"Custom.100x100"_s};
+
 const QStringList kBusiness = {u"Velkaro PX-T310W"_s, u"Velkaro PX-T310N"_s, u"Velkaro PX-T320N"_s,
                                u"Velkaro MX-T330W"_s, u"Velkaro MX-T340W"_s, u"Velkaro MX-T350W"_s,
                                u"Velkaro MX-T360W"_s, u"Velkaro MX-T365W"_s, u"Velkaro MX-T370N"_s};
@@ -93,7 +101,7 @@ const Predicate kPredicates[] = {
     {"isKindOfManualFeedPaper",
      isKindOfManualFeedPaper,
      {},
-     {u"Postcard"_s, u"EnvDL"_s, u"A4"_s, u"EnvChou3"_s, u"Custom.100x100"_s}},
+     kPortrait + kTray2Bases + kOtherPapers},
     {"isKindOfJPEnvelope",
      isKindOfJPEnvelope,
      {u"EnvChou3"_s, u"EnvChou4"_s, u"EnvChou3.Fullbleed"_s, u"EnvChou4.LongGrain"_s},

@@ -1,4 +1,4 @@
-#include "platform/imaging/Picture.h"
+#include "platform/imaging/DecodedPicture.h"
 
 #include "platform/imaging/ColorTransform.h"
 #include "platform/imaging/SrgbCurve.h"
@@ -6,8 +6,6 @@
 #include <QtGui/QRgba64>
 
 #include <utility>
-
-namespace imaging {
 
 namespace {
 
@@ -26,35 +24,35 @@ QImage::Format workingFormat(const QImage &pixels)
 quint16 luminanceStep(double red, double green, double blue)
 {
     const double luminance =
-        luminanceWeights[0] * red + luminanceWeights[1] * green + luminanceWeights[2] * blue;
-    return static_cast<quint16>(qRound(luminance * Picture::luminanceSteps));
+        kLuminanceWeights[0] * red + kLuminanceWeights[1] * green + kLuminanceWeights[2] * blue;
+    return static_cast<quint16>(qRound(luminance * DecodedPicture::kLuminanceSteps));
 }
 
 } // namespace
 
-Picture::Picture(QImage pixels) : m_pixels(std::move(pixels))
+DecodedPicture::DecodedPicture(QImage pixels) : m_pixels(std::move(pixels))
 {
     // A null image answers the call with a warning, and needs no pixels.
     if (!m_pixels.isNull())
         m_pixels.convertTo(workingFormat(m_pixels));
 }
 
-bool Picture::hasTightRows() const
+bool DecodedPicture::hasTightRows() const
 {
     return m_pixels.bytesPerLine() == qsizetype(m_pixels.width()) * m_pixels.depth() / 8;
 }
 
-const QRgb *Picture::row(int y) const
+const QRgb *DecodedPicture::row(int y) const
 {
     return reinterpret_cast<const QRgb *>(m_pixels.constScanLine(y));
 }
 
-const QRgba64 *Picture::deepRow(int y) const
+const QRgba64 *DecodedPicture::deepRow(int y) const
 {
     return reinterpret_cast<const QRgba64 *>(m_pixels.constScanLine(y));
 }
 
-const quint16 *Picture::luminanceRow(int y) const
+const quint16 *DecodedPicture::luminanceRow(int y) const
 {
     if (m_luminance.empty())
         computeLuminance();
@@ -62,7 +60,7 @@ const quint16 *Picture::luminanceRow(int y) const
     return m_luminance.data() + static_cast<std::size_t>(y) * width;
 }
 
-void Picture::computeLuminance() const
+void DecodedPicture::computeLuminance() const
 {
     const int width = m_pixels.width();
     m_luminance.resize(static_cast<std::size_t>(width) *
@@ -82,5 +80,3 @@ void Picture::computeLuminance() const
         }
     }
 }
-
-} // namespace imaging
