@@ -65,8 +65,8 @@ void putPaper(QList<JobOption> &options, const JobValues &values)
     const QString mapped = values.ticket.values().value(kMappedPaper).toString();
     if (mapped.isEmpty())
         return;
-    if (const ppd_choice_t *paper = findChoice(findOption(values.ppd, u"PageSize"_s), mapped))
-        put(options, {u"PageSize"_s, ppdName(paper->choice)});
+    if (const ppd_choice_t *found = findChoice(findOption(values.ppd, u"PageSize"_s), mapped))
+        put(options, {u"PageSize"_s, ppdName(found->choice)});
     put(options, {u"fit-to-page"_s, u"true"_s});
     put(options, {u"print-scaling"_s, u"fit"_s});
 }
