@@ -8,6 +8,7 @@
 #include <cstdio>
 #include <cstring>
 #include <dlfcn.h>
+#include <malloc.h>
 #include <string_view>
 #include <unistd.h>
 
@@ -19,6 +20,13 @@ int print(const char *text)
 {
     std::fputs(text, stdout);
     return exitCode(std::fflush(stdout) == 0 ? ExitStatus::Done : ExitStatus::Output);
+}
+
+// Threads that ask servers and read files get heaps of their own by default: more than a hundred
+// kilobytes that are hardly used, since most of the time only one thread works.
+void shareOneHeap()
+{
+    mallopt(M_ARENA_MAX, 1);
 }
 
 // Libraries that bring many others, loaded one after the other: each then looks its symbols up
@@ -44,6 +52,7 @@ void *loadDialogLibrary()
 
 int runDialogLibrary(int argc, char **argv)
 {
+    shareOneHeap();
     loadLargeLibraries();
     void *library = loadDialogLibrary();
     void *entry = library ? dlsym(library, "velkaroPrintMain") : nullptr;
