@@ -6,6 +6,7 @@
 #include "platform/foundation/NotificationCenter.h"
 #include "platform/foundation/PreferredLanguages.h"
 #include "platform/foundation/UserDefaults.h"
+#include "platform/pde/PDEInfoKeys.h"
 #include "platform/pde/PDEPanelInspection.h"
 #include "platform/ppd/PPDText.h"
 
@@ -33,7 +34,8 @@ HostSession::Opened HostSession::open(const SessionOptions &options, OpenedPPD p
     std::unique_ptr<HostSession> session(new HostSession(options));
     session->m_ppd = std::move(ppd.ppd);
     session->m_defaultMarks = ppd.defaults;
-    session->m_plugIn = loadPlugIn(options.bundlePath, options.info);
+    session->m_plugIn = options.bundlePath.isNull() ? loadPlugInFor(session->ppd(), options.info)
+                                                    : loadPlugIn(options.bundlePath, options.info);
     session->prepareCallback();
     return {std::move(session), QString()};
 }
@@ -109,20 +111,20 @@ QMap<QString, QString> HostSession::reportedMarks() const
 
 QStringList HostSession::watchedKeywords() const
 {
-    return m_plugIn.bundle ? m_plugIn.bundle->infoValue(u"PMPPDKeysWatched"_s).toStringList()
+    return m_plugIn.bundle ? m_plugIn.bundle->infoValue(kPDEKeysWatchedKey).toStringList()
                            : QStringList();
 }
 
 QString HostSession::keywordOfTicketKey(const QString &key) const
 {
     const QVariant keywords =
-        m_plugIn.bundle ? m_plugIn.bundle->infoValue(u"PMTicketKeyKeywords"_s) : QVariant();
+        m_plugIn.bundle ? m_plugIn.bundle->infoValue(kPDETicketKeyKeywordsKey) : QVariant();
     return keywords.toMap().value(key).toString();
 }
 
 QStringList HostSession::foldStateKeys() const
 {
-    return m_plugIn.bundle ? m_plugIn.bundle->infoValue(u"PMTicketFoldStateKeys"_s).toStringList()
+    return m_plugIn.bundle ? m_plugIn.bundle->infoValue(kPDEFoldStateKeysKey).toStringList()
                            : QStringList();
 }
 
