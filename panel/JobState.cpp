@@ -1,4 +1,5 @@
 #include "panel/VKPrintQualityPDE.h"
+#include "platform/printmanager/PMTicketKeys.h"
 
 #include "panel/TicketValue.h"
 #include "platform/ppd/PPDText.h"
@@ -24,15 +25,15 @@ void VKPrintQualityPDE::checkFax()
 
 void VKPrintQualityPDE::checkColorSync()
 {
-    if (!ppd || !ppdFindAttr(ppd, "APSupportsCustomColorMatching", nullptr)) {
+    if (!ppd || !ppdFindAttr(ppd, kPMCustomColorMatchingAttribute, nullptr)) {
         setFlag(VendorColorMatching, false);
         return;
     }
     if (!ticket())
         return;
     QVariant mode;
-    const bool known = PMPrintSettingsGetValue(ticket(), u"AP_ColorMatchingMode"_s, &mode) == noErr;
-    setFlag(VendorColorMatching, !known || mode.toString() != "AP_ApplicationColorMatching"_L1);
+    const bool known = PMPrintSettingsGetValue(ticket(), kPMColorMatchingModeKey, &mode) == noErr;
+    setFlag(VendorColorMatching, !known || mode.toString() != kPMApplicationColorMatching);
 }
 
 QString VKPrintQualityPDE::optionName() const

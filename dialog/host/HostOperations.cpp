@@ -2,7 +2,8 @@
 #include "dialog/host/PPDMarks.h"
 #include "dialog/host/SessionObserver.h"
 #include "platform/foundation/NotificationCenter.h"
-#include "platform/pde/PDEPanelInspection.h"
+#include "platform/printmanager/PMNotifications.h"
+#include "platform/printmanager/PMTicketKeys.h"
 #include "platform/toolkit/KeyWindow.h"
 
 using namespace Qt::StringLiterals;
@@ -73,7 +74,7 @@ bool HostSession::markElsewhere(const QString &keyword, const QString &choice)
     for (const HostPanel &panel : m_panels)
         panel.panel->PPDOptionKeyValueDidChange(keyword, choice);
     if (keyword == "Duplex"_L1)
-        post(u"PMPrintDuplexChangedNotification"_s);
+        post(kPMDuplexDidChangeNotification);
     if (m_observer)
         m_observer->didMark(keyword, choice);
     return true;
@@ -84,9 +85,9 @@ void HostSession::setPaper(const PMPaper &paper, const std::optional<QString> &m
     pageFormat().paper = paper;
     forceChoice(m_ppd.get(), u"PageSize"_s, paper.ppdName);
     if (mapped)
-        PMPrintSettingsSetValue(&ticket(), u"com.apple.print.PageToPaperMappingMediaName"_s,
+        PMPrintSettingsSetValue(&ticket(), kPMMappedPaperKey,
                                 mapped->isNull() ? QVariant() : QVariant(*mapped), false);
-    post(u"PMPrintDestinationPaperDidChangeNotification"_s);
+    post(kPMPaperDidChangeNotification);
     if (m_observer)
         m_observer->didSetPaper(paper, mapped);
 }

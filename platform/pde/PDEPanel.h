@@ -54,7 +54,7 @@ public:
     /// The identifier of the panel's kind, the same in every language.
     virtual QString panelKind() const = 0;
 
-    /// Option title to value text, and under "Summary Display Order" the titles in display order.
+    /// The panel's lines of the summary (PDESummary.h): option titles and value texts.
     virtual QVariantMap summaryInfo() = 0;
 
     /// False: the panel has opened its own help. True: the dialog should show its own.
