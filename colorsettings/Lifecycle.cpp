@@ -83,7 +83,7 @@ QString VKInkColorSettingPDE::inspectedClassName() const
     return u"VKInkColorSettingPDE"_s;
 }
 
-QString VKInkColorSettingPDE::inspectedName() const
+QString VKInkColorSettingPDE::shortName() const
 {
     return u"color"_s;
 }

@@ -121,10 +121,11 @@ public:
     /// room for the panel. The sender is ignored.
     void updateImage(QWidget *sender);
 
-    // --- Inspection ------------------------------------------------------------------------------
+    // --- Controls as the dialog uses them, and inspection ----------------------------------------
 
+    QString shortName() const override;
+    QAbstractButton *revertButton() const override;
     QString inspectedClassName() const override;
-    QString inspectedName() const override;
     bool inspectedHasPicture() const override { return true; }
     ImageView *inspectedPicture() const override { return effectImageView; }
 

@@ -21,6 +21,8 @@ namespace {
 constexpr int kFoldedHeight = 110;
 constexpr double kSectionHeight = 202.0;
 
+constexpr auto kRevertEffectDialog = "revertEffectDialog:"_L1;
+
 } // namespace
 
 void VKInkColorSettingPDE::connectView(ViewConnections &connections)
@@ -29,9 +31,14 @@ void VKInkColorSettingPDE::connectView(ViewConnections &connections)
     connectOutlets(connections);
     connections.action(u"effectValueDidChange:"_s,
                        [this](QWidget *sender) { effectValueDidChange(sender); });
-    connections.action(u"revertEffectDialog:"_s,
+    connections.action(kRevertEffectDialog,
                        [this](QWidget *sender) { revertEffectDialog(sender); });
     connections.action(u"updateImage:"_s, [this](QWidget *sender) { updateImage(sender); });
+}
+
+QAbstractButton *VKInkColorSettingPDE::revertButton() const
+{
+    return buttonSending(kRevertEffectDialog);
 }
 
 void VKInkColorSettingPDE::connectOutlets(ViewConnections &connections)
@@ -52,7 +59,7 @@ void VKInkColorSettingPDE::initializePopup()
     if (QWidget *label = determineLabel(u"VKColorMatching"_s))
         label->setVisible(managesKeyword(u"VKColorMatching"_s));
     titleSection();
-    if (QWidget *view = inspectedView())
+    if (QWidget *view = loadedView())
         view->setFixedSize(view->width(), kFoldedHeight);
     titleEffects();
     nameControls();
@@ -70,7 +77,7 @@ void VKInkColorSettingPDE::titleSection()
         giveAccessibleName(optionButton, title);
     if (effectImageView)
         giveAccessibleName(effectImageView, localized("Preview"));
-    QWidget *view = inspectedView();
+    QWidget *view = loadedView();
     // The text of the view resource is in one language only.
     if (auto *button = view ? view->findChild<QAbstractButton *>(u"revertButton"_s) : nullptr)
         setButtonTitle(button, localized("Revert"));
@@ -100,11 +107,11 @@ void VKInkColorSettingPDE::nameControls()
         if (control && option)
             giveAccessibleName(control, ppdText(option->text));
     }
-    const QWidget *view = inspectedView();
+    const QWidget *view = loadedView();
     const auto parts = view ? view->findChildren<QWidget *>() : QList<QWidget *>();
     for (QWidget *part : parts) {
         // A slider and its field are bound to the same value.
-        const QString keyword = part->property("bind.value").toString();
+        const QString keyword = boundKeyOf(part);
         if (const QLabel *label = effectLabel(keyword))
             giveAccessibleName(part, label->text());
     }

@@ -73,7 +73,7 @@ QString VKInkPrintSetting14PDE::inspectedClassName() const
     return u"VKInkPrintSetting14PDE"_s;
 }
 
-QString VKInkPrintSetting14PDE::inspectedName() const
+QString VKInkPrintSetting14PDE::shortName() const
 {
     return u"print"_s;
 }

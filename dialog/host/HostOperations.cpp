@@ -15,6 +15,7 @@ QWidget *HostSession::show(const HostPanel &panel)
     QWidget *view = panel.panel->panelView();
     if (!view)
         return nullptr;
+    m_views.insert(panel.panel.get(), view);
     panel.panel->willShow();
     if (m_observer)
         m_observer->didShow(panel);
@@ -116,8 +117,7 @@ PrintAnswer HostSession::askShouldPrint()
 void HostSession::windowDidResize()
 {
     for (const HostPanel &panel : m_panels) {
-        const QWidget *view = panel.inspection ? panel.inspection->inspectedView() : nullptr;
-        if (view)
+        if (const QWidget *view = loadedView(panel))
             NotificationCenter::defaultCenter().post(
                 QLatin1String(kViewDidUpdateTrackingAreasNotification), view);
     }

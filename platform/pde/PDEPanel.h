@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QtCore/QLatin1String>
 #include <QtCore/QString>
 #include <QtCore/QStringList>
 #include <QtCore/QVariant>
@@ -63,4 +64,9 @@ public:
     /// Whether the job may be printed. A panel that answers false has told the user why, where
     /// there is something to tell.
     virtual bool shouldPrint() = 0;
+
+    /// The panel's side of the optional interface with this identifier, which carries its version:
+    /// PDEPanelControls, PDEPanelInspection. Null: it has none. Asked on creation, through
+    /// panelExtension(); answered with extensionAmong() (PDEExtension.h).
+    virtual void *extension([[maybe_unused]] QLatin1String identifier) { return nullptr; }
 };

@@ -63,7 +63,7 @@ INSTANTIATE_TEST_SUITE_P(
                       "no such folder: "},
         FaultyFixture{"No", PlugInFaultReason::NotAPlugIn,
                       "%1 is not a plug-in of this print dialog.",
-                      "interface \"\", wanted \"com.velkaro.print.PDEPlugIn/1\""},
+                      "interface \"\", wanted \"com.velkaro.print.PDEPlugIn/2\""},
         FaultyFixture{"Foreign", PlugInFaultReason::NotAPlugIn,
                       "%1 is not a plug-in of this print dialog.",
                       "interface \"org.example.Toolbar/1\""},
@@ -72,7 +72,7 @@ INSTANTIATE_TEST_SUITE_P(
         FaultyFixture{"OtherVersion", PlugInFaultReason::OtherInterfaceVersion,
                       "The plug-in %1 was made for another version of this print dialog. Install "
                       "the same version of both.",
-                      "interface \"com.velkaro.print.PDEPlugIn/2\""},
+                      "interface \"com.velkaro.print.PDEPlugIn/3\""},
         FaultyFixture{"Unresolved", PlugInFaultReason::LoadFailed,
                       "The plug-in %1 could not be loaded.", "thereIsNoSuchVariable"},
         FaultyFixture{"Refusing", PlugInFaultReason::InitRefused,
