@@ -18,6 +18,9 @@ endif()
 include(cmake/Hardening.cmake)
 
 set(VELKARO_PRIVATE_DIR ${CMAKE_INSTALL_LIBDIR}/velkaro-print)
+set(VELKARO_PLUGINS_DIR ${VELKARO_PRIVATE_DIR}/PlugIns)
+set(VELKARO_OWN_BUNDLE VKInkQuality14.bundle)
+set(VELKARO_INCLUDE_DIR ${CMAKE_INSTALL_INCLUDEDIR}/velkaro-print)
 set(CMAKE_RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/${CMAKE_INSTALL_BINDIR})
 set(CMAKE_LIBRARY_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/${VELKARO_PRIVATE_DIR})
 # From the programs. The build tree takes the installed one: CMake would leave room for it there with

@@ -3,8 +3,8 @@
 #include "colorsettings/ColorControls.h"
 #include "colorsettings/rules/TicketColors.h"
 #include "panel/PPDCheck.h"
-#include "panel/PPDWords.h"
 #include "platform/foundation/Bundle.h"
+#include "platform/printmanager/PMTicketKeys.h"
 
 using namespace Qt::StringLiterals;
 
@@ -19,5 +19,5 @@ void checkColorSettings(PPDCheck &check, const Bundle &bundle)
     check.expectSpelling(u"VKHalfTonePattern"_s, {halftoneChoice(false), halftoneChoice(true)});
     check.expectControls(kColorControlTable);
     if (check.has(matching))
-        check.expectAttribute(matching, kCustomMatchingAttribute);
+        check.expectAttribute(matching, kPMCustomColorMatchingAttribute);
 }

@@ -186,7 +186,7 @@ void VKInkColorSettingPDE::updateImage(QWidget *)
     if (height == effectContent->value(u"frameHeight"_s).toDouble())
         return;
     setContent(u"frameHeight"_s, height);
-    const QWidget *view = inspectedView();
+    const QWidget *view = loadedView();
     const double limit = (view ? view->height() : 0) + kWindowMargin;
     if (height <= limit)
         return;

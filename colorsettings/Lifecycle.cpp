@@ -1,4 +1,6 @@
 #include "colorsettings/VKInkColorSettingPDE.h"
+#include "panel/PrintSettingChange.h"
+#include "platform/printmanager/PMNotifications.h"
 
 #include "colorsettings/ColorControls.h"
 #include "colorsettings/ColorTransformer.h"
@@ -6,13 +8,6 @@
 #include "platform/imaging/CIFilter.h"
 
 using namespace Qt::StringLiterals;
-
-namespace {
-
-constexpr auto kPrintSettingNotification = "VKInkPrintSettingNotification"_L1;
-constexpr auto kPaperDidChangeNotification = "PMPrintDestinationPaperDidChangeNotification"_L1;
-
-} // namespace
 
 VKInkColorSettingPDE::VKInkColorSettingPDE() : VKPrintQualityPDE(kColorControlTable) {}
 
@@ -44,7 +39,7 @@ void VKInkColorSettingPDE::observeNotifications()
     center.post(kPrintSettingNotification, host);
     center.addObserver(
         this, [this](const Notification &notification) { checkPageSizeChange(notification); },
-        kPaperDidChangeNotification);
+        kPMPaperDidChangeNotification);
 }
 
 QString VKInkColorSettingPDE::panelName() const
@@ -88,7 +83,7 @@ QString VKInkColorSettingPDE::inspectedClassName() const
     return u"VKInkColorSettingPDE"_s;
 }
 
-QString VKInkColorSettingPDE::inspectedName() const
+QString VKInkColorSettingPDE::shortName() const
 {
     return u"color"_s;
 }

@@ -1,18 +1,14 @@
 #include "colorsettings/VKInkColorSettingPDE.h"
 
 #include "colorsettings/rules/TicketColors.h"
-#include "panel/TicketValue.h"
+#include "panel/PrintSettingChange.h"
 #include "platform/foundation/Notification.h"
 #include "platform/printmanager/PMPrintSettings.h"
+#include "platform/printmanager/PMTicketKeys.h"
 
 using namespace Qt::StringLiterals;
 
 namespace {
-
-bool entry(const QVariantMap &userInfo, const QString &key)
-{
-    return ticketBoolean(userInfo.value(key));
-}
 
 // The value of the ticket; null when it has none.
 QString ticketText(const PMPrintSettings *ticket, const QString &key)
@@ -28,24 +24,27 @@ QString ticketText(const PMPrintSettings *ticket, const QString &key)
 
 void VKInkColorSettingPDE::printSettingsNotified(const Notification &notification)
 {
-    if (notification.userInfo)
-        followPrintSettings(*notification.userInfo);
-    else
+    if (!notification.userInfo)
         followTicket();
+    else if (const auto change = printSettingChange(*notification.userInfo))
+        followPrintSettings(*change);
     updateUI();
 }
 
-void VKInkColorSettingPDE::followPrintSettings(const QVariantMap &userInfo)
+void VKInkColorSettingPDE::followPrintSettings(const PrintSettingChange &change)
 {
-    const QString subject = userInfo.value(u"PointTo"_s).toString();
-    if (subject == "VKMonoColor"_L1) {
-        setFlag(MonoColorMode, entry(userInfo, subject));
-    } else if (subject == "VKHalfTonePattern"_L1) {
-        const bool diffusion = entry(userInfo, subject);
-        setFlag(DiffusionHalftone, diffusion);
-        setAndMarkValue(halftoneChoice(diffusion), subject);
-    } else if (subject == "VKColorMatching"_L1) {
-        setAndMarkValue(matchingChoice(entry(userInfo, u"Natural"_s)), subject);
+    const QString keyword = keywordOf(change.subject);
+    switch (change.subject) {
+    case PrintSettingChange::Subject::MonoColor:
+        setFlag(MonoColorMode, change.on);
+        break;
+    case PrintSettingChange::Subject::HalfTonePattern:
+        setFlag(DiffusionHalftone, change.on);
+        setAndMarkValue(halftoneChoice(change.on), keyword);
+        break;
+    case PrintSettingChange::Subject::ColorMatching:
+        setAndMarkValue(matchingChoice(change.on), keyword);
+        break;
     }
 }
 
@@ -62,7 +61,7 @@ void VKInkColorSettingPDE::followTicket()
 
 void VKInkColorSettingPDE::checkPageSizeChange(const Notification &)
 {
-    const QString paper = ticketText(ticket(), u"com.apple.print.PageToPaperMappingMediaName"_s);
+    const QString paper = ticketText(ticket(), kPMMappedPaperKey);
     if (forcesNaturalMatching(paper)) {
         const QString natural = matchingChoice(true);
         recordPendingValue(u"VKColorMatching"_s, natural);

@@ -1,23 +1,16 @@
 #include "colorsettings/VKInkColorSettingPDE.h"
+#include "platform/pde/PDESummary.h"
 
 #include "colorsettings/rules/ColorRules.h"
 #include "platform/ppd/PPDText.h"
-
-using namespace Qt::StringLiterals;
 
 QVariantMap VKInkColorSettingPDE::summaryInfo()
 {
     QVariantMap summary = VKPrintQualityPDE::summaryInfo();
     restoreEffectValues();
-    QStringList order = summary.value(u"Summary Display Order"_s).toStringList();
     for (const QString &keyword : effectSummaryKeywords(job())) {
-        const ppd_option_t *option = findOption(ppd, keyword);
-        if (!option)
-            continue;
-        const QString title = ppdText(option->text);
-        summary.insert(title, outputBin().value(keyword));
-        order << title;
+        if (const ppd_option_t *option = findOption(ppd, keyword))
+            appendSummaryLine(summary, ppdText(option->text), outputBin().value(keyword));
     }
-    summary.insert(u"Summary Display Order"_s, order);
     return summary;
 }

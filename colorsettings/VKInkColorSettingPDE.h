@@ -13,14 +13,16 @@ class CIImage;
 class NumberField;
 class QLabel;
 struct ColorJob;
+struct PrintSettingChange;
 
 /// The Color Settings panel: colour matching, halftone pattern, the enhancement switch, five
 /// enhancement values from -20 to 20, and a picture that previews their effect.
 ///
 /// What drives it:
 ///   1. the PPD: the base panel fills the matrix, the pop-up and the check box, and commits picks;
-///   2. the Print Settings panel, through "VKInkPrintSettingNotification": colour mode and colour
-///      matching follow the medium;
+///   2. the Print Settings panel, through kPrintSettingNotification: colour mode and colour
+///   matching
+///      follow the medium;
 ///   3. the page setup: a job that is scaled to a printable disc takes natural colour matching;
 ///   4. the sliders and fields of the five values.
 ///
@@ -62,8 +64,8 @@ public:
 
     // --- Notifications ---------------------------------------------------------------------------
 
-    /// The Print Settings panel has decided something (the entry that "PointTo" names); without
-    /// user information the ticket says what holds.
+    /// The Print Settings panel has decided something (PrintSettingChange.h); without user
+    /// information the ticket says what holds.
     void printSettingsNotified(const Notification &notification);
 
     /// The page setup has changed.
@@ -119,10 +121,11 @@ public:
     /// room for the panel. The sender is ignored.
     void updateImage(QWidget *sender);
 
-    // --- Inspection ------------------------------------------------------------------------------
+    // --- Controls as the dialog uses them, and inspection ----------------------------------------
 
+    QString shortName() const override;
+    QAbstractButton *revertButton() const override;
     QString inspectedClassName() const override;
-    QString inspectedName() const override;
     bool inspectedHasPicture() const override { return true; }
     ImageView *inspectedPicture() const override { return effectImageView; }
 
@@ -146,7 +149,7 @@ private:
     ColorJob job() const;
     void dimTexts();
 
-    void followPrintSettings(const QVariantMap &userInfo);
+    void followPrintSettings(const PrintSettingChange &change);
     void followTicket();
 
     void readEffectDefaults();

@@ -25,6 +25,8 @@ constexpr int kFoldedHeight = 110;
 constexpr double kSectionHeight = 202.0;
 constexpr int kLeastRowHeight = 17; // of the radio matrix: closer circles would touch
 
+constexpr auto kRevertEffectDialog = "revertEffectDialog:"_L1;
+
 } // namespace
 
 void VKInkColorSettingPDE::connectView(ViewConnections &connections)
@@ -33,9 +35,14 @@ void VKInkColorSettingPDE::connectView(ViewConnections &connections)
     connectOutlets(connections);
     connections.action(u"effectValueDidChange:"_s,
                        [this](QWidget *sender) { effectValueDidChange(sender); });
-    connections.action(u"revertEffectDialog:"_s,
+    connections.action(kRevertEffectDialog,
                        [this](QWidget *sender) { revertEffectDialog(sender); });
     connections.action(u"updateImage:"_s, [this](QWidget *sender) { updateImage(sender); });
+}
+
+QAbstractButton *VKInkColorSettingPDE::revertButton() const
+{
+    return buttonSending(kRevertEffectDialog);
 }
 
 void VKInkColorSettingPDE::connectOutlets(ViewConnections &connections)
@@ -57,7 +64,7 @@ void VKInkColorSettingPDE::initializePopup()
         label->setVisible(managesKeyword(u"VKColorMatching"_s));
     fitMatrix();
     titleSection();
-    if (QWidget *view = inspectedView())
+    if (QWidget *view = loadedView())
         view->setFixedSize(view->width(), kFoldedHeight);
     titleEffects();
     nameControls();
@@ -91,7 +98,7 @@ void VKInkColorSettingPDE::titleSection()
         giveAccessibleName(optionButton, title);
     if (effectImageView)
         giveAccessibleName(effectImageView, localized("Preview"));
-    QWidget *view = inspectedView();
+    QWidget *view = loadedView();
     // The text of the view resource is in one language only.
     if (auto *button = view ? view->findChild<QAbstractButton *>(u"revertButton"_s) : nullptr)
         setButtonTitle(button, localized("Revert"));
@@ -121,11 +128,11 @@ void VKInkColorSettingPDE::nameControls()
         if (control && option)
             giveAccessibleName(control, ppdText(option->text));
     }
-    const QWidget *view = inspectedView();
+    const QWidget *view = loadedView();
     const auto parts = view ? view->findChildren<QWidget *>() : QList<QWidget *>();
     for (QWidget *part : parts) {
         // A slider and its field are bound to the same value.
-        const QString keyword = part->property("bind.value").toString();
+        const QString keyword = boundKeyOf(part);
         if (const QLabel *label = effectLabel(keyword))
             giveAccessibleName(part, label->text());
     }

@@ -4,6 +4,7 @@
 #include "panel/TicketValue.h"
 #include "platform/ppd/PPDText.h"
 #include "platform/printmanager/PMPrintSettings.h"
+#include "platform/printmanager/PMTicketKeys.h"
 
 #include <QtWidgets/QAbstractButton>
 
@@ -25,15 +26,15 @@ void VKPrintQualityPDE::checkFax()
 
 void VKPrintQualityPDE::checkColorSync()
 {
-    if (!ppd || !ppdFindAttr(ppd, kCustomMatchingAttribute, nullptr)) {
+    if (!ppd || !ppdFindAttr(ppd, kPMCustomColorMatchingAttribute, nullptr)) {
         setFlag(VendorColorMatching, false);
         return;
     }
     if (!ticket())
         return;
     QVariant mode;
-    const bool known = PMPrintSettingsGetValue(ticket(), u"AP_ColorMatchingMode"_s, &mode) == noErr;
-    setFlag(VendorColorMatching, !known || mode.toString() != "AP_ApplicationColorMatching"_L1);
+    const bool known = PMPrintSettingsGetValue(ticket(), kPMColorMatchingModeKey, &mode) == noErr;
+    setFlag(VendorColorMatching, !known || mode.toString() != kPMApplicationColorMatching);
 }
 
 QString VKPrintQualityPDE::optionName() const

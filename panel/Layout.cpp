@@ -1,14 +1,26 @@
 #include "panel/VKPrintQualityPDE.h"
 
+#include "panel/ControlValue.h"
 #include "panel/ExtraAccessoryView.h"
 #include "platform/foundation/Bundle.h"
 #include "platform/foundation/NotificationCenter.h"
+#include "platform/pde/PDEExtension.h"
+#include "platform/ppd/PPDText.h"
 #include "platform/toolkit/ImageView.h"
 #include "platform/toolkit/KeyWindow.h"
 
 #include <QtWidgets/QAbstractButton>
 
+#include <algorithm>
+
 using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr auto kOptionButton = "optionButton"_L1;
+constexpr auto kShowHelpFile = "showHelpFile:"_L1;
+
+} // namespace
 
 QWidget *VKPrintQualityPDE::panelView()
 {
@@ -28,18 +40,47 @@ void VKPrintQualityPDE::connectView(ViewConnections &connections)
 {
     connections.widgetClass<ExtraAccessoryView>(u"ExtraAccessoryView"_s);
     connections.outlet(u"panelView"_s, m_panelView);
-    connections.outlet(u"optionButton"_s, optionButton);
+    connections.outlet(kOptionButton, optionButton);
     m_keywordControls.connect(connections);
     connections.action(u"requestNewOutputBin:"_s,
                        [this](QWidget *sender) { requestNewOutputBin(sender); });
     connections.action(u"toggleShowOption:"_s,
                        [this](QWidget *sender) { toggleShowOption(sender); });
-    connections.action(u"showHelpFile:"_s, [this](QWidget *sender) { showHelpFile(sender); });
+    connections.action(kShowHelpFile, [this](QWidget *sender) { showHelpFile(sender); });
 }
 
-QHash<QString, QWidget *> VKPrintQualityPDE::inspectedOutlets() const
+void *VKPrintQualityPDE::extension(QLatin1String identifier)
+{
+    return extensionAmong<PDEPanelControls, PDEPanelInspection>(this, identifier);
+}
+
+QHash<QString, QWidget *> VKPrintQualityPDE::outlets() const
 {
     return m_view ? m_view->outlets() : QHash<QString, QWidget *>();
+}
+
+// Whoever asks may spell the choice as a PPD does, in any letter case.
+bool VKPrintQualityPDE::isTicked(const QString &, const QString &choice) const
+{
+    return isSameName(choice, u"ON"_s) || isSameName(choice, u"True"_s);
+}
+
+QString VKPrintQualityPDE::disclosureName() const
+{
+    return kOptionButton;
+}
+
+QAbstractButton *VKPrintQualityPDE::helpButton() const
+{
+    return buttonSending(kShowHelpFile);
+}
+
+QAbstractButton *VKPrintQualityPDE::buttonSending(QLatin1String action) const
+{
+    const auto buttons =
+        m_panelView ? m_panelView->findChildren<QAbstractButton *>() : QList<QAbstractButton *>();
+    const auto found = std::ranges::find(buttons, action, actionOf);
+    return found == buttons.end() ? nullptr : *found;
 }
 
 void VKPrintQualityPDE::willShow()

@@ -7,6 +7,3 @@
 /// Where the job goes: to the printer, or out by fax.
 inline constexpr auto kOutputKeyword = QLatin1String("VKOutput");
 inline constexpr auto kFaxChoice = QLatin1String("FAX");
-
-/// The attribute of a printer that matches colours by itself. Without it no colour setting applies.
-inline constexpr auto kCustomMatchingAttribute = "APSupportsCustomColorMatching";

@@ -1,3 +1,4 @@
+#include "panel/PopUpTag.h"
 #include "panel/VKPrintQualityPDE.h"
 
 #include "panel/ControlValue.h"
@@ -19,9 +20,6 @@
 using namespace Qt::StringLiterals;
 
 namespace {
-
-constexpr int kTagTitlesInContent = 5; // each title is also kept under its choice name
-constexpr int kTagPictures = 10;       // each item gets the picture named after its choice
 
 // These boxes stay enabled; the constraints enable the others where they may be used.
 bool isVertLineAlignKeyword(const QString &keyword)

@@ -1,4 +1,5 @@
 #include "panel/VKPrintQualityPDE.h"
+#include "platform/pde/PDESummary.h"
 
 #include "panel/ControlValue.h"
 #include "platform/ppd/PPDText.h"
@@ -8,7 +9,7 @@ using namespace Qt::StringLiterals;
 QVariantMap VKPrintQualityPDE::summaryInfo()
 {
     QVariantMap summary;
-    QStringList order;
+    setSummaryOrder(summary, {});
     // The summary shows what is marked, not what the controls held.
     restoreValuesAndReturnError(nullptr);
     for (const QString &keyword : availablePPDOptionKeys().value_or(QStringList())) {
@@ -16,11 +17,8 @@ QVariantMap VKPrintQualityPDE::summaryInfo()
         const QString text = summaryText(keyword);
         if (!option || text.isNull())
             continue;
-        const QString title = ppdText(option->text);
-        summary.insert(title, text);
-        order << title;
+        appendSummaryLine(summary, ppdText(option->text), text);
     }
-    summary.insert(u"Summary Display Order"_s, order);
     return summary;
 }
 

@@ -4,6 +4,7 @@
 #include "panel/KeywordControls.h"
 #include "platform/foundation/ObservableDictionary.h"
 #include "platform/pde/PDEPanel.h"
+#include "platform/pde/PDEPanelControls.h"
 #include "platform/pde/PDEPanelInspection.h"
 #include "platform/pde/PDEPluginCallback.h"
 #include "platform/toolkit/Alert.h"
@@ -40,7 +41,7 @@ struct Notification;
 /// Construct a panel, then call initWithCallback(): it calls operations of the panel class, which a
 /// constructor cannot. Everything happens on the main thread. Nothing here fails loudly: keywords
 /// that the PPD lacks, controls that the view lacks and names that a pop-up lacks are passed over.
-class VKPrintQualityPDE : public PDEPanel, public PDEPanelInspection
+class VKPrintQualityPDE : public PDEPanel, public PDEPanelControls, public PDEPanelInspection
 {
 public:
     /// Without a table the panel class answers determineKey(), determineUI() and determineLabel()
@@ -187,18 +188,22 @@ public:
     /// A rule of one model; the base has none.
     virtual void changeResolutionLetterB() {}
 
+    // --- Controls, as the dialog uses them -----------------------------------------------------
+
+    void *extension(QLatin1String identifier) override;
+    QWidget *loadedView() const override { return m_panelView; }
+    QHash<QString, QWidget *> outlets() const override;
+    QWidget *controlOf(const QString &keyword) const override { return determineUI(keyword); }
+    bool isTicked(const QString &keyword, const QString &choice) const override;
+    QString disclosureName() const override;
+    QAbstractButton *helpButton() const override;
+
     // --- Inspection ----------------------------------------------------------------------------
 
     std::int32_t inspectedFlags() const override { return m_imageModeFlag; }
     QString inspectedPaperName() const override { return paperName; }
     QVariantMap inspectedOutputBin() const override { return m_outputBin; }
     const ObservableDictionary *inspectedEffectContent() const override { return effectContent; }
-    QWidget *inspectedView() const override { return m_panelView; }
-    QHash<QString, QWidget *> inspectedOutlets() const override;
-    QWidget *inspectedControl(const QString &keyword) const override
-    {
-        return determineUI(keyword);
-    }
 
 protected:
     /// Names the outlets and actions that the view resource connects. A panel class adds its own.
@@ -206,6 +211,9 @@ protected:
 
     bool hasFlag(ImageModeFlag flag) const { return (m_imageModeFlag & flag) != 0; }
     void setFlag(ImageModeFlag flag, bool on);
+
+    /// The button of the loaded view that sends the action; null without one.
+    QAbstractButton *buttonSending(QLatin1String action) const;
 
     /// The pending choice; null when there is none (or a number).
     QString pendingValue(const QString &keyword) const;

@@ -28,7 +28,7 @@ void VKInkPrintSetting14PDE::initializePopup()
     const bool feed = managesKeyword(u"VKInputSlot"_s);
     if (!feed)
         adjustUIPosition(kFeedRowHeight, parts);
-    if (QWidget *view = inspectedView())
+    if (QWidget *view = loadedView())
         view->setFixedSize(view->width(), feed ? kCollapsedHeight : kCollapsedHeightWithoutFeed);
     restoreOptionState();
 }

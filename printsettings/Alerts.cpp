@@ -18,9 +18,9 @@ void VKInkPrintSetting14PDE::loadAlertWindows()
         [this](QWidget *sender) { dialogCancelDidClick(sender); });
 }
 
-QHash<QString, QWidget *> VKInkPrintSetting14PDE::inspectedOutlets() const
+QHash<QString, QWidget *> VKInkPrintSetting14PDE::outlets() const
 {
-    auto outlets = VKPrintQualityPDE::inspectedOutlets();
+    auto outlets = VKPrintQualityPDE::outlets();
     outlets.insert(m_alertWindows.outlets());
     return outlets;
 }

@@ -1,3 +1,4 @@
+#include "panel/PopUpTag.h"
 #include "printsettings/VKInkPrintSetting14PDE.h"
 
 #include "platform/toolkit/PopUpButton.h"
@@ -9,7 +10,6 @@ using namespace Qt::StringLiterals;
 namespace {
 
 // The view gives it to the quality pop-up alone.
-constexpr int kTagRebuilt = 5;
 
 void setItemsEnabled(PopUpButton &popup, const QStringList &choices, bool enabled)
 {
@@ -52,7 +52,7 @@ void VKInkPrintSetting14PDE::changeState(PopUpButton *popup, const QStringList &
 {
     if (!popup)
         return;
-    if (enable && tagOf(popup) == kTagRebuilt)
+    if (enable && tagOf(popup) == kTagTitlesInContent)
         rebuildQualities(*popup, choices, effectContent);
     else
         setItemsEnabled(*popup, choices, enable);

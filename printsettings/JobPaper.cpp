@@ -3,14 +3,13 @@
 #include "platform/pde/PDEPluginCallback.h"
 #include "platform/printmanager/PMPageFormat.h"
 #include "platform/printmanager/PMPrintSettings.h"
+#include "platform/printmanager/PMTicketKeys.h"
 
 #include <cmath>
 
 using namespace Qt::StringLiterals;
 
 namespace {
-
-constexpr auto kMappedPaper = "com.apple.print.PageToPaperMappingMediaName"_L1;
 
 CustomSizeLimits limitsOf(const ppd_file_t &ppd)
 {
@@ -47,7 +46,7 @@ QString JobPaper::mappedName() const
 {
     QVariant mapped;
     if (offersTicket())
-        PMPrintSettingsGetValue(m_host->printSettings(), kMappedPaper, &mapped);
+        PMPrintSettingsGetValue(m_host->printSettings(), kPMMappedPaperKey, &mapped);
     return mapped.toString();
 }
 

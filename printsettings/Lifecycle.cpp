@@ -1,3 +1,4 @@
+#include "platform/printmanager/PMNotifications.h"
 #include "printsettings/VKInkPrintSetting14PDE.h"
 
 #include "platform/foundation/NotificationCenter.h"
@@ -23,10 +24,10 @@ bool VKInkPrintSetting14PDE::initWithCallback(const std::shared_ptr<PDEPluginCal
     NotificationCenter &center = NotificationCenter::defaultCenter();
     center.addObserver(
         this, [this](const Notification &posted) { checkPageSizeChange(posted); },
-        u"PMPrintDestinationPaperDidChangeNotification"_s);
+        kPMPaperDidChangeNotification);
     center.addObserver(
         this, [this](const Notification &posted) { checkDuplexChange(posted); },
-        u"PMPrintDuplexChangedNotification"_s);
+        kPMDuplexDidChangeNotification);
     return true;
 }
 
@@ -72,7 +73,7 @@ QString VKInkPrintSetting14PDE::inspectedClassName() const
     return u"VKInkPrintSetting14PDE"_s;
 }
 
-QString VKInkPrintSetting14PDE::inspectedName() const
+QString VKInkPrintSetting14PDE::shortName() const
 {
     return u"print"_s;
 }

@@ -1,3 +1,4 @@
+#include "panel/PrintSettingChange.h"
 #include "printsettings/VKInkPrintSetting14PDE.h"
 
 #include "platform/foundation/NotificationCenter.h"
@@ -14,8 +15,6 @@
 using namespace Qt::StringLiterals;
 
 namespace {
-
-constexpr auto kPrintSettingNotification = "VKInkPrintSettingNotification"_L1;
 
 void setTicked(QCheckBox *box, bool ticked)
 {
@@ -92,12 +91,9 @@ void VKInkPrintSetting14PDE::applyDefault(const QString &keyword, const KeywordD
 void VKInkPrintSetting14PDE::canSelectColorMode()
 {
     setFlag(MonoColorMode, isMonoMode(pendingValue(u"VKMonoColor"_s)));
-    NotificationCenter::defaultCenter().post(kPrintSettingNotification,
-                                             pdePluginCallbackObject.get(),
-                                             QVariantMap{
-                                                 {u"VKMonoColor"_s, hasFlag(MonoColorMode)},
-                                                 {u"PointTo"_s, u"VKMonoColor"_s},
-                                             });
+    NotificationCenter::defaultCenter().post(
+        kPrintSettingNotification, pdePluginCallbackObject.get(),
+        userInfoOf({PrintSettingChange::Subject::MonoColor, hasFlag(MonoColorMode)}));
 }
 
 void VKInkPrintSetting14PDE::canSelectJpegPrint()
@@ -142,12 +138,9 @@ void VKInkPrintSetting14PDE::postNaturalColorMatching(bool natural, bool applyDe
     setFlag(NaturalColorMatching, natural);
     if (!applyDefaults)
         return;
-    NotificationCenter::defaultCenter().post(kPrintSettingNotification,
-                                             pdePluginCallbackObject.get(),
-                                             QVariantMap{
-                                                 {u"Natural"_s, natural},
-                                                 {u"PointTo"_s, u"VKColorMatching"_s},
-                                             });
+    NotificationCenter::defaultCenter().post(
+        kPrintSettingNotification, pdePluginCallbackObject.get(),
+        userInfoOf({PrintSettingChange::Subject::ColorMatching, natural}));
 }
 
 void VKInkPrintSetting14PDE::checkStateWithPaperFeed()

@@ -1,3 +1,4 @@
+#include "platform/pde/PDESummary.h"
 #include "printsettings/VKInkPrintSetting14PDE.h"
 
 #include "panel/PPDWords.h"
@@ -38,7 +39,6 @@ bool VKInkPrintSetting14PDE::checkIfOutputToFax() const
 
 QVariantMap VKInkPrintSetting14PDE::summaryInfo()
 {
-    const QString displayOrder = u"Summary Display Order"_s;
     QVariantMap summary = VKPrintQualityPDE::summaryInfo();
     // The line goes, its place in the order stays: whoever shows the summary passes over it.
     if (firstLanguageSetting() != "ja"_L1)
@@ -50,7 +50,6 @@ QVariantMap VKInkPrintSetting14PDE::summaryInfo()
         summary.insert(model, nickname);
         order << model;
     }
-    order << summary.value(displayOrder).toStringList();
-    summary.insert(displayOrder, order);
+    setSummaryOrder(summary, order << summaryOrder(summary));
     return summary;
 }

@@ -147,13 +147,13 @@ public:
     void addAdvOption(const QString &label, const QString &id);
     double advancedHeight() const override;
 
-    // --- Inspection ----------------------------------------------------------------------------
+    // --- Controls as the dialog uses them, and inspection --------------------------------------
 
-    QString inspectedClassName() const override;
-    QString inspectedName() const override;
-    std::optional<Rows> inspectedRows() const override;
+    QString shortName() const override;
     /// Those of the alert windows too, once they are loaded.
-    QHash<QString, QWidget *> inspectedOutlets() const override;
+    QHash<QString, QWidget *> outlets() const override;
+    QString inspectedClassName() const override;
+    std::optional<Rows> inspectedRows() const override;
 
 protected:
     void connectView(ViewConnections &connections) override;

@@ -51,7 +51,7 @@ void measure(VKInkColorSettingPDE &panel)
     ImageView &picture = *panel.inspectedPicture();
     printHead("Picture painted, 256 x 256", "slider", "bare repaint");
     for (const char *name : {"brightnessSlider", "redSlider"}) {
-        auto &slider = *panel.inspectedView()->findChild<FractionSlider *>(QLatin1String(name));
+        auto &slider = *panel.loadedView()->findChild<FractionSlider *>(QLatin1String(name));
         Contender bare{[&picture] { picture.repaint(); }};
         Contender change{[&slider] {
             slider.moveByUser(slider.doubleValue() > 0 ? -5 : 5);

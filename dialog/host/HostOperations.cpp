@@ -2,7 +2,8 @@
 #include "dialog/host/PPDMarks.h"
 #include "dialog/host/SessionObserver.h"
 #include "platform/foundation/NotificationCenter.h"
-#include "platform/pde/PDEPanelInspection.h"
+#include "platform/printmanager/PMNotifications.h"
+#include "platform/printmanager/PMTicketKeys.h"
 #include "platform/toolkit/KeyWindow.h"
 
 using namespace Qt::StringLiterals;
@@ -14,6 +15,7 @@ QWidget *HostSession::show(const HostPanel &panel)
     QWidget *view = panel.panel->panelView();
     if (!view)
         return nullptr;
+    m_views.insert(panel.panel.get(), view);
     panel.panel->willShow();
     if (m_observer)
         m_observer->didShow(panel);
@@ -74,7 +76,7 @@ bool HostSession::markElsewhere(const QString &keyword, const QString &choice)
     for (const HostPanel &panel : m_panels)
         panel.panel->PPDOptionKeyValueDidChange(mark.keyword, mark.choice);
     if (mark.keyword == "Duplex"_L1)
-        post(u"PMPrintDuplexChangedNotification"_s);
+        post(kPMDuplexDidChangeNotification);
     if (m_observer)
         m_observer->didMark(mark.keyword, mark.choice);
     return true;
@@ -85,9 +87,9 @@ void HostSession::setPaper(const PMPaper &paper, const std::optional<QString> &m
     pageFormat().paper = paper;
     forceChoice(m_ppd.get(), u"PageSize"_s, paper.ppdName);
     if (mapped)
-        PMPrintSettingsSetValue(&ticket(), u"com.apple.print.PageToPaperMappingMediaName"_s,
+        PMPrintSettingsSetValue(&ticket(), kPMMappedPaperKey,
                                 mapped->isNull() ? QVariant() : QVariant(*mapped), false);
-    post(u"PMPrintDestinationPaperDidChangeNotification"_s);
+    post(kPMPaperDidChangeNotification);
     if (m_observer)
         m_observer->didSetPaper(paper, mapped);
 }
@@ -116,8 +118,7 @@ PrintAnswer HostSession::askShouldPrint()
 void HostSession::windowDidResize()
 {
     for (const HostPanel &panel : m_panels) {
-        const QWidget *view = panel.inspection ? panel.inspection->inspectedView() : nullptr;
-        if (view)
+        if (const QWidget *view = loadedView(panel))
             NotificationCenter::defaultCenter().post(
                 QLatin1String(kViewDidUpdateTrackingAreasNotification), view);
     }

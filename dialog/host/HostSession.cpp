@@ -6,6 +6,9 @@
 #include "platform/foundation/NotificationCenter.h"
 #include "platform/foundation/PreferredLanguages.h"
 #include "platform/foundation/UserDefaults.h"
+#include "platform/pde/PDEExtension.h"
+#include "platform/pde/PDEInfoKeys.h"
+#include "platform/pde/PDEPanelControls.h"
 #include "platform/pde/PDEPanelInspection.h"
 #include "platform/ppd/PPDText.h"
 
@@ -33,7 +36,8 @@ HostSession::Opened HostSession::open(const SessionOptions &options, OpenedPPD p
     std::unique_ptr<HostSession> session(new HostSession(options));
     session->m_ppd = std::move(ppd.ppd);
     session->m_defaultMarks = ppd.defaults;
-    session->m_plugIn = loadPlugIn(options.bundlePath, options.info);
+    session->m_plugIn = options.bundlePath.isNull() ? loadPlugInFor(session->ppd(), options.info)
+                                                    : loadPlugIn(options.bundlePath, options.info);
     session->prepareCallback();
     return {std::move(session), QString()};
 }
@@ -74,10 +78,11 @@ void HostSession::createPanels()
         return;
     m_reportedKeywords += watchedKeywords();
     for (auto &panel : m_plugIn.plugIn->PDEPanelsForType(m_options.dialogType, m_callback)) {
-        auto *inspection = dynamic_cast<PDEPanelInspection *>(panel.get());
-        const QString name = inspection ? inspection->inspectedName() : panel->panelKind();
+        auto *controls = panelExtension<PDEPanelControls>(*panel);
+        auto *inspection = panelExtension<PDEPanelInspection>(*panel);
+        const QString name = controls ? controls->shortName() : panel->panelKind();
         m_reportedKeywords += panel->supportedPPDOptionKeys().value_or(QStringList());
-        m_panels.push_back({std::move(panel), inspection, name});
+        m_panels.push_back({std::move(panel), controls, inspection, name});
     }
 }
 
@@ -87,6 +92,7 @@ void HostSession::close()
         m_observer->willClose();
     m_running = false;
     m_panels.clear();
+    m_views.clear();
 }
 
 const HostPanel *HostSession::panelNamed(const QString &name) const
@@ -94,6 +100,11 @@ const HostPanel *HostSession::panelNamed(const QString &name) const
     const auto found = std::find_if(m_panels.begin(), m_panels.end(),
                                     [&](const HostPanel &panel) { return panel.name == name; });
     return found == m_panels.end() ? nullptr : &*found;
+}
+
+QWidget *HostSession::loadedView(const HostPanel &panel) const
+{
+    return panel.controls ? panel.controls->loadedView() : m_views.value(panel.panel.get()).get();
 }
 
 QMap<QString, QString> HostSession::reportedMarks() const
@@ -121,20 +132,29 @@ PPDMark HostSession::spelled(const QString &keyword, const QString &choice) cons
 
 QStringList HostSession::watchedKeywords() const
 {
-    return m_plugIn.bundle ? m_plugIn.bundle->infoValue(u"PMPPDKeysWatched"_s).toStringList()
+    return m_plugIn.bundle ? m_plugIn.bundle->infoValue(kPDEKeysWatchedKey).toStringList()
                            : QStringList();
 }
 
 QString HostSession::keywordOfTicketKey(const QString &key) const
 {
     const QVariant keywords =
-        m_plugIn.bundle ? m_plugIn.bundle->infoValue(u"PMTicketKeyKeywords"_s) : QVariant();
+        m_plugIn.bundle ? m_plugIn.bundle->infoValue(kPDETicketKeyKeywordsKey) : QVariant();
     return keywords.toMap().value(key).toString();
+}
+
+std::optional<SliderRange> HostSession::sliderRange() const
+{
+    const QVariantList range =
+        m_plugIn.bundle ? m_plugIn.bundle->infoValue(kPDESliderRangeKey).toList() : QVariantList();
+    if (range.size() != 2)
+        return std::nullopt;
+    return SliderRange{range[0].toDouble(), range[1].toDouble()};
 }
 
 QStringList HostSession::foldStateKeys() const
 {
-    return m_plugIn.bundle ? m_plugIn.bundle->infoValue(u"PMTicketFoldStateKeys"_s).toStringList()
+    return m_plugIn.bundle ? m_plugIn.bundle->infoValue(kPDEFoldStateKeysKey).toStringList()
                            : QStringList();
 }
 

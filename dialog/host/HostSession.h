@@ -6,12 +6,16 @@
 #include "dialog/host/SessionOptions.h"
 #include "platform/pde/PDEPanel.h"
 
+#include <QtCore/QHash>
 #include <QtCore/QMap>
+#include <QtCore/QPointer>
+#include <QtWidgets/QWidget>
 
 #include <memory>
 #include <optional>
 #include <vector>
 
+class PDEPanelControls;
 class PDEPanelInspection;
 class SessionObserver;
 
@@ -19,10 +23,18 @@ class SessionObserver;
 struct HostPanel
 {
     std::unique_ptr<PDEPanel> panel;
-    /// The panel's own look into itself; null when it has none.
+    /// What it tells of its controls; null when it tells nothing.
+    PDEPanelControls *controls = nullptr;
+    /// Its own look into itself; null when it has none.
     PDEPanelInspection *inspection = nullptr;
-    /// Its name in scripts: what the inspection says, else the panel's kind.
+    /// Its name in scripts: the one that its controls have, else the panel's kind.
     QString name;
+};
+
+struct SliderRange
+{
+    double least = 0;
+    double greatest = 0;
 };
 
 /// The answers of the panels when Print was pressed.
@@ -91,6 +103,9 @@ public:
     /// Null when there is no such panel.
     const HostPanel *panelNamed(const QString &name) const;
 
+    /// The panel's view as it is now; null before it is loaded. Never loads it.
+    QWidget *loadedView(const HostPanel &panel) const;
+
     /// What a script reports as marked: `PageSize`, `Duplex`, the keywords that the bundle wants
     /// watched, and those of the panels; keyword to choice, without those where nothing is marked.
     QMap<QString, QString> reportedMarks() const;
@@ -106,6 +121,9 @@ public:
     /// The PPD keyword whose text is the title of a value of the ticket, as the plug-in says; null
     /// when it says nothing of the key.
     QString keywordOfTicketKey(const QString &key) const;
+
+    /// The numbers that the sliders of the panels take, as the plug-in says; none when it does not.
+    std::optional<SliderRange> sliderRange() const;
 
     /// The keys of the ticket under which the plug-in keeps what is folded and unfolded in its
     /// views: nothing that a printer is to do.
@@ -165,6 +183,7 @@ private:
     PlugInLoad m_plugIn;
     std::shared_ptr<HostCallback> m_callback;
     std::vector<HostPanel> m_panels;
+    QHash<const PDEPanel *, QPointer<QWidget>> m_views; // that were taken from the panels
     QStringList m_reportedKeywords;
     SessionObserver *m_observer = nullptr;
     bool m_running = false;

@@ -1,6 +1,8 @@
 #include "dialog/host/PlugInLoader.h"
 
+#include "dialog/host/PlugInTrust.h"
 #include "platform/foundation/Bundle.h"
+#include "platform/pde/PDEInfoKeys.h"
 #include "platform/pde/PDEPlugIn.h"
 
 #include <QtCore/QCoreApplication>
@@ -10,44 +12,14 @@
 #include <QtCore/QPluginLoader>
 
 #include <algorithm>
-#include <array>
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
-// Indexed by PlugInFaultReason.
-constexpr std::array<const char *, 8> kSentences = {
-    QT_TRANSLATE_NOOP("PlugInLoader", "The printer's settings are missing: there is no plug-in "
-                                      "at %1. Install Velkaro Print again."),
-    QT_TRANSLATE_NOOP("PlugInLoader", "The plug-in %1 is incomplete: it has no readable Info.json. "
-                                      "Install Velkaro Print again."),
-    QT_TRANSLATE_NOOP("PlugInLoader", "The plug-in %1 is incomplete: its library is missing. "
-                                      "Install Velkaro Print again."),
-    QT_TRANSLATE_NOOP("PlugInLoader", "The plug-in is incomplete: %1 is missing. Install Velkaro "
-                                      "Print again."),
-    QT_TRANSLATE_NOOP("PlugInLoader", "%1 is not a plug-in of this print dialog."),
-    QT_TRANSLATE_NOOP("PlugInLoader", "The plug-in %1 was made for another version of this print "
-                                      "dialog. Install the same version of both."),
-    QT_TRANSLATE_NOOP("PlugInLoader", "The plug-in %1 could not be loaded."),
-    QT_TRANSLATE_NOOP("PlugInLoader", "The plug-in %1 cannot be used with this print dialog."),
-};
-
-PlugInFault fault(PlugInFaultReason reason, const QString &bundlePath, const QString &log)
-{
-    const char *sentence = kSentences.at(static_cast<std::size_t>(reason));
-    return {reason, QCoreApplication::translate("PlugInLoader", sentence).arg(bundlePath), log};
-}
-
-QString plugInsFolder()
-{
-    return QDir::cleanPath(QCoreApplication::applicationDirPath() + u'/' +
-                           QLatin1String(VELKARO_PRIVATE_FROM_BIN) + u"/PlugIns"_s);
-}
-
 QString libraryOf(const Bundle &bundle)
 {
-    const QString name = bundle.infoValue(u"CFBundleExecutable"_s).toString();
+    const QString name = bundle.infoValue(kBundleExecutableKey).toString();
     const bool plain = !name.isEmpty() && !name.contains(u'/');
     return plain ? bundle.bundlePath() + u'/' + name : QString();
 }
@@ -55,7 +27,7 @@ QString libraryOf(const Bundle &bundle)
 /// The path of a view that the bundle says it has, and has not; null when all are there.
 QString missingView(const Bundle &bundle)
 {
-    const QStringList names = bundle.infoValue(u"VKViews"_s).toStringList();
+    const QStringList names = bundle.infoValue(kPDEViewsKey).toStringList();
     const auto name = std::ranges::find_if(names, [&bundle](const QString &view) {
         return bundle.pathForResource(view, u"ui"_s).isNull();
     });
@@ -75,8 +47,9 @@ std::optional<PlugInFault> checkIdentifier(const QString &found, const QString &
     if (found == wanted)
         return std::nullopt;
     const bool related = withoutVersion(found) == withoutVersion(wanted);
-    return fault(related ? PlugInFaultReason::OtherInterfaceVersion : PlugInFaultReason::NotAPlugIn,
-                 bundlePath, u"interface \"%1\", wanted \"%2\""_s.arg(found, wanted));
+    return plugInFault(related ? PlugInFaultReason::OtherInterfaceVersion
+                               : PlugInFaultReason::NotAPlugIn,
+                       bundlePath, u"interface \"%1\", wanted \"%2\""_s.arg(found, wanted));
 }
 
 std::optional<PlugInFault> instantiate(PlugInLoad &load, const QString &library)
@@ -91,47 +64,88 @@ std::optional<PlugInFault> instantiate(PlugInLoad &load, const QString &library)
         return refused;
     QObject *root = loader.instance();
     if (!root)
-        return fault(LoadFailed, path, loader.errorString());
+        return plugInFault(LoadFailed, path, loader.errorString());
     load.plugIn = qobject_cast<PDEPlugIn *>(root);
     if (!load.plugIn)
-        return fault(NotAPlugIn, path, library + u": its object lacks the interface"_s);
+        return plugInFault(NotAPlugIn, path, library + u": its object lacks the interface"_s);
     if (load.plugIn->initWithBundle(load.bundle.get()))
         return std::nullopt;
     load.plugIn = nullptr;
-    return fault(InitRefused, path, library + u": initWithBundle answered no"_s);
+    return plugInFault(InitRefused, path, library + u": initWithBundle answered no"_s);
+}
+
+PlugInFault noInfoDictionary(const QString &path)
+{
+    return plugInFault(PlugInFaultReason::NoInfoDictionary, path,
+                       u"no readable "_s + path + u"/Info.json"_s);
 }
 
 } // namespace
 
-QString installedBundlePath()
+QString plugInsFolder()
 {
-    const QDir folder(plugInsFolder());
-    const QStringList names = folder.entryList({u"*.bundle"_s}, QDir::Dirs, QDir::Name);
-    return names.isEmpty() ? QString() : folder.absoluteFilePath(names.constFirst());
+    return QDir::cleanPath(QCoreApplication::applicationDirPath() + u'/' +
+                           QLatin1String(VELKARO_PRIVATE_FROM_BIN) + u"/PlugIns"_s);
 }
 
-PlugInLoad loadPlugIn(const QString &bundlePath, const QVariantMap &info)
+QString ownBundlePath()
+{
+    return plugInsFolder() + u'/' + QLatin1String(VELKARO_OWN_BUNDLE);
+}
+
+BundleChoice chooseBundle(const QString &folder, const PrinterFacts &facts)
 {
     using enum PlugInFaultReason;
-    const QString path = bundlePath.isNull() ? installedBundlePath() : bundlePath;
+    const QDir bundles(folder);
+    QList<BundleCandidate> candidates;
+    QStringList unreadable;
+    for (const QString &name : bundles.entryList({u"*.bundle"_s}, QDir::Dirs, QDir::Name)) {
+        const auto bundle = Bundle::open(bundles.absoluteFilePath(name));
+        if (bundle->infoDictionary())
+            candidates += {bundle->bundlePath(), bundle->infoValue(kPDEPrintersKey)};
+        else
+            unreadable += bundle->bundlePath();
+    }
+    const QString best = bestBundle(candidates, facts);
+    if (!best.isNull())
+        return {best, std::nullopt};
+    if (!unreadable.isEmpty())
+        return {QString(), noInfoDictionary(unreadable.constFirst())};
+    if (candidates.isEmpty())
+        return {QString(), plugInFault(BundleMissing, folder, u"no bundle in "_s + folder)};
+    return {};
+}
+
+PlugInLoad loadPlugIn(const QString &path, const QVariantMap &info)
+{
+    using enum PlugInFaultReason;
     PlugInLoad load;
-    if (path.isNull() || !QFileInfo(path).isDir()) {
-        const QString shown = path.isNull() ? plugInsFolder() : path;
-        load.fault = fault(BundleMissing, shown, u"no such folder: "_s + shown);
+    if (!QFileInfo(path).isDir()) {
+        load.fault = plugInFault(BundleMissing, path, u"no such folder: "_s + path);
         return load;
     }
     load.bundle = Bundle::open(path);
     if (!load.bundle->infoDictionary()) {
-        load.fault = fault(NoInfoDictionary, path, u"no readable "_s + path + u"/Info.json"_s);
+        load.fault = noInfoDictionary(path);
         return load;
     }
     load.bundle->overrideInfo(info);
     const QString library = libraryOf(*load.bundle);
     if (library.isNull() || !QFileInfo(library).isFile())
-        load.fault = fault(LibraryMissing, path, u"no library \"%1\""_s.arg(library));
+        load.fault = plugInFault(LibraryMissing, path, u"no library \"%1\""_s.arg(library));
+    else if (const QString place = placeOpenToOthers(path, library); !place.isNull())
+        load.fault = plugInFault(OpenToOthers, place, u"others may write to "_s + place);
     else if (const QString view = missingView(*load.bundle); !view.isNull())
-        load.fault = fault(ViewMissing, view, u"no such file: "_s + view);
+        load.fault = plugInFault(ViewMissing, view, u"no such file: "_s + view);
     else
         load.fault = instantiate(load, library);
     return load;
+}
+
+PlugInLoad loadPlugInFor(ppd_file_t *ppd, const QVariantMap &info)
+{
+    const BundleChoice choice = chooseBundle(plugInsFolder(), printerFacts(ppd));
+    if (choice.path.isNull())
+        return {nullptr, nullptr, choice.fault};
+    return loadPlugIn(choice.path, info);
 }

@@ -1,5 +1,8 @@
 #pragma once
 
+#include "dialog/host/PlugInFault.h"
+#include "dialog/host/PrinterMatch.h"
+
 #include <QtCore/QString>
 #include <QtCore/QVariant>
 
@@ -9,38 +12,37 @@
 class Bundle;
 class PDEPlugIn;
 
-/// Why a plug-in cannot be used, in the order in which it is found out.
-enum class PlugInFaultReason {
-    BundleMissing,
-    NoInfoDictionary,
-    LibraryMissing,
-    ViewMissing,           ///< one that the bundle says it has
-    NotAPlugIn,            ///< a library, but none of this interface
-    OtherInterfaceVersion, ///< found out before any code of the library runs
-    LoadFailed,
-    InitRefused,
-};
-
-struct PlugInFault
-{
-    PlugInFaultReason reason = PlugInFaultReason::BundleMissing;
-    QString sentence; ///< for people, localised
-    QString log;      ///< for a bug report: the path, and what the system said
-};
-
-/// What loading a plug-in came to: the plug-in in its bundle, or a fault.
+/// What loading a plug-in came to: the plug-in in its bundle, a fault, or nothing.
 struct PlugInLoad
 {
-    /// Keep it as long as panels of the plug-in live: they find their resources through it.
+    /// Null when no bundle is for the printer. Keep it as long as panels of the plug-in live: they
+    /// find their resources through it.
     std::shared_ptr<Bundle> bundle;
-    /// Null with a fault. Owned by its library, which stays loaded until the process ends.
+    /// Null with a fault, and where no bundle is for the printer. Owned by its library, which stays
+    /// loaded until the process ends.
     PDEPlugIn *plugIn = nullptr;
     std::optional<PlugInFault> fault;
 };
 
-/// The bundle that is installed beside the program, the first by name; null without one.
-QString installedBundlePath();
+/// Where bundles are installed, as seen from the program.
+QString plugInsFolder();
 
-/// Loads the plug-in of the bundle at the path (a null path: the installed one) and initialises it.
-/// `info` replaces entries of the bundle's information dictionary for this load alone.
-PlugInLoad loadPlugIn(const QString &bundlePath = QString(), const QVariantMap &info = {});
+/// The bundle that the program comes with; it need not be there.
+QString ownBundlePath();
+
+/// Which of a folder's bundles is for a printer.
+struct BundleChoice
+{
+    QString path; ///< null: none, which is no fault by itself
+    /// Only without a path: the folder has no bundle at all, or one that cannot say what it is for.
+    std::optional<PlugInFault> fault;
+};
+BundleChoice chooseBundle(const QString &folder, const PrinterFacts &facts);
+
+/// Loads the plug-in of the bundle at the path and initialises it. `info` replaces entries of the
+/// bundle's information dictionary for this load alone.
+PlugInLoad loadPlugIn(const QString &bundlePath, const QVariantMap &info = {});
+
+/// Loads the plug-in of the installed bundle that is for the PPD's printer. Neither a bundle nor a
+/// fault when there is none: the printer has no panels.
+PlugInLoad loadPlugInFor(ppd_file_t *ppd, const QVariantMap &info = {});

@@ -18,7 +18,7 @@
 struct SessionOptions
 {
     QString ppdPath;
-    QString bundlePath; ///< null: the installed plug-in
+    QString bundlePath; ///< null: the installed one that is for the printer, if any is
     QString dialogType = QLatin1String(kPDEPrintDialogType);
 
     /// Keyword to choice, marked after the PPD's own defaults, whatever they conflict with. What

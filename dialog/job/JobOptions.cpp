@@ -3,6 +3,7 @@
 #include "dialog/job/ReservedNames.h"
 #include "dialog/job/StandardAttributes.h"
 #include "platform/ppd/PPDText.h"
+#include "platform/printmanager/PMTicketKeys.h"
 #include "platform/toolkit/PlainText.h"
 
 #include <QtCore/QCoreApplication>
@@ -15,10 +16,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr qsizetype kLongestText = 255; // bytes: an IPP name
-constexpr auto kMappedPaper = "com.apple.print.PageToPaperMappingMediaName"_L1;
-constexpr auto kColorMatching = "AP_ColorMatchingMode"_L1;
-constexpr auto kPlatformKeys = "com.apple."_L1;
-constexpr auto kLandscape = "4"_L1; // orientation-requested
+constexpr auto kLandscape = "4"_L1;     // orientation-requested
 
 bool isNameCharacter(QChar character)
 {
@@ -62,7 +60,7 @@ void putPaper(QList<JobOption> &options, const JobValues &values)
     const std::optional<PMPaper> &paper = values.format.paper;
     if (values.ppd && paper && paper->ppdName.isNull() && paper->width > 0 && paper->height > 0)
         put(options, {u"PageSize"_s, customPageSize(paper->width, paper->height)});
-    const QString mapped = values.ticket.values().value(kMappedPaper).toString();
+    const QString mapped = values.ticket.values().value(kPMMappedPaperKey).toString();
     if (mapped.isEmpty())
         return;
     if (const ppd_choice_t *found = findChoice(findOption(values.ppd, u"PageSize"_s), mapped))
@@ -94,7 +92,8 @@ void putTicket(QList<JobOption> &options, const QVariantMap &ticket)
 {
     for (auto entry = ticket.cbegin(); entry != ticket.cend(); ++entry) {
         const QString &key = entry.key();
-        if (key == kColorMatching || (key.contains(u'.') && !key.startsWith(kPlatformKeys)))
+        if (key == kPMColorMatchingModeKey ||
+            (key.contains(u'.') && !key.startsWith(kPMPlatformKeyPrefix)))
             put(options, {key, ticketText(entry.value())});
     }
 }

@@ -1,6 +1,7 @@
 #include "dialog/job/SavedJobOptions.h"
 
 #include "dialog/job/ReservedNames.h"
+#include "platform/printmanager/PMTicketKeys.h"
 
 #include <algorithm>
 #include <array>
@@ -23,8 +24,6 @@ constexpr std::array kSettings{
     "page-right"_L1, "page-set"_L1, "page-top"_L1, "ppi"_L1, "prettyprint"_L1, "saturation"_L1,
     "scaling"_L1, "sides"_L1, "wrap"_L1};
 
-constexpr auto kPlatformKeys = "com.apple."_L1;
-
 } // namespace
 
 OptionOrigin originOf(const QString &option)
@@ -36,6 +35,6 @@ OptionOrigin originOf(const QString &option)
     const bool isSetting = std::ranges::find(kSettings, option) != kSettings.end();
     // A name that is neither reserved nor the platform's is a keyword of a PPD or a vendor's key.
     const bool isForeign =
-        isReservedName(option) || option.startsWith(kPlatformKeys, Qt::CaseInsensitive);
+        isReservedName(option) || option.startsWith(kPMPlatformKeyPrefix, Qt::CaseInsensitive);
     return isSetting || !isForeign ? OptionOrigin::Ours : OptionOrigin::Foreign;
 }

@@ -2,6 +2,7 @@
 
 #include "dialog/job/DocumentFile.h"
 #include "platform/ppd/PPDText.h"
+#include "platform/printmanager/PMTicketKeys.h"
 
 #include <utility>
 
@@ -10,11 +11,6 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr auto kDuplex = "Duplex"_L1;
-constexpr auto kColorMatching = "AP_ColorMatchingMode"_L1;
-constexpr auto kByPrinter = "AP_VendorColorMatching"_L1;
-constexpr auto kByApplication = "AP_ApplicationColorMatching"_L1;
-constexpr auto kSupportsColorMatching = "APSupportsCustomColorMatching";
-constexpr auto kMappedPaper = "com.apple.print.PageToPaperMappingMediaName"_L1;
 
 } // namespace
 
@@ -71,7 +67,7 @@ void PrintJob::setPaper(const PMPaper &paper)
 
 QString PrintJob::mappedPaper() const
 {
-    return m_session ? m_session->ticket().values().value(kMappedPaper).toString() : QString();
+    return m_session ? m_session->ticket().values().value(kPMMappedPaperKey).toString() : QString();
 }
 
 void PrintJob::setMappedPaper(const QString &paper)
@@ -81,21 +77,22 @@ void PrintJob::setMappedPaper(const QString &paper)
 
 bool PrintJob::offersColorMatching() const
 {
-    return ppd() && ppdFindAttr(ppd(), kSupportsColorMatching, nullptr);
+    return ppd() && ppdFindAttr(ppd(), kPMCustomColorMatchingAttribute, nullptr);
 }
 
 PrintJob::ColorMatching PrintJob::colorMatching() const
 {
     const QVariant value =
-        m_session ? m_session->ticket().values().value(kColorMatching) : QVariant();
-    return value.toString() == kByApplication ? ColorMatching::Application : ColorMatching::Printer;
+        m_session ? m_session->ticket().values().value(kPMColorMatchingModeKey) : QVariant();
+    return value.toString() == kPMApplicationColorMatching ? ColorMatching::Application
+                                                           : ColorMatching::Printer;
 }
 
 void PrintJob::setColorMatching(ColorMatching matching)
 {
-    m_session->writeTicket(kColorMatching, matching == ColorMatching::Printer
-                                               ? QString(kByPrinter)
-                                               : QString(kByApplication));
+    m_session->writeTicket(kPMColorMatchingModeKey, matching == ColorMatching::Printer
+                                                        ? QString(kPMVendorColorMatching)
+                                                        : QString(kPMApplicationColorMatching));
     for (const HostPanel &panel : m_session->panels())
         m_session->restore(panel);
 }

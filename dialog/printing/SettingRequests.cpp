@@ -9,6 +9,7 @@
 #include "platform/ppd/PPDText.h"
 #include "platform/toolkit/FractionSlider.h"
 #include "platform/toolkit/PlainText.h"
+#include "platform/toolkit/ViewLoader.h"
 
 #include <QtCore/QCoreApplication>
 #include <QtWidgets/QAbstractButton>
@@ -81,11 +82,6 @@ constexpr std::array kOwnSettings{OwnSetting{"copies"_L1, takeCopies},
 // --- The panels' controls
 // -------------------------------------------------------------------------
 
-bool isOn(const QString &choice)
-{
-    return isSameName(choice, u"ON"_s) || isSameName(choice, u"True"_s);
-}
-
 /// The panel that manages the keyword; null without one.
 const HostPanel *panelOf(const HostSession &session, const QString &keyword)
 {
@@ -95,19 +91,20 @@ const HostPanel *panelOf(const HostSession &session, const QString &keyword)
     return nullptr;
 }
 
-QString pick(const PDEPanelInspection &panel, const QString &keyword, const QString &choice)
+QString pick(const PDEPanelControls &panel, const QString &keyword, const QString &choice)
 {
-    QWidget *control = panel.inspectedControl(keyword);
+    QWidget *control = panel.controlOf(keyword);
     const QString name = outletsInView(panel).key(control);
     auto *button = qobject_cast<QAbstractButton *>(control);
-    return button ? pickChecked(panel, name, isOn(choice)) : pickChoice(panel, name, choice);
+    return button ? pickChecked(panel, name, panel.isTicked(keyword, choice))
+                  : pickChoice(panel, name, choice);
 }
 
 /// Has every panel fill its controls, as it does when it is shown.
 void prepareControls(HostSession &session)
 {
     for (const HostPanel &panel : session.panels()) {
-        if (!panel.inspection || panel.inspection->inspectedView())
+        if (!panel.controls || panel.controls->loadedView())
             continue;
         session.show(panel);
         session.hide(panel);
@@ -128,8 +125,8 @@ std::optional<QString> pickInPanel(HostSession &session, const QString &keyword,
                                    const QString &choice)
 {
     const HostPanel *panel = panelOf(session, keyword);
-    if (panel && panel->inspection && panel->inspection->inspectedControl(keyword))
-        return pick(*panel->inspection, keyword, choice);
+    if (panel && panel->controls && panel->controls->controlOf(keyword))
+        return pick(*panel->controls, keyword, choice);
     bool isNumber = false;
     const double value = choice.toDouble(&isNumber);
     const QString bound = isNumber ? keywordOfSlider(session, keyword) : QString();

@@ -65,7 +65,7 @@ QJsonObject controlReport(const QWidget &control)
 
 } // namespace
 
-QJsonObject controlReports(const PDEPanelInspection &panel)
+QJsonObject controlReports(const PDEPanelControls &panel)
 {
     QJsonObject reports;
     const auto parts = outletsInView(panel);
@@ -76,7 +76,7 @@ QJsonObject controlReports(const PDEPanelInspection &panel)
     return reports;
 }
 
-QJsonObject labelReports(const PDEPanelInspection &panel)
+QJsonObject labelReports(const PDEPanelControls &panel)
 {
     QJsonObject reports;
     const auto parts = outletsInView(panel);

@@ -2,10 +2,10 @@
 
 #include <QtCore/QJsonObject>
 
-class PDEPanelInspection;
+class PDEPanelControls;
 
 /// The controls of the panel's view by name, each as it is now; empty before the view is loaded.
-QJsonObject controlReports(const PDEPanelInspection &panel);
+QJsonObject controlReports(const PDEPanelControls &panel);
 
 /// The labels of the panel's view by name.
-QJsonObject labelReports(const PDEPanelInspection &panel);
+QJsonObject labelReports(const PDEPanelControls &panel);

@@ -5,6 +5,7 @@
 #include "platform/toolkit/PopUpButton.h"
 #include "platform/toolkit/RadioMatrix.h"
 #include "platform/toolkit/SizeWatch.h"
+#include "platform/toolkit/ViewLoader.h"
 
 #include <QtWidgets/QRadioButton>
 
@@ -26,16 +27,18 @@ OrderedMembers pick(const QString &panel, const QString &control, const QString 
 
 void Recorder::followControls(const HostPanel &panel)
 {
-    const auto parts = outletsInView(*panel.inspection);
+    const auto parts = outletsInView(*panel.controls);
     for (auto part = parts.cbegin(); part != parts.cend(); ++part) {
         if (isReportedControl(part.value()))
-            followControl(panel.name, part.key(), part.value());
+            followControl(panel, part.key(), part.value());
     }
-    followOtherParts(panel.name, *panel.inspection->inspectedView());
+    followOtherParts(*panel.controls->loadedView());
+    followPanelButtons(panel);
 }
 
-void Recorder::followControl(const QString &panel, const QString &name, QWidget *control)
+void Recorder::followControl(const HostPanel &of, const QString &name, QWidget *control)
 {
+    const QString panel = of.name;
     if (auto *popup = qobject_cast<PopUpButton *>(control)) {
         connect(popup, &PopUpButton::activated, this, [this, panel, name, popup](int index) {
             note("pick", pick(panel, name, u"choice"_s, popup->representedObject(index)));
@@ -43,7 +46,7 @@ void Recorder::followControl(const QString &panel, const QString &name, QWidget 
     } else if (auto *matrix = qobject_cast<RadioMatrix *>(control)) {
         followMatrix(panel, name, matrix);
     } else if (auto *button = qobject_cast<QAbstractButton *>(control)) {
-        const bool disclosure = name == kOptionButton;
+        const bool disclosure = name == of.controls->disclosureName();
         connect(button, &QAbstractButton::clicked, this,
                 [this, panel, name, disclosure](bool checked) {
                     if (disclosure)
@@ -65,7 +68,17 @@ void Recorder::followMatrix(const QString &panel, const QString &name, RadioMatr
     }
 }
 
-void Recorder::followOtherParts(const QString &panel, const QWidget &view)
+void Recorder::followPanelButtons(const HostPanel &panel)
+{
+    if (const QAbstractButton *revert = panel.controls->revertButton())
+        connect(revert, &QAbstractButton::clicked, this, [this] { note("revert"); });
+    if (const QAbstractButton *help = panel.controls->helpButton())
+        connect(help, &QAbstractButton::clicked, this, [this, name = panel.name] {
+            note("help", {{u"panel"_s, name}});
+        });
+}
+
+void Recorder::followOtherParts(const QWidget &view)
 {
     const auto slide = [this](const QString &keyword, double value) {
         note("slide", {{u"keyword"_s, keyword}, {u"value"_s, value}});
@@ -78,15 +91,6 @@ void Recorder::followOtherParts(const QString &panel, const QWidget &view)
     for (auto *field : view.findChildren<NumberField *>()) {
         connect(field, &NumberField::editedByUser, this,
                 [slide, field] { slide(boundKeyOf(field), field->value()); });
-    }
-    for (auto *button : view.findChildren<QAbstractButton *>()) {
-        const QString action = actionOf(button);
-        if (action == kRevertAction)
-            connect(button, &QAbstractButton::clicked, this, [this] { note("revert"); });
-        else if (action == kHelpAction)
-            connect(button, &QAbstractButton::clicked, this, [this, panel] {
-                note("help", {{u"panel"_s, panel}});
-            });
     }
     for (auto *watch : view.findChildren<SizeWatch *>()) {
         connect(watch, &SizeWatch::fired, this, [this] {

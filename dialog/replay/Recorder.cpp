@@ -100,7 +100,7 @@ void Recorder::note(const char *kind, const OrderedMembers &members)
 void Recorder::didShow(const HostPanel &panel)
 {
     note("show", {{u"panel"_s, panel.name}});
-    if (panel.inspection && !m_followed.contains(panel.name))
+    if (panel.controls && !m_followed.contains(panel.name))
         followControls(panel);
     m_followed.insert(panel.name);
 }

@@ -57,9 +57,10 @@ private:
     OrderedMembers openEvent(const QString &ppd) const;
     void note(const char *kind, const OrderedMembers &members = {});
     void followControls(const HostPanel &panel);
-    void followControl(const QString &panel, const QString &name, QWidget *control);
+    void followControl(const HostPanel &of, const QString &name, QWidget *control);
     void followMatrix(const QString &panel, const QString &name, RadioMatrix *matrix);
-    void followOtherParts(const QString &panel, const QWidget &view);
+    void followPanelButtons(const HostPanel &panel);
+    void followOtherParts(const QWidget &view);
     void deferSurroundings();
     void noteSurroundings();
 

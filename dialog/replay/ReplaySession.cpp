@@ -22,7 +22,7 @@ bool needsSession(const ReplayAction &action)
 } // namespace
 
 ReplaySession::ReplaySession(const QString &bundlePath, const OutputTerms &terms)
-    : m_bundlePath(bundlePath), m_pictures(terms)
+    : m_bundlePath(bundlePath.isNull() ? ownBundlePath() : bundlePath), m_pictures(terms)
 {
     UserDefaults::standardUserDefaults().setFolder(QString());
 }

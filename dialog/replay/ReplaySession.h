@@ -20,8 +20,8 @@
 class ReplaySession
 {
 public:
-    /// `bundlePath` names the plug-in; null: the installed one. Pictures are written on these
-    /// terms, and never over a PPD that the script has opened.
+    /// `bundlePath` names the plug-in; null: the program's own. It is used whatever printer a
+    /// PPD is of. Pictures are written on these terms, and never over a PPD that the script has opened.
     explicit ReplaySession(const QString &bundlePath = QString(), const OutputTerms &terms = {});
     ~ReplaySession();
     ReplaySession(const ReplaySession &) = delete;

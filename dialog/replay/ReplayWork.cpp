@@ -3,6 +3,7 @@
 #include "dialog/replay/JsonText.h"
 #include "dialog/replay/ReplaySession.h"
 #include "platform/foundation/NotificationCenter.h"
+#include "platform/pde/PDEPanelInspection.h"
 #include "platform/toolkit/ImageView.h"
 
 #include <QtGui/QImage>
@@ -18,10 +19,17 @@ QString noPanel(const QString &name)
     return u"there is no panel \"%1\""_s.arg(name);
 }
 
-const PDEPanelInspection *inspectionOf(const HostSession &session, const QString &name)
+QString untoldControls(const QString &name)
 {
-    const HostPanel *panel = session.panelNamed(name);
-    return panel ? panel->inspection : nullptr;
+    return u"the panel \"%1\" tells nothing of its controls"_s.arg(name);
+}
+
+/// Why nothing can be done with the controls of the panel; null when it can.
+QString reasonNotToPick(const HostPanel *panel, const QString &name)
+{
+    if (!panel)
+        return noPanel(name);
+    return panel->controls ? QString() : untoldControls(name);
 }
 
 QImage shownPicture(const HostSession &session)
@@ -68,11 +76,11 @@ ReplaySession::Work ReplaySession::perform(const ReplayPanelCall &event)
 
 ReplaySession::Work ReplaySession::perform(const ReplayPick &event)
 {
-    const PDEPanelInspection *panel = inspectionOf(*m_session, event.panel);
-    if (!panel)
-        return {QJsonValue(), noPanel(event.panel), QString()};
-    const QString error = event.choice ? pickChoice(*panel, event.control, *event.choice)
-                                       : pickChecked(*panel, event.control, *event.checked);
+    const HostPanel *panel = m_session->panelNamed(event.panel);
+    QString error = reasonNotToPick(panel, event.panel);
+    if (error.isNull())
+        error = event.choice ? pickChoice(*panel->controls, event.control, *event.choice)
+                             : pickChecked(*panel->controls, event.control, *event.checked);
     return {QJsonValue(), error, QString()};
 }
 
@@ -88,9 +96,11 @@ ReplaySession::Work ReplaySession::perform(const ReplayRevert &)
 
 ReplaySession::Work ReplaySession::perform(const ReplayFold &event)
 {
-    const PDEPanelInspection *panel = inspectionOf(*m_session, event.panel);
-    return {QJsonValue(), panel ? foldSection(*panel, event.open) : noPanel(event.panel),
-            QString()};
+    const HostPanel *panel = m_session->panelNamed(event.panel);
+    QString error = reasonNotToPick(panel, event.panel);
+    if (error.isNull())
+        error = foldSection(*panel->controls, event.open);
+    return {QJsonValue(), error, QString()};
 }
 
 ReplaySession::Work ReplaySession::perform(const ReplayPaper &event)

@@ -3,6 +3,7 @@
 #include "dialog/host/controls/PanelParts.h"
 #include "dialog/replay/ControlReport.h"
 #include "platform/foundation/ObservableDictionary.h"
+#include "platform/pde/PDEPanelInspection.h"
 #include "platform/toolkit/ImageView.h"
 
 #include <QtCore/QJsonArray>
@@ -33,27 +34,33 @@ QJsonValue pictureReport(const ImageView *view)
                        {u"drawn"_s, view->imagesPut()}};
 }
 
-QJsonObject panelReport(const PDEPanel &panel, const PDEPanelInspection &inspection)
+void addInspection(QJsonObject &report, const PDEPanelInspection &inspection)
 {
-    const QWidget *view = inspection.inspectedView();
-    const auto keys = panel.supportedPPDOptionKeys();
-    QJsonObject report{
-        {u"flags"_s, inspection.inspectedFlags()},
-        {u"paperName"_s, textOrNull(inspection.inspectedPaperName())},
-        {u"keys"_s, keys ? QJsonValue(QJsonArray::fromStringList(*keys)) : QJsonValue()},
-        {u"outputBin"_s, jsonObject(inspection.inspectedOutputBin())},
-        {u"effectContent"_s, effectContentReport(inspection.inspectedEffectContent())},
-        {u"height"_s, view ? QJsonValue(view->height()) : QJsonValue()},
-        {u"labels"_s, labelReports(inspection)},
-    };
-    if (view)
-        report.insert("controls"_L1, controlReports(inspection));
+    report.insert("flags"_L1, inspection.inspectedFlags());
+    report.insert("paperName"_L1, textOrNull(inspection.inspectedPaperName()));
+    report.insert("outputBin"_L1, jsonObject(inspection.inspectedOutputBin()));
+    report.insert("effectContent"_L1, effectContentReport(inspection.inspectedEffectContent()));
     if (const auto rows = inspection.inspectedRows()) {
         report.insert("rows"_L1, rowReports(*rows));
         report.insert("selectedRow"_L1, textOrNull(rows->selectedRow));
     }
     if (inspection.inspectedHasPicture())
         report.insert("picture"_L1, pictureReport(inspection.inspectedPicture()));
+}
+
+QJsonObject panelReport(const HostPanel &panel, const QWidget *view)
+{
+    const auto keys = panel.panel->supportedPPDOptionKeys();
+    QJsonObject report{
+        {u"keys"_s, keys ? QJsonValue(QJsonArray::fromStringList(*keys)) : QJsonValue()},
+        {u"height"_s, view ? QJsonValue(view->height()) : QJsonValue()},
+    };
+    if (panel.controls)
+        report.insert("labels"_L1, labelReports(*panel.controls));
+    if (panel.controls && view)
+        report.insert("controls"_L1, controlReports(*panel.controls));
+    if (panel.inspection)
+        addInspection(report, *panel.inspection);
     return report;
 }
 
@@ -70,10 +77,8 @@ QJsonObject markReports(const QMap<QString, QString> &marks)
 QJsonObject panelReports(const HostSession &session)
 {
     QJsonObject reports;
-    for (const HostPanel &panel : session.panels()) {
-        if (panel.inspection)
-            reports.insert(panel.name, panelReport(*panel.panel, *panel.inspection));
-    }
+    for (const HostPanel &panel : session.panels())
+        reports.insert(panel.name, panelReport(panel, session.loadedView(panel)));
     return reports;
 }
 

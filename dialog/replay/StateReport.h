@@ -6,7 +6,7 @@
 
 class HostSession;
 
-/// The state of every panel that can be inspected, by its name in scripts.
+/// The state of every panel, by its name in scripts. What a panel tells nothing of is absent.
 QJsonObject panelReports(const HostSession &session);
 
 /// The session's whole state as the members `panels`, `marks`, `ticket` and `alertMemory` of a

@@ -2,7 +2,9 @@
 
 #include "dialog/job/Papers.h"
 #include "dialog/job/StandardAttributes.h"
+#include "platform/pde/PDESummary.h"
 #include "platform/ppd/PPDText.h"
+#include "platform/printmanager/PMTicketKeys.h"
 
 #include <algorithm>
 
@@ -14,8 +16,7 @@ namespace {
 /// several things: then it is not known of which.
 QVariant toldUnder(const QString &title, const PanelSummary &panel)
 {
-    const QStringList titles = panel.info.value(u"Summary Display Order"_s).toStringList();
-    return titles.count(title) == 1 ? panel.info.value(title) : QVariant();
+    return summaryOrder(panel.info).count(title) == 1 ? panel.info.value(title) : QVariant();
 }
 
 /// The option of the PPD whose text is the setting's title: its own, or for a value of the ticket
@@ -48,7 +49,7 @@ bool isTold(const PrintJob &job, const JobOption &option)
         return isPaperTold(job, option.value);
     if (option.name == "fit-to-page"_L1 || option.name == "print-scaling"_L1)
         return isScalingTold(job);
-    if (option.name == "AP_ColorMatchingMode"_L1)
+    if (option.name == kPMColorMatchingModeKey)
         return job.offersColorMatching();
     return always.contains(option.name) ||
            job.ownKeywords().contains(option.name, Qt::CaseInsensitive);

@@ -1,5 +1,6 @@
 #include "dialog/window/SummaryPane.h"
 
+#include "platform/pde/PDESummary.h"
 #include "platform/toolkit/PlainLabel.h"
 #include "platform/toolkit/PlainText.h"
 
@@ -34,9 +35,7 @@ QLabel *heading(const QString &text, QWidget *parent)
 SummarySection sectionOf(const QString &heading, const QVariantMap &summaryInfo)
 {
     SummarySection section{heading, {}};
-    const QStringList order =
-        summaryInfo.value(QStringLiteral("Summary Display Order")).toStringList();
-    for (const QString &title : order) {
+    for (const QString &title : summaryOrder(summaryInfo)) {
         const QVariant value = summaryInfo.value(title);
         if (value.isValid())
             section.lines += {title, value.toString()};

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QtCore/QLatin1String>
 #include <QtCore/QString>
 #include <QtCore/QStringList>
 #include <QtCore/QVariant>
@@ -54,7 +55,7 @@ public:
     /// The identifier of the panel's kind, the same in every language.
     virtual QString panelKind() const = 0;
 
-    /// Option title to value text, and under "Summary Display Order" the titles in display order.
+    /// The panel's lines of the summary (PDESummary.h): option titles and value texts.
     virtual QVariantMap summaryInfo() = 0;
 
     /// False: the panel has opened its own help. True: the dialog should show its own.
@@ -63,4 +64,9 @@ public:
     /// Whether the job may be printed. A panel that answers false has told the user why, where
     /// there is something to tell.
     virtual bool shouldPrint() = 0;
+
+    /// The panel's side of the optional interface with this identifier, which carries its version:
+    /// PDEPanelControls, PDEPanelInspection. Null: it has none. Asked on creation, through
+    /// panelExtension(); answered with extensionAmong() (PDEExtension.h).
+    virtual void *extension([[maybe_unused]] QLatin1String identifier) { return nullptr; }
 };

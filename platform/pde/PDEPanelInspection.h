@@ -1,7 +1,6 @@
 #pragma once
 
-#include <QtCore/QHash>
-#include <QtCore/QPair>
+#include <QtCore/QLatin1String>
 #include <QtCore/QString>
 #include <QtCore/QVariant>
 
@@ -11,15 +10,16 @@
 
 class ImageView;
 class ObservableDictionary;
-class QWidget;
 
-/// A look into a panel for record, replay and bug reports. Reading changes nothing.
+/// A look into a panel for replay and bug reports. Reading changes nothing, and loads no view.
 ///
-/// A panel may implement it beside PDEPanel; a dialog that finds it (dynamic_cast) can report the
-/// panel's whole state without knowing which panel it is.
+/// A panel may implement it (PDEExtension.h); a dialog that finds it can report the panel's whole
+/// state without knowing which panel it is.
 class PDEPanelInspection
 {
 public:
+    static constexpr auto kIdentifier = QLatin1String("com.velkaro.print.PDEPanelInspection/1");
+
     virtual ~PDEPanelInspection() = default;
 
     /// One row of a panel's list of advanced options.
@@ -36,11 +36,8 @@ public:
         QString selectedRow;   ///< the id of the selected one; null: none
     };
 
-    /// The panel's class name, such as "VKInkPrintSetting14PDE".
+    /// The panel's class name.
     virtual QString inspectedClassName() const = 0;
-
-    /// The short name of the panel in scripts, such as "print".
-    virtual QString inspectedName() const = 0;
 
     /// What the panel has found out about the printer, one bit each as the panel numbers them.
     virtual std::int32_t inspectedFlags() const = 0;
@@ -53,17 +50,6 @@ public:
 
     /// The view's dictionary; null before the view is loaded.
     virtual const ObservableDictionary *inspectedEffectContent() const = 0;
-
-    /// The view as it is now; null before it is loaded. Never loads it.
-    virtual QWidget *inspectedView() const = 0;
-
-    /// The outlets of the panel by name: the widgets of the view that the panel knows. Outlets that
-    /// are not connected are absent.
-    virtual QHash<QString, QWidget *> inspectedOutlets() const = 0;
-
-    /// The control that picks a choice of the PPD keyword; null without one, or before the view is
-    /// loaded.
-    virtual QWidget *inspectedControl(const QString &) const { return nullptr; }
 
     /// The list of advanced options; none for a panel that has no such list.
     virtual std::optional<Rows> inspectedRows() const { return std::nullopt; }

@@ -21,7 +21,9 @@ class PDEPlugIn
 public:
     virtual ~PDEPlugIn() = default;
 
-    /// Called before anything else, once for each dialog. False: the plug-in cannot be used.
+    /// Called before anything else, once for each dialog; its panels are asked for next. The bundle
+    /// is the dialog's and valid until the last of them is destroyed. False: the plug-in cannot be
+    /// used.
     virtual bool initWithBundle(Bundle *bundle) = 0;
 
     /// New panels for a dialog of the type, in display order; the caller owns them. A type that the
@@ -30,5 +32,5 @@ public:
     PDEPanelsForType(const QString &type, const std::shared_ptr<PDEPluginCallback> &callback) = 0;
 };
 
-#define PDEPlugIn_iid "com.velkaro.print.PDEPlugIn/1"
+#define PDEPlugIn_iid "com.velkaro.print.PDEPlugIn/2"
 Q_DECLARE_INTERFACE(PDEPlugIn, PDEPlugIn_iid)

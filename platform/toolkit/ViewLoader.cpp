@@ -104,7 +104,7 @@ void connectAction(QWidget *control, const ViewConnections::Action &action)
 void connectWidget(QWidget *widget, const ViewConnections &owner, ObservableDictionary &content)
 {
     bindView(widget, content);
-    const QString name = widget->property("action").toString();
+    const QString name = actionOf(widget);
     const auto action = owner.actionNamed(name);
     if (action)
         connectAction(widget, action);
@@ -187,6 +187,16 @@ int tagOf(const QWidget *control)
     if (const auto *popup = qobject_cast<const PopUpButton *>(control))
         return popup->tag();
     return control ? control->property("tag").toInt() : 0;
+}
+
+QString actionOf(const QWidget *control)
+{
+    return control->property("action").toString();
+}
+
+QString boundKeyOf(const QWidget *control)
+{
+    return control->property("bind.value").toString();
 }
 
 double doubleValueOf(const QWidget *control)

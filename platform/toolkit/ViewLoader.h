@@ -57,5 +57,10 @@ loadView(const QString &path, const ViewConnections &owner, QString *error = nul
 /// The tag of a control; 0 when it has none.
 VELKARO_PLATFORM_EXPORT int tagOf(const QWidget *control);
 
+/// The operation that a control's user signal calls, and the key of the view's dictionary that its
+/// value is bound to, as the view resource names them; null without one.
+VELKARO_PLATFORM_EXPORT QString actionOf(const QWidget *control);
+VELKARO_PLATFORM_EXPORT QString boundKeyOf(const QWidget *control);
+
 /// The number that a slider or a field shows; 0 for any other control.
 VELKARO_PLATFORM_EXPORT double doubleValueOf(const QWidget *control);

@@ -715,6 +715,10 @@
         <translation>プラグイン %1 が不完全です。ライブラリがありません。Velkaro Print をインストールし直してください。</translation>
     </message>
     <message>
+        <source>The plug-in is not used, because other users may change %1. Let nobody but yourself and the administrator write there.</source>
+        <translation>ほかのユーザーが %1 を変更できるため、プラグインは使用されません。ご自身と管理者だけが書き込めるようにしてください。</translation>
+    </message>
+    <message>
         <source>%1 is not a plug-in of this print dialog.</source>
         <translation>%1 はこの印刷画面のプラグインではありません。</translation>
     </message>

@@ -29,7 +29,7 @@ struct ColorDialog
     /// A widget of the shown view.
     template <typename Widget> Widget &part(const char *name)
     {
-        return *panel->inspectedView()->findChild<Widget *>(QLatin1String(name));
+        return *panel->loadedView()->findChild<Widget *>(QLatin1String(name));
     }
 
     QVariant ticket(const char *key) const;

@@ -215,7 +215,7 @@ TEST_F(ControlsTest, BuildingThemASecondTimeDoesNothing)
     panel.shouldHide();
     panel.willShow();
     panel.initializePopup();
-    EXPECT_EQ(panel.inspectedView()->height(), 312);
+    EXPECT_EQ(panel.loadedView()->height(), 312);
     EXPECT_EQ(dialog.content("advancedcolorItem"), QVariant(true));
     EXPECT_EQ(dialog.part<QLabel>("optionLabel").text(), u"untouched"_s);
     EXPECT_EQ(NotificationCenter::defaultCenter().registrationCount(&panel), registrations);

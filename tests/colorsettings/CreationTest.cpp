@@ -92,7 +92,7 @@ TEST_F(CreationTest, NamesItselfItsViewAndItsHelp)
     EXPECT_EQ(panel.panelName(), u"Color Settings"_s);
     EXPECT_EQ(panel.panelKind(), u"com.velkaro.print.pde.CocoaVKInkColorSetting"_s);
     EXPECT_EQ(panel.helpBook(), u"Velkaro Color Settings Help"_s);
-    EXPECT_EQ(panel.inspectedName(), u"color"_s);
+    EXPECT_EQ(panel.shortName(), u"color"_s);
     EXPECT_EQ(panel.inspectedClassName(), u"VKInkColorSettingPDE"_s);
     EXPECT_TRUE(panel.inspectedHasPicture());
     EXPECT_EQ(panel.inspectedPicture(), nullptr);

@@ -76,7 +76,7 @@ TEST_F(FaxTest, BeforeTheViewIsLoadedItIsOnlyNoted)
     sendToFax();
     dialog.panel->updateUI();
     EXPECT_TRUE(dialog.hasFlag(FaxOutput));
-    EXPECT_EQ(dialog.panel->inspectedView(), nullptr);
+    EXPECT_EQ(dialog.panel->loadedView(), nullptr);
 }
 
 TEST_F(FaxTest, APanelThatIsFirstShownForFaxIsDisabledAndGrey)

@@ -18,7 +18,7 @@ TEST_F(FoldingTest, ThePanelOpensFolded)
 {
     ColorDialog dialog;
     const auto &panel = dialog.show();
-    EXPECT_EQ(panel.inspectedView()->size(), QSize(560, 110));
+    EXPECT_EQ(panel.loadedView()->size(), QSize(560, 110));
     EXPECT_FALSE(dialog.part<QAbstractButton>("optionButton").isChecked());
     EXPECT_TRUE(dialog.part<QWidget>("advancedSection").isHidden());
 }
@@ -29,7 +29,7 @@ TEST_F(FoldingTest, ThePanelOpensFoldedWhateverTheHeightOfItsView)
     pictures.editView("<height>110</height>", "<height>250</height>");
     Bundle::setMainBundle(pictures.bundle());
     ColorDialog dialog;
-    EXPECT_EQ(dialog.show().inspectedView()->height(), 110);
+    EXPECT_EQ(dialog.show().loadedView()->height(), 110);
 }
 
 TEST_F(FoldingTest, OnAndThenOffReturnsToTheFormerHeight)
@@ -38,10 +38,10 @@ TEST_F(FoldingTest, OnAndThenOffReturnsToTheFormerHeight)
     const auto &panel = dialog.show();
     auto &arrow = dialog.part<QAbstractButton>("optionButton");
     QTest::mouseClick(&arrow, Qt::LeftButton);
-    EXPECT_EQ(panel.inspectedView()->size(), QSize(560, 312));
+    EXPECT_EQ(panel.loadedView()->size(), QSize(560, 312));
     EXPECT_TRUE(dialog.part<QWidget>("advancedSection").isVisible());
     QTest::mouseClick(&arrow, Qt::LeftButton);
-    EXPECT_EQ(panel.inspectedView()->size(), QSize(560, 110));
+    EXPECT_EQ(panel.loadedView()->size(), QSize(560, 110));
     EXPECT_FALSE(dialog.part<QWidget>("advancedSection").isVisible());
     EXPECT_EQ(dialog.calls, QStringList({u"panelViewDidResize"_s, u"panelViewDidResize"_s}));
 }
@@ -51,7 +51,7 @@ TEST_F(FoldingTest, TheTicketRemembersIt)
     ColorDialog dialog;
     dialog.setTicket(kFoldKey, true);
     const auto &panel = dialog.show();
-    EXPECT_EQ(panel.inspectedView()->height(), 312);
+    EXPECT_EQ(panel.loadedView()->height(), 312);
     EXPECT_TRUE(dialog.part<QAbstractButton>("optionButton").isChecked());
     EXPECT_TRUE(dialog.part<QWidget>("advancedSection").isVisible());
     dialog.part<QAbstractButton>("optionButton").click();
@@ -59,7 +59,7 @@ TEST_F(FoldingTest, TheTicketRemembersIt)
     EXPECT_EQ(dialog.ticket(kFoldKey), QVariant(false));
     dialog.setTicket(kFoldKey, true);
     dialog.panel->restoreValuesAndReturnError(nullptr);
-    EXPECT_EQ(panel.inspectedView()->height(), 312);
+    EXPECT_EQ(panel.loadedView()->height(), 312);
 }
 
 TEST_F(FoldingTest, AnythingThatIsNotOnFolds)
@@ -68,7 +68,7 @@ TEST_F(FoldingTest, AnythingThatIsNotOnFolds)
     auto &panel = dialog.show();
     dialog.part<QAbstractButton>("optionButton").click();
     panel.toggleShowOption(nullptr);
-    EXPECT_EQ(panel.inspectedView()->height(), 110);
+    EXPECT_EQ(panel.loadedView()->height(), 110);
 }
 
 TEST_F(FoldingTest, AHostThatCannotBeToldKeepsTheHeight)
@@ -77,7 +77,7 @@ TEST_F(FoldingTest, AHostThatCannotBeToldKeepsTheHeight)
     dialog.host->setLacking({HostOperation::PanelViewDidResize});
     const auto &panel = dialog.show();
     dialog.part<QAbstractButton>("optionButton").click();
-    EXPECT_EQ(panel.inspectedView()->height(), 110);
+    EXPECT_EQ(panel.loadedView()->height(), 110);
 }
 
 TEST_F(FoldingTest, ASmallWindowIsWaitedFor)
@@ -90,6 +90,6 @@ TEST_F(FoldingTest, ASmallWindowIsWaitedFor)
     dialog.part<QAbstractButton>("optionButton").click();
     EXPECT_EQ(dialog.calls, QStringList());
     NotificationCenter::defaultCenter().post(QLatin1String(kViewDidUpdateTrackingAreasNotification),
-                                             panel.inspectedView());
+                                             panel.loadedView());
     EXPECT_EQ(dialog.calls, QStringList{u"panelViewDidResize"_s});
 }

@@ -84,7 +84,7 @@ TEST_F(SizeWatchTest, ShowingThePanelAgainComparesAfresh)
 
 TEST_F(SizeWatchTest, AnUnfoldedPanelNeedsATallerWindow)
 {
-    dialog.panel->inspectedView()->setFixedHeight(312);
+    dialog.panel->loadedView()->setFixedHeight(312);
     EXPECT_EQ(drawnBy(408), 0);
     EXPECT_EQ(drawnBy(409), 1);
 }

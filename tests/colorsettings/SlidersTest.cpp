@@ -215,9 +215,9 @@ TEST_F(SlidersTest, APickSavesTheValuesToo)
 TEST_F(SlidersTest, AFieldThatStillHoldsTypedTextWhenTheDialogGoesIsHarmless)
 {
     QTest::keyClicks(&focused("redField"), u"8"_s);
-    dialog.panel->inspectedView()->setParent(nullptr);
-    dialog.panel->inspectedView()->show();
-    EXPECT_TRUE(QTest::qWaitForWindowActive(dialog.panel->inspectedView()));
+    dialog.panel->loadedView()->setParent(nullptr);
+    dialog.panel->loadedView()->show();
+    EXPECT_TRUE(QTest::qWaitForWindowActive(dialog.panel->loadedView()));
     QTest::keyClicks(&focused("redField"), u"8"_s);
     dialog.panel.reset();
     EXPECT_EQ(dialog.ticket(kEffectTicketKeys[2]), QVariant(u"0"_s));

@@ -34,7 +34,7 @@ protected:
 TEST_F(LayoutTest, LoadsTheViewOnce)
 {
     createPanel();
-    EXPECT_EQ(panel->inspectedView(), nullptr);
+    EXPECT_EQ(panel->loadedView(), nullptr);
     EXPECT_EQ(panel->effectContent, nullptr);
     QWidget *view = panel->panelView();
     ASSERT_NE(view, nullptr);

@@ -26,7 +26,7 @@ public:
 
     QString panelName() const override { return QStringLiteral("Test"); }
     QString inspectedClassName() const override { return QStringLiteral("TestPanel"); }
-    QString inspectedName() const override { return QStringLiteral("test"); }
+    QString shortName() const override { return QStringLiteral("test"); }
 
     void checkModelName() override { asked << QStringLiteral("checkModelName"); }
     void setDefaults() override;

@@ -42,7 +42,7 @@ protected:
         const auto *pages = qobject_cast<QStackedWidget *>(panel->outlet(u"advancedTabView"_s));
         return pages->currentWidget()->objectName();
     }
-    int height() const { return panel->inspectedView()->height(); }
+    int height() const { return panel->loadedView()->height(); }
 
     QList<QWidget *> parts() const
     {
@@ -204,9 +204,9 @@ TEST_F(AdvancedOptions, StartFoldedUnderAPanelWithAPaperFeed)
     open();
     panel->panelView();
     const QList<int> before = tops();
-    const int width = panel->inspectedView()->width();
+    const int width = panel->loadedView()->width();
     panel->willShow();
-    EXPECT_EQ(panel->inspectedView()->size(), QSize(width, 160));
+    EXPECT_EQ(panel->loadedView()->size(), QSize(width, 160));
     EXPECT_EQ(tops(), before);
     EXPECT_FALSE(box(u"optionButton"_s)->isChecked());
 }

@@ -139,7 +139,7 @@ TEST_F(Alerts, ADiscIsConfirmedOnEveryJob)
         }
     }
     EXPECT_EQ(memory(), QVariantMap());
-    EXPECT_NE(panel->inspectedView(), nullptr);
+    EXPECT_NE(panel->loadedView(), nullptr);
 }
 
 TEST_F(Alerts, ADiscPaperWithAnotherMarkedMediumPrintsWithoutAnAlert)

@@ -20,7 +20,7 @@ TEST_F(Creation, ReadsTheKeywordsAndThePaperAndObservesThePageSetup)
               QVariantMap({{u"VKColorPaperThick"_s, u"Regular"_s}, {u"VKBiDir"_s, u"OFF"_s}}));
     EXPECT_EQ(registrations(), 2);
     EXPECT_FALSE(panel->popupInited);
-    EXPECT_EQ(panel->inspectedView(), nullptr);
+    EXPECT_EQ(panel->loadedView(), nullptr);
 }
 
 TEST_F(Creation, ReadingTheValuesTellsTheDirectionAndTheColorMode)
@@ -67,7 +67,7 @@ TEST_F(Creation, NamesThePanelInTheUsersLanguage)
     session->bundle().setStrings(Bundle::Strings::Tables);
     EXPECT_EQ(panel->panelName(), u"Print Settings"_s);
     EXPECT_EQ(panel->panelKind(), u"com.velkaro.print.pde.CocoaVKInkPrintSetting14"_s);
-    EXPECT_EQ(panel->inspectedName(), u"print"_s);
+    EXPECT_EQ(panel->shortName(), u"print"_s);
     EXPECT_EQ(panel->inspectedClassName(), u"VKInkPrintSetting14PDE"_s);
 }
 

@@ -21,7 +21,7 @@ public:
     using VKPrintQualityPDE::recordPendingValue;
     using VKPrintQualityPDE::setFlag;
 
-    QWidget *outlet(const QString &name) const { return inspectedOutlets().value(name); }
+    QWidget *outlet(const QString &name) const { return outlets().value(name); }
     PopUpButton *popup(const QString &name) const
     {
         return qobject_cast<PopUpButton *>(outlet(name));

@@ -55,7 +55,7 @@ TEST_P(PrintVeto, OfAPanelThatWasNeverShown)
     tryPrinting();
     EXPECT_FALSE(panel->popupInited);
     // A fax job needs no alert's window.
-    EXPECT_EQ(panel->inspectedView() != nullptr, !GetParam().fax);
+    EXPECT_EQ(panel->loadedView() != nullptr, !GetParam().fax);
 }
 
 const QSizeF kA4Size(595, 842);

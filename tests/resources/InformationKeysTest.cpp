@@ -57,10 +57,25 @@ TEST(InformationKeys, ListEveryView)
     QStringList views;
     for (const QString &file : QDir(places::bundleFile(u"Resources"_s)).entryList({u"*.ui"_s}))
         views << QFileInfo(file).baseName();
-    QStringList listed = list(u"VKViews"_s);
+    QStringList listed = list(u"PDEViews"_s);
     listed.sort();
     EXPECT_EQ(listed, views);
     EXPECT_FALSE(views.isEmpty());
+}
+
+TEST(InformationKeys, NameThePrintersByTheirMakerAndByEveryKeywordOfThePanels)
+{
+    const QJsonArray printers = information().value(u"PDEPrinters"_s).toArray();
+    EXPECT_TRUE(printers.contains(QJsonObject{{u"Manufacturer"_s, u"Velkaro"_s}}));
+    QStringList patterns;
+    for (const auto &printer : printers)
+        patterns << printer.toObject().value(u"Keyword"_s).toString();
+    const QStringList keywords = list(u"PMPPDKeysSupported"_s) +
+                                 list(u"PMPPDKeysSupportedColor"_s) + list(u"PMPPDKeysWatched"_s);
+    for (const QString &keyword : keywords)
+        EXPECT_TRUE(patterns.contains(keyword) ||
+                    (keyword.startsWith(u"VK"_s) && patterns.contains(u"VK*"_s)))
+            << keyword.toStdString();
 }
 
 TEST(InformationKeys, NameTheKeysOfTheTicket)

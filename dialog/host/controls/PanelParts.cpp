@@ -5,11 +5,11 @@
 
 #include <QtWidgets/QAbstractButton>
 
-QHash<QString, QWidget *> outletsInView(const PDEPanelInspection &panel)
+QHash<QString, QWidget *> outletsInView(const PDEPanelControls &panel)
 {
     QHash<QString, QWidget *> inView;
-    const QWidget *view = panel.inspectedView();
-    const auto outlets = panel.inspectedOutlets();
+    const QWidget *view = panel.loadedView();
+    const auto outlets = panel.outlets();
     for (auto outlet = outlets.cbegin(); outlet != outlets.cend(); ++outlet) {
         if (view && view->isAncestorOf(outlet.value()))
             inView.insert(outlet.key(), outlet.value());
@@ -24,7 +24,7 @@ bool isReportedControl(const QWidget *part)
            (button && button->isCheckable());
 }
 
-QWidget *controlNamed(const PDEPanelInspection &panel, const QString &name)
+QWidget *controlNamed(const PDEPanelControls &panel, const QString &name)
 {
     QWidget *part = outletsInView(panel).value(name);
     return part && isReportedControl(part) ? part : nullptr;
@@ -34,14 +34,4 @@ bool isHiddenItself(const QWidget *widget)
 {
     return widget->testAttribute(Qt::WA_WState_Hidden) &&
            widget->testAttribute(Qt::WA_WState_ExplicitShowHide);
-}
-
-QString actionOf(const QWidget *part)
-{
-    return part->property("action").toString();
-}
-
-QString boundKeyOf(const QWidget *part)
-{
-    return part->property("bind.value").toString();
 }

@@ -5,18 +5,17 @@
 #include "platform/toolkit/PopUpButton.h"
 #include "platform/toolkit/RadioMatrix.h"
 #include "platform/toolkit/SizeWatch.h"
+#include "platform/toolkit/ViewLoader.h"
 
 #include <QtWidgets/QAbstractButton>
 #include <QtWidgets/QCheckBox>
 
 #include <algorithm>
-#include <cmath>
+#include <optional>
 
 using namespace Qt::StringLiterals;
 
 namespace {
-
-constexpr double kSliderLimit = 20;
 
 // Why a person cannot use the control now; null when one can.
 QString reasonNotToUse(const QWidget *control, const QString &name)
@@ -40,6 +39,15 @@ QString wrongKind(const QString &control, QLatin1String field)
     return u"the control \"%1\" takes no \"%2\""_s.arg(control, field);
 }
 
+QAbstractButton *revertButton(const HostSession &session)
+{
+    for (const HostPanel &panel : session.panels()) {
+        if (QAbstractButton *button = panel.controls ? panel.controls->revertButton() : nullptr)
+            return button;
+    }
+    return nullptr;
+}
+
 // A box that stands as wanted sends its action all the same, as a pop-up does whose selected item
 // is picked again.
 void setByUser(QAbstractButton &button, bool checked)
@@ -52,7 +60,7 @@ void setByUser(QAbstractButton &button, bool checked)
 
 } // namespace
 
-QString pickChoice(const PDEPanelInspection &panel, const QString &control, const QString &choice)
+QString pickChoice(const PDEPanelControls &panel, const QString &control, const QString &choice)
 {
     QWidget *found = controlNamed(panel, control);
     QString reason = reasonNotToUse(found, control);
@@ -74,7 +82,7 @@ QString pickChoice(const PDEPanelInspection &panel, const QString &control, cons
     return {};
 }
 
-QString pickChecked(const PDEPanelInspection &panel, const QString &control, bool checked)
+QString pickChecked(const PDEPanelControls &panel, const QString &control, bool checked)
 {
     QWidget *found = controlNamed(panel, control);
     QString reason = reasonNotToUse(found, control);
@@ -87,10 +95,11 @@ QString pickChecked(const PDEPanelInspection &panel, const QString &control, boo
     return {};
 }
 
-QString foldSection(const PDEPanelInspection &panel, bool open)
+QString foldSection(const PDEPanelControls &panel, bool open)
 {
-    auto *button = qobject_cast<QAbstractButton *>(controlNamed(panel, kOptionButton));
-    QString reason = reasonNotToUse(button, kOptionButton);
+    const QString name = panel.disclosureName();
+    auto *button = qobject_cast<QAbstractButton *>(controlNamed(panel, name));
+    QString reason = reasonNotToUse(button, name);
     if (reason.isNull() && button->isChecked() != open)
         button->click();
     return reason;
@@ -98,8 +107,11 @@ QString foldSection(const PDEPanelInspection &panel, bool open)
 
 QString moveSlider(const HostSession &session, const QString &keyword, double value)
 {
-    if (!(std::abs(value) <= kSliderLimit))
-        return u"the value %1 is not from -20 to 20"_s.arg(value);
+    const std::optional<SliderRange> range = session.sliderRange();
+    if (range && !(value >= range->least && value <= range->greatest))
+        return u"the value %1 is not from %2 to %3"_s.arg(value)
+            .arg(range->least)
+            .arg(range->greatest);
     const auto sliders = partsOfViews<FractionSlider>(session);
     const auto bound = std::ranges::find(sliders, keyword, boundKeyOf);
     if (bound == sliders.end())
@@ -112,13 +124,12 @@ QString moveSlider(const HostSession &session, const QString &keyword, double va
 
 QString pressRevert(const HostSession &session)
 {
-    const auto buttons = partsOfViews<QAbstractButton>(session);
-    const auto revert = std::ranges::find(buttons, kRevertAction, actionOf);
-    if (revert == buttons.end())
+    QAbstractButton *revert = revertButton(session);
+    if (!revert)
         return u"there is no revert button"_s;
-    if (!(*revert)->isEnabled())
+    if (!revert->isEnabled())
         return u"the revert button is disabled"_s;
-    (*revert)->click();
+    revert->click();
     return {};
 }
 

@@ -1,5 +1,6 @@
 #include "dialog/host/HostSession.h"
 #include "platform/foundation/UserDefaults.h"
+#include "platform/pde/PDEPanelControls.h"
 #include "platform/pde/PDEPanelInspection.h"
 #include "platform/ppd/PPDText.h"
 #include "tests/support/Files.h"
@@ -183,7 +184,7 @@ TEST_F(HostSessionTest, ShowingLoadsTheViewAndTellsThePanel)
 {
     m_options.restore = false;
     QWidget *view = start().show(panel(u"first"_s));
-    EXPECT_EQ(view, panel(u"first"_s).inspection->inspectedView());
+    EXPECT_EQ(view, panel(u"first"_s).controls->loadedView());
     EXPECT_TRUE(m_session->hide(panel(u"first"_s)));
     EXPECT_EQ(calls(u"first"_s), (QStringList{u"willShow"_s, u"shouldHide"_s}));
 }

@@ -2,10 +2,14 @@
 #include "platform/foundation/Bundle.h"
 #include "platform/pde/PDEPanel.h"
 #include "platform/pde/PDEPlugIn.h"
+#include "tests/support/CaseName.h"
 #include "tests/support/Files.h"
+#include "tests/support/PPDSource.h"
 
 #include <QtCore/QDir>
 #include <QtCore/QTemporaryDir>
+
+#include <sys/stat.h>
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -59,7 +63,7 @@ INSTANTIATE_TEST_SUITE_P(
                       "no such folder: "},
         FaultyFixture{"No", PlugInFaultReason::NotAPlugIn,
                       "%1 is not a plug-in of this print dialog.",
-                      "interface \"\", wanted \"com.velkaro.print.PDEPlugIn/1\""},
+                      "interface \"\", wanted \"com.velkaro.print.PDEPlugIn/2\""},
         FaultyFixture{"Foreign", PlugInFaultReason::NotAPlugIn,
                       "%1 is not a plug-in of this print dialog.",
                       "interface \"org.example.Toolbar/1\""},
@@ -68,7 +72,7 @@ INSTANTIATE_TEST_SUITE_P(
         FaultyFixture{"OtherVersion", PlugInFaultReason::OtherInterfaceVersion,
                       "The plug-in %1 was made for another version of this print dialog. Install "
                       "the same version of both.",
-                      "interface \"com.velkaro.print.PDEPlugIn/2\""},
+                      "interface \"com.velkaro.print.PDEPlugIn/3\""},
         FaultyFixture{"Unresolved", PlugInFaultReason::LoadFailed,
                       "The plug-in %1 could not be loaded.", "thereIsNoSuchVariable"},
         FaultyFixture{"Refusing", PlugInFaultReason::InitRefused,
@@ -119,7 +123,7 @@ TEST(PlugInLoader, NamesAViewThatTheBundleHasLost)
 {
     const QTemporaryDir folder;
     writeFile(folder.filePath(u"Info.json"_s),
-              R"({"CFBundleExecutable": "plugin.so", "VKViews": ["Here", "Lost"]})");
+              R"({"CFBundleExecutable": "plugin.so", "PDEViews": ["Here", "Lost"]})");
     writeFile(folder.filePath(u"plugin.so"_s), "");
     ASSERT_TRUE(QDir(folder.path()).mkdir(u"Resources"_s));
     writeFile(folder.filePath(u"Resources/Here.ui"_s), "");
@@ -148,10 +152,147 @@ TEST(PlugInLoader, ReplacesInformationForOneLoadAlone)
     EXPECT_EQ(loadPlugIn(fixture("Spy")).bundle->bundleIdentifier(), u"com.velkaro.test.Spy"_s);
 }
 
-TEST(PlugInLoader, TakesTheInstalledBundleWithoutAPath)
+TEST(PlugInLoader, RefusesALibraryThatOthersMayChangeBeforeItsCodeRuns)
 {
-    const PlugInLoad load = loadPlugIn();
-    ASSERT_FALSE(load.fault) << text(load.fault->log);
-    EXPECT_EQ(load.bundle->bundlePath(), installedBundlePath());
-    EXPECT_EQ(QDir(installedBundlePath()).dirName(), u"VKInkQuality14.bundle"_s);
+    const QTemporaryDir folder;
+    writeFile(folder.filePath(u"Info.json"_s), R"({"CFBundleExecutable": "plugin.so"})");
+    QFile::copy(fixture("OtherVersion") + u"/plugin.so"_s, folder.filePath(u"plugin.so"_s));
+    ASSERT_EQ(chmod(QFile::encodeName(folder.filePath(u"plugin.so"_s)).constData(), 0666), 0);
+    const PlugInLoad load = loadPlugIn(folder.path());
+    ASSERT_TRUE(load.fault);
+    EXPECT_EQ(load.fault->reason, PlugInFaultReason::OpenToOthers);
+    EXPECT_EQ(text(load.fault->sentence),
+              "The plug-in is not used, because other users may change " +
+                  text(folder.filePath(u"plugin.so"_s)) +
+                  ". Let nobody but yourself and the administrator write there.");
+    EXPECT_EQ(load.plugIn, nullptr);
+}
+
+namespace {
+
+/// A folder of bundles that have nothing but an Info.json.
+class InstalledBundles : public testing::Test
+{
+protected:
+    void install(const QString &name, const QByteArray &info)
+    {
+        QDir(m_folder.path()).mkdir(name);
+        writeFile(m_folder.filePath(name + u"/Info.json"_s), info);
+    }
+
+    BundleChoice choice() const { return chooseBundle(m_folder.path(), m_facts); }
+
+    QTemporaryDir m_folder;
+    PrinterFacts m_facts{u"Example"_s, u"Example 100"_s, {}, {}};
+};
+
+const QByteArray kForExample = R"({"PDEPrinters": [{"Manufacturer": "Example"}]})";
+const QByteArray kForOthers = R"({"PDEPrinters": [{"Manufacturer": "Other"}]})";
+
+} // namespace
+
+TEST_F(InstalledBundles, AreAllLookedAt)
+{
+    install(u"A.bundle"_s, kForOthers);
+    install(u"B.bundle"_s, kForExample);
+    install(u"C.bundle"_s, kForOthers);
+    EXPECT_EQ(choice().path, m_folder.filePath(u"B.bundle"_s));
+    EXPECT_FALSE(choice().fault);
+}
+
+TEST_F(InstalledBundles, AreTakenByNameWhereTheyFitEquallyWell)
+{
+    install(u"B.bundle"_s, kForExample);
+    install(u"A.bundle"_s, kForExample);
+    EXPECT_EQ(choice().path, m_folder.filePath(u"A.bundle"_s));
+}
+
+TEST_F(InstalledBundles, NeedNotFit)
+{
+    install(u"A.bundle"_s, kForOthers);
+    install(u"SaysNothing.bundle"_s, "{}");
+    EXPECT_EQ(choice().path, QString());
+    EXPECT_FALSE(choice().fault);
+}
+
+TEST_F(InstalledBundles, AreUsedThoughAnotherOneIsDamaged)
+{
+    install(u"A.bundle"_s, "{\"PDEPrinters\": [");
+    install(u"B.bundle"_s, kForExample);
+    EXPECT_EQ(choice().path, m_folder.filePath(u"B.bundle"_s));
+    EXPECT_FALSE(choice().fault);
+}
+
+TEST_F(InstalledBundles, AreAFaultWhereTheDamagedOneMayBeTheRightOne)
+{
+    install(u"A.bundle"_s, kForOthers);
+    install(u"B.bundle"_s, "");
+    EXPECT_EQ(choice().path, QString());
+    ASSERT_TRUE(choice().fault);
+    EXPECT_EQ(choice().fault->reason, PlugInFaultReason::NoInfoDictionary);
+    EXPECT_THAT(text(choice().fault->sentence), testing::HasSubstr("B.bundle is incomplete"));
+}
+
+TEST_F(InstalledBundles, AreAFaultWhereThereIsNone)
+{
+    QDir(m_folder.path()).mkdir(u"NoBundle"_s);
+    ASSERT_TRUE(choice().fault);
+    EXPECT_EQ(choice().fault->reason, PlugInFaultReason::BundleMissing);
+    EXPECT_THAT(text(choice().fault->sentence),
+                testing::HasSubstr("there is no plug-in at " + text(m_folder.path())));
+}
+
+TEST_F(InstalledBundles, MayBeMissingWithTheirFolder)
+{
+    const BundleChoice none = chooseBundle(m_folder.filePath(u"nowhere"_s), m_facts);
+    ASSERT_TRUE(none.fault);
+    EXPECT_EQ(none.fault->reason, PlugInFaultReason::BundleMissing);
+}
+
+namespace {
+
+struct Printer
+{
+    const char *behaviour;
+    PPDSource ppd;
+    bool hasPanels;
+};
+
+class OwnBundle : public testing::TestWithParam<Printer>
+{};
+
+/// A later line of the same name counts.
+PPDSource byMaker(const QByteArray &maker)
+{
+    return PPDSource().attribute("Manufacturer", maker);
+}
+
+} // namespace
+
+TEST_P(OwnBundle, IsLoadedForItsPrinters)
+{
+    const PPDHandle ppd = GetParam().ppd.open();
+    const PlugInLoad load = loadPlugInFor(ppd.get());
+    EXPECT_FALSE(load.fault);
+    EXPECT_EQ(load.bundle != nullptr, GetParam().hasPanels);
+    EXPECT_EQ(load.plugIn != nullptr, GetParam().hasPanels);
+    if (load.bundle) {
+        EXPECT_EQ(load.bundle->bundlePath(), ownBundlePath());
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Printers, OwnBundle,
+    testing::Values(
+        Printer{"OfItsMaker", byMaker("Velkaro"), true},
+        Printer{"WithItsMedia", byMaker("Example").option("VKMediaType", {"Plain"}), true},
+        Printer{"WithAnyOfItsKeywords", byMaker("Example").option("VKOutput", {"PRN"}), true},
+        Printer{"WithTheMirror", byMaker("Example").option("MirrorPrint", {"False"}), true},
+        Printer{"OfAnotherMaker", byMaker("Example").option("ExTray", {"A"}), false}),
+    CaseName());
+
+TEST(PlugInLoader, KnowsThePathOfItsOwnBundle)
+{
+    EXPECT_EQ(QDir(ownBundlePath()).dirName(), u"VKInkQuality14.bundle"_s);
+    EXPECT_FALSE(loadPlugIn(ownBundlePath()).fault);
 }

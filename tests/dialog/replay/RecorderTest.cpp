@@ -63,7 +63,7 @@ protected:
 
     template <typename Control> Control *control(const QString &panelName, const QString &name)
     {
-        return qobject_cast<Control *>(controlNamed(*panel(panelName).inspection, name));
+        return qobject_cast<Control *>(controlNamed(*panel(panelName).controls, name));
     }
 
     QJsonObject state() const
@@ -154,16 +154,16 @@ TEST_F(RecorderTest, ABusySessionLeadsToTheSameStateWhenItIsReplayed)
 {
     HostSession &session = record();
     session.show(panel(u"print"_s));
-    pickChoice(*panel(u"print"_s).inspection, u"mediaTypePopup"_s, u"Glossy"_s);
+    pickChoice(*panel(u"print"_s).controls, u"mediaTypePopup"_s, u"Glossy"_s);
     m_answers.expect(AlertAnswers::button(0, true));
-    pickChoice(*panel(u"print"_s).inspection, u"resolutionPopup"_s, u"Best"_s);
+    pickChoice(*panel(u"print"_s).controls, u"resolutionPopup"_s, u"Best"_s);
     m_answers.take();
-    pickChecked(*panel(u"print"_s).inspection, u"mirrorButton"_s, true);
-    foldSection(*panel(u"print"_s).inspection, true);
+    pickChecked(*panel(u"print"_s).controls, u"mirrorButton"_s, true);
+    foldSection(*panel(u"print"_s).controls, true);
     session.hide(panel(u"print"_s));
     session.show(panel(u"color"_s));
-    pickChoice(*panel(u"color"_s).inspection, u"colorMatchingMatrix"_s, u"Vivid"_s);
-    pickChecked(*panel(u"color"_s).inspection, u"colorEnhanceButton"_s, true);
+    pickChoice(*panel(u"color"_s).controls, u"colorMatchingMatrix"_s, u"Vivid"_s);
+    pickChecked(*panel(u"color"_s).controls, u"colorEnhanceButton"_s, true);
     moveSlider(session, u"VKRed"_s, 7.6);
     moveSlider(session, u"VKRed"_s, 7.4);
     moveSlider(session, u"VKBlue"_s, -3);
@@ -210,9 +210,9 @@ TEST_F(RecorderTest, NotesWhatWasPickedThoughTheHostRefusedIt)
     m_options.refused = {u"VKColorMatching=None"_s, u"VKMonoColor=Mono"_s};
     record().show(panel(u"color"_s));
     m_session->show(panel(u"print"_s));
-    pickChoice(*panel(u"color"_s).inspection, u"colorMatchingMatrix"_s, u"None"_s);
+    pickChoice(*panel(u"color"_s).controls, u"colorMatchingMatrix"_s, u"None"_s);
     EXPECT_EQ(lastOf(u"pick"_s)["choice"_L1], u"None"_s);
-    pickChoice(*panel(u"print"_s).inspection, u"monoColorPopup"_s, u"Mono"_s);
+    pickChoice(*panel(u"print"_s).controls, u"monoColorPopup"_s, u"Mono"_s);
     EXPECT_EQ(lastOf(u"pick"_s)["choice"_L1], u"Mono"_s);
     finish();
     EXPECT_EQ(lines().constFirst()["refuse"_L1].toArray().size(), 2);
@@ -221,7 +221,7 @@ TEST_F(RecorderTest, NotesWhatWasPickedThoughTheHostRefusedIt)
 TEST_F(RecorderTest, NotesTheValueToWhichASliderWasMovedAndNotTheOneKept)
 {
     record().show(panel(u"color"_s));
-    pickChecked(*panel(u"color"_s).inspection, u"colorEnhanceButton"_s, true);
+    pickChecked(*panel(u"color"_s).controls, u"colorEnhanceButton"_s, true);
     moveSlider(*m_session, u"VKGreen"_s, 2.75);
     finish();
     EXPECT_EQ(lastOf(u"slide"_s)["keyword"_L1], u"VKGreen"_s);
@@ -250,7 +250,7 @@ TEST_F(RecorderTest, FollowsAPanelOnceHoweverOftenItIsShown)
 {
     record().show(panel(u"print"_s));
     m_session->show(panel(u"print"_s));
-    pickChoice(*panel(u"print"_s).inspection, u"monoColorPopup"_s, u"Mono"_s);
+    pickChoice(*panel(u"print"_s).controls, u"monoColorPopup"_s, u"Mono"_s);
     finish();
     EXPECT_EQ(kinds().count(u"pick"_s), 1);
 }
@@ -258,9 +258,9 @@ TEST_F(RecorderTest, FollowsAPanelOnceHoweverOftenItIsShown)
 TEST_F(RecorderTest, ASheetsAnswerBelongsToTheEventThatRaisedIt)
 {
     record().show(panel(u"print"_s));
-    pickChoice(*panel(u"print"_s).inspection, u"mediaTypePopup"_s, u"Glossy"_s);
+    pickChoice(*panel(u"print"_s).controls, u"mediaTypePopup"_s, u"Glossy"_s);
     m_answers.expect(AlertAnswers::button(0, true));
-    pickChoice(*panel(u"print"_s).inspection, u"resolutionPopup"_s, u"Best"_s);
+    pickChoice(*panel(u"print"_s).controls, u"resolutionPopup"_s, u"Best"_s);
     m_session->windowDidResize();
     QApplication::processEvents();
     m_answers.take();
@@ -280,7 +280,7 @@ TEST_F(RecorderTest, AWindowThatGrowsWithASectionIsNotedAfterIt)
         m_window.resize(640, 900);
         m_session->windowDidResize();
     });
-    foldSection(*panel(u"print"_s).inspection, true);
+    foldSection(*panel(u"print"_s).controls, true);
     finish();
     EXPECT_EQ(kinds(), (QStringList{u"open"_s, u"show"_s, u"fold"_s, u"window"_s, u"close"_s}));
     EXPECT_EQ(lastOf(u"window"_s)["height"_L1], 900);

@@ -1,0 +1,37 @@
+#pragma once
+
+#include <QtCore/QLatin1String>
+
+// The entries of a bundle's Info.json that the dialog reads. All but the library's name may be
+// missing.
+
+/// The plain name of the plug-in's library in the bundle's folder.
+inline constexpr auto kBundleExecutableKey = QLatin1String("CFBundleExecutable");
+
+/// Which printers the bundle is for: a list of objects. The bundle is for a printer that one of
+/// them fits, and an object fits when all of its members do:
+///
+///   "Manufacturer"  a pattern for the PPD's manufacturer
+///   "Model"         a pattern for the PPD's model name (its nickname where it has none)
+///   "Keyword"       a pattern for the keyword of one of the PPD's options
+///   "Attributes"    an object: the name of an attribute of the PPD to a pattern for its value
+///
+/// Patterns are those of a shell (*, ?, [...]), without regard to case. An object without members,
+/// or with one of another name, fits nothing; without this entry the bundle is loaded by its path
+/// alone.
+inline constexpr auto kPDEPrintersKey = QLatin1String("PDEPrinters");
+
+/// The names of the view resources without which the bundle is not complete: a list.
+inline constexpr auto kPDEViewsKey = QLatin1String("PDEViews");
+
+/// The least and the greatest number that the sliders of the panels take: a list of two.
+inline constexpr auto kPDESliderRangeKey = QLatin1String("PDESliderRange");
+
+/// The PPD keywords that no panel shows and the plug-in wants the dialog to offer: a list.
+inline constexpr auto kPDEKeysWatchedKey = QLatin1String("PMPPDKeysWatched");
+
+/// The key of a value of the ticket to the PPD keyword whose text is its title: an object.
+inline constexpr auto kPDETicketKeyKeywordsKey = QLatin1String("PMTicketKeyKeywords");
+
+/// The keys of the ticket under which the panels keep what is folded and unfolded: a list.
+inline constexpr auto kPDEFoldStateKeysKey = QLatin1String("PMTicketFoldStateKeys");
