@@ -110,9 +110,9 @@ public:
     /// watched, and those of the panels; keyword to choice, without those where nothing is marked.
     QMap<QString, QString> reportedMarks() const;
 
-    /// The choice by the names that the session knows it by, whatever their case: the keyword as the
-    /// reported marks have it, else as the PPD spells it, and the choice as the PPD spells it. A
-    /// name that the PPD lacks stays as it is.
+    /// The choice by the names that the session knows it by, whatever their case: the keyword as
+    /// the reported marks have it, else as the PPD spells it, and the choice as the PPD spells it.
+    /// A name that the PPD lacks stays as it is.
     PPDMark spelled(const QString &keyword, const QString &choice) const;
 
     /// The PPD keywords that no panel shows and the plug-in wants the dialog to offer.

@@ -5,7 +5,7 @@
 #include <QtCore/QStringList>
 #include <QtCore/QVariant>
 
-#include <cups/ppd.h>
+#include "platform/ppd/CupsPPD.h"
 
 #include <optional>
 

@@ -63,7 +63,9 @@ TEST(Papers, OfAPPDHaveItsTextsAndSizes)
     EXPECT_EQ(paper->height, 842);
     EXPECT_EQ(paperText(opened.ppd.get(), *paper), u"A4 (Borderless)"_s);
     EXPECT_EQ(paperText(opened.ppd.get(), customPaper(283.4646, 425.1969)), u"100 × 150 mm"_s);
-    EXPECT_EQ(paperOfChoice(opened.ppd.get(), u"a4"_s), std::nullopt);
+    EXPECT_EQ(paperOfChoice(opened.ppd.get(), u"a4.fullbleed"_s).value_or(PMPaper()).name,
+              u"A4.Fullbleed"_s);
+    EXPECT_EQ(paperOfChoice(opened.ppd.get(), u"A44"_s), std::nullopt);
     EXPECT_EQ(customLimits(nullptr), std::nullopt);
 }
 
