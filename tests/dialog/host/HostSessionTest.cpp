@@ -258,3 +258,30 @@ TEST_F(HostSessionTest, StartsWithTheAlertMemoryThatItIsGiven)
     m_options.alertMemory = QVariantMap();
     EXPECT_EQ(start().alertMemory(), QVariantMap());
 }
+
+TEST_F(HostSessionTest, FindsWhatAPanelTellsOfItselfInTheVersionThatItKnows)
+{
+    start();
+    PDEPanel &told = *panel(u"first"_s).panel;
+    EXPECT_EQ(panel(u"first"_s).controls, dynamic_cast<PDEPanelControls *>(&told));
+    EXPECT_EQ(panel(u"first"_s).inspection, dynamic_cast<PDEPanelInspection *>(&told));
+    EXPECT_EQ(told.extension("com.velkaro.print.PDEPanelControls/2"_L1), nullptr);
+
+    m_session.reset();
+    m_options.bundlePath = QLatin1String(FIXTURE_FOLDER) + u"/Plain.bundle"_s;
+    const HostPanel &plain = start().panels().front();
+    EXPECT_EQ(plain.name, u"com.velkaro.test.plain"_s);
+    EXPECT_EQ(plain.controls, nullptr);
+    EXPECT_EQ(plain.inspection, nullptr);
+}
+
+TEST_F(HostSessionTest, KnowsTheViewOfAPanelThatTellsNothingOfIt)
+{
+    m_options.bundlePath = QLatin1String(FIXTURE_FOLDER) + u"/Plain.bundle"_s;
+    HostSession &session = start();
+    const HostPanel &plain = session.panels().front();
+    EXPECT_EQ(session.loadedView(plain), nullptr);
+    QWidget *view = session.show(plain);
+    EXPECT_NE(view, nullptr);
+    EXPECT_EQ(session.loadedView(plain), view);
+}

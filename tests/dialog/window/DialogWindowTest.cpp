@@ -6,6 +6,7 @@
 #include "tests/dialog/window/DialogWindowFixture.h"
 #include "tests/support/ClashingPPD.h"
 #include "tests/support/PPDSource.h"
+#include "tests/support/SmallPrinter.h"
 
 #include <QtCore/QProcess>
 #include <QtWidgets/QDoubleSpinBox>
@@ -29,6 +30,21 @@ TEST_F(Window, ShowsThePanelsBetweenPageSetupAndSummary)
     EXPECT_TRUE(part<QWidget>("mediaTypePopup")->isVisible());
     EXPECT_EQ(notice(), QString());
     EXPECT_EQ(keyWindow(), m_window.get());
+}
+
+TEST_F(Window, HasNoPanelsForAPrinterThatNoPlugInIsFor)
+{
+    m_line.ppd = m_folder.filePath(u"other.ppd"_s);
+    m_line.plugIn = QString();
+    writeFile(m_line.ppd, smallPrinter().attribute("Manufacturer", "Example").text());
+    open();
+    EXPECT_EQ(m_window->state(), DialogWindow::State::Ready);
+    EXPECT_EQ(tabs(), (QStringList{u"Page Setup"_s, u"Summary"_s}));
+    EXPECT_EQ(notice(),
+              u"This printer has none of the settings that the panels are for. It prints with "
+              "the settings of this dialog alone."_s);
+    print();
+    EXPECT_EQ(m_window->exitStatus(), ExitStatus::Done);
 }
 
 // libcups remembers for each thread how its last PPD was opened.
