@@ -274,7 +274,7 @@ TEST_F(ControlsTest, TheMatrixGrowsWithItsRowsAboveTheSectionsTitle)
     EXPECT_LE(matrix.geometry().bottom(), dialog.part<QWidget>("optionLabel").geometry().top());
     EXPECT_LE(dialog.part<QWidget>("optionLabel").geometry().bottom(), 110);
     EXPECT_EQ(dialog.part<QWidget>("optionButton").y(), dialog.part<QWidget>("optionLabel").y());
-    EXPECT_EQ(dialog.panel->inspectedView()->height(), 110);
+    EXPECT_EQ(dialog.panel->loadedView()->height(), 110);
 }
 
 TEST_F(ControlsTest, AMatrixThatHasRoomStaysAsTheViewHasIt)
@@ -289,7 +289,7 @@ TEST_F(ControlsTest, TheViewHasAnImageViewForTheColourMode)
 {
     ColorDialog dialog;
     dialog.show();
-    QWidget *image = dialog.panel->inspectedOutlets().value(u"colorModeImageView"_s);
+    QWidget *image = dialog.panel->outlets().value(u"colorModeImageView"_s);
     ASSERT_TRUE(qobject_cast<ImageView *>(image));
     EXPECT_TRUE(image->isHidden()) << "it has nothing to show";
 }
