@@ -8,11 +8,6 @@
 
 namespace {
 
-QString sentence(const char *text)
-{
-    return QCoreApplication::translate("JobReadBack", text);
-}
-
 ipp_attribute_t *find(ipp_t *job, const QByteArray &name)
 {
     return ippFindAttribute(job, name.constData(), IPP_TAG_ZERO);
@@ -44,13 +39,13 @@ QString difference(ipp_t *job, const JobOption &option)
 {
     ipp_attribute_t *attribute = find(job, option.name.toUtf8());
     if (!attribute)
-        return sentence(QT_TRANSLATE_NOOP("JobReadBack", "The server dropped the setting %1=%2."))
+        return QCoreApplication::translate("JobReadBack", "The server dropped the setting %1=%2.")
             .arg(option.name, option.value);
     const QString kept = attributeText(attribute);
     if (kept == option.value)
         return {};
-    return sentence(QT_TRANSLATE_NOOP("JobReadBack", "The server changed the setting %1 from %2 "
-                                                     "to %3."))
+    return QCoreApplication::translate("JobReadBack", "The server changed the setting %1 from %2 "
+                                                      "to %3.")
         .arg(option.name, option.value, shownServerText(kept));
 }
 
@@ -75,8 +70,9 @@ QStringList differences(ipp_t *job, int jobId, const QList<JobOption> &sent)
 {
     QStringList notes;
     if (const char *note = stateNote(job))
-        notes += sentence(note).arg(QString::number(jobId),
-                                    shownServerText(attributeText(find(job, "job-state-reasons"))));
+        notes += QCoreApplication::translate("JobReadBack", note)
+                     .arg(QString::number(jobId),
+                          shownServerText(attributeText(find(job, "job-state-reasons"))));
     for (const JobOption &option : sent) {
         const QString note = difference(job, option);
         if (!note.isNull())
@@ -92,8 +88,9 @@ QStringList readJobBack(ServerConnection &connection, const QString &queue, int 
                                              kTimeoutsPerReadBack);
     if (job)
         return connection.succeeded() ? differences(job.get(), jobId, sent) : QStringList();
-    return {sentence(QT_TRANSLATE_NOOP("JobReadBack", "Whether the server keeps all settings of "
-                                                      "job %1 is not known: its account of the job "
-                                                      "cannot be read."))
+    return {QCoreApplication::translate("JobReadBack",
+                                        "Whether the server keeps all settings of "
+                                        "job %1 is not known: its account of the job "
+                                        "cannot be read.")
                 .arg(jobId)};
 }

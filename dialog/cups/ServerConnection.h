@@ -6,7 +6,7 @@
 #include "dialog/cups/ServerSentences.h"
 #include "dialog/cups/SocketWatch.h"
 #include "dialog/work/CallGuard.h"
-#include "dialog/work/ServerFault.h"
+#include "dialog/work/Fault.h"
 
 #include <QtCore/QFile>
 #include <QtCore/QString>
@@ -65,7 +65,7 @@ public:
 
     /// What the last one came to when it failed, or when it said yes and yet not what was asked.
     /// `queue` is for the sentence, null where none was asked for.
-    ServerAnswer lastAnswer(const QString &queue = QString()) const;
+    Fault lastFault(const QString &queue = QString()) const;
 
 private:
     bool connectAnew();
@@ -103,4 +103,4 @@ QByteArray queueResource(const QString &queue);
 QString nameOfServer(const QString &server);
 
 /// What is said of a server that was given up.
-ServerAnswer silentServer(const QString &server);
+Fault silentServer(const QString &server);

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "dialog/work/ServerFault.h"
+#include "dialog/work/Fault.h"
 
 #include <QtCore/QString>
 
@@ -30,7 +30,7 @@ struct ExchangeEnd
 
 /// The end, which is no success, as people are told of it. `queue` is null where none was asked
 /// for.
-ServerAnswer answerOf(const ExchangeEnd &end, const QString &server, const QString &queue);
+Fault faultOf(const ExchangeEnd &end, const QString &server, const QString &queue);
 
 /// A server's own words as they are shown: one line of a sane length.
 QString shownServerText(const QString &text);

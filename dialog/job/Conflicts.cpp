@@ -9,17 +9,12 @@
 
 namespace {
 
-QString sentence(const char *text)
-{
-    return QCoreApplication::translate("Conflicts", text);
-}
-
 QString quotedList(const QStringList &texts)
 {
     QStringList quoted;
     for (const QString &text : texts)
-        quoted += sentence(QT_TRANSLATE_NOOP("Conflicts", "\"%1\"")).arg(text);
-    return quoted.join(sentence(QT_TRANSLATE_NOOP("Conflicts", ", ")));
+        quoted += QCoreApplication::translate("Conflicts", "\"%1\"").arg(text);
+    return quoted.join(QCoreApplication::translate("Conflicts", ", "));
 }
 
 } // namespace
@@ -53,7 +48,7 @@ QString refusalSentence(ppd_file_t *ppd, const QString &keyword, const QString &
     const QStringList clashes = clashesWith(ppd, keyword, choice);
     if (clashes.isEmpty())
         return {};
-    return sentence(QT_TRANSLATE_NOOP("Conflicts", "\"%1\" cannot be chosen: the printer does not "
-                                                   "allow it together with %2."))
+    return QCoreApplication::translate("Conflicts", "\"%1\" cannot be chosen: the printer does not "
+                                                    "allow it together with %2.")
         .arg(choiceText(ppd, keyword, choice), quotedList(clashes));
 }

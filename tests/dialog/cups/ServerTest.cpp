@@ -82,22 +82,22 @@ PrintServer *Server::s_server = nullptr;
 
 QString nickname(const QueuePPD &queue)
 {
-    const OpenedPPD opened = openPPD(queue.path());
-    return opened.ppd ? ppdText(opened.ppd->nickname) : opened.error;
+    const auto opened = openPPD(queue.path());
+    return opened ? ppdText(opened->ppd->nickname) : opened.sentence();
 }
 
 TEST_F(Server, ListsItsQueuesAndNamesItsDefault)
 {
-    const DestinationList list = listDestinations(s_server->address(), m_guard);
-    EXPECT_TRUE(list.answer.isGood()) << list.answer.sentence.toStdString();
+    const auto list = listDestinations(s_server->address(), m_guard);
+    EXPECT_TRUE(list.isGood()) << list.sentence().toStdString();
     QStringList names;
-    for (const Destination &destination : list.destinations) {
+    for (const Destination &destination : *list) {
         names += destination.name.queue;
         EXPECT_EQ(destination.isAccepting, destination.name.queue != u"closed"_s);
         EXPECT_EQ(destination.isDefault, destination.name.queue == u"photo"_s);
     }
     EXPECT_EQ(names, (QStringList{u"closed"_s, u"group"_s, u"photo"_s, u"raw"_s}));
-    EXPECT_EQ(serverDefault(s_server->address(), m_guard).queue, (QueueName{u"photo"_s, {}}));
+    EXPECT_EQ(serverDefault(s_server->address(), m_guard)->queue, u"photo"_s);
 }
 
 TEST_F(Server, IsGivenNamesWithoutControlCharacters)
@@ -107,9 +107,9 @@ TEST_F(Server, IsGivenNamesWithoutControlCharacters)
     const QString odd = m_folder.filePath(u"x\ny\u001B.ps"_s);
     ASSERT_TRUE(QFile::rename(request.documents[0].path(), odd));
     request.documents = openedDocuments({odd});
-    const JobReceipt receipt = submitJob(request, m_guard);
-    ASSERT_TRUE(receipt.answer.isGood()) << receipt.answer.sentence.toStdString();
-    const QMap<QString, QString> kept = s_server->jobAttributes(u"raw"_s, receipt.id);
+    const auto receipt = submitJob(request, m_guard);
+    ASSERT_TRUE(receipt.isGood()) << receipt.sentence().toStdString();
+    const QMap<QString, QString> kept = s_server->jobAttributes(u"raw"_s, receipt->id);
     EXPECT_EQ(kept.value(u"job-name"_s), u"A B [2J"_s);
     EXPECT_EQ(kept.value(u"document-name-supplied"_s), u"x y .ps"_s);
 }
@@ -124,7 +124,9 @@ TEST_F(Server, ListsTheUsersInstancesBehindTheirQueues)
               "Dest gone/away copies=5\n");
     QStringList names;
     QString usual;
-    for (const Destination &one : listDestinations(s_server->address(), m_guard).destinations) {
+    const auto list = listDestinations(s_server->address(), m_guard);
+    ASSERT_TRUE(list) << list.sentence().toStdString();
+    for (const Destination &one : *list) {
         names +=
             one.name.queue + (one.name.instance.isNull() ? QString() : u'/' + one.name.instance);
         if (one.isDefault)
@@ -142,33 +144,32 @@ TEST_F(Server, GivesThePPDOfAQueueInAFileWithoutAName)
     const auto restore = qScopeGuard(
         [&common] { common.isNull() ? qunsetenv("TMPDIR") : qputenv("TMPDIR", common); });
     qputenv("TMPDIR", m_folder.path().toLocal8Bit());
-    const QueuePPD queue = fetchQueuePPD(s_server->address(), u"photo"_s, m_guard);
-    ASSERT_TRUE(queue.file) << queue.answer.sentence.toStdString();
-    EXPECT_EQ(nickname(queue), u"Velkaro PX-T900, 1.0"_s);
+    const auto queue = fetchQueuePPD(s_server->address(), u"photo"_s, m_guard);
+    ASSERT_TRUE(queue) << queue.sentence().toStdString();
+    EXPECT_EQ(nickname(*queue), u"Velkaro PX-T900, 1.0"_s);
     EXPECT_EQ(QDir(m_folder.path()).entryList(QDir::Files), QStringList());
 }
 
 TEST_F(Server, GivesTheFirstMembersPPDForAClass)
 {
-    const QueuePPD queue = fetchQueuePPD(s_server->address(), u"group"_s, m_guard);
-    ASSERT_TRUE(queue.file) << queue.answer.sentence.toStdString();
-    EXPECT_EQ(nickname(queue), u"Velkaro PX-T900, 1.0"_s);
+    const auto queue = fetchQueuePPD(s_server->address(), u"group"_s, m_guard);
+    ASSERT_TRUE(queue) << queue.sentence().toStdString();
+    EXPECT_EQ(nickname(*queue), u"Velkaro PX-T900, 1.0"_s);
 }
 
 TEST_F(Server, SaysThatAQueueHasNoPPD)
 {
-    const QueuePPD queue = fetchQueuePPD(s_server->address(), u"raw"_s, m_guard);
-    EXPECT_FALSE(queue.file);
-    EXPECT_EQ(queue.answer.fault, ServerFault::None);
-    EXPECT_EQ(queue.answer.sentence, u"The queue raw has no PPD."_s);
+    const auto queue = fetchQueuePPD(s_server->address(), u"raw"_s, m_guard);
+    ASSERT_TRUE(queue) << queue.sentence().toStdString();
+    EXPECT_FALSE(queue->file);
+    EXPECT_EQ(missingPPD(u"raw"_s), u"The queue raw has no PPD."_s);
 }
 
 TEST_F(Server, SaysThatThereIsNoSuchQueue)
 {
-    const QueuePPD queue = fetchQueuePPD(s_server->address(), u"no/such queue"_s, m_guard);
-    EXPECT_FALSE(queue.file);
-    EXPECT_EQ(queue.answer.fault, ServerFault::NotFound);
-    EXPECT_EQ(queue.answer.sentence,
+    const auto queue = fetchQueuePPD(s_server->address(), u"no/such queue"_s, m_guard);
+    EXPECT_EQ(queue.faultKind(), FaultKind::NotFound);
+    EXPECT_EQ(queue.sentence(),
               u"The print server %1 has no queue no/such queue."_s.arg(s_server->address()));
 }
 
@@ -185,26 +186,25 @@ TEST_F(Server, TakesAJobAsItWasSent)
                        {u"com.velkaro.print.PrintSettings.T2T_Red"_s, u"-7"_s},
                        {u"com.velkaro.text"_s, u"a, \"b\" 'c' \\d $(e)"_s}};
     request.documents.push_back(document("second").front());
-    const JobReceipt receipt = submitJob(request, m_guard);
-    ASSERT_TRUE(receipt.answer.isGood()) << receipt.answer.sentence.toStdString();
-    EXPECT_EQ(receipt.notes, QStringList());
-    const QMap<QString, QString> kept = s_server->jobAttributes(u"photo"_s, receipt.id);
+    const auto receipt = submitJob(request, m_guard);
+    ASSERT_TRUE(receipt.isGood()) << receipt.sentence().toStdString();
+    EXPECT_EQ(receipt->notes, QStringList());
+    const QMap<QString, QString> kept = s_server->jobAttributes(u"photo"_s, receipt->id);
     for (const JobOption &option : request.options)
         EXPECT_EQ(kept.value(option.name), option.value) << option.name.toStdString();
     EXPECT_EQ(kept.value(u"job-name"_s), u"A & B <i>"_s);
     EXPECT_EQ(kept.value(u"number-of-documents"_s), u"2"_s);
     EXPECT_FALSE(kept.contains(u"media"_s));
-    EXPECT_EQ(s_server->waitForJob(u"photo"_s, receipt.id), IPP_JSTATE_COMPLETED);
+    EXPECT_EQ(s_server->waitForJob(u"photo"_s, receipt->id), IPP_JSTATE_COMPLETED);
 }
 
 TEST_F(Server, RefusesAJobForAQueueThatIsClosed)
 {
-    const JobReceipt receipt = submitJob(job(u"closed"_s), m_guard);
-    EXPECT_EQ(receipt.id, 0);
-    EXPECT_EQ(receipt.answer.fault, ServerFault::Refused);
-    EXPECT_TRUE(receipt.answer.sentence.startsWith(
-        u"The print server %1 refused: "_s.arg(s_server->address())))
-        << receipt.answer.sentence.toStdString();
+    const auto receipt = submitJob(job(u"closed"_s), m_guard);
+    EXPECT_EQ(receipt.faultKind(), FaultKind::Refused);
+    EXPECT_TRUE(
+        receipt.sentence().startsWith(u"The print server %1 refused: "_s.arg(s_server->address())))
+        << receipt.sentence().toStdString();
     EXPECT_EQ(s_server->jobs(u"closed"_s), QList<int>());
 }
 
@@ -215,9 +215,9 @@ TEST_F(Server, GetsNoJobWhoseDocumentHasChanged)
     request.documents.push_back(document("second").front());
     const QString path = request.documents.back().path();
     ASSERT_TRUE(QFile::resize(path, 10));
-    const JobReceipt receipt = submitJob(request, m_guard);
-    EXPECT_EQ(receipt.answer.fault, ServerFault::Document);
-    EXPECT_EQ(receipt.answer.sentence,
+    const auto receipt = submitJob(request, m_guard);
+    EXPECT_EQ(receipt.faultKind(), FaultKind::Document);
+    EXPECT_EQ(receipt.sentence(),
               u"The document %1 has become shorter or longer since it was opened."_s.arg(path));
     EXPECT_EQ(s_server->jobs(u"photo"_s), before);
 }
@@ -226,11 +226,11 @@ TEST_F(Server, HoldsAJobAndItIsSaid)
 {
     JobRequest request = job(u"photo"_s);
     request.options = {{u"job-hold-until"_s, u"indefinite"_s}};
-    const JobReceipt receipt = submitJob(request, m_guard);
-    ASSERT_TRUE(receipt.answer.isGood());
+    const auto receipt = submitJob(request, m_guard);
+    ASSERT_TRUE(receipt.isGood());
     EXPECT_EQ(
-        receipt.notes,
-        QStringList{u"The server holds job %1 (job-hold-until-specified)."_s.arg(receipt.id)});
+        receipt->notes,
+        QStringList{u"The server holds job %1 (job-hold-until-specified)."_s.arg(receipt->id)});
 }
 
 TEST_F(Server, CancelsAJobThatTheUserStoppedSending)
@@ -241,13 +241,14 @@ TEST_F(Server, CancelsAJobThatTheUserStoppedSending)
     ASSERT_TRUE(endless.resize(4096LL * 1024 * 1024));
     JobRequest request = job(u"photo"_s);
     request.documents = openedDocuments({endless.fileName()});
-    JobReceipt receipt;
+    Result<JobReceipt> receipt;
+    const auto progress = std::make_shared<JobProgress>();
     bool isDone = false;
     QObject owner;
     auto *call = new BackgroundCall(
         &owner, kServerTimeout,
         [&](CallGuard &guard) -> BackgroundCall::Outcome {
-            const JobReceipt got = submitJob(request, guard);
+            const auto got = submitJob(request, guard, progress);
             return [&, got] {
                 receipt = got;
                 isDone = true;
@@ -258,21 +259,21 @@ TEST_F(Server, CancelsAJobThatTheUserStoppedSending)
     call->cancel();
     // The server's disk may be faster than the look at its jobs: then all has arrived.
     ASSERT_TRUE(QTest::qWaitFor([&] { return isDone; }, 20000));
-    if (receipt.answer.isGood())
+    if (receipt.isGood())
         FAIL() << "the document was too short for this test";
-    EXPECT_EQ(receipt.answer.fault, ServerFault::Cancelled);
-    EXPECT_EQ(s_server->waitForJob(u"photo"_s, receipt.id), IPP_JSTATE_CANCELED);
+    EXPECT_EQ(receipt.faultKind(), FaultKind::Cancelled);
+    EXPECT_EQ(s_server->waitForJob(u"photo"_s, progress->id()), IPP_JSTATE_CANCELED);
 }
 
 TEST_F(Server, IsReachedByItsSocketToo)
 {
     JobRequest request = job(u"photo"_s);
     request.server = s_server->socketPath();
-    EXPECT_EQ(listDestinations(request.server, m_guard).destinations.size(), 4);
-    EXPECT_EQ(nickname(fetchQueuePPD(request.server, u"photo"_s, m_guard)),
+    EXPECT_EQ(listDestinations(request.server, m_guard)->size(), 4);
+    EXPECT_EQ(nickname(*fetchQueuePPD(request.server, u"photo"_s, m_guard)),
               u"Velkaro PX-T900, 1.0"_s);
-    const JobReceipt receipt = submitJob(request, m_guard);
-    EXPECT_TRUE(receipt.answer.isGood()) << receipt.answer.sentence.toStdString();
+    const auto receipt = submitJob(request, m_guard);
+    EXPECT_TRUE(receipt.isGood()) << receipt.sentence().toStdString();
 }
 
 struct Encryption
@@ -300,15 +301,15 @@ TEST_P(EncryptedServer, IsPrintedTo)
     const auto encrypted = [&log] { return readFile(log).count("Connection now encrypted"); };
     const auto before = encrypted();
     const ScriptedServer front(GetParam().front + Script{{"connect", {relay(s_server->port())}}});
-    const QueuePPD queue = fetchQueuePPD(front.address(), u"photo"_s, m_guard);
-    ASSERT_TRUE(queue.file) << queue.answer.sentence.toStdString();
-    EXPECT_EQ(nickname(queue), u"Velkaro PX-T900, 1.0"_s);
+    const auto queue = fetchQueuePPD(front.address(), u"photo"_s, m_guard);
+    ASSERT_TRUE(queue) << queue.sentence().toStdString();
+    EXPECT_EQ(nickname(*queue), u"Velkaro PX-T900, 1.0"_s);
     JobRequest request = job(u"photo"_s);
     request.server = front.address();
     request.documents.push_back(document("second").front());
-    const JobReceipt receipt = submitJob(request, m_guard);
-    EXPECT_EQ(receipt.answer.sentence, QString());
-    EXPECT_EQ(receipt.notes, QStringList());
+    const auto receipt = submitJob(request, m_guard);
+    EXPECT_EQ(receipt.sentence(), QString());
+    EXPECT_EQ(receipt->notes, QStringList());
     EXPECT_EQ(encrypted() - before, GetParam().encryptedConnections);
 }
 
@@ -329,9 +330,9 @@ TEST_F(Server, ThatDemandsAPasswordGetsNone)
 {
     PrintServer server(u"AuthType Basic\nRequire valid-user"_s);
     ASSERT_EQ(server.fault(), QString());
-    const QueuePPD queue = fetchQueuePPD(server.address(), u"photo"_s, m_guard);
-    EXPECT_EQ(queue.answer.fault, ServerFault::NeedsPassword);
-    EXPECT_EQ(queue.answer.sentence,
+    const auto queue = fetchQueuePPD(server.address(), u"photo"_s, m_guard);
+    EXPECT_EQ(queue.faultKind(), FaultKind::NeedsPassword);
+    EXPECT_EQ(queue.sentence(),
               u"The print server %1 lets nobody print to photo without a password."_s.arg(
                   server.address()));
 }
@@ -412,10 +413,15 @@ private:
     QTcpServer m_server; // never asked for its connections: the system accepts them
 };
 
+template <typename Value> Result<> withoutValue(const Result<Value> &result)
+{
+    return result ? Result<>() : result.fault();
+}
+
 struct Call
 {
     const char *name;
-    ServerAnswer (*make)(const QString &server, CallGuard &guard);
+    Result<> (*make)(const QString &server, CallGuard &guard);
 };
 
 void PrintTo(const Call &row, std::ostream *out)
@@ -430,9 +436,9 @@ TEST_P(FaultyServer, WithoutAnybodyIsUnreachable)
 {
     CallGuard guard(500ms);
     const QString server = u"127.0.0.1:%1"_s.arg(freePort());
-    const ServerAnswer answer = GetParam().make(server, guard);
-    EXPECT_EQ(answer.fault, ServerFault::Unreachable);
-    EXPECT_EQ(answer.sentence, u"The print server %1 cannot be reached."_s.arg(server));
+    const auto answer = GetParam().make(server, guard);
+    EXPECT_EQ(answer.faultKind(), FaultKind::Unreachable);
+    EXPECT_EQ(answer.sentence(), u"The print server %1 cannot be reached."_s.arg(server));
 }
 
 TEST_P(FaultyServer, ThatIsSilentIsGivenUpInTime)
@@ -441,9 +447,9 @@ TEST_P(FaultyServer, ThatIsSilentIsGivenUpInTime)
     CallGuard guard(500ms);
     QElapsedTimer clock;
     clock.start();
-    const ServerAnswer answer = GetParam().make(server.address(), guard);
-    EXPECT_EQ(answer.fault, ServerFault::Silent);
-    EXPECT_EQ(answer.sentence, u"The print server %1 does not answer."_s.arg(server.address()));
+    const auto answer = GetParam().make(server.address(), guard);
+    EXPECT_EQ(answer.faultKind(), FaultKind::Silent);
+    EXPECT_EQ(answer.sentence(), u"The print server %1 does not answer."_s.arg(server.address()));
     EXPECT_LT(clock.elapsed(), 5000);
 }
 
@@ -451,11 +457,11 @@ INSTANTIATE_TEST_SUITE_P(
     Table, FaultyServer,
     testing::Values(Call{"ListingQueues",
                          [](const QString &server, CallGuard &guard) {
-                             return listDestinations(server, guard).answer;
+                             return withoutValue(listDestinations(server, guard));
                          }},
                     Call{"FetchingThePPD",
                          [](const QString &server, CallGuard &guard) {
-                             return fetchQueuePPD(server, u"photo"_s, guard).answer;
+                             return withoutValue(fetchQueuePPD(server, u"photo"_s, guard));
                          }},
                     Call{"SubmittingAJob",
                          [](const QString &server, CallGuard &guard) {
@@ -464,7 +470,7 @@ INSTANTIATE_TEST_SUITE_P(
                              request.queue = u"photo"_s;
                              request.documents =
                                  openedDocuments({QStringLiteral("/proc/self/exe")});
-                             return submitJob(request, guard).answer;
+                             return withoutValue(submitJob(request, guard));
                          }}),
     [](const auto &row) { return std::string(row.param.name); });
 
@@ -506,19 +512,6 @@ TEST(BackgroundCallTest, DestroyedBeforeItsEndSaysNothing)
     EXPECT_TRUE(waitForBackgroundThreads(4s));
     QCoreApplication::processEvents();
     EXPECT_FALSE(arrived);
-}
-
-TEST(BackgroundCallTest, IsWaitedForWhereThereIsNoWindow)
-{
-    const auto answer = waitForCall<int>(5s, [](CallGuard &) { return 42; });
-    EXPECT_EQ(answer, 42);
-    const auto none = waitForCall<int>(100ms, [](CallGuard &guard) {
-        while (guard.silence() < 400ms)
-            std::this_thread::yield();
-        return 1;
-    });
-    EXPECT_EQ(none, std::nullopt);
-    EXPECT_TRUE(waitForBackgroundThreads(5s));
 }
 
 } // namespace

@@ -1,8 +1,8 @@
 #include "dialog/job/Conflicts.h"
 #include "dialog/host/PPDFile.h"
 #include "dialog/host/PPDMarks.h"
-#include "tests/support/ClashingPPD.h"
 #include "tests/endtoend/JobPrinting.h"
+#include "tests/support/ClashingPPD.h"
 
 #include <gtest/gtest.h>
 
@@ -13,7 +13,7 @@ namespace {
 class Conflicts : public testing::Test
 {
 protected:
-    Conflicts() : m_opened(openPPD(m_file.path())) {}
+    Conflicts() : m_opened(*openPPD(m_file.path())) {}
 
     ClashingPPD m_file;
     OpenedPPD m_opened;
