@@ -1,10 +1,8 @@
+#include "tests/sources/SourceFiles.h"
 #include "tests/sources/SourceRules.h"
 #include "tests/support/CaseName.h"
 #include "tests/support/QStringPrinting.h"
 
-#include <QtCore/QDir>
-#include <QtCore/QDirIterator>
-#include <QtCore/QFile>
 #include <QtXml/QDomDocument>
 
 #include <gmock/gmock.h>
@@ -16,30 +14,12 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-const QDir kProject(QStringLiteral(VELKARO_SOURCE_DIR));
-
-QString contents(const QString &path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
-}
-
-QStringList filesBelow(const QString &folder, const QStringList &patterns)
-{
-    QStringList files;
-    QDirIterator all(kProject.filePath(folder), patterns, QDir::Files,
-                     QDirIterator::Subdirectories);
-    while (all.hasNext())
-        files += all.next();
-    return files;
-}
-
 class ProductSources : public testing::TestWithParam<const char *>
 {};
 
 TEST_P(ProductSources, GiveNoTextToWhatGuessesAtRichText)
 {
-    const QStringList files = filesBelow(QLatin1String(GetParam()), {u"*.cpp"_s, u"*.h"_s});
+    const QStringList files = sourcesBelow(QLatin1String(GetParam()));
     ASSERT_FALSE(files.isEmpty());
     for (const QString &file : files)
         for (const QString &breach :
