@@ -69,8 +69,8 @@ int main(int argc, char **argv)
     qputenv("QT_QPA_PLATFORM", "offscreen");
     const QApplication application(argc, argv);
     Bundle::setMainBundle(Bundle::open(builtBundle()));
-    const OpenedPPD opened = openPPD(samplePPD(QStringLiteral("velkaro-px-t900")));
-    const auto host = std::make_shared<HostCallback>(opened.ppd.get());
+    const auto opened = openPPD(samplePPD(QStringLiteral("velkaro-px-t900")));
+    const auto host = std::make_shared<HostCallback>(opened->ppd.get());
     host->willChangePPDOptionKeyValue(QStringLiteral("VKColorEnhancement"), QStringLiteral("ON"));
     PMPrintSettingsSetValue(&host->ticket(),
                             QStringLiteral("com.velkaro.print.PrintSettings.advancedcolorItem"),

@@ -81,7 +81,7 @@ private:
 
 std::unique_ptr<DialogWindow> openedOn(const QString &ppd)
 {
-    CommandLine line;
+    DialogWishes line;
     line.ppd = ppd;
     line.plugIn = builtBundle();
     line.output = u"/dev/null"_s;

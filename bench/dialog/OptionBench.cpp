@@ -139,7 +139,7 @@ int main(int argc, char **argv)
     const DialogStage stage;
     qputenv("CUPS_SERVER", stage.server().toLocal8Bit());
     const QApplication application(argc, argv);
-    CommandLine line;
+    DialogWishes line;
     line.server = stage.server();
     line.queue = DialogStage::queue();
     line.files = {DialogStage::document()};

@@ -3,14 +3,14 @@
 // private cupsd, in turn.
 #include "bench/support/ProcessCost.h"
 #include "bench/support/Timing.h"
-#include "dialog/cups/JobSubmission.h"
 #include "dialog/job/DocumentFile.h"
-#include "dialog/work/BackgroundCall.h"
+#include "dialog/printing/PrintController.h"
 #include "tests/built/BuiltFiles.h"
 #include "tests/printserver/PrintServer.h"
 
 #include <QtCore/QCoreApplication>
 #include <QtCore/QElapsedTimer>
+#include <QtCore/QEventLoop>
 
 #include <cups/cups.h>
 
@@ -48,9 +48,15 @@ bool submitByLibcups(const JobRequest &job)
 
 bool submitByDialog(const JobRequest &job)
 {
-    const auto receipt = waitForCall<JobReceipt>(
-        kServerTimeout, [job](CallGuard &guard) { return submitJob(job, guard); });
-    return receipt && receipt->answer.isGood();
+    PrintController controller({});
+    QEventLoop loop;
+    bool isAccepted = false;
+    controller.send(job, [&](const Result<JobReceipt> &receipt) {
+        isAccepted = receipt.isGood();
+        loop.quit();
+    });
+    loop.exec();
+    return isAccepted;
 }
 
 double microseconds(bool (*submit)(const JobRequest &), const JobRequest &job, bool &good)
@@ -79,7 +85,7 @@ int main(int argc, char **argv)
                    {u"VKResolution"_s, u"Photo"_s},
                    {u"PageSize"_s, u"A4.Fullbleed"_s},
                    {u"com.velkaro.print.PrintSettings.T2T_Red"_s, u"3"_s}};
-    job.documents = openDocuments({samplePPD(u"velkaro-px-t900"_s)}).documents; // any 50 kB of text
+    job.documents = *openDocuments({samplePPD(u"velkaro-px-t900"_s)}); // any 50 kB of text
     bool good = true;
     std::vector<double> ours;
     std::vector<double> peers;

@@ -34,10 +34,10 @@ double processorMilliseconds()
 double costOfOpening(const SessionOptions &options)
 {
     const double before = processorMilliseconds();
-    const HostSession::Opened opened = HostSession::open(options);
+    const auto opened = HostSession::open(options);
     const double cost = processorMilliseconds() - before;
-    if (!opened.session)
-        endWith(opened.ppdError);
+    if (!opened)
+        endWith(opened.sentence());
     return cost;
 }
 

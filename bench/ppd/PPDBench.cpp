@@ -20,8 +20,8 @@ constexpr double kReach = 1.5;
 
 void openOurs(const QString &path)
 {
-    if (const OpenedPPD opened = openPPD(path); !opened.ppd) {
-        std::fprintf(stderr, "%s\n", qPrintable(opened.error));
+    if (const auto opened = openPPD(path); !opened) {
+        std::fprintf(stderr, "%s\n", qPrintable(opened.sentence()));
         std::exit(1);
     }
 }

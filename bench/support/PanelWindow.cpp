@@ -14,10 +14,10 @@
 
 PPDHandle openBenchPPD(const QString &path)
 {
-    OpenedPPD opened = openPPD(path);
-    if (opened.ppd)
-        return std::move(opened.ppd);
-    qCritical("%s", qPrintable(opened.error));
+    auto opened = openPPD(path);
+    if (opened)
+        return std::move(opened->ppd);
+    qCritical("%s", qPrintable(opened.sentence()));
     std::exit(1);
 }
 

@@ -105,17 +105,17 @@ bool foundNothing(const ServerConnection &connection)
            connection.lastEnd().status == IPP_STATUS_ERROR_NOT_FOUND;
 }
 
-DefaultQueue defaultOf(ServerConnection &connection)
+Result<QueueName> defaultOf(ServerConnection &connection)
 {
     IppHandle request(ippNewRequest(IPP_OP_CUPS_GET_DEFAULT));
     ippAddString(request.get(), IPP_TAG_OPERATION, IPP_TAG_KEYWORD, "requested-attributes", nullptr,
                  "printer-name");
     const IppHandle response = connection.request(std::move(request), "/");
     if (!connection.succeeded())
-        return {{}, foundNothing(connection) ? ServerAnswer() : connection.lastAnswer()};
+        return foundNothing(connection) ? Result<QueueName>() : connection.lastFault();
     ipp_attribute_t *name = ippFindAttribute(response.get(), "printer-name", IPP_TAG_NAME);
     const QString queue = name ? text(name) : QString();
-    return {{isQueueName(queue) ? queue : QString(), {}}, {}};
+    return QueueName{isQueueName(queue) ? queue : QString(), {}};
 }
 
 void markDefault(QList<Destination> &destinations, const QueueName &name)
@@ -129,6 +129,16 @@ bool isListed(const QList<Destination> &destinations, const QueueName &name)
     return std::ranges::find(destinations, name, &Destination::name) != destinations.end();
 }
 
+/// The one that the user has named, else the server's; a null queue when neither is there.
+QueueName defaultAmong(const QList<Destination> &destinations, ServerConnection &connection)
+{
+    const QueueName usual = usualQueue();
+    if (isListed(destinations, usual))
+        return usual;
+    const Result<QueueName> byServer = defaultOf(connection);
+    return byServer ? *byServer : QueueName();
+}
+
 } // namespace
 
 QList<Destination> queuesOf(ipp_t *answer)
@@ -136,24 +146,20 @@ QList<Destination> queuesOf(ipp_t *answer)
     return sorted(destinationsOf(answer));
 }
 
-DestinationList listDestinations(const QString &server, CallGuard &guard)
+Result<QList<Destination>> listDestinations(const QString &server, CallGuard &guard)
 {
     ServerConnection connection(server, guard);
     const IppHandle response = connection.request(listRequest(), "/");
-    DestinationList list;
-    if (!connection.succeeded()) {
-        if (!foundNothing(connection))
-            list.answer = connection.lastAnswer();
-        return list;
-    }
-    list.destinations = withInstances(queuesOf(response.get()));
-    const QueueName usual = usualQueue();
-    markDefault(list.destinations,
-                isListed(list.destinations, usual) ? usual : defaultOf(connection).queue);
-    return list;
+    if (foundNothing(connection))
+        return {};
+    if (!connection.succeeded())
+        return connection.lastFault();
+    QList<Destination> destinations = withInstances(queuesOf(response.get()));
+    markDefault(destinations, defaultAmong(destinations, connection));
+    return destinations;
 }
 
-DefaultQueue serverDefault(const QString &server, CallGuard &guard)
+Result<QueueName> serverDefault(const QString &server, CallGuard &guard)
 {
     ServerConnection connection(server, guard);
     return defaultOf(connection);

@@ -2,7 +2,7 @@
 
 #include "dialog/job/SavedOptions.h"
 #include "dialog/work/CallGuard.h"
-#include "dialog/work/ServerFault.h"
+#include "dialog/work/Result.h"
 
 #include <QtCore/QList>
 #include <QtCore/QString>
@@ -20,26 +20,15 @@ struct Destination
     bool isStopped = false;  ///< jobs wait until somebody starts the queue
 };
 
-struct DestinationList
-{
-    QList<Destination> destinations; ///< by name, the queue itself before its instances
-    ServerAnswer answer;
-};
-
 /// Every queue and class of the server (null: the user's usual one), with the user's instances.
 /// Printers that announce themselves in the network and have no queue on the server are not among
-/// them: there is nothing to print to by that name. Blocks: call it in a BackgroundCall.
-DestinationList listDestinations(const QString &server, CallGuard &guard);
+/// them: there is nothing to print to by that name. By name, a queue before its instances. Blocks:
+/// call it in a BackgroundCall.
+Result<QList<Destination>> listDestinations(const QString &server, CallGuard &guard);
 
 /// The queues that an answer lists, in order; none of them is marked as default.
 QList<Destination> queuesOf(ipp_t *answer);
 
-/// The queue that a server prints to by default; a null queue when it has none.
-struct DefaultQueue
-{
-    QueueName queue;
-    ServerAnswer answer;
-};
-
-/// Asks the server. Blocks: call it in a BackgroundCall.
-DefaultQueue serverDefault(const QString &server, CallGuard &guard);
+/// Asks the server for the queue that it prints to by default; a null queue when it has none.
+/// Blocks: call it in a BackgroundCall.
+Result<QueueName> serverDefault(const QString &server, CallGuard &guard);

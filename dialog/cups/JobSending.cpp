@@ -40,8 +40,8 @@ SentDocuments sendDocument(ServerConnection &connection, const JobRequest &job,
         progress.add(length);
         return connection.upload(bytes, length);
     });
-    if (const QString fault = deliveryFault(document, delivery); !fault.isNull())
-        return {Sent::Changed, fault};
+    if (delivery == Delivery::Changed || delivery == Delivery::CannotRead)
+        return {Sent::Changed, deliveryFault(document, delivery)};
     return {delivery == Delivery::Complete ? takeAnswer(connection) : Sent::Refused, {}};
 }
 

@@ -3,6 +3,8 @@
 #include "dialog/cups/JobSubmission.h"
 #include "dialog/cups/ServerConnection.h"
 
+#include <optional>
+
 /// What became of handing a job's documents to the server.
 enum class Sent {
     Accepted,
@@ -14,10 +16,10 @@ enum class Sent {
 struct SentDocuments
 {
     Sent sent = Sent::Accepted;
-    QString fault; ///< of the document that has changed; null otherwise
+    std::optional<Fault> fault; ///< of the document that has changed
 };
 
 /// Sends the documents of the job that the server has created (JobProgress::id()). Where it did not
-/// accept them, ServerConnection::lastAnswer() says why.
+/// accept them, ServerConnection::lastFault() says why.
 SentDocuments sendDocuments(ServerConnection &connection, const JobRequest &job,
                             JobProgress &progress);

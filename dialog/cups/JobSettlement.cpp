@@ -7,107 +7,99 @@
 
 namespace {
 
-ServerAnswer endedByServer(const char *text, const QString &server, int id)
+Fault endedByServer(const char *text, const QString &server, int id)
 {
-    return {ServerFault::Refused,
+    return {FaultKind::Refused,
             QCoreApplication::translate("JobSettlement", text).arg(server, QString::number(id))};
 }
 
-ServerAnswer notCancelled(const QString &why, const QString &server, int id)
+Fault notCancelled(const QString &why, const QString &server, int id)
 {
-    return {ServerFault::Unsettled,
+    return {FaultKind::Unsettled,
             QCoreApplication::translate("JobSettlement",
                                         "%1 Job %2 could not be cancelled at %3 and may be "
                                         "printed.")
                 .arg(why, QString::number(id), server)};
 }
 
-/// Cancels the job at the server, so that no part of it is printed. That can come too late where
-/// the server has the whole job: it counts as accepted then.
-void cancel(JobReceipt &receipt, ServerConnection &connection, Sent sent, const JobRequest &request,
-            JobProgress &progress)
+/// Nothing half is printed: what the server has of the job is cancelled. It may be too late for
+/// that, where the server has got the whole job.
+Result<JobReceipt> cancel(const Fault &why, ServerConnection &connection, Sent sent,
+                          const JobRequest &request, JobProgress &progress)
 {
-    if (cancelJob(connection, request.queue, receipt.id))
-        return;
-    switch (askFate(connection, request.queue, receipt.id)) {
+    if (cancelJob(connection, request.queue, progress.id()))
+        return why;
+    switch (askFate(connection, request.queue, progress.id())) {
     case JobFate::Cancelled:
     case JobFate::Aborted:
-        return;
+        return why;
     case JobFate::Accepted:
-        if (sent == Sent::Lost) {
-            accept(receipt, connection, request, progress);
-            return;
-        }
+        if (sent == Sent::Lost)
+            return accept(connection, request, progress);
         [[fallthrough]];
     case JobFate::Unknown:
     case JobFate::Incomplete:
-        receipt.answer = notCancelled(receipt.answer.sentence, connection.serverName(), receipt.id);
+        break;
     }
+    return notCancelled(why.sentence, connection.serverName(), progress.id());
 }
 
-/// Asks the server for the fate of a job whose last answer was lost. True when that is an answer,
-/// and the receipt has it.
-bool lookForAnswer(JobReceipt &receipt, ServerConnection &connection, const JobRequest &request,
-                   JobProgress &progress)
+/// The answer that decides has not come: the server is asked what it made of the job. None when
+/// that does not settle it.
+std::optional<Result<JobReceipt>> lookForAnswer(ServerConnection &connection,
+                                                const JobRequest &request, JobProgress &progress)
 {
     const QString server = connection.serverName();
-    switch (askFate(connection, request.queue, receipt.id)) {
+    switch (askFate(connection, request.queue, progress.id())) {
     case JobFate::Accepted:
-        accept(receipt, connection, request, progress);
-        return true;
+        return accept(connection, request, progress);
     case JobFate::Cancelled:
-        receipt.answer = endedByServer(
+        return endedByServer(
             QT_TRANSLATE_NOOP("JobSettlement", "The print server %1 cancelled job %2."), server,
-            receipt.id);
-        return true;
+            progress.id());
     case JobFate::Aborted:
-        receipt.answer =
-            endedByServer(QT_TRANSLATE_NOOP("JobSettlement", "The print server %1 aborted job %2."),
-                          server, receipt.id);
-        return true;
+        return endedByServer(
+            QT_TRANSLATE_NOOP("JobSettlement", "The print server %1 aborted job %2."), server,
+            progress.id());
     case JobFate::Unknown:
-        receipt.answer = perhapsPrinted(server, receipt.id);
-        return true;
+        return perhapsPrinted(server, progress.id());
     case JobFate::Incomplete:
         break;
     }
-    return false;
+    return std::nullopt;
 }
 
 } // namespace
 
-void accept(JobReceipt &receipt, ServerConnection &connection, const JobRequest &request,
-            JobProgress &progress)
+JobReceipt accept(ServerConnection &connection, const JobRequest &request, JobProgress &progress)
 {
     progress.setAccepted();
-    receipt.answer = {};
-    receipt.notes = readJobBack(connection, request.queue, receipt.id, request.options);
+    return {progress.id(), readJobBack(connection, request.queue, progress.id(), request.options)};
 }
 
-ServerAnswer perhapsPrinted(const QString &server, int id)
+Fault perhapsPrinted(const QString &server, int id)
 {
-    return {ServerFault::Unsettled,
+    return {FaultKind::Unsettled,
             QCoreApplication::translate("JobSettlement",
                                         "The print server %1 did not say whether it took the job: "
                                         "it may have been printed as job %2.")
                 .arg(server, QString::number(id))};
 }
 
-// New connections, since the old one may be in the middle of a document. Each has half of the
-// timeout to connect and half to answer, so that whoever waits for the outer guard does not give up
-// first.
-void settle(JobReceipt &receipt, Sent sent, const JobRequest &request, JobProgress &progress,
-            CallGuard &guard)
+// On connections of their own: the old one may be in the middle of a document. Half of the timeout
+// to connect and half to answer: whoever waits for the guard is not out of it.
+Result<JobReceipt> settle(const Fault &why, Sent sent, const JobRequest &request,
+                          JobProgress &progress, CallGuard &guard)
 {
     if (sent == Sent::Lost && !guard.isCancelled()) {
         guard.stampSignOfLife();
         CallGuard looking(guard.timeout() / 2);
         ServerConnection connection(request.server, looking);
-        if (lookForAnswer(receipt, connection, request, progress))
-            return;
+        if (const auto settled = lookForAnswer(connection, request, progress))
+            return *settled;
     }
     guard.stampSignOfLife();
     CallGuard cancelling(guard.timeout() / 2);
     ServerConnection connection(request.server, cancelling);
-    cancel(receipt, connection, sent, request, progress);
+    return cancel(why, connection, sent, request, progress);
 }

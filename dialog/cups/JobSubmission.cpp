@@ -25,42 +25,30 @@ int createdJob(const IppHandle &response)
 
 } // namespace
 
-JobReceipt submitJob(const JobRequest &request, CallGuard &guard,
-                     const std::shared_ptr<JobProgress> &progress)
+Result<JobReceipt> submitJob(const JobRequest &request, CallGuard &guard,
+                             const std::shared_ptr<JobProgress> &progress)
 {
-    JobReceipt receipt;
-    if (const QString changed = changedDocument(request.documents); !changed.isNull()) {
-        receipt.answer = {ServerFault::Document, changed};
-        return receipt;
-    }
+    if (const Result<> unchanged = checkUnchanged(request.documents); !unchanged)
+        return unchanged.fault();
     ServerConnection connection(request.server, guard);
     IppHandle created;
     if (connection.isConnected() && !guard.isCancelled())
         created = connection.request(createJobRequest(request), queueResource(request.queue));
-    receipt.id = connection.succeeded() && created ? createdJob(created) : 0;
-    if (receipt.id == 0) {
-        receipt.answer = connection.lastAnswer(request.queue);
-        return receipt;
-    }
-    progress->setId(receipt.id);
+    const int id = connection.succeeded() && created ? createdJob(created) : 0;
+    if (id == 0)
+        return connection.lastFault(request.queue);
+    progress->setId(id);
     const auto [sent, fault] = sendDocuments(connection, request, *progress);
-    if (sent == Sent::Accepted) {
-        accept(receipt, connection, request, *progress);
-        return receipt;
-    }
-    receipt.answer = fault.isNull() ? connection.lastAnswer(request.queue)
-                                    : ServerAnswer{ServerFault::Document, fault};
-    settle(receipt, sent, request, *progress, guard);
-    return receipt;
+    if (sent == Sent::Accepted)
+        return accept(connection, request, *progress);
+    return settle(fault.value_or(connection.lastFault(request.queue)), sent, request, *progress,
+                  guard);
 }
 
-JobReceipt givenUpReceipt(const JobRequest &request, const JobProgress &progress)
+Result<JobReceipt> givenUpReceipt(const JobRequest &request, const JobProgress &progress)
 {
-    JobReceipt receipt;
-    receipt.id = progress.id();
     if (progress.isAccepted())
-        return receipt;
-    receipt.answer = receipt.id == 0 ? silentServer(request.server)
-                                     : perhapsPrinted(nameOfServer(request.server), receipt.id);
-    return receipt;
+        return JobReceipt{progress.id(), {}};
+    return progress.id() == 0 ? silentServer(request.server)
+                              : perhapsPrinted(nameOfServer(request.server), progress.id());
 }

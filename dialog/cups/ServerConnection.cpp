@@ -301,12 +301,12 @@ bool ServerConnection::succeeded() const
     return m_end.kind == Kind::Answered && isSuccess(m_end.status);
 }
 
-ServerAnswer ServerConnection::lastAnswer(const QString &queue) const
+Fault ServerConnection::lastFault(const QString &queue) const
 {
     ExchangeEnd end = m_end;
     if (succeeded())
         end.kind = Kind::Unreadable;
-    return answerOf(end, m_name, queue);
+    return faultOf(end, m_name, queue);
 }
 
 QByteArray requestingUser()
@@ -337,7 +337,7 @@ QString nameOfServer(const QString &server)
     return name.startsWith(u'/') ? QLatin1String(kLocalServer) : name;
 }
 
-ServerAnswer silentServer(const QString &server)
+Fault silentServer(const QString &server)
 {
-    return answerOf({Kind::Silent, 0, {}, false}, nameOfServer(server), {});
+    return faultOf({Kind::Silent, 0, {}, false}, nameOfServer(server), {});
 }

@@ -6,7 +6,7 @@
 #include "dialog/cups/ServerSentences.h"
 #include "dialog/cups/SocketWatch.h"
 #include "dialog/work/CallGuard.h"
-#include "dialog/work/ServerFault.h"
+#include "dialog/work/Fault.h"
 
 #include <QtCore/QFile>
 #include <QtCore/QString>
@@ -67,7 +67,7 @@ public:
     /// The fault of the last exchange and its sentence. Where the answer reported success and yet
     /// did not hold what was asked for, that is the fault. `queue` is the queue that the sentence
     /// names; null where the request was about none.
-    ServerAnswer lastAnswer(const QString &queue = QString()) const;
+    Fault lastFault(const QString &queue = QString()) const;
 
 private:
     bool connectAnew();
@@ -105,4 +105,4 @@ QByteArray queueResource(const QString &queue);
 QString nameOfServer(const QString &server);
 
 /// What is said of a server that was given up.
-ServerAnswer silentServer(const QString &server);
+Fault silentServer(const QString &server);

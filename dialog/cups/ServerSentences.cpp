@@ -20,7 +20,7 @@ using Kind = ExchangeEnd::Kind;
 /// A fault and its sentence, in which %1 is the server.
 struct Said
 {
-    ServerFault fault;
+    FaultKind kind;
     const char *sentence;
 };
 
@@ -33,35 +33,35 @@ struct KindRow
 // %2: the text that goes with the end, such as the system's word for errno.
 constexpr std::array kKinds{
     KindRow{Kind::NotConnected,
-            {ServerFault::Unreachable,
+            {FaultKind::Unreachable,
              QT_TRANSLATE_NOOP("Server", "The print server %1 cannot be reached.")}},
     KindRow{Kind::Broken,
-            {ServerFault::Unreachable,
+            {FaultKind::Unreachable,
              QT_TRANSLATE_NOOP("Server", "The print server %1 broke off: %2.")}},
     KindRow{Kind::Closed,
-            {ServerFault::Unreachable,
+            {FaultKind::Unreachable,
              QT_TRANSLATE_NOOP("Server",
                                "The print server %1 closed the connection without an answer.")}},
     KindRow{Kind::CutShort,
-            {ServerFault::Unreachable,
+            {FaultKind::Unreachable,
              QT_TRANSLATE_NOOP("Server",
                                "The print server %1 broke off in the middle of its answer.")}},
     KindRow{
         Kind::Unreadable,
-        {ServerFault::Refused,
+        {FaultKind::Refused,
          QT_TRANSLATE_NOOP("Server", "The answer of the print server %1 cannot be understood.")}},
     KindRow{Kind::TooLarge,
-            {ServerFault::Refused,
+            {FaultKind::Refused,
              QT_TRANSLATE_NOOP("Server", "The answer of the print server %1 is too large.")}},
     KindRow{Kind::NotStored,
-            {ServerFault::Refused,
+            {FaultKind::Refused,
              QT_TRANSLATE_NOOP("Server", "What the print server %1 sends cannot be kept in the "
                                          "temporary folder: %2.")}},
     KindRow{
         Kind::Silent,
-        {ServerFault::Silent, QT_TRANSLATE_NOOP("Server", "The print server %1 does not answer.")}},
+        {FaultKind::Silent, QT_TRANSLATE_NOOP("Server", "The print server %1 does not answer.")}},
     KindRow{Kind::TooSlow,
-            {ServerFault::Silent,
+            {FaultKind::Silent,
              QT_TRANSLATE_NOOP("Server", "The print server %1 takes too long to answer.")}},
 };
 
@@ -80,16 +80,16 @@ struct QueueRow
     const char *withoutQueue; ///< where none was asked for
 };
 
-constexpr Said kNoQueue{ServerFault::NotFound,
+constexpr Said kNoQueue{FaultKind::NotFound,
                         QT_TRANSLATE_NOOP("Server", "The print server %1 has no queue %2.")};
 constexpr auto kNothing =
     QT_TRANSLATE_NOOP("Server", "The print server %1 does not know what it was asked for.");
-constexpr Said kPassword{ServerFault::NeedsPassword,
+constexpr Said kPassword{FaultKind::NeedsPassword,
                          QT_TRANSLATE_NOOP("Server", "The print server %1 lets nobody print to %2 "
                                                      "without a password.")};
 constexpr auto kPasswordForAll =
     QT_TRANSLATE_NOOP("Server", "The print server %1 answers nobody without a password.");
-constexpr Said kRefused{ServerFault::Refused,
+constexpr Said kRefused{FaultKind::Refused,
                         QT_TRANSLATE_NOOP("Server", "The print server %1 refused: %2")};
 
 constexpr std::array kIppAboutQueues{
@@ -99,7 +99,7 @@ constexpr std::array kIppAboutQueues{
 constexpr std::array kIppStatuses{
     StatusRow{IPP_STATUS_ERROR_INTERNAL,
               IPP_STATUS_ERROR_INTERNAL,
-              {ServerFault::Refused,
+              {FaultKind::Refused,
                QT_TRANSLATE_NOOP("Server", "The print server %1 reports a fault: %2")}},
     StatusRow{0, 0xFFFF, kRefused},
 };
@@ -108,7 +108,7 @@ constexpr std::array kHttpAboutQueues{
     QueueRow{HTTP_STATUS_UNAUTHORIZED, kPassword, kPasswordForAll},
     QueueRow{
         HTTP_STATUS_FORBIDDEN,
-        {ServerFault::Refused,
+        {FaultKind::Refused,
          QT_TRANSLATE_NOOP("Server",
                            "The print server %1 does not allow this machine to print to %2.")},
         QT_TRANSLATE_NOOP("Server", "The print server %1 does not allow this machine to ask.")},
@@ -117,22 +117,22 @@ constexpr std::array kHttpAboutQueues{
 constexpr std::array kHttpStatuses{
     StatusRow{300,
               399,
-              {ServerFault::Refused,
+              {FaultKind::Refused,
                QT_TRANSLATE_NOOP("Server", "The print server %1 answered with a redirection, which "
                                            "is not followed (%2).")}},
     StatusRow{HTTP_STATUS_UPGRADE_REQUIRED,
               HTTP_STATUS_UPGRADE_REQUIRED,
-              {ServerFault::Refused,
+              {FaultKind::Refused,
                QT_TRANSLATE_NOOP("Server", "The print server %1 demands an encrypted connection, "
                                            "which cannot be made.")}},
-    StatusRow{500,
-              599,
-              {ServerFault::Refused,
-               QT_TRANSLATE_NOOP("Server", "The print server %1 has a fault (%2).")}},
+    StatusRow{
+        500,
+        599,
+        {FaultKind::Refused, QT_TRANSLATE_NOOP("Server", "The print server %1 has a fault (%2).")}},
     StatusRow{
         INT_MIN,
         INT_MAX,
-        {ServerFault::Refused, QT_TRANSLATE_NOOP("Server", "The print server %1 refused (%2).")}},
+        {FaultKind::Refused, QT_TRANSLATE_NOOP("Server", "The print server %1 refused (%2).")}},
 };
 
 QString endedLikeASentence(const QString &text)
@@ -157,48 +157,47 @@ QString detailOf(const ExchangeEnd &end)
     }
 }
 
-ServerAnswer answer(ServerFault fault, const char *text, const QString &server,
-                    const QString &detail)
+Fault faultWith(FaultKind kind, const char *text, const QString &server, const QString &detail)
 {
     const QString sentence = QCoreApplication::translate("Server", text);
-    return {fault, sentence.contains(QLatin1String("%2")) ? sentence.arg(server, detail)
-                                                          : sentence.arg(server)};
+    return {kind, sentence.contains(QLatin1String("%2")) ? sentence.arg(server, detail)
+                                                         : sentence.arg(server)};
 }
 
 template <std::size_t QueueRows, std::size_t StatusRows>
-ServerAnswer answerOfStatus(const std::array<QueueRow, QueueRows> &aboutQueues,
-                            const std::array<StatusRow, StatusRows> &statuses,
-                            const ExchangeEnd &end, const QString &server, const QString &queue)
+Fault faultOfStatus(const std::array<QueueRow, QueueRows> &aboutQueues,
+                    const std::array<StatusRow, StatusRows> &statuses, const ExchangeEnd &end,
+                    const QString &server, const QString &queue)
 {
     const auto *row = std::ranges::find(aboutQueues, end.status, &QueueRow::status);
     const bool isMissingJob =
-        end.isAboutJob && row != aboutQueues.end() && row->said.fault == ServerFault::NotFound;
+        end.isAboutJob && row != aboutQueues.end() && row->said.kind == FaultKind::NotFound;
     if (row != aboutQueues.end() && !isMissingJob)
-        return queue.isNull() ? answer(row->said.fault, row->withoutQueue, server, {})
-                              : answer(row->said.fault, row->said.sentence, server, queue);
+        return queue.isNull() ? faultWith(row->said.kind, row->withoutQueue, server, {})
+                              : faultWith(row->said.kind, row->said.sentence, server, queue);
     const auto *other = std::ranges::find_if(statuses, [&](const StatusRow &one) {
         return one.first <= end.status && end.status <= one.last;
     });
-    return answer(other->said.fault, other->said.sentence, server, detailOf(end));
+    return faultWith(other->said.kind, other->said.sentence, server, detailOf(end));
 }
 
 } // namespace
 
-ServerAnswer answerOf(const ExchangeEnd &end, const QString &server, const QString &queue)
+Fault faultOf(const ExchangeEnd &end, const QString &server, const QString &queue)
 {
     switch (end.kind) {
     case Kind::Cancelled:
-        return {ServerFault::Cancelled,
+        return {FaultKind::Cancelled,
                 QCoreApplication::translate("Server", "Printing was cancelled.")};
     case Kind::Answered:
-        return answerOfStatus(kIppAboutQueues, kIppStatuses, end, server, queue);
+        return faultOfStatus(kIppAboutQueues, kIppStatuses, end, server, queue);
     case Kind::HttpStatus:
-        return answerOfStatus(kHttpAboutQueues, kHttpStatuses, end, server, queue);
+        return faultOfStatus(kHttpAboutQueues, kHttpStatuses, end, server, queue);
     default:
         break;
     }
     const auto *row = std::ranges::find(kKinds, end.kind, &KindRow::kind);
-    return answer(row->said.fault, row->said.sentence, server, detailOf(end));
+    return faultWith(row->said.kind, row->said.sentence, server, detailOf(end));
 }
 
 QString shownServerText(const QString &text)

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "dialog/work/ServerFault.h"
+#include "dialog/work/Fault.h"
 
 #include <QtCore/QString>
 
@@ -30,7 +30,7 @@ struct ExchangeEnd
 
 /// The fault and the sentence for people of an exchange that did not succeed. `queue` is null where
 /// the request was about none.
-ServerAnswer answerOf(const ExchangeEnd &end, const QString &server, const QString &queue);
+Fault faultOf(const ExchangeEnd &end, const QString &server, const QString &queue);
 
 /// A server's own words as they are shown: one line of a sane length.
 QString shownServerText(const QString &text);

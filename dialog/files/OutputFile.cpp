@@ -108,7 +108,7 @@ OutputFile::~OutputFile()
         unlink(m_place.constData());
 }
 
-bool OutputFile::open(const QString &path, const OutputTerms &terms, Appears appears)
+Result<> OutputFile::open(const QString &path, const OutputTerms &terms, Appears appears)
 {
     m_path = path;
     m_terms = terms;
@@ -126,7 +126,7 @@ bool OutputFile::open(const QString &path, const OutputTerms &terms, Appears app
     }
 }
 
-bool OutputFile::openStream(const QByteArray &path)
+Result<> OutputFile::openStream(const QByteArray &path)
 {
     m_isStream = true;
     blockPipeSignal();
@@ -141,19 +141,19 @@ bool OutputFile::openStream(const QByteArray &path)
     return take(descriptor);
 }
 
-bool OutputFile::openNew(const QByteArray &path)
+Result<> OutputFile::openNew(const QByteArray &path)
 {
     m_place = path;
     const int descriptor = ::open(path.constData(), kNew, kEverybodysMode);
     if (descriptor < 0 && errno == EEXIST)
         return refuse(OutputVerdict::Exists);
-    if (!take(descriptor))
-        return false;
-    m_created = identityOf(descriptor);
-    return true;
+    const Result<> taken = take(descriptor);
+    if (taken)
+        m_created = identityOf(descriptor);
+    return taken;
 }
 
-bool OutputFile::openBeside(const QByteArray &path)
+Result<> OutputFile::openBeside(const QByteArray &path)
 {
     m_place = path;
     const QByteArray temporary = temporaryBeside(path);
@@ -166,10 +166,10 @@ bool OutputFile::openBeside(const QByteArray &path)
     return take(descriptor);
 }
 
-bool OutputFile::take(int descriptor)
+Result<> OutputFile::take(int descriptor)
 {
     m_file = FileDescriptor(descriptor);
-    return m_file.isOpen() || failForErrno();
+    return m_file.isOpen() ? m_state : failForErrno();
 }
 
 /// Waits until the stream has room for PIPE_BUF bytes, which write() then hands over without
@@ -184,10 +184,10 @@ bool OutputFile::waitForRoom()
     return false;
 }
 
-bool OutputFile::write(QByteArrayView bytes)
+Result<> OutputFile::write(QByteArrayView bytes)
 {
     // A disk that is nearly full takes a part first, and says only then why it takes no more.
-    while (!bytes.isEmpty() && m_error.isNull()) {
+    while (!bytes.isEmpty() && m_state) {
         if (m_isStream && !waitForRoom())
             return failForErrno();
         const qsizetype most = m_isStream ? PIPE_BUF : bytes.size();
@@ -196,30 +196,30 @@ bool OutputFile::write(QByteArrayView bytes)
         if (taken >= 0)
             bytes = bytes.sliced(taken);
         else if (errno != EINTR)
-            failForErrno();
+            return failForErrno();
     }
-    return m_error.isNull();
+    return m_state;
 }
 
-bool OutputFile::commit()
+Result<> OutputFile::commit()
 {
-    if (!m_error.isNull())
-        return false;
+    if (!m_state)
+        return m_state;
     if (!synchronize(m_file.get()))
         return failForErrno();
     const std::optional<FileIdentity> identity = identityOf(m_file.get());
     if (!m_file.shut())
         return failForErrno();
     if (!m_temporary.isEmpty() && !publish())
-        return false;
+        return m_state;
     m_temporary.clear();
     m_created.reset();
     m_identity = identity;
-    return true;
+    return m_state;
 }
 
 /// Puts the whole file in its place. What stands there may be another file by now.
-bool OutputFile::publish()
+Result<> OutputFile::publish()
 {
     const OutputVerdict now = verdictAt(m_path, m_terms);
     if (now != OutputVerdict::Create && now != OutputVerdict::Replace)
@@ -229,24 +229,25 @@ bool OutputFile::publish()
                             : renameToFreeName(m_temporary, m_place);
     if (!isDone && errno == EEXIST)
         return refuse(OutputVerdict::Exists);
-    return isDone || failForErrno();
+    return isDone ? m_state : failForErrno();
 }
 
-bool OutputFile::refuse(OutputVerdict verdict)
+Result<> OutputFile::refuse(OutputVerdict verdict)
 {
     m_verdict = verdict;
-    m_error = outputRefusal(verdict, m_path);
-    return false;
+    m_state = Fault{FaultKind::Output, outputRefusal(verdict, m_path)};
+    return m_state;
 }
 
-bool OutputFile::fail(const QString &reason)
+Result<> OutputFile::fail(const QString &reason)
 {
-    m_error = QCoreApplication::translate("OutputFile", "The file %1 cannot be written: %2.")
-                  .arg(shownPath(m_path), reason);
-    return false;
+    m_state = Fault{FaultKind::Output,
+                    QCoreApplication::translate("OutputFile", "The file %1 cannot be written: %2.")
+                        .arg(shownPath(m_path), reason)};
+    return m_state;
 }
 
-bool OutputFile::failForErrno()
+Result<> OutputFile::failForErrno()
 {
     return fail(QString::fromLocal8Bit(std::strerror(errno)));
 }

@@ -3,6 +3,7 @@
 #include "dialog/files/FileDescriptor.h"
 #include "dialog/files/FileIdentity.h"
 #include "dialog/files/OutputRule.h"
+#include "dialog/work/Result.h"
 
 #include <QtCore/QByteArray>
 #include <QtCore/QByteArrayView>
@@ -47,19 +48,17 @@ public:
     /// Without it write() waits for as long as that lasts.
     void setMayWait(std::function<bool()> mayWait) { m_mayWait = std::move(mayWait); }
 
-    /// False, with error(), when nothing may or can be written there. Waits for nothing. A thread
-    /// that opens a pipe or a device gets no SIGPIPE any more.
-    bool open(const QString &path, const OutputTerms &terms, Appears appears = Appears::WhenWhole);
+    /// A fault when nothing may or can be written there. Waits for nothing. A thread that opens a
+    /// pipe or a device gets no SIGPIPE any more.
+    Result<> open(const QString &path, const OutputTerms &terms,
+                  Appears appears = Appears::WhenWhole);
 
-    /// Writes all bytes at once, without a buffer. False, with error(), when they cannot be
-    /// written; the file can then not be committed any more.
-    bool write(QByteArrayView bytes);
+    /// Writes all bytes at once, without a buffer. After a fault, which every later call gives
+    /// again, the file can not be committed any more.
+    Result<> write(QByteArrayView bytes);
 
-    /// Ends the file. False, with error(), when not everything has reached its place.
-    bool commit();
-
-    /// One sentence for people; null without a fault.
-    QString error() const { return m_error; }
+    /// Ends the file. A fault when not everything has reached its place.
+    Result<> commit();
 
     /// Why open() has written nothing, if it has not. Create otherwise.
     OutputVerdict verdict() const { return m_verdict; }
@@ -68,15 +67,15 @@ public:
     std::optional<FileIdentity> identity() const { return m_identity; }
 
 private:
-    bool openStream(const QByteArray &path);
-    bool openNew(const QByteArray &path);
-    bool openBeside(const QByteArray &path);
-    bool take(int descriptor);
+    Result<> openStream(const QByteArray &path);
+    Result<> openNew(const QByteArray &path);
+    Result<> openBeside(const QByteArray &path);
+    Result<> take(int descriptor);
     bool waitForRoom();
-    bool publish();
-    bool refuse(OutputVerdict verdict);
-    bool fail(const QString &reason);
-    bool failForErrno();
+    Result<> publish();
+    Result<> refuse(OutputVerdict verdict);
+    Result<> fail(const QString &reason);
+    Result<> failForErrno();
 
     std::function<bool()> m_mayWait;
     bool m_isStream = false;
@@ -88,5 +87,5 @@ private:
     QByteArray m_temporary; // where it is until then; empty: it stands there, or is a stream
     std::optional<FileIdentity> m_created; // this file in its place, to be removed on failure
     std::optional<FileIdentity> m_identity;
-    QString m_error;
+    Result<> m_state; // the first fault
 };

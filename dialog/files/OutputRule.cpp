@@ -23,18 +23,18 @@ OutputVerdict verdictOn(const OutputFacts &facts)
 
 QString outputRefusal(OutputVerdict verdict, const QString &path)
 {
-    const auto sentence = [&](const char *text) {
-        return QCoreApplication::translate("OutputRule", text).arg(shownPath(path));
-    };
     switch (verdict) {
     case OutputVerdict::IsInput:
-        return sentence(
-            QT_TRANSLATE_NOOP("OutputRule", "Nothing is written over %1: it is in use for this."));
+        return QCoreApplication::translate("OutputRule",
+                                           "Nothing is written over %1: it is in use for this.")
+            .arg(shownPath(path));
     case OutputVerdict::IsFolder:
-        return sentence(QT_TRANSLATE_NOOP("OutputRule", "%1 is a folder: it cannot be written."));
+        return QCoreApplication::translate("OutputRule", "%1 is a folder: it cannot be written.")
+            .arg(shownPath(path));
     case OutputVerdict::Exists:
-        return sentence(
-            QT_TRANSLATE_NOOP("OutputRule", "The file %1 exists already; --force replaces it."));
+        return QCoreApplication::translate("OutputRule",
+                                           "The file %1 exists already; --force replaces it.")
+            .arg(shownPath(path));
     default:
         return {};
     }

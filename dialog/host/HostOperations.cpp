@@ -1,6 +1,5 @@
 #include "dialog/host/HostSession.h"
 #include "dialog/host/PPDMarks.h"
-#include "dialog/host/SessionObserver.h"
 #include "platform/foundation/NotificationCenter.h"
 #include "platform/printmanager/PMNotifications.h"
 #include "platform/printmanager/PMTicketKeys.h"
@@ -17,48 +16,45 @@ QWidget *HostSession::show(const HostPanel &panel)
         return nullptr;
     m_views.insert(panel.panel.get(), view);
     panel.panel->willShow();
-    if (m_observer)
-        m_observer->didShow(panel);
+    tell([&](SessionObserver &observer) { observer.didShow(panel); });
     return view;
 }
 
 bool HostSession::hide(const HostPanel &panel)
 {
     const bool hidden = panel.panel->shouldHide();
-    if (m_observer)
-        m_observer->didPerform(PanelOperation::Hide, panel);
+    tell([&](SessionObserver &observer) { observer.didPerform(PanelOperation::Hide, panel); });
     return hidden;
 }
 
 bool HostSession::restore(const HostPanel &panel)
 {
-    const bool restored = panel.panel->restoreValuesAndReturnError(nullptr);
-    if (m_observer)
-        m_observer->didPerform(PanelOperation::Restore, panel);
+    const bool restored = restoreValues(panel);
+    tell([&](SessionObserver &observer) { observer.didPerform(PanelOperation::Restore, panel); });
     return restored;
 }
 
 bool HostSession::save(const HostPanel &panel)
 {
-    const bool saved = panel.panel->saveValuesAndReturnError(nullptr);
-    if (m_observer)
-        m_observer->didPerform(PanelOperation::Save, panel);
+    QString error;
+    const bool saved = panel.panel->saveValuesAndReturnError(&error);
+    tell([&](SessionObserver &observer) { observer.didPerform(PanelOperation::Save, panel); });
+    if (!saved)
+        tellFault(PanelOperation::Save, panel, error);
     return saved;
 }
 
 QVariantMap HostSession::summary(const HostPanel &panel)
 {
     QVariantMap summary = panel.panel->summaryInfo();
-    if (m_observer)
-        m_observer->didPerform(PanelOperation::Summary, panel);
+    tell([&](SessionObserver &observer) { observer.didPerform(PanelOperation::Summary, panel); });
     return summary;
 }
 
 bool HostSession::help(const HostPanel &panel)
 {
     const bool useOwn = panel.panel->shouldShowHelp();
-    if (m_observer)
-        m_observer->didPerform(PanelOperation::Help, panel);
+    tell([&](SessionObserver &observer) { observer.didPerform(PanelOperation::Help, panel); });
     return useOwn;
 }
 
@@ -77,8 +73,7 @@ bool HostSession::markElsewhere(const QString &keyword, const QString &choice)
         panel.panel->PPDOptionKeyValueDidChange(mark.keyword, mark.choice);
     if (mark.keyword == "Duplex"_L1)
         post(kPMDuplexDidChangeNotification);
-    if (m_observer)
-        m_observer->didMark(mark.keyword, mark.choice);
+    tell([&](SessionObserver &observer) { observer.didMark(mark.keyword, mark.choice); });
     return true;
 }
 
@@ -90,15 +85,13 @@ void HostSession::setPaper(const PMPaper &paper, const std::optional<QString> &m
         PMPrintSettingsSetValue(&ticket(), kPMMappedPaperKey,
                                 mapped->isNull() ? QVariant() : QVariant(*mapped), false);
     post(kPMPaperDidChangeNotification);
-    if (m_observer)
-        m_observer->didSetPaper(paper, mapped);
+    tell([&](SessionObserver &observer) { observer.didSetPaper(paper, mapped); });
 }
 
 void HostSession::writeTicket(const QString &key, const QVariant &value)
 {
     PMPrintSettingsSetValue(&ticket(), key, value, false);
-    if (m_observer)
-        m_observer->didWriteTicket(key, value);
+    tell([&](SessionObserver &observer) { observer.didWriteTicket(key, value); });
 }
 
 PrintAnswer HostSession::askShouldPrint()
@@ -110,8 +103,7 @@ PrintAnswer HostSession::askShouldPrint()
         if (!answer.proceed)
             break;
     }
-    if (m_observer)
-        m_observer->didAskShouldPrint();
+    tell([&](SessionObserver &observer) { observer.didAskShouldPrint(); });
     return answer;
 }
 
@@ -122,6 +114,5 @@ void HostSession::windowDidResize()
             NotificationCenter::defaultCenter().post(
                 QLatin1String(kViewDidUpdateTrackingAreasNotification), view);
     }
-    if (m_observer)
-        m_observer->didResizeWindow();
+    tell([&](SessionObserver &observer) { observer.didResizeWindow(); });
 }

@@ -2,7 +2,6 @@
 
 #include "dialog/host/HostPaper.h"
 #include "dialog/host/PPDMarks.h"
-#include "dialog/host/SessionObserver.h"
 #include "platform/foundation/NotificationCenter.h"
 #include "platform/foundation/PreferredLanguages.h"
 #include "platform/foundation/UserDefaults.h"
@@ -24,22 +23,23 @@ HostSession::~HostSession()
     close();
 }
 
-HostSession::Opened HostSession::open(const SessionOptions &options)
+Result<std::unique_ptr<HostSession>> HostSession::open(const SessionOptions &options)
 {
-    return open(options, openPPD(options.ppdPath, options.ppdTexts));
+    Result<OpenedPPD> ppd = openPPD(options.ppdPath, options.ppdTexts);
+    if (!ppd)
+        return ppd.fault();
+    return open(options, *std::move(ppd));
 }
 
-HostSession::Opened HostSession::open(const SessionOptions &options, OpenedPPD ppd)
+std::unique_ptr<HostSession> HostSession::open(const SessionOptions &options, OpenedPPD ppd)
 {
-    if (!ppd.ppd)
-        return {nullptr, ppd.error};
     std::unique_ptr<HostSession> session(new HostSession(options));
     session->m_ppd = std::move(ppd.ppd);
     session->m_defaultMarks = ppd.defaults;
     session->m_plugIn = options.bundlePath.isNull() ? loadPlugInFor(session->ppd(), options.info)
                                                     : loadPlugIn(options.bundlePath, options.info);
     session->prepareCallback();
-    return {std::move(session), QString()};
+    return session;
 }
 
 void HostSession::prepareCallback()
@@ -49,7 +49,9 @@ void HostSession::prepareCallback()
     m_callback = std::make_shared<HostCallback>(m_ppd.get());
     m_callback->setRefused(m_options.refused);
     m_callback->setLacking(m_options.lacking);
-    m_callback->setCallObserver(m_options.callObserver);
+    m_callback->setCallObserver([this](const HostCallback::Call &call) {
+        tell([&](SessionObserver &observer) { observer.didAnswer(call); });
+    });
     m_callback->ticket().setValues(m_options.ticket);
     m_callback->format().paper = m_options.paper ? m_options.paper : markedPaper(m_ppd.get());
 }
@@ -68,7 +70,30 @@ void HostSession::start()
     if (!m_options.restore)
         return;
     for (const HostPanel &panel : m_panels)
-        panel.panel->restoreValuesAndReturnError(nullptr);
+        restoreValues(panel);
+}
+
+bool HostSession::restoreValues(const HostPanel &panel)
+{
+    QString error;
+    const bool restored = panel.panel->restoreValuesAndReturnError(&error);
+    if (!restored)
+        tellFault(SessionObserver::PanelOperation::Restore, panel, error);
+    return restored;
+}
+
+void HostSession::tellFault(SessionObserver::PanelOperation operation, const HostPanel &panel,
+                            const QString &sentence) const
+{
+    tell([&](SessionObserver &observer) { observer.didFail(operation, panel, sentence); });
+}
+
+// An observer may leave while it is told.
+void HostSession::tell(const std::function<void(SessionObserver &)> &what) const
+{
+    for (SessionObserver *observer : QList(m_observers))
+        if (m_observers.contains(observer))
+            what(*observer);
 }
 
 void HostSession::createPanels()
@@ -88,8 +113,8 @@ void HostSession::createPanels()
 
 void HostSession::close()
 {
-    if (m_running && m_observer)
-        m_observer->willClose();
+    if (m_running)
+        tell([](SessionObserver &observer) { observer.willClose(); });
     m_running = false;
     m_panels.clear();
     m_views.clear();

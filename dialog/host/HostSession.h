@@ -3,6 +3,7 @@
 #include "dialog/host/HostCallback.h"
 #include "dialog/host/PPDFile.h"
 #include "dialog/host/PlugInLoader.h"
+#include "dialog/host/SessionObserver.h"
 #include "dialog/host/SessionOptions.h"
 #include "platform/pde/PDEPanel.h"
 
@@ -11,13 +12,13 @@
 #include <QtCore/QPointer>
 #include <QtWidgets/QWidget>
 
+#include <functional>
 #include <memory>
 #include <optional>
 #include <vector>
 
 class PDEPanelControls;
 class PDEPanelInspection;
-class SessionObserver;
 
 /// A panel of the session.
 struct HostPanel
@@ -59,32 +60,32 @@ struct PrintAnswer
 class HostSession
 {
 public:
-    /// What opening came to. Without a session, `ppdError` is one sentence for people. A session
-    /// whose plug-in could not be loaded has a fault, and will have no panels.
-    struct Opened
-    {
-        std::unique_ptr<HostSession> session;
-        QString ppdError;
-    };
-
-    /// The session on the PPD of `options`. Reads the file: not on a thread that people wait for.
-    static Opened open(const SessionOptions &options);
+    /// The session on the PPD of `options`, never null; a fault when that cannot be used. One whose
+    /// plug-in could not be loaded has plugInFault(), and will have no panels. Reads the file: not
+    /// on a thread that people wait for.
+    static Result<std::unique_ptr<HostSession>> open(const SessionOptions &options);
 
     /// The same on what openPPD() gave for that file, on whichever thread. Reads the plug-in alone.
-    static Opened open(const SessionOptions &options, OpenedPPD ppd);
+    static std::unique_ptr<HostSession> open(const SessionOptions &options, OpenedPPD ppd);
 
     ~HostSession();
     HostSession(const HostSession &) = delete;
     HostSession &operator=(const HostSession &) = delete;
 
-    /// Not owned; null: nobody. Set it before start().
-    void setObserver(SessionObserver *observer) { m_observer = observer; }
+    /// From now on the observer is told of the session, after those that were there before. Not
+    /// owned: it is removed before it is destroyed, or outlives the session. One that is there
+    /// before start() misses nothing.
+    void addObserver(SessionObserver *observer) { m_observers += observer; }
+    void removeObserver(SessionObserver *observer) { m_observers.removeOne(observer); }
 
     void start();
     void close();
 
     const SessionOptions &options() const { return m_options; }
     const std::optional<PlugInFault> &plugInFault() const { return m_plugIn.fault; }
+
+    /// Whether a plug-in was loaded, panels or not.
+    bool hasPlugIn() const { return m_plugIn.plugIn != nullptr; }
 
     ppd_file_t *ppd() const { return m_ppd.get(); }
     /// The marks of the PPD before anybody has made any: OpenedPPD::defaults.
@@ -176,6 +177,10 @@ private:
     void prepareCallback();
     void createPanels();
     void post(const QString &name);
+    bool restoreValues(const HostPanel &panel);
+    void tellFault(SessionObserver::PanelOperation operation, const HostPanel &panel,
+                   const QString &sentence) const;
+    void tell(const std::function<void(SessionObserver &)> &what) const;
 
     SessionOptions m_options;
     QList<PPDMark> m_defaultMarks;
@@ -185,6 +190,6 @@ private:
     std::vector<HostPanel> m_panels;
     QHash<const PDEPanel *, QPointer<QWidget>> m_views; // that were taken from the panels
     QStringList m_reportedKeywords;
-    SessionObserver *m_observer = nullptr;
+    QList<SessionObserver *> m_observers;
     bool m_running = false;
 };

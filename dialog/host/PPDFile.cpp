@@ -11,15 +11,14 @@
 namespace {
 
 // libcups tells it of the last PPD that this thread opened.
-QString parserError(const QString &path)
+Fault parserError(const QString &path)
 {
     int line = 0;
     const QString reason = QString::fromUtf8(ppdErrorString(ppdLastError(&line)));
     if (line == 0)
-        return ppdSentence(QT_TRANSLATE_NOOP("PPDFile", "%1 is not a PPD file (%2)."), path,
-                           reason);
-    return ppdSentence(QT_TRANSLATE_NOOP("PPDFile", "%1 is not a usable PPD file (line %2: %3)."),
-                       path, QString::number(line), reason);
+        return ppdFault(QT_TRANSLATE_NOOP("PPDFile", "%1 is not a PPD file (%2)."), path, reason);
+    return ppdFault(QT_TRANSLATE_NOOP("PPDFile", "%1 is not a usable PPD file (line %2: %3)."),
+                    path, QString::number(line), reason);
 }
 
 // A cut within the comments at the beginning leaves a PPD that says nothing.
@@ -44,19 +43,19 @@ int memoryFile(const QByteArray &text)
 
 } // namespace
 
-OpenedPPD openPPD(const QString &path, PPDTexts texts)
+Result<OpenedPPD> openPPD(const QString &path, PPDTexts texts)
 {
-    const CheckedPPD read = readPPD(path);
-    if (!read.error.isNull())
-        return {nullptr, read.error, {}};
-    PPDHandle ppd(ppdOpenFd(memoryFile(read.text)));
+    const Result<QByteArray> text = readPPD(path);
+    if (!text)
+        return text.fault();
+    PPDHandle ppd(ppdOpenFd(memoryFile(*text)));
     if (!ppd)
-        return {nullptr, parserError(path), {}};
-    if (saysNothing(*ppd) || isCutOff(read.text))
-        return {nullptr, incompletePPD(path), {}};
+        return parserError(path);
+    if (saysNothing(*ppd) || isCutOff(*text))
+        return incompletePPD(path);
     if (texts == PPDTexts::InUserLanguage)
         ppdLocalize(ppd.get());
     ppdMarkDefaults(ppd.get());
     const QList<PPDMark> defaults = marksOf(ppd.get());
-    return {std::move(ppd), QString(), defaults};
+    return OpenedPPD{std::move(ppd), defaults};
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "dialog/host/PPDMarks.h"
+#include "dialog/work/Result.h"
 #include "platform/ppd/CupsPPD.h"
 
 #include <QtCore/QString>
@@ -15,11 +16,10 @@ struct PPDCloser
 /// An opened PPD and whoever owns it.
 using PPDHandle = std::unique_ptr<ppd_file_t, PPDCloser>;
 
-/// What opening a PPD came to: the PPD with its defaults marked, or one sentence for people.
+/// A PPD with its defaults marked.
 struct OpenedPPD
 {
     PPDHandle ppd;
-    QString error;
     /// What is marked by default, before anybody has picked anything. It need not be what an option
     /// says of itself: a keyword may stand in two groups, and libcups reads over the case of names.
     QList<PPDMark> defaults;
@@ -33,4 +33,4 @@ enum class PPDTexts {
 
 /// Reads and checks the PPD file (readPPD), has libcups open what was read, and marks the defaults.
 /// On any thread: the PPD may be handed on to another one.
-OpenedPPD openPPD(const QString &path, PPDTexts texts = PPDTexts::AsWritten);
+Result<OpenedPPD> openPPD(const QString &path, PPDTexts texts = PPDTexts::AsWritten);

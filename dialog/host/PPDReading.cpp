@@ -21,20 +21,15 @@ int openWithoutWaiting(const QString &path)
     return open(QFile::encodeName(path).constData(), O_RDONLY | O_NONBLOCK | O_CLOEXEC);
 }
 
-CheckedPPD refused(const char *text, const QString &path)
-{
-    return {{}, ppdSentence(text, path)};
-}
-
-CheckedPPD unreadable(const QString &path)
+Fault unreadable(const QString &path)
 {
     return errno == ENOENT || errno == ENOTDIR
-               ? refused(QT_TRANSLATE_NOOP("PPDFile", "The PPD file %1 does not exist."), path)
-               : CheckedPPD{{}, unreadablePPD(path)};
+               ? ppdFault(QT_TRANSLATE_NOOP("PPDFile", "The PPD file %1 does not exist."), path)
+               : unreadablePPD(path);
 }
 
 /// What is in the file, up to one byte more than a PPD may have.
-CheckedPPD bytesOf(const QString &path)
+Result<QByteArray> bytesOf(const QString &path)
 {
     const int descriptor = openWithoutWaiting(path);
     if (descriptor < 0)
@@ -43,48 +38,48 @@ CheckedPPD bytesOf(const QString &path)
     if (!file.open(descriptor, QIODevice::ReadOnly | QIODevice::Unbuffered,
                    QFile::AutoCloseHandle)) {
         close(descriptor);
-        return CheckedPPD{{}, unreadablePPD(path)};
+        return unreadablePPD(path);
     }
     struct stat status = {};
     if (fstat(descriptor, &status) != 0 || !S_ISREG(status.st_mode))
-        return refused(QT_TRANSLATE_NOOP("PPDFile", "%1 is not a PPD file."), path);
-    CheckedPPD read{file.read(std::min<qint64>(status.st_size, kLargestPPD) + 1), {}};
+        return ppdFault(QT_TRANSLATE_NOOP("PPDFile", "%1 is not a PPD file."), path);
+    const QByteArray read = file.read(std::min<qint64>(status.st_size, kLargestPPD) + 1);
     if (file.error() != QFileDevice::NoError)
-        return CheckedPPD{{}, unreadablePPD(path)};
+        return unreadablePPD(path);
     return read;
 }
 
-CheckedPPD unpackedText(const QByteArray &packed, const QString &path)
+Result<QByteArray> unpackedText(const QByteArray &packed, const QString &path)
 {
     const Unpacked text = unpacked(packed, kLargestPPD);
     switch (text.state) {
     case Unpacked::State::Whole:
         break;
     case Unpacked::State::CutOff:
-        return {{}, incompletePPD(path)};
+        return incompletePPD(path);
     case Unpacked::State::Damaged:
-        return refused(QT_TRANSLATE_NOOP("PPDFile", "The PPD file %1 is damaged: it cannot be "
-                                                    "unpacked. Get it again."),
-                       path);
+        return ppdFault(QT_TRANSLATE_NOOP("PPDFile", "The PPD file %1 is damaged: it cannot be "
+                                                     "unpacked. Get it again."),
+                        path);
     case Unpacked::State::TooLarge:
-        return {{}, sentenceOf(ppdLimits().front(), path)};
+        return Fault{FaultKind::PPD, sentenceOf(ppdLimits().front(), path)};
     }
     // libcups would unpack it a second time, without a limit.
-    return isPacked(text.bytes)
-               ? refused(QT_TRANSLATE_NOOP("PPDFile", "%1 is not a PPD file."), path)
-               : CheckedPPD{text.bytes, {}};
+    if (isPacked(text.bytes))
+        return ppdFault(QT_TRANSLATE_NOOP("PPDFile", "%1 is not a PPD file."), path);
+    return text.bytes;
 }
 
 } // namespace
 
-CheckedPPD readPPD(const QString &path)
+Result<QByteArray> readPPD(const QString &path)
 {
-    CheckedPPD read = bytesOf(path);
-    if (read.error.isNull() && isPacked(read.text))
-        read = unpackedText(read.text, path);
-    if (!read.error.isNull())
+    Result<QByteArray> read = bytesOf(path);
+    if (read && isPacked(*read))
+        read = unpackedText(*read, path);
+    if (!read)
         return read;
-    if (const PPDLimit *limit = exceededLimit(censusOf(read.text)))
-        return {{}, sentenceOf(*limit, path)};
+    if (const PPDLimit *limit = exceededLimit(censusOf(*read)))
+        return Fault{FaultKind::PPD, sentenceOf(*limit, path)};
     return read;
 }

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "dialog/work/Fault.h"
+
 #include <QtCore/QCoreApplication>
 #include <QtCore/QString>
 
@@ -11,14 +13,21 @@ QString ppdSentence(const char *text, const QString &path, const Rest &...rest)
     return QCoreApplication::translate("PPDFile", text).arg(path, rest...);
 }
 
-inline QString unreadablePPD(const QString &path)
+/// The same as the fault of a PPD that cannot be used.
+template <typename... Rest>
+Fault ppdFault(const char *text, const QString &path, const Rest &...rest)
 {
-    return ppdSentence(QT_TRANSLATE_NOOP("PPDFile", "The PPD file %1 cannot be read."), path);
+    return {FaultKind::PPD, ppdSentence(text, path, rest...)};
 }
 
-inline QString incompletePPD(const QString &path)
+inline Fault unreadablePPD(const QString &path)
 {
-    return ppdSentence(QT_TRANSLATE_NOOP("PPDFile", "The PPD file %1 is incomplete: it ends too "
-                                                    "early. Get it again."),
-                       path);
+    return ppdFault(QT_TRANSLATE_NOOP("PPDFile", "The PPD file %1 cannot be read."), path);
+}
+
+inline Fault incompletePPD(const QString &path)
+{
+    return ppdFault(QT_TRANSLATE_NOOP("PPDFile", "The PPD file %1 is incomplete: it ends too "
+                                                 "early. Get it again."),
+                    path);
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "dialog/host/HostCallback.h"
 #include "platform/printmanager/PMPageFormat.h"
 
 #include <QtCore/QString>
@@ -9,8 +10,9 @@
 
 struct HostPanel;
 
-/// Is told of what the dialog did in a session, each time after it was done. What people do in a
-/// panel's own controls is not among it.
+/// Is told of what happens in a session, each time after it was done: what the dialog did, and what
+/// the panels asked of it. What people do in a panel's own controls is not among it. An observer
+/// overrides what it wants to hear of.
 class SessionObserver
 {
 public:
@@ -19,14 +21,20 @@ public:
 
     virtual ~SessionObserver() = default;
 
-    virtual void didShow(const HostPanel &panel) = 0;
-    virtual void didPerform(PanelOperation operation, const HostPanel &panel) = 0;
-    virtual void didMark(const QString &keyword, const QString &choice) = 0;
+    /// A panel has called the dialog, and was answered.
+    virtual void didAnswer(const HostCallback::Call &) {}
+
+    virtual void didShow(const HostPanel &) {}
+    virtual void didPerform(PanelOperation, const HostPanel &) {}
+    /// A panel could not save or restore its values: in its own words, one sentence. After
+    /// didPerform(), where that is told of it.
+    virtual void didFail(PanelOperation, const HostPanel &, const QString & /*sentence*/) {}
+    virtual void didMark(const QString & /*keyword*/, const QString & /*choice*/) {}
     /// `mapped` as in HostSession::setPaper().
-    virtual void didSetPaper(const PMPaper &paper, const std::optional<QString> &mapped) = 0;
-    virtual void didWriteTicket(const QString &key, const QVariant &value) = 0;
-    virtual void didResizeWindow() = 0;
-    virtual void didAskShouldPrint() = 0;
+    virtual void didSetPaper(const PMPaper &, const std::optional<QString> & /*mapped*/) {}
+    virtual void didWriteTicket(const QString & /*key*/, const QVariant &) {}
+    virtual void didResizeWindow() {}
+    virtual void didAskShouldPrint() {}
     /// The panels still live.
-    virtual void willClose() = 0;
+    virtual void willClose() {}
 };

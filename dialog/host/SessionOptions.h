@@ -10,7 +10,6 @@
 #include <QtCore/QStringList>
 #include <QtCore/QVariant>
 
-#include <functional>
 #include <optional>
 #include <set>
 
@@ -40,7 +39,4 @@ struct SessionOptions
     std::set<HostOperation> lacking; ///< HostCallback::setLacking()
     QVariantMap info;                ///< entries over those of the bundle's information dictionary
     bool restore = true;             ///< whether new panels are told to restore their values
-
-    /// Is told of every call of the panels, from their creation on; may be empty.
-    std::function<void(const HostCallback::Call &)> callObserver;
 };

@@ -78,19 +78,14 @@ Delivery deliver(const Document &document,
     return document.isUnchanged() ? Delivery::Complete : Delivery::Changed;
 }
 
-QString deliveryFault(const Document &document, Delivery delivery)
+Fault deliveryFault(const Document &document, Delivery delivery)
 {
-    switch (delivery) {
-    case Delivery::Changed:
-        return QCoreApplication::translate(
-                   "Document", "The document %1 has become shorter or longer since it was opened.")
-            .arg(document.path());
-    case Delivery::CannotRead:
-        return QCoreApplication::translate("Document", "The document %1 cannot be read to its end.")
-            .arg(document.path());
-    default:
-        return {};
-    }
+    const QString sentence =
+        delivery == Delivery::Changed
+            ? QCoreApplication::translate(
+                  "Document", "The document %1 has become shorter or longer since it was opened.")
+            : QCoreApplication::translate("Document", "The document %1 cannot be read to its end.");
+    return {FaultKind::Document, sentence.arg(document.path())};
 }
 
 qint64 totalSize(const Documents &documents)
@@ -99,8 +94,10 @@ qint64 totalSize(const Documents &documents)
                                  [](const Document &document) { return document.size(); });
 }
 
-QString changedDocument(const Documents &documents)
+Result<> checkUnchanged(const Documents &documents)
 {
     const auto changed = std::ranges::find_if_not(documents, &Document::isUnchanged);
-    return changed == documents.end() ? QString() : deliveryFault(*changed, Delivery::Changed);
+    if (changed == documents.end())
+        return {};
+    return deliveryFault(*changed, Delivery::Changed);
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "dialog/files/FileDescriptor.h"
+#include "dialog/work/Result.h"
 
 #include <QtCore/QString>
 
@@ -72,12 +73,11 @@ enum class Delivery {
 Delivery deliver(const Document &document,
                  const std::function<bool(const char *bytes, qint64 length)> &take);
 
-/// One sentence on a document that was not delivered for its own fault; null otherwise.
-QString deliveryFault(const Document &document, Delivery delivery);
+/// What is told of a document that has changed or cannot be read.
+Fault deliveryFault(const Document &document, Delivery delivery);
 
 /// The bytes of all documents together.
 qint64 totalSize(const Documents &documents);
 
-/// One sentence on the first document that is not as long as it was when it was opened; null when
-/// there is none.
-QString changedDocument(const Documents &documents);
+/// A fault for the first document that is not as long as it was when it was opened.
+Result<> checkUnchanged(const Documents &documents);

@@ -14,14 +14,21 @@
 
 namespace {
 
-QString systemFault(const QString &path)
+Fault documentFault(const QString &sentence)
+{
+    return {FaultKind::Document, sentence};
+}
+
+Fault systemFault(const QString &path)
 {
     const int error = errno;
     if (error == ENOENT)
-        return QCoreApplication::translate("DocumentFile", "The document %1 does not exist.")
-            .arg(path);
-    return QCoreApplication::translate("DocumentFile", "The document %1 cannot be read: %2.")
-        .arg(path, QString::fromLocal8Bit(std::strerror(error)));
+        return documentFault(
+            QCoreApplication::translate("DocumentFile", "The document %1 does not exist.")
+                .arg(path));
+    return documentFault(
+        QCoreApplication::translate("DocumentFile", "The document %1 cannot be read: %2.")
+            .arg(path, QString::fromLocal8Bit(std::strerror(error))));
 }
 
 /// Why a file of this kind is no document; null when it is one.
@@ -41,39 +48,33 @@ const char *faultOfKind(mode_t mode)
     }
 }
 
-/// A document, or why it is none.
-struct Opened
-{
-    std::optional<Document> document;
-    QString error;
-};
-
-Opened ordinary(FileDescriptor file, qint64 begin, const QString &path, const QString &name)
+Result<Document> ordinary(FileDescriptor file, qint64 begin, const QString &path,
+                          const QString &name)
 {
     Document document(std::move(file), begin, path, name);
     if (document.size() == 0)
-        return {{},
-                QCoreApplication::translate("DocumentFile", "The document %1 is empty.").arg(path)};
-    return {std::move(document), {}};
+        return documentFault(
+            QCoreApplication::translate("DocumentFile", "The document %1 is empty.").arg(path));
+    return document;
 }
 
-/// What the name stands for is looked at before it is opened, since opening alone can set off a
-/// device, or wait for the writer of a named pipe; and the open file is looked at again.
-Opened openByName(const QString &path)
+/// A device may answer to being opened alone, and a named pipe would keep whoever opens it waiting:
+/// what the name stands for is asked before, and of the open file again.
+Result<Document> openByName(const QString &path)
 {
     const QByteArray bytes = bytesOfPath(path);
     const QString shown = shownPath(path);
     struct stat status = {};
     if (stat(bytes.constData(), &status) != 0)
-        return {{}, systemFault(shown)};
+        return systemFault(shown);
     FileDescriptor file;
     if (!faultOfKind(status.st_mode)) {
         file = FileDescriptor(open(bytes.constData(), O_RDONLY | O_NONBLOCK | O_CLOEXEC));
         if (!file.isOpen() || fstat(file.get(), &status) != 0)
-            return {{}, systemFault(shown)};
+            return systemFault(shown);
     }
     if (const char *fault = faultOfKind(status.st_mode))
-        return {{}, QCoreApplication::translate("DocumentFile", fault).arg(shown)};
+        return documentFault(QCoreApplication::translate("DocumentFile", fault).arg(shown));
     return ordinary(std::move(file), 0, shown, QFileInfo(shown).fileName());
 }
 
@@ -96,7 +97,7 @@ bool mayBeRead(const FileDescriptor &file)
     return !isForWriting;
 }
 
-Opened openDescriptor(int descriptor, const QString &path)
+Result<Document> openDescriptor(int descriptor, const QString &path)
 {
     const QString shown = descriptor == STDIN_FILENO
                               ? QCoreApplication::translate("DocumentFile", "Standard input")
@@ -104,16 +105,16 @@ Opened openDescriptor(int descriptor, const QString &path)
     FileDescriptor file = inherited(descriptor);
     struct stat status = {};
     if (!file.isOpen() || !mayBeRead(file) || fstat(file.get(), &status) != 0)
-        return {{}, systemFault(shown)};
+        return systemFault(shown);
     if (S_ISFIFO(status.st_mode) || S_ISSOCK(status.st_mode))
-        return {Document::pipe(std::move(file), shown, shown), {}};
+        return Document::pipe(std::move(file), shown, shown);
     if (const char *fault = faultOfKind(status.st_mode))
-        return {{}, QCoreApplication::translate("DocumentFile", fault).arg(shown)};
+        return documentFault(QCoreApplication::translate("DocumentFile", fault).arg(shown));
     const qint64 begin = lseek(file.get(), 0, SEEK_CUR);
     return ordinary(std::move(file), begin, shown, shown);
 }
 
-Opened openDocument(const QString &path)
+Result<Document> openDocument(const QString &path)
 {
     const std::optional<int> descriptor =
         path == QLatin1String("-") ? STDIN_FILENO : descriptorOf(path);
@@ -122,16 +123,16 @@ Opened openDocument(const QString &path)
 
 } // namespace
 
-OpenedDocuments openDocuments(const QStringList &paths)
+Result<Documents> openDocuments(const QStringList &paths)
 {
-    OpenedDocuments opened;
+    Documents documents;
     for (const QString &path : paths) {
-        Opened one = openDocument(path);
-        if (!one.document)
-            return {{}, one.error};
-        opened.documents.push_back(std::move(*one.document));
+        const Result<Document> opened = openDocument(path);
+        if (!opened)
+            return opened.fault();
+        documents.push_back(*opened);
     }
-    return opened;
+    return documents;
 }
 
 QString jobTitle(const Documents &documents)

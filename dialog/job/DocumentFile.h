@@ -5,13 +5,6 @@
 #include <QtCore/QString>
 #include <QtCore/QStringList>
 
-/// Documents that are open for reading, or one sentence that says which cannot be read.
-struct OpenedDocuments
-{
-    Documents documents;
-    QString error; ///< null when there is none
-};
-
 /// Opens every document, so that a missing one is found out before anything is sent. Waits for
 /// nothing. Paths are as pathOfBytes() gives them.
 ///
@@ -19,7 +12,7 @@ struct OpenedDocuments
 /// empty files are not. "-", "/dev/stdin", "/dev/fd/N" and "/proc/self/fd/N" are what the program
 /// was started with: a file is read from where it stands, a pipe has still to be read
 /// (readPipes()).
-OpenedDocuments openDocuments(const QStringList &paths);
+Result<Documents> openDocuments(const QStringList &paths);
 
 /// The title of a job that prints these documents: the first one's name.
 QString jobTitle(const Documents &documents);

@@ -23,21 +23,20 @@ bool isJobFile(const Document &file)
     return beginning(file, firstLine.size()) == firstLine;
 }
 
-ReadJobFile readJobFile(const Document &file)
+Result<JobRequest> readJobFile(const Document &file)
 {
-    ReadJobFile read;
     const auto [header, flaw] =
         parseJobFileHeader(beginning(file, kLongestJobFileHeader), file.size());
-    read.error = flawSentence(flaw, file.path());
-    if (!read.error.isNull())
-        return read;
-    read.job.title = header.title;
-    read.job.queue = header.queue;
-    read.job.options = header.options;
+    if (flaw != JobFileFlaw::None)
+        return Fault{FaultKind::Document, flawSentence(flaw, file.path())};
+    JobRequest job;
+    job.title = header.title;
+    job.queue = header.queue;
+    job.options = header.options;
     qint64 begin = header.end;
     for (const JobFileHeader::Document &document : header.documents) {
-        read.job.documents.push_back(file.part(begin, document.length, document.name));
+        job.documents.push_back(file.part(begin, document.length, document.name));
         begin += document.length;
     }
-    return read;
+    return job;
 }

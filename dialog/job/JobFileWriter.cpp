@@ -27,44 +27,54 @@ QByteArray header(const JobRequest &job)
     return lines + '\n';
 }
 
-/// Writes a job into the file, until all of it is there or the user cancels.
+Fault notWritten()
+{
+    return {FaultKind::Cancelled,
+            QCoreApplication::translate("JobFile", "The job was not written.")};
+}
+
+/// A job on its way into the file, as far as the user wants that.
 struct Writing
 {
     OutputFile &file;
     CallGuard &guard;
     JobProgress &progress;
 
-    bool write(QByteArrayView bytes) const
+    /// Takes the step unless the user has cancelled. One that fails because he did is no fault of
+    /// the file.
+    template <typename Step> Result<> take(const Step &step) const
     {
         guard.stampSignOfLife();
-        return !guard.isCancelled() && file.write(bytes);
+        const Result<> taken = guard.isCancelled() ? Result<>(notWritten()) : step();
+        return taken || !guard.isCancelled() ? taken : notWritten();
+    }
+
+    Result<> write(QByteArrayView bytes) const
+    {
+        return take([&] { return file.write(bytes); });
     }
 };
 
-WrittenJobFile outputFault(const Writing &writing)
+Result<> writeDocument(const Writing &writing, const Document &document)
 {
-    if (writing.guard.isCancelled())
-        return {JobFileFault::Cancelled,
-                QCoreApplication::translate("JobFile", "The job was not written.")};
-    return {JobFileFault::Output, writing.file.error()};
+    Result<> written;
+    const Delivery delivery = deliver(document, [&](const char *bytes, qint64 length) {
+        writing.progress.add(length);
+        written = writing.write(QByteArrayView(bytes, length));
+        return written.isGood();
+    });
+    const bool isComplete = delivery == Delivery::Complete || !written;
+    return isComplete ? written : deliveryFault(document, delivery);
 }
 
-WrittenJobFile writeJob(const Writing &writing, const JobRequest &job)
+Result<> writeJob(const Writing &writing, const JobRequest &job)
 {
-    if (!writing.write(header(job)))
-        return outputFault(writing);
-    for (const Document &document : job.documents) {
-        const Delivery delivery = deliver(document, [&](const char *bytes, qint64 length) {
-            writing.progress.add(length);
-            return writing.write(QByteArrayView(bytes, length));
-        });
-        if (delivery == Delivery::NotTaken)
-            return outputFault(writing);
-        if (delivery != Delivery::Complete)
-            return {JobFileFault::Document, deliveryFault(document, delivery)};
-    }
-    const bool isDone = !writing.guard.isCancelled() && writing.file.commit();
-    return isDone ? WrittenJobFile() : outputFault(writing);
+    if (const Result<> written = writing.write(header(job)); !written)
+        return written;
+    for (const Document &document : job.documents)
+        if (const Result<> written = writeDocument(writing, document); !written)
+            return written;
+    return writing.take([&] { return writing.file.commit(); });
 }
 
 /// The terms, and that no document of the job is written over.
@@ -78,20 +88,21 @@ OutputTerms keeping(const Documents &documents, OutputTerms terms)
 
 } // namespace
 
-WrittenJobFile writeJobFile(const QString &path, const JobRequest &job, const OutputTerms &terms,
-                            CallGuard &guard, JobProgress &progress)
+Result<> writeJobFile(const QString &path, const JobRequest &job, const OutputTerms &terms,
+                      CallGuard &guard, JobProgress &progress)
 {
     if (std::ssize(job.documents) > kMostJobFileDocuments)
-        return {JobFileFault::Document,
-                jobFileSentence(QT_TRANSLATE_NOOP("JobFile", "%1 would have too many documents: %2 "
-                                                             "are the most."),
-                                path, QString::number(kMostJobFileDocuments))};
+        return Fault{FaultKind::Document,
+                     jobFileSentence(QT_TRANSLATE_NOOP("JobFile", "%1 would have too many "
+                                                                  "documents: %2 are the most."),
+                                     path, QString::number(kMostJobFileDocuments))};
     OutputFile file;
     file.setMayWait([&guard] {
         guard.stampSignOfLife();
         return !guard.isCancelled();
     });
     const Writing writing{file, guard, progress};
-    const bool isOpen = file.open(path, keeping(job.documents, terms));
-    return isOpen ? writeJob(writing, job) : outputFault(writing);
+    const Result<> opened =
+        writing.take([&] { return file.open(path, keeping(job.documents, terms)); });
+    return opened ? writeJob(writing, job) : opened;
 }

@@ -98,8 +98,19 @@ void putTicket(QList<JobOption> &options, const QVariantMap &ticket)
     }
 }
 
+bool isSendableName(const QString &name)
+{
+    return !name.isEmpty() && name.size() <= kLongestText &&
+           std::ranges::all_of(name, isNameCharacter);
+}
+
 QString fault(const JobOption &option)
 {
+    if (!isSendableName(option.name))
+        return QCoreApplication::translate("JobOptions",
+                                           "The setting \"%1\" cannot be sent: a print server may "
+                                           "be given no setting of that name.")
+            .arg(displayText(option.name.left(80)));
     return QCoreApplication::translate("JobOptions",
                                        "The setting %1 cannot be sent: \"%2\" is no value that a "
                                        "print server may be given.")
@@ -115,9 +126,7 @@ bool isChoice(ppd_file_t *ppd, const QString &name)
 
 bool isSendable(const JobOption &option)
 {
-    const bool nameIsGood =
-        !option.name.isEmpty() && std::ranges::all_of(option.name, isNameCharacter);
-    return nameIsGood && isValue(option.value) && option.name.size() <= kLongestText &&
+    return isSendableName(option.name) && isValue(option.value) &&
            option.value.toUtf8().size() <= kLongestText;
 }
 

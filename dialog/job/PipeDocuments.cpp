@@ -73,55 +73,54 @@ QString roomFault(const QString &path)
         .arg(path, folder, QString::fromLocal8Bit(std::strerror(error)));
 }
 
-ServerAnswer faultOf(Spooled spooled, const QString &path, qint64 longest)
+Fault faultOf(Spooled spooled, const QString &path, qint64 longest)
 {
     switch (spooled) {
-    case Spooled::All:
-        return {};
     case Spooled::TooLong:
-        return {ServerFault::Document,
-                QCoreApplication::translate(
-                    "PipeDocuments", "The document %1 is longer than %2 MB, the most that is "
-                                     "read from a pipe.")
+        return {FaultKind::Document,
+                QCoreApplication::translate("PipeDocuments",
+                                            "The document %1 is longer than %2 MB, the most that "
+                                            "is read from a pipe.")
                     .arg(path, QString::number(longest / kMegabyte))};
     case Spooled::CannotRead:
-        return {ServerFault::Document,
+        return {FaultKind::Document,
                 QCoreApplication::translate("DocumentFile", "The document %1 cannot be read: %2.")
                     .arg(path, QString::fromLocal8Bit(std::strerror(errno)))};
     case Spooled::CannotKeep:
-        return {ServerFault::Document, roomFault(path)};
-    case Spooled::Cancelled:
-        break;
+        return {FaultKind::Document, roomFault(path)};
+    default:
+        return {FaultKind::Cancelled,
+                QCoreApplication::translate("Server", "Printing was cancelled.")};
     }
-    return {ServerFault::Cancelled,
-            QCoreApplication::translate("Server", "Printing was cancelled.")};
 }
 
-ServerAnswer readPipe(Document &document, CallGuard &guard, qint64 longest)
+Result<Document> readPipe(const Document &pipe, CallGuard &guard, qint64 longest)
 {
     FileDescriptor file = unnamedTemporaryFile();
     const Spooled spooled =
-        file.isOpen() ? spool(document.descriptor(), file, guard, longest) : Spooled::CannotKeep;
+        file.isOpen() ? spool(pipe.descriptor(), file, guard, longest) : Spooled::CannotKeep;
     if (spooled != Spooled::All)
-        return faultOf(spooled, document.path(), longest);
-    document = Document(std::move(file), 0, document.path(), document.name());
+        return faultOf(spooled, pipe.path(), longest);
+    const Document document(std::move(file), 0, pipe.path(), pipe.name());
     if (document.size() > 0)
-        return {};
-    return {ServerFault::Document,
-            QCoreApplication::translate("DocumentFile", "The document %1 is empty.")
-                .arg(document.path())};
+        return document;
+    return Fault{FaultKind::Document,
+                 QCoreApplication::translate("DocumentFile", "The document %1 is empty.")
+                     .arg(document.path())};
 }
 
 } // namespace
 
-ReadDocuments readPipes(const Documents &documents, CallGuard &guard, qint64 longest)
+Result<Documents> readPipes(const Documents &documents, CallGuard &guard, qint64 longest)
 {
-    ReadDocuments read{documents, {}};
-    for (Document &document : read.documents) {
-        if (document.isPipe())
-            read.answer = readPipe(document, guard, longest);
-        if (!read.answer.isGood())
-            return {{}, read.answer};
+    Documents read = documents;
+    for (Document &document : read) {
+        if (!document.isPipe())
+            continue;
+        const Result<Document> whole = readPipe(document, guard, longest);
+        if (!whole)
+            return whole.fault();
+        document = *whole;
     }
     return read;
 }

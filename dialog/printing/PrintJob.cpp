@@ -27,9 +27,12 @@ void PrintJob::setDocuments(const Documents &documents)
 void PrintJob::setPrinter(const PrinterSource &source, OpenedPrinter printer)
 {
     m_source = source;
-    m_session = std::move(printer.session);
+    closePrinter();
+    if (printer.session)
+        m_printer = std::move(printer.session);
+    else
+        m_printer = PMPageFormat{{}, printer.saved.orientation};
     m_saved = printer.saved.others;
-    m_formatWithoutSession.orientation = printer.saved.orientation;
     if (m_settings == m_savedSettings)
         m_settings = printer.saved.settings;
     m_savedSettings = printer.saved.settings;
@@ -37,42 +40,52 @@ void PrintJob::setPrinter(const PrinterSource &source, OpenedPrinter printer)
 
 void PrintJob::closePrinter()
 {
-    m_session.reset();
+    // Whoever is told of it finds no session any more.
+    const auto closing = std::exchange(m_printer, PMPageFormat{{}, orientation()});
+}
+
+HostSession *PrintJob::session() const
+{
+    const auto *session = std::get_if<std::unique_ptr<HostSession>>(&m_printer);
+    return session ? session->get() : nullptr;
+}
+
+const PMPageFormat &PrintJob::format() const
+{
+    return session() ? session()->pageFormat() : std::get<PMPageFormat>(m_printer);
 }
 
 PMOrientation PrintJob::orientation() const
 {
-    return m_session ? std::as_const(*m_session).pageFormat().orientation
-                     : m_formatWithoutSession.orientation;
+    return format().orientation;
 }
 
 void PrintJob::setOrientation(PMOrientation orientation)
 {
-    (m_session ? m_session->pageFormat() : m_formatWithoutSession).orientation = orientation;
+    (session() ? session()->pageFormat() : std::get<PMPageFormat>(m_printer)).orientation =
+        orientation;
 }
 
 std::optional<PMPaper> PrintJob::paper() const
 {
-    if (!m_session)
-        return std::nullopt;
-    const std::optional<PMPaper> &paper = std::as_const(*m_session).pageFormat().paper;
+    const std::optional<PMPaper> &paper = format().paper;
     // Scaling a page of no known paper has left one without a name.
     return paper && !paper->name.isEmpty() ? paper : std::nullopt;
 }
 
 void PrintJob::setPaper(const PMPaper &paper)
 {
-    m_session->setPaper(paper);
+    session()->setPaper(paper);
 }
 
 QString PrintJob::mappedPaper() const
 {
-    return m_session ? m_session->ticket().values().value(kPMMappedPaperKey).toString() : QString();
+    return session() ? session()->ticket().values().value(kPMMappedPaperKey).toString() : QString();
 }
 
 void PrintJob::setMappedPaper(const QString &paper)
 {
-    m_session->setPaper(this->paper().value_or(PMPaper()), paper);
+    session()->setPaper(this->paper().value_or(PMPaper()), paper);
 }
 
 bool PrintJob::offersColorMatching() const
@@ -83,37 +96,37 @@ bool PrintJob::offersColorMatching() const
 PrintJob::ColorMatching PrintJob::colorMatching() const
 {
     const QVariant value =
-        m_session ? m_session->ticket().values().value(kPMColorMatchingModeKey) : QVariant();
+        session() ? session()->ticket().values().value(kPMColorMatchingModeKey) : QVariant();
     return value.toString() == kPMApplicationColorMatching ? ColorMatching::Application
                                                            : ColorMatching::Printer;
 }
 
 void PrintJob::setColorMatching(ColorMatching matching)
 {
-    m_session->writeTicket(kPMColorMatchingModeKey, matching == ColorMatching::Printer
+    session()->writeTicket(kPMColorMatchingModeKey, matching == ColorMatching::Printer
                                                         ? QString(kPMVendorColorMatching)
                                                         : QString(kPMApplicationColorMatching));
-    for (const HostPanel &panel : m_session->panels())
-        m_session->restore(panel);
+    for (const HostPanel &panel : session()->panels())
+        session()->restore(panel);
 }
 
 bool PrintJob::mark(const QString &keyword, const QString &choice)
 {
-    if (!m_session || !m_session->markElsewhere(keyword, choice))
+    if (!session() || !session()->markElsewhere(keyword, choice))
         return false;
     // Panels hear of their own keywords only; of the others they read when they restore.
-    if (m_session->watchedKeywords().contains(keyword, Qt::CaseInsensitive))
-        for (const HostPanel &panel : m_session->panels())
-            m_session->restore(panel);
+    if (session()->watchedKeywords().contains(keyword, Qt::CaseInsensitive))
+        for (const HostPanel &panel : session()->panels())
+            session()->restore(panel);
     return true;
 }
 
 QStringList PrintJob::ownKeywords() const
 {
     QStringList keywords;
-    if (!m_session)
+    if (!session())
         return keywords;
-    for (const QString &keyword : QStringList(kDuplex) + m_session->watchedKeywords())
+    for (const QString &keyword : QStringList(kDuplex) + session()->watchedKeywords())
         if (isChoice(ppd(), keyword) && !keywords.contains(keyword))
             keywords += keyword;
     return keywords;
@@ -124,12 +137,11 @@ JobOptions PrintJob::options() const
     JobValues values;
     values.settings = m_settings;
     values.saved = m_saved;
-    values.format = m_formatWithoutSession;
-    if (m_session) {
-        values.ppd = m_session->ppd();
-        values.defaultMarks = m_session->defaultMarks();
-        values.format = m_session->pageFormat();
-        values.ticket = m_session->ticket();
+    values.format = format();
+    if (const HostSession *open = session()) {
+        values.ppd = open->ppd();
+        values.defaultMarks = open->defaultMarks();
+        values.ticket = open->ticket();
     }
     return jobOptions(values);
 }

@@ -9,6 +9,7 @@
 
 #include <memory>
 #include <optional>
+#include <variant>
 
 /// A job while it is being prepared: a printer with its panels, what the user settles, and the
 /// documents. Every change goes through the host session, so that the panels hear of it.
@@ -33,8 +34,8 @@ public:
     void closePrinter();
 
     const PrinterSource &source() const { return m_source; }
-    HostSession *session() const { return m_session.get(); }
-    ppd_file_t *ppd() const { return m_session ? m_session->ppd() : nullptr; }
+    HostSession *session() const; ///< null: none
+    ppd_file_t *ppd() const { return session() ? session()->ppd() : nullptr; }
 
     HostSettings &settings() { return m_settings; }
     const HostSettings &settings() const { return m_settings; }
@@ -67,12 +68,14 @@ public:
     JobRequest request(const QList<JobOption> &options) const;
 
 private:
-    PMPageFormat m_formatWithoutSession;
+    const PMPageFormat &format() const;
+
     Documents m_documents;
     QString m_title;
     PrinterSource m_source;
     HostSettings m_settings;
     HostSettings m_savedSettings; // to tell whether the user has settled anything since
     QList<JobOption> m_saved;
-    std::unique_ptr<HostSession> m_session;
+    /// The panels' session, which has the page format, or that format alone.
+    std::variant<PMPageFormat, std::unique_ptr<HostSession>> m_printer;
 };

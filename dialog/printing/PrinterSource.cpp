@@ -11,43 +11,72 @@
 
 namespace {
 
-void askServer(const PrinterSource &source, CallGuard &guard, FetchedPrinter &fetched)
+using MaybePPD = Result<std::optional<OpenedPPD>>;
+
+/// The fault of a PPD that was fetched into the file at `path`, as it concerns the queue.
+Fault faultOfQueue(const Fault &fault, const QString &path, const QString &queue)
 {
-    if (fetched.queue.queue.isEmpty()) {
-        const DefaultQueue byServer = serverDefault(source.server, guard);
-        fetched.queue = byServer.queue;
-        fetched.ppd.answer = byServer.answer;
-    }
-    if (!fetched.queue.queue.isEmpty())
-        fetched.ppd = fetchQueuePPD(source.server, fetched.queue.queue, guard);
-    fetched.ppdPath = fetched.ppd.path();
+    return {
+        fault.kind,
+        QCoreApplication::translate("PrinterSource", "The PPD of the queue %1 cannot be used. %2")
+            .arg(queue, QString(fault.sentence).replace(path, queue + QStringLiteral(".ppd")))};
+}
+
+MaybePPD openAt(const QString &path)
+{
+    Result<OpenedPPD> opened = openPPD(path, PPDTexts::InUserLanguage);
+    if (!opened)
+        return opened.fault();
+    return std::optional(*std::move(opened));
+}
+
+Result<QueueName> queueOf(const PrinterSource &source, CallGuard &guard)
+{
+    Result<QueueName> queue = source.queue;
+    if (source.queue.queue.isEmpty())
+        queue = serverDefault(source.server, guard);
+    if (queue && queue->queue.isEmpty())
+        return Fault{
+            FaultKind::NoPrinter,
+            QCoreApplication::translate("PrinterSource", "There is no printer to print to.")};
+    return queue;
+}
+
+MaybePPD fetchPPD(const PrinterSource &source, CallGuard &guard, FetchedPrinter &fetched)
+{
+    const Result<QueueName> queue = queueOf(source, guard);
+    if (!queue)
+        return queue.fault();
+    fetched.queue = *queue;
+    const Result<QueuePPD> ppd = fetchQueuePPD(source.server, queue->queue, guard);
+    if (!ppd)
+        return ppd.fault();
+    fetched.kept = *ppd;
+    fetched.ppdPath = ppd->path();
+    if (fetched.ppdPath.isNull())
+        return {};
+    guard.stampSignOfLife();
+    MaybePPD opened = openAt(fetched.ppdPath);
+    if (!opened)
+        return faultOfQueue(opened.fault(), fetched.ppdPath, queue->queue);
+    return opened;
 }
 
 } // namespace
 
 FetchedPrinter fetchPrinter(const PrinterSource &source, CallGuard &guard)
 {
-    FetchedPrinter fetched;
-    fetched.queue = source.queue;
-    fetched.ppdPath = source.ppdPath;
-    if (source.ppdPath.isNull())
-        askServer(source, guard, fetched);
-    guard.stampSignOfLife();
-    if (!fetched.ppdPath.isNull())
-        fetched.opened = openPPD(fetched.ppdPath, PPDTexts::InUserLanguage);
+    FetchedPrinter fetched{source.queue, source.ppdPath, {}, {}};
+    fetched.opened =
+        source.ppdPath.isNull() ? fetchPPD(source, guard, fetched) : openAt(source.ppdPath);
     return fetched;
 }
 
 FetchedPrinter givenUpPrinter(const PrinterSource &source)
 {
-    FetchedPrinter none;
-    none.queue = source.queue;
-    none.ppdPath = source.ppdPath;
-    if (source.ppdPath.isNull())
-        none.ppd.answer = silentServer(source.server);
-    else
-        none.opened.error = unreadablePPD(source.ppdPath);
-    return none;
+    const Fault fault =
+        source.ppdPath.isNull() ? silentServer(source.server) : unreadablePPD(source.ppdPath);
+    return {source.queue, source.ppdPath, {}, fault};
 }
 
 QueueName wantedQueue(const QString &queue, const QString &instance)
@@ -55,26 +84,18 @@ QueueName wantedQueue(const QString &queue, const QString &instance)
     return queue.isNull() ? usualQueue() : QueueName{queue, instance};
 }
 
-QString errorOfQueue(const QString &error, const QString &path, const QString &queue)
-{
-    return QCoreApplication::translate("PrinterSource",
-                                       "The PPD of the queue %1 cannot be used. %2")
-        .arg(queue, QString(error).replace(path, queue + QStringLiteral(".ppd")));
-}
-
-OpenedPrinter openPrinter(const SessionOptions &options, OpenedPPD ppd,
+OpenedPrinter openPrinter(const SessionOptions &options, std::optional<OpenedPPD> ppd,
                           const QList<JobOption> &saved,
                           const std::function<void(HostSession &)> &beforeStart)
 {
-    HostSession::Opened opened = HostSession::open(options, std::move(ppd));
-    if (!opened.session)
-        return {nullptr, applySavedOptions(nullptr, saved), opened.ppdError};
-    HostSession &session = *opened.session;
-    const SavedSettings settings = applySavedOptions(session.ppd(), saved);
-    session.pageFormat().paper = markedPaper(session.ppd());
-    session.pageFormat().orientation = settings.orientation;
+    if (!ppd)
+        return {nullptr, applySavedOptions(nullptr, saved)};
+    std::unique_ptr<HostSession> session = HostSession::open(options, *std::move(ppd));
+    const SavedSettings settings = applySavedOptions(session->ppd(), saved);
+    session->pageFormat().paper = markedPaper(session->ppd());
+    session->pageFormat().orientation = settings.orientation;
     if (beforeStart)
-        beforeStart(session);
-    session.start();
-    return {std::move(opened.session), settings, QString()};
+        beforeStart(*session);
+    session->start();
+    return {std::move(session), settings};
 }

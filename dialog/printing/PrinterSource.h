@@ -10,6 +10,7 @@
 
 #include <functional>
 #include <memory>
+#include <optional>
 
 /// Which printer a job is for: a queue of a server, or a PPD file alone.
 struct PrinterSource
@@ -22,10 +23,12 @@ struct PrinterSource
 /// What a server told of a queue, or what is in a PPD file.
 struct FetchedPrinter
 {
-    QueueName queue;  ///< null: none was named, and the server has no default
-    QueuePPD ppd;     ///< as a server gave it; of a PPD file nothing
-    QString ppdPath;  ///< of the file that was opened; null: there is none
-    OpenedPPD opened; ///< only where there is a path
+    QueueName queue; ///< null: a PPD file alone, or no queue is known
+    QString ppdPath; ///< of the file that was opened; null: there is none
+    QueuePPD kept;   ///< keeps the file of a queue there
+    /// None: the queue has no PPD. A fault: there is no queue, or it cannot be asked, or the PPD
+    /// cannot be used.
+    Result<std::optional<OpenedPPD>> opened;
 };
 
 /// Opens the source's PPD file. Without one it asks the server for the PPD of the source's queue,
@@ -33,7 +36,7 @@ struct FetchedPrinter
 /// BackgroundCall.
 FetchedPrinter fetchPrinter(const PrinterSource &source, CallGuard &guard);
 
-/// What stands for it when a BackgroundCall has given it up: no PPD, and why.
+/// What stands for it when a BackgroundCall has given it up.
 FetchedPrinter givenUpPrinter(const PrinterSource &source);
 
 /// The queue that was asked for on the command line, else the user's usual one.
@@ -44,14 +47,11 @@ struct OpenedPrinter
 {
     std::unique_ptr<HostSession> session; ///< null: no PPD that can be used
     SavedSettings saved;
-    QString error; ///< why the PPD cannot be used; null otherwise
 };
 
-/// The error of a PPD that was fetched into the file at `path`, as it concerns the queue.
-QString errorOfQueue(const QString &error, const QString &path, const QString &queue);
-
 /// Opens a session on the PPD, marks what the user has saved for the queue, and starts the panels.
-/// `beforeStart` may follow the session from its beginning. On the main thread.
-OpenedPrinter openPrinter(const SessionOptions &options, OpenedPPD ppd,
+/// Without a PPD there is no session. `beforeStart` may follow the session from its beginning. On
+/// the main thread.
+OpenedPrinter openPrinter(const SessionOptions &options, std::optional<OpenedPPD> ppd,
                           const QList<JobOption> &saved,
                           const std::function<void(HostSession &)> &beforeStart = {});

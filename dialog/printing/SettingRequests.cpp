@@ -1,11 +1,13 @@
 #include "dialog/printing/SettingRequests.h"
 
+#include "dialog/host/HostSession.h"
 #include "dialog/host/controls/PanelParts.h"
 #include "dialog/host/controls/UserActions.h"
 #include "dialog/job/Conflicts.h"
 #include "dialog/job/PageRanges.h"
 #include "dialog/job/Papers.h"
 #include "dialog/printing/PrintJob.h"
+#include "dialog/printing/RefusalWatch.h"
 #include "platform/ppd/PPDText.h"
 #include "platform/toolkit/FractionSlider.h"
 #include "platform/toolkit/PlainText.h"
@@ -23,22 +25,30 @@ namespace {
 
 constexpr int kMostCopies = 999;
 
-QString sentence(const char *text)
+Fault settingFault(const QString &sentence)
 {
-    return QCoreApplication::translate("SettingRequests", text);
+    return {FaultKind::Request, sentence};
 }
 
-QString notNow(const QString &keyword, const QString &choice)
+Fault notNow(const QString &keyword, const QString &choice)
 {
-    return sentence(QT_TRANSLATE_NOOP("SettingRequests", "%1=%2 cannot be chosen while the other "
-                                                         "settings are as they are."))
-        .arg(displayText(keyword), displayText(choice));
+    return settingFault(QCoreApplication::translate("SettingRequests",
+                                                    "%1=%2 cannot be chosen while the other "
+                                                    "settings are as they are.")
+                            .arg(displayText(keyword), displayText(choice)));
 }
 
-QString badValue(const QString &keyword, const QString &choice)
+Fault badValue(const QString &keyword, const QString &choice)
 {
-    return sentence(QT_TRANSLATE_NOOP("SettingRequests", "%2 is no value for %1."))
-        .arg(displayText(keyword), displayText(choice));
+    return settingFault(QCoreApplication::translate("SettingRequests", "%2 is no value for %1.")
+                            .arg(displayText(keyword), displayText(choice)));
+}
+
+/// A fault when the printer's constraints do not allow the choice now.
+Result<> checkConstraints(ppd_file_t *ppd, const QString &keyword, const QString &choice)
+{
+    const QString clash = refusalSentence(ppd, keyword, choice);
+    return clash.isNull() ? Result<>() : settingFault(clash);
 }
 
 // --- The dialog's own settings
@@ -65,7 +75,8 @@ bool takeOrientation(PrintJob &job, const QString &value)
 {
     const bool isLandscape = value == "4"_L1 || value == "landscape"_L1;
     const bool isPortrait = value == "3"_L1 || value == "portrait"_L1;
-    job.setOrientation(isLandscape ? PMOrientation::Landscape : PMOrientation::Portrait);
+    if (isLandscape || isPortrait)
+        job.setOrientation(isLandscape ? PMOrientation::Landscape : PMOrientation::Portrait);
     return isLandscape || isPortrait;
 }
 
@@ -135,74 +146,96 @@ std::optional<QString> pickInPanel(HostSession &session, const QString &keyword,
     return std::nullopt;
 }
 
-QString markByHost(PrintJob &job, const QString &keyword, const QString &choice)
+Result<> markByHost(PrintJob &job, const QString &keyword, const QString &choice)
 {
-    QString clash = refusalSentence(job.ppd(), keyword, choice);
-    if (clash.isNull())
+    const Result<> checked = checkConstraints(job.ppd(), keyword, choice);
+    if (checked)
         job.mark(keyword, choice);
-    return clash;
+    return checked;
 }
 
-QString missing(PrintJob &job, const QString &keyword, const QString &choice)
+/// A fault when the printer has no such setting, or not the choice.
+Result<> checkChoice(const PrintJob &job, const QString &keyword, const QString &choice)
 {
     if (!job.session())
-        return sentence(
-                   QT_TRANSLATE_NOOP("SettingRequests", "%1 cannot be set: the queue has no PPD."))
-            .arg(displayText(keyword));
-    ppd_option_t *option = findOption(job.ppd(), keyword);
+        return settingFault(QCoreApplication::translate("SettingRequests",
+                                                        "%1 cannot be set: the queue has no PPD.")
+                                .arg(displayText(keyword)));
     if (!isChoice(job.ppd(), keyword))
-        return sentence(QT_TRANSLATE_NOOP("SettingRequests", "The printer has no setting %1."))
-            .arg(displayText(keyword));
-    return findChoice(option, choice) ? QString() : badValue(keyword, choice);
+        return settingFault(
+            QCoreApplication::translate("SettingRequests", "The printer has no setting %1.")
+                .arg(displayText(keyword)));
+    if (!findChoice(findOption(job.ppd(), keyword), choice))
+        return badValue(keyword, choice);
+    return {};
 }
 
-} // namespace
-
-QString makeSetting(PrintJob &job, const QString &name, const QString &value, Refusal &refusal)
+Result<> pickSetting(PrintJob &job, const QString &keyword, const QString &choice)
 {
-    const auto own = std::ranges::find(kOwnSettings, name, &OwnSetting::name);
-    if (own != kOwnSettings.end())
-        return own->take(job, value) ? QString() : badValue(name, value);
-    const auto [keyword, choice] =
-        job.session() ? job.session()->spelled(name, value) : PPDMark{name, value};
-    if (keyword == "PageSize"_L1)
-        return choosePaper(job, choice);
-    QString fault = missing(job, keyword, choice);
-    if (!fault.isNull())
-        return fault;
     prepareControls(*job.session());
-    refusal = {};
+    const RefusalWatch watch(*job.session(), keyword, choice);
     const std::optional<QString> picked = pickInPanel(*job.session(), keyword, choice);
     if (!picked)
         return markByHost(job, keyword, choice);
     // The reason names parts of the view, which nobody knows by name.
     if (!picked->isNull())
         return notNow(keyword, choice);
-    if (refusal.keyword != keyword || !isSameName(refusal.choice, choice))
+    if (!watch.isRefused())
         return {};
-    QString clash = refusalSentence(job.ppd(), keyword, choice);
-    return clash.isNull() ? notNow(keyword, choice) : clash;
+    const Result<> checked = checkConstraints(job.ppd(), keyword, choice);
+    return checked ? notNow(keyword, choice) : checked;
 }
 
-QString choosePaper(PrintJob &job, const QString &paper)
+QString millimetres(double points)
+{
+    return QString::number(qRound(points / kPointsPerMillimetre * 10) / 10.0);
+}
+
+Result<> checkCustomPaper(ppd_file_t *ppd, const PMPaper &paper)
+{
+    const std::optional<CustomLimits> limits = customLimits(ppd);
+    if (!limits)
+        return settingFault(QCoreApplication::translate(
+            "SettingRequests", "The printer takes no paper of a size of your own."));
+    if (isWithin(*limits, paper.width, paper.height))
+        return {};
+    return settingFault(QCoreApplication::translate(
+                            "SettingRequests",
+                            "The printer takes no paper of %1 × %2 mm: sizes of your own go "
+                            "from %3 × %4 mm to %5 × %6 mm.")
+                            .arg(millimetres(paper.width), millimetres(paper.height),
+                                 millimetres(limits->minWidth), millimetres(limits->minHeight),
+                                 millimetres(limits->maxWidth), millimetres(limits->maxHeight)));
+}
+
+} // namespace
+
+Result<> makeSetting(PrintJob &job, const QString &name, const QString &value)
+{
+    const auto own = std::ranges::find(kOwnSettings, name, &OwnSetting::name);
+    if (own != kOwnSettings.end())
+        return own->take(job, value) ? Result<>() : badValue(name, value);
+    const auto [keyword, choice] =
+        job.session() ? job.session()->spelled(name, value) : PPDMark{name, value};
+    if (keyword == "PageSize"_L1)
+        return choosePaper(job, choice);
+    const Result<> checked = checkChoice(job, keyword, choice);
+    return checked ? pickSetting(job, keyword, choice) : checked;
+}
+
+Result<> choosePaper(PrintJob &job, const QString &paper)
 {
     if (!job.session())
-        return missing(job, u"PageSize"_s, paper);
+        return checkChoice(job, u"PageSize"_s, paper);
     const std::optional<PMPaper> listed = paperOfChoice(job.ppd(), paper);
     const std::optional<PMPaper> custom = parseCustomPaper(paper);
-    const std::optional<CustomLimits> limits = customLimits(job.ppd());
-    if (listed) {
-        QString clash = refusalSentence(job.ppd(), u"PageSize"_s, paper);
-        if (clash.isNull())
-            job.setPaper(*listed);
-        return clash;
-    }
-    if (!custom)
-        return sentence(QT_TRANSLATE_NOOP("SettingRequests", "The printer has no paper %1."))
-            .arg(displayText(paper));
-    if (!limits)
-        return sentence(QT_TRANSLATE_NOOP("SettingRequests",
-                                          "The printer takes no paper of a size of your own."));
-    job.setPaper(*custom);
-    return {};
+    if (!listed && !custom)
+        return settingFault(
+            QCoreApplication::translate("SettingRequests", "The printer has no paper %1.")
+                .arg(displayText(paper)));
+    const Result<> checked = listed ? checkConstraints(job.ppd(), u"PageSize"_s, paper)
+                                    : checkCustomPaper(job.ppd(), *custom);
+    if (checked)
+        job.setPaper(listed ? *listed : *custom);
+    return checked;
 }

@@ -17,10 +17,10 @@ namespace {
 
 ExitStatus reportFindings(const CommandLine &line)
 {
-    const OpenedPPD opened = openPPD(line.checkPPD);
-    if (!opened.ppd)
-        return failWith(ExitStatus::Usage, opened.error);
-    const PlugInLoad load = loadPlugIn(line.plugIn);
+    const Result<OpenedPPD> opened = openPPD(line.checkPPD);
+    if (!opened)
+        return failWith(opened.fault());
+    const PlugInLoad load = loadPlugIn(line.plugIn.isNull() ? ownBundlePath() : line.plugIn);
     if (load.fault)
         return failWith(ExitStatus::PlugIn, load.fault->sentence);
     auto *check = qobject_cast<PDEPPDCheck *>(dynamic_cast<QObject *>(load.plugIn));
@@ -29,8 +29,8 @@ ExitStatus reportFindings(const CommandLine &line)
             ExitStatus::PlugIn,
             QCoreApplication::translate("CheckCommand", "The plug-in %1 cannot check a PPD.")
                 .arg(shownPath(load.bundle->bundlePath())));
-    for (const QString &finding : check->findingsInPPD(opened.ppd.get()))
-        report(finding);
+    for (const QString &finding : check->findingsInPPD(opened->ppd.get()))
+        report(line, finding);
     return std::ferror(stdout) == 0 ? ExitStatus::Done : ExitStatus::Output;
 }
 

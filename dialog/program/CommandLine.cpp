@@ -7,11 +7,6 @@
 
 namespace {
 
-QString sentence(const char *text)
-{
-    return QCoreApplication::translate("CommandLine", text);
-}
-
 /// One option: exactly one of `text`, `flag` and `take` is set.
 struct Option
 {
@@ -29,7 +24,7 @@ QString takeQueue(CommandLine &line, const QString &value)
     if (slash >= 0)
         line.instance = value.mid(slash + 1);
     if (line.queue.isEmpty() || (slash >= 0 && line.instance.isEmpty()))
-        return sentence(QT_TRANSLATE_NOOP("CommandLine", "\"%1\" is not the name of a queue."))
+        return QCoreApplication::translate("CommandLine", "\"%1\" is not the name of a queue.")
             .arg(value);
     return {};
 }
@@ -38,9 +33,16 @@ QString takeChoice(CommandLine &line, const QString &value)
 {
     const qsizetype equals = value.indexOf(u'=');
     if (equals <= 0 || equals == value.size() - 1)
-        return sentence(QT_TRANSLATE_NOOP("CommandLine", "-o needs KEY=VALUE, not \"%1\"."))
+        return QCoreApplication::translate("CommandLine", "-o needs KEY=VALUE, not \"%1\".")
             .arg(value);
     line.choices.append({value.left(equals), value.mid(equals + 1)});
+    return {};
+}
+
+/// Standard output has two names; the files know the one that is a path.
+QString takeOutput(CommandLine &line, const QString &value)
+{
+    line.output = value == QLatin1String("-") ? QStringLiteral("/dev/stdout") : value;
     return {};
 }
 
@@ -50,7 +52,7 @@ constexpr std::array kOptions{
     Option{"ppd", '\0', &CommandLine::ppd},
     Option{"option", 'o', nullptr, nullptr, takeChoice},
     Option{"paper", '\0', &CommandLine::paper},
-    Option{"output", '\0', &CommandLine::output},
+    Option{"output", '\0', nullptr, nullptr, takeOutput},
     Option{"force", '\0', nullptr, &CommandLine::force},
     Option{"no-dialog", '\0', nullptr, &CommandLine::noDialog},
     Option{"yes", '\0', nullptr, &CommandLine::yes},
@@ -95,9 +97,9 @@ Argument shortOption(const QString &argument)
 QString takeValue(CommandLine &line, const Argument &argument)
 {
     if (argument.value.isEmpty())
-        return sentence(QT_TRANSLATE_NOOP("CommandLine", "%1 needs a value.")).arg(argument.name);
+        return QCoreApplication::translate("CommandLine", "%1 needs a value.").arg(argument.name);
     if (!argument.value.isValidUtf16())
-        return sentence(QT_TRANSLATE_NOOP("CommandLine", "The value of %1 is no UTF-8 text."))
+        return QCoreApplication::translate("CommandLine", "The value of %1 is no UTF-8 text.")
             .arg(argument.name);
     if (argument.option->take)
         return argument.option->take(line, argument.value);
@@ -109,11 +111,11 @@ QString takeValue(CommandLine &line, const Argument &argument)
 QString takeOption(CommandLine &line, Argument argument, QStringList &rest)
 {
     if (!argument.option)
-        return sentence(QT_TRANSLATE_NOOP("CommandLine", "There is no option %1."))
+        return QCoreApplication::translate("CommandLine", "There is no option %1.")
             .arg(argument.name);
     if (argument.option->flag) {
         if (!argument.value.isNull())
-            return sentence(QT_TRANSLATE_NOOP("CommandLine", "%1 takes no value."))
+            return QCoreApplication::translate("CommandLine", "%1 takes no value.")
                 .arg(argument.name);
         line.*argument.option->flag = true;
         return {};
@@ -127,29 +129,29 @@ QString takeOption(CommandLine &line, Argument argument, QStringList &rest)
 QString contradiction(const CommandLine &line)
 {
     if (!line.replay.isNull() && !line.record.isNull())
-        return sentence(
-            QT_TRANSLATE_NOOP("CommandLine", "--replay and --record do not go together."));
+        return QCoreApplication::translate("CommandLine",
+                                           "--replay and --record do not go together.");
     const bool asksForWork = line.noDialog || !line.files.isEmpty() || !line.replay.isNull() ||
                              !line.record.isNull() || !line.screenshot.isNull();
     if (!line.checkPPD.isNull() && asksForWork)
-        return sentence(QT_TRANSLATE_NOOP(
-            "CommandLine", "--check-ppd only looks at a PPD: it prints and replays nothing."));
+        return QCoreApplication::translate(
+            "CommandLine", "--check-ppd only looks at a PPD: it prints and replays nothing.");
     if (line.noDialog && !line.screenshot.isNull())
-        return sentence(
-            QT_TRANSLATE_NOOP("CommandLine", "--no-dialog and --screenshot do not go together."));
+        return QCoreApplication::translate("CommandLine",
+                                           "--no-dialog and --screenshot do not go together.");
     if (line.noDialog && line.files.isEmpty())
-        return sentence(QT_TRANSLATE_NOOP("CommandLine", "--no-dialog needs a document to print."));
+        return QCoreApplication::translate("CommandLine", "--no-dialog needs a document to print.");
     if (line.yes && !line.noDialog)
-        return sentence(QT_TRANSLATE_NOOP("CommandLine", "--yes is for --no-dialog."));
+        return QCoreApplication::translate("CommandLine", "--yes is for --no-dialog.");
     return {};
 }
 
 } // namespace
 
-ParsedCommandLine parseCommandLine(const QStringList &arguments)
+Result<CommandLine> parseCommandLine(const QStringList &arguments)
 {
-    ParsedCommandLine parsed;
-    CommandLine &line = parsed.commandLine;
+    CommandLine line;
+    QString fault;
     QStringList rest = arguments;
     bool optionsEnded = false;
     while (!rest.isEmpty()) {
@@ -160,15 +162,15 @@ ParsedCommandLine parseCommandLine(const QStringList &arguments)
             optionsEnded = true;
         } else {
             const bool isLong = argument.startsWith(QLatin1String("--"));
-            const QString fault =
+            const QString wrong =
                 takeOption(line, isLong ? longOption(argument) : shortOption(argument), rest);
-            if (parsed.error.isNull())
-                parsed.error = fault;
+            if (fault.isNull())
+                fault = wrong;
         }
     }
-    if (parsed.error.isNull())
-        parsed.error = contradiction(line);
-    if (line.help || line.version)
-        parsed.error = QString();
-    return parsed;
+    if (fault.isNull())
+        fault = contradiction(line);
+    if (fault.isNull() || line.help || line.version)
+        return line;
+    return Fault{FaultKind::Request, fault};
 }

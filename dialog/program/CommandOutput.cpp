@@ -2,7 +2,44 @@
 
 #include "platform/toolkit/PlainText.h"
 
+#include "dialog/files/DescriptorPath.h"
+
+#include <algorithm>
+#include <array>
 #include <cstdio>
+#include <unistd.h>
+
+namespace {
+
+struct StatusRow
+{
+    FaultKind kind;
+    ExitStatus status;
+};
+
+constexpr std::array kStatuses{
+    StatusRow{FaultKind::Request, ExitStatus::Usage},
+    StatusRow{FaultKind::PPD, ExitStatus::Usage},
+    StatusRow{FaultKind::NoPrinter, ExitStatus::Usage},
+    StatusRow{FaultKind::PlugIn, ExitStatus::PlugIn},
+    StatusRow{FaultKind::Vetoed, ExitStatus::Vetoed},
+    StatusRow{FaultKind::Document, ExitStatus::Document},
+    StatusRow{FaultKind::Output, ExitStatus::Output},
+    StatusRow{FaultKind::Cancelled, ExitStatus::Cancelled},
+    StatusRow{FaultKind::Unreachable, ExitStatus::Server},
+    StatusRow{FaultKind::Silent, ExitStatus::Server},
+    StatusRow{FaultKind::NotFound, ExitStatus::Server},
+    StatusRow{FaultKind::Refused, ExitStatus::Server},
+    StatusRow{FaultKind::NeedsPassword, ExitStatus::Server},
+    StatusRow{FaultKind::Unsettled, ExitStatus::Server},
+};
+
+} // namespace
+
+ExitStatus statusOf(FaultKind kind)
+{
+    return std::ranges::find(kStatuses, kind, &StatusRow::kind)->status;
+}
 
 void warn(const QString &sentence)
 {
@@ -16,10 +53,16 @@ ExitStatus failWith(ExitStatus status, const QString &sentence)
     return status;
 }
 
-void report(const QString &sentence)
+ExitStatus failWith(const Fault &fault)
 {
-    std::fputs((displayText(sentence).toLocal8Bit() + '\n').constData(), stdout);
-    std::fflush(stdout);
+    return failWith(statusOf(fault.kind), fault.sentence);
+}
+
+void report(const CommandLine &line, const QString &sentence)
+{
+    FILE *const stream = descriptorOf(line.output) == STDOUT_FILENO ? stderr : stdout;
+    std::fputs((displayText(sentence).toLocal8Bit() + '\n').constData(), stream);
+    std::fflush(stream);
 }
 
 OutputTerms outputTerms(const CommandLine &line)
@@ -28,12 +71,5 @@ OutputTerms outputTerms(const CommandLine &line)
     for (const QString &input : line.files + QStringList{line.ppd})
         terms.addInput(input);
     terms.mayReplace = line.force;
-    return terms;
-}
-
-OutputTerms jobFileTerms(const CommandLine &line)
-{
-    OutputTerms terms = outputTerms(line);
-    terms.addInput(line.record);
     return terms;
 }

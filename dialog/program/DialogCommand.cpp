@@ -4,6 +4,7 @@
 #include "dialog/program/ExitStatus.h"
 #include "dialog/program/NoDialogCommand.h"
 #include "dialog/program/Screenshot.h"
+#include "dialog/program/SessionRecording.h"
 #include "dialog/program/ToolkitMessages.h"
 #include "dialog/program/Translations.h"
 #include "dialog/window/DialogWindow.h"
@@ -23,18 +24,18 @@ constexpr std::chrono::milliseconds kTimeoutAtTheEnd{300};
 
 ExitStatus runDialog(const CommandLine &line)
 {
+    SessionRecording recording; // outlives the sessions that it follows
     DialogWindow window(line);
-    if (!window.documentError().isNull())
-        return failWith(Document, window.documentError());
-    if (!window.beginRecording())
-        return failWith(Output, window.recordingError());
+    if (!window.documentState())
+        return failWith(window.documentState().fault());
+    if (const Result<> begun = recording.begin(line, window.controller()); !begun)
+        return failWith(begun.fault());
     window.start();
     window.show();
     const EndSignals signals([&window] { window.end(); });
     QApplication::exec();
-    const bool hasOtherFault = window.exitStatus() != Done && window.exitStatus() != Cancelled;
-    return window.finishRecording() || hasOtherFault ? window.exitStatus()
-                                                     : failWith(Output, window.recordingError());
+    window.closePrinter(); // is noted, too
+    return recording.finish(window.outcome() ? Done : statusOf(window.outcome().fault().kind));
 }
 
 // The toolkit would advise to install the program again, and abort.

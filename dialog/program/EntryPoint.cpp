@@ -28,7 +28,7 @@ int refuse(int argc, char **argv, const QStringList &arguments)
 {
     const QCoreApplication application(argc, argv);
     installTranslations();
-    return exitCode(failWith(ExitStatus::Usage, parseCommandLine(arguments).error));
+    return exitCode(failWith(ExitStatus::Usage, parseCommandLine(arguments).sentence()));
 }
 
 int print(const char *text)
@@ -43,10 +43,10 @@ int print(const char *text)
 extern "C" Q_DECL_EXPORT int velkaroPrintMain(int argc, char **argv)
 {
     const QStringList arguments = argumentsOf(argc, argv);
-    const ParsedCommandLine parsed = parseCommandLine(arguments);
-    if (!parsed.error.isNull())
+    const Result<CommandLine> parsed = parseCommandLine(arguments);
+    if (!parsed)
         return refuse(argc, argv, arguments);
-    const CommandLine &line = parsed.commandLine;
+    const CommandLine &line = *parsed;
     if (line.help)
         return print(helpText());
     if (line.version)

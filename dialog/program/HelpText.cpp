@@ -20,9 +20,9 @@ Settings
                           Custom.WIDTHxHEIGHT with a unit: Custom.100x150mm
 
 Job
-      --output FILE       put the job into a file, settings and documents
-                          together; print it later with
-                          --no-dialog -d QUEUE FILE
+      --output FILE       put the job into a file (-: standard output),
+                          settings and documents together; print it later
+                          with --no-dialog -d QUEUE FILE
       --force             replace files that exist already: those of --output,
                           --screenshot, --record and of a script's pictures
       --no-dialog         print without showing the dialog; every check is made

@@ -1,221 +1,225 @@
 #include "dialog/program/NoDialogCommand.h"
 
-#include "dialog/cups/ServerConnection.h"
-#include "dialog/job/DocumentFile.h"
+#include "dialog/files/PathBytes.h"
+#include "dialog/host/HostSession.h"
+#include "dialog/host/SessionObserver.h"
 #include "dialog/job/JobFileReader.h"
-#include "dialog/job/PipeDocuments.h"
-#include "dialog/printing/JobDelivery.h"
-#include "dialog/printing/PrintJob.h"
+#include "dialog/job/OutgoingText.h"
+#include "dialog/printing/PrintController.h"
+#include "dialog/printing/SavedJob.h"
 #include "dialog/printing/ScriptedAnswers.h"
-#include "dialog/printing/SettingRequests.h"
 #include "dialog/program/CommandOutput.h"
-#include "dialog/replay/Recorder.h"
-#include "dialog/work/CommandWait.h"
+#include "dialog/program/SessionRecording.h"
+#include "dialog/work/EndSignals.h"
 
 #include <QtCore/QCoreApplication>
-
-#include <utility>
-
-using enum ExitStatus;
+#include <QtCore/QEventLoop>
 
 namespace {
 
-QString sentence(const char *text)
+/// Says on standard error what is about to be sent.
+void list(const JobRequest &job)
 {
-    return QCoreApplication::translate("NoDialogCommand", text);
+    warn(QCoreApplication::translate("NoDialogCommand", "Sending \"%1\" to %2.")
+             .arg(QString::fromUtf8(outgoingTitle(job.title)), job.queue));
+    for (const Document &document : job.documents)
+        warn(QCoreApplication::translate("NoDialogCommand", "Document: %1 (%2 bytes)")
+                 .arg(document.name(), QString::number(document.size())));
+    for (const JobOption &option : job.options)
+        warn(QCoreApplication::translate("NoDialogCommand", "Setting: %1=%2")
+                 .arg(option.name, option.value));
 }
 
-/// One run of the command. Each step gives Done when the next one may follow.
-class Run
+/// One run of the command: drives a controller from one step to the next, and answers in a person's
+/// place.
+class Run : private SessionObserver
 {
 public:
-    Run(const CommandLine &line, const Documents &documents, EndSignals &signals)
-        : m_line(line), m_signals(signals), m_answers(line.yes), m_job(documents)
+    explicit Run(const CommandLine &line)
+        : m_line(line),
+          m_answers(line.yes),
+          m_controller(line),
+          m_signals([this] { m_controller.cancel(); })
     {}
 
     ExitStatus print();
 
 private:
-    ExitStatus record();
-    ExitStatus findPrinter();
-    ExitStatus open();
-    ExitStatus makeSettings();
-    ExitStatus askPanels();
-    ExitStatus finish();
-    ExitStatus takeSteps();
+    void readDocuments();
+    void takeDocuments();
+    void findPrinter();
+    void takePrinter(const FoundPrinter &printer);
+    void makeSettings();
+    void finish();
+    void deliver(const JobRequest &request);
+    void send(const JobRequest &request);
+    void write(const JobRequest &request);
+
+    bool goOn(const Result<> &done);
+    void end(ExitStatus status) { m_loop.exit(exitCode(status)); }
+    void didFail(PanelOperation, const HostPanel &, const QString &sentence) override
+    {
+        if (!sentence.isEmpty())
+            warn(sentence);
+    }
 
     const CommandLine &m_line;
-    EndSignals &m_signals;
     ScriptedAnswers m_answers;
-    std::unique_ptr<Recorder> m_recorder; // hands alerts on to the answers
-    Refusal m_refusal;
-    FetchedPrinter m_printer;
-    PrintJob m_job;
+    SessionRecording m_recording; // hands alerts on to the answers; outlives the session
+    PrintController m_controller;
+    EndSignals m_signals;
+    QEventLoop m_loop;
+    QString m_told; ///< the sentence of the fault that ended the run
 };
 
-PrinterSource sourceOf(const CommandLine &line)
+/// Whether the next step may follow. If not, the run ends, and the user is told why.
+bool Run::goOn(const Result<> &done)
 {
-    PrinterSource source;
-    source.server = line.server;
-    source.ppdPath = line.ppd;
-    if (line.ppd.isNull() || !line.queue.isNull())
-        source.queue = wantedQueue(line.queue, line.instance);
-    return source;
+    Result<> state = done;
+    if (state && EndSignals::haveCome())
+        state = Fault{FaultKind::Cancelled,
+                      QCoreApplication::translate("NoDialogCommand", "Printing was cancelled.")};
+    if (!state) {
+        m_told = state.sentence();
+        end(failWith(state.fault()));
+    }
+    return state.isGood();
 }
 
-ExitStatus Run::record()
+void Run::readDocuments()
 {
-    if (m_line.record.isNull())
-        return Done;
-    m_recorder = std::make_unique<Recorder>();
-    QString error;
-    return m_recorder->open(m_line.record, outputTerms(m_line), &error) ? Done
-                                                                        : failWith(Output, error);
-}
-
-ExitStatus Run::findPrinter()
-{
-    const PrinterSource source = sourceOf(m_line);
-    auto fetched =
-        waitUnlessEnded<FetchedPrinter>(m_signals, kServerTimeout, [source](CallGuard &guard) {
-            return fetchPrinter(source, guard);
+    if (goOn(m_controller.openDocuments(m_line.files)))
+        m_controller.readPipes([this](const Result<> &read) {
+            if (goOn(read))
+                takeDocuments();
         });
-    m_printer = fetched ? std::move(*fetched) : givenUpPrinter(source);
-    if (!source.ppdPath.isNull())
-        return Done;
-    if (!m_printer.ppd.answer.isGood())
-        return failWith(statusOf(m_printer.ppd.answer), m_printer.ppd.answer.sentence);
-    if (m_printer.queue.queue.isEmpty())
-        return failWith(Usage, sentence(QT_TRANSLATE_NOOP("NoDialogCommand",
-                                                          "No printer was chosen and there is no "
-                                                          "default one; -d QUEUE names one.")));
-    return Done;
 }
 
-ExitStatus Run::open()
+void Run::takeDocuments()
 {
-    PrinterSource source = sourceOf(m_line);
-    source.queue = m_printer.queue;
-    const QList<JobOption> saved = savedOptions(source.queue);
-    if (m_printer.ppdPath.isNull()) {
-        m_job.setPrinter(source, {nullptr, applySavedOptions(nullptr, saved), {}});
-        return Done;
+    const Documents &documents = m_controller.job().documents();
+    if (documents.size() != 1 || !isJobFile(documents.front())) {
+        findPrinter();
+        return;
     }
-    SessionOptions options;
-    options.ppdPath = m_printer.ppdPath;
-    options.bundlePath = m_line.plugIn;
-    options.callObserver = [this](const HostCallback::Call &call) {
-        if (call.kind == HostCallback::Call::Kind::WillChangePPDOptionKeyValue && !call.accepted)
-            m_refusal = {call.keyword, call.choice};
-    };
-    QString recordError;
-    OpenedPrinter printer =
-        openPrinter(options, std::move(m_printer.opened), saved, [&](HostSession &session) {
-            if (m_recorder)
-                m_recorder->attach(session, &recordError);
-        });
-    if (!printer.session)
-        return failWith(Usage,
-                        source.ppdPath.isNull()
-                            ? errorOfQueue(printer.error, options.ppdPath, source.queue.queue)
-                            : printer.error);
-    if (!recordError.isNull())
-        return failWith(Output, recordError);
-    const std::optional<PlugInFault> fault = printer.session->plugInFault();
-    m_job.setPrinter(source, std::move(printer));
-    return fault ? failWith(PlugIn, fault->sentence) : Done;
+    const Result<JobRequest> job = savedJob(m_line, documents.front(), m_line.yes);
+    if (!goOn(job ? Result<>() : job.fault()))
+        return;
+    if (!job->queue.isEmpty())
+        list(*job);
+    send(*job);
 }
 
-ExitStatus Run::makeSettings()
+void Run::findPrinter()
 {
-    if (!m_line.paper.isNull()) {
-        const QString error = choosePaper(m_job, m_line.paper);
-        if (!error.isNull())
-            return failWith(Usage, error);
-    }
-    for (const RequestedChoice &wanted : m_line.choices) {
-        const QString error = makeSetting(m_job, wanted.keyword, wanted.choice, m_refusal);
-        m_answers.answerSheets();
-        if (!error.isNull())
-            return failWith(Usage, error);
-    }
+    m_controller.addSessionHook([this](HostSession &session) {
+        session.addObserver(this);
+        return Result<>();
+    });
+    if (!goOn(m_recording.begin(m_line, m_controller)))
+        return;
+    m_controller.findPrinter(m_controller.wantedPrinter(), [this](
+                                                               const Result<FoundPrinter> &found) {
+        if (found.faultKind() == FaultKind::NoPrinter)
+            goOn(Fault{FaultKind::NoPrinter,
+                       QCoreApplication::translate("NoDialogCommand",
+                                                   "No printer was chosen and there is no default "
+                                                   "one; -d QUEUE names one.")});
+        else if (goOn(found ? Result<>() : found.fault()))
+            takePrinter(*found);
+    });
+}
+
+void Run::takePrinter(const FoundPrinter &printer)
+{
+    if (!goOn(printer.shortcomings.isEmpty() ? Result<>() : printer.shortcomings.constFirst()))
+        return;
+    makeSettings();
+}
+
+void Run::makeSettings()
+{
+    if (!goOn(m_controller.makeRequestedSettings([this] { m_answers.answerSheets(); })))
+        return;
     for (const QString &said : m_answers.takeSentences())
         warn(said);
-    return Done;
+    finish();
 }
 
-ExitStatus Run::askPanels()
+void Run::finish()
 {
-    if (!m_job.session())
-        return Done;
-    const bool proceed = m_job.session()->askShouldPrint().proceed;
+    const Result<JobRequest> finished = m_controller.finish();
     m_answers.answerSheets();
     const QStringList said = m_answers.takeSentences();
-    if (proceed)
-        return Done;
-    return failWith(Vetoed, said.isEmpty() ? sentence(QT_TRANSLATE_NOOP(
-                                                 "NoDialogCommand",
-                                                 "The printer's settings do not allow this job."))
-                                           : said.constLast());
+    if (finished)
+        deliver(*finished);
+    else if (finished.sentence().isNull() && !said.isEmpty())
+        goOn(Fault{finished.fault().kind, said.constLast()});
+    else
+        goOn(finished.fault());
 }
 
-ExitStatus Run::finish()
+void Run::deliver(const JobRequest &request)
 {
-    const JobOptions options = m_job.options();
-    if (!options.faults.isEmpty())
-        return failWith(Vetoed, options.faults.constFirst());
-    const JobRequest request = m_job.request(options.options);
-    return m_line.output.isNull()
-               ? sendJob(request, m_signals)
-               : keepJob(m_line.output, request, jobFileTerms(m_line), m_signals);
+    if (!goOn({}))
+        return;
+    if (m_line.output.isNull())
+        send(request);
+    else
+        write(request);
 }
 
-ExitStatus Run::takeSteps()
+void Run::send(const JobRequest &request)
 {
-    using Step = ExitStatus (Run::*)();
-    for (const Step step : {&Run::record, &Run::findPrinter, &Run::open, &Run::makeSettings,
-                            &Run::askPanels, &Run::finish}) {
-        if (EndSignals::haveCome())
-            return failWith(Cancelled, sentence(QT_TRANSLATE_NOOP("NoDialogCommand",
-                                                                  "Printing was cancelled.")));
-        const ExitStatus status = (this->*step)();
-        if (status != Done)
-            return status;
+    if (request.queue.isEmpty()) {
+        goOn(Fault{FaultKind::Request,
+                   QCoreApplication::translate("NoDialogCommand",
+                                               "No queue was named to print to; -d QUEUE names "
+                                               "one, --output FILE keeps the job.")});
+        return;
     }
-    return Done;
+    m_controller.send(request, [this, queue = request.queue](const Result<JobReceipt> &receipt) {
+        if (!receipt) {
+            goOn(receipt.fault());
+            return;
+        }
+        report(m_line, QCoreApplication::translate("NoDialogCommand", "%1 accepted job %2.")
+                           .arg(queue, QString::number(receipt->id)));
+        for (const QString &note : receipt->notes)
+            warn(note);
+        end(ExitStatus::Done);
+    });
+}
+
+void Run::write(const JobRequest &request)
+{
+    m_controller.write(m_line.output, request, m_controller.outputTerms(),
+                       [this](const Result<QStringList> &notes) {
+                           if (!notes) {
+                               goOn(notes.fault());
+                               return;
+                           }
+                           report(m_line, QCoreApplication::translate("NoDialogCommand",
+                                                                      "The job was written to %1.")
+                                              .arg(shownPath(m_line.output)));
+                           for (const QString &note : *notes)
+                               warn(note);
+                           end(ExitStatus::Done);
+                       });
 }
 
 ExitStatus Run::print()
 {
-    const ExitStatus status = takeSteps();
-    m_job.closePrinter(); // is noted, too
-    const QString fault = m_recorder ? m_recorder->finish() : QString();
-    return status != Done || fault.isNull() ? status : failWith(Output, fault);
-}
-
-ReadDocuments readDocuments(const Documents &documents, EndSignals &signals)
-{
-    if (!hasPipes(documents))
-        return {documents, {}};
-    return waitUnlessEnded<ReadDocuments>(
-               signals, kFileTimeout,
-               [documents](CallGuard &guard) { return readPipes(documents, guard); })
-        .value_or(ReadDocuments());
+    QMetaObject::invokeMethod(
+        &m_controller, [this] { readDocuments(); }, Qt::QueuedConnection);
+    const auto status = static_cast<ExitStatus>(m_loop.exec());
+    m_controller.closePrinter(); // is noted, too
+    return m_recording.finish(status, m_told);
 }
 
 } // namespace
 
 ExitStatus runNoDialogCommand(const CommandLine &line)
 {
-    EndSignals signals;
-    const OpenedDocuments opened = openDocuments(line.files);
-    if (!opened.error.isNull())
-        return failWith(ExitStatus::Document, opened.error);
-    const ReadDocuments read = readDocuments(opened.documents, signals);
-    if (!read.answer.isGood())
-        return failWith(statusOf(read.answer), read.answer.sentence);
-    const Documents &documents = read.documents;
-    if (documents.size() == 1 && isJobFile(documents.front()))
-        return sendJobFile(line, documents.front(), signals);
-    return Run(line, documents, signals).print();
+    return Run(line).print();
 }

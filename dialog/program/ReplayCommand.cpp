@@ -86,15 +86,15 @@ ExitStatus runLines(QFile &file, const QString &name, const QDir &folder, Replay
             return ExitStatus::Done;
         if (text.size() > kLongestLine)
             return fail(place + u"the line has more than %1 bytes"_s.arg(kLongestLine));
-        const ReplayLine line = readReplayLine(text, folder);
-        if (!line.error.isNull())
-            return fail(place + line.error);
-        if (!line.event)
+        const Result<std::optional<ReplayEvent>> event = readReplayLine(text, folder);
+        if (!event)
+            return fail(place + event.sentence());
+        if (!*event)
             continue;
-        const ReplaySession::Outcome outcome = session.run(*line.event);
-        if (!outcome.fatal.isNull())
-            return fail(place + outcome.fatal);
-        if (!print(outcome.line))
+        const Result<QByteArray> line = session.run(**event);
+        if (!line)
+            return fail(place + line.sentence());
+        if (!print(*line))
             return fail(u"the output cannot be written"_s);
     }
 }

@@ -42,24 +42,30 @@ ExitStatus write(const QPixmap &painted, const CommandLine &line)
     QBuffer png;
     painted.save(&png, "PNG");
     OutputFile file;
-    const bool isWritten =
-        file.open(line.screenshot, outputTerms(line)) && file.write(png.data()) && file.commit();
-    return isWritten ? Done : failWith(Output, file.error());
+    const Result<> written = file.open(line.screenshot, outputTerms(line))
+                                 .andThen([&] { return file.write(png.data()); })
+                                 .andThen([&] { return file.commit(); });
+    return written ? Done : failWith(written.fault());
 }
 
 } // namespace
 
 ExitStatus takeScreenshot(const CommandLine &line)
 {
-    DialogWindow window(line);
-    if (!window.documentError().isNull())
-        return failWith(Document, window.documentError());
+    DialogWishes wishes = line;
+    wishes.isPicture = true;
+    DialogWindow window(wishes);
+    if (!window.documentState())
+        return failWith(window.documentState().fault());
     window.show();
     waitForPrinter(window);
-    if (window.state() == DialogWindow::State::NoPrinter)
-        return failWith(window.exitStatus() == Usage ? Usage : Server, window.notice().sentence());
-    if (!window.settingError().isNull())
-        return failWith(Usage, window.settingError());
+    if (!window.printerState()) {
+        const Fault &fault = window.printerState().fault();
+        return fault.kind == FaultKind::NoPrinter ? failWith(Server, fault.sentence)
+                                                  : failWith(fault);
+    }
+    if (!window.settingState())
+        return failWith(window.settingState().fault());
     QApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
     return write(picture(window, line), line);
 }

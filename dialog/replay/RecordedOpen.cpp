@@ -77,22 +77,25 @@ bool holds(const QString &path, const QByteArray &bytes)
 
 } // namespace
 
-bool Recorder::attach(HostSession &session, QString *error)
+Result<> Recorder::attach(HostSession &session)
 {
+    if (!m_state)
+        return m_state;
     m_session = &session;
-    const QString ppd = copyPPD(error);
-    if (ppd.isNull())
-        return false;
-    session.setObserver(this);
+    const Result<QString> ppd = copyPPD();
+    if (!ppd) {
+        m_state = ppd.fault();
+        return m_state;
+    }
+    session.addObserver(this);
     m_notedHeight = keyWindowHeight().value_or(-1);
-    note("open", openEvent(ppd));
-    return true;
+    note("open", openEvent(*ppd));
+    return m_state;
 }
 
-/// Copies the PPD beside the script, and gives the copy's name as the script has it; null, with
-/// `error`, when that fails. A file that is there already is used when it has the same content, and
-/// left alone otherwise.
-QString Recorder::copyPPD(QString *error)
+/// Copies the PPD beside the script, and gives the copy's name as the script has it. A file that is
+/// there already is used when it has the same content, and left alone otherwise.
+Result<QString> Recorder::copyPPD()
 {
     QFile original(m_session->options().ppdPath);
     const bool isOpen = original.open(QIODevice::ReadOnly);
@@ -105,16 +108,15 @@ QString Recorder::copyPPD(QString *error)
         if (verdictAt(folder + name, {}) != OutputVerdict::Create)
             continue;
         const auto &copy = m_copies.emplace_back(std::make_unique<OutputFile>());
-        const bool isKept =
-            copy->open(folder + name, {}, OutputFile::Appears::AtOnce) && copy->write(ppd);
-        *error = copy->error();
-        return isKept ? name : QString();
+        return copy->open(folder + name, {}, OutputFile::Appears::AtOnce)
+            .andThen([&] { return copy->write(ppd); })
+            .andThen([&] { return Result<QString>(name); });
     }
-    *error = QCoreApplication::translate("Recorder", "The PPD cannot be copied to %1: %2")
-                 .arg(shownPath(folder + nameOfCopy(base, 1)),
-                      isOpen ? QCoreApplication::translate("Recorder", "no name is free")
-                             : original.errorString());
-    return {};
+    return Fault{FaultKind::Output,
+                 QCoreApplication::translate("Recorder", "The PPD cannot be copied to %1: %2")
+                     .arg(shownPath(folder + nameOfCopy(base, 1)),
+                          isOpen ? QCoreApplication::translate("Recorder", "no name is free")
+                                 : original.errorString())};
 }
 
 OrderedMembers Recorder::openEvent(const QString &ppd) const

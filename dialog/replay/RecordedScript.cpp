@@ -20,13 +20,11 @@ QJsonObject answerReport(const RecordedAnswer &answer)
 
 } // namespace
 
-bool RecordedScript::open(const QString &path, const OutputTerms &terms, QString *error)
+Result<> RecordedScript::open(const QString &path, const OutputTerms &terms)
 {
     m_path = path;
     // A recording is read after a crash, too.
-    const bool isOpen = m_file.open(path, terms, OutputFile::Appears::AtOnce);
-    *error = m_file.error();
-    return isOpen;
+    return m_file.open(path, terms, OutputFile::Appears::AtOnce);
 }
 
 void RecordedScript::addAnswer(const std::shared_ptr<RecordedAnswer> &answer)
@@ -67,12 +65,11 @@ void RecordedScript::write(const Event &event)
         answers << answerReport(*answer);
     if (!answers.isEmpty())
         members << std::pair(u"answers"_s, QJsonValue(answers));
-    m_file.write(jsonLine(members) + '\n'); // told by finish() when it fails
+    static_cast<void>(m_file.write(jsonLine(members) + '\n')); // told by finish() when it fails
 }
 
-QString RecordedScript::finish()
+Result<> RecordedScript::finish()
 {
     writeAll();
-    m_file.commit();
-    return m_file.error();
+    return m_file.commit();
 }

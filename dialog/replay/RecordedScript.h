@@ -21,8 +21,8 @@ struct RecordedAnswer
 class RecordedScript
 {
 public:
-    /// False, with one sentence, when the file may not or cannot be written.
-    bool open(const QString &path, const OutputTerms &terms, QString *error);
+    /// A fault when the file may not or cannot be written.
+    Result<> open(const QString &path, const OutputTerms &terms);
 
     /// The alert has been raised by the event that is noted next.
     void addAnswer(const std::shared_ptr<RecordedAnswer> &answer);
@@ -36,9 +36,8 @@ public:
     /// Writes all events, those too whose alerts nobody has answered.
     void writeAll();
 
-    /// Ends the script. Null, or one sentence when not everything could be written: then nothing of
-    /// it is left.
-    QString finish();
+    /// Ends the script. A fault when not everything could be written: then nothing of it is left.
+    Result<> finish();
 
     QString path() const { return m_path; }
 

@@ -51,20 +51,20 @@ Recorder::~Recorder()
     AlertObserver::setAlertObserver(m_former);
 }
 
-bool Recorder::open(const QString &path, const OutputTerms &terms, QString *error)
+Result<> Recorder::open(const QString &path, const OutputTerms &terms)
 {
-    return m_script.open(path, terms, error);
+    m_state = m_script.open(path, terms);
+    return m_state;
 }
 
-QString Recorder::finish()
+Result<> Recorder::finish()
 {
-    QString fault = m_script.finish();
-    if (!fault.isNull())
-        return fault;
+    if (m_state)
+        m_state = m_script.finish();
     for (const auto &copy : m_copies)
-        if (!copy->commit())
-            return copy->error();
-    return {};
+        if (m_state)
+            m_state = copy->commit();
+    return m_state;
 }
 
 void Recorder::alertShown(const ShownAlert &alert)

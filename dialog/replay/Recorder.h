@@ -30,16 +30,15 @@ public:
     Recorder();
     ~Recorder() override;
 
-    /// False, with one sentence for people, when the script may not or cannot be written.
-    bool open(const QString &path, const OutputTerms &terms, QString *error);
+    /// A fault when the script may not or cannot be written.
+    Result<> open(const QString &path, const OutputTerms &terms);
 
-    /// Notes the session from its beginning. False, with one sentence, when its PPD cannot be
-    /// copied. The session must close before finish().
-    bool attach(HostSession &session, QString *error);
+    /// Notes the session from its beginning. A fault when its PPD cannot be copied: then nothing
+    /// more is noted. The session must close before finish().
+    Result<> attach(HostSession &session);
 
-    /// Ends the recording. Null, or one sentence when not all of it could be written: then nothing
-    /// of it is left.
-    QString finish();
+    /// Ends the recording. The first fault when not all could be noted: then nothing of it is left.
+    Result<> finish();
 
     void alertShown(const ShownAlert &alert) override;
 
@@ -53,7 +52,7 @@ public:
     void willClose() override;
 
 private:
-    QString copyPPD(QString *error);
+    Result<QString> copyPPD();
     OrderedMembers openEvent(const QString &ppd) const;
     void note(const char *kind, const OrderedMembers &members = {});
     void followControls(const HostPanel &panel);
@@ -65,6 +64,7 @@ private:
     void noteSurroundings();
 
     RecordedScript m_script;
+    Result<> m_state;                                  // the first fault
     std::vector<std::unique_ptr<OutputFile>> m_copies; // of PPDs
     HostSession *m_session = nullptr;
     QSet<QString> m_followed;  // the panels whose controls are followed

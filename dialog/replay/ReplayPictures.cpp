@@ -13,19 +13,22 @@ bool isPlainName(const QString &name)
            !name.contains(u'/') && !name.contains(QChar::Null);
 }
 
-QString ReplayPictures::write(const QImage &picture, const QDir &folder, const QString &name)
+Result<> ReplayPictures::write(const QImage &picture, const QDir &folder, const QString &name)
 {
     if (!isPlainName(name))
-        return u"\"%1\" is no plain file name"_s.arg(name);
+        return Fault{FaultKind::Output, u"\"%1\" is no plain file name"_s.arg(name)};
     const QString path = folder.absoluteFilePath(name);
     const bool isStream = verdictAt(path, m_terms) == OutputVerdict::Append;
     if (isStream || QFileInfo(path).isSymLink())
-        return u"%1 is no ordinary file"_s.arg(path);
+        return Fault{FaultKind::Output, u"%1 is no ordinary file"_s.arg(path)};
     QBuffer png;
     picture.save(&png, "PNG");
     OutputFile file;
-    if (!file.open(path, m_terms) || !file.write(png.data()) || !file.commit())
-        return file.error();
-    m_terms.written += *file.identity();
-    return {};
+    const Result<> written =
+        file.open(path, m_terms).andThen([&] { return file.write(png.data()); }).andThen([&] {
+            return file.commit();
+        });
+    if (written)
+        m_terms.written += *file.identity();
+    return written;
 }

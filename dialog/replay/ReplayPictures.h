@@ -17,9 +17,9 @@ public:
     /// No picture is written over the file that the path leads to.
     void addInput(const QString &path) { m_terms.addInput(path); }
 
-    /// Writes the picture as a PNG of this name into the folder; one sentence when that may not or
-    /// cannot be, null otherwise. What this object has written may be written again.
-    QString write(const QImage &picture, const QDir &folder, const QString &name);
+    /// Writes the picture as a PNG of this name into the folder; a fault when that may not or
+    /// cannot be. What this object has written may be written again.
+    Result<> write(const QImage &picture, const QDir &folder, const QString &name);
 
 private:
     OutputTerms m_terms;

@@ -248,27 +248,34 @@ QList<ReplayAnswer> answersOf(const QJsonArray &list)
     return answers;
 }
 
-ReplayLine readObject(const QJsonObject &line, const QDir &folder)
+using ReadLine = Result<std::optional<ReplayEvent>>;
+
+Fault scriptFault(const QString &what)
+{
+    return {FaultKind::Request, what};
+}
+
+ReadLine readObject(const QJsonObject &line, const QDir &folder)
 {
     static constexpr ScriptField kind[] = {{"do", Text}};
     const QString noKind = checkFields(line, kind);
     if (!noKind.isNull())
-        return {std::nullopt, noKind};
+        return scriptFault(noKind);
     const QString name = text(line, "do");
     const auto rule = std::ranges::find_if(
         eventRules(), [&](const EventRule &known) { return name == QLatin1String(known.kind); });
     if (rule == eventRules().end())
-        return {std::nullopt, u"there is no event \"%1\""_s.arg(name)};
+        return scriptFault(u"there is no event \"%1\""_s.arg(name));
     const QString fault = faultOf(line, *rule);
     if (!fault.isNull())
-        return {std::nullopt, name + u": "_s + fault};
-    return {ReplayEvent{name, rule->make(line, folder), answersOf(line["answers"_L1].toArray())},
-            QString()};
+        return scriptFault(name + u": "_s + fault);
+    return std::optional(
+        ReplayEvent{name, rule->make(line, folder), answersOf(line["answers"_L1].toArray())});
 }
 
 } // namespace
 
-ReplayLine readReplayLine(const QByteArray &line, const QDir &folder)
+ReadLine readReplayLine(const QByteArray &line, const QDir &folder)
 {
     const QByteArray content = line.trimmed();
     if (content.isEmpty() || content.startsWith('#'))
@@ -278,6 +285,6 @@ ReplayLine readReplayLine(const QByteArray &line, const QDir &folder)
     if (document.isObject())
         return readObject(document.object(), folder);
     if (error.error == QJsonParseError::NoError)
-        return {std::nullopt, u"not a JSON object"_s};
-    return {std::nullopt, u"not a JSON object (%1)"_s.arg(error.errorString())};
+        return scriptFault(u"not a JSON object"_s);
+    return scriptFault(u"not a JSON object (%1)"_s.arg(error.errorString()));
 }

@@ -32,12 +32,12 @@ ReplaySession::~ReplaySession()
     closeSession();
 }
 
-ReplaySession::Outcome ReplaySession::run(const ReplayEvent &event)
+Result<QByteArray> ReplaySession::run(const ReplayEvent &event)
 {
     m_answerer.setAnswers(event.answers);
     const Work work = this->work(event.action);
     if (!work.fatal.isNull())
-        return {QByteArray(), work.fatal};
+        return Fault{FaultKind::PPD, work.fatal};
     m_answerer.answerSheets();
 
     OrderedMembers line{
@@ -48,7 +48,7 @@ ReplaySession::Outcome ReplaySession::run(const ReplayEvent &event)
     line << std::pair(u"notifications"_s, QJsonValue(m_notifications.take()));
     line << std::pair(u"alerts"_s, QJsonValue(m_answerer.takeReports()));
     line << stateReport(m_session.get());
-    return {jsonLine(line), QString()};
+    return jsonLine(line);
 }
 
 ReplaySession::Work ReplaySession::work(const ReplayAction &action)
@@ -63,16 +63,17 @@ ReplaySession::Work ReplaySession::perform(const ReplayOpen &event)
     SessionOptions options = event.options;
     options.bundlePath = m_bundlePath;
     options.ppdTexts = PPDTexts::AsWritten; // a script gives the same on every machine
-    options.callObserver = [this](const HostCallback::Call &call) { noteCall(call); };
     m_pictures.addInput(options.ppdPath);
-    HostSession::Opened opened = HostSession::open(options);
-    if (!opened.session)
-        return {QJsonValue(), QString(), opened.ppdError};
-    if (const auto &fault = opened.session->plugInFault())
+    Result<std::unique_ptr<HostSession>> opened = HostSession::open(options);
+    if (!opened)
+        return {QJsonValue(), QString(), opened.sentence()};
+    std::unique_ptr<HostSession> session = *std::move(opened);
+    if (const auto &fault = session->plugInFault())
         return {QJsonValue(), fault->sentence, QString()};
     closeSession();
     openWindow(event.windowHeight);
-    m_session = std::move(opened.session);
+    m_session = std::move(session);
+    m_session->addObserver(this);
     m_session->start();
     QJsonArray classes;
     for (const HostPanel &panel : m_session->panels())
@@ -118,7 +119,7 @@ void ReplaySession::closeSession()
     m_window.reset();
 }
 
-void ReplaySession::noteCall(const HostCallback::Call &call)
+void ReplaySession::didAnswer(const HostCallback::Call &call)
 {
     using Kind = HostCallback::Call::Kind;
     if (call.kind == Kind::PanelViewDidResize) {

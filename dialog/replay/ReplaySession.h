@@ -1,6 +1,7 @@
 #pragma once
 
 #include "dialog/host/HostSession.h"
+#include "dialog/host/SessionObserver.h"
 #include "dialog/replay/AlertAnswerer.h"
 #include "dialog/replay/NotificationLog.h"
 #include "dialog/replay/ReplayEvent.h"
@@ -17,25 +18,19 @@
 /// alerts. The dialog's window is a plain one that is never shown.
 ///
 /// Needs a QApplication. From its creation on the process's user defaults are in memory alone.
-class ReplaySession
+class ReplaySession : private SessionObserver
 {
 public:
     /// `bundlePath` names the plug-in; null: the program's own. It is used whatever printer a
-    /// PPD is of. Pictures are written on these terms, and never over a PPD that the script has opened.
+    /// PPD is of. Pictures are written on these terms, and never over a PPD that the script has
+    /// opened.
     explicit ReplaySession(const QString &bundlePath = QString(), const OutputTerms &terms = {});
-    ~ReplaySession();
+    ~ReplaySession() override;
     ReplaySession(const ReplaySession &) = delete;
     ReplaySession &operator=(const ReplaySession &) = delete;
 
-    /// What running an event came to: its line of output, or one sentence about why the script
-    /// cannot go on.
-    struct Outcome
-    {
-        QByteArray line;
-        QString fatal;
-    };
-
-    Outcome run(const ReplayEvent &event);
+    /// Runs the event: its line of output, or why the script cannot go on.
+    Result<QByteArray> run(const ReplayEvent &event);
 
     /// The session that is open at present, or was last; null before the first one.
     HostSession *session() const { return m_session.get(); }
@@ -71,7 +66,7 @@ private:
     void openWindow(std::optional<double> height);
     void setWindowHeight(std::optional<double> height);
     void closeSession();
-    void noteCall(const HostCallback::Call &call);
+    void didAnswer(const HostCallback::Call &call) override;
 
     QString m_bundlePath;
     ReplayPictures m_pictures;

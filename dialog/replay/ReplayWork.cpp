@@ -133,7 +133,8 @@ ReplaySession::Work ReplaySession::perform(const ReplayPicture &event)
     const QImage picture = shownPicture(*m_session);
     if (picture.isNull())
         return {QJsonValue(), u"no picture is shown"_s, QString()};
-    return {QJsonValue(), m_pictures.write(picture, event.folder, event.file), QString()};
+    return {QJsonValue(), m_pictures.write(picture, event.folder, event.file).sentence(),
+            QString()};
 }
 
 ReplaySession::Work ReplaySession::perform(const ReplayPost &event)

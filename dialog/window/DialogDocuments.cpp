@@ -1,39 +1,22 @@
+#include "dialog/job/PipeDocuments.h"
 #include "dialog/window/DialogWindow.h"
 #include "dialog/window/JobHeader.h"
-#include "dialog/work/BackgroundCall.h"
 
 #include <QtWidgets/QFileDialog>
 
-void DialogWindow::takeDocuments(const OpenedDocuments &opened)
-{
-    m_documentError = opened.error;
-    m_job.setDocuments(opened.documents);
-}
-
 /// What is written into a pipe may take its time: meanwhile everything can be settled but Print.
-void DialogWindow::readPipedDocuments()
+void DialogWindow::readPipes()
 {
-    delete m_reading;
-    const Documents documents = m_job.documents();
-    if (!hasPipes(documents))
+    if (!hasPipes(job().documents()))
         return;
-    m_reading = new BackgroundCall(
-        this, kFileTimeout,
-        [this, documents](CallGuard &guard) -> BackgroundCall::Outcome {
-            const ReadDocuments read = readPipes(documents, guard);
-            return [this, read] { takeRead(read); };
-        },
-        nullptr);
-}
-
-void DialogWindow::takeRead(const ReadDocuments &read)
-{
-    takeDocuments({read.documents, read.answer.sentence});
-    m_header->reload();
-    if (m_state != State::Ready)
-        return;
-    m_standing = whatIsMissing();
-    tellStanding();
+    m_controller.readPipes([this](const Result<> &read) {
+        m_documentState = read;
+        m_header->reload();
+        if (m_state != State::Ready)
+            return;
+        m_standing = whatIsMissing();
+        tellStanding();
+    });
 }
 
 void DialogWindow::chooseDocuments()
@@ -43,13 +26,13 @@ void DialogWindow::chooseDocuments()
         tr("Documents (*.pdf *.ps *.txt *.png *.jpg *.jpeg);;All files (*)"));
     if (paths.isEmpty())
         return;
-    const OpenedDocuments opened = openDocuments(paths);
-    if (!opened.error.isNull()) {
-        m_notice->tell(NoticeBar::Kind::Error, opened.error);
+    const Result<> opened = m_controller.openDocuments(paths);
+    if (!opened) {
+        tell(NoticeBar::Kind::Error, opened.sentence());
         return;
     }
-    takeDocuments(opened);
-    readPipedDocuments();
+    m_documentState = opened;
+    readPipes();
     m_header->reload();
     m_standing = whatIsMissing();
     tellStanding();

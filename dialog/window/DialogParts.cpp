@@ -45,8 +45,8 @@ void DialogWindow::buildParts()
     m_pageSetup->reload();
     m_parts.push_back({kPageSetup, m_pageSetup, nullptr});
     m_tabs->addTab(m_pageSetup, tr("Page Setup"));
-    if (m_job.session())
-        for (const HostPanel &panel : m_job.session()->panels()) {
+    if (job().session())
+        for (const HostPanel &panel : job().session()->panels()) {
             if (!hasKeywords(panel))
                 continue;
             auto *pane = new PanelPane(m_tabs);
@@ -104,7 +104,7 @@ void DialogWindow::changePart()
     const bool wasMissing = std::exchange(m_viewIsMissing, false);
     if (part->panel) {
         m_shownPanel = part->panel;
-        QWidget *view = m_job.session()->show(*part->panel);
+        QWidget *view = job().session()->show(*part->panel);
         static_cast<PanelPane *>(part->page)->setView(view);
         m_viewIsMissing = !view;
     }
@@ -128,8 +128,8 @@ void DialogWindow::hideShownPanel()
 {
     if (m_shownPanel) {
         // A panel may read the ticket again behind its user's back: for the summary, say.
-        m_job.session()->save(*m_shownPanel);
-        m_job.session()->hide(*m_shownPanel);
+        job().session()->save(*m_shownPanel);
+        job().session()->hide(*m_shownPanel);
     }
     m_shownPanel = nullptr;
 }
@@ -149,7 +149,7 @@ void DialogWindow::fitToPart()
 void DialogWindow::followView()
 {
     const Part *part = currentPart();
-    if (!part || !part->panel || !m_job.session() || !m_job.session()->isRunning())
+    if (!part || !part->panel || !job().session() || !job().session()->isRunning())
         return;
     const int wanted = part->page->sizeHint().height();
     const int change = wanted - m_partHeight;
@@ -159,7 +159,7 @@ void DialogWindow::followView()
         setHeight(std::max(height() + change, minimumSizeHint().height()));
     else if (wanted > part->page->height())
         setHeight(height() + wanted - part->page->height());
-    m_job.session()->windowDidResize();
+    job().session()->windowDidResize();
 }
 
 void DialogWindow::setHeight(int height)
@@ -176,36 +176,36 @@ QList<SummarySection> DialogWindow::summarySections()
         if (!part.panel)
             continue;
         PDEPanel &panel = *part.panel->panel;
-        const QVariantMap info = m_job.session()->summary(*part.panel);
+        const QVariantMap info = job().session()->summary(*part.panel);
         told += {panel.supportedPPDOptionKeys().value_or(QStringList()), info};
         sections += sectionOf(panel.panelName(), info);
     }
     // Panels may change what is sent while they sum it up.
     sections.prepend(ownSection());
-    sections += SummarySection{tr("Also Sent"), linesOfTheRest(m_job, told)};
+    sections += SummarySection{tr("Also Sent"), linesOfTheRest(job(), told)};
     return sections;
 }
 
 SummarySection DialogWindow::ownSection() const
 {
-    const HostSettings &settings = m_job.settings();
+    const HostSettings &settings = job().settings();
     SummarySection own{tr("Page Setup"), {}};
-    if (const std::optional<PMPaper> paper = m_job.paper())
-        own.lines += {tr("Paper"), paperText(m_job.ppd(), *paper)};
-    if (const std::optional<PMPaper> mapped = paperOfChoice(m_job.ppd(), m_job.mappedPaper()))
-        own.lines += {tr("Scaled to Fit"), paperText(m_job.ppd(), *mapped)};
-    const bool isLandscape = m_job.orientation() == PMOrientation::Landscape;
+    if (const std::optional<PMPaper> paper = job().paper())
+        own.lines += {tr("Paper"), paperText(job().ppd(), *paper)};
+    if (const std::optional<PMPaper> mapped = paperOfChoice(job().ppd(), job().mappedPaper()))
+        own.lines += {tr("Scaled to Fit"), paperText(job().ppd(), *mapped)};
+    const bool isLandscape = job().orientation() == PMOrientation::Landscape;
     own.lines += {tr("Orientation"), isLandscape ? tr("Landscape") : tr("Portrait")};
     own.lines += {tr("Copies"), QString::number(settings.copies)};
     own.lines += {tr("Pages"), settings.pageRanges.isEmpty() ? tr("All") : settings.pageRanges};
-    for (const QString &keyword : m_job.ownKeywords()) {
-        ppd_option_t *option = findOption(m_job.ppd(), keyword);
-        const ppd_choice_t *choice = findChoice(option, markedChoice(m_job.ppd(), keyword));
+    for (const QString &keyword : job().ownKeywords()) {
+        ppd_option_t *option = findOption(job().ppd(), keyword);
+        const ppd_choice_t *choice = findChoice(option, markedChoice(job().ppd(), keyword));
         if (choice)
             own.lines += {ppdText(option->text), ppdText(choice->text)};
     }
-    if (m_job.offersColorMatching()) {
-        const bool byPrinter = m_job.colorMatching() == PrintJob::ColorMatching::Printer;
+    if (job().offersColorMatching()) {
+        const bool byPrinter = job().colorMatching() == PrintJob::ColorMatching::Printer;
         own.lines +=
             {tr("Color Matching"), byPrinter ? tr("By the Printer") : tr("By the Application")};
     }

@@ -1,14 +1,11 @@
 #include "dialog/window/DialogWindow.h"
 
-#include "dialog/job/Conflicts.h"
-#include "dialog/program/CommandOutput.h"
-#include "dialog/replay/Recorder.h"
+#include "dialog/job/PipeDocuments.h"
 #include "dialog/window/HostHelp.h"
 #include "dialog/window/JobHeader.h"
 #include "dialog/window/PageSetupPane.h"
 #include "dialog/window/PrinterPopUp.h"
 #include "dialog/window/ProgressStrip.h"
-#include "dialog/work/BackgroundCall.h"
 #include "platform/foundation/NotificationCenter.h"
 #include "platform/toolkit/KeyWindow.h"
 #include "platform/toolkit/PlainText.h"
@@ -41,9 +38,17 @@ QPushButton *newButton(const QString &name, const QString &title, QWidget *paren
 
 } // namespace
 
-DialogWindow::DialogWindow(const CommandLine &line, QWidget *parent) : QDialog(parent), m_line(line)
+DialogWindow::DialogWindow(const DialogWishes &wishes, QWidget *parent)
+    : QDialog(parent),
+      m_wishes(wishes),
+      m_controller(wishes),
+      m_documentState(m_controller.openDocuments(wishes.files)),
+      m_outcome(Fault{FaultKind::Cancelled, {}})
 {
-    takeDocuments(openDocuments(line.files));
+    m_controller.addSessionHook([this](HostSession &session) {
+        session.addObserver(this);
+        return Result<>();
+    });
     setObjectName(u"dialogWindow"_s);
     setWindowTitle(tr("Print"));
     buildLayout();
@@ -53,19 +58,17 @@ DialogWindow::DialogWindow(const CommandLine &line, QWidget *parent) : QDialog(p
 
 DialogWindow::~DialogWindow()
 {
-    delete m_call;
-    delete m_reading;
     closePrinter();
 }
 
 void DialogWindow::buildLayout()
 {
-    m_header = new JobHeader(m_job, this);
+    m_header = new JobHeader(job(), this);
     m_notice = new NoticeBar(this);
     m_progress = new ProgressStrip(this);
     m_tabs = new QTabWidget(this);
     m_tabs->setObjectName(u"parts"_s);
-    m_pageSetup = new PageSetupPane(m_job);
+    m_pageSetup = new PageSetupPane(job());
     m_summary = new SummaryPane;
     auto *layout = new QVBoxLayout(this);
     layout->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
@@ -80,15 +83,14 @@ void DialogWindow::buildLayout()
     connect(m_header, &JobHeader::documentsWanted, this, &DialogWindow::chooseDocuments);
     connect(m_header, &JobHeader::changed, this, &DialogWindow::tellStanding);
     connect(m_pageSetup, &PageSetupPane::changed, this, &DialogWindow::tellStanding);
-    connect(m_pageSetup, &PageSetupPane::refused, this, [this](const QString &sentence) {
-        m_notice->tell(NoticeBar::Kind::Warning, sentence);
-    });
+    connect(m_pageSetup, &PageSetupPane::refused, this,
+            [this](const QString &sentence) { tell(NoticeBar::Kind::Warning, sentence); });
     connect(m_header->printers(), &PrinterPopUp::picked, this, [this](const QueueName &queue) {
         // One that could not be reached may be tried again.
-        if (m_state == State::Ready && queue == m_job.source().queue)
+        if (m_state == State::Ready && queue == job().source().queue)
             return;
         closePrinter();
-        findPrinter({m_line.server, queue, QString()});
+        findPrinter({m_wishes.server, queue, QString()});
     });
 }
 
@@ -102,7 +104,7 @@ QWidget *DialogWindow::newButtons()
     m_print = newButton(u"printButton"_s, printTitle(), row);
     m_print->setAutoDefault(true);
     m_print->setDefault(true);
-    m_save->setVisible(m_line.output.isNull());
+    m_save->setVisible(m_wishes.output.isNull());
     auto *layout = new QHBoxLayout(row);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(m_help);
@@ -119,37 +121,17 @@ QWidget *DialogWindow::newButtons()
 
 QString DialogWindow::printTitle() const
 {
-    if (!m_line.output.isNull())
+    if (!m_wishes.output.isNull())
         return tr("Save");
     return m_mayHavePrinted ? tr("Print Again") : tr("Print");
-}
-
-bool DialogWindow::beginRecording()
-{
-    if (m_line.record.isNull())
-        return true;
-    m_recorder = std::make_unique<Recorder>();
-    return m_recorder->open(m_line.record, outputTerms(m_line), &m_recordingError);
-}
-
-bool DialogWindow::finishRecording()
-{
-    closePrinter();
-    if (m_recorder && m_recordingError.isNull())
-        m_recordingError = m_recorder->finish();
-    m_recorder.reset();
-    return m_recordingError.isNull();
 }
 
 void DialogWindow::start()
 {
     setKeyWindow(this);
-    if (m_line.screenshot.isNull())
-        readPipedDocuments();
-    PrinterSource source{m_line.server, {}, m_line.ppd};
-    if (m_line.ppd.isNull() || !m_line.queue.isNull())
-        source.queue = wantedQueue(m_line.queue, m_line.instance);
-    findPrinter(source);
+    if (!m_wishes.isPicture)
+        readPipes();
+    findPrinter(m_controller.wantedPrinter());
 }
 
 void DialogWindow::setState(State state)
@@ -168,68 +150,45 @@ void DialogWindow::setState(State state)
 
 bool DialogWindow::mayPrint() const
 {
-    return m_state == State::Ready && !m_job.documents().empty() && !hasPipes(m_job.documents()) &&
+    return m_state == State::Ready && !job().documents().empty() && !hasPipes(job().documents()) &&
            m_header->isAcceptable() && m_pageSetup->isAcceptable();
 }
 
 void DialogWindow::updateButtons()
 {
-    const bool hasEnd = !m_line.output.isNull() || !m_job.source().queue.queue.isEmpty();
+    const bool hasEnd = !m_wishes.output.isNull() || !job().source().queue.queue.isEmpty();
     m_print->setEnabled(mayPrint() && hasEnd);
     m_save->setEnabled(mayPrint());
 }
 
-/// Shows what holds on, in place of what was news.
+void DialogWindow::tell(NoticeBar::Kind kind, const QString &sentence)
+{
+    m_notice->tell(kind, sentence);
+}
+
+/// Shows what is still true, in place of what was news.
 void DialogWindow::tellStanding()
 {
     const bool hidesFault = !m_pageSetup->isAcceptable() && m_tabs->currentWidget() != m_pageSetup;
     if (m_viewIsMissing)
-        m_notice->tell(NoticeBar::Kind::Error,
-                       tr("The settings of this panel cannot be shown: a part of the plug-in is "
-                          "missing. Install Velkaro Print again."));
+        tell(NoticeBar::Kind::Error,
+             tr("The settings of this panel cannot be shown: a part of the plug-in is "
+                "missing. Install Velkaro Print again."));
     else if (hidesFault)
-        m_notice->tell(NoticeBar::Kind::Warning,
-                       tr("The printer cannot take the paper size in Page Setup. Correct it there "
-                          "to print."));
+        tell(NoticeBar::Kind::Warning,
+             tr("The printer cannot take the paper size in Page Setup. Correct it there "
+                "to print."));
     else if (m_standing.sentence.isNull())
         m_notice->clear();
     else
-        m_notice->tell(m_standing.kind, m_standing.sentence);
+        tell(m_standing.kind, m_standing.sentence);
     updateButtons();
-}
-
-/// A panel has asked for a choice. A pick asks for the user's own first, and its rules for more:
-/// what is told when all is over is the first refusal, or that there was none.
-void DialogWindow::noteAnswer(const HostCallback::Call &call)
-{
-    if (call.kind == HostCallback::Call::Kind::PanelViewDidResize) {
-        QTimer::singleShot(0, this, &DialogWindow::followView);
-        return;
-    }
-    if (!call.accepted) {
-        m_refusal = {call.keyword, call.choice};
-        if (m_refusalToTell.isNull())
-            m_refusalToTell = refusalSentence(m_job.ppd(), call.keyword, call.choice);
-    }
-    if (!std::exchange(m_answersAreNoted, true))
-        QTimer::singleShot(0, this, &DialogWindow::tellAnswers);
-}
-
-void DialogWindow::tellAnswers()
-{
-    m_answersAreNoted = false;
-    const QString refusal = std::exchange(m_refusalToTell, QString());
-    if (m_state != State::Ready)
-        return;
-    tellStanding();
-    if (!refusal.isNull())
-        m_notice->tell(NoticeBar::Kind::Warning, refusal);
 }
 
 void DialogWindow::showHelp()
 {
     const Part *part = currentPart();
-    const bool ownHelp = !part || !part->panel || m_job.session()->help(*part->panel);
+    const bool ownHelp = !part || !part->panel || job().session()->help(*part->panel);
     if (ownHelp)
         showHostHelp(this);
 }
@@ -237,17 +196,17 @@ void DialogWindow::showHelp()
 void DialogWindow::resizeEvent(QResizeEvent *event)
 {
     QDialog::resizeEvent(event);
-    if (m_job.session() && m_job.session()->isRunning())
-        m_job.session()->windowDidResize();
+    if (job().session() && job().session()->isRunning())
+        job().session()->windowDidResize();
 }
 
 void DialogWindow::done(int result)
 {
-    if (m_state == State::Sending && m_call) {
-        m_call->cancel();
+    if (m_state == State::Sending) {
+        m_controller.cancel();
         return;
     }
-    delete m_reading;
+    m_controller.stopReading();
     NotificationCenter::defaultCenter().post(QLatin1String(kWindowWillCloseNotification),
                                              static_cast<QWidget *>(this));
     closePrinter();

@@ -1,20 +1,13 @@
 #pragma once
 
-#include "dialog/files/OutputFile.h"
-#include "dialog/job/DocumentFile.h"
-#include "dialog/job/JobFileWriter.h"
-#include "dialog/job/PipeDocuments.h"
-#include "dialog/printing/PrintJob.h"
-#include "dialog/printing/SettingRequests.h"
-#include "dialog/program/CommandLine.h"
-#include "dialog/program/ExitStatus.h"
+#include "dialog/host/SessionObserver.h"
+#include "dialog/printing/PrintController.h"
+#include "dialog/window/DialogWishes.h"
 #include "dialog/window/NoticeBar.h"
 #include "dialog/window/SummaryPane.h"
 
-#include <QtCore/QPointer>
 #include <QtWidgets/QDialog>
 
-#include <memory>
 #include <vector>
 
 class JobHeader;
@@ -23,14 +16,12 @@ class PanelPane;
 class ProgressStrip;
 class QPushButton;
 class QTabWidget;
-class Recorder;
-class BackgroundCall;
 
 /// The print dialog: printer, page setup, the plug-in's panels, the summary, and Print.
 ///
-/// It opens at once and waits for nothing: whatever a server has to say arrives later, from a
-/// BackgroundCall. Panels are released before the panes that show their views.
-class DialogWindow : public QDialog
+/// It shows what its PrintController does, and asks what only a user can answer. It opens at once
+/// and waits for nothing. Panels are released before the panes that show their views.
+class DialogWindow : public QDialog, private SessionObserver
 {
     Q_OBJECT
 
@@ -43,26 +34,30 @@ public:
         Done,      ///< the job was accepted or written; only closing is left
     };
 
-    explicit DialogWindow(const CommandLine &line, QWidget *parent = nullptr);
+    explicit DialogWindow(const DialogWishes &wishes, QWidget *parent = nullptr);
     ~DialogWindow() override;
 
-    /// The document of the command line that cannot be printed; one sentence, null when there is
-    /// none.
-    QString documentError() const { return m_documentError; }
-
-    /// Before start(), where the session is to be noted. False when the script cannot be written.
-    bool beginRecording();
-
-    /// When the dialog has closed. False when not all of the session could be noted.
-    bool finishRecording();
-    QString recordingError() const { return m_recordingError; }
+    /// Whether the wished documents can be printed.
+    const Result<> &documentState() const { return m_documentState; }
 
     /// Looks for the printer.
     void start();
 
     State state() const { return m_state; }
-    ExitStatus exitStatus() const { return m_exitStatus; }
-    PrintJob &job() { return m_job; }
+
+    /// What the dialog has come to: that a job was accepted or written, else why not. As long as
+    /// nothing has gone wrong, that the user has cancelled it.
+    const Result<> &outcome() const { return m_outcome; }
+
+    /// The fault that keeps the dialog in State::NoPrinter; else none.
+    const Result<> &printerState() const { return m_printerState; }
+
+    /// Whether what was wished could be made.
+    const Result<> &settingState() const { return m_settingState; }
+
+    PrintController &controller() { return m_controller; }
+    PrintJob &job() { return m_controller.job(); }
+    const PrintJob &job() const { return m_controller.job(); }
     const NoticeBar &notice() const { return *m_notice; }
 
     /// Shows the part of the name ("summary", or a panel's). False without such a part.
@@ -75,8 +70,8 @@ public:
     /// cancelled, and what asks something is dismissed.
     void end();
 
-    /// What the command line asked for and could not be made; one sentence, null otherwise.
-    QString settingError() const { return m_settingError; }
+    /// Releases the panels, as closing does.
+    void closePrinter();
 
 Q_SIGNALS:
     void stateChanged();
@@ -108,27 +103,29 @@ private:
     QString printTitle() const;
     void setState(State state);
     void updateButtons();
-    void noteAnswer(const HostCallback::Call &call);
-    void tellAnswers();
+    void tell(NoticeBar::Kind kind, const QString &sentence);
     void tellStanding();
     bool mayPrint() const;
-    void chooseDocuments();
     void showHelp();
 
+    // DialogAnswers.cpp
+    void didAnswer(const HostCallback::Call &call) override;
+    void didFail(PanelOperation operation, const HostPanel &panel,
+                 const QString &sentence) override;
+    void tellAnswers();
+
     // DialogDocuments.cpp
-    void takeDocuments(const OpenedDocuments &opened);
-    void readPipedDocuments();
-    void takeRead(const ReadDocuments &read);
+    void readPipes();
+    void chooseDocuments();
 
     // DialogPrinter.cpp
     void findPrinter(const PrinterSource &source);
     static QString waitFor(const PrinterSource &source);
-    void takePrinter(const PrinterSource &source, FetchedPrinter &fetched);
-    void openPPD(const PrinterSource &source, FetchedPrinter &fetched);
+    void takePrinter(const Result<FoundPrinter> &found);
+    void showPrinter();
     void makeRequestedSettings();
     Notice whatIsMissing() const;
     void listPrinters();
-    void closePrinter();
 
     // DialogParts.cpp
     void buildParts();
@@ -144,35 +141,30 @@ private:
     SummarySection ownSection() const;
 
     // DialogPrint.cpp
+    std::optional<JobRequest> finishedJob();
     void print();
     void saveToFile();
     std::optional<OutputTerms> agreedTerms(const QString &path);
     void writeFile(const QString &path, const JobRequest &request, const OutputTerms &terms);
-    void takeWritten(const WrittenJobFile &written);
     void send(const JobRequest &request);
-    void takeReceipt(const JobReceipt &receipt);
-    std::shared_ptr<JobProgress> beginSending(const QString &sentence);
-    void endSending(State state);
-    std::optional<JobRequest> finishedJob();
+    void beginSending(const QString &sentence, const std::shared_ptr<JobProgress> &progress);
+    void endSending(const Result<> &outcome, const QString &note);
 
-    const CommandLine m_line;
-    std::unique_ptr<Recorder> m_recorder; // outlives the session that it follows
-    QString m_documentError;
-    QString m_recordingError;
-    PrintJob m_job;
+    const DialogWishes m_wishes;
+    PrintController m_controller;
+    Result<> m_documentState;
+    Result<> m_printerState;
+    Result<> m_settingState;
+    Result<> m_outcome;
     State m_state = State::Searching;
-    ExitStatus m_exitStatus = ExitStatus::Cancelled;
-    Refusal m_refusal;
-    QString m_settingError;
-    Notice m_standing;       // shown while there is nothing newer to tell
-    QString m_refusalToTell; // of the pick that is going on
+    QList<Fault> m_shortcomings; ///< of the printer
+    Notice m_standing;           ///< shown while there is nothing newer to tell
+    QString m_refusalToTell;     ///< of the pick that is going on
     bool m_answersAreNoted = false;
     bool m_requestedSettingsAreMade = false;
     bool m_printersAreListed = false;
     bool m_isEnding = false;
     bool m_mayHavePrinted = false; ///< what Print did last
-    QPointer<BackgroundCall> m_call;
-    QPointer<BackgroundCall> m_reading; ///< of documents that are pipes
 
     JobHeader *m_header;
     NoticeBar *m_notice;

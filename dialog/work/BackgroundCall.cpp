@@ -1,9 +1,10 @@
 #include "dialog/work/BackgroundCall.h"
 
 #include <QtCore/QCoreApplication>
-#include <QtCore/QEventLoop>
 
+#include <algorithm>
 #include <condition_variable>
+#include <list>
 #include <mutex>
 #include <thread>
 #include <utility>
@@ -12,26 +13,60 @@ namespace {
 
 constexpr std::chrono::milliseconds kLookInterval{100};
 
-/// How many threads of calls there are.
-struct Threads
+/// The threads of all calls. Those that have ended are joined, so that none is in the midst of its
+/// end while the process is taken down.
+class Threads
 {
-    std::mutex mutex;
-    std::condition_variable ended;
-    int running = 0;
+public:
+    void start(std::function<void()> work)
+    {
+        const std::lock_guard lock(m_mutex);
+        joinEnded();
+        Thread &started = m_threads.emplace_back();
+        started.thread = std::thread([this, &started, work = std::move(work)]() mutable {
+            work();
+            work = nullptr;
+            const std::lock_guard ending(m_mutex);
+            started.hasEnded = true;
+            m_change.notify_all();
+        });
+    }
+
+    bool waitForAll(std::chrono::milliseconds atMost)
+    {
+        std::unique_lock lock(m_mutex);
+        m_change.wait_for(lock, atMost,
+                          [this] { return std::ranges::all_of(m_threads, &Thread::hasEnded); });
+        joinEnded();
+        return m_threads.empty();
+    }
+
+private:
+    struct Thread
+    {
+        std::thread thread;
+        bool hasEnded = false;
+    };
+
+    void joinEnded()
+    {
+        m_threads.remove_if([](Thread &one) {
+            if (one.hasEnded)
+                one.thread.join();
+            return one.hasEnded;
+        });
+    }
+
+    std::mutex m_mutex;
+    std::condition_variable m_change;
+    std::list<Thread> m_threads;
 };
 
-// Never destroyed: a thread that outlives main() may still report its end.
+// Never destroyed: a thread that looks up a name may outlive main().
 Threads &threads()
 {
     static auto *all = new Threads;
     return *all;
-}
-
-void countThread(int change)
-{
-    const std::lock_guard lock(threads().mutex);
-    threads().running += change;
-    threads().ended.notify_all();
 }
 
 } // namespace
@@ -49,19 +84,14 @@ BackgroundCall::BackgroundCall(QObject *parent, std::chrono::milliseconds timeou
     : QObject(parent), m_shared(std::make_shared<Shared>(timeout)), m_givenUp(std::move(givenUp))
 {
     m_shared->call = this;
-    countThread(+1);
-    std::thread([shared = m_shared, work = std::move(work)]() mutable {
-        auto outcome = std::make_shared<Outcome>(work(shared->guard));
-        work = nullptr;
+    threads().start([shared = m_shared, work = std::move(work)] {
+        const auto outcome = std::make_shared<Outcome>(work(shared->guard));
         if (QCoreApplication *application = QCoreApplication::instance())
             QMetaObject::invokeMethod(application, [shared, outcome] {
                 if (shared->call)
                     shared->call->finish(*outcome);
             });
-        outcome.reset();
-        shared.reset();
-        countThread(-1);
-    }).detach();
+    });
     startTimer(kLookInterval);
 }
 
@@ -96,26 +126,5 @@ void BackgroundCall::finish(const Outcome &outcome)
 
 bool waitForBackgroundThreads(std::chrono::milliseconds atMost)
 {
-    std::unique_lock lock(threads().mutex);
-    return threads().ended.wait_for(lock, atMost, [] { return threads().running == 0; });
-}
-
-void background_call::runLoop(std::chrono::milliseconds timeout, const BackgroundCall::Work &work,
-                              const std::function<void(BackgroundCall &)> &started)
-{
-    QEventLoop loop;
-    QObject owner;
-    const auto quit = [&loop] { loop.quit(); };
-    auto *call = new BackgroundCall(
-        &owner, timeout,
-        [work, quit](CallGuard &guard) -> BackgroundCall::Outcome {
-            return [outcome = work(guard), quit] {
-                outcome();
-                quit();
-            };
-        },
-        quit);
-    if (started)
-        started(*call);
-    loop.exec();
+    return threads().waitForAll(atMost);
 }

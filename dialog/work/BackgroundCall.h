@@ -6,7 +6,6 @@
 
 #include <functional>
 #include <memory>
-#include <optional>
 
 /// The timeout of work with files: slow disks and pipes are for the user to give up.
 inline constexpr std::chrono::hours kFileTimeout{24};
@@ -45,27 +44,3 @@ private:
 /// calls were destroyed: a thread must not run on while the process is taken down. False when one
 /// still runs.
 bool waitForBackgroundThreads(std::chrono::milliseconds atMost);
-
-namespace background_call {
-void runLoop(std::chrono::milliseconds timeout, const BackgroundCall::Work &work,
-             const std::function<void(BackgroundCall &)> &started);
-}
-
-/// Runs the work on a thread of its own and an event loop here until there is a result. None when
-/// the server was given up. `started` gets the call, to cancel it. For commands without a window; a
-/// window never waits.
-template <typename Result>
-std::optional<Result> waitForCall(std::chrono::milliseconds timeout,
-                                  const std::function<Result(CallGuard &)> &work,
-                                  const std::function<void(BackgroundCall &)> &started = {})
-{
-    auto result = std::make_shared<std::optional<Result>>();
-    background_call::runLoop(
-        timeout,
-        [work, result](CallGuard &guard) {
-            auto answer = std::make_shared<Result>(work(guard));
-            return [answer, result] { *result = std::move(*answer); };
-        },
-        started);
-    return std::move(*result);
-}

@@ -211,10 +211,6 @@
         <translation>%1 この画面の設定だけで印刷します。</translation>
     </message>
     <message>
-        <source>There is no printer to print to.</source>
-        <translation>印刷できるプリンターがありません。</translation>
-    </message>
-    <message>
         <source>There is no panel %1.</source>
         <translation>%1 という設定画面はありません。</translation>
     </message>
@@ -353,45 +349,6 @@
     </message>
 </context>
 <context>
-    <name>JobDelivery</name>
-    <message>
-        <source>No queue was named to print to; -d QUEUE names one, --output FILE keeps the job.</source>
-        <translation>印刷先のキューが指定されていません。-d QUEUE で指定するか、--output FILE でファイルに保存してください。</translation>
-    </message>
-    <message>
-        <source>%1 accepted job %2.</source>
-        <translation>%1 がジョブ %2 を受け付けました。</translation>
-    </message>
-    <message>
-        <source>The job was written to %1.</source>
-        <translation>ジョブを %1 に保存しました。</translation>
-    </message>
-    <message>
-        <source>%1 is a saved job: it is sent as it was saved, without -o, --paper and --output.</source>
-        <translation>%1 は保存されたジョブです。保存したときの設定で送信するため、-o、--paper、--output は使えません。</translation>
-    </message>
-    <message>
-        <source>%1 is not sent: it sets %2, which no saved job may.</source>
-        <translation>%1 は送信しません。保存されたジョブでは設定できない %2 が含まれています。</translation>
-    </message>
-    <message>
-        <source>%1 is not sent: it sets %2, which Velkaro Print does not write; --yes sends it all the same.</source>
-        <translation>%1 は送信しません。Velkaro Print が書き込まない設定 %2 が含まれています。それでも送信するには --yes を指定してください。</translation>
-    </message>
-    <message>
-        <source>Sending &quot;%1&quot; to %2.</source>
-        <translation>「%1」を %2 に送信します。</translation>
-    </message>
-    <message>
-        <source>Document: %1 (%2 bytes)</source>
-        <translation>文書: %1（%2 バイト）</translation>
-    </message>
-    <message>
-        <source>Setting: %1=%2</source>
-        <translation>設定: %1=%2</translation>
-    </message>
-</context>
-<context>
     <name>JobFile</name>
     <message>
         <source>%1 is no saved job.</source>
@@ -467,6 +424,10 @@
         <source>The setting %1 cannot be sent: &quot;%2&quot; is no value that a print server may be given.</source>
         <translation>設定 %1 は送信できません。「%2」はプリントサーバーに渡せない値です。</translation>
     </message>
+    <message>
+        <source>The setting &quot;%1&quot; cannot be sent: a print server may be given no setting of that name.</source>
+        <translation>設定「%1」は送信できません。プリントサーバーに渡せない名前の設定です。</translation>
+    </message>
 </context>
 <context>
     <name>JobReadBack</name>
@@ -525,12 +486,32 @@
         <translation>プリンターが選ばれておらず、デフォルトのプリンターもありません。-d QUEUE で指定してください。</translation>
     </message>
     <message>
-        <source>The printer&apos;s settings do not allow this job.</source>
-        <translation>プリンターの設定により、このジョブは印刷できません。</translation>
-    </message>
-    <message>
         <source>Printing was cancelled.</source>
         <translation>印刷を中止しました。</translation>
+    </message>
+    <message>
+        <source>No queue was named to print to; -d QUEUE names one, --output FILE keeps the job.</source>
+        <translation>印刷先のキューが指定されていません。-d QUEUE で指定するか、--output FILE でファイルに保存してください。</translation>
+    </message>
+    <message>
+        <source>%1 accepted job %2.</source>
+        <translation>%1 がジョブ %2 を受け付けました。</translation>
+    </message>
+    <message>
+        <source>The job was written to %1.</source>
+        <translation>ジョブを %1 に保存しました。</translation>
+    </message>
+    <message>
+        <source>Sending &quot;%1&quot; to %2.</source>
+        <translation>「%1」を %2 に送信します。</translation>
+    </message>
+    <message>
+        <source>Document: %1 (%2 bytes)</source>
+        <translation>文書: %1（%2 バイト）</translation>
+    </message>
+    <message>
+        <source>Setting: %1=%2</source>
+        <translation>設定: %1=%2</translation>
     </message>
 </context>
 <context>
@@ -682,6 +663,13 @@
     </message>
 </context>
 <context>
+    <name>PanelVeto</name>
+    <message>
+        <source>The printer&apos;s settings do not allow this job.</source>
+        <translation>プリンターの設定により、このジョブは印刷できません。</translation>
+    </message>
+</context>
+<context>
     <name>PipeDocuments</name>
     <message>
         <source>There is no room in the temporary folder %1 for the document %2.</source>
@@ -736,6 +724,13 @@
     </message>
 </context>
 <context>
+    <name>PrintController</name>
+    <message>
+        <source>The plug-in could not attach its panels to this printer. Its rules and checks are missing.</source>
+        <translation>プラグインのパネルをこのプリンターで使用できません。パネルによる設定の調整と確認は行われません。</translation>
+    </message>
+</context>
+<context>
     <name>PrinterPopUp</name>
     <message>
         <source>No printer</source>
@@ -764,6 +759,10 @@
         <source>The PPD of the queue %1 cannot be used. %2</source>
         <translation>キュー %1 の PPD は使用できません。%2</translation>
     </message>
+    <message>
+        <source>There is no printer to print to.</source>
+        <translation>印刷できるプリンターがありません。</translation>
+    </message>
 </context>
 <context>
     <name>ProgressStrip</name>
@@ -781,6 +780,25 @@
     <message>
         <source>no name is free</source>
         <translation>使用できる名前がありません</translation>
+    </message>
+</context>
+<context>
+    <name>SavedJob</name>
+    <message>
+        <source>%1 is a saved job: it is sent as it was saved, without -o, --paper and --output.</source>
+        <translation>%1 は保存されたジョブです。保存したときの設定で送信するため、-o、--paper、--output は使えません。</translation>
+    </message>
+    <message>
+        <source>%1 is not sent: it sets %2, which no saved job may.</source>
+        <translation>%1 は送信しません。保存されたジョブでは設定できない %2 が含まれています。</translation>
+    </message>
+    <message>
+        <source>%1 is not sent: it sets %2, which Velkaro Print does not write; --yes sends it all the same.</source>
+        <translation>%1 は送信しません。Velkaro Print が書き込まない設定 %2 が含まれています。それでも送信するには --yes を指定してください。</translation>
+    </message>
+    <message>
+        <source>The job in %1 can be looked at but not sent: it sets %2, which no saved job may. Remove that from the settings saved for the queue.</source>
+        <translation>%1 のジョブは内容を確認できますが、送信はできません。保存されたジョブでは設定できない %2 が含まれています。キューに保存した設定から削除してください。</translation>
     </message>
 </context>
 <context>
@@ -911,6 +929,10 @@
     <message>
         <source>The printer takes no paper of a size of your own.</source>
         <translation>このプリンターではカスタムサイズの用紙は使えません。</translation>
+    </message>
+    <message>
+        <source>The printer takes no paper of %1 × %2 mm: sizes of your own go from %3 × %4 mm to %5 × %6 mm.</source>
+        <translation>プリンターでは %1 × %2 mm の用紙を使用できません。指定できるサイズは %3 × %4 mm から %5 × %6 mm までです。</translation>
     </message>
 </context>
 </TS>

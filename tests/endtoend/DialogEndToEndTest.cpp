@@ -38,9 +38,9 @@ class Dialog : public PrintServerFixture
 protected:
     Dialog() { UserDefaults::standardUserDefaults().setFolder(QString()); }
 
-    CommandLine lineFor(const QString &address, const QString &queue)
+    DialogWishes lineFor(const QString &address, const QString &queue)
     {
-        CommandLine line;
+        DialogWishes line;
         line.server = address;
         line.queue = queue;
         line.plugIn = builtBundle();
@@ -49,7 +49,7 @@ protected:
     }
 
     /// The dialog on the screen, when its printer has been found or not.
-    std::unique_ptr<DialogWindow> open(const CommandLine &line)
+    std::unique_ptr<DialogWindow> open(const DialogWishes &line)
     {
         auto window = std::make_unique<DialogWindow>(line);
         window->start();
@@ -100,7 +100,7 @@ TEST_F(Dialog, APickThatIsPrintedArrivesInTheJobAndInThePrinter)
     pick(*window, "mediaTypePopup", u"Glossy"_s);
     click(*window, "printButton");
     waitWhile(*window, DialogWindow::State::Sending);
-    EXPECT_EQ(window->exitStatus(), ExitStatus::Done) << window->notice().sentence().toStdString();
+    EXPECT_TRUE(window->outcome()) << window->notice().sentence().toStdString();
     EXPECT_FALSE(window->isVisible());
     ASSERT_EQ(newJobs().size(), 1);
     const QMap<QString, QString> job = server().jobAttributes(u"photo"_s, newJobs()[0]);
@@ -131,7 +131,7 @@ TEST_F(Dialog, APaperThatIsPickedReachesThePanelsAndTheJob)
 
 TEST_F(Dialog, AVetoedJobIsNotInTheQueueAndTheDialogStaysOpen)
 {
-    CommandLine line = lineFor(server().address(), u"photo"_s);
+    DialogWishes line = lineFor(server().address(), u"photo"_s);
     line.paper = u"120x120mm"_s;
     const auto window = open(line);
     QTimer::singleShot(0, window.get(), [&] {
@@ -146,7 +146,7 @@ TEST_F(Dialog, AVetoedJobIsNotInTheQueueAndTheDialogStaysOpen)
     EXPECT_EQ(newJobs(), QList<int>());
     QTest::keyClick(window.get(), Qt::Key_Escape);
     EXPECT_FALSE(window->isVisible());
-    EXPECT_EQ(window->exitStatus(), ExitStatus::Cancelled);
+    EXPECT_EQ(window->outcome().faultKind(), FaultKind::Cancelled);
 }
 
 TEST_F(Dialog, AQueueWithoutAPPDIsSaidAndPrintsWithTheDialogsOwnSettings)
@@ -190,7 +190,7 @@ TEST_F(Dialog, AServerThatGoesDownLosesNothingOfTheJob)
     EXPECT_EQ(window->notice().sentence(),
               u"The print server %1 cannot be reached."_s.arg(other.address()));
     EXPECT_EQ(part<PopUpButton>(*window, "mediaTypePopup")->selectedObject(), u"Glossy"_s);
-    EXPECT_EQ(window->exitStatus(), ExitStatus::Cancelled);
+    EXPECT_EQ(window->outcome().faultKind(), FaultKind::Cancelled);
 }
 
 TEST_F(Dialog, AJobThatMayHavePrintedIsSentAgainOnPurposeOnly)
@@ -206,7 +206,7 @@ TEST_F(Dialog, AJobThatMayHavePrintedIsSentAgainOnPurposeOnly)
     EXPECT_EQ(window->notice().sentence(),
               u"The print server %1 did not say whether it took the job: it may have been printed "
               "as job 7."_s.arg(forgetful.address()));
-    EXPECT_EQ(window->exitStatus(), ExitStatus::Server);
+    EXPECT_EQ(window->outcome().faultKind(), FaultKind::Unsettled);
     auto *print = part<QPushButton>(*window, "printButton");
     EXPECT_EQ(print->text(), u"Print Again"_s);
     QTest::keyClick(window.get(), Qt::Key_Return);
@@ -214,7 +214,7 @@ TEST_F(Dialog, AJobThatMayHavePrintedIsSentAgainOnPurposeOnly)
     EXPECT_EQ(forgetful.requests().count(u"Create-Job"_s), 1);
     click(*window, "printButton");
     waitWhile(*window, DialogWindow::State::Sending);
-    EXPECT_EQ(window->exitStatus(), ExitStatus::Done) << window->notice().sentence().toStdString();
+    EXPECT_TRUE(window->outcome()) << window->notice().sentence().toStdString();
     EXPECT_EQ(forgetful.requests().count(u"Create-Job"_s), 2);
 }
 
@@ -317,7 +317,7 @@ TEST_F(DialogOnAServerThatHoldsItsAnswers, LooksForThePrinterWithoutWaiting)
 
 TEST_F(DialogOnAServerThatHoldsItsAnswers, ListsThePrintersWithoutWaiting)
 {
-    CommandLine line = lineFor(server().address(), u"photo"_s);
+    DialogWishes line = lineFor(server().address(), u"photo"_s);
     line.ppd = samplePPD(u"velkaro-px-t900"_s);
     server().holdAnswers();
     const auto window = open(line);
@@ -337,7 +337,7 @@ TEST_F(DialogOnAServerThatHoldsItsAnswers, SendsTheJobWithoutWaiting)
     wait();
     EXPECT_EQ(window->state(), DialogWindow::State::Sending);
     waitWhile(*window, DialogWindow::State::Sending);
-    EXPECT_EQ(window->exitStatus(), ExitStatus::Done) << window->notice().sentence().toStdString();
+    EXPECT_TRUE(window->outcome()) << window->notice().sentence().toStdString();
     EXPECT_EQ(newJobs().size(), 1);
 }
 

@@ -186,4 +186,36 @@ INSTANTIATE_TEST_SUITE_P(
                     Case{"IntoAFullDevice", paint(u"/dev/full"_s), 5, kFull, {}}),
     CaseName());
 
+TEST(StandardOutput, HasTheJobAloneAndTheReportIsOnStandardError)
+{
+    const QTemporaryDir folder;
+    const QString document = folder.filePath(u"own.ps"_s);
+    writeFile(document, "%!PS\n");
+    for (const QString &output : {u"-"_s, u"/dev/stdout"_s}) {
+        const ProgramRun done = runProgram({u"--ppd"_s, samplePPD(u"velkaro-px-t900"_s),
+                                            u"--no-dialog"_s, u"--output"_s, output, document});
+        EXPECT_EQ(done.status, 0);
+        EXPECT_TRUE(done.output.startsWith(u"Velkaro-Print-Job: 1\nTitle: own.ps\n"_s))
+            << done.output.toStdString();
+        EXPECT_TRUE(done.output.endsWith(u"\nDocument: 5 own.ps\n\n%!PS\n"_s))
+            << done.output.toStdString();
+        EXPECT_EQ(done.errors, u"The job was written to /dev/stdout.\n"_s);
+    }
+}
+
+TEST(ASavedJob, ThatCanNeverBeSentIsSaidWhenItIsSaved)
+{
+    const QTemporaryDir folder;
+    const QString document = folder.filePath(u"own.ps"_s);
+    writeFile(document, "%!PS\n");
+    const QString job = folder.filePath(u"own.job"_s);
+    const ProgramRun done = runProgram({u"--ppd"_s, samplePPD(u"velkaro-px-t900"_s), u"-d"_s,
+                                        u"photo"_s, u"--no-dialog"_s, u"--output"_s, job, document},
+                                       "Dest photo raw=true\n");
+    EXPECT_EQ(done.status, 0);
+    EXPECT_EQ(done.errors, u"velkaro-print: The job in %1 can be looked at but not sent: it sets "
+                           "raw, which no saved job may. Remove that from the settings saved for "
+                           "the queue.\n"_s.arg(job));
+}
+
 } // namespace

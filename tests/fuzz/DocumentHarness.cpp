@@ -74,17 +74,16 @@ void harness::document(const QByteArray &nameAndContent)
     const QByteArray content =
         nameAndContent.sliced(std::min(nameAndContent.size(), firstLine.size() + 1));
     const NamedFile file(nameOf(firstLine), content);
-    const OpenedDocuments opened = openDocuments({file.path()});
-    require(opened.error.isNull() != content.isEmpty(),
-            "every file but an empty one is a document");
+    const auto opened = openDocuments({file.path()});
+    require(opened.isGood() != content.isEmpty(), "every file but an empty one is a document");
     if (content.isEmpty())
         return;
-    const Document &document = opened.documents.front();
+    const Document &document = opened->front();
     require(isJobFile(document) == content.startsWith("Velkaro-Print-Job: 1\n"),
             "a saved job is known by its first line");
     QByteArray read(content.size(), Qt::Uninitialized);
     require(document.read(0, read.data(), read.size()) == content.size() && read == content,
             "a document is read as it is");
-    checkText(outgoingTitle(PrintJob(opened.documents).title()));
+    checkText(outgoingTitle(PrintJob(*opened).title()));
     checkText(outgoingDocumentName(document.name()));
 }

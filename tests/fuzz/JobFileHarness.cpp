@@ -1,6 +1,6 @@
 #include "dialog/job/JobFileReader.h"
 #include "dialog/job/JobOptions.h"
-#include "dialog/printing/JobDelivery.h"
+#include "dialog/printing/SavedJob.h"
 #include "tests/fuzz/Harnesses.h"
 #include "tests/fuzz/InputFile.h"
 
@@ -40,14 +40,14 @@ void checkOptions(const QList<JobOption> &options)
 {
     harness::require(std::ranges::all_of(options, isSendable), "every option of a job may be sent");
     if (std::ranges::any_of(options, isHarmful))
-        harness::require(!faultOfOptions(u"job"_s, options, true).isNull(),
+        harness::require(!checkOptions(u"job"_s, options, true),
                          "a saved job is never sent past the printer's settings, or elsewhere");
     const bool isForeign = std::ranges::any_of(options, [](const JobOption &option) {
         return option.name == "job-name"_L1 || option.name == "document-format"_L1 ||
                option.name.startsWith("com.apple."_L1);
     });
     if (isForeign)
-        harness::require(!faultOfOptions(u"job"_s, options, false).isNull(),
+        harness::require(!checkOptions(u"job"_s, options, false),
                          "what this program does not write is not sent unasked");
 }
 
@@ -57,10 +57,10 @@ void checkOptions(const QList<JobOption> &options)
 void harness::jobFile(const QByteArray &file)
 {
     const Document saved(inputFile(file), 0, u"saved.job"_s, u"saved.job"_s);
-    const ReadJobFile read = readJobFile(saved);
-    if (!read.error.isNull())
+    const auto read = readJobFile(saved);
+    if (!read)
         return;
     require(isJobFile(saved), "only what begins like a saved job is one");
-    checkDocuments(read.job.documents, file);
-    checkOptions(read.job.options);
+    checkDocuments(read->documents, file);
+    checkOptions(read->options);
 }

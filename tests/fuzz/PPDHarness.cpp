@@ -47,9 +47,8 @@ void pick(PrintJob &job, const QByteArray &wish)
     const ppd_option_t &option = *options[at(0) % options.size()];
     const QString keyword = ppdName(option.keyword);
     const QString choice = ppdName(option.choices[at(1) % option.num_choices].choice);
-    Refusal refusal;
     if (at(2) >= 0xF8 && isChoice(job.ppd(), keyword))
-        makeSetting(job, keyword, choice, refusal);
+        static_cast<void>(makeSetting(job, keyword, choice));
     else
         job.mark(keyword, choice);
 }
@@ -98,14 +97,12 @@ void harness::ppd(const QByteArray &ppd)
     options.ppdPath = pathOf(file);
     options.bundlePath = builtBundle();
     ScriptedAnswers answers(true);
-    OpenedPrinter printer =
-        openPrinter(options, openPPD(options.ppdPath, PPDTexts::InUserLanguage), {});
-    require((printer.session != nullptr) == printer.error.isNull(),
-            "a PPD opens, or a sentence says why not");
-    if (!printer.session)
+    auto opened = openPPD(options.ppdPath, PPDTexts::InUserLanguage);
+    require(opened || !opened.sentence().isNull(), "a PPD opens, or a sentence says why not");
+    if (!opened)
         return;
     PrintJob job;
-    job.setPrinter({}, std::move(printer));
+    job.setPrinter({}, openPrinter(options, *std::move(opened), {}));
     makePicks(job, ppd);
     job.session()->askShouldPrint();
     answers.answerSheets();

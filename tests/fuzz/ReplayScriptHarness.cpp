@@ -36,15 +36,15 @@ void harness::replayScript(const QByteArray &script)
     ReplaySession session(builtBundle());
     const QByteArrayList lines = script.split('\n').mid(0, kMostLines);
     for (const QByteArray &text : lines) {
-        const ReplayLine line = readReplayLine(text, folder);
-        if (!line.error.isNull())
+        const auto event = readReplayLine(text, folder);
+        if (!event)
             return;
-        if (!line.event)
+        if (!*event)
             continue;
-        const ReplaySession::Outcome outcome = session.run(*line.event);
-        if (!outcome.fatal.isNull())
+        const auto line = session.run(**event);
+        if (!line)
             return;
-        require(!outcome.line.contains('\n') && QJsonDocument::fromJson(outcome.line).isObject(),
+        require(!line->contains('\n') && QJsonDocument::fromJson(*line).isObject(),
                 "an event's report is one JSON object in one line");
     }
 }

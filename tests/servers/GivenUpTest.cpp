@@ -46,7 +46,7 @@ TEST_P(AGivenUpCall, EndsWithItsThreadAndItsConnection)
     auto owner = std::make_unique<QObject>();
     new BackgroundCall(owner.get(), kServerTimeout,
                        [address = server.address()](CallGuard &guard) -> BackgroundCall::Outcome {
-                           fetchQueuePPD(address, u"photo"_s, guard);
+                           static_cast<void>(fetchQueuePPD(address, u"photo"_s, guard));
                            return {};
                        },
                        {});
@@ -97,20 +97,21 @@ TEST(ACancelledCall, WaitsForTheNumberOfTheJobThatItHasToCancel)
     job.server = server.address();
     job.queue = u"photo"_s;
     job.documents = openedDocuments({samplePPD(u"velkaro-px-t900"_s)}); // any file
-    std::optional<JobReceipt> receipt;
+    std::optional<Result<JobReceipt>> receipt;
+    const auto progress = std::make_shared<JobProgress>();
     QObject owner;
-    auto *call =
-        new BackgroundCall(&owner, 10 * kServerTimeout,
-                           [job, &receipt](CallGuard &guard) -> BackgroundCall::Outcome {
-                               return [got = submitJob(job, guard), &receipt] { receipt = got; };
-                           },
-                           {});
+    auto *call = new BackgroundCall(
+        &owner, 10 * kServerTimeout,
+        [job, progress, &receipt](CallGuard &guard) -> BackgroundCall::Outcome {
+            return [got = submitJob(job, guard, progress), &receipt] { receipt = got; };
+        },
+        {});
     ASSERT_TRUE(QTest::qWaitFor([&] { return server.requests() == QStringList{u"Create-Job"_s}; }));
     call->cancel();
     isCancelled = true;
     ASSERT_TRUE(QTest::qWaitFor([&] { return receipt.has_value(); }));
-    EXPECT_EQ(receipt->id, kGoodJob);
-    EXPECT_EQ(receipt->answer.fault, ServerFault::Cancelled);
+    EXPECT_EQ(progress->id(), kGoodJob);
+    EXPECT_EQ(receipt->faultKind(), FaultKind::Cancelled);
     EXPECT_EQ(server.requests(), (QStringList{u"Create-Job"_s, u"Cancel-Job"_s}));
 }
 
@@ -129,12 +130,11 @@ TEST(ATemporaryFolder, ThatTakesNoFilesIsNamed)
     qputenv("TMPDIR", "/proc");
     const ScriptedServer server;
     CallGuard guard;
-    const QueuePPD queue = fetchQueuePPD(server.address(), u"photo"_s, guard);
-    EXPECT_EQ(queue.file, nullptr);
-    EXPECT_EQ(queue.answer.fault, ServerFault::Refused);
-    EXPECT_TRUE(queue.answer.sentence.startsWith(addressedBy(
+    const auto queue = fetchQueuePPD(server.address(), u"photo"_s, guard);
+    EXPECT_EQ(queue.faultKind(), FaultKind::Refused);
+    EXPECT_TRUE(queue.sentence().startsWith(addressedBy(
         "What the print server %1 sends cannot be kept in the temporary folder: ", server)))
-        << queue.answer.sentence.toStdString();
+        << queue.sentence().toStdString();
 }
 
 // A limit for files stands for a full disk: nobody can fill one without harm.
@@ -151,9 +151,8 @@ TEST(ATemporaryFolder, ThatIsFullIsNamed)
     ASSERT_EQ(setrlimit(RLIMIT_FSIZE, &small), 0);
     const ScriptedServer server;
     CallGuard guard;
-    const QueuePPD queue = fetchQueuePPD(server.address(), u"photo"_s, guard);
-    EXPECT_EQ(queue.file, nullptr);
-    EXPECT_EQ(queue.answer.sentence,
+    const auto queue = fetchQueuePPD(server.address(), u"photo"_s, guard);
+    EXPECT_EQ(queue.sentence(),
               addressedBy("What the print server %1 sends cannot be kept in the temporary folder: "
                           "File too large.",
                           server));

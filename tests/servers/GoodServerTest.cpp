@@ -21,21 +21,21 @@ TEST(ScriptedServerTest, WithoutAScriptListsItsQueue)
 {
     const ScriptedServer server;
     CallGuard guard;
-    const DestinationList list = listDestinations(server.address(), guard);
-    EXPECT_EQ(list.answer.sentence, QString());
-    ASSERT_EQ(list.destinations.size(), 1);
-    EXPECT_EQ(list.destinations[0].name, (QueueName{u"photo"_s, {}}));
-    EXPECT_EQ(list.destinations[0].description, u"The good printer"_s);
-    EXPECT_EQ(serverDefault(server.address(), guard).queue.queue, u"photo"_s);
+    const auto list = listDestinations(server.address(), guard);
+    EXPECT_EQ(list.sentence(), QString());
+    ASSERT_EQ(list->size(), 1);
+    EXPECT_EQ((*list)[0].name, (QueueName{u"photo"_s, {}}));
+    EXPECT_EQ((*list)[0].description, u"The good printer"_s);
+    EXPECT_EQ(serverDefault(server.address(), guard)->queue, u"photo"_s);
 }
 
 TEST(ScriptedServerTest, WithoutAScriptGivesThePPD)
 {
     const ScriptedServer server;
     CallGuard guard;
-    const QueuePPD queue = fetchQueuePPD(server.address(), u"photo"_s, guard);
-    ASSERT_TRUE(queue.file) << queue.answer.sentence.toStdString();
-    EXPECT_EQ(readFile(queue.path()), goodPPD());
+    const auto queue = fetchQueuePPD(server.address(), u"photo"_s, guard);
+    ASSERT_TRUE(queue) << queue.sentence().toStdString();
+    EXPECT_EQ(readFile(queue->path()), goodPPD());
     EXPECT_EQ(server.requests(), QStringList{u"GET /printers/photo.ppd"_s});
 }
 
@@ -52,10 +52,10 @@ TEST(ScriptedServerTest, WithoutAScriptTakesAJobAsItWasSent)
     job.documents =
         openedDocuments({folder.filePath(u"first.pdf"_s), folder.filePath(u"second.pdf"_s)});
     CallGuard guard;
-    const JobReceipt receipt = submitJob(job, guard);
-    EXPECT_EQ(receipt.answer.sentence, QString());
-    EXPECT_EQ(receipt.id, kGoodJob);
-    EXPECT_EQ(receipt.notes, QStringList());
+    const auto receipt = submitJob(job, guard);
+    EXPECT_EQ(receipt.sentence(), QString());
+    EXPECT_EQ(receipt->id, kGoodJob);
+    EXPECT_EQ(receipt->notes, QStringList());
     EXPECT_EQ(server.requests(), (QStringList{u"Create-Job"_s, u"Send-Document"_s,
                                               u"Send-Document"_s, u"Get-Job-Attributes"_s}));
     const QList<QByteArray> sent = server.bodies(u"Send-Document"_s);

@@ -56,7 +56,7 @@ struct Loss
     Steps onDocument;
     Steps onLook;   ///< empty: it tells of a job that is pending
     Steps onCancel; ///< empty: it cancels
-    ServerFault fault;
+    std::optional<FaultKind> fault;
     const char *sentence;
     QStringList requests; ///< after Create-Job and Send-Document
 };
@@ -79,12 +79,12 @@ TEST_P(JobWithALostAnswer, IsLookedForAndNeverSentAgain)
         script += {"Cancel-Job", row.onCancel};
     const ScriptedServer server(script);
     const auto progress = std::make_shared<JobProgress>();
-    const JobReceipt receipt = submitJob(job(server), m_guard, progress);
-    EXPECT_EQ(receipt.answer.fault, row.fault);
-    EXPECT_EQ(receipt.answer.sentence,
+    const auto receipt = submitJob(job(server), m_guard, progress);
+    EXPECT_EQ(receipt.faultKind(), row.fault);
+    EXPECT_EQ(receipt.sentence(),
               QString::fromUtf8(row.sentence).replace(u"%1"_s, server.address()));
-    EXPECT_EQ(receipt.id, kGoodJob);
-    EXPECT_EQ(progress->isAccepted(), row.fault == ServerFault::None);
+    EXPECT_EQ(progress->id(), kGoodJob);
+    EXPECT_EQ(progress->isAccepted(), row.fault == std::nullopt);
     EXPECT_EQ(server.requests(), QStringList({u"Create-Job"_s, u"Send-Document"_s}) + row.requests);
 }
 
@@ -96,49 +96,49 @@ const Steps kTakeAndHold{readBody(), hold()};
 INSTANTIATE_TEST_SUITE_P(
     Table, JobWithALostAnswer,
     testing::Values(
-        Loss{"Pending", kTakeAndClose, {}, {}, ServerFault::None, "", {kLook, kLook}},
-        Loss{"Silence", kTakeAndHold, {}, {}, ServerFault::None, "", {kLook, kLook}},
+        Loss{"Pending", kTakeAndClose, {}, {}, std::nullopt, "", {kLook, kLook}},
+        Loss{"Silence", kTakeAndHold, {}, {}, std::nullopt, "", {kLook, kLook}},
         Loss{"FaultOfTheServer",
              answerWith(httpAnswer("503 Service Unavailable", "text/plain", "no")),
              {},
              {},
-             ServerFault::None,
+             std::nullopt,
              "",
              {kLook, kLook}},
-        Loss{"Nonsense", answerIpp("<html>"), {}, {}, ServerFault::None, "", {kLook, kLook}},
+        Loss{"Nonsense", answerIpp("<html>"), {}, {}, std::nullopt, "", {kLook, kLook}},
         Loss{"Printing",
              kTakeAndClose,
              jobInState(IPP_JSTATE_PROCESSING, "job-printing"),
              {},
-             ServerFault::None,
+             std::nullopt,
              "",
              {kLook, kLook}},
         Loss{"Printed",
              kTakeAndClose,
              jobInState(IPP_JSTATE_COMPLETED, "job-completed-successfully"),
              {},
-             ServerFault::None,
+             std::nullopt,
              "",
              {kLook, kLook}},
         Loss{"HeldAsWanted",
              kTakeAndClose,
              jobInState(IPP_JSTATE_HELD, "job-hold-until-specified"),
              {},
-             ServerFault::None,
+             std::nullopt,
              "",
              {kLook, kLook}},
         Loss{"NotWholeWhenSilent",
              kTakeAndHold,
              jobInState(IPP_JSTATE_HELD, "job-incoming"),
              {},
-             ServerFault::Silent,
+             FaultKind::Silent,
              "The print server %1 does not answer.",
              {kLook, kCancel}},
         Loss{"NotWholeAndNotToBeCancelled",
              kTakeAndHold,
              jobInState(IPP_JSTATE_HELD, "job-incoming"),
              kNotPossible,
-             ServerFault::Unsettled,
+             FaultKind::Unsettled,
              "The print server %1 does not answer. Job 7 could not be cancelled at %1 and may be "
              "printed.",
              {kLook, kCancel, kLook}},
@@ -146,21 +146,21 @@ INSTANTIATE_TEST_SUITE_P(
              kTakeAndClose,
              jobInState(IPP_JSTATE_CANCELED, "job-canceled-by-operator"),
              {},
-             ServerFault::Refused,
+             FaultKind::Refused,
              "The print server %1 cancelled job 7.",
              {kLook}},
         Loss{"AbortedThere",
              kTakeAndClose,
              jobInState(IPP_JSTATE_ABORTED, "aborted-by-system"),
              {},
-             ServerFault::Refused,
+             FaultKind::Refused,
              "The print server %1 aborted job 7.",
              {kLook}},
         Loss{"Forgotten",
              kTakeAndClose,
              kNotFound,
              {},
-             ServerFault::Unsettled,
+             FaultKind::Unsettled,
              "The print server %1 did not say whether it took the job: it may have been printed as "
              "job 7.",
              {kLook}},
@@ -168,7 +168,7 @@ INSTANTIATE_TEST_SUITE_P(
              kTakeAndClose,
              {hold()},
              {},
-             ServerFault::Unsettled,
+             FaultKind::Unsettled,
              "The print server %1 did not say whether it took the job: it may have been printed as "
              "job 7.",
              {kLook}},
@@ -177,7 +177,7 @@ INSTANTIATE_TEST_SUITE_P(
              answerIpp(IppBytes(IPP_STATUS_ERROR_DOCUMENT_FORMAT_NOT_SUPPORTED).ended()),
              {},
              {},
-             ServerFault::Refused,
+             FaultKind::Refused,
              "The print server %1 refused: IPP 0x040a.",
              {kCancel}}),
     [](const auto &row) { return std::string(row.param.name); });
@@ -187,7 +187,7 @@ TEST_F(LostAnswer, ThatWasARefusalStaysOne)
     const ScriptedServer server(
         {{"Send-Document", answerIpp(IppBytes(IPP_STATUS_ERROR_NOT_POSSIBLE).ended())},
          {"Cancel-Job", kNotPossible}});
-    EXPECT_EQ(submitJob(job(server), m_guard).answer.fault, ServerFault::Unsettled);
+    EXPECT_EQ(submitJob(job(server), m_guard).faultKind(), FaultKind::Unsettled);
 }
 
 TEST_F(LostAnswer, ToOneOfSeveralDocumentsLeavesAJobThatIsCancelled)
@@ -195,8 +195,8 @@ TEST_F(LostAnswer, ToOneOfSeveralDocumentsLeavesAJobThatIsCancelled)
     const ScriptedServer server({{"Send-Document", kTakeAndClose}});
     JobRequest request = job(server);
     request.documents.push_back(request.documents.front());
-    const JobReceipt receipt = submitJob(request, m_guard);
-    EXPECT_EQ(receipt.answer.fault, ServerFault::Unreachable);
+    const auto receipt = submitJob(request, m_guard);
+    EXPECT_EQ(receipt.faultKind(), FaultKind::Unreachable);
     EXPECT_EQ(server.requests(),
               (QStringList{u"Create-Job"_s, u"Send-Document"_s, u"Cancel-Job"_s}));
 }
@@ -210,7 +210,7 @@ struct Cancelling
     const char *request; ///< that is being served then
     qint64 read;         ///< of its body
     qint64 size;         ///< of the document
-    ServerFault fault;
+    std::optional<FaultKind> fault;
     QStringList requests;
 };
 
@@ -230,8 +230,8 @@ TEST_P(JobThatIsCancelled, IsCancelledAtTheServerUntilItIsAccepted)
         return true;
     };
     const ScriptedServer server({{row.request, {readBody(row.read), cancel, hold()}}});
-    const JobReceipt receipt = submitJob(job(server, row.size), m_guard);
-    EXPECT_EQ(receipt.answer.fault, row.fault) << receipt.answer.sentence.toStdString();
+    const auto receipt = submitJob(job(server, row.size), m_guard);
+    EXPECT_EQ(receipt.faultKind(), row.fault) << receipt.sentence().toStdString();
     EXPECT_EQ(server.requests(), row.requests);
 }
 
@@ -241,19 +241,19 @@ INSTANTIATE_TEST_SUITE_P(
                                "Send-Document",
                                1000,
                                kLarge,
-                               ServerFault::Cancelled,
+                               FaultKind::Cancelled,
                                {u"Create-Job"_s, u"Send-Document"_s, u"Cancel-Job"_s}},
                     Cancelling{"WhileTheLastAnswerIsWaitedFor",
                                "Send-Document",
                                kWhole,
                                100,
-                               ServerFault::Cancelled,
+                               FaultKind::Cancelled,
                                {u"Create-Job"_s, u"Send-Document"_s, u"Cancel-Job"_s}},
                     Cancelling{"WhenItIsAccepted",
                                "Get-Job-Attributes",
                                kWhole,
                                100,
-                               ServerFault::None,
+                               std::nullopt,
                                {u"Create-Job"_s, u"Send-Document"_s, u"Get-Job-Attributes"_s}}),
     [](const auto &row) { return std::string(row.param.name); });
 
@@ -261,7 +261,7 @@ TEST_F(LostAnswer, OfAJobThatWasCancelledBeforeItsCreationIsNone)
 {
     const ScriptedServer server;
     m_guard.cancel();
-    EXPECT_EQ(submitJob(job(server), m_guard).answer.fault, ServerFault::Cancelled);
+    EXPECT_EQ(submitJob(job(server), m_guard).faultKind(), FaultKind::Cancelled);
     EXPECT_EQ(server.requests(), QStringList());
 }
 
@@ -277,9 +277,9 @@ TEST_P(JobWhoseDocumentBecomes, AnotherLengthIsCancelled)
     };
     const ScriptedServer server({{"Send-Document", {readBody(1000), change, readBody()}}});
     const JobRequest request = job(server, kLarge);
-    const JobReceipt receipt = submitJob(request, m_guard);
-    EXPECT_EQ(receipt.answer.fault, ServerFault::Document);
-    EXPECT_EQ(receipt.answer.sentence,
+    const auto receipt = submitJob(request, m_guard);
+    EXPECT_EQ(receipt.faultKind(), FaultKind::Document);
+    EXPECT_EQ(receipt.sentence(),
               u"The document %1 has become shorter or longer since it was opened."_s.arg(
                   request.documents[0].path()));
     EXPECT_EQ(server.requests(),
@@ -295,14 +295,14 @@ TEST_F(LostAnswer, IsKnownAsSoonAsTheServerHasSaidSo)
     const ScriptedServer server({{"Get-Job-Attributes", {hold()}}});
     const JobRequest request = job(server);
     const auto progress = std::make_shared<JobProgress>();
-    EXPECT_EQ(givenUpReceipt(request, *progress).answer.fault, ServerFault::Silent);
-    EXPECT_TRUE(submitJob(request, m_guard, progress).answer.isGood());
-    const JobReceipt givenUp = givenUpReceipt(request, *progress);
-    EXPECT_TRUE(givenUp.answer.isGood());
-    EXPECT_EQ(givenUp.id, kGoodJob);
+    EXPECT_EQ(givenUpReceipt(request, *progress).faultKind(), FaultKind::Silent);
+    EXPECT_TRUE(submitJob(request, m_guard, progress).isGood());
+    const auto givenUp = givenUpReceipt(request, *progress);
+    EXPECT_TRUE(givenUp.isGood());
+    EXPECT_EQ(givenUp->id, kGoodJob);
     JobProgress sending;
     sending.setId(kGoodJob);
-    EXPECT_EQ(givenUpReceipt(request, sending).answer.sentence,
+    EXPECT_EQ(givenUpReceipt(request, sending).sentence(),
               u"The print server %1 did not say whether it took the job: it may have been printed "
               "as job 7."_s.arg(server.address()));
 }

@@ -20,9 +20,9 @@ constexpr auto kShort = 600ms; // for servers that have to be given up
 struct Misbehaviour
 {
     const char *behaviour;
-    ServerAnswer (*ask)(const QString &server, CallGuard &guard);
+    Result<> (*ask)(const QString &server, CallGuard &guard);
     Script script;
-    ServerFault fault;
+    std::optional<FaultKind> fault;
     const char *sentence; ///< %1 is the server's name
     std::chrono::milliseconds timeout = kServerTimeout;
 };
@@ -32,25 +32,24 @@ void PrintTo(const Misbehaviour &row, std::ostream *out)
     *out << row.behaviour;
 }
 
-ServerAnswer printers(const QString &server, CallGuard &guard)
+template <typename Value> Result<> withoutValue(const Result<Value> &result)
 {
-    const DestinationList list = listDestinations(server, guard);
-    EXPECT_EQ(list.destinations.size(), 0);
-    return list.answer;
+    return result ? Result<>() : result.fault();
 }
 
-ServerAnswer defaultQueue(const QString &server, CallGuard &guard)
+Result<> printers(const QString &server, CallGuard &guard)
 {
-    const DefaultQueue found = serverDefault(server, guard);
-    EXPECT_EQ(found.queue, QueueName());
-    return found.answer;
+    return withoutValue(listDestinations(server, guard));
 }
 
-ServerAnswer ppd(const QString &server, CallGuard &guard)
+Result<> defaultQueue(const QString &server, CallGuard &guard)
 {
-    const QueuePPD queue = fetchQueuePPD(server, u"photo"_s, guard);
-    EXPECT_EQ(queue.file, nullptr);
-    return queue.answer;
+    return withoutValue(serverDefault(server, guard));
+}
+
+Result<> ppd(const QString &server, CallGuard &guard)
+{
+    return withoutValue(fetchQueuePPD(server, u"photo"_s, guard));
 }
 
 class AMisbehavingServer : public testing::TestWithParam<Misbehaviour>
@@ -61,10 +60,10 @@ TEST_P(AMisbehavingServer, IsToldOfInOneSentenceAndLeft)
     const ScriptedServer server(GetParam().script);
     {
         CallGuard guard(GetParam().timeout);
-        const ServerAnswer answer = GetParam().ask(server.address(), guard);
-        EXPECT_EQ(answer.fault, GetParam().fault);
+        const auto answer = GetParam().ask(server.address(), guard);
+        EXPECT_EQ(answer.faultKind(), GetParam().fault);
         const QString expected = QString::fromUtf8(GetParam().sentence);
-        EXPECT_EQ(answer.sentence, QString(expected).replace(u"%1"_s, server.address()));
+        EXPECT_EQ(answer.sentence(), QString(expected).replace(u"%1"_s, server.address()));
     }
 }
 
@@ -120,26 +119,22 @@ const QByteArray kPrinter = printerNamed("photo").ended();
 INSTANTIATE_TEST_SUITE_P(
     Silence, AMisbehavingServer,
     testing::Values(
-        Misbehaviour{"AtConnecting",
-                     printers,
-                     {{"connect", {hold()}}},
-                     ServerFault::Silent,
-                     kSilent,
-                     kShort},
+        Misbehaviour{
+            "AtConnecting", printers, {{"connect", {hold()}}}, FaultKind::Silent, kSilent, kShort},
         Misbehaviour{"AfterTheRequest", printers, whenListing({readBody(), hold()}),
-                     ServerFault::Silent, kSilent, kShort},
+                     FaultKind::Silent, kSilent, kShort},
         Misbehaviour{"InItsHeaders", printers,
                      whenListing({readBody(), write("HTTP/1.1 200 OK\r\nContent-"), hold()}),
-                     ServerFault::Silent, kSilent, kShort},
+                     FaultKind::Silent, kSilent, kShort},
         Misbehaviour{"InItsAnswer", printers,
                      whenListing({readBody(), write(beginOf(kPrinter, 40)), hold()}),
-                     ServerFault::Silent, kSilent, kShort},
+                     FaultKind::Silent, kSilent, kShort},
         Misbehaviour{"InThePPD", ppd, whenFetching({write(beginOf(goodPPD(), 4096)), hold()}),
-                     ServerFault::Silent, kSilent, kShort},
+                     FaultKind::Silent, kSilent, kShort},
         Misbehaviour{"OfTheDefault",
                      defaultQueue,
                      {{"CUPS-Get-Default", {readBody(), hold()}}},
-                     ServerFault::Silent,
+                     FaultKind::Silent,
                      kSilent,
                      kShort}),
     CaseName());
@@ -149,48 +144,48 @@ INSTANTIATE_TEST_SUITE_P(
     testing::Values(
         Misbehaviour{"HeadersByteByByte", printers,
                      whenListing({readBody(), drip(kOk + QByteArray(10000, 'X'), 10ms)}),
-                     ServerFault::Silent, kSilent, kShort},
+                     FaultKind::Silent, kSilent, kShort},
         Misbehaviour{"AnswerByteByByte", printers,
                      whenListing({readBody(), write(beginOf(QByteArray(100000, '\2'), 0)),
                                   drip(QByteArray(100000, '\2'), 10ms)}),
-                     ServerFault::Silent, kTooSlow, kShort},
+                     FaultKind::Silent, kTooSlow, kShort},
         Misbehaviour{"PPDByteByByte", ppd,
                      whenFetching({write(beginOf(goodPPD(), 0)), drip(goodPPD(), 10ms)}),
-                     ServerFault::Silent, kTooSlow, kShort},
+                     FaultKind::Silent, kTooSlow, kShort},
         Misbehaviour{"Headers", printers,
                      whenListing({readBody(), write("HTTP/1.1 200 OK\r\n"),
                                   flood(QByteArray("X-More: more\r\n").repeated(1000), 1LL << 40)}),
-                     ServerFault::Silent, kSilent, kShort},
+                     FaultKind::Silent, kSilent, kShort},
         Misbehaviour{
             "HeadersOfAPPD", ppd,
             whenFetching({write("HTTP/1.1 200 OK\r\n"),
                           flood(QByteArray("X-More: more\r\n").repeated(1000), 1LL << 40)}),
-            ServerFault::Silent, kSilent, kShort},
+            FaultKind::Silent, kSilent, kShort},
         Misbehaviour{"OneLongHeader", printers,
                      whenListing({readBody(), write("HTTP/1.1 200 OK\r\nX-More: "),
                                   flood(QByteArray(65536, 'm'), 1LL << 40)}),
-                     ServerFault::Refused, kNonsense},
+                     FaultKind::Refused, kNonsense},
         Misbehaviour{"GoAheads", printers,
                      whenListing({readBody(),
                                   flood(QByteArray("HTTP/1.1 100 Continue\r\n\r\n").repeated(1000),
                                         1LL << 40)}),
-                     ServerFault::Silent, kSilent, kShort},
+                     FaultKind::Silent, kSilent, kShort},
         Misbehaviour{"Printers", printers,
                      whenListing({readBody(), write(kChunked + chunk(printerNamed("photo").cut())),
                                   flood(chunk(QByteArray("\4\x42\0\14printer-name\0\5photo", 22)
                                                   .repeated(1000)),
                                         1LL << 40)}),
-                     ServerFault::Refused, kTooLarge},
+                     FaultKind::Refused, kTooLarge},
         Misbehaviour{
             "PPD", ppd,
             whenFetching({write(kChunked), flood(chunk(QByteArray(65536, '*')), 1LL << 40)}),
-            ServerFault::Refused, "The PPD of the queue photo is too large."},
+            FaultKind::Refused, "The PPD of the queue photo is too large."},
         Misbehaviour{"APageBesideARefusal", printers,
                      whenListing({readBody(),
                                   write("HTTP/1.1 500 Internal Server Error\r\n"
                                         "Transfer-Encoding: chunked\r\n\r\n"),
                                   flood(chunk(QByteArray(65536, '*')), 1LL << 40)}),
-                     ServerFault::Refused, "The print server %1 has a fault (HTTP 500)."}),
+                     FaultKind::Refused, "The print server %1 has a fault (HTTP 500)."}),
     CaseName());
 
 INSTANTIATE_TEST_SUITE_P(
@@ -199,54 +194,54 @@ INSTANTIATE_TEST_SUITE_P(
         Misbehaviour{"AtConnecting",
                      printers,
                      {{"connect", {closeConnection()}}},
-                     ServerFault::Unreachable,
+                     FaultKind::Unreachable,
                      kClosed},
         Misbehaviour{"AfterTheRequest", printers, whenListing({readBody(), closeConnection()}),
-                     ServerFault::Unreachable, kClosed},
+                     FaultKind::Unreachable, kClosed},
         Misbehaviour{"WithAReset", printers, whenListing({readBody(), resetConnection()}),
-                     ServerFault::Unreachable, kClosed},
+                     FaultKind::Unreachable, kClosed},
         Misbehaviour{
             "InItsHeaders", printers,
             whenListing({readBody(), write("HTTP/1.1 200 OK\r\nContent-"), closeConnection()}),
-            ServerFault::Unreachable, kCut},
+            FaultKind::Unreachable, kCut},
         Misbehaviour{"InAnAnswerOfStatedLength", printers,
                      whenListing({readBody(), write(beginOf(kPrinter, 40)), closeConnection()}),
-                     ServerFault::Unreachable, kCut},
+                     FaultKind::Unreachable, kCut},
         Misbehaviour{"BeforeTheTagThatEnds", printers,
                      whenListing({readBody(), write(beginOf(kPrinter, kPrinter.size() - 1)),
                                   closeConnection()}),
-                     ServerFault::Unreachable, kCut},
+                     FaultKind::Unreachable, kCut},
         Misbehaviour{"InAChunk", printers,
                      whenListing({readBody(), write(kChunked + chunk(kPrinter).left(40)),
                                   closeConnection()}),
-                     ServerFault::Unreachable, kCut},
+                     FaultKind::Unreachable, kCut},
         Misbehaviour{"BetweenChunks", printers,
                      whenListing({readBody(), write(kChunked + chunk(kPrinter.left(40))),
                                   closeConnection()}),
-                     ServerFault::Unreachable, kCut},
+                     FaultKind::Unreachable, kCut},
         Misbehaviour{"InAPPDOfStatedLength", ppd,
                      whenFetching({write(beginOf(goodPPD(), goodPPD().indexOf("*OpenUI", 9000))),
                                    closeConnection()}),
-                     ServerFault::Unreachable, kCutPPD},
+                     FaultKind::Unreachable, kCutPPD},
         Misbehaviour{"InAPPDBetweenChunks", ppd,
                      whenFetching({write(kChunked +
                                          chunk(goodPPD().left(goodPPD().indexOf("*OpenUI", 9000)))),
                                    closeConnection()}),
-                     ServerFault::Unreachable, kCutPPD},
+                     FaultKind::Unreachable, kCutPPD},
         Misbehaviour{
             "InAPPDChunk", ppd,
             whenFetching({write(kChunked + chunk(goodPPD()).left(9000)), closeConnection()}),
-            ServerFault::Unreachable, kCutPPD},
+            FaultKind::Unreachable, kCutPPD},
         Misbehaviour{
             "InAPPDWithoutItsLength", ppd,
             whenFetching({write(kOk + "\r\n" + goodPPD().left(goodPPD().indexOf("*OpenUI", 9000))),
                           closeConnection()}),
-            ServerFault::Unreachable, kCutPPD}),
+            FaultKind::Unreachable, kCutPPD}),
     CaseName());
 
-Misbehaviour httpStatus(const char *behaviour, const QByteArray &status, ServerFault fault,
-                        const char *sentence,
-                        ServerAnswer (*ask)(const QString &, CallGuard &) = ppd)
+Misbehaviour httpStatus(const char *behaviour, const QByteArray &status,
+                        std::optional<FaultKind> fault, const char *sentence,
+                        Result<> (*ask)(const QString &, CallGuard &) = ppd)
 {
     const Steps steps = answerWith(
         httpAnswer(status, "text/html\r\nWWW-Authenticate: Basic realm=\"x\"\r\nLocation: /else",
@@ -257,39 +252,39 @@ Misbehaviour httpStatus(const char *behaviour, const QByteArray &status, ServerF
 INSTANTIATE_TEST_SUITE_P(
     StatusOfHttp, AMisbehavingServer,
     testing::Values(
-        httpStatus("MovedPPD", "301 Moved Permanently", ServerFault::Refused,
+        httpStatus("MovedPPD", "301 Moved Permanently", FaultKind::Refused,
                    "The print server %1 answered with a redirection, which is not followed "
                    "(HTTP 301)."),
-        httpStatus("MovedList", "302 Found", ServerFault::Refused,
+        httpStatus("MovedList", "302 Found", FaultKind::Refused,
                    "The print server %1 answered with a redirection, which is not followed "
                    "(HTTP 302).",
                    printers),
-        httpStatus("PasswordForAPPD", "401 Unauthorized", ServerFault::NeedsPassword,
+        httpStatus("PasswordForAPPD", "401 Unauthorized", FaultKind::NeedsPassword,
                    "The print server %1 lets nobody print to photo without a password."),
-        httpStatus("PasswordForTheList", "401 Unauthorized", ServerFault::NeedsPassword,
+        httpStatus("PasswordForTheList", "401 Unauthorized", FaultKind::NeedsPassword,
                    "The print server %1 answers nobody without a password.", printers),
-        httpStatus("ForbiddenPPD", "403 Forbidden", ServerFault::Refused,
+        httpStatus("ForbiddenPPD", "403 Forbidden", FaultKind::Refused,
                    "The print server %1 does not allow this machine to print to photo."),
-        httpStatus("ForbiddenList", "403 Forbidden", ServerFault::Refused,
+        httpStatus("ForbiddenList", "403 Forbidden", FaultKind::Refused,
                    "The print server %1 does not allow this machine to ask.", printers),
-        httpStatus("NoSuchPPDAndNoIpp", "404 Not Found", ServerFault::NotFound,
+        httpStatus("NoSuchPPDAndNoIpp", "404 Not Found", FaultKind::NotFound,
                    "The print server %1 has no queue photo."),
-        httpStatus("NoIpp", "404 Not Found", ServerFault::NotFound,
+        httpStatus("NoIpp", "404 Not Found", FaultKind::NotFound,
                    "The print server %1 does not know what it was asked for.", printers),
-        httpStatus("NoIppForTheDefault", "405 Method Not Allowed", ServerFault::Refused,
+        httpStatus("NoIppForTheDefault", "405 Method Not Allowed", FaultKind::Refused,
                    "The print server %1 refused (HTTP 405).", defaultQueue),
-        httpStatus("EncryptionThatIsNotThere", "426 Upgrade Required", ServerFault::Refused,
+        httpStatus("EncryptionThatIsNotThere", "426 Upgrade Required", FaultKind::Refused,
                    "The print server %1 demands an encrypted connection, which cannot be made."),
-        httpStatus("FaultAtAPPD", "500 Internal Server Error", ServerFault::Refused,
+        httpStatus("FaultAtAPPD", "500 Internal Server Error", FaultKind::Refused,
                    "The print server %1 has a fault (HTTP 500)."),
-        httpStatus("FaultAtTheList", "503 Service Unavailable", ServerFault::Refused,
+        httpStatus("FaultAtTheList", "503 Service Unavailable", FaultKind::Refused,
                    "The print server %1 has a fault (HTTP 503).", printers),
-        httpStatus("NoneThatThereIs", "999 Whatever", ServerFault::Refused,
+        httpStatus("NoneThatThereIs", "999 Whatever", FaultKind::Refused,
                    "The print server %1 refused (HTTP 999).", printers)),
     CaseName());
 
 Misbehaviour ipp(const char *behaviour, const QByteArray &message, const char *sentence,
-                 ServerFault fault = ServerFault::Refused)
+                 std::optional<FaultKind> fault = FaultKind::Refused)
 {
     return {behaviour, printers, whenListing(answerIpp(message)), fault, sentence};
 }
@@ -318,7 +313,7 @@ INSTANTIATE_TEST_SUITE_P(
         ipp("ForbiddenWithAText", statusWithText(0x0401, "Not on Sundays."),
             "The print server %1 refused: Not on Sundays."),
         ipp("Password", IppBytes(0x0402).ended(),
-            "The print server %1 answers nobody without a password.", ServerFault::NeedsPassword)),
+            "The print server %1 answers nobody without a password.", FaultKind::NeedsPassword)),
     CaseName());
 
 INSTANTIATE_TEST_SUITE_P(
@@ -341,7 +336,7 @@ INSTANTIATE_TEST_SUITE_P(
         Misbehaviour{
             "NotHttp", printers,
             whenListing({readBody(), write("SSH-2.0-OpenSSH_9.2\r\n\r\n"), closeConnection()}),
-            ServerFault::Refused, kNonsense}),
+            FaultKind::Refused, kNonsense}),
     CaseName());
 
 // --- And what is no misbehaviour, however odd it looks
@@ -365,10 +360,10 @@ TEST_P(AnOddServer, IsUnderstood)
 {
     const ScriptedServer server(whenListing(GetParam().steps));
     CallGuard guard;
-    const DestinationList list = listDestinations(server.address(), guard);
-    EXPECT_EQ(list.answer.sentence, QString());
+    const auto list = listDestinations(server.address(), guard);
+    EXPECT_EQ(list.sentence(), QString());
     QStringList queues;
-    for (const Destination &destination : list.destinations)
+    for (const Destination &destination : *list)
         queues += destination.name.queue;
     EXPECT_EQ(queues, GetParam().queues);
 }
@@ -446,14 +441,14 @@ TEST(ALargeServer, ListsTwentyThousandQueues)
             .boolean("printer-is-accepting-jobs", false);
     const ScriptedServer server(whenListing(answerIpp(message.ended())));
     CallGuard guard;
-    const DestinationList list = listDestinations(server.address(), guard);
-    EXPECT_EQ(list.answer.sentence, QString());
-    ASSERT_EQ(list.destinations.size(), 20000);
-    EXPECT_EQ(list.destinations[19999].name.queue, u"queue119999"_s);
-    EXPECT_EQ(list.destinations[19999].description, QString(80, u'i'));
-    EXPECT_EQ(list.destinations[19999].location, QString(80, u'l'));
-    EXPECT_TRUE(list.destinations[19999].isStopped);
-    EXPECT_FALSE(list.destinations[19999].isAccepting);
+    const auto list = listDestinations(server.address(), guard);
+    EXPECT_EQ(list.sentence(), QString());
+    ASSERT_EQ(list->size(), 20000);
+    EXPECT_EQ((*list)[19999].name.queue, u"queue119999"_s);
+    EXPECT_EQ((*list)[19999].description, QString(80, u'i'));
+    EXPECT_EQ((*list)[19999].location, QString(80, u'l'));
+    EXPECT_TRUE((*list)[19999].isStopped);
+    EXPECT_FALSE((*list)[19999].isAccepting);
 }
 
 } // namespace

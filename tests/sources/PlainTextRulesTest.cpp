@@ -19,7 +19,7 @@ class ProductSources : public testing::TestWithParam<QString>
 
 TEST_P(ProductSources, GiveNoTextToWhatGuessesAtRichText)
 {
-    const QStringList files = filesBelow(GetParam(), {u"*.cpp"_s, u"*.h"_s});
+    const QStringList files = sourcesBelow(GetParam());
     ASSERT_FALSE(files.isEmpty());
     for (const QString &file : files)
         for (const QString &breach : breaches(projectName(file), contents(file), plainTextRules()))

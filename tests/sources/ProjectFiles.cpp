@@ -29,6 +29,11 @@ QStringList filesBelow(const QString &folder, const QStringList &patterns)
     return files;
 }
 
+QStringList sourcesBelow(const QString &folder)
+{
+    return filesBelow(folder, {QStringLiteral("*.cpp"), QStringLiteral("*.h")});
+}
+
 QString contents(const QString &path)
 {
     QFile file(path);

@@ -17,5 +17,8 @@ QString projectName(const QString &path);
 /// All files at any depth of the project's folder whose names match, by absolute paths.
 QStringList filesBelow(const QString &folder, const QStringList &patterns);
 
+/// The C++ sources there.
+QStringList sourcesBelow(const QString &folder);
+
 /// The text of the file; null when it cannot be read.
 QString contents(const QString &path);

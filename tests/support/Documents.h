@@ -11,9 +11,9 @@
 /// The documents at the paths, open. The test fails when one is none.
 inline Documents openedDocuments(const QStringList &paths)
 {
-    OpenedDocuments opened = openDocuments(paths);
-    EXPECT_EQ(opened.error, QString());
-    return opened.documents;
+    const auto opened = openDocuments(paths);
+    EXPECT_EQ(opened.sentence(), QString());
+    return opened ? *opened : Documents();
 }
 
 /// All bytes of the document.

@@ -13,9 +13,9 @@ namespace {
 
 PPDHandle openOrFail(const QString &path)
 {
-    OpenedPPD opened = openPPD(path);
-    EXPECT_TRUE(opened.ppd) << qPrintable(opened.error);
-    return std::move(opened.ppd);
+    auto opened = openPPD(path);
+    EXPECT_TRUE(opened.isGood()) << qPrintable(opened.sentence());
+    return opened ? std::move(opened->ppd) : nullptr;
 }
 
 const char kHead[] = R"ppd(*PPD-Adobe: "4.3"

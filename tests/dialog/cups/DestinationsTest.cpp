@@ -13,16 +13,16 @@ namespace {
 
 TEST_F(Server, ListsItsQueuesAndNamesItsDefault)
 {
-    const DestinationList list = listDestinations(s_server->address(), m_guard);
-    EXPECT_TRUE(list.answer.isGood()) << list.answer.sentence.toStdString();
+    const auto list = listDestinations(s_server->address(), m_guard);
+    EXPECT_TRUE(list.isGood()) << list.sentence().toStdString();
     QStringList names;
-    for (const Destination &destination : list.destinations) {
+    for (const Destination &destination : *list) {
         names += destination.name.queue;
         EXPECT_EQ(destination.isAccepting, destination.name.queue != u"closed"_s);
         EXPECT_EQ(destination.isDefault, destination.name.queue == u"photo"_s);
     }
     EXPECT_EQ(names, (QStringList{u"closed"_s, u"group"_s, u"photo"_s, u"raw"_s}));
-    EXPECT_EQ(serverDefault(s_server->address(), m_guard).queue, (QueueName{u"photo"_s, {}}));
+    EXPECT_EQ(serverDefault(s_server->address(), m_guard)->queue, u"photo"_s);
 }
 
 TEST_F(Server, ListsTheUsersInstancesBehindTheirQueues)
@@ -35,7 +35,9 @@ TEST_F(Server, ListsTheUsersInstancesBehindTheirQueues)
               "Dest gone/away copies=5\n");
     QStringList names;
     QString usual;
-    for (const Destination &one : listDestinations(s_server->address(), m_guard).destinations) {
+    const auto list = listDestinations(s_server->address(), m_guard);
+    ASSERT_TRUE(list) << list.sentence().toStdString();
+    for (const Destination &one : *list) {
         names +=
             one.name.queue + (one.name.instance.isNull() ? QString() : u'/' + one.name.instance);
         if (one.isDefault)

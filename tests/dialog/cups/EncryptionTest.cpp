@@ -42,15 +42,15 @@ TEST_P(EncryptedServer, IsPrintedTo)
     const auto encrypted = [&log] { return readFile(log).count("Connection now encrypted"); };
     const auto before = encrypted();
     const ScriptedServer front(GetParam().front + Script{{"connect", {relay(s_server->port())}}});
-    const QueuePPD queue = fetchQueuePPD(front.address(), u"photo"_s, m_guard);
-    ASSERT_TRUE(queue.file) << queue.answer.sentence.toStdString();
-    EXPECT_EQ(nickname(queue), u"Velkaro PX-T900, 1.0"_s);
+    const auto queue = fetchQueuePPD(front.address(), u"photo"_s, m_guard);
+    ASSERT_TRUE(queue) << queue.sentence().toStdString();
+    EXPECT_EQ(nickname(*queue), u"Velkaro PX-T900, 1.0"_s);
     JobRequest request = job(u"photo"_s);
     request.server = front.address();
     request.documents.push_back(document("second").front());
-    const JobReceipt receipt = submitJob(request, m_guard);
-    EXPECT_EQ(receipt.answer.sentence, QString());
-    EXPECT_EQ(receipt.notes, QStringList());
+    const auto receipt = submitJob(request, m_guard);
+    EXPECT_EQ(receipt.sentence(), QString());
+    EXPECT_EQ(receipt->notes, QStringList());
     EXPECT_EQ(encrypted() - before, GetParam().encryptedConnections);
 }
 

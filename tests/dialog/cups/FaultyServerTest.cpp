@@ -32,10 +32,15 @@ private:
     QTcpServer m_server; // never asked for its connections: the system accepts them
 };
 
+template <typename Value> Result<> withoutValue(const Result<Value> &result)
+{
+    return result ? Result<>() : result.fault();
+}
+
 struct Call
 {
     const char *behaviour;
-    ServerAnswer (*make)(const QString &server, CallGuard &guard);
+    Result<> (*make)(const QString &server, CallGuard &guard);
 };
 
 void PrintTo(const Call &row, std::ostream *out)
@@ -50,9 +55,9 @@ TEST_P(FaultyServer, WithoutAnybodyIsUnreachable)
 {
     CallGuard guard(500ms);
     const QString server = u"127.0.0.1:%1"_s.arg(freePort());
-    const ServerAnswer answer = GetParam().make(server, guard);
-    EXPECT_EQ(answer.fault, ServerFault::Unreachable);
-    EXPECT_EQ(answer.sentence, u"The print server %1 cannot be reached."_s.arg(server));
+    const auto answer = GetParam().make(server, guard);
+    EXPECT_EQ(answer.faultKind(), FaultKind::Unreachable);
+    EXPECT_EQ(answer.sentence(), u"The print server %1 cannot be reached."_s.arg(server));
 }
 
 TEST_P(FaultyServer, ThatIsSilentIsGivenUpInTime)
@@ -61,9 +66,9 @@ TEST_P(FaultyServer, ThatIsSilentIsGivenUpInTime)
     CallGuard guard(500ms);
     QElapsedTimer clock;
     clock.start();
-    const ServerAnswer answer = GetParam().make(server.address(), guard);
-    EXPECT_EQ(answer.fault, ServerFault::Silent);
-    EXPECT_EQ(answer.sentence, u"The print server %1 does not answer."_s.arg(server.address()));
+    const auto answer = GetParam().make(server.address(), guard);
+    EXPECT_EQ(answer.faultKind(), FaultKind::Silent);
+    EXPECT_EQ(answer.sentence(), u"The print server %1 does not answer."_s.arg(server.address()));
     EXPECT_LT(clock.elapsed(), 5000);
 }
 
@@ -71,11 +76,11 @@ INSTANTIATE_TEST_SUITE_P(
     Table, FaultyServer,
     testing::Values(Call{"ListingQueues",
                          [](const QString &server, CallGuard &guard) {
-                             return listDestinations(server, guard).answer;
+                             return withoutValue(listDestinations(server, guard));
                          }},
                     Call{"FetchingThePPD",
                          [](const QString &server, CallGuard &guard) {
-                             return fetchQueuePPD(server, u"photo"_s, guard).answer;
+                             return withoutValue(fetchQueuePPD(server, u"photo"_s, guard));
                          }},
                     Call{"SubmittingAJob",
                          [](const QString &server, CallGuard &guard) {
@@ -84,7 +89,7 @@ INSTANTIATE_TEST_SUITE_P(
                              request.queue = u"photo"_s;
                              request.documents =
                                  openedDocuments({QStringLiteral("/proc/self/exe")});
-                             return submitJob(request, guard).answer;
+                             return withoutValue(submitJob(request, guard));
                          }}),
     CaseName());
 

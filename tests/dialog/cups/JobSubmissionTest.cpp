@@ -27,16 +27,16 @@ TEST_F(Server, TakesAJobAsItWasSent)
                        {u"com.velkaro.print.PrintSettings.T2T_Red"_s, u"-7"_s},
                        {u"com.velkaro.text"_s, u"a, \"b\" 'c' \\d $(e)"_s}};
     request.documents.push_back(document("second").front());
-    const JobReceipt receipt = submitJob(request, m_guard);
-    ASSERT_TRUE(receipt.answer.isGood()) << receipt.answer.sentence.toStdString();
-    EXPECT_EQ(receipt.notes, QStringList());
-    const QMap<QString, QString> kept = s_server->jobAttributes(u"photo"_s, receipt.id);
+    const auto receipt = submitJob(request, m_guard);
+    ASSERT_TRUE(receipt.isGood()) << receipt.sentence().toStdString();
+    EXPECT_EQ(receipt->notes, QStringList());
+    const QMap<QString, QString> kept = s_server->jobAttributes(u"photo"_s, receipt->id);
     for (const JobOption &option : request.options)
         EXPECT_EQ(kept.value(option.name), option.value) << option.name.toStdString();
     EXPECT_EQ(kept.value(u"job-name"_s), u"A & B <i>"_s);
     EXPECT_EQ(kept.value(u"number-of-documents"_s), u"2"_s);
     EXPECT_FALSE(kept.contains(u"media"_s));
-    EXPECT_EQ(s_server->waitForJob(u"photo"_s, receipt.id), IPP_JSTATE_COMPLETED);
+    EXPECT_EQ(s_server->waitForJob(u"photo"_s, receipt->id), IPP_JSTATE_COMPLETED);
 }
 
 TEST_F(Server, IsGivenNamesWithoutControlCharacters)
@@ -46,21 +46,20 @@ TEST_F(Server, IsGivenNamesWithoutControlCharacters)
     const QString odd = m_folder.filePath(u"x\ny\u001B.ps"_s);
     ASSERT_TRUE(QFile::rename(request.documents[0].path(), odd));
     request.documents = openedDocuments({odd});
-    const JobReceipt receipt = submitJob(request, m_guard);
-    ASSERT_TRUE(receipt.answer.isGood()) << receipt.answer.sentence.toStdString();
-    const QMap<QString, QString> kept = s_server->jobAttributes(u"raw"_s, receipt.id);
+    const auto receipt = submitJob(request, m_guard);
+    ASSERT_TRUE(receipt.isGood()) << receipt.sentence().toStdString();
+    const QMap<QString, QString> kept = s_server->jobAttributes(u"raw"_s, receipt->id);
     EXPECT_EQ(kept.value(u"job-name"_s), u"A B [2J"_s);
     EXPECT_EQ(kept.value(u"document-name-supplied"_s), u"x y .ps"_s);
 }
 
 TEST_F(Server, RefusesAJobForAQueueThatIsClosed)
 {
-    const JobReceipt receipt = submitJob(job(u"closed"_s), m_guard);
-    EXPECT_EQ(receipt.id, 0);
-    EXPECT_EQ(receipt.answer.fault, ServerFault::Refused);
-    EXPECT_TRUE(receipt.answer.sentence.startsWith(
-        u"The print server %1 refused: "_s.arg(s_server->address())))
-        << receipt.answer.sentence.toStdString();
+    const auto receipt = submitJob(job(u"closed"_s), m_guard);
+    EXPECT_EQ(receipt.faultKind(), FaultKind::Refused);
+    EXPECT_TRUE(
+        receipt.sentence().startsWith(u"The print server %1 refused: "_s.arg(s_server->address())))
+        << receipt.sentence().toStdString();
     EXPECT_EQ(s_server->jobs(u"closed"_s), QList<int>());
 }
 
@@ -71,9 +70,9 @@ TEST_F(Server, GetsNoJobWhoseDocumentHasChanged)
     request.documents.push_back(document("second").front());
     const QString path = request.documents.back().path();
     ASSERT_TRUE(QFile::resize(path, 10));
-    const JobReceipt receipt = submitJob(request, m_guard);
-    EXPECT_EQ(receipt.answer.fault, ServerFault::Document);
-    EXPECT_EQ(receipt.answer.sentence,
+    const auto receipt = submitJob(request, m_guard);
+    EXPECT_EQ(receipt.faultKind(), FaultKind::Document);
+    EXPECT_EQ(receipt.sentence(),
               u"The document %1 has become shorter or longer since it was opened."_s.arg(path));
     EXPECT_EQ(s_server->jobs(u"photo"_s), before);
 }
@@ -82,11 +81,11 @@ TEST_F(Server, HoldsAJobAndItIsSaid)
 {
     JobRequest request = job(u"photo"_s);
     request.options = {{u"job-hold-until"_s, u"indefinite"_s}};
-    const JobReceipt receipt = submitJob(request, m_guard);
-    ASSERT_TRUE(receipt.answer.isGood());
+    const auto receipt = submitJob(request, m_guard);
+    ASSERT_TRUE(receipt.isGood());
     EXPECT_EQ(
-        receipt.notes,
-        QStringList{u"The server holds job %1 (job-hold-until-specified)."_s.arg(receipt.id)});
+        receipt->notes,
+        QStringList{u"The server holds job %1 (job-hold-until-specified)."_s.arg(receipt->id)});
 }
 
 TEST_F(Server, CancelsAJobThatTheUserStoppedSending)
@@ -97,13 +96,14 @@ TEST_F(Server, CancelsAJobThatTheUserStoppedSending)
     ASSERT_TRUE(endless.resize(4096LL * 1024 * 1024));
     JobRequest request = job(u"photo"_s);
     request.documents = openedDocuments({endless.fileName()});
-    JobReceipt receipt;
+    Result<JobReceipt> receipt;
+    const auto progress = std::make_shared<JobProgress>();
     bool isDone = false;
     QObject owner;
     auto *call = new BackgroundCall(
         &owner, kServerTimeout,
         [&](CallGuard &guard) -> BackgroundCall::Outcome {
-            const JobReceipt got = submitJob(request, guard);
+            const auto got = submitJob(request, guard, progress);
             return [&, got] {
                 receipt = got;
                 isDone = true;
@@ -114,21 +114,21 @@ TEST_F(Server, CancelsAJobThatTheUserStoppedSending)
     call->cancel();
     // The server's disk may be faster than the look at its jobs: then all has arrived.
     ASSERT_TRUE(QTest::qWaitFor([&] { return isDone; }, 20000));
-    if (receipt.answer.isGood())
+    if (receipt.isGood())
         FAIL() << "the document was too short for this test";
-    EXPECT_EQ(receipt.answer.fault, ServerFault::Cancelled);
-    EXPECT_EQ(s_server->waitForJob(u"photo"_s, receipt.id), IPP_JSTATE_CANCELED);
+    EXPECT_EQ(receipt.faultKind(), FaultKind::Cancelled);
+    EXPECT_EQ(s_server->waitForJob(u"photo"_s, progress->id()), IPP_JSTATE_CANCELED);
 }
 
 TEST_F(Server, IsReachedByItsSocketToo)
 {
     JobRequest request = job(u"photo"_s);
     request.server = s_server->socketPath();
-    EXPECT_EQ(listDestinations(request.server, m_guard).destinations.size(), 4);
-    EXPECT_EQ(nickname(fetchQueuePPD(request.server, u"photo"_s, m_guard)),
+    EXPECT_EQ(listDestinations(request.server, m_guard)->size(), 4);
+    EXPECT_EQ(nickname(*fetchQueuePPD(request.server, u"photo"_s, m_guard)),
               u"Velkaro PX-T900, 1.0"_s);
-    const JobReceipt receipt = submitJob(request, m_guard);
-    EXPECT_TRUE(receipt.answer.isGood()) << receipt.answer.sentence.toStdString();
+    const auto receipt = submitJob(request, m_guard);
+    EXPECT_TRUE(receipt.isGood()) << receipt.sentence().toStdString();
 }
 
 } // namespace

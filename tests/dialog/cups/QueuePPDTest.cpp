@@ -20,33 +20,32 @@ TEST_F(Server, GivesThePPDOfAQueueInAFileWithoutAName)
     const auto restore = qScopeGuard(
         [&common] { common.isNull() ? qunsetenv("TMPDIR") : qputenv("TMPDIR", common); });
     qputenv("TMPDIR", m_folder.path().toLocal8Bit());
-    const QueuePPD queue = fetchQueuePPD(s_server->address(), u"photo"_s, m_guard);
-    ASSERT_TRUE(queue.file) << queue.answer.sentence.toStdString();
-    EXPECT_EQ(nickname(queue), u"Velkaro PX-T900, 1.0"_s);
+    const auto queue = fetchQueuePPD(s_server->address(), u"photo"_s, m_guard);
+    ASSERT_TRUE(queue) << queue.sentence().toStdString();
+    EXPECT_EQ(nickname(*queue), u"Velkaro PX-T900, 1.0"_s);
     EXPECT_EQ(QDir(m_folder.path()).entryList(QDir::Files), QStringList());
 }
 
 TEST_F(Server, GivesTheFirstMembersPPDForAClass)
 {
-    const QueuePPD queue = fetchQueuePPD(s_server->address(), u"group"_s, m_guard);
-    ASSERT_TRUE(queue.file) << queue.answer.sentence.toStdString();
-    EXPECT_EQ(nickname(queue), u"Velkaro PX-T900, 1.0"_s);
+    const auto queue = fetchQueuePPD(s_server->address(), u"group"_s, m_guard);
+    ASSERT_TRUE(queue) << queue.sentence().toStdString();
+    EXPECT_EQ(nickname(*queue), u"Velkaro PX-T900, 1.0"_s);
 }
 
 TEST_F(Server, SaysThatAQueueHasNoPPD)
 {
-    const QueuePPD queue = fetchQueuePPD(s_server->address(), u"raw"_s, m_guard);
-    EXPECT_FALSE(queue.file);
-    EXPECT_EQ(queue.answer.fault, ServerFault::None);
-    EXPECT_EQ(queue.answer.sentence, u"The queue raw has no PPD."_s);
+    const auto queue = fetchQueuePPD(s_server->address(), u"raw"_s, m_guard);
+    ASSERT_TRUE(queue) << queue.sentence().toStdString();
+    EXPECT_FALSE(queue->file);
+    EXPECT_EQ(missingPPD(u"raw"_s), u"The queue raw has no PPD."_s);
 }
 
 TEST_F(Server, SaysThatThereIsNoSuchQueue)
 {
-    const QueuePPD queue = fetchQueuePPD(s_server->address(), u"no/such queue"_s, m_guard);
-    EXPECT_FALSE(queue.file);
-    EXPECT_EQ(queue.answer.fault, ServerFault::NotFound);
-    EXPECT_EQ(queue.answer.sentence,
+    const auto queue = fetchQueuePPD(s_server->address(), u"no/such queue"_s, m_guard);
+    EXPECT_EQ(queue.faultKind(), FaultKind::NotFound);
+    EXPECT_EQ(queue.sentence(),
               u"The print server %1 has no queue no/such queue."_s.arg(s_server->address()));
 }
 
@@ -54,9 +53,9 @@ TEST_F(Server, ThatDemandsAPasswordGetsNone)
 {
     PrintServer server(u"AuthType Basic\nRequire valid-user"_s);
     ASSERT_EQ(server.fault(), QString());
-    const QueuePPD queue = fetchQueuePPD(server.address(), u"photo"_s, m_guard);
-    EXPECT_EQ(queue.answer.fault, ServerFault::NeedsPassword);
-    EXPECT_EQ(queue.answer.sentence,
+    const auto queue = fetchQueuePPD(server.address(), u"photo"_s, m_guard);
+    EXPECT_EQ(queue.faultKind(), FaultKind::NeedsPassword);
+    EXPECT_EQ(queue.sentence(),
               u"The print server %1 lets nobody print to photo without a password."_s.arg(
                   server.address()));
 }
@@ -65,13 +64,14 @@ TEST_F(Server, ThatDemandsAPasswordGetsNone)
 TEST_F(Server, SaysThatTheTemporaryFolderTakesNotAllOfAPPD)
 {
     const QString server = s_server->address();
-    const auto size = QFileInfo(fetchQueuePPD(server, u"photo"_s, m_guard).path()).size();
+    const auto whole = fetchQueuePPD(server, u"photo"_s, m_guard);
+    ASSERT_TRUE(whole) << whole.sentence().toStdString();
+    const auto size = QFileInfo(whole->path()).size();
     ASSERT_GT(size, 10000);
     const FileSizeLimit limit(static_cast<rlim_t>(size - 1));
-    const QueuePPD queue = fetchQueuePPD(server, u"photo"_s, m_guard);
-    EXPECT_FALSE(queue.file);
-    EXPECT_EQ(queue.answer.fault, ServerFault::Refused);
-    EXPECT_EQ(queue.answer.sentence,
+    const auto queue = fetchQueuePPD(server, u"photo"_s, m_guard);
+    EXPECT_EQ(queue.faultKind(), FaultKind::Refused);
+    EXPECT_EQ(queue.sentence(),
               u"What the print server %1 sends cannot be kept in the temporary folder: "
               "File too large."_s.arg(server));
 }

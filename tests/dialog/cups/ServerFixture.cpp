@@ -48,6 +48,6 @@ JobRequest Server::job(const QString &queue)
 
 QString nickname(const QueuePPD &queue)
 {
-    const OpenedPPD opened = openPPD(queue.path());
-    return opened.ppd ? ppdText(opened.ppd->nickname) : opened.error;
+    const auto opened = openPPD(queue.path());
+    return opened ? ppdText(opened->ppd->nickname) : opened.sentence();
 }

@@ -41,9 +41,10 @@ protected:
                   OutputFile::Appears appears = OutputFile::Appears::WhenWhole)
     {
         OutputFile file;
-        const bool isDone = file.open(name, m_terms, appears) && file.write(text) && file.commit();
-        EXPECT_EQ(isDone, file.error().isNull());
-        return file.error();
+        return file.open(name, m_terms, appears)
+            .andThen([&] { return file.write(text); })
+            .andThen([&] { return file.commit(); })
+            .sentence();
     }
 
     QTemporaryDir m_folder;
@@ -57,7 +58,7 @@ TEST_F(OutputFileIn, IsThereWhenItIsWhole)
     ASSERT_TRUE(file.write("one "));
     EXPECT_FALSE(QFileInfo::exists(path(u"new"_s)));
     ASSERT_TRUE(file.write("two"));
-    ASSERT_TRUE(file.commit()) << file.error().toStdString();
+    ASSERT_EQ(file.commit().sentence(), QString());
     EXPECT_EQ(readFile(path(u"new"_s)), "one two");
     EXPECT_EQ(names(), QStringList{u"new"_s});
     EXPECT_EQ(file.identity(), identityOf(path(u"new"_s)));
@@ -232,8 +233,8 @@ TEST_F(OutputFileIn, APipeWhoseReaderGoesIsSaid)
         const FileDescriptor reader(::open(pipe.constData(), O_RDONLY | O_NONBLOCK));
         ASSERT_TRUE(file.open(path(u"pipe"_s), m_terms));
     }
-    EXPECT_FALSE(file.write("x"));
-    EXPECT_EQ(file.error(), u"The file %1 cannot be written: Broken pipe."_s.arg(path(u"pipe"_s)));
+    EXPECT_EQ(file.write("x").sentence(),
+              u"The file %1 cannot be written: Broken pipe."_s.arg(path(u"pipe"_s)));
 }
 
 TEST_F(OutputFileIn, NeedsNoPermissionForADevice)

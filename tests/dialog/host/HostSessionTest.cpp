@@ -27,7 +27,7 @@ protected:
 
     HostSession &start()
     {
-        m_session = HostSession::open(m_options).session;
+        m_session = *HostSession::open(m_options);
         m_session->start();
         return *m_session;
     }
@@ -245,9 +245,9 @@ TEST_F(HostSessionTest, WithoutAPlugInThereAreNoPanels)
 TEST_F(HostSessionTest, APPDThatCannotBeOpenedGivesNoSession)
 {
     m_options.ppdPath = u"/nowhere.ppd"_s;
-    const HostSession::Opened opened = HostSession::open(m_options);
-    EXPECT_EQ(opened.session, nullptr);
-    EXPECT_EQ(opened.ppdError, u"The PPD file /nowhere.ppd does not exist."_s);
+    const auto opened = HostSession::open(m_options);
+    EXPECT_EQ(opened.faultKind(), FaultKind::PPD);
+    EXPECT_EQ(opened.sentence(), u"The PPD file /nowhere.ppd does not exist."_s);
 }
 
 TEST_F(HostSessionTest, StartsWithTheAlertMemoryThatItIsGiven)

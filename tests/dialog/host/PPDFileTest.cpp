@@ -33,12 +33,12 @@ class PPDThatIsNone : public testing::TestWithParam<BadPPD>
 {};
 
 /// Opens the PPD as a user who owns nothing: root may read everything.
-OpenedPPD openAsNobody(const QString &path)
+Result<OpenedPPD> openAsNobody(const QString &path)
 {
     constexpr uid_t nobody = 65534;
     const uid_t user = geteuid();
     const bool changed = user == 0 && seteuid(nobody) == 0;
-    OpenedPPD opened = openPPD(path);
+    auto opened = openPPD(path);
     EXPECT_TRUE(!changed || seteuid(user) == 0);
     return opened;
 }
@@ -54,9 +54,9 @@ TEST_P(PPDThatIsNone, IsRefusedWithASentence)
     const QTemporaryDir folder;
     const QString path = folder.filePath(u"the.ppd"_s);
     writeFile(path, GetParam().text);
-    const OpenedPPD opened = openPPD(path);
-    EXPECT_EQ(opened.ppd, nullptr);
-    EXPECT_EQ(opened.error.toStdString(),
+    const auto opened = openPPD(path);
+    EXPECT_EQ(opened.faultKind(), FaultKind::PPD);
+    EXPECT_EQ(opened.sentence().toStdString(),
               QString::fromUtf8(GetParam().error).arg(path).toStdString());
 }
 
@@ -80,9 +80,9 @@ INSTANTIATE_TEST_SUITE_P(
 
 TEST(PPDFile, AMissingFileIsSaidToBeMissing)
 {
-    const OpenedPPD opened = openPPD(u"/nowhere/the.ppd"_s);
-    EXPECT_EQ(opened.ppd, nullptr);
-    EXPECT_EQ(opened.error, u"The PPD file /nowhere/the.ppd does not exist."_s);
+    const auto opened = openPPD(u"/nowhere/the.ppd"_s);
+    EXPECT_EQ(opened.faultKind(), FaultKind::PPD);
+    EXPECT_EQ(opened.sentence(), u"The PPD file /nowhere/the.ppd does not exist."_s);
 }
 
 TEST(PPDFile, APathWithPercentSignsIsNamedAsItIs)
@@ -90,20 +90,21 @@ TEST(PPDFile, APathWithPercentSignsIsNamedAsItIs)
     const QTemporaryDir folder;
     const QString path = folder.filePath(u"100%2 %3.ppd"_s);
     writeFile(path, "Hello\n");
-    EXPECT_EQ(openPPD(path).error,
+    EXPECT_EQ(openPPD(path).sentence(),
               path + u" is not a usable PPD file (line 1: Missing asterisk in column 1)."_s);
     writeFile(path, "");
-    EXPECT_EQ(openPPD(path).error, path + u" is not a PPD file (Missing PPD-Adobe-4.x header)."_s);
+    EXPECT_EQ(openPPD(path).sentence(),
+              path + u" is not a PPD file (Missing PPD-Adobe-4.x header)."_s);
 }
 
 TEST(PPDFile, AFolderAndAPipeAreNoPPDs)
 {
     const QTemporaryDir folder;
-    EXPECT_EQ(openPPD(folder.path()).error, folder.path() + u" is not a PPD file."_s);
+    EXPECT_EQ(openPPD(folder.path()).sentence(), folder.path() + u" is not a PPD file."_s);
     const QString pipe = folder.filePath(u"pipe"_s);
     ASSERT_EQ(mkfifo(QFile::encodeName(pipe).constData(), 0600), 0);
-    EXPECT_EQ(openPPD(pipe).error, pipe + u" is not a PPD file."_s);
-    EXPECT_EQ(openPPD(u"/dev/zero"_s).error, u"/dev/zero is not a PPD file."_s);
+    EXPECT_EQ(openPPD(pipe).sentence(), pipe + u" is not a PPD file."_s);
+    EXPECT_EQ(openPPD(u"/dev/zero"_s).sentence(), u"/dev/zero is not a PPD file."_s);
 }
 
 // What libcups does not do today it might do tomorrow: the pipe would hang it.
@@ -114,7 +115,7 @@ TEST(PPDFile, NothingThatAPPDNamesIsOpened)
     ASSERT_EQ(mkfifo(QFile::encodeName(pipe).constData(), 0600), 0);
     const QString path = folder.filePath(u"the.ppd"_s);
     writeFile(path, smallPrinter().text() + "*Include: \"" + QFile::encodeName(pipe) + "\"\n");
-    EXPECT_TRUE(openPPD(path).ppd);
+    EXPECT_TRUE(openPPD(path));
 }
 
 TEST(PPDFile, AFileThatThisUserMayNotReadIsSaidSo)
@@ -124,9 +125,9 @@ TEST(PPDFile, AFileThatThisUserMayNotReadIsSaidSo)
     writeFile(path, smallPrinter().text());
     ASSERT_TRUE(QFile::setPermissions(path, {}));
     ASSERT_EQ(chmod(QFile::encodeName(folder.path()).constData(), 0711), 0);
-    const OpenedPPD opened = openAsNobody(path);
-    EXPECT_EQ(opened.ppd, nullptr);
-    EXPECT_EQ(opened.error, u"The PPD file %1 cannot be read."_s.arg(path));
+    const auto opened = openAsNobody(path);
+    EXPECT_EQ(opened.faultKind(), FaultKind::PPD);
+    EXPECT_EQ(opened.sentence(), u"The PPD file %1 cannot be read."_s.arg(path));
 }
 
 TEST(PPDFile, AGoodPPDIsOpenedWithItsDefaultsMarked)
@@ -134,11 +135,11 @@ TEST(PPDFile, AGoodPPDIsOpenedWithItsDefaultsMarked)
     const QTemporaryDir folder;
     const QString path = folder.filePath(u"the.ppd"_s);
     writeFile(path, smallPrinter().text());
-    const OpenedPPD opened = openPPD(path);
-    ASSERT_NE(opened.ppd, nullptr) << opened.error.toStdString();
-    EXPECT_TRUE(opened.error.isNull());
-    EXPECT_EQ(markedChoice(opened.ppd.get(), u"PageSize"_s), u"A4"_s);
-    EXPECT_EQ(markedChoice(opened.ppd.get(), u"Finish"_s), u"Matt"_s);
+    const auto opened = openPPD(path);
+    ASSERT_TRUE(opened) << opened.sentence().toStdString();
+    EXPECT_TRUE(opened.sentence().isNull());
+    EXPECT_EQ(markedChoice(opened->ppd.get(), u"PageSize"_s), u"A4"_s);
+    EXPECT_EQ(markedChoice(opened->ppd.get(), u"Finish"_s), u"Matt"_s);
 }
 
 TEST(PPDFile, AMissingLineBreakAtTheEndIsNoCut)
@@ -146,5 +147,5 @@ TEST(PPDFile, AMissingLineBreakAtTheEndIsNoCut)
     const QTemporaryDir folder;
     const QString path = folder.filePath(u"the.ppd"_s);
     writeFile(path, smallPrinter().text().trimmed());
-    EXPECT_NE(openPPD(path).ppd, nullptr);
+    EXPECT_TRUE(openPPD(path));
 }

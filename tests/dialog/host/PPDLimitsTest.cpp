@@ -76,16 +76,16 @@ private:
 
 TEST_P(PPDLimits, ArePassedByWhatStandsAtThem)
 {
-    const OpenedPPD opened = openPPD(write(GetParam().most));
-    EXPECT_TRUE(opened.ppd) << opened.error.toStdString();
+    const auto opened = openPPD(write(GetParam().most));
+    EXPECT_TRUE(opened) << opened.sentence().toStdString();
 }
 
 TEST_P(PPDLimits, RefuseWhatIsOneAboveThem)
 {
     const QString path = write(GetParam().most + 1);
-    const OpenedPPD opened = openPPD(path);
-    EXPECT_FALSE(opened.ppd);
-    EXPECT_EQ(opened.error, QString::fromLatin1(GetParam().error).arg(path));
+    const auto opened = openPPD(path);
+    EXPECT_FALSE(opened);
+    EXPECT_EQ(opened.sentence(), QString::fromLatin1(GetParam().error).arg(path));
 }
 
 INSTANTIATE_TEST_SUITE_P(Table, PPDLimits, testing::ValuesIn(kRows), [](const auto &row) {

@@ -32,8 +32,9 @@ protected:
         const QTemporaryDir folder;
         const QString path = folder.filePath(u"the.ppd"_s);
         writeFile(path, text);
-        m_opened = openPPD(path);
-        ASSERT_TRUE(m_opened.ppd) << m_opened.error.toStdString();
+        auto opened = openPPD(path);
+        ASSERT_TRUE(opened) << opened.sentence().toStdString();
+        m_opened = *std::move(opened);
     }
 
     Marks changed() { return changedMarks(m_opened.ppd.get(), m_opened.defaults); }

@@ -29,13 +29,16 @@ QByteArray packed(const QByteArray &bytes)
 class PackedPPD : public testing::Test
 {
 protected:
-    OpenedPPD open(const QByteArray &bytes)
+    Result<OpenedPPD> open(const QByteArray &bytes)
     {
         writeFile(m_path, bytes);
         return openPPD(m_path);
     }
 
-    QString error(const QByteArray &bytes) { return open(bytes).error.replace(m_path, u"FILE"_s); }
+    QString error(const QByteArray &bytes)
+    {
+        return open(bytes).sentence().replace(m_path, u"FILE"_s);
+    }
 
 private:
     QTemporaryDir m_folder;
@@ -44,23 +47,23 @@ private:
 
 TEST_F(PackedPPD, IsOpened)
 {
-    const OpenedPPD opened = open(packed(smallPrinter().text()));
-    ASSERT_TRUE(opened.ppd) << opened.error.toStdString();
-    EXPECT_EQ(markedChoice(opened.ppd.get(), u"Finish"_s), u"Matt"_s);
+    const auto opened = open(packed(smallPrinter().text()));
+    ASSERT_TRUE(opened) << opened.sentence().toStdString();
+    EXPECT_EQ(markedChoice(opened->ppd.get(), u"Finish"_s), u"Matt"_s);
 }
 
 TEST_F(PackedPPD, MayBePackedInParts)
 {
     const QByteArray text = smallPrinter().text();
     const qsizetype half = text.indexOf("*OpenUI *Finish");
-    const OpenedPPD opened = open(packed(text.left(half)) + packed(text.mid(half)));
-    ASSERT_TRUE(opened.ppd) << opened.error.toStdString();
-    EXPECT_EQ(markedChoice(opened.ppd.get(), u"Finish"_s), u"Matt"_s);
+    const auto opened = open(packed(text.left(half)) + packed(text.mid(half)));
+    ASSERT_TRUE(opened) << opened.sentence().toStdString();
+    EXPECT_EQ(markedChoice(opened->ppd.get(), u"Finish"_s), u"Matt"_s);
 }
 
 TEST_F(PackedPPD, MayBeFollowedByPadding)
 {
-    EXPECT_TRUE(open(packed(smallPrinter().text()) + QByteArray(512, '\0')).ppd);
+    EXPECT_TRUE(open(packed(smallPrinter().text()) + QByteArray(512, '\0')));
 }
 
 TEST_F(PackedPPD, IsAsLongAsAnyOtherMayBe)

@@ -13,7 +13,7 @@ namespace {
 class Conflicts : public testing::Test
 {
 protected:
-    Conflicts() : m_opened(openPPD(m_file.path())) {}
+    Conflicts() : m_opened(*openPPD(m_file.path())) {}
 
     ClashingPPD m_file;
     OpenedPPD m_opened;

@@ -49,9 +49,9 @@ TEST_P(NoDocument, IsSaidAtOnce)
     const QTemporaryDir folder;
     const QString path = folder.filePath(u"x"_s);
     GetParam().make(path);
-    const OpenedDocuments opened = openDocuments({path});
-    EXPECT_EQ(opened.error, QString::fromUtf8(GetParam().sentence).arg(path));
-    EXPECT_TRUE(opened.documents.empty());
+    const auto opened = openDocuments({path});
+    EXPECT_EQ(opened.sentence(), QString::fromUtf8(GetParam().sentence).arg(path));
+    EXPECT_EQ(opened.faultKind(), FaultKind::Document);
 }
 
 INSTANTIATE_TEST_SUITE_P(
@@ -79,9 +79,8 @@ TEST(DocumentFile, NamesTheFirstThatCannotBeRead)
     const QTemporaryDir folder;
     const QString good = folder.filePath(u"good.ps"_s);
     writeFile(good, "%!PS\n");
-    const OpenedDocuments opened =
-        openDocuments({good, folder.path(), folder.filePath(u"missing"_s)});
-    EXPECT_EQ(opened.error, u"%1 is a folder, not a document."_s.arg(folder.path()));
+    const auto opened = openDocuments({good, folder.path(), folder.filePath(u"missing"_s)});
+    EXPECT_EQ(opened.sentence(), u"%1 is a folder, not a document."_s.arg(folder.path()));
 }
 
 TEST(DocumentFile, IsWhatWasOpenedWhateverStandsUnderItsNameNow)
@@ -140,7 +139,7 @@ INSTANTIATE_TEST_SUITE_P(
 
 TEST(DocumentFile, ThatIsMissingIsNamedInPlainText)
 {
-    EXPECT_EQ(openDocuments({pathOfBytes("/nowhere/\xff\n.ps")}).error,
+    EXPECT_EQ(openDocuments({pathOfBytes("/nowhere/\xff\n.ps")}).sentence(),
               u"The document /nowhere/\ufffd .ps does not exist."_s);
 }
 
@@ -204,11 +203,12 @@ TEST(DocumentFile, OfADescriptorThatIsNoDocumentIsSaid)
     const FileDescriptor own(open("/proc/self/exe", O_RDONLY | O_CLOEXEC));
     const StandardInput input(device.get());
     const auto fd = [](const FileDescriptor &file) { return u"/dev/fd/%1"_s.arg(file.get()); };
-    EXPECT_EQ(openDocuments({u"-"_s}).error, u"Standard input is a device, not a document."_s);
+    EXPECT_EQ(openDocuments({u"-"_s}).sentence(), u"Standard input is a device, not a document."_s);
     const QString unreadable = u"The document %1 cannot be read: Bad file descriptor."_s;
     for (const QString &path : {fd(writing), fd(own), u"/dev/fd/987654"_s})
-        EXPECT_EQ(openDocuments({path}).error, unreadable.arg(path));
-    EXPECT_EQ(openDocuments({u"/dev/fd/x"_s}).error, u"The document /dev/fd/x does not exist."_s);
+        EXPECT_EQ(openDocuments({path}).sentence(), unreadable.arg(path));
+    EXPECT_EQ(openDocuments({u"/dev/fd/x"_s}).sentence(),
+              u"The document /dev/fd/x does not exist."_s);
 }
 
 } // namespace

@@ -18,7 +18,7 @@ namespace {
 class JobOptionsOf : public testing::Test
 {
 protected:
-    JobOptionsOf() : m_opened(openPPD(samplePPD(u"velkaro-px-t900"_s)))
+    JobOptionsOf() : m_opened(*openPPD(samplePPD(u"velkaro-px-t900"_s)))
     {
         m_values.ppd = m_opened.ppd.get();
         m_values.defaultMarks = m_opened.defaults;
@@ -110,7 +110,7 @@ TEST_F(JobOptionsOf, AQueueWithoutAPPDAreTheHostSettingsAlone)
     EXPECT_EQ(made(), QStringList{u"copies=2"_s});
 }
 
-TEST_F(JobOptionsOf, AValueThatMustNotBeSentIsNamed)
+TEST_F(JobOptionsOf, WhatMustNotBeSentIsNamedByItsNameOrItsValue)
 {
     ticket(u"com.velkaro.bad key"_s, u"x"_s);
     ticket(u"com.velkaro.evil"_s, u"a\nFoomaticRIPCommandLine: b"_s);
@@ -119,8 +119,8 @@ TEST_F(JobOptionsOf, AValueThatMustNotBeSentIsNamed)
     EXPECT_EQ(job.options, (QList<JobOption>{{u"com.velkaro.good"_s, u"x"_s}}));
     EXPECT_EQ(
         job.faults,
-        (QStringList{u"The setting com.velkaro.bad key cannot be sent: \"x\" is no value that "
-                     "a print server may be given."_s,
+        (QStringList{u"The setting \"com.velkaro.bad key\" cannot be sent: a print server may be "
+                     "given no setting of that name."_s,
                      u"The setting com.velkaro.evil cannot be sent: \"a "
                      "FoomaticRIPCommandLine: b\" is no value that a print server may be "
                      "given."_s}));
@@ -152,7 +152,7 @@ protected:
         const QTemporaryDir folder;
         const QString path = folder.filePath(u"hostile.ppd"_s);
         writeFile(path, hostilePPD());
-        m_opened = openPPD(path);
+        m_opened = *openPPD(path);
         m_values.ppd = m_opened.ppd.get();
         m_values.defaultMarks = m_opened.defaults;
     }
@@ -160,13 +160,13 @@ protected:
 
 TEST_F(JobOptionsOfAHostilePPD, AreNoneWhileNothingIsPicked)
 {
-    ASSERT_TRUE(m_values.ppd) << m_opened.error.toStdString();
+    ASSERT_TRUE(m_values.ppd);
     EXPECT_EQ(made(), QStringList());
 }
 
 TEST_F(JobOptionsOfAHostilePPD, HaveNoReservedKeywordHoweverItIsMarked)
 {
-    ASSERT_TRUE(m_values.ppd) << m_opened.error.toStdString();
+    ASSERT_TRUE(m_values.ppd);
     for (const auto &[keyword, choices] :
          {std::pair(u"copies"_s, QStringList{u"1"_s, u"999"_s}),
           std::pair(u"raw"_s, QStringList{u"false"_s, u"true"_s}),
@@ -179,7 +179,7 @@ TEST_F(JobOptionsOfAHostilePPD, HaveNoReservedKeywordHoweverItIsMarked)
 
 TEST_F(JobOptionsOfAHostilePPD, KeepTheSavedSettingsOfThoseNames)
 {
-    ASSERT_TRUE(m_values.ppd) << m_opened.error.toStdString();
+    ASSERT_TRUE(m_values.ppd);
     const SavedSettings saved = applySavedOptions(
         m_values.ppd, {{u"copies"_s, u"3"_s}, {u"job-hold-until"_s, u"evening"_s}});
     EXPECT_EQ(saved.settings.copies, 3);

@@ -54,18 +54,18 @@ INSTANTIATE_TEST_SUITE_P(Table, CustomPaperText,
 
 TEST(Papers, OfAPPDHaveItsTextsAndSizes)
 {
-    const OpenedPPD opened = openPPD(samplePPD(u"velkaro-px-t900"_s));
-    ASSERT_TRUE(opened.ppd);
-    const std::optional<PMPaper> paper = paperOfChoice(opened.ppd.get(), u"A4.Fullbleed"_s);
+    const auto opened = openPPD(samplePPD(u"velkaro-px-t900"_s));
+    ASSERT_TRUE(opened);
+    const std::optional<PMPaper> paper = paperOfChoice(opened->ppd.get(), u"A4.Fullbleed"_s);
     ASSERT_TRUE(paper.has_value());
     EXPECT_EQ(paper->ppdName, u"A4.Fullbleed"_s);
     EXPECT_EQ(paper->width, 595);
     EXPECT_EQ(paper->height, 842);
-    EXPECT_EQ(paperText(opened.ppd.get(), *paper), u"A4 (Borderless)"_s);
-    EXPECT_EQ(paperText(opened.ppd.get(), customPaper(283.4646, 425.1969)), u"100 × 150 mm"_s);
-    EXPECT_EQ(paperOfChoice(opened.ppd.get(), u"a4.fullbleed"_s).value_or(PMPaper()).name,
+    EXPECT_EQ(paperText(opened->ppd.get(), *paper), u"A4 (Borderless)"_s);
+    EXPECT_EQ(paperText(opened->ppd.get(), customPaper(283.4646, 425.1969)), u"100 × 150 mm"_s);
+    EXPECT_EQ(paperOfChoice(opened->ppd.get(), u"a4.fullbleed"_s).value_or(PMPaper()).name,
               u"A4.Fullbleed"_s);
-    EXPECT_EQ(paperOfChoice(opened.ppd.get(), u"A44"_s), std::nullopt);
+    EXPECT_EQ(paperOfChoice(opened->ppd.get(), u"A44"_s), std::nullopt);
     EXPECT_EQ(customLimits(nullptr), std::nullopt);
 }
 

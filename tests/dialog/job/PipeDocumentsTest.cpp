@@ -35,7 +35,7 @@ protected:
     }
     void end() { m_writing = FileDescriptor(); }
 
-    ReadDocuments read(qint64 longest = kLongestPipe)
+    Result<Documents> read(qint64 longest = kLongestPipe)
     {
         return readPipes(openedDocuments({m_path}), m_guard, longest);
     }
@@ -53,21 +53,21 @@ TEST_F(Pipe, IsADocumentWhenItHasEnded)
         write(QByteArray(100'000, 'x')); // more than a pipe holds
         end();
     });
-    const ReadDocuments got = read();
+    const auto got = read();
     writer.join();
-    ASSERT_TRUE(got.answer.isGood()) << got.answer.sentence.toStdString();
-    ASSERT_EQ(got.documents.size(), 1);
-    EXPECT_FALSE(hasPipes(got.documents));
-    EXPECT_EQ(bytesOf(got.documents[0]), "%!PS\n" + QByteArray(100'000, 'x'));
-    EXPECT_EQ(bytesOf(got.documents[0]).size(), 100'005) << "read once more";
+    ASSERT_TRUE(got.isGood()) << got.sentence().toStdString();
+    ASSERT_EQ(got->size(), 1);
+    EXPECT_FALSE(hasPipes(*got));
+    EXPECT_EQ(bytesOf((*got)[0]), "%!PS\n" + QByteArray(100'000, 'x'));
+    EXPECT_EQ(bytesOf((*got)[0]).size(), 100'005) << "read once more";
 }
 
 TEST_F(Pipe, WithoutAByteIsEmpty)
 {
     end();
-    const ReadDocuments got = read();
-    EXPECT_EQ(got.answer.fault, ServerFault::Document);
-    EXPECT_EQ(got.answer.sentence, u"The document %1 is empty."_s.arg(m_path));
+    const auto got = read();
+    EXPECT_EQ(got.faultKind(), FaultKind::Document);
+    EXPECT_EQ(got.sentence(), u"The document %1 is empty."_s.arg(m_path));
 }
 
 TEST_F(Pipe, ThatDoesNotEndIsReadUpToALimit)
@@ -78,13 +78,12 @@ TEST_F(Pipe, ThatDoesNotEndIsReadUpToALimit)
         while (::write(m_writing.get(), piece.constData(), 10'000) == 10'000) {
         }
     });
-    const ReadDocuments got = read(2'000'000);
+    const auto got = read(2'000'000);
     m_reading = FileDescriptor();
     writer.join();
-    EXPECT_EQ(got.answer.fault, ServerFault::Document);
-    EXPECT_EQ(got.answer.sentence, u"The document %1 is longer than 2 MB, the most that is read "
-                                   "from a pipe."_s.arg(m_path));
-    EXPECT_TRUE(got.documents.empty());
+    EXPECT_EQ(got.faultKind(), FaultKind::Document);
+    EXPECT_EQ(got.sentence(), u"The document %1 is longer than 2 MB, the most that is read "
+                              "from a pipe."_s.arg(m_path));
 }
 
 TEST_F(Pipe, ThatIsSilentIsWaitedForUntilTheUserCancels)
@@ -98,10 +97,10 @@ TEST_F(Pipe, ThatIsSilentIsWaitedForUntilTheUserCancels)
                 break;
         hurried.cancel();
     });
-    const ReadDocuments got = readPipes(openedDocuments({m_path}), hurried);
+    const auto got = readPipes(openedDocuments({m_path}), hurried);
     user.join();
-    EXPECT_EQ(got.answer.fault, ServerFault::Cancelled);
-    EXPECT_EQ(got.answer.sentence, u"Printing was cancelled."_s);
+    EXPECT_EQ(got.faultKind(), FaultKind::Cancelled);
+    EXPECT_EQ(got.sentence(), u"Printing was cancelled."_s);
 }
 
 /// Another temporary folder, for as long as the object lives.
@@ -124,11 +123,11 @@ TEST_F(Pipe, LeavesNoNameInTheTemporaryFolder)
     const TemporaryFolder there(folder.path());
     write("%!PS\n");
     end();
-    const ReadDocuments got = read();
-    ASSERT_TRUE(got.answer.isGood());
+    const auto got = read();
+    ASSERT_TRUE(got.isGood());
     EXPECT_EQ(QDir(folder.path()).entryList(QDir::AllEntries | QDir::NoDotAndDotDot | QDir::Hidden),
               QStringList());
-    EXPECT_EQ(bytesOf(got.documents[0]), "%!PS\n");
+    EXPECT_EQ(bytesOf((*got)[0]), "%!PS\n");
 }
 
 TEST_F(Pipe, WithoutATemporaryFolderIsSaid)
@@ -136,7 +135,7 @@ TEST_F(Pipe, WithoutATemporaryFolderIsSaid)
     const TemporaryFolder nowhere(u"/nonexistent"_s);
     write("%!PS\n");
     end();
-    EXPECT_EQ(read().answer.sentence,
+    EXPECT_EQ(read().sentence(),
               u"The document %1 cannot be kept in the temporary folder /nonexistent: No such file "
               "or directory."_s.arg(m_path));
 }
@@ -146,7 +145,7 @@ TEST_F(Pipe, ThatFillsTheTemporaryFolderIsSaid)
     write("%!PS, and more than fits\n");
     end();
     const FileSizeLimit limit(10);
-    EXPECT_EQ(read().answer.sentence,
+    EXPECT_EQ(read().sentence(),
               u"There is no room in the temporary folder %1 for the document %2."_s.arg(
                   QDir::tempPath(), m_path));
 }

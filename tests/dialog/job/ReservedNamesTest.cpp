@@ -73,9 +73,9 @@ TEST(SamplePrinters, HaveNoReservedKeyword)
     const QStringList names = folder.entryList({u"*.ppd"_s});
     EXPECT_FALSE(names.isEmpty());
     for (const QString &name : names) {
-        const OpenedPPD opened = openPPD(folder.filePath(name));
-        ASSERT_TRUE(opened.ppd) << opened.error.toStdString();
-        for (const PPDMark &mark : opened.defaults)
+        const auto opened = openPPD(folder.filePath(name));
+        ASSERT_TRUE(opened) << opened.sentence().toStdString();
+        for (const PPDMark &mark : opened->defaults)
             EXPECT_FALSE(isReservedName(mark.keyword)) << mark.keyword.toStdString();
     }
 }

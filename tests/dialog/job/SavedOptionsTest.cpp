@@ -100,20 +100,20 @@ TEST(SavedLine, UnderstandsQuotesAndSkipsTheRest)
 
 TEST(SavedSettings, BecomeMarksSettingsAndTheRest)
 {
-    const OpenedPPD opened = openPPD(samplePPD(u"velkaro-px-t900"_s));
-    ASSERT_TRUE(opened.ppd) << opened.error.toStdString();
+    const auto opened = openPPD(samplePPD(u"velkaro-px-t900"_s));
+    ASSERT_TRUE(opened) << opened.sentence().toStdString();
     const SavedSettings settings =
-        applySavedOptions(opened.ppd.get(), {{u"VKMediaType"_s, u"Glossy"_s},
-                                             {u"PageSize"_s, u"A4.Fullbleed"_s},
-                                             {u"VKResolution"_s, u"NoSuchChoice"_s},
-                                             {u"sides"_s, u"two-sided-long-edge"_s},
-                                             {u"copies"_s, u"3"_s},
-                                             {u"page-ranges"_s, u"2-4"_s},
-                                             {u"orientation-requested"_s, u"5"_s},
-                                             {u"number-up"_s, u"2"_s}});
-    EXPECT_EQ(markedChoice(opened.ppd.get(), u"VKMediaType"_s), u"Glossy"_s);
-    EXPECT_EQ(markedChoice(opened.ppd.get(), u"PageSize"_s), u"A4.Fullbleed"_s);
-    EXPECT_EQ(markedChoice(opened.ppd.get(), u"Duplex"_s), u"DuplexNoTumble"_s);
+        applySavedOptions(opened->ppd.get(), {{u"VKMediaType"_s, u"Glossy"_s},
+                                              {u"PageSize"_s, u"A4.Fullbleed"_s},
+                                              {u"VKResolution"_s, u"NoSuchChoice"_s},
+                                              {u"sides"_s, u"two-sided-long-edge"_s},
+                                              {u"copies"_s, u"3"_s},
+                                              {u"page-ranges"_s, u"2-4"_s},
+                                              {u"orientation-requested"_s, u"5"_s},
+                                              {u"number-up"_s, u"2"_s}});
+    EXPECT_EQ(markedChoice(opened->ppd.get(), u"VKMediaType"_s), u"Glossy"_s);
+    EXPECT_EQ(markedChoice(opened->ppd.get(), u"PageSize"_s), u"A4.Fullbleed"_s);
+    EXPECT_EQ(markedChoice(opened->ppd.get(), u"Duplex"_s), u"DuplexNoTumble"_s);
     EXPECT_EQ(settings.settings.copies, 3);
     EXPECT_EQ(settings.settings.pageRanges, u"2-4"_s);
     EXPECT_EQ(settings.orientation, PMOrientation::Landscape);

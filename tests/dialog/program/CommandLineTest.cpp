@@ -27,7 +27,7 @@ class RefusedCommandLine : public testing::TestWithParam<Refused>
 
 TEST_P(RefusedCommandLine, SaysWhatIsWrong)
 {
-    EXPECT_EQ(parseCommandLine(GetParam().arguments).error.toStdString(), GetParam().sentence);
+    EXPECT_EQ(parseCommandLine(GetParam().arguments).sentence().toStdString(), GetParam().sentence);
 }
 
 INSTANTIATE_TEST_SUITE_P(
@@ -63,7 +63,7 @@ INSTANTIATE_TEST_SUITE_P(
 
 TEST(CommandLine, TakesEveryOption)
 {
-    const ParsedCommandLine parsed =
+    const Result<CommandLine> parsed =
         parseCommandLine({u"-d"_s,          u"photo/glossy"_s,
                           u"-h"_s,          u"host:8631"_s,
                           u"--ppd"_s,       u"a.ppd"_s,
@@ -76,8 +76,8 @@ TEST(CommandLine, TakesEveryOption)
                           u"r"_s,           u"--plug-in"_s,
                           u"p.bundle"_s,    u"one.pdf"_s,
                           u"--"_s,          u"-two.pdf"_s});
-    EXPECT_TRUE(parsed.error.isNull()) << parsed.error.toStdString();
-    const CommandLine &line = parsed.commandLine;
+    ASSERT_TRUE(parsed) << parsed.sentence().toStdString();
+    const CommandLine &line = *parsed;
     EXPECT_EQ(line.queue, u"photo"_s);
     EXPECT_EQ(line.instance, u"glossy"_s);
     EXPECT_EQ(line.server, u"host:8631"_s);
@@ -96,16 +96,15 @@ TEST(CommandLine, TakesEveryOption)
 
 TEST(CommandLine, TakesAPPDToCheckWithAPlugIn)
 {
-    const ParsedCommandLine parsed =
-        parseCommandLine({u"--check-ppd"_s, u"a.ppd"_s, u"--plug-in=p.bundle"_s});
-    EXPECT_TRUE(parsed.error.isNull()) << parsed.error.toStdString();
-    EXPECT_EQ(parsed.commandLine.checkPPD, u"a.ppd"_s);
-    EXPECT_EQ(parsed.commandLine.plugIn, u"p.bundle"_s);
+    const CommandLine line =
+        *parseCommandLine({u"--check-ppd"_s, u"a.ppd"_s, u"--plug-in=p.bundle"_s});
+    EXPECT_EQ(line.checkPPD, u"a.ppd"_s);
+    EXPECT_EQ(line.plugIn, u"p.bundle"_s);
 }
 
 TEST(CommandLine, LeavesWhatWasNotGivenNull)
 {
-    const CommandLine line = parseCommandLine({u"-dphoto"_s, u"-"_s}).commandLine;
+    const CommandLine line = *parseCommandLine({u"-dphoto"_s, u"-"_s});
     EXPECT_EQ(line.queue, u"photo"_s);
     EXPECT_TRUE(line.instance.isNull());
     EXPECT_TRUE(line.server.isNull());
@@ -113,13 +112,20 @@ TEST(CommandLine, LeavesWhatWasNotGivenNull)
     EXPECT_EQ(line.files, QStringList{u"-"_s});
 }
 
+TEST(CommandLine, TakesAHyphenForStandardOutput)
+{
+    for (const QStringList &arguments :
+         {QStringList{u"--output"_s, u"-"_s}, QStringList{u"--output=-"_s}})
+        EXPECT_EQ(parseCommandLine(arguments)->output, u"/dev/stdout"_s);
+}
+
 TEST(CommandLine, GivesHelpAndVersionDespiteFaults)
 {
-    const ParsedCommandLine parsed =
+    const Result<CommandLine> parsed =
         parseCommandLine({u"--frob"_s, u"--help"_s, u"--version"_s, u"--no-dialog"_s});
-    EXPECT_TRUE(parsed.error.isNull());
-    EXPECT_TRUE(parsed.commandLine.help);
-    EXPECT_TRUE(parsed.commandLine.version);
+    ASSERT_TRUE(parsed);
+    EXPECT_TRUE(parsed->help);
+    EXPECT_TRUE(parsed->version);
 }
 
 TEST(HelpText, NamesEveryOptionAndEveryStatus)

@@ -17,7 +17,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-struct Result
+struct Outcome
 {
     int status = -1;
     QStringList events; ///< the kinds of the lines that were printed
@@ -26,7 +26,8 @@ struct Result
 };
 
 /// Runs the program in a user's place who has no settings and no display.
-Result runProgram(const QStringList &arguments, const QString &folder, const QByteArray &input = {})
+Outcome runProgram(const QStringList &arguments, const QString &folder,
+                   const QByteArray &input = {})
 {
     QProcess program;
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
@@ -41,7 +42,7 @@ Result runProgram(const QStringList &arguments, const QString &folder, const QBy
     program.write(input);
     program.closeWriteChannel();
     EXPECT_TRUE(program.waitForFinished());
-    Result result{program.exitCode(), {}, {}, QString::fromUtf8(program.readAllStandardError())};
+    Outcome result{program.exitCode(), {}, {}, QString::fromUtf8(program.readAllStandardError())};
     const QList<QByteArray> lines = program.readAllStandardOutput().split('\n');
     for (const QByteArray &line : lines) {
         if (line.isEmpty())
@@ -59,7 +60,7 @@ class ReplayProgram : public testing::Test
 protected:
     ReplayProgram() { writeFile(m_folder.filePath(u"small.ppd"_s), smallPrinter().text()); }
 
-    Result replay(const QByteArray &script)
+    Outcome replay(const QByteArray &script)
     {
         writeFile(m_folder.filePath(u"the.jsonl"_s), script);
         return runProgram({u"--replay"_s, u"the.jsonl"_s}, m_folder.path());
@@ -74,11 +75,11 @@ protected:
 
 TEST_F(ReplayProgram, RunsAScriptToItsEnd)
 {
-    const Result result = replay("{\"do\": \"open\", \"ppd\": \"small.ppd\"}\n"
-                                 "\n"
-                                 "# a comment\n"
-                                 "{\"do\": \"show\", \"panel\": \"print\"}\r\n"
-                                 "{\"do\": \"close\"}");
+    const Outcome result = replay("{\"do\": \"open\", \"ppd\": \"small.ppd\"}\n"
+                                  "\n"
+                                  "# a comment\n"
+                                  "{\"do\": \"show\", \"panel\": \"print\"}\r\n"
+                                  "{\"do\": \"close\"}");
     EXPECT_EQ(result.status, 0);
     EXPECT_EQ(result.events, (QStringList{u"open"_s, u"show"_s, u"close"_s}));
     EXPECT_EQ(result.error, QString());
@@ -86,14 +87,14 @@ TEST_F(ReplayProgram, RunsAScriptToItsEnd)
 
 TEST_F(ReplayProgram, AnEmptyScriptIsNoFault)
 {
-    const Result result = replay("");
+    const Outcome result = replay("");
     EXPECT_EQ(result.status, 0);
     EXPECT_EQ(result.events, QStringList());
 }
 
 TEST_F(ReplayProgram, AnEventThatCannotBeCarriedOutIsNoFaultOfTheScript)
 {
-    const Result result = replay("{\"do\": \"print\"}\n");
+    const Outcome result = replay("{\"do\": \"print\"}\n");
     EXPECT_EQ(result.status, 0);
     EXPECT_EQ(result.events, QStringList{u"print"_s});
     EXPECT_EQ(result.error, QString());
@@ -101,8 +102,8 @@ TEST_F(ReplayProgram, AnEventThatCannotBeCarriedOutIsNoFaultOfTheScript)
 
 TEST_F(ReplayProgram, ReadsStandardInputWithPathsFromTheWorkingFolder)
 {
-    const Result result = runProgram({u"--replay"_s, u"-"_s}, m_folder.path(),
-                                     "{\"do\": \"open\", \"ppd\": \"small.ppd\"}\n");
+    const Outcome result = runProgram({u"--replay"_s, u"-"_s}, m_folder.path(),
+                                      "{\"do\": \"open\", \"ppd\": \"small.ppd\"}\n");
     EXPECT_EQ(result.status, 0);
     EXPECT_EQ(result.events, QStringList{u"open"_s});
 }
@@ -111,7 +112,7 @@ TEST_F(ReplayProgram, PathsOfAScriptAreRelativeToIt)
 {
     writeFile(path(u"the.jsonl"_s), "{\"do\": \"open\", \"ppd\": \"small.ppd\"}\n");
     const QTemporaryDir elsewhere;
-    const Result result = runProgram({u"--replay"_s, path(u"the.jsonl"_s)}, elsewhere.path());
+    const Outcome result = runProgram({u"--replay"_s, path(u"the.jsonl"_s)}, elsewhere.path());
     EXPECT_EQ(result.status, 0);
     EXPECT_EQ(result.events, QStringList{u"open"_s});
 }
@@ -134,11 +135,11 @@ TEST_F(ReplayProgram, EachLineIsOutBeforeTheNextOneIsRead)
 
 TEST_F(ReplayProgram, AFaultyLineEndsTheScriptAfterTheEventsBeforeIt)
 {
-    const Result result = replay("{\"do\": \"open\", \"ppd\": \"small.ppd\"}\n"
-                                 "{\"do\": \"state\"}\n"
-                                 "\n"
-                                 "{\"do\": \"show\"}\n"
-                                 "{\"do\": \"state\"}\n");
+    const Outcome result = replay("{\"do\": \"open\", \"ppd\": \"small.ppd\"}\n"
+                                  "{\"do\": \"state\"}\n"
+                                  "\n"
+                                  "{\"do\": \"show\"}\n"
+                                  "{\"do\": \"state\"}\n");
     EXPECT_EQ(result.status, 2);
     EXPECT_EQ(result.events, (QStringList{u"open"_s, u"state"_s}));
     EXPECT_EQ(result.error, u"velkaro-print: the.jsonl, line 4: show: \"panel\" is missing\n"_s);
@@ -146,7 +147,7 @@ TEST_F(ReplayProgram, AFaultyLineEndsTheScriptAfterTheEventsBeforeIt)
 
 TEST_F(ReplayProgram, AMissingScriptIsSaidToBeMissing)
 {
-    const Result result = runProgram({u"--replay"_s, u"none.jsonl"_s}, m_folder.path());
+    const Outcome result = runProgram({u"--replay"_s, u"none.jsonl"_s}, m_folder.path());
     EXPECT_EQ(result.status, 2);
     EXPECT_EQ(result.error, u"velkaro-print: the script none.jsonl cannot be read: No such file or "
                             u"directory\n"_s);
@@ -154,7 +155,7 @@ TEST_F(ReplayProgram, AMissingScriptIsSaidToBeMissing)
 
 TEST_F(ReplayProgram, AFolderIsNoScript)
 {
-    const Result result = runProgram({u"--replay"_s, u"."_s}, m_folder.path());
+    const Outcome result = runProgram({u"--replay"_s, u"."_s}, m_folder.path());
     EXPECT_EQ(result.status, 2);
     EXPECT_EQ(result.error.count(u'\n'), 1);
     EXPECT_TRUE(result.error.startsWith(u"velkaro-print: "_s)) << result.error.toStdString();
@@ -163,7 +164,7 @@ TEST_F(ReplayProgram, AFolderIsNoScript)
 TEST_F(ReplayProgram, ANamedPipeIsNoScript)
 {
     ASSERT_EQ(mkfifo(QFile::encodeName(path(u"pipe"_s)).constData(), 0600), 0);
-    const Result result = runProgram({u"--replay"_s, u"pipe"_s}, m_folder.path());
+    const Outcome result = runProgram({u"--replay"_s, u"pipe"_s}, m_folder.path());
     EXPECT_EQ(result.status, 2);
     EXPECT_EQ(result.error,
               u"velkaro-print: the script pipe cannot be read: it is no ordinary file\n"_s);
@@ -171,7 +172,7 @@ TEST_F(ReplayProgram, ANamedPipeIsNoScript)
 
 TEST_F(ReplayProgram, ADeviceIsNoScript)
 {
-    const Result result = runProgram({u"--replay"_s, u"/dev/zero"_s}, m_folder.path());
+    const Outcome result = runProgram({u"--replay"_s, u"/dev/zero"_s}, m_folder.path());
     EXPECT_EQ(result.status, 2);
     EXPECT_EQ(result.error,
               u"velkaro-print: the script /dev/zero cannot be read: it is no ordinary file\n"_s);
@@ -181,7 +182,7 @@ TEST_F(ReplayProgram, ALineMayHaveAMillionBytes)
 {
     const QByteArray comment = '#' + QByteArray(999'998, 'x') + '\n';
     EXPECT_EQ(replay(comment).status, 0);
-    const Result longer = replay('#' + comment);
+    const Outcome longer = replay('#' + comment);
     EXPECT_EQ(longer.status, 2);
     EXPECT_EQ(longer.error,
               u"velkaro-print: the.jsonl, line 1: the line has more than 1000000 bytes\n"_s);
@@ -189,7 +190,7 @@ TEST_F(ReplayProgram, ALineMayHaveAMillionBytes)
 
 TEST_F(ReplayProgram, ALineBreakInANameStaysOnOneLine)
 {
-    const Result result = replay("{\"do\": \"open\", \"ppd\": \"a\\nb.ppd\"}\n");
+    const Outcome result = replay("{\"do\": \"open\", \"ppd\": \"a\\nb.ppd\"}\n");
     EXPECT_EQ(result.status, 2);
     EXPECT_EQ(result.error,
               u"velkaro-print: the.jsonl, line 1: The PPD file %1 does not exist.\n"_s.arg(
@@ -199,7 +200,7 @@ TEST_F(ReplayProgram, ALineBreakInANameStaysOnOneLine)
 TEST_F(ReplayProgram, AScriptWithAPercentSignIsNamedAsItIs)
 {
     writeFile(path(u"100%2.jsonl"_s), "{\"do\": \"dance\"}\n");
-    const Result result = runProgram({u"--replay"_s, u"100%2.jsonl"_s}, m_folder.path());
+    const Outcome result = runProgram({u"--replay"_s, u"100%2.jsonl"_s}, m_folder.path());
     EXPECT_EQ(result.error, u"velkaro-print: 100%2.jsonl, line 1: there is no event \"dance\"\n"_s);
 }
 
@@ -214,8 +215,8 @@ TEST_F(ReplayProgram, APPDThatCannotBeOpenedEndsTheScript)
         {".", u"%1 is not a PPD file."_s},
     };
     for (const auto &[name, sentence] : cases) {
-        const Result result = replay("{\"do\": \"state\"}\n{\"do\": \"open\", \"ppd\": \"" +
-                                     QByteArray(name) + "\"}\n{\"do\": \"state\"}\n");
+        const Outcome result = replay("{\"do\": \"state\"}\n{\"do\": \"open\", \"ppd\": \"" +
+                                      QByteArray(name) + "\"}\n{\"do\": \"state\"}\n");
         EXPECT_EQ(result.status, 2);
         EXPECT_EQ(result.events, QStringList{u"state"_s});
         EXPECT_EQ(result.error.toStdString(), (u"velkaro-print: the.jsonl, line 2: "_s +
@@ -226,8 +227,8 @@ TEST_F(ReplayProgram, APPDThatCannotBeOpenedEndsTheScript)
 
 TEST_F(ReplayProgram, LeavesNothingInTheUsersFolders)
 {
-    const Result result = replay("{\"do\": \"open\", \"ppd\": \"small.ppd\"}\n"
-                                 "{\"do\": \"print\"}\n");
+    const Outcome result = replay("{\"do\": \"open\", \"ppd\": \"small.ppd\"}\n"
+                                  "{\"do\": \"print\"}\n");
     EXPECT_EQ(result.status, 0);
     EXPECT_FALSE(QDir(path(u"config"_s)).exists());
     EXPECT_EQ(
@@ -247,7 +248,7 @@ TEST_F(ReplayProgram, APictureThatMayNotBeWrittenIsNoFaultOfTheScript)
                               "{\"do\": \"picture\", \"file\": \"full.ppd\"}\n"
                               "{\"do\": \"picture\", \"file\": \"the.jsonl\"}\n";
     const QByteArray ppd = readFile(path(u"full.ppd"_s));
-    Result result = replay(script);
+    Outcome result = replay(script);
     EXPECT_EQ(result.status, 0);
     EXPECT_EQ(result.faults, (QList<int>{3, 6, 7}));
     EXPECT_EQ(readFile(path(u"old.png"_s)), "precious");

@@ -50,10 +50,9 @@ protected:
     HostSession &record()
     {
         m_recorder = std::make_unique<Recorder>();
-        QString error;
-        EXPECT_TRUE(m_recorder->open(script(), m_terms, &error)) << error.toStdString();
-        m_session = HostSession::open(m_options).session;
-        EXPECT_TRUE(m_recorder->attach(*m_session, &error)) << error.toStdString();
+        EXPECT_EQ(m_recorder->open(script(), m_terms).sentence(), QString());
+        m_session = *HostSession::open(m_options);
+        EXPECT_EQ(m_recorder->attach(*m_session).sentence(), QString());
         m_session->start();
         return *m_session;
     }
@@ -78,7 +77,7 @@ protected:
     {
         QApplication::processEvents();
         m_session.reset();
-        EXPECT_EQ(m_recorder->finish(), QString());
+        EXPECT_EQ(m_recorder->finish().sentence(), QString());
         m_recorder.reset();
     }
 
@@ -119,11 +118,11 @@ protected:
         QFile file(script());
         EXPECT_TRUE(file.open(QIODevice::ReadOnly));
         while (!file.atEnd()) {
-            const ReplayLine line = readReplayLine(file.readLine(), QDir(m_folder.path()));
-            EXPECT_TRUE(line.error.isNull()) << line.error.toStdString();
-            if (line.event->kind == "close"_L1)
+            const auto event = readReplayLine(file.readLine(), QDir(m_folder.path()));
+            EXPECT_EQ(event.sentence(), QString());
+            if ((*event)->kind == "close"_L1)
                 break;
-            last = QJsonDocument::fromJson(replay.run(*line.event).line).object();
+            last = QJsonDocument::fromJson(*replay.run(**event)).object();
             EXPECT_FALSE(last.contains("error"_L1)) << last["error"_L1].toString().toStdString();
         }
         return last;
@@ -300,9 +299,8 @@ TEST_F(RecorderTest, ASecondSessionGoesOnInTheSameScript)
     record();
     m_session.reset();
     m_options.ppdPath = samplePPD(u"velkaro-mx-j710dw"_s);
-    m_session = HostSession::open(m_options).session;
-    QString error;
-    ASSERT_TRUE(m_recorder->attach(*m_session, &error));
+    m_session = *HostSession::open(m_options);
+    ASSERT_TRUE(m_recorder->attach(*m_session));
     m_session->start();
     finish();
     EXPECT_EQ(kinds(), (QStringList{u"open"_s, u"close"_s, u"open"_s, u"close"_s}));
@@ -356,8 +354,26 @@ TEST_F(RecorderTest, LeavesNothingWhenNotEverythingCouldBeWritten)
         m_session->show(panel(u"print"_s));
     }
     m_session.reset();
-    EXPECT_EQ(m_recorder->finish(),
+    EXPECT_EQ(m_recorder->finish().sentence(),
               u"The file %1 cannot be written: File too large."_s.arg(script()));
+    m_recorder.reset();
+    EXPECT_EQ(names(), QStringList());
+}
+
+TEST_F(RecorderTest, LeavesNoScriptWhenItsPPDCannotBeCopied)
+{
+    m_recorder = std::make_unique<Recorder>();
+    ASSERT_TRUE(m_recorder->open(script(), {}));
+    m_session = *HostSession::open(m_options);
+    const QString sentence = u"The file %1 cannot be written: File too large."_s.arg(
+        m_folder.filePath(u"session.ppd"_s));
+    {
+        const FileSizeLimit limit(1000);
+        EXPECT_EQ(m_recorder->attach(*m_session).sentence(), sentence);
+    }
+    m_session->start();
+    m_session.reset();
+    EXPECT_EQ(m_recorder->finish().sentence(), sentence);
     m_recorder.reset();
     EXPECT_EQ(names(), QStringList());
 }
@@ -366,17 +382,15 @@ TEST_F(RecorderTest, DoesNotReplaceAFileUnasked)
 {
     writeFile(script(), "precious");
     Recorder recorder;
-    QString error;
-    EXPECT_FALSE(recorder.open(script(), {}, &error));
-    EXPECT_EQ(error, u"The file %1 exists already; --force replaces it."_s.arg(script()));
+    EXPECT_EQ(recorder.open(script(), {}).sentence(),
+              u"The file %1 exists already; --force replaces it."_s.arg(script()));
     EXPECT_EQ(readFile(script()), "precious");
 }
 
 TEST_F(RecorderTest, AScriptThatCannotBeWrittenIsSaidSo)
 {
     Recorder recorder;
-    QString error;
-    EXPECT_FALSE(recorder.open(u"/nowhere/session.jsonl"_s, {}, &error));
-    EXPECT_EQ(error, u"The file /nowhere/session.jsonl cannot be written: No such file or "
-                     u"directory."_s);
+    EXPECT_EQ(recorder.open(u"/nowhere/session.jsonl"_s, {}).sentence(),
+              u"The file /nowhere/session.jsonl cannot be written: No such file or "
+              u"directory."_s);
 }

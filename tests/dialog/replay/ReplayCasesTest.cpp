@@ -42,14 +42,14 @@ protected:
 
     void runLine(const QByteArray &text, int number)
     {
-        const ReplayLine line = readReplayLine(text, m_folder);
-        ASSERT_TRUE(line.error.isNull()) << number << ": " << line.error.toStdString();
-        if (!line.event)
+        const auto event = readReplayLine(text, m_folder);
+        ASSERT_TRUE(event) << number << ": " << event.sentence().toStdString();
+        if (!*event)
             return;
         ++m_events;
-        const ReplaySession::Outcome outcome = m_session.run(*line.event);
-        ASSERT_TRUE(outcome.fatal.isNull()) << number << ": " << outcome.fatal.toStdString();
-        const QJsonObject actual = QJsonDocument::fromJson(outcome.line).object();
+        const auto line = m_session.run(**event);
+        ASSERT_TRUE(line) << number << ": " << line.sentence().toStdString();
+        const QJsonObject actual = QJsonDocument::fromJson(*line).object();
         const QJsonObject expected = QJsonDocument::fromJson(text).object()["expect"_L1].toObject();
         EXPECT_EQ(missingParts(expected, actual).join(u'\n').toStdString(), "")
             << "in line " << number;

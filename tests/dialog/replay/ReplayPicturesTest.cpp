@@ -75,9 +75,9 @@ protected:
 TEST_F(ReplayPicturesIn, StandBesideTheScriptAndMayBeWrittenAgain)
 {
     ReplayPictures pictures({});
-    EXPECT_EQ(pictures.write(m_image, m_folder, u"a.png"_s), QString());
+    EXPECT_EQ(pictures.write(m_image, m_folder, u"a.png"_s).sentence(), QString());
     m_image = m_image.copy(0, 0, 1, 1);
-    EXPECT_EQ(pictures.write(m_image, m_folder, u"a.png"_s), QString());
+    EXPECT_EQ(pictures.write(m_image, m_folder, u"a.png"_s).sentence(), QString());
     EXPECT_EQ(QImage(m_folder.filePath(u"a.png"_s)).size(), QSize(1, 1));
 }
 
@@ -85,22 +85,22 @@ TEST_F(ReplayPicturesIn, AreNotWrittenOverWhatWasThere)
 {
     const QString old = existing(u"old"_s);
     ReplayPictures pictures({});
-    EXPECT_EQ(pictures.write(m_image, m_folder, u"old"_s),
+    EXPECT_EQ(pictures.write(m_image, m_folder, u"old"_s).sentence(),
               u"The file %1 exists already; --force replaces it."_s.arg(old));
     EXPECT_EQ(readFile(old), "precious");
     ReplayPictures forced(force());
-    EXPECT_EQ(forced.write(m_image, m_folder, u"old"_s), QString());
+    EXPECT_EQ(forced.write(m_image, m_folder, u"old"_s).sentence(), QString());
     EXPECT_EQ(QImage(old).size(), m_image.size());
 }
 
 TEST_F(ReplayPicturesIn, AreNotWrittenOverAFileThatTookTheNameOfOne)
 {
     ReplayPictures pictures({});
-    ASSERT_EQ(pictures.write(m_image, m_folder, u"a.png"_s), QString());
+    ASSERT_EQ(pictures.write(m_image, m_folder, u"a.png"_s).sentence(), QString());
     const QString other = existing(u"other"_s);
     ASSERT_EQ(
         rename(other.toUtf8().constData(), m_folder.filePath(u"a.png"_s).toUtf8().constData()), 0);
-    EXPECT_NE(pictures.write(m_image, m_folder, u"a.png"_s), QString());
+    EXPECT_NE(pictures.write(m_image, m_folder, u"a.png"_s).sentence(), QString());
     EXPECT_EQ(readFile(m_folder.filePath(u"a.png"_s)), "precious");
 }
 
@@ -109,7 +109,7 @@ TEST_F(ReplayPicturesIn, AreNeverWrittenOverAnInput)
     const QString ppd = existing(u"printer.ppd"_s);
     ReplayPictures pictures(force());
     pictures.addInput(ppd);
-    EXPECT_EQ(pictures.write(m_image, m_folder, u"printer.ppd"_s),
+    EXPECT_EQ(pictures.write(m_image, m_folder, u"printer.ppd"_s).sentence(),
               u"Nothing is written over %1: it is in use for this."_s.arg(ppd));
     EXPECT_EQ(readFile(ppd), "precious");
 }
@@ -124,7 +124,7 @@ TEST_F(ReplayPicturesIn, AreNeverWrittenThroughALinkOrIntoAPipe)
     ASSERT_EQ(mkfifo(m_folder.filePath(u"pipe"_s).toUtf8().constData(), 0600), 0);
     ReplayPictures pictures(force());
     for (const QString &name : {u"link"_s, u"loose"_s, u"pipe"_s})
-        EXPECT_EQ(pictures.write(m_image, m_folder, name),
+        EXPECT_EQ(pictures.write(m_image, m_folder, name).sentence(),
                   u"%1 is no ordinary file"_s.arg(m_folder.filePath(name)));
     EXPECT_EQ(readFile(old), "precious");
     EXPECT_FALSE(QFileInfo::exists(elsewhere.filePath(u"new"_s)));

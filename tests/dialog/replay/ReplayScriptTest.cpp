@@ -15,25 +15,25 @@ struct FaultyLine
 class FaultyScriptLine : public testing::TestWithParam<FaultyLine>
 {};
 
-ReplayLine readScriptLine(const char *line)
+Result<std::optional<ReplayEvent>> readScriptLine(const char *line)
 {
     return readReplayLine(line, QDir(u"/scripts"_s));
 }
 
 template <typename Action> Action readAction(const char *line)
 {
-    const ReplayLine read = readScriptLine(line);
-    EXPECT_TRUE(read.error.isNull()) << read.error.toStdString();
-    return std::get<Action>(read.event.value().action);
+    const auto read = readScriptLine(line);
+    EXPECT_TRUE(read.sentence().isNull()) << read.sentence().toStdString();
+    return std::get<Action>(read->value().action);
 }
 
 } // namespace
 
 TEST_P(FaultyScriptLine, IsRefusedWithOneSentence)
 {
-    const ReplayLine line = readScriptLine(GetParam().line);
-    EXPECT_FALSE(line.event);
-    EXPECT_EQ(line.error.toStdString(), GetParam().error);
+    const auto line = readScriptLine(GetParam().line);
+    EXPECT_EQ(line.faultKind(), FaultKind::Request);
+    EXPECT_EQ(line.sentence().toStdString(), GetParam().error);
 }
 
 INSTANTIATE_TEST_SUITE_P(
@@ -128,9 +128,9 @@ INSTANTIATE_TEST_SUITE_P(
 TEST(ReplayScript, BlankLinesAndCommentsSayNothing)
 {
     for (const char *line : {"", "\n", "  \t\r\n", "# comment", "   # {\"do\": \"dance\"}\n"}) {
-        const ReplayLine read = readScriptLine(line);
-        EXPECT_FALSE(read.event) << line;
-        EXPECT_TRUE(read.error.isNull()) << line;
+        const auto read = readScriptLine(line);
+        EXPECT_FALSE(read->has_value()) << line;
+        EXPECT_TRUE(read.sentence().isNull()) << line;
     }
 }
 
@@ -195,10 +195,10 @@ TEST(ReplayScript, APaperMayLeaveTheMappingAloneSetItOrRemoveIt)
 
 TEST(ReplayScript, AnswersMayLeaveOutEitherMember)
 {
-    const ReplayLine line =
+    const auto line =
         readScriptLine(R"({"do": "print", "answers": [{}, {"button": 2}, {"suppress": true}]})");
-    ASSERT_TRUE(line.event);
-    const QList<ReplayAnswer> &answers = line.event->answers;
+    ASSERT_TRUE(line && line->has_value());
+    const QList<ReplayAnswer> &answers = (*line)->answers;
     ASSERT_EQ(answers.size(), 3);
     EXPECT_EQ(answers[0].button, std::nullopt);
     EXPECT_EQ(answers[0].suppress, std::nullopt);
@@ -208,5 +208,5 @@ TEST(ReplayScript, AnswersMayLeaveOutEitherMember)
 
 TEST(ReplayScript, MembersThatNobodyKnowsArePassedOver)
 {
-    EXPECT_TRUE(readScriptLine(R"({"do": "state", "comment": "why"})").event);
+    EXPECT_TRUE(readScriptLine(R"({"do": "state", "comment": "why"})")->has_value());
 }

@@ -72,7 +72,7 @@ TEST_F(Delivery, IntoAFileShowsHowFarItIsAndTheWindowGoesOn)
         },
         20000));
     got += drain();
-    EXPECT_EQ(m_window->exitStatus(), ExitStatus::Done) << notice().toStdString();
+    EXPECT_TRUE(m_window->outcome()) << notice().toStdString();
     EXPECT_FALSE(m_window->isVisible());
     EXPECT_GT(got, 4'000'000);
 }
@@ -88,7 +88,7 @@ TEST_F(Delivery, IntoAFileIsCancelledAndCanBeTriedAgain)
     EXPECT_EQ(notice(), u"The job was not written."_s);
     EXPECT_FALSE(part<QProgressBar>("progressStrip")->isVisible());
     EXPECT_TRUE(part<QAbstractButton>("printButton")->isEnabled());
-    EXPECT_EQ(m_window->exitStatus(), ExitStatus::Cancelled);
+    EXPECT_EQ(m_window->outcome().faultKind(), FaultKind::Cancelled);
 }
 
 TEST_F(Delivery, ThatIsCancelledKeepsTheFormerFile)
@@ -113,7 +113,7 @@ TEST_F(Delivery, EndsWithTheDialogWhenASignalComes)
     beginWriting();
     m_window->end();
     EXPECT_TRUE(QTest::qWaitFor([this] { return !m_window->isVisible(); }));
-    EXPECT_EQ(m_window->exitStatus(), ExitStatus::Cancelled);
+    EXPECT_EQ(m_window->outcome().faultKind(), FaultKind::Cancelled);
 }
 
 TEST_F(Delivery, IsNotMadeWhenASignalDismissesAQuestion)
@@ -135,7 +135,7 @@ TEST_F(Delivery, IsNotMadeWhenASignalDismissesAQuestion)
     QTimer::singleShot(20000, &loop, &QEventLoop::quit);
     loop.exec();
     EXPECT_TRUE(wasAsked);
-    EXPECT_EQ(m_window->exitStatus(), ExitStatus::Cancelled);
+    EXPECT_EQ(m_window->outcome().faultKind(), FaultKind::Cancelled);
     EXPECT_EQ(drain(), 0);
 }
 
@@ -144,7 +144,7 @@ TEST_F(Delivery, IsNoneWhenASignalComesBeforePrint)
     open();
     m_window->end();
     EXPECT_FALSE(m_window->isVisible());
-    EXPECT_EQ(m_window->exitStatus(), ExitStatus::Cancelled);
+    EXPECT_EQ(m_window->outcome().faultKind(), FaultKind::Cancelled);
 }
 
 // --- Documents that are pipes --------------------------------------------------------------------
@@ -182,7 +182,7 @@ TEST_F(PipedDocument, IsWaitedForWhileTheSettingsCanBeMade)
     ASSERT_TRUE(QTest::qWaitFor([this] { return mayPrint(); }));
     EXPECT_EQ(notice(), QString());
     print();
-    EXPECT_EQ(m_window->exitStatus(), ExitStatus::Done) << notice().toStdString();
+    EXPECT_TRUE(m_window->outcome()) << notice().toStdString();
     EXPECT_TRUE(written().endsWith("%!PS\n"));
     EXPECT_TRUE(written().contains("Option: VKMediaType=Glossy\n"));
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "dialog/replay/Recorder.h"
 #include "dialog/window/DialogWindow.h"
 #include "platform/ppd/PPDText.h"
 #include "platform/toolkit/PopUpButton.h"
@@ -50,12 +51,23 @@ protected:
     void openRecorded()
     {
         m_line.record = m_folder.filePath(QStringLiteral("session.jsonl"));
+        m_recorder = std::make_unique<Recorder>();
+        ASSERT_TRUE(m_recorder->open(m_line.record, {}));
         m_window = std::make_unique<DialogWindow>(m_line);
-        ASSERT_TRUE(m_window->beginRecording());
+        m_window->controller().addSessionHook(
+            [this](HostSession &session) { return m_recorder->attach(session); });
         m_window->start();
         m_window->show();
         ASSERT_TRUE(QTest::qWaitForWindowActive(m_window.get()));
         waitForPrinter();
+    }
+
+    bool finishRecording()
+    {
+        m_window->closePrinter();
+        const bool isWhole = m_recorder->finish().isGood();
+        m_recorder.reset();
+        return isWhole;
     }
 
     template <typename Widget> Widget *part(const char *name)
@@ -109,6 +121,7 @@ protected:
     QByteArray written() { return readFile(m_line.output); }
 
     QTemporaryDir m_folder;
-    CommandLine m_line;
+    DialogWishes m_line;
+    std::unique_ptr<Recorder> m_recorder; // outlives the window's session
     std::unique_ptr<DialogWindow> m_window;
 };

@@ -44,7 +44,7 @@ TEST_F(Window, HasNoPanelsForAPrinterThatNoPlugInIsFor)
               u"This printer has none of the settings that the panels are for. It prints with "
               "the settings of this dialog alone."_s);
     print();
-    EXPECT_EQ(m_window->exitStatus(), ExitStatus::Done);
+    EXPECT_TRUE(m_window->outcome());
 }
 
 // libcups remembers for each thread how its last PPD was opened.
@@ -52,7 +52,7 @@ TEST_F(Window, ReadsThePPDOnAnotherThread)
 {
     const QString bad = m_folder.filePath(u"bad.ppd"_s);
     writeFile(bad, "Hello\n");
-    ASSERT_FALSE(openPPD(bad).ppd);
+    ASSERT_FALSE(openPPD(bad));
     m_window = std::make_unique<DialogWindow>(m_line);
     m_window->start();
     EXPECT_EQ(m_window->state(), DialogWindow::State::Searching);
@@ -72,7 +72,7 @@ TEST_F(Window, RefusesAPipeForAPPDAtOnce)
     EXPECT_EQ(m_window->state(), DialogWindow::State::NoPrinter);
     EXPECT_EQ(notice(), m_line.ppd + u" is not a PPD file."_s);
     m_window->reject();
-    EXPECT_EQ(m_window->exitStatus(), ExitStatus::Usage);
+    EXPECT_EQ(m_window->outcome().faultKind(), FaultKind::PPD);
 }
 
 TEST_F(Window, MayBeClosedWhileThePPDIsRead)
@@ -110,7 +110,7 @@ TEST_F(Window, WritesTheJobThatWasPicked)
     click("matchByApplicationButton");
     QTest::keyClicks(part<QLineEdit>("pagesField"), u"5, 1-2"_s);
     print();
-    EXPECT_EQ(m_window->exitStatus(), ExitStatus::Done) << notice().toStdString();
+    EXPECT_TRUE(m_window->outcome()) << notice().toStdString();
     const QByteArray job = written();
     for (const char *line :
          {"Option: PageSize=A3\n", "Option: fit-to-page=true\n", "Option: VKMediaType=Glossy\n",
@@ -322,7 +322,7 @@ TEST_F(Window, WithoutAPlugInSaysSoAndPrintsWithItsOwnSettings)
                         "Velkaro Print again."_s.arg(m_folder.path()));
     pick("paperPopup", u"A3"_s);
     print();
-    EXPECT_EQ(m_window->exitStatus(), ExitStatus::Done);
+    EXPECT_TRUE(m_window->outcome());
     EXPECT_TRUE(written().contains("Option: PageSize=A3\n"));
 }
 
@@ -336,7 +336,7 @@ TEST_F(Window, WithAPrinterOfAnotherKindSaysSo)
     EXPECT_EQ(notice(), u"This printer has none of the settings that the panels are for. It prints "
                         "with the settings of this dialog alone."_s);
     print();
-    EXPECT_EQ(m_window->exitStatus(), ExitStatus::Done);
+    EXPECT_TRUE(m_window->outcome());
 }
 
 TEST_F(Window, WithAPPDThatCannotBeUsedSaysSo)
@@ -361,7 +361,56 @@ TEST_F(Window, KeepsEverythingWhenTheFileCannotBeWritten)
     EXPECT_EQ(notice(),
               u"The file %1 cannot be written: No such file or directory."_s.arg(m_line.output));
     EXPECT_EQ(marked(u"VKMediaType"_s), u"Glossy"_s);
-    EXPECT_EQ(m_window->exitStatus(), ExitStatus::Cancelled);
+    EXPECT_EQ(m_window->outcome().faultKind(), FaultKind::Cancelled);
+}
+
+TEST_F(Window, SaysThatASessionCannotBeNoted)
+{
+    m_window = std::make_unique<DialogWindow>(m_line);
+    m_window->controller().addSessionHook([](HostSession &) -> Result<> {
+        return Fault{FaultKind::Output, u"Not noted."_s};
+    });
+    m_window->start();
+    waitForPrinter();
+    EXPECT_EQ(m_window->state(), DialogWindow::State::Ready);
+    EXPECT_EQ(notice(), u"Not noted."_s);
+    EXPECT_EQ(m_window->notice().kind(), NoticeBar::Kind::Warning);
+}
+
+/// The spying plug-in, whose panels fail to save where the ticket asks for it.
+class ForeignPanels : public DialogWindowFixture
+{
+protected:
+    ForeignPanels()
+    {
+        m_line.ppd = m_folder.filePath(u"small.ppd"_s);
+        m_line.plugIn = QLatin1String(FIXTURE_FOLDER) + u"/Spy.bundle"_s;
+        writeFile(m_line.ppd, smallPrinter().text());
+    }
+};
+
+TEST_F(ForeignPanels, AreToldOfInTheirOwnWordsWhenTheyFail)
+{
+    open();
+    ASSERT_TRUE(m_window->showPart(u"first"_s));
+    m_window->job().session()->writeTicket(u"com.velkaro.test.unsavable"_s, true);
+    ASSERT_TRUE(m_window->showPart(u"summary"_s));
+    QCoreApplication::processEvents();
+    EXPECT_EQ(notice(), u"The values of first cannot be kept."_s);
+    EXPECT_EQ(m_window->notice().kind(), NoticeBar::Kind::Error);
+    print();
+    EXPECT_EQ(m_window->state(), DialogWindow::State::Ready);
+    EXPECT_EQ(notice(), u"The values of first cannot be kept."_s);
+    EXPECT_FALSE(QFileInfo::exists(m_line.output));
+}
+
+TEST_F(ForeignPanels, ThatVetoWithoutAWordAreToldOf)
+{
+    m_line.choices = {{u"Weight"_s, u"Heavy"_s}};
+    open();
+    print();
+    EXPECT_EQ(m_window->state(), DialogWindow::State::Ready);
+    EXPECT_EQ(notice(), u"The printer's settings do not allow this job."_s);
 }
 
 TEST_F(Window, CanBeRecordedForReplay)
@@ -369,7 +418,7 @@ TEST_F(Window, CanBeRecordedForReplay)
     openRecorded();
     pick("mediaTypePopup", u"Glossy"_s);
     m_window->reject();
-    EXPECT_TRUE(m_window->finishRecording());
+    EXPECT_TRUE(finishRecording());
     const QByteArray text = readFile(m_line.record);
     EXPECT_TRUE(text.contains("\"Glossy\"")) << text.toStdString();
     EXPECT_TRUE(text.contains("\"close\"")) << text.toStdString();

@@ -27,7 +27,7 @@ protected:
     QString printed(const QString &keyword)
     {
         print();
-        EXPECT_EQ(m_window->exitStatus(), ExitStatus::Done) << notice().toStdString();
+        EXPECT_TRUE(m_window->outcome()) << notice().toStdString();
         const QString head = u"Option: "_s + keyword + u'=';
         for (const QString &line : QString::fromUtf8(written()).split(u'\n'))
             if (line.startsWith(head))

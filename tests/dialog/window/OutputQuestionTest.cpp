@@ -44,7 +44,7 @@ protected:
 
     bool isDone()
     {
-        return QTest::qWaitFor([&] { return m_window->exitStatus() == ExitStatus::Done; });
+        return QTest::qWaitFor([&] { return m_window->outcome().isGood(); });
     }
 };
 
@@ -73,7 +73,7 @@ TEST_F(OutputQuestion, IsNoPartOfARecording)
     openRecorded();
     EXPECT_NE(printAndAnswer(replace), QString());
     ASSERT_TRUE(isDone()) << notice().toStdString();
-    ASSERT_TRUE(m_window->finishRecording());
+    ASSERT_TRUE(finishRecording());
     EXPECT_FALSE(readFile(m_line.record).contains("answers"));
 }
 

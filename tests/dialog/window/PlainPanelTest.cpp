@@ -67,9 +67,9 @@ TEST_F(PlainPanel, IsReplayedWithWhatIsKnownOfIt)
 {
     ReplaySession session(plainBundle());
     const auto run = [&](const QByteArray &line) {
-        const ReplayLine read = readReplayLine(line, QDir(m_folder.path()));
-        EXPECT_TRUE(read.event) << read.error.toStdString();
-        return QJsonDocument::fromJson(session.run(*read.event).line).object();
+        const auto read = readReplayLine(line, QDir(m_folder.path()));
+        EXPECT_TRUE(read) << read.sentence().toStdString();
+        return QJsonDocument::fromJson(*session.run(**read)).object();
     };
     const QJsonObject opened = run(R"({"do": "open", "ppd": "small.ppd"})");
     EXPECT_EQ(opened[u"result"_s], QJsonArray{u"com.velkaro.test.plain"_s});

@@ -45,7 +45,7 @@ protected:
     QStringList sent()
     {
         print();
-        EXPECT_EQ(m_window->exitStatus(), ExitStatus::Done) << notice().toStdString();
+        EXPECT_TRUE(m_window->outcome()) << notice().toStdString();
         QStringList options;
         for (const QByteArray &line : written().split('\n'))
             if (line.startsWith("Option: ") && !line.contains("com.velkaro."))
@@ -121,7 +121,7 @@ TEST_F(SentSettings, OfAReservedNameCannotBeAskedFor)
 {
     m_line.choices = {{u"raw"_s, u"true"_s}};
     open(inTwoGroups("raw", "Paper Type", "false", "true"));
-    EXPECT_EQ(m_window->settingError(), u"The printer has no setting raw."_s);
+    EXPECT_EQ(m_window->settingState().sentence(), u"The printer has no setting raw."_s);
     EXPECT_EQ(sent(), QStringList());
 }
 

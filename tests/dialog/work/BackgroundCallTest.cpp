@@ -54,17 +54,4 @@ TEST(BackgroundCallTest, DestroyedBeforeItsEndSaysNothing)
     EXPECT_FALSE(arrived);
 }
 
-TEST(BackgroundCallTest, IsWaitedForWhereThereIsNoWindow)
-{
-    const auto answer = waitForCall<int>(5s, [](CallGuard &) { return 42; });
-    EXPECT_EQ(answer, 42);
-    const auto none = waitForCall<int>(100ms, [](CallGuard &guard) {
-        while (guard.silence() < 400ms)
-            std::this_thread::yield();
-        return 1;
-    });
-    EXPECT_EQ(none, std::nullopt);
-    EXPECT_TRUE(waitForBackgroundThreads(5s));
-}
-
 } // namespace

@@ -1,0 +1,218 @@
+#include "dialog/printing/PrintController.h"
+
+#include "dialog/cups/ServerConnection.h"
+#include "dialog/host/HostSession.h"
+#include "dialog/job/DocumentFile.h"
+#include "dialog/job/JobFileWriter.h"
+#include "dialog/job/PipeDocuments.h"
+#include "dialog/printing/SavedJob.h"
+#include "dialog/printing/SettingRequests.h"
+#include "dialog/work/BackgroundCall.h"
+
+#include <QtCore/QCoreApplication>
+
+#include <utility>
+
+PrintController::PrintController(PrintWishes wishes, QObject *parent)
+    : QObject(parent), m_wishes(std::move(wishes))
+{}
+
+// The calls go first: nothing of theirs arrives any more.
+PrintController::~PrintController()
+{
+    delete m_call;
+    delete m_reading;
+    delete m_listing;
+}
+
+/// Starts the work in place of the call's former one. A null `givenUp`: nobody gives it up. Whoever
+/// is told of the outcome may begin the next call.
+template <typename Value>
+void PrintController::begin(QPointer<BackgroundCall> &call, std::chrono::milliseconds timeout,
+                            std::function<Value(CallGuard &)> work, std::function<void(Value)> take,
+                            std::function<Value()> givenUp)
+{
+    delete call;
+    BackgroundCall::Outcome outcome;
+    if (givenUp)
+        outcome = [&call, take, givenUp] {
+            call.clear();
+            take(givenUp());
+        };
+    call = new BackgroundCall(
+        this, timeout,
+        [&call, work = std::move(work), take](CallGuard &guard) -> BackgroundCall::Outcome {
+            const auto value = std::make_shared<Value>(work(guard));
+            return [&call, take, value] {
+                call.clear();
+                take(std::move(*value));
+            };
+        },
+        std::move(outcome));
+}
+
+Result<> PrintController::openDocuments(const QStringList &paths)
+{
+    const Result<Documents> opened = ::openDocuments(paths);
+    if (!opened)
+        return opened.fault();
+    stopReading();
+    m_job.setDocuments(*opened);
+    return {};
+}
+
+void PrintController::readPipes(Then<std::monostate> then)
+{
+    if (!hasPipes(m_job.documents())) {
+        then({});
+        return;
+    }
+    begin<Result<Documents>>(
+        m_reading, kFileTimeout,
+        [documents = m_job.documents()](CallGuard &guard) { return ::readPipes(documents, guard); },
+        [this, then = std::move(then)](const Result<Documents> &read) {
+            m_job.setDocuments(read ? *read : Documents());
+            then(read ? Result<>() : read.fault());
+        });
+}
+
+PrinterSource PrintController::wantedPrinter() const
+{
+    PrinterSource source{m_wishes.server, {}, m_wishes.ppd};
+    if (m_wishes.ppd.isNull() || !m_wishes.queue.isNull())
+        source.queue = wantedQueue(m_wishes.queue, m_wishes.instance);
+    return source;
+}
+
+void PrintController::findPrinter(const PrinterSource &source, Then<FoundPrinter> then)
+{
+    begin<FetchedPrinter>(
+        m_call, kServerTimeout, [source](CallGuard &guard) { return fetchPrinter(source, guard); },
+        [this, source, then = std::move(then)](FetchedPrinter fetched) {
+            then(takePrinter(source, fetched));
+        },
+        [source] { return givenUpPrinter(source); });
+}
+
+Result<FoundPrinter> PrintController::takePrinter(const PrinterSource &source,
+                                                  FetchedPrinter &fetched)
+{
+    PrinterSource found = source;
+    found.queue = fetched.queue;
+    if (!fetched.opened) {
+        m_job.setPrinter(found, {});
+        return fetched.opened.fault();
+    }
+    FoundPrinter printer;
+    m_job.setPrinter(found, open(found, fetched, printer.shortcomings));
+    if (m_job.session() && m_job.session()->plugInFault())
+        printer.shortcomings += Fault{FaultKind::PlugIn, m_job.session()->plugInFault()->sentence};
+    else if (m_job.session() && m_job.session()->hasPlugIn() && m_job.session()->panels().empty())
+        printer.shortcomings +=
+            Fault{FaultKind::PlugIn,
+                  QCoreApplication::translate(
+                      "PrintController", "The plug-in could not attach its panels to this printer. "
+                                         "Its rules and checks are missing.")};
+    return printer;
+}
+
+OpenedPrinter PrintController::open(const PrinterSource &source, FetchedPrinter &fetched,
+                                    QList<Fault> &shortcomings)
+{
+    SessionOptions options;
+    options.ppdPath = fetched.ppdPath;
+    options.bundlePath = m_wishes.plugIn;
+    return openPrinter(options, *std::move(fetched.opened), savedOptions(source.queue),
+                       [this, &shortcomings](HostSession &session) {
+                           session.addObserver(&m_unsaved);
+                           for (const SessionHook &hook : std::as_const(m_hooks))
+                               if (const Result<> hooked = hook(session); !hooked)
+                                   shortcomings += hooked.fault();
+                       });
+}
+
+void PrintController::listPrinters(Then<QList<Destination>> then)
+{
+    using List = Result<QList<Destination>>;
+    begin<List>(
+        m_listing, kServerTimeout,
+        [server = m_wishes.server](CallGuard &guard) { return listDestinations(server, guard); },
+        std::move(then), [server = m_wishes.server] { return List(silentServer(server)); });
+}
+
+Result<> PrintController::makeRequestedSettings(const std::function<void()> &madeOne)
+{
+    Result<> all;
+    const auto note = [&](const Result<> &one) {
+        if (madeOne)
+            madeOne();
+        if (all)
+            all = one;
+    };
+    if (!m_wishes.paper.isNull())
+        note(choosePaper(m_job, m_wishes.paper));
+    for (const RequestedChoice &wanted : m_wishes.choices)
+        note(makeSetting(m_job, wanted.keyword, wanted.choice));
+    return all;
+}
+
+Result<JobRequest> PrintController::finish()
+{
+    if (HostSession *session = m_job.session()) {
+        const Result<> agreed =
+            m_unsaved.saveAgain(*session).andThen([&] { return askPanels(*session); });
+        if (!agreed)
+            return agreed.fault();
+    }
+    const JobOptions options = m_job.options();
+    if (!options.faults.isEmpty())
+        return Fault{FaultKind::Vetoed, options.faults.constFirst()};
+    return m_job.request(options.options);
+}
+
+std::shared_ptr<JobProgress> PrintController::send(const JobRequest &request, Then<JobReceipt> then)
+{
+    const auto progress = std::make_shared<JobProgress>();
+    begin<Result<JobReceipt>>(
+        m_call, kServerTimeout,
+        [request, progress](CallGuard &guard) { return submitJob(request, guard, progress); },
+        std::move(then), [request, progress] { return givenUpReceipt(request, *progress); });
+    return progress;
+}
+
+std::shared_ptr<JobProgress> PrintController::write(const QString &path, const JobRequest &request,
+                                                    const OutputTerms &terms,
+                                                    Then<QStringList> then)
+{
+    const auto progress = std::make_shared<JobProgress>();
+    begin<Result<QStringList>>(
+        m_call, kFileTimeout,
+        [path, request, terms, progress](CallGuard &guard) {
+            return writeJobFile(path, request, terms, guard, *progress).andThen([&] {
+                return Result<QStringList>(notesOnSaving(path, request.options));
+            });
+        },
+        std::move(then));
+    return progress;
+}
+
+OutputTerms PrintController::outputTerms() const
+{
+    OutputTerms terms;
+    for (const QString &input : m_wishes.files + QStringList{m_wishes.ppd, m_wishes.record})
+        terms.addInput(input);
+    terms.mayReplace = m_wishes.force;
+    return terms;
+}
+
+void PrintController::cancel()
+{
+    for (const QPointer<BackgroundCall> &call : {m_call, m_reading})
+        if (call)
+            call->cancel();
+}
+
+void PrintController::stopReading()
+{
+    delete m_reading;
+}

@@ -1,0 +1,117 @@
+#pragma once
+
+#include "dialog/cups/Destinations.h"
+#include "dialog/cups/JobSubmission.h"
+#include "dialog/files/OutputFile.h"
+#include "dialog/printing/PanelVeto.h"
+#include "dialog/printing/PrintJob.h"
+#include "dialog/printing/PrintWishes.h"
+#include "dialog/work/Result.h"
+
+#include <QtCore/QObject>
+#include <QtCore/QPointer>
+
+#include <functional>
+#include <memory>
+
+class BackgroundCall;
+
+/// A printer that was found, and opened where it has a PPD: PrintController::job() has it.
+struct FoundPrinter
+{
+    /// What a person should know of it although it prints: that the session cannot be noted, that
+    /// the plug-in cannot be used. A command that nobody watches stops at the first.
+    QList<Fault> shortcomings;
+};
+
+/// The road of a job, under a window and without one: from what was wished to a job that is sent,
+/// or written into a file. It has no widgets and asks nobody: what only a user can answer is asked
+/// by whoever drives it.
+///
+/// The order of calls:
+///   1. openDocuments(), and readPipes() for those among them that are pipes;
+///   2. findPrinter(), again for another printer;
+///   3. makeRequestedSettings();
+///   4. finish(), which asks the panels, and then send() or write(); again after a fault.
+///
+/// What takes its time comes back at once and tells its outcome to `then`, exactly once, from the
+/// event loop of the main thread, where all of this is called; to nobody when the controller has
+/// gone, or the same was begun anew. Send and find never overlap.
+class PrintController : public QObject
+{
+public:
+    template <typename Value> using Then = std::function<void(Result<Value>)>;
+    using SessionHook = std::function<Result<>(HostSession &)>;
+
+    explicit PrintController(PrintWishes wishes, QObject *parent = nullptr);
+    ~PrintController() override;
+
+    const PrintWishes &wishes() const { return m_wishes; }
+    PrintJob &job() { return m_job; }
+    const PrintJob &job() const { return m_job; }
+
+    /// Has the hook called with every session before it starts, to follow it from its beginning. A
+    /// fault of the hook is a shortcoming of the printer.
+    void addSessionHook(SessionHook hook) { m_hooks += std::move(hook); }
+
+    /// The documents of the job from now on, when all can be opened. Waits for nothing.
+    Result<> openDocuments(const QStringList &paths);
+
+    /// Reads the job's documents that are pipes to their ends; the job has the whole ones then. At
+    /// once when there are none.
+    void readPipes(Then<std::monostate> then);
+
+    /// The printer that was wished for.
+    PrinterSource wantedPrinter() const;
+
+    /// Finds and opens the printer in place of the former one, whose panels must not be on screen
+    /// any more. Even after a fault the job knows the queue, as far as there is one.
+    void findPrinter(const PrinterSource &source, Then<FoundPrinter> then);
+
+    /// Lists the printers of the wished server.
+    void listPrinters(Then<QList<Destination>> then);
+
+    /// Makes the wished settings in their order; the first fault when not all could be made.
+    /// `madeOne` is called after each.
+    Result<> makeRequestedSettings(const std::function<void()> &madeOne = {});
+
+    /// Asks the panels whether the job may be printed, and makes the job as it is to go out. After
+    /// a veto the sentence is null when the panel has told the user why by itself.
+    Result<JobRequest> finish();
+
+    /// Sends a job. What is gone out of it is in the progress.
+    std::shared_ptr<JobProgress> send(const JobRequest &request, Then<JobReceipt> then);
+
+    /// Writes a job into a file. Gives what is to be told of it, one sentence each.
+    std::shared_ptr<JobProgress> write(const QString &path, const JobRequest &request,
+                                       const OutputTerms &terms, Then<QStringList> then);
+
+    /// The terms of the wishes for writing a job's file.
+    OutputTerms outputTerms() const;
+
+    /// Asks what is going on to stop: its outcome still arrives.
+    void cancel();
+
+    /// Waits for the documents' ends no longer.
+    void stopReading();
+
+    /// Releases the panels.
+    void closePrinter() { m_job.closePrinter(); }
+
+private:
+    template <typename Value>
+    void begin(QPointer<BackgroundCall> &call, std::chrono::milliseconds timeout,
+               std::function<Value(CallGuard &)> work, std::function<void(Value)> take,
+               std::function<Value()> givenUp = {});
+    Result<FoundPrinter> takePrinter(const PrinterSource &source, FetchedPrinter &fetched);
+    OpenedPrinter open(const PrinterSource &source, FetchedPrinter &fetched,
+                       QList<Fault> &shortcomings);
+
+    const PrintWishes m_wishes;
+    UnsavedPanels m_unsaved; // outlives the session that it follows
+    PrintJob m_job;
+    QList<SessionHook> m_hooks;
+    QPointer<BackgroundCall> m_call;    ///< finding, sending or writing
+    QPointer<BackgroundCall> m_reading; ///< of documents that are pipes
+    QPointer<BackgroundCall> m_listing;
+};

@@ -1,0 +1,59 @@
+#include "dialog/printing/SavedJob.h"
+
+#include "dialog/files/PathBytes.h"
+#include "dialog/job/JobFileReader.h"
+#include "dialog/job/SavedJobOptions.h"
+
+#include <QtCore/QCoreApplication>
+
+Result<> checkOptions(const QString &path, const QList<JobOption> &options, bool yes)
+{
+    for (const JobOption &option : options) {
+        const OptionOrigin origin = originOf(option.name);
+        if (origin == OptionOrigin::Never)
+            return Fault{FaultKind::Vetoed,
+                         QCoreApplication::translate(
+                             "SavedJob", "%1 is not sent: it sets %2, which no saved job may.")
+                             .arg(path, option.name)};
+        if (origin == OptionOrigin::Foreign && !yes)
+            return Fault{FaultKind::Vetoed,
+                         QCoreApplication::translate(
+                             "SavedJob", "%1 is not sent: it sets %2, which Velkaro Print does "
+                                         "not write; --yes sends it all the same.")
+                             .arg(path, option.name)};
+    }
+    return {};
+}
+
+Result<JobRequest> savedJob(const PrintWishes &wishes, const Document &file, bool yes)
+{
+    if (!wishes.choices.isEmpty() || !wishes.paper.isNull() || !wishes.output.isNull())
+        return Fault{FaultKind::Request,
+                     QCoreApplication::translate(
+                         "SavedJob", "%1 is a saved job: it is sent as it was saved, without -o, "
+                                     "--paper and --output.")
+                         .arg(file.path())};
+    Result<JobRequest> job = readJobFile(file);
+    if (!job)
+        return job;
+    if (const Result<> checked = checkOptions(file.path(), job->options, yes); !checked)
+        return checked.fault();
+    job->server = wishes.server;
+    if (!wishes.queue.isNull())
+        job->queue = wishes.queue;
+    return job;
+}
+
+QStringList notesOnSaving(const QString &path, const QList<JobOption> &options)
+{
+    QStringList names;
+    for (const JobOption &option : options)
+        if (originOf(option.name) == OptionOrigin::Never)
+            names += option.name;
+    if (names.isEmpty())
+        return {};
+    return {QCoreApplication::translate(
+                "SavedJob", "The job in %1 can be looked at but not sent: it sets %2, which no "
+                            "saved job may. Remove that from the settings saved for the queue.")
+                .arg(shownPath(path), names.join(QStringLiteral(", ")))};
+}

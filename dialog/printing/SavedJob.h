@@ -1,0 +1,18 @@
+#pragma once
+
+#include "dialog/job/JobRequest.h"
+#include "dialog/printing/PrintWishes.h"
+#include "dialog/work/Result.h"
+
+/// The job in the file, as it is to be sent: to the queue of the wishes or, where they name none,
+/// to the queue that it was made for. Its settings were checked when it was made and are sent as
+/// they are: wishes for other ones are refused. `yes` admits options that this program does not
+/// write.
+Result<JobRequest> savedJob(const PrintWishes &wishes, const Document &file, bool yes);
+
+/// A fault on the first option of the saved job at the path that is not sent.
+Result<> checkOptions(const QString &path, const QList<JobOption> &options, bool yes);
+
+/// What is to be told of a job that goes into the file at the path: one sentence on its options
+/// that can never be sent from there. None when there are no such options.
+QStringList notesOnSaving(const QString &path, const QList<JobOption> &options);

@@ -1,0 +1,91 @@
+#include "dialog/printing/SettingRequests.h"
+
+#include "dialog/job/Papers.h"
+#include "dialog/printing/PrintJob.h"
+#include "tests/built/BuiltFiles.h"
+#include "tests/support/CaseName.h"
+#include "tests/support/QStringPrinting.h"
+
+#include <gtest/gtest.h>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// A job for the sample printer, whose own sizes go from 64 x 90 mm to 330 x 483 mm.
+class Requests : public testing::Test
+{
+protected:
+    Requests()
+    {
+        SessionOptions options;
+        options.ppdPath = samplePPD(u"velkaro-px-t900"_s);
+        options.bundlePath = builtBundle();
+        m_job.setPrinter({}, openPrinter(options, *openPPD(options.ppdPath), {}));
+    }
+
+    QString paperName() { return m_job.paper().value_or(PMPaper()).name; }
+
+    PrintJob m_job;
+};
+
+TEST_F(Requests, RefuseABadOrientationBeforeItChangesAnything)
+{
+    ASSERT_TRUE(makeSetting(m_job, u"orientation-requested"_s, u"landscape"_s));
+    const Result<> made = makeSetting(m_job, u"orientation-requested"_s, u"sideways"_s);
+    EXPECT_EQ(made.faultKind(), FaultKind::Request);
+    EXPECT_EQ(made.sentence(), u"sideways is no value for orientation-requested."_s);
+    EXPECT_EQ(m_job.orientation(), PMOrientation::Landscape);
+}
+
+struct OwnSize
+{
+    const char *behaviour;
+    QString paper;
+    bool isTaken = false;
+};
+
+class OwnSizes : public Requests, public testing::WithParamInterface<OwnSize>
+{};
+
+TEST_P(OwnSizes, AreTakenWithinThePrintersLimits)
+{
+    const CustomLimits limits = customLimits(m_job.ppd()).value();
+    ASSERT_EQ(QList<double>({limits.minWidth, limits.maxWidth, limits.minHeight, limits.maxHeight}),
+              QList<double>({182, 936, 254, 1368}));
+    const QString before = paperName();
+    for (const bool asSetting : {false, true}) {
+        const Result<> chosen = asSetting ? makeSetting(m_job, u"PageSize"_s, GetParam().paper)
+                                          : choosePaper(m_job, GetParam().paper);
+        EXPECT_EQ(chosen.isGood(), GetParam().isTaken) << chosen.sentence().toStdString();
+        EXPECT_EQ(paperName() != before, GetParam().isTaken);
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(Table, OwnSizes,
+                         testing::Values(OwnSize{"Smallest", u"Custom.182x254"_s, true},
+                                         OwnSize{"Largest", u"Custom.936x1368"_s, true},
+                                         OwnSize{"InMillimetres", u"Custom.100x150mm"_s, true},
+                                         OwnSize{"TooNarrow", u"Custom.181x254"_s},
+                                         OwnSize{"TooWide", u"Custom.937x1368"_s},
+                                         OwnSize{"TooLow", u"Custom.182x253"_s},
+                                         OwnSize{"TooHigh", u"Custom.936x1369"_s},
+                                         OwnSize{"ASheetForAHouse", u"Custom.9000x9000mm"_s}),
+                         CaseName());
+
+TEST_F(Requests, NameTheLimitsOfAnOwnSize)
+{
+    EXPECT_EQ(
+        choosePaper(m_job, u"Custom.2000x3000mm"_s).sentence(),
+        u"The printer takes no paper of 2000 × 3000 mm: sizes of your own go from 64.2 × 89.6 "
+        "mm to 330.2 × 482.6 mm."_s);
+}
+
+TEST_F(Requests, LookAtTheirOwnRefusalsAlone)
+{
+    ASSERT_TRUE(makeSetting(m_job, u"VKMediaType"_s, u"Plain"_s));
+    EXPECT_FALSE(makeSetting(m_job, u"VKMediaType"_s, u"NoSuchPaper"_s));
+    EXPECT_TRUE(makeSetting(m_job, u"VKMediaType"_s, u"Glossy"_s));
+}
+
+} // namespace
