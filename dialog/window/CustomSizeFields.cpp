@@ -25,7 +25,7 @@ struct Unit
 // In the order of the unit pop-up: millimetres, inches.
 constexpr std::array kUnits{Unit{kPointsPerMillimetre, 1, 1.0}, Unit{kPointsPerInch, 2, 0.1}};
 
-// Lengths out of the printer's range can be typed, so that the word beside can say the limit.
+// Lengths out of the printer's range can be typed, so that the validation text can tell the limit.
 constexpr double kLongest = 9999;
 
 } // namespace
@@ -34,8 +34,8 @@ CustomSizeFields::CustomSizeFields(QWidget *parent)
     : QWidget(parent),
       m_width(newField(QStringLiteral("customWidth"))),
       m_height(newField(QStringLiteral("customHeight"))),
-      m_widthWord(newWord(QStringLiteral("customWidthWord"))),
-      m_heightWord(newWord(QStringLiteral("customHeightWord"))),
+      m_widthValidation(newValidationLabel(QStringLiteral("customWidthValidation"))),
+      m_heightValidation(newValidationLabel(QStringLiteral("customHeightValidation"))),
       m_unit(new QComboBox(this))
 {
     m_unit->setObjectName(QStringLiteral("customUnit"));
@@ -51,10 +51,10 @@ CustomSizeFields::CustomSizeFields(QWidget *parent)
     grid->addWidget(widthLabel, 0, 0);
     grid->addWidget(m_width, 0, 1);
     grid->addWidget(m_unit, 0, 2);
-    grid->addWidget(m_widthWord, 0, 3);
+    grid->addWidget(m_widthValidation, 0, 3);
     grid->addWidget(heightLabel, 1, 0);
     grid->addWidget(m_height, 1, 1);
-    grid->addWidget(m_heightWord, 1, 3);
+    grid->addWidget(m_heightValidation, 1, 3);
     grid->setColumnStretch(3, 1);
     connect(m_unit, &QComboBox::activated, this, &CustomSizeFields::changeUnit);
     changeUnit();
@@ -75,11 +75,11 @@ QDoubleSpinBox *CustomSizeFields::newField(const QString &name)
     return field;
 }
 
-QLabel *CustomSizeFields::newWord(const QString &name)
+QLabel *CustomSizeFields::newValidationLabel(const QString &name)
 {
-    QLabel *word = newPlainLabel(QString(), this);
-    word->setObjectName(name);
-    return word;
+    QLabel *label = newPlainLabel(QString(), this);
+    label->setObjectName(name);
+    return label;
 }
 
 double CustomSizeFields::pointsPerUnit() const
@@ -130,11 +130,13 @@ void CustomSizeFields::changeUnit()
 
 void CustomSizeFields::judge()
 {
-    setLabelText(m_widthWord, word(m_widthPoints, m_limits.minWidth, m_limits.maxWidth));
-    setLabelText(m_heightWord, word(m_heightPoints, m_limits.minHeight, m_limits.maxHeight));
+    setLabelText(m_widthValidation,
+                 validationText(m_widthPoints, m_limits.minWidth, m_limits.maxWidth));
+    setLabelText(m_heightValidation,
+                 validationText(m_heightPoints, m_limits.minHeight, m_limits.maxHeight));
 }
 
-QString CustomSizeFields::word(double length, double least, double most) const
+QString CustomSizeFields::validationText(double length, double least, double most) const
 {
     switch (faultOfLength(length, least, most)) {
     case LengthFault::TooSmall:

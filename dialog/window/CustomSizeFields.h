@@ -8,7 +8,7 @@ class QComboBox;
 class QDoubleSpinBox;
 class QLabel;
 
-/// The fields for a paper of the user's own size, in millimetres or inches, with a word beside them
+/// The fields for a paper of the user's own size, in millimetres or inches, with a text beside them
 /// that says what is wrong with a length. Sizes go in and out in points.
 class CustomSizeFields : public QWidget
 {
@@ -34,16 +34,16 @@ Q_SIGNALS:
 private:
     double pointsPerUnit() const;
     QDoubleSpinBox *newField(const QString &name);
-    QLabel *newWord(const QString &name);
+    QLabel *newValidationLabel(const QString &name);
     void changeUnit();
     void judge();
-    QString word(double length, double least, double most) const;
+    QString validationText(double length, double least, double most) const;
     QString limitText(double points, double (*round)(double)) const;
 
     QDoubleSpinBox *m_width;
     QDoubleSpinBox *m_height;
-    QLabel *m_widthWord;
-    QLabel *m_heightWord;
+    QLabel *m_widthValidation;
+    QLabel *m_heightValidation;
     QComboBox *m_unit;
     CustomLimits m_limits;
     double m_widthPoints = 0;

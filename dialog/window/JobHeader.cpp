@@ -52,7 +52,7 @@ JobHeader::JobHeader(PrintJob &job, QWidget *parent)
       m_printers(new PrinterPopUp(this)),
       m_copies(new NumberField(this)),
       m_pages(new QLineEdit(this)),
-      m_pagesWord(newPlainLabel(QString(), this))
+      m_pagesValidation(newPlainLabel(QString(), this))
 {
     m_documents->setObjectName(u"documentsLabel"_s);
     m_documents->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
@@ -63,7 +63,7 @@ JobHeader::JobHeader(PrintJob &job, QWidget *parent)
     m_pages->setObjectName(u"pagesField"_s);
     m_pages->setPlaceholderText(tr("All, or 1-3, 5"));
     m_pages->setFixedWidth(kPagesWidth);
-    m_pagesWord->setObjectName(u"pagesWord"_s);
+    m_pagesValidation->setObjectName(u"pagesValidation"_s);
     auto *form = new QFormLayout(this);
     form->setContentsMargins(0, 0, 0, 0);
     form->setLabelAlignment(Qt::AlignRight | Qt::AlignVCenter);
@@ -71,7 +71,7 @@ JobHeader::JobHeader(PrintJob &job, QWidget *parent)
     addLabelledRow(form, tr("Document:"), row({m_documents, m_choose}, 0));
     form->addRow(label(tr("Pri&nter:"), m_printers->popup()), m_printers);
     form->addRow(label(tr("&Copies:"), m_copies),
-                 row({m_copies, label(tr("Pa&ges:"), m_pages), m_pages, m_pagesWord}, 3));
+                 row({m_copies, label(tr("Pa&ges:"), m_pages), m_pages, m_pagesValidation}, 3));
     setTabOrder(m_choose, m_printers->popup());
     connect(m_choose, &QPushButton::clicked, this, &JobHeader::documentsWanted);
     connect(m_copies, &NumberField::editedByUser, this, [this] {
@@ -90,13 +90,14 @@ void JobHeader::reload()
     setLabelText(m_documents, names.isEmpty() ? tr("No document") : names.join(u", "_s));
     m_copies->setDoubleValue(m_job.settings().copies);
     m_pages->setText(m_job.settings().pageRanges);
-    m_pagesWord->clear();
+    m_pagesValidation->clear();
 }
 
 void JobHeader::takePages()
 {
     const QString ranges = normalizedPageRanges(m_pages->text());
-    setLabelText(m_pagesWord, ranges.isNull() ? tr("Pages look like this: 1-3, 5") : QString());
+    setLabelText(m_pagesValidation,
+                 ranges.isNull() ? tr("Pages look like this: 1-3, 5") : QString());
     if (!ranges.isNull())
         m_job.settings().pageRanges = ranges;
     Q_EMIT changed();

@@ -40,5 +40,5 @@ private:
     PrinterPopUp *m_printers;
     NumberField *m_copies;
     QLineEdit *m_pages;
-    QLabel *m_pagesWord;
+    QLabel *m_pagesValidation;
 };

@@ -19,7 +19,7 @@ namespace {
 
 struct Input
 {
-    harness::Harness harness;
+    Harness harness;
     QString path;
 };
 
@@ -31,7 +31,7 @@ void PrintTo(const Input &input, std::ostream *out)
 std::vector<Input> inputs()
 {
     std::vector<Input> found;
-    for (const harness::Harness &harness : harness::kHarnesses) {
+    for (const Harness &harness : kHarnesses) {
         const QDir folder(QStringLiteral(CORPUS_FOLDER "/") + QLatin1String(harness.name));
         for (const QString &name : folder.entryList(QDir::Files, QDir::Name))
             found.push_back({harness, folder.filePath(name)});
@@ -64,7 +64,7 @@ INSTANTIATE_TEST_SUITE_P(Inputs, Corpus, testing::ValuesIn(inputs()), nameOf);
 
 TEST(CorpusFolders, HoldInputsForEveryHarness)
 {
-    for (const harness::Harness &harness : harness::kHarnesses)
+    for (const Harness &harness : kHarnesses)
         EXPECT_FALSE(
             QDir(QStringLiteral(CORPUS_FOLDER "/") + QLatin1String(harness.name)).isEmpty())
             << harness.name;
@@ -72,7 +72,7 @@ TEST(CorpusFolders, HoldInputsForEveryHarness)
 
 int main(int argc, char **argv)
 {
-    harness::prepareEnvironment();
+    prepareEnvironment();
     const QApplication application(argc, argv);
     QApplication::setStyle(QStringLiteral("Fusion"));
     testing::InitGoogleTest(&argc, argv);

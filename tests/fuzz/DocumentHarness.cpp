@@ -25,8 +25,8 @@ public:
           m_file(open(m_path.constData(), O_CREAT | O_EXCL | O_WRONLY | O_CLOEXEC, 0600))
     {
         const auto size = static_cast<std::size_t>(content.size());
-        harness::require(write(m_file.get(), content.constData(), size) == content.size(),
-                         "the harness can write its own file");
+        require(write(m_file.get(), content.constData(), size) == content.size(),
+                "the harness can write its own file");
     }
     ~NamedFile() { unlink(m_path.constData()); }
     NamedFile(const NamedFile &) = delete;
@@ -56,18 +56,17 @@ QByteArray nameOf(const QByteArray &firstLine)
 void checkText(const QByteArray &text)
 {
     const QString read = QString::fromUtf8(text);
-    harness::require(
-        !text.isEmpty() && text.size() <= kLongestOutgoingText && read.toUtf8() == text &&
-            std::ranges::none_of(read,
-                                 [](QChar one) { return one.category() == QChar::Other_Control; }),
-        "every text that leaves is a short line of UTF-8");
+    require(!text.isEmpty() && text.size() <= kLongestOutgoingText && read.toUtf8() == text &&
+                std::ranges::none_of(
+                    read, [](QChar one) { return one.category() == QChar::Other_Control; }),
+            "every text that leaves is a short line of UTF-8");
 }
 
 } // namespace
 
 /// The document is opened and read as it is, whatever its name and its bytes; its name leaves as
 /// text.
-void harness::document(const QByteArray &nameAndContent)
+void runDocument(const QByteArray &nameAndContent)
 {
     const QByteArray firstLine =
         nameAndContent.first(std::max<qsizetype>(0, nameAndContent.indexOf('\n')));

@@ -5,7 +5,7 @@
 #include <cstdio>
 #include <cstdlib>
 
-void harness::prepareEnvironment()
+void prepareEnvironment()
 {
     static const QTemporaryDir home;
     qputenv("HOME", home.path().toLocal8Bit());
@@ -14,7 +14,7 @@ void harness::prepareEnvironment()
     qputenv("QT_QPA_PLATFORM", "offscreen");
 }
 
-void harness::require(bool kept, const char *promise)
+void require(bool kept, const char *promise)
 {
     if (kept)
         return;

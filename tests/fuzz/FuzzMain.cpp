@@ -8,7 +8,7 @@
 
 extern "C" int LLVMFuzzerInitialize(int *argc, char ***argv)
 {
-    harness::prepareEnvironment();
+    prepareEnvironment();
     static QApplication application(*argc, *argv);
     QApplication::setStyle(QStringLiteral("Fusion"));
     return 0;
@@ -16,7 +16,6 @@ extern "C" int LLVMFuzzerInitialize(int *argc, char ***argv)
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)
 {
-    harness::VELKARO_HARNESS(
-        QByteArray(reinterpret_cast<const char *>(data), static_cast<qsizetype>(size)));
+    VELKARO_HARNESS(QByteArray(reinterpret_cast<const char *>(data), static_cast<qsizetype>(size)));
     return 0;
 }

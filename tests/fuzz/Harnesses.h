@@ -9,28 +9,26 @@
 /// broken a promise (see the requirements in each), and the sanitizers abort for the rest.
 ///
 /// They need a QApplication and an environment of their own (prepareEnvironment()).
-namespace harness {
-
 struct Harness
 {
     const char *name; ///< of its folder in corpus/, too
     void (*run)(const QByteArray &input);
 };
 
-void savedOptions(const QByteArray &lpoptions);
-void replayScript(const QByteArray &script);
-void ppd(const QByteArray &ppd);
-void ippAnswer(const QByteArray &answer);
-void jobFile(const QByteArray &file);
-void document(const QByteArray &nameAndContent);
+void runSavedOptions(const QByteArray &lpoptions);
+void runReplayScript(const QByteArray &script);
+void runPPD(const QByteArray &ppd);
+void runIppAnswer(const QByteArray &answer);
+void runJobFile(const QByteArray &file);
+void runDocument(const QByteArray &nameAndContent);
 
 inline constexpr std::array kHarnesses{
-    Harness{"saved-options", savedOptions},
-    Harness{"replay-script", replayScript},
-    Harness{"ppd", ppd},
-    Harness{"ipp-answer", ippAnswer},
-    Harness{"job-file", jobFile},
-    Harness{"document", document},
+    Harness{"saved-options", runSavedOptions},
+    Harness{"replay-script", runReplayScript},
+    Harness{"ppd", runPPD},
+    Harness{"ipp-answer", runIppAnswer},
+    Harness{"job-file", runJobFile},
+    Harness{"document", runDocument},
 };
 
 /// Keeps the user's home, settings and printers out of the process, and the process off the screen.
@@ -39,5 +37,3 @@ void prepareEnvironment();
 
 /// Aborts with the sentence unless the promise was kept.
 void require(bool kept, const char *promise);
-
-} // namespace harness

@@ -11,7 +11,7 @@ FileDescriptor inputFile(const QByteArray &bytes)
     const bool isWritten = write(file.get(), bytes.constData(),
                                  static_cast<std::size_t>(bytes.size())) == bytes.size() &&
                            lseek(file.get(), 0, SEEK_SET) == 0;
-    harness::require(isWritten, "the harness can write its own file");
+    require(isWritten, "the harness can write its own file");
     return file;
 }
 

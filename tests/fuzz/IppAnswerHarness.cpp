@@ -28,11 +28,10 @@ void checkQueues(ipp_t *answer)
 {
     for (const Destination &queue : queuesOf(answer)) {
         const QString &name = queue.name.queue;
-        harness::require(!name.isEmpty() && !name.contains(u'/') && !name.contains(u' '),
-                         "every queue of the list can be named on the command line");
-        harness::require(isOneLine(name) && isOneLine(queue.description) &&
-                             isOneLine(queue.location),
-                         "what is shown of a queue is one line of text");
+        require(!name.isEmpty() && !name.contains(u'/') && !name.contains(u' '),
+                "every queue of the list can be named on the command line");
+        require(isOneLine(name) && isOneLine(queue.description) && isOneLine(queue.location),
+                "what is shown of a queue is one line of text");
     }
 }
 
@@ -40,18 +39,17 @@ void checkJob(ipp_t *answer)
 {
     const QList<JobOption> sent = sentOptions();
     const QStringList notes = differences(answer, 7, sent);
-    harness::require(notes.size() <= sent.size() + 1,
-                     "the account of a job has one sentence for each option and one for its state");
+    require(notes.size() <= sent.size() + 1,
+            "the account of a job has one sentence for each option and one for its state");
     for (const QString &note : notes)
-        harness::require(!note.isEmpty() && isOneLine(note),
-                         "what is said of a job is one line of text");
+        require(!note.isEmpty() && isOneLine(note), "what is said of a job is one line of text");
     fateOf(answer);
 }
 
 } // namespace
 
 /// Whatever a server answers is read or is none, and is read as far as the program does.
-void harness::ippAnswer(const QByteArray &answer)
+void runIppAnswer(const QByteArray &answer)
 {
     const IppAnswer read = readIppAnswer(answer);
     if (!read.ipp)

@@ -17,7 +17,7 @@ QByteArray bytesOf(const Document &document)
         bytes.append(piece, length);
         return true;
     });
-    harness::require(delivery == Delivery::Complete, "every document of a saved job can be read");
+    require(delivery == Delivery::Complete, "every document of a saved job can be read");
     return bytes;
 }
 
@@ -32,29 +32,28 @@ void checkDocuments(const Documents &documents, const QByteArray &file)
     QByteArray all;
     for (const Document &document : documents)
         all += bytesOf(document);
-    harness::require(!documents.empty() && file.endsWith(all),
-                     "the documents are what the file ends with");
+    require(!documents.empty() && file.endsWith(all), "the documents are what the file ends with");
 }
 
 void checkOptions(const QList<JobOption> &options)
 {
-    harness::require(std::ranges::all_of(options, isSendable), "every option of a job may be sent");
+    require(std::ranges::all_of(options, isSendable), "every option of a job may be sent");
     if (std::ranges::any_of(options, isHarmful))
-        harness::require(!checkOptions(u"job"_s, options, true),
-                         "a saved job is never sent past the printer's settings, or elsewhere");
+        require(!checkOptions(u"job"_s, options, true),
+                "a saved job is never sent past the printer's settings, or elsewhere");
     const bool isForeign = std::ranges::any_of(options, [](const JobOption &option) {
         return option.name == "job-name"_L1 || option.name == "document-format"_L1 ||
                option.name.startsWith("com.apple."_L1);
     });
     if (isForeign)
-        harness::require(!checkOptions(u"job"_s, options, false),
-                         "what this program does not write is not sent unasked");
+        require(!checkOptions(u"job"_s, options, false),
+                "what this program does not write is not sent unasked");
 }
 
 } // namespace
 
 /// A saved job that is read has its documents within the file and no option that slips in.
-void harness::jobFile(const QByteArray &file)
+void runJobFile(const QByteArray &file)
 {
     const Document saved(inputFile(file), 0, u"saved.job"_s, u"saved.job"_s);
     const auto read = readJobFile(saved);

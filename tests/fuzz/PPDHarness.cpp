@@ -67,30 +67,29 @@ bool isKeyOfTicket(const QString &name)
 
 void checkOption(ppd_file_t *ppd, const JobOption &option)
 {
-    harness::require(isSendable(option), "every option of a job may be sent");
-    harness::require(std::ranges::none_of(kUnsettled,
-                                          [&](QLatin1String name) {
-                                              return option.name.compare(name,
-                                                                         Qt::CaseInsensitive) == 0;
-                                          }),
-                     "no PPD says how much is printed, when or where");
+    require(isSendable(option), "every option of a job may be sent");
+    require(std::ranges::none_of(kUnsettled,
+                                 [&](QLatin1String name) {
+                                     return option.name.compare(name, Qt::CaseInsensitive) == 0;
+                                 }),
+            "no PPD says how much is printed, when or where");
     if (isReservedName(option.name)) {
-        harness::require(std::ranges::find(kOwnNames, option.name) != kOwnNames.end(),
-                         "a PPD's own option never stands for an attribute of IPP");
+        require(std::ranges::find(kOwnNames, option.name) != kOwnNames.end(),
+                "a PPD's own option never stands for an attribute of IPP");
         return;
     }
     const bool isCustomPaper =
         option.name == "PageSize"_L1 && option.value.startsWith("Custom."_L1);
     const bool isChoiceOfPPD = findChoice(findOption(ppd, option.name), option.value) != nullptr;
-    harness::require(isChoiceOfPPD || isCustomPaper || isKeyOfTicket(option.name),
-                     "what is sent as a choice is an option of the PPD with that choice");
+    require(isChoiceOfPPD || isCustomPaper || isKeyOfTicket(option.name),
+            "what is sent as a choice is an option of the PPD with that choice");
 }
 
 } // namespace
 
 /// A PPD that opens gives a job that may be sent, whatever is picked in it; any other gives a
 /// sentence.
-void harness::ppd(const QByteArray &ppd)
+void runPPD(const QByteArray &ppd)
 {
     const FileDescriptor file = inputFile(ppd);
     SessionOptions options;

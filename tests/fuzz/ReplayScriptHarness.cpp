@@ -30,7 +30,7 @@ QDir scriptFolder()
 } // namespace
 
 /// Every event that runs gives one line, which is a JSON object.
-void harness::replayScript(const QByteArray &script)
+void runReplayScript(const QByteArray &script)
 {
     const QDir folder = scriptFolder();
     ReplaySession session(builtBundle());

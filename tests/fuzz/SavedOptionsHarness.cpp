@@ -18,13 +18,13 @@ void writeLpoptions(const QByteArray &lines)
     QFile file(home.filePath(u".cups/lpoptions"_s));
     const bool isWritten =
         file.open(QIODevice::WriteOnly) && file.write(lines) == lines.size() && file.flush();
-    harness::require(isWritten, "the harness can write its own file");
+    require(isWritten, "the harness can write its own file");
 }
 
 } // namespace
 
 /// A job made with saved options holds nothing that a filter may not be given.
-void harness::savedOptions(const QByteArray &lpoptions)
+void runSavedOptions(const QByteArray &lpoptions)
 {
     writeLpoptions(lpoptions);
     const PPDHandle ppd = openSample(u"velkaro-px-t900"_s);

@@ -28,7 +28,7 @@ protected:
     {
         const QString path = u"%1.help/%2/index.html"_s.arg(QLatin1String(GetParam().book),
                                                             QLatin1String(GetParam().language));
-        document.setHtml(QString::fromUtf8(readFile(places::helpFile(path))));
+        document.setHtml(QString::fromUtf8(readFile(helpFile(path))));
         for (QTextBlock block = document.begin(); block.isValid(); block = block.next())
             for (auto piece = block.begin(); !piece.atEnd(); ++piece)
                 read(piece.fragment());
@@ -70,7 +70,7 @@ INSTANTIATE_TEST_SUITE_P(
 TEST(HelpBookNames, AreThoseThatThePanelsAskFor)
 {
     const auto name = [](const QString &book) {
-        return places::jsonObject(places::helpFile(book + u".help/Info.json"_s))
+        return jsonObject(helpFile(book + u".help/Info.json"_s))
             .value(u"CFBundleHelpBookName"_s)
             .toString();
     };
@@ -81,7 +81,7 @@ TEST(HelpBookNames, AreThoseThatThePanelsAskFor)
 TEST(HelpBookNames, LeadToAPageInTheLanguageFolder)
 {
     for (const QString &book : {u"VKInkPrintSetting14"_s, u"VKInkColorSetting"_s})
-        EXPECT_EQ(places::jsonObject(places::helpFile(book + u".help/Info.json"_s))
+        EXPECT_EQ(jsonObject(helpFile(book + u".help/Info.json"_s))
                       .value(u"HPDBookAccessPath"_s)
                       .toString(),
                   u"index.html"_s);

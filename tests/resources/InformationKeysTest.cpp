@@ -12,7 +12,7 @@ namespace {
 
 QJsonObject information()
 {
-    return places::jsonObject(places::bundleFile(u"Info.json"_s));
+    return jsonObject(bundleFile(u"Info.json"_s));
 }
 
 QStringList list(const QString &key)
@@ -55,7 +55,7 @@ TEST(InformationKeys, ListTheColorSettingsKeywordsWithoutTheEnhancementValues)
 TEST(InformationKeys, ListEveryView)
 {
     QStringList views;
-    for (const QString &file : QDir(places::bundleFile(u"Resources"_s)).entryList({u"*.ui"_s}))
+    for (const QString &file : QDir(bundleFile(u"Resources"_s)).entryList({u"*.ui"_s}))
         views << QFileInfo(file).baseName();
     QStringList listed = list(u"PDEViews"_s);
     listed.sort();

@@ -10,7 +10,7 @@ namespace {
 
 QImage picture(const QString &name)
 {
-    return QImage(places::bundleResource(name + u".tiff"_s));
+    return QImage(bundleResource(name + u".tiff"_s));
 }
 
 struct Picture

@@ -8,8 +8,6 @@
 
 using namespace Qt::StringLiterals;
 
-namespace places {
-
 QString bundleFile(const QString &name)
 {
     return QStringLiteral(VELKARO_PRIVATE_FOLDER) + u"/PlugIns/VKInkQuality14.bundle/"_s + name;
@@ -36,5 +34,3 @@ QJsonObject jsonObject(const QString &path)
     EXPECT_TRUE(document.isObject()) << qPrintable(path);
     return document.object();
 }
-
-} // namespace places

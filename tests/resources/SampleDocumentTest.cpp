@@ -9,7 +9,7 @@ namespace {
 
 TEST(SampleDocument, IsASmallPdfOfTwoA4Pages)
 {
-    const QByteArray document = readFile(places::sharedFile(u"sample/welcome.pdf"_s));
+    const QByteArray document = readFile(sharedFile(u"sample/welcome.pdf"_s));
     EXPECT_TRUE(document.startsWith("%PDF-1."));
     EXPECT_TRUE(document.trimmed().endsWith("%%EOF"));
     EXPECT_LT(document.size(), 200'000);

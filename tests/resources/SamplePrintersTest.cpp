@@ -22,7 +22,7 @@ using PPD = std::unique_ptr<ppd_file_t, PPDCloser>;
 
 QString path(const QString &name)
 {
-    return places::sharedFile(u"ppd/"_s + name + u".ppd"_s);
+    return sharedFile(u"ppd/"_s + name + u".ppd"_s);
 }
 
 PPD opened(const QString &name)

@@ -58,7 +58,7 @@ protected:
     {
         QTranslator table;
         const QString name = u"Localizable_%1.qm"_s.arg(QLatin1String(language));
-        EXPECT_TRUE(table.load(places::bundleResource(name))) << qPrintable(name);
+        EXPECT_TRUE(table.load(bundleResource(name))) << qPrintable(name);
         return table.translate("Localizable", GetParam().toUtf8().constData());
     }
 };
@@ -89,8 +89,8 @@ TEST(StringTablesWords, NameThePanelsAndThePaperAsThePageSetupDoes)
 {
     QTranslator english;
     QTranslator japanese;
-    ASSERT_TRUE(english.load(places::bundleResource(u"Localizable_en.qm"_s)));
-    ASSERT_TRUE(japanese.load(places::bundleResource(u"Localizable_ja.qm"_s)));
+    ASSERT_TRUE(english.load(bundleResource(u"Localizable_en.qm"_s)));
+    ASSERT_TRUE(japanese.load(bundleResource(u"Localizable_ja.qm"_s)));
     EXPECT_EQ(english.translate("Localizable", "Print Setting"), u"Print Settings"_s);
     EXPECT_EQ(english.translate("Localizable", "Color Setting"), u"Color Settings"_s);
     EXPECT_EQ(japanese.translate("Localizable", "Print Setting"), u"印刷設定"_s);

@@ -50,15 +50,15 @@ TEST_F(CustomSize, SaysBesideTheFieldWhatIsWrongWithALength)
 {
     chooseUnit(0);
     type("customWidth", "50");
-    EXPECT_EQ(word("customWidthWord"), u"Too small: at least 64.3 mm."_s);
-    EXPECT_EQ(word("customHeightWord"), u""_s);
+    EXPECT_EQ(word("customWidthValidation"), u"Too small: at least 64.3 mm."_s);
+    EXPECT_EQ(word("customHeightValidation"), u""_s);
     EXPECT_FALSE(m_fields.isAcceptable());
     type("customHeight", "500");
-    EXPECT_EQ(word("customHeightWord"), u"Too large: at most 482.9 mm."_s);
+    EXPECT_EQ(word("customHeightValidation"), u"Too large: at most 482.9 mm."_s);
     type("customWidth", "64.3"); // the limits, as the words have them
     type("customHeight", "482.9");
-    EXPECT_EQ(word("customWidthWord"), u""_s);
-    EXPECT_EQ(word("customHeightWord"), u""_s);
+    EXPECT_EQ(word("customWidthValidation"), u""_s);
+    EXPECT_EQ(word("customHeightValidation"), u""_s);
     EXPECT_TRUE(m_fields.isAcceptable());
     EXPECT_GT(m_edits, 0);
 }
@@ -72,9 +72,9 @@ TEST_F(CustomSize, KeepsTheSizeWhenTheUnitChanges)
     type("customWidth", "8.5");
     EXPECT_DOUBLE_EQ(m_fields.paperWidth(), 612);
     type("customWidth", "1");
-    EXPECT_EQ(word("customWidthWord"), u"Too small: at least 2.53 inches."_s);
+    EXPECT_EQ(word("customWidthValidation"), u"Too small: at least 2.53 inches."_s);
     chooseUnit(0);
-    EXPECT_EQ(word("customWidthWord"), u"Too small: at least 64.3 mm."_s);
+    EXPECT_EQ(word("customWidthValidation"), u"Too small: at least 64.3 mm."_s);
 }
 
 } // namespace

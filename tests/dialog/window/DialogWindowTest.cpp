@@ -148,7 +148,7 @@ TEST_F(Window, TakesNothingFromAPaneThatCannotBeUsed)
     ASSERT_TRUE(width->isVisible());
     width->setValue(5);
     EXPECT_FALSE(part<QAbstractButton>("printButton")->isEnabled());
-    EXPECT_FALSE(part<QLabel>("customWidthWord")->text().isEmpty());
+    EXPECT_FALSE(part<QLabel>("customWidthValidation")->text().isEmpty());
     EXPECT_EQ(notice(), QString()) << "the word beside the field says it";
     part<QTabWidget>("parts")->setCurrentIndex(1);
     EXPECT_EQ(notice(), u"The printer cannot take the paper size in Page Setup. Correct it there "
@@ -159,7 +159,7 @@ TEST_F(Window, TakesNothingFromAPaneThatCannotBeUsed)
     EXPECT_TRUE(part<QAbstractButton>("printButton")->isEnabled());
     EXPECT_TRUE(m_window->job().paper()->name.startsWith(u"Custom"_s));
     QTest::keyClicks(part<QLineEdit>("pagesField"), u"x"_s);
-    EXPECT_EQ(part<QLabel>("pagesWord")->text(), u"Pages look like this: 1-3, 5"_s);
+    EXPECT_EQ(part<QLabel>("pagesValidation")->text(), u"Pages look like this: 1-3, 5"_s);
     EXPECT_FALSE(part<QAbstractButton>("printButton")->isEnabled());
 }
 
