@@ -19,6 +19,7 @@
 namespace {
 
 constexpr auto kStringTable = "Localizable";
+constexpr qint64 kLargestInfo = 1 << 20; // bytes
 
 std::vector<std::weak_ptr<Bundle>> &openBundles()
 {
@@ -34,10 +35,12 @@ std::shared_ptr<Bundle> &mainBundle()
 
 std::optional<QVariantMap> readInfo(const QString &path)
 {
+    // A pipe would be waited for, and a device may have no end.
+    const QFileInfo info(path);
     QFile file(path);
-    if (!file.open(QIODevice::ReadOnly))
+    if (!info.isFile() || info.size() > kLargestInfo || !file.open(QIODevice::ReadOnly))
         return std::nullopt;
-    const auto document = QJsonDocument::fromJson(file.readAll());
+    const auto document = QJsonDocument::fromJson(file.read(kLargestInfo));
     if (!document.isObject())
         return std::nullopt;
     return document.object().toVariantMap();

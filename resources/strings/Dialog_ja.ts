@@ -67,7 +67,7 @@
     </message>
     <message>
         <source>&quot;%1&quot; cannot be chosen: the printer does not allow it together with %2.</source>
-        <translation>「%1」は選べません。このプリンターでは %2 と同時に使えません。</translation>
+        <translation>「%1」は選べません。このプリンターでは%2と同時に使えません。</translation>
     </message>
 </context>
 <context>
@@ -333,7 +333,7 @@
     </message>
     <message>
         <source>When the printer does not allow two settings together, the second one is not made, and a line above the tabs names both.</source>
-        <translation>同時に使えない設定を選んだときは、後から選んだ設定は変更されず、両方の名前がタブの上に表示されます。</translation>
+        <translation>同時に使えない設定を選んだときは、後から選んだ設定は反映されず、両方の名前がタブの上に表示されます。</translation>
     </message>
     <message>
         <source>Summary lists everything that will be printed with. &quot;Save to File&quot; keeps the job with its documents; send it later with velkaro-print --no-dialog.</source>
@@ -932,7 +932,7 @@
     </message>
     <message>
         <source>The printer takes no paper of %1 × %2 mm: sizes of your own go from %3 × %4 mm to %5 × %6 mm.</source>
-        <translation>プリンターでは %1 × %2 mm の用紙を使用できません。指定できるサイズは %3 × %4 mm から %5 × %6 mm までです。</translation>
+        <translation>このプリンターでは %1 × %2 mm の用紙を使用できません。指定できるサイズは %3 × %4 mm から %5 × %6 mm までです。</translation>
     </message>
 </context>
 </TS>

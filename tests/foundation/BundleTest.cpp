@@ -14,6 +14,8 @@
 #include <QtCore/QFileInfo>
 #include <QtCore/QTemporaryDir>
 
+#include <sys/stat.h>
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -50,6 +52,8 @@ const InfoCase kInfoCases[] = {
     {"AnArray", R"(["CFBundleIdentifier"])", false, QString()},
     {"EmptyFile", "", false, QString()},
     {"BinaryRubbish", QByteArray("\0\xff\x01", 3), false, QString()},
+    {"TooLarge", R"({"CFBundleIdentifier": ")" + QByteArray(2 << 20, 'x') + R"("})", false,
+     QString()},
 };
 
 TEST_P(InfoDictionary, IsReadFromTheFile)
@@ -62,6 +66,13 @@ TEST_P(InfoDictionary, IsReadFromTheFile)
 }
 
 INSTANTIATE_TEST_SUITE_P(Cases, InfoDictionary, testing::ValuesIn(kInfoCases), CaseName());
+
+TEST_F(BundleTest, WaitsForNobodyWhoWritesIntoAPipe)
+{
+    const QByteArray pipe = QFile::encodeName(folder.filePath(u"Info.json"_s));
+    ASSERT_EQ(mkfifo(pipe.constData(), 0600), 0);
+    EXPECT_FALSE(Bundle::open(folder.path())->infoDictionary().has_value());
+}
 
 TEST_F(BundleTest, IsNeverNullForAMissingFolder)
 {

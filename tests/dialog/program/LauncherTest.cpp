@@ -1,5 +1,6 @@
 // The program's own answers, before anything of the dialog is loaded and after.
 #include "dialog/program/HelpText.h"
+#include "tests/support/ClashingPPD.h"
 #include "tests/support/Files.h"
 #include "tests/support/SmallPrinter.h"
 
@@ -74,6 +75,27 @@ TEST(Launcher, RefusesInTheUsersLanguage)
         runProgram(QStringLiteral(PROGRAM), {u"--nonsense"_s}, {{u"LANGUAGE"_s, u"ja"_s}});
     EXPECT_EQ(result.status, 2);
     EXPECT_EQ(result.error, "velkaro-print: --nonsense というオプションはありません。\n");
+}
+
+TEST(Launcher, NamesSettingsThatClashAsJapaneseIsWritten)
+{
+    const ClashingPPD printer;
+    const QStringList arguments{u"--no-dialog"_s,
+                                u"--ppd"_s,
+                                printer.path(),
+                                u"-o"_s,
+                                u"Duplex=DuplexTumble"_s,
+                                u"-o"_s,
+                                u"VKMediaType=Transparencies"_s,
+                                u"--output"_s,
+                                u"job"_s,
+                                printer.path()};
+    const Outcome result = runProgram(QStringLiteral(PROGRAM), arguments,
+                                      {{u"LC_ALL"_s, u"ja_JP.UTF-8"_s}, {u"LANGUAGE"_s, u"ja"_s}});
+    EXPECT_EQ(result.status, 2);
+    EXPECT_EQ(result.error,
+              "velkaro-print: 「用紙種類: OHPフィルム」は選べません。このプリンターでは「両面印刷: "
+              "短辺とじ」と同時に使えません。\n");
 }
 
 TEST(Launcher, SaysSoWhenThereIsNoDisplayForTheDialog)
