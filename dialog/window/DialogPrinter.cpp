@@ -6,6 +6,7 @@
 #include "platform/ppd/PPDText.h"
 
 #include <QtCore/QFileInfo>
+#include <QtCore/QTimer>
 
 #include <algorithm>
 #include <utility>
@@ -86,8 +87,10 @@ void DialogWindow::makeRequestedSettings()
         moveButtonsLast();
         m_header->reload();
     }
+    // After what the picks among them have told.
     if (!m_settingState)
-        tell(NoticeBar::Kind::Warning, m_settingState.sentence());
+        QTimer::singleShot(0, this,
+                           [this] { tell(NoticeBar::Kind::Warning, m_settingState.sentence()); });
 }
 
 DialogWindow::Notice DialogWindow::whatIsMissing() const
