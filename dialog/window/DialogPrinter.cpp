@@ -49,7 +49,7 @@ void DialogWindow::takePrinter(const Result<FoundPrinter> &found)
                           .arg(missingPPD(job().source().queue.queue))};
     setState(found ? State::Ready : State::NoPrinter);
     tellStanding();
-    if (job().session())
+    if (found)
         makeRequestedSettings();
     // Of a server that cannot be reached there is no list.
     const bool isReached = found || found.faultKind() == FaultKind::PPD ||
