@@ -5,13 +5,9 @@
 #include "printsettings/PrintControls.h"
 #include "printsettings/rules/ColorModes.h"
 #include "printsettings/rules/DefaultChoices.h"
-#include "printsettings/rules/DiscMedia.h"
 #include "printsettings/rules/MediaQuality.h"
 #include "printsettings/rules/PaperChange.h"
 #include "printsettings/rules/PaperKind.h"
-#include "printsettings/rules/TwoSidedMedium.h"
-
-#include <QtCore/QSet>
 
 #include <algorithm>
 

@@ -1,7 +1,6 @@
 #include "dialog/host/PPDReading.h"
 
 #include "dialog/host/Gunzip.h"
-#include "dialog/host/PPDCompleteness.h"
 #include "dialog/host/PPDLimits.h"
 #include "dialog/host/PPDSentence.h"
 

@@ -4,12 +4,11 @@
 #include <QtCore/QFile>
 #include <QtCore/QFileInfo>
 
+#include <array>
 #include <grp.h>
+#include <optional>
 #include <pwd.h>
 #include <unistd.h>
-
-#include <array>
-#include <optional>
 
 namespace {
 

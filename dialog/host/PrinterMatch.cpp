@@ -2,10 +2,8 @@
 
 #include "platform/ppd/PPDText.h"
 
-#include <fnmatch.h>
-
 #include <algorithm>
-#include <utility>
+#include <fnmatch.h>
 
 using namespace Qt::StringLiterals;
 

@@ -1,11 +1,11 @@
 #pragma once
 
+#include "platform/ppd/CupsPPD.h"
+
 #include <QtCore/QList>
 #include <QtCore/QString>
 #include <QtCore/QStringList>
 #include <QtCore/QVariant>
-
-#include "platform/ppd/CupsPPD.h"
 
 #include <optional>
 

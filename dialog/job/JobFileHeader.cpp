@@ -4,8 +4,6 @@
 #include "dialog/job/JobOptions.h"
 #include "dialog/job/OutgoingText.h"
 
-#include <QtCore/QCoreApplication>
-
 #include <algorithm>
 #include <array>
 

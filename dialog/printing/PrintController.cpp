@@ -97,6 +97,7 @@ void PrintController::findPrinter(const PrinterSource &source, Then<FoundPrinter
 Result<FoundPrinter> PrintController::takePrinter(const PrinterSource &source,
                                                   FetchedPrinter &fetched)
 {
+    m_job.closePrinter(); // two sessions at once would hear of each other
     PrinterSource found = source;
     found.queue = fetched.queue;
     if (!fetched.opened) {

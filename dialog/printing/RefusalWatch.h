@@ -6,7 +6,8 @@
 
 #include <QtCore/QString>
 
-/// Notes, while it lives, whether the host has refused a panel the choice.
+/// Notes, while it lives, whether the host has refused a panel the choice: its last answer counts.
+/// What it answers a panel's rules of other choices does not.
 class RefusalWatch : public SessionObserver
 {
 public:
@@ -22,8 +23,9 @@ public:
     void didAnswer(const HostCallback::Call &call) override
     {
         using enum HostCallback::Call::Kind;
-        if (call.kind == WillChangePPDOptionKeyValue && !call.accepted)
-            m_isRefused = call.keyword == m_keyword && isSameName(call.choice, m_choice);
+        if (call.kind == WillChangePPDOptionKeyValue && call.keyword == m_keyword &&
+            isSameName(call.choice, m_choice))
+            m_isRefused = !call.accepted;
     }
 
     bool isRefused() const { return m_isRefused; }
@@ -32,5 +34,5 @@ private:
     HostSession &m_session;
     const QString m_keyword;
     const QString m_choice;
-    bool m_isRefused = false; // by the last refusal
+    bool m_isRefused = false;
 };

@@ -51,8 +51,7 @@ Result<> checkConstraints(ppd_file_t *ppd, const QString &keyword, const QString
     return clash.isNull() ? Result<>() : settingFault(clash);
 }
 
-// --- The dialog's own settings
-// --------------------------------------------------------------------
+// --- The dialog's own settings -------------------------------------------------------------------
 
 bool takeCopies(PrintJob &job, const QString &value)
 {
@@ -90,8 +89,7 @@ constexpr std::array kOwnSettings{OwnSetting{"copies"_L1, takeCopies},
                                   OwnSetting{"page-ranges"_L1, takePages},
                                   OwnSetting{"orientation-requested"_L1, takeOrientation}};
 
-// --- The panels' controls
-// -------------------------------------------------------------------------
+// --- The panels' controls ------------------------------------------------------------------------
 
 /// The panel that manages the keyword; null without one.
 const HostPanel *panelOf(const HostSession &session, const QString &keyword)

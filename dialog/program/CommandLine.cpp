@@ -132,7 +132,8 @@ QString contradiction(const CommandLine &line)
         return QCoreApplication::translate("CommandLine",
                                            "--replay and --record do not go together.");
     const bool asksForWork = line.noDialog || !line.files.isEmpty() || !line.replay.isNull() ||
-                             !line.record.isNull() || !line.screenshot.isNull();
+                             !line.record.isNull() || !line.screenshot.isNull() ||
+                             !line.output.isNull();
     if (!line.checkPPD.isNull() && asksForWork)
         return QCoreApplication::translate(
             "CommandLine", "--check-ppd only looks at a PPD: it prints and replays nothing.");

@@ -1,8 +1,7 @@
 #include "dialog/program/CommandOutput.h"
 
-#include "platform/toolkit/PlainText.h"
-
 #include "dialog/files/DescriptorPath.h"
+#include "platform/toolkit/PlainText.h"
 
 #include <algorithm>
 #include <array>

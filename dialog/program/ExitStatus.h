@@ -3,7 +3,7 @@
 /// What velkaro-print's exit status says. Scripts rely on the numbers: they are never given a new
 /// meaning. The help text and README list them.
 enum class ExitStatus {
-    Done = 0,      ///< the job was accepted, the file was written, or the script ran to its end
+    Done = 0,      ///< the job was accepted, the file written, the PPD checked, or the script run
     Cancelled = 1, ///< the user closed the dialog, or a signal came before the server had the job
     Usage = 2,     ///< a wrong option, setting or script, a bad PPD, or no display for the dialog
     Vetoed = 3,    ///< a check before printing stopped the job
@@ -11,7 +11,7 @@ enum class ExitStatus {
     Output = 5,    ///< the output file, picture or recording cannot be written, or exists already
     Server = 6,    ///< the server or the queue cannot be reached, the job was refused, or its fate
                    ///< is not known
-    PlugIn = 7,    ///< the plug-in cannot be used
+    PlugIn = 7,    ///< the plug-in cannot be used, or cannot check a PPD
 };
 
 constexpr int exitCode(ExitStatus status)

@@ -6,6 +6,7 @@
 #include "platform/ppd/PPDText.h"
 
 #include <QtCore/QFileInfo>
+#include <QtCore/QTimer>
 
 #include <algorithm>
 #include <utility>
@@ -48,7 +49,7 @@ void DialogWindow::takePrinter(const Result<FoundPrinter> &found)
                           .arg(missingPPD(job().source().queue.queue))};
     setState(found ? State::Ready : State::NoPrinter);
     tellStanding();
-    if (job().session())
+    if (found)
         makeRequestedSettings();
     // Of a server that cannot be reached there is no list.
     const bool isReached = found || found.faultKind() == FaultKind::PPD ||
@@ -86,8 +87,10 @@ void DialogWindow::makeRequestedSettings()
         moveButtonsLast();
         m_header->reload();
     }
+    // After what the picks among them have told.
     if (!m_settingState)
-        tell(NoticeBar::Kind::Warning, m_settingState.sentence());
+        QTimer::singleShot(0, this,
+                           [this] { tell(NoticeBar::Kind::Warning, m_settingState.sentence()); });
 }
 
 DialogWindow::Notice DialogWindow::whatIsMissing() const

@@ -18,8 +18,6 @@
 #include <QtWidgets/QTabWidget>
 #include <QtWidgets/QVBoxLayout>
 
-#include <utility>
-
 using namespace Qt::StringLiterals;
 
 namespace {

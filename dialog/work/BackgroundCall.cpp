@@ -111,7 +111,8 @@ void BackgroundCall::timerEvent(QTimerEvent *)
     // The work itself stops waiting when its timeout is over; this catches what it cannot stop,
     // such as looking up a name.
     const auto timeout = m_shared->guard.timeout();
-    if (m_shared->call && m_shared->guard.silence() > timeout + timeout / 4 + kLookInterval)
+    if (m_givenUp && m_shared->call &&
+        m_shared->guard.silence() > timeout + timeout / 4 + kLookInterval)
         finish(m_givenUp);
 }
 

@@ -15,8 +15,9 @@ inline constexpr std::chrono::hours kFileTimeout{24};
 ///
 /// The work gets a guard, and gives back what is to happen on the thread that started it. Exactly
 /// one of three things happens: that, or `givenUp` when the guard timed out although the
-/// work has not returned, or nothing at all when the call was destroyed first. A call destroys
-/// itself afterwards, or with its parent.
+/// work has not returned, or nothing at all when the call was destroyed first. With a null
+/// `givenUp` the work is waited for however long it takes. A call destroys itself afterwards, or
+/// with its parent.
 class BackgroundCall : public QObject
 {
 public:

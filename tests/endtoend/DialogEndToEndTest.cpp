@@ -165,6 +165,19 @@ TEST_F(Dialog, AQueueWithoutAPPDIsSaidAndPrintsWithTheDialogsOwnSettings)
               u"2"_s);
 }
 
+TEST_F(Dialog, AQueueWithoutAPPDTakesWhatWasWishedOfTheDialogsOwnSettings)
+{
+    ASSERT_TRUE(server().addQueue(u"plain"_s, QString()));
+    DialogWishes line = lineFor(server().address(), u"plain"_s);
+    line.choices = {{u"copies"_s, u"3"_s}, {u"Finish"_s, u"Shiny"_s}};
+    const auto window = open(line);
+    ASSERT_EQ(window->state(), DialogWindow::State::Ready);
+    EXPECT_EQ(window->job().settings().copies, 3);
+    EXPECT_TRUE(QTest::qWaitFor([&] {
+        return window->notice().sentence() == u"Finish cannot be set: the queue has no PPD."_s;
+    })) << window->notice().sentence().toStdString();
+}
+
 TEST_F(Dialog, AServerThatIsDownAtTheStartIsSaid)
 {
     const QString address = u"127.0.0.1:%1"_s.arg(freePort());

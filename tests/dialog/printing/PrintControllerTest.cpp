@@ -139,6 +139,18 @@ TEST_F(Controller, TellsWhatAPrinterLacksThatPrintsAllTheSame)
     EXPECT_TRUE(controller().finish());
 }
 
+TEST_F(Controller, ClosesAPrinterBeforeItOpensAnother)
+{
+    ASSERT_TRUE(find());
+    bool isOtherOpen = true;
+    controller().addSessionHook([&](HostSession &) {
+        isOtherOpen = controller().job().session() != nullptr;
+        return Result<>();
+    });
+    ASSERT_TRUE(find());
+    EXPECT_FALSE(isOtherOpen);
+}
+
 TEST_F(Controller, NotesAJobThatCannotBeSentFromItsFile)
 {
     ASSERT_TRUE(find());

@@ -2,6 +2,7 @@
 
 #include "dialog/job/Papers.h"
 #include "dialog/printing/PrintJob.h"
+#include "platform/ppd/PPDText.h"
 #include "tests/built/BuiltFiles.h"
 #include "tests/support/CaseName.h"
 #include "tests/support/QStringPrinting.h"
@@ -16,11 +17,15 @@ namespace {
 class Requests : public testing::Test
 {
 protected:
-    Requests()
+    Requests() { open({}); }
+
+    /// With a host that refuses what is named, as SessionOptions::refused has it.
+    void open(const QStringList &refused)
     {
         SessionOptions options;
         options.ppdPath = samplePPD(u"velkaro-px-t900"_s);
         options.bundlePath = builtBundle();
+        options.refused = refused;
         m_job.setPrinter({}, openPrinter(options, *openPPD(options.ppdPath), {}));
     }
 
@@ -81,11 +86,35 @@ TEST_F(Requests, NameTheLimitsOfAnOwnSize)
         "mm to 330.2 × 482.6 mm."_s);
 }
 
-TEST_F(Requests, LookAtTheirOwnRefusalsAlone)
+struct HostRefusal
 {
-    ASSERT_TRUE(makeSetting(m_job, u"VKMediaType"_s, u"Plain"_s));
-    EXPECT_FALSE(makeSetting(m_job, u"VKMediaType"_s, u"NoSuchPaper"_s));
-    EXPECT_TRUE(makeSetting(m_job, u"VKMediaType"_s, u"Glossy"_s));
+    const char *behaviour;
+    QStringList refused;
+    bool isMade = false;
+};
+
+class HostRefusals : public Requests, public testing::WithParamInterface<HostRefusal>
+{};
+
+TEST_P(HostRefusals, FailTheSettingThatTheyConcernAlone)
+{
+    open(GetParam().refused);
+    const Result<> made = makeSetting(m_job, u"vkmediatype"_s, u"glossy"_s);
+    EXPECT_EQ(made.sentence(), GetParam().isMade ? QString()
+                                                 : u"VKMediaType=Glossy cannot be chosen while "
+                                                   "the other settings are as they are."_s);
+    EXPECT_EQ(markedChoice(m_job.ppd(), u"VKMediaType"_s) == u"Glossy"_s, GetParam().isMade);
 }
+
+INSTANTIATE_TEST_SUITE_P(
+    Table, HostRefusals,
+    testing::Values(HostRefusal{"None", {}, true},
+                    HostRefusal{"OfTheChoice", {u"VKMediaType=Glossy"_s}},
+                    HostRefusal{"OfWhatTheRulesFollowWith", {u"VKResolution"_s}, true},
+                    HostRefusal{"OfBoth", {u"VKMediaType"_s, u"VKResolution"_s}},
+                    HostRefusal{"OfAll",
+                                {u"VKMediaType"_s, u"VKResolution"_s, u"VKInputSlot"_s,
+                                 u"VKBiDir"_s, u"VKSlowDrying"_s, u"VKMonoColor"_s}}),
+    CaseName());
 
 } // namespace

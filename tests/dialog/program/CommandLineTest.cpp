@@ -54,6 +54,9 @@ INSTANTIATE_TEST_SUITE_P(
         Refused{"CheckAndReplay",
                 {u"--check-ppd=a.ppd"_s, u"--replay=a"_s},
                 "--check-ppd only looks at a PPD: it prints and replays nothing."},
+        Refused{"CheckAndOutput",
+                {u"--check-ppd=a.ppd"_s, u"--output=-"_s},
+                "--check-ppd only looks at a PPD: it prints and replays nothing."},
         Refused{"NothingToPrint", {u"--no-dialog"_s}, "--no-dialog needs a document to print."},
         Refused{"PictureOfNoDialog",
                 {u"--no-dialog"_s, u"--screenshot=a.png"_s, u"a.pdf"_s},
@@ -131,9 +134,9 @@ TEST(CommandLine, GivesHelpAndVersionDespiteFaults)
 TEST(HelpText, NamesEveryOptionAndEveryStatus)
 {
     const QString text = QString::fromUtf8(helpText());
-    for (const char *option : {"-d,", "-h,", "-o,", "--ppd", "--paper", "--output", "--no-dialog",
-                               "--yes", "--screenshot", "--panel", "--record", "--replay",
-                               "--check-ppd", "--plug-in", "--version", "--help"})
+    for (const char *option : {"-d,", "-h,", "-o,", "--ppd", "--paper", "--output", "--force",
+                               "--no-dialog", "--yes", "--screenshot", "--panel", "--record",
+                               "--replay", "--check-ppd", "--plug-in", "--version", "--help"})
         EXPECT_TRUE(text.contains(QLatin1String(option))) << option;
     for (int status = exitCode(ExitStatus::Done); status <= exitCode(ExitStatus::PlugIn); ++status)
         EXPECT_TRUE(text.contains(QStringLiteral("\n  %1  ").arg(status))) << status;

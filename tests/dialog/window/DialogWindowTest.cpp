@@ -225,6 +225,17 @@ TEST_F(Window, ShowsTheSettingsOfTheCommandLine)
     EXPECT_EQ(part<NumberField>("copiesField")->value(), 3);
 }
 
+TEST_F(Window, TellsOfASettingOfTheCommandLineThatCannotBeMade)
+{
+    m_line.choices = {{u"VKMediaType"_s, u"Glossy"_s}, {u"NoSuch"_s, u"1"_s}};
+    open();
+    EXPECT_EQ(marked(u"VKMediaType"_s), u"Glossy"_s);
+    EXPECT_EQ(notice(), u"The printer has no setting NoSuch."_s);
+    EXPECT_EQ(m_window->notice().kind(), NoticeBar::Kind::Warning);
+    pick("mediaTypePopup", u"Plain"_s);
+    EXPECT_EQ(notice(), QString());
+}
+
 TEST_F(Window, SummarizesTheWholeJob)
 {
     m_line.choices = {{u"VKMediaType"_s, u"Glossy"_s}, {u"copies"_s, u"3"_s}};

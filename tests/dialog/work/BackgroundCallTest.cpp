@@ -35,6 +35,21 @@ TEST(BackgroundCallTest, GivesUpWorkThatDoesNotStop)
     EXPECT_FALSE(arrived);
 }
 
+TEST(BackgroundCallTest, WaitsForWorkThatNobodyGivesUp)
+{
+    bool arrived = false;
+    QObject owner;
+    new BackgroundCall(
+        &owner, 10ms,
+        [&](CallGuard &guard) -> BackgroundCall::Outcome {
+            while (guard.silence() < 500ms) // several looks of the call's own
+                std::this_thread::yield();
+            return [&] { arrived = true; };
+        },
+        nullptr);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return arrived; }));
+}
+
 TEST(BackgroundCallTest, DestroyedBeforeItsEndSaysNothing)
 {
     bool arrived = false;
