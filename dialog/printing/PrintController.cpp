@@ -159,6 +159,8 @@ Result<> PrintController::makeRequestedSettings(const std::function<void()> &mad
 
 Result<JobRequest> PrintController::finish()
 {
+    if (const Result<> checked = refuseSavedJobs(m_job.documents()); !checked)
+        return checked.fault();
     if (HostSession *session = m_job.session()) {
         const Result<> agreed =
             m_unsaved.saveAgain(*session).andThen([&] { return askPanels(*session); });

@@ -6,6 +6,8 @@
 
 #include <QtCore/QCoreApplication>
 
+#include <algorithm>
+
 Result<> checkOptions(const QString &path, const QList<JobOption> &options, bool yes)
 {
     for (const JobOption &option : options) {
@@ -42,6 +44,18 @@ Result<JobRequest> savedJob(const PrintWishes &wishes, const Document &file, boo
     if (!wishes.queue.isNull())
         job->queue = wishes.queue;
     return job;
+}
+
+Result<> refuseSavedJobs(const Documents &documents)
+{
+    const auto saved = std::ranges::find_if(documents, isJobFile);
+    if (saved == documents.end())
+        return {};
+    return Fault{FaultKind::Request,
+                 QCoreApplication::translate("SavedJob",
+                                             "%1 is a saved job: it is sent with --no-dialog, and "
+                                             "with no other document beside it.")
+                     .arg(saved->path())};
 }
 
 QStringList notesOnSaving(const QString &path, const QList<JobOption> &options)

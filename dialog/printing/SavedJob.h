@@ -1,5 +1,6 @@
 #pragma once
 
+#include "dialog/job/Document.h"
 #include "dialog/job/JobRequest.h"
 #include "dialog/printing/PrintWishes.h"
 #include "dialog/work/Result.h"
@@ -9,6 +10,10 @@
 /// they are: wishes for other ones are refused. `yes` admits options that this program does not
 /// write.
 Result<JobRequest> savedJob(const PrintWishes &wishes, const Document &file, bool yes);
+
+/// A fault where a saved job is among the documents of another one: its settings would come out as
+/// text.
+Result<> refuseSavedJobs(const Documents &documents);
 
 /// A fault on the first option of the saved job at the path that is not sent.
 Result<> checkOptions(const QString &path, const QList<JobOption> &options, bool yes);

@@ -789,6 +789,10 @@
         <translation>%1 は保存されたジョブです。保存したときの設定で送信するため、-o、--paper、--output は使えません。</translation>
     </message>
     <message>
+        <source>%1 is a saved job: it is sent with --no-dialog, and with no other document beside it.</source>
+        <translation>%1 は保存されたジョブです。--no-dialog を付け、ほかの文書とは別に送信してください。</translation>
+    </message>
+    <message>
         <source>%1 is not sent: it sets %2, which no saved job may.</source>
         <translation>%1 は送信しません。保存されたジョブでは設定できない %2 が含まれています。</translation>
     </message>

@@ -96,6 +96,18 @@ TEST_F(Controller, MakesAllSettingsAndTellsTheFirstFault)
     EXPECT_EQ(markedChoice(controller().job().ppd(), u"Finish"_s), u"Shiny"_s);
 }
 
+TEST_F(Controller, StopsAtASavedJobAmongTheDocuments)
+{
+    const QString saved = m_folder.filePath(u"saved"_s);
+    writeFile(saved, "Velkaro-Print-Job: 1\n\n");
+    m_wishes.files += saved;
+    ASSERT_TRUE(find());
+    const Result<JobRequest> job = controller().finish();
+    EXPECT_EQ(job.faultKind(), FaultKind::Request);
+    EXPECT_EQ(job.sentence(), saved + u" is a saved job: it is sent with --no-dialog, and with no "
+                                      "other document beside it."_s);
+}
+
 TEST_F(Controller, StopsAtAPanelsVeto)
 {
     m_wishes.choices = {{u"Weight"_s, u"Heavy"_s}};
