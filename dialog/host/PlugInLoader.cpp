@@ -116,12 +116,14 @@ BundleChoice chooseBundle(const QString &folder, const PrinterFacts &facts)
     return {};
 }
 
-PlugInLoad loadPlugIn(const QString &path, const QVariantMap &info)
+// Links are followed once: what is loaded is what was looked at.
+PlugInLoad loadPlugIn(const QString &bundlePath, const QVariantMap &info)
 {
     using enum PlugInFaultReason;
     PlugInLoad load;
+    const QString path = QFileInfo(bundlePath).canonicalFilePath();
     if (!QFileInfo(path).isDir()) {
-        load.fault = plugInFault(BundleMissing, path, u"no such folder: "_s + path);
+        load.fault = plugInFault(BundleMissing, bundlePath, u"no such folder: "_s + bundlePath);
         return load;
     }
     load.bundle = Bundle::open(path);
@@ -130,9 +132,10 @@ PlugInLoad loadPlugIn(const QString &path, const QVariantMap &info)
         return load;
     }
     load.bundle->overrideInfo(info);
-    const QString library = libraryOf(*load.bundle);
-    if (library.isNull() || !QFileInfo(library).isFile())
-        load.fault = plugInFault(LibraryMissing, path, u"no library \"%1\""_s.arg(library));
+    const QString named = libraryOf(*load.bundle);
+    const QString library = QFileInfo(named).canonicalFilePath();
+    if (named.isNull() || !QFileInfo(library).isFile())
+        load.fault = plugInFault(LibraryMissing, path, u"no library \"%1\""_s.arg(named));
     else if (const QString place = placeOpenToOthers(path, library); !place.isNull())
         load.fault = plugInFault(OpenToOthers, place, u"others may write to "_s + place);
     else if (const QString view = missingView(*load.bundle); !view.isNull())

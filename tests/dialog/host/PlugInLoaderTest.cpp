@@ -54,6 +54,16 @@ TEST_P(FaultyPlugIn, IsRefusedWithAReasonASentenceAndALog)
     EXPECT_EQ(getenv("VELKARO_FIXTURE_RAN"), nullptr);
 }
 
+TEST(PlugIn, IsLoadedFromWhereALinkLed)
+{
+    const QTemporaryDir folder;
+    const QString link = folder.filePath(u"Link.bundle"_s);
+    ASSERT_TRUE(QFile::link(fixture("Spy"), link));
+    const PlugInLoad load = loadPlugIn(link);
+    ASSERT_FALSE(load.fault) << load.fault->sentence.toStdString();
+    EXPECT_EQ(load.bundle->bundlePath(), QFileInfo(fixture("Spy")).canonicalFilePath());
+}
+
 INSTANTIATE_TEST_SUITE_P(
     Fixtures, FaultyPlugIn,
     testing::Values(
