@@ -103,6 +103,8 @@ void HostSession::createPanels()
         return;
     m_reportedKeywords += watchedKeywords();
     for (auto &panel : m_plugIn.plugIn->PDEPanelsForType(m_options.dialogType, m_callback)) {
+        if (!panel)
+            continue;
         auto *controls = panelExtension<PDEPanelControls>(*panel);
         auto *inspection = panelExtension<PDEPanelInspection>(*panel);
         const QString name = controls ? controls->shortName() : panel->panelKind();

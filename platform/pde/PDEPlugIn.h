@@ -27,7 +27,8 @@ public:
     virtual bool initWithBundle(Bundle *bundle) = 0;
 
     /// New panels for a dialog of the type, in display order; the caller owns them. A type that the
-    /// plug-in does not know gives none, and a panel that cannot be created is missing.
+    /// plug-in does not know gives none, and a panel that cannot be created is missing or
+    /// null.
     virtual std::vector<std::unique_ptr<PDEPanel>>
     PDEPanelsForType(const QString &type, const std::shared_ptr<PDEPluginCallback> &callback) = 0;
 };
