@@ -41,8 +41,8 @@ auto turnOf(const HostSession &session, const RequestedChoice &setting)
 
 /// The settings that can be made, each once. The fault is that of the first of the others, in the
 /// order of their names.
-std::pair<QList<RequestedChoice>, Result<>> known(const PrintJob &job,
-                                                  QList<RequestedChoice> wanted)
+std::pair<QList<RequestedChoice>, Result<>> knownSettings(const PrintJob &job,
+                                                          QList<RequestedChoice> wanted)
 {
     std::ranges::sort(wanted, {},
                       [](const RequestedChoice &one) { return std::tie(one.keyword, one.choice); });
@@ -140,7 +140,7 @@ QList<RequestedChoice> makeInRounds(PrintJob &job, const QList<RequestedChoice> 
 Result<> makeSettings(PrintJob &job, const QList<RequestedChoice> &wanted,
                       const std::function<void()> &madeOne)
 {
-    auto [settings, state] = known(job, wanted);
+    auto [settings, state] = knownSettings(job, wanted);
     const Result<> single = withoutContradictions(job, settings);
     QStringList losses;
     for (const RequestedChoice &missing : makeInRounds(job, settings, madeOne))
