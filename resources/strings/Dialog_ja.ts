@@ -783,6 +783,13 @@
     </message>
 </context>
 <context>
+    <name>RequestedSettings</name>
+    <message>
+        <source>%1=%2 and %1=%3 cannot both be had: ask for one of them.</source>
+        <translation>%1=%2 と %1=%3 を同時に指定することはできません。どちらか一方を指定してください。</translation>
+    </message>
+</context>
+<context>
     <name>SavedJob</name>
     <message>
         <source>%1 is a saved job: it is sent as it was saved, without -o, --paper and --output.</source>
@@ -906,13 +913,6 @@
     <message>
         <source>The print server %1 takes too long to answer.</source>
         <translation>プリントサーバー %1 の応答に時間がかかりすぎています。</translation>
-    </message>
-</context>
-<context>
-    <name>RequestedSettings</name>
-    <message>
-        <source>%1=%2 and %1=%3 cannot both be had: ask for one of them.</source>
-        <translation>%1=%2 と %1=%3 を同時に指定することはできません。どちらか一方を指定してください。</translation>
     </message>
 </context>
 <context>
