@@ -51,6 +51,7 @@ void DialogWindow::takePrinter(const Result<FoundPrinter> &found)
     tellStanding();
     if (found)
         makeRequestedSettings();
+    static_cast<void>(takeChanges()); // nothing of this has the user done in the window
     // Of a server that cannot be reached there is no list.
     const bool isReached = found || found.faultKind() == FaultKind::PPD ||
                            found.faultKind() == FaultKind::NotFound ||

@@ -2,6 +2,29 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="ja" sourcelanguage="en">
 <context>
+    <name>ChangeWords</name>
+    <message>
+        <source>%1 is now %2</source>
+        <translation>%1 は「%2」になりました</translation>
+    </message>
+    <message>
+        <source>%1 is now %2 (was %3)</source>
+        <translation>%1 は「%3」から「%2」に変わりました</translation>
+    </message>
+    <message>
+        <source>%1.</source>
+        <translation>%1。</translation>
+    </message>
+    <message>
+        <source>%1; %2</source>
+        <translation>%1。%2</translation>
+    </message>
+    <message>
+        <source>%1: &quot;%2&quot; would be printed in place of &quot;%3&quot;.</source>
+        <translation>%1 は「%3」ではなく「%2」で印刷されます。</translation>
+    </message>
+</context>
+<context>
     <name>CheckCommand</name>
     <message>
         <source>The plug-in %1 cannot check a PPD.</source>
@@ -139,8 +162,8 @@
         <translation>「ページ設定」の用紙サイズは、このプリンターでは使用できません。印刷するには、サイズを直してください。</translation>
     </message>
     <message>
-        <source>Color Matching</source>
-        <translation>カラーマッチング</translation>
+        <source>Color Management</source>
+        <translation>カラーマネージメント</translation>
     </message>
     <message>
         <source>By the Printer</source>
@@ -278,6 +301,14 @@
         <source>Replace</source>
         <translation>置き換え</translation>
     </message>
+    <message>
+        <source>Go on with this job?</source>
+        <translation>このまま続けますか?</translation>
+    </message>
+    <message>
+        <source>Go On</source>
+        <translation>続ける</translation>
+    </message>
 </context>
 <context>
     <name>Document</name>
@@ -346,6 +377,17 @@
     <message>
         <source>&quot;Scale to Fit&quot; prints the document on another paper than it was made for, and makes it larger or smaller to fill that.</source>
         <translation>「用紙に合わせる」を選ぶと、文書を別の用紙に合わせて拡大または縮小して印刷します。</translation>
+    </message>
+</context>
+<context>
+    <name>JobDoubts</name>
+    <message>
+        <source>The printer cannot print on both sides of this paper: %1.</source>
+        <translation>このプリンターでは、この用紙の両面に印刷できません: %1。</translation>
+    </message>
+    <message>
+        <source>For %1 there is &quot;%2&quot;.</source>
+        <translation>%1 には「%2」を使用できます。</translation>
     </message>
 </context>
 <context>
@@ -658,8 +700,8 @@
         <translation>アプリケーション(&amp;I)</translation>
     </message>
     <message>
-        <source>Color Matching:</source>
-        <translation>カラーマッチング:</translation>
+        <source>Color Management:</source>
+        <translation>カラーマネージメント:</translation>
     </message>
 </context>
 <context>

@@ -102,7 +102,7 @@ TEST(Launcher, NamesSettingsThatClashAsJapaneseIsWritten)
     const LauncherOutcome result =
         runProgram(QStringLiteral(PROGRAM), arguments,
                    {{u"LC_ALL"_s, u"ja_JP.UTF-8"_s}, {u"LANGUAGE"_s, u"ja"_s}});
-    EXPECT_EQ(result.status, 2);
+    EXPECT_EQ(result.status, 3);
     EXPECT_EQ(result.error,
               "velkaro-print: 「用紙種類: OHPフィルム」は選べません。このプリンターでは「両面印刷: "
               "短辺とじ」と同時に使えません。\n");
