@@ -16,7 +16,8 @@ Imprimante
                           d’une file d’attente
 
 Réglages
-  -o, --option KEY=VALUE  faire un réglage de l’imprimante ; peut être répété
+  -o, --option KEY=VALUE  faire un réglage de l’imprimante ; peut être répété,
+                          dans n’importe quel ordre, une fois par KEY
       --paper NAME        choisir le papier par son nom dans le fichier PPD,
                           ou Custom.WIDTHxHEIGHT avec une unité :
                           Custom.100x150mm
@@ -31,7 +32,8 @@ Travail
       --no-dialog         imprimer sans boîte de dialogue ; toutes les
                           vérifications sont faites
       --yes               répondre oui, et non pas non, à ce que demande une
-                          vérification
+                          vérification, et imprimer sans les réglages
+                          impossibles
 
 Examen et essais
       --screenshot FILE.png
@@ -55,7 +57,8 @@ Code de retour
      n’ait tout le travail
   2  option, réglage ou script incorrect, fichier PPD impossible à ouvrir, ou
      aucun écran pour la boîte de dialogue
-  3  une vérification a arrêté le travail
+  3  une vérification a arrêté le travail, ou un réglage n’était pas possible
+     avec les autres
   4  un document ne peut pas être lu
   5  un fichier de sortie ne peut pas être écrit ou existe déjà
   6  le serveur ou la file d’attente est injoignable, le travail a été refusé,

@@ -15,7 +15,8 @@ Drucker
                           einer Warteschlange
 
 Einstellungen
-  -o, --option KEY=VALUE  den Drucker einstellen; mehrfach möglich
+  -o, --option KEY=VALUE  den Drucker einstellen; mehrfach möglich, in jeder
+                          Reihenfolge, einmal für jeden KEY
       --paper NAME        das Papier mit seinem Namen in der PPD-Datei wählen,
                           oder Custom.WIDTHxHEIGHT mit Einheit:
                           Custom.100x150mm
@@ -29,7 +30,8 @@ Auftrag
                           --screenshot, --record und die Bilder eines Skripts
       --no-dialog         ohne Dialog drucken; alle Prüfungen finden statt
       --yes               was eine Prüfung fragt, mit Ja beantworten statt mit
-                          Nein
+                          Nein, und ohne die Einstellungen drucken, die nicht
+                          möglich sind
 
 Ansehen und prüfen
       --screenshot FILE.png
@@ -52,7 +54,8 @@ Exit-Status
      ganzen Auftrag hatte
   2  falsche Option, Einstellung oder falsches Skript, eine PPD-Datei, die
      sich nicht öffnen lässt, oder kein Bildschirm für den Dialog
-  3  eine Prüfung hat den Auftrag angehalten
+  3  eine Prüfung hat den Auftrag angehalten, oder eine Einstellung war
+     zusammen mit den übrigen nicht möglich
   4  ein Dokument kann nicht gelesen werden
   5  eine Ausgabedatei kann nicht geschrieben werden oder ist bereits vorhanden
   6  der Server oder die Warteschlange ist nicht erreichbar, der Auftrag wurde

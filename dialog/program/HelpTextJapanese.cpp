@@ -13,7 +13,8 @@ const LauncherTexts kJapaneseTexts{
       --ppd FILE          キューではなく PPD ファイルのプリンターを使う
 
 設定
-  -o, --option KEY=VALUE  プリンターの設定を選ぶ（繰り返し指定できます）
+  -o, --option KEY=VALUE  プリンターの設定を選ぶ（KEY ごとに 1 回ずつ、順序に
+                          関係なく、繰り返し指定できます）
       --paper NAME        PPD での名前で用紙を選ぶ。または単位を付けて
                           Custom.WIDTHxHEIGHT で指定する: Custom.100x150mm
 
@@ -24,7 +25,8 @@ const LauncherTexts kJapaneseTexts{
       --force             既にあるファイルを置き換える（--output、--record、
                           --screenshot、スクリプトの画像）
       --no-dialog         画面を表示せずに印刷する（確認はすべて行います）
-      --yes               確認の質問に「いいえ」ではなく「はい」で答える
+      --yes               確認の質問に「いいえ」ではなく「はい」で答え、選べな
+                          かった設定なしで印刷する
 
 表示とテスト
       --screenshot FILE.png
@@ -46,7 +48,8 @@ const LauncherTexts kJapaneseTexts{
      シグナルで中止された
   2  オプション、設定、スクリプトの誤り、PPD を開けない、または画面を
      表示できるディスプレイがない
-  3  確認によりジョブを中止した
+  3  確認によりジョブを中止した、またはほかの設定と同時に使えない設定が
+     あった
   4  文書を読み込めない
   5  出力ファイルに書き込めない、または既に存在する
   6  サーバーまたはキューに接続できない、ジョブが拒否された、または

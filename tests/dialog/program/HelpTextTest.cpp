@@ -94,8 +94,10 @@ TEST(ManualPage, ReadsAsAPersonWritesIt)
 {
     const QString english = QString::fromStdString(manualPage(manualWords().front()));
     EXPECT_TRUE(english.contains(u".SH SYNOPSIS\n.B velkaro\\-print [options] [FILE...]\n"_s));
-    EXPECT_TRUE(english.contains(u".SS Settings\n.TP\n.B \\-o, \\-\\-option KEY=VALUE\n"
-                                 "make a setting of the printer; may be given again\n"_s));
+    EXPECT_TRUE(english.contains(u"\n.SS Settings\n.TP\n.B \\-o, \\-\\-option KEY=VALUE\n"_s));
+    EXPECT_TRUE(english.contains(u".TP\n.B \\-\\-force\nreplace files that exist already: those of "
+                                 "\\-\\-output, \\-\\-screenshot, \\-\\-record and of a script's "
+                                 "pictures\n"_s));
     EXPECT_TRUE(english.contains(u".SH Exit status\n.TP\n.B 0\nprinted, written, checked, or "
                                  "the script ran to its end\n"_s));
     const QString japanese = QString::fromStdString(manualPage(manualWords().back()));
