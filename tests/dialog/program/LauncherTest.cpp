@@ -123,7 +123,7 @@ TEST_P(LanguageOfTheProgram, IsOneForEverythingThatItSays)
     };
     EXPECT_EQ(saidTo({u"--help"_s}).output, GetParam().texts.help);
     const LauncherOutcome result = saidTo(argumentsThatClash(printer));
-    EXPECT_EQ(result.status, 2);
+    EXPECT_EQ(result.status, 3);
     EXPECT_EQ(result.error, GetParam().clash);
 }
 
