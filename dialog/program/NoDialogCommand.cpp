@@ -11,6 +11,7 @@
 #include "dialog/program/CommandOutput.h"
 #include "dialog/program/SessionRecording.h"
 #include "dialog/work/EndSignals.h"
+#include "dialog/work/Sentences.h"
 
 #include <QtCore/QCoreApplication>
 #include <QtCore/QEventLoop>
@@ -168,7 +169,7 @@ void Run::finish()
 void Run::decide(const FinishedJob &finished)
 {
     if (!finished.doubts.isEmpty() && !m_line.yes) {
-        goOn(Fault{FaultKind::Vetoed, finished.doubts.join(u' ')});
+        goOn(Fault{FaultKind::Vetoed, joinedSentences(finished.doubts)});
         return;
     }
     for (const QString &doubt : finished.doubts)

@@ -3,6 +3,7 @@
 #include "dialog/printing/ChangeWords.h"
 #include "dialog/printing/JobDoubts.h"
 #include "dialog/window/DialogWindow.h"
+#include "dialog/work/Sentences.h"
 
 #include <QtCore/QThread>
 #include <QtCore/QTimer>
@@ -88,7 +89,7 @@ void DialogWindow::tellEvent()
         return;
     QStringList news{refusal, changes, doubts.sentence};
     news.removeAll(QString());
-    tell(refusal.isNull() ? doubts.kind : NoticeBar::Kind::Warning, news.join(u' '));
+    tell(refusal.isNull() ? doubts.kind : NoticeBar::Kind::Warning, joinedSentences(news));
 }
 
 /// What is not as it is shown, or goes with nothing else, and what the plug-in advises.
@@ -96,7 +97,7 @@ DialogWindow::Notice DialogWindow::doubtsToTell() const
 {
     const QStringList doubts = doubtsOf(job());
     return {doubts.isEmpty() ? NoticeBar::Kind::Information : NoticeBar::Kind::Warning,
-            (doubts + adviceFor(job())).join(u' ')};
+            joinedSentences(doubts + adviceFor(job()))};
 }
 
 /// What the printer or the documents lack, and the doubts about the settings.
@@ -107,7 +108,8 @@ DialogWindow::Notice DialogWindow::standingNotice() const
         return m_standing;
     if (m_standing.kind == NoticeBar::Kind::Information)
         return doubts;
-    return {m_standing.kind, m_standing.sentence + u' ' + doubts.sentence};
+    return {m_standing.kind, joinedSentences({m_standing.sentence, doubts.sentence}),
+            m_standing.offer};
 }
 
 /// What has changed since the last look, but for the user's pick.

@@ -1,6 +1,8 @@
 #include "dialog/files/PathBytes.h"
+#include "dialog/printing/LastPrinter.h"
 #include "dialog/window/DialogWindow.h"
 #include "dialog/window/ProgressStrip.h"
+#include "dialog/work/Sentences.h"
 #include "platform/toolkit/AlertObserver.h"
 
 #include <QtCore/QTimer>
@@ -103,20 +105,23 @@ void DialogWindow::writeFile(const QString &path, const JobRequest &request,
     beginSending(tr("Writing the job to %1…").arg(path),
                  m_controller.write(path, request, terms, [this](const Result<QStringList> &notes) {
                      endSending(notes ? Result<>() : notes.fault(),
-                                notes ? notes->join(u' ') : QString());
+                                notes ? joinedSentences(*notes) : QString());
                  }));
 }
 
 void DialogWindow::send(const JobRequest &request)
 {
     beginSending(tr("Sending the job to %1…").arg(request.queue),
-                 m_controller.send(request, [this](const Result<JobReceipt> &receipt) {
+                 m_controller.send(request, [this, queue = job().source().queue](
+                                                const Result<JobReceipt> &receipt) {
+                     if (receipt)
+                         rememberPrinter(m_wishes.server, queue);
                      const bool hasNote = receipt && !receipt->notes.isEmpty();
-                     endSending(
-                         receipt ? Result<>() : receipt.fault(),
-                         hasNote ? tr("Job %1 was accepted. %2")
-                                       .arg(QString::number(receipt->id), receipt->notes.join(u' '))
-                                 : QString());
+                     endSending(receipt ? Result<>() : receipt.fault(),
+                                hasNote ? tr("Job %1 was accepted. %2")
+                                              .arg(QString::number(receipt->id),
+                                                   joinedSentences(receipt->notes))
+                                        : QString());
                  }));
 }
 
@@ -143,7 +148,7 @@ void DialogWindow::endSending(const Result<> &outcome, const QString &note)
     if (!outcome)
         tell(outcome.faultKind() == FaultKind::Cancelled ? NoticeBar::Kind::Information
                                                          : NoticeBar::Kind::Error,
-             outcome.sentence());
+             outcome.sentence(), offerAfter(outcome.fault().kind));
     else if (note.isNull())
         accept();
     else

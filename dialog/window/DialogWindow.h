@@ -5,6 +5,7 @@
 #include "dialog/printing/SettingState.h"
 #include "dialog/window/DialogWishes.h"
 #include "dialog/window/NoticeBar.h"
+#include "dialog/window/PrinterWatch.h"
 #include "dialog/window/SummaryPane.h"
 #include "platform/toolkit/Alert.h"
 
@@ -89,6 +90,7 @@ private:
     {
         NoticeBar::Kind kind = NoticeBar::Kind::Information;
         QString sentence; ///< null: nothing to tell
+        NoticeBar::Offer offer = NoticeBar::Offer::Nothing;
     };
 
     /// A tab of the dialog.
@@ -105,7 +107,8 @@ private:
     QString printTitle() const;
     void setState(State state);
     void updateButtons();
-    void tell(NoticeBar::Kind kind, const QString &sentence);
+    void tell(NoticeBar::Kind kind, const QString &sentence,
+              NoticeBar::Offer offer = NoticeBar::Offer::Nothing);
     void tellStanding();
     bool mayPrint() const;
     void showHelp();
@@ -129,13 +132,19 @@ private:
     void chooseDocuments();
 
     // DialogPrinter.cpp
+    void choosePrinter();
     void findPrinter(const PrinterSource &source);
+    void beginSearch(const PrinterSource &source);
+    void retry();
+    static NoticeBar::Offer offerAfter(FaultKind fault);
     static QString waitFor(const PrinterSource &source);
     void takePrinter(const Result<FoundPrinter> &found);
     void showPrinter();
     void makeRequestedSettings();
+    Notice standing() const;
     Notice whatIsMissing() const;
-    void listPrinters();
+    void watchPrinters();
+    void takeList(const Result<QList<Destination>> &list);
 
     // DialogParts.cpp
     void buildParts();
@@ -169,18 +178,19 @@ private:
     Result<> m_settingState;
     Result<> m_outcome;
     State m_state = State::Searching;
-    QList<Fault> m_shortcomings; ///< of the printer
-    Notice m_standing;           ///< shown while there is nothing newer to tell
-    QString m_refusalToTell;     ///< of the pick that is going on
-    PPDMark m_pick;              ///< of the user, in the event that is going on; null: none yet
-    SettingState m_toldState;    ///< to tell what an event has changed
+    std::optional<PrinterChoice> m_choice; ///< of the dialog, where nobody named a printer
+    QList<Fault> m_shortcomings;           ///< of the printer
+    Notice m_standing;                     ///< shown while there is nothing newer to tell
+    QString m_refusalToTell;               ///< of the pick that is going on
+    PPDMark m_pick;           ///< of the user, in the event that is going on; null: none yet
+    SettingState m_toldState; ///< to tell what an event has changed
     bool m_eventIsNoted = false;
     int m_eventLevel = 0; ///< of the event loop in which it was noted
     bool m_requestedSettingsAreMade = false;
-    bool m_printersAreListed = false;
     bool m_isEnding = false;
     bool m_mayHavePrinted = false; ///< what Print did last
 
+    PrinterWatch m_watch;
     JobHeader *m_header;
     NoticeBar *m_notice;
     ProgressStrip *m_progress;
