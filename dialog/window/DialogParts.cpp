@@ -1,5 +1,7 @@
 #include "dialog/job/Papers.h"
 #include "dialog/window/DialogWindow.h"
+#include "dialog/window/JobHeader.h"
+#include "dialog/window/Mnemonics.h"
 #include "dialog/window/PageSetupPane.h"
 #include "dialog/window/PanelPane.h"
 #include "dialog/window/SentSettings.h"
@@ -43,9 +45,12 @@ void DialogWindow::buildParts()
     removeParts();
     const QSignalBlocker quiet(m_tabs);
     m_pageSetup->reload();
-    m_parts.push_back({kPageSetup, m_pageSetup, nullptr});
-    m_tabs->addTab(m_pageSetup, tr("Page Setup"));
-    if (job().session())
+    m_header->showJobSettings(!m_savedJob);
+    if (!m_savedJob) {
+        m_parts.push_back({kPageSetup, m_pageSetup, nullptr});
+        m_tabs->addTab(m_pageSetup, tr("Page Setup"));
+    }
+    if (job().session() && !m_savedJob)
         for (const HostPanel &panel : job().session()->panels()) {
             if (!hasKeywords(panel))
                 continue;
@@ -58,7 +63,9 @@ void DialogWindow::buildParts()
     m_parts.push_back({kSummary, m_summary, nullptr});
     giveAccessibleName(m_summary, tr("Summary"));
     m_tabs->addTab(m_summary, tr("Summary"));
-    m_tabs->setCurrentIndex(m_parts[1].panel ? 1 : 0);
+    setTitleWithMnemonic(*m_print, printTitle());
+    giveMnemonics(*m_tabs);
+    m_tabs->setCurrentIndex(m_parts.size() > 1 && m_parts[1].panel ? 1 : 0);
     changePart();
     setHeight(std::max(height(), layout()->totalSizeHint().height()));
 }
@@ -172,6 +179,8 @@ void DialogWindow::setHeight(int height)
 
 QList<SummarySection> DialogWindow::summarySections()
 {
+    if (m_savedJob)
+        return savedJobSections();
     QList<SummarySection> sections;
     QList<PanelSummary> told;
     for (const Part &part : m_parts) {

@@ -20,6 +20,8 @@ constexpr int kCancel = 1;
 /// The job as it is now. None when it must not go out: the user has been told why, or has said so.
 std::optional<JobRequest> DialogWindow::finishedJob()
 {
+    if (m_savedJob)
+        return savedJobToSend();
     const Result<FinishedJob> finished = m_controller.finish();
     if (m_isEnding) // dismissed, not answered
         return std::nullopt;

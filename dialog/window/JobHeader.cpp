@@ -70,8 +70,8 @@ JobHeader::JobHeader(PrintJob &job, QWidget *parent)
     form->setFieldGrowthPolicy(QFormLayout::AllNonFixedFieldsGrow);
     addLabelledRow(form, tr("Document:"), row({m_documents, m_choose}, 0));
     form->addRow(label(tr("Pri&nter:"), m_printers->popup()), m_printers);
-    form->addRow(label(tr("&Copies:"), m_copies),
-                 row({m_copies, label(tr("Pa&ges:"), m_pages), m_pages, m_pagesValidation}, 3));
+    m_settingsRow = row({m_copies, label(tr("Pa&ges:"), m_pages), m_pages, m_pagesValidation}, 3);
+    form->addRow(label(tr("&Copies:"), m_copies), m_settingsRow);
     setTabOrder(m_choose, m_printers->popup());
     connect(m_choose, &QPushButton::clicked, this, &JobHeader::documentsWanted);
     connect(m_copies, &NumberField::editedByUser, this, [this] {
@@ -91,6 +91,11 @@ void JobHeader::reload()
     m_copies->setDoubleValue(m_job.settings().copies);
     m_pages->setText(m_job.settings().pageRanges);
     m_pagesValidation->clear();
+}
+
+void JobHeader::showJobSettings(bool shown)
+{
+    static_cast<QFormLayout *>(layout())->setRowVisible(m_settingsRow, shown);
 }
 
 void JobHeader::takePages()

@@ -23,6 +23,9 @@ public:
     /// Shows the job's documents and settings.
     void reload();
 
+    /// Whether copies and pages are shown: a saved job has its own.
+    void showJobSettings(bool shown);
+
     /// Whether the pages that were typed are a list of pages.
     bool isAcceptable() const;
 
@@ -40,5 +43,6 @@ private:
     PrinterPopUp *m_printers;
     NumberField *m_copies;
     QLineEdit *m_pages;
+    QWidget *m_settingsRow = nullptr;
     QLabel *m_pagesValidation;
 };
