@@ -79,15 +79,34 @@ bool takeOrientation(PrintJob &job, const QString &value)
     return isLandscape || isPortrait;
 }
 
+bool takeScaling(PrintJob &job, const JobOption &option)
+{
+    const std::optional<PrintScaling> scaling = scalingOf(option);
+    if (scaling)
+        job.settings().scaling = *scaling;
+    return scaling.has_value();
+}
+
+bool takePrintScaling(PrintJob &job, const QString &value)
+{
+    return takeScaling(job, {u"print-scaling"_s, value});
+}
+
+bool takeFitToPage(PrintJob &job, const QString &value)
+{
+    return takeScaling(job, {u"fit-to-page"_s, value});
+}
+
 struct OwnSetting
 {
     QLatin1String name;
     bool (*take)(PrintJob &job, const QString &value);
 };
 
-constexpr std::array kOwnSettings{OwnSetting{"copies"_L1, takeCopies},
-                                  OwnSetting{"page-ranges"_L1, takePages},
-                                  OwnSetting{"orientation-requested"_L1, takeOrientation}};
+constexpr std::array kOwnSettings{
+    OwnSetting{"copies"_L1, takeCopies}, OwnSetting{"page-ranges"_L1, takePages},
+    OwnSetting{"orientation-requested"_L1, takeOrientation},
+    OwnSetting{"print-scaling"_L1, takePrintScaling}, OwnSetting{"fit-to-page"_L1, takeFitToPage}};
 
 // --- The panels' controls ------------------------------------------------------------------------
 

@@ -1,6 +1,7 @@
 #include "dialog/job/PipeDocuments.h"
 #include "dialog/window/DialogWindow.h"
 #include "dialog/window/JobHeader.h"
+#include "dialog/window/PageSetupPane.h"
 
 #include <QtWidgets/QFileDialog>
 
@@ -12,6 +13,7 @@ void DialogWindow::readPipes()
     m_controller.readPipes([this](const Result<> &read) {
         m_documentState = read;
         m_header->reload();
+        m_pageSetup->refresh();
         if (m_state != State::Ready)
             return;
         m_standing = whatIsMissing();
@@ -34,6 +36,7 @@ void DialogWindow::chooseDocuments()
     m_documentState = opened;
     readPipes();
     m_header->reload();
+    m_pageSetup->refresh();
     m_standing = whatIsMissing();
     tellStanding();
 }

@@ -43,6 +43,18 @@ TEST_F(Requests, RefuseABadOrientationBeforeItChangesAnything)
     EXPECT_EQ(m_job.orientation(), PMOrientation::Landscape);
 }
 
+TEST_F(Requests, TakeAScalingByItsNameAndByTheWordOfLp)
+{
+    EXPECT_TRUE(makeSetting(m_job, u"print-scaling"_s, u"fill"_s));
+    EXPECT_EQ(m_job.settings().scaling, PrintScaling::Fill);
+    EXPECT_TRUE(makeSetting(m_job, u"fit-to-page"_s, u"true"_s));
+    EXPECT_EQ(m_job.settings().scaling, PrintScaling::Fit);
+    const Result<> made = makeSetting(m_job, u"print-scaling"_s, u"large"_s);
+    EXPECT_EQ(made.faultKind(), FaultKind::Request);
+    EXPECT_EQ(made.sentence(), u"large is no value for print-scaling."_s);
+    EXPECT_EQ(m_job.settings().scaling, PrintScaling::Fit);
+}
+
 struct OwnSize
 {
     const char *behaviour;

@@ -1,4 +1,5 @@
 #include "dialog/host/PPDFile.h"
+#include "dialog/window/PageSetupPane.h"
 #include "dialog/work/BackgroundCall.h"
 #include "platform/foundation/NotificationCenter.h"
 #include "platform/toolkit/KeyWindow.h"
@@ -105,18 +106,18 @@ TEST_F(Window, WritesTheJobThatWasPicked)
     pick("mediaTypePopup", u"Glossy"_s);
     part<QTabWidget>("parts")->setCurrentIndex(0);
     pick("paperPopup", u"A4.Fullbleed"_s);
-    pick("scalePopup", u"A3"_s);
+    pick("scalingPopup", u"fill"_s);
     click("landscapeButton");
     click("matchByApplicationButton");
     QTest::keyClicks(part<QLineEdit>("pagesField"), u"5, 1-2"_s);
     print();
     EXPECT_TRUE(m_window->outcome()) << notice().toStdString();
     const QByteArray job = written();
-    for (const char *line :
-         {"Option: PageSize=A3\n", "Option: fit-to-page=true\n", "Option: VKMediaType=Glossy\n",
-          "Option: orientation-requested=4\n", "Option: page-ranges=1-2,5\n",
-          "Option: AP_ColorMatchingMode=AP_ApplicationColorMatching\n",
-          "Document: 5 Holiday & <b>.ps\n"})
+    for (const char *line : {"Option: PageSize=A4.Fullbleed\n", "Option: print-scaling=fill\n",
+                             "Option: VKMediaType=Glossy\n", "Option: orientation-requested=4\n",
+                             "Option: page-ranges=1-2,5\n",
+                             "Option: AP_ColorMatchingMode=AP_ApplicationColorMatching\n",
+                             "Document: 5 Holiday & <b>.ps\n"})
         EXPECT_TRUE(job.contains(line)) << line << job.toStdString();
 }
 
@@ -137,6 +138,44 @@ TEST_F(Window, TellsThatThePaperMenuHasSentItsAction)
     pick("paperPopup", u"Custom"_s);
     NotificationCenter::defaultCenter().removeObserver(this);
     EXPECT_EQ(told, (QStringList{u"A3 on A3"_s, u"Custom Size on Custom.842x1191"_s}));
+}
+
+TEST_F(Window, SaysWhatTheScalingDoesOnThePaperThatIsChosen)
+{
+    open();
+    part<QTabWidget>("parts")->setCurrentIndex(0);
+    pick("scalingPopup", u"fill"_s);
+    auto *scaling = part<PopUpButton>("scalingPopup");
+    const auto *sentence = part<QLabel>("scalingSentence");
+    EXPECT_EQ(scaling->currentText(), u"Fill the Printable Area"_s);
+    EXPECT_EQ(sentence->text(), u"Every page is made so large that only the paper's margins stay "
+                                "white. What does not fit is cut off."_s);
+    pick("paperPopup", u"A4.Fullbleed"_s);
+    EXPECT_EQ(scaling->currentText(), u"Fill the Sheet"_s);
+    EXPECT_EQ(scaling->selectedObject(), u"fill"_s);
+    EXPECT_EQ(sentence->text(), u"Every page is made so large that no place stays white. What does "
+                                "not fit is cut off."_s);
+    const QStringList texts = summary();
+    EXPECT_EQ(texts.value(texts.indexOf(u"Scaling"_s) + 1), u"Fill the Sheet"_s);
+}
+
+TEST_F(Window, ShowsTheSheetThatAPageIsMappedToAsThePaperInThePrinter)
+{
+    open();
+    const PMPaper page = *m_window->job().paper();
+    m_window->job().session()->setPaper(page, u"A5"_s);
+    const QString all = summary().join(u'|');
+    EXPECT_TRUE(all.startsWith(u"Page Setup|Paper in the Printer|A5|Document Page|A4|"_s))
+        << all.toStdString();
+    part<QTabWidget>("parts")->setCurrentIndex(0);
+    part<PageSetupPane>("pageSetupPane")->reload();
+    EXPECT_EQ(part<PopUpButton>("paperPopup")->selectedObject(), u"A5"_s);
+    EXPECT_EQ(part<QLabel>("documentPageLabel")->text(), u"A4"_s);
+    pick("paperPopup", u"A3"_s);
+    EXPECT_FALSE(part<QLabel>("documentPageLabel")->isVisible());
+    EXPECT_EQ(m_window->job().mappedPaper(), QString());
+    print();
+    EXPECT_TRUE(written().contains("Option: PageSize=A3\n"));
 }
 
 TEST_F(Window, TakesNothingFromAPaneThatCannotBeUsed)
@@ -241,9 +280,11 @@ TEST_F(Window, SummarizesTheWholeJob)
     m_line.choices = {{u"VKMediaType"_s, u"Glossy"_s}, {u"copies"_s, u"3"_s}};
     open();
     const QString all = summary().join(u'|');
-    EXPECT_TRUE(all.startsWith(u"Page Setup|Paper|A4|Orientation|Portrait|Copies|3|Pages|All|"
-                               "Two-Sided Printing|Off|Output|Printer|"
-                               "Color Matching|By the Printer|Print Settings|"_s))
+    EXPECT_TRUE(
+        all.startsWith(u"Page Setup|Paper in the "
+                       u"Printer|A4|Scaling|Automatic|Orientation|Portrait|Copies|3|Pages|All|"
+                       "Two-Sided Printing|Off|Output|Printer|"
+                       "Color Matching|By the Printer|Print Settings|"_s))
         << all.toStdString();
     EXPECT_TRUE(all.endsWith(u"|Also Sent|Blue|0|Brightness|0|Contrast|0|Green|0|Red|0"_s))
         << all.toStdString();

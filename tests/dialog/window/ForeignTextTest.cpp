@@ -125,7 +125,7 @@ TEST_P(ForeignText, IsPlainInEveryTab)
     lookAtAllTabs();
     for (const char *place :
          {"QLabel documentsLabel", "PopUpButton printerPopup", "PopUpButton paperPopup",
-          "PopUpButton scalePopup", "PopUpButton DuplexPopup", "PopUpButton VKOutputPopup",
+          "PopUpButton DuplexPopup", "PopUpButton VKOutputPopup",
           "QLabel ", // of a row of Page Setup or of the summary
           "CaptionLabel mediaTypeLabel", "PopUpButton mediaTypePopup",
           "QListWidget advancedTableView", "tip of CaptionLabel mediaTypeLabel",
