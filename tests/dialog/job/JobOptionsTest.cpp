@@ -146,7 +146,8 @@ TEST_F(JobOptionsOf, WhatMustNotBeSentIsNamedByItsNameOrItsValue)
     ticket(u"com.velkaro.evil"_s, u"a\nFoomaticRIPCommandLine: b"_s);
     ticket(u"com.velkaro.good"_s, u"x"_s);
     const JobOptions job = jobOptions(m_values);
-    EXPECT_EQ(job.options, (QList<JobOption>{{u"com.velkaro.good"_s, u"x"_s}}));
+    EXPECT_EQ(job.options,
+              (QList<JobOption>{{u"print-scaling"_s, u"auto"_s}, {u"com.velkaro.good"_s, u"x"_s}}));
     EXPECT_EQ(
         job.faults,
         (QStringList{u"The setting \"com.velkaro.bad key\" cannot be sent: a print server may be "
