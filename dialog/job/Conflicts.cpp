@@ -23,8 +23,9 @@ QString choiceText(ppd_file_t *ppd, const QString &keyword, const QString &choic
 {
     ppd_option_t *option = findOption(ppd, keyword);
     const ppd_choice_t *found = findChoice(option, choice);
-    return QStringLiteral("%1: %2").arg(displayText(option ? ppdText(option->text) : keyword),
-                                        displayText(found ? ppdText(found->text) : choice));
+    return QCoreApplication::translate("Conflicts", "%1: %2")
+        .arg(displayText(option ? ppdText(option->text) : keyword),
+             displayText(found ? ppdText(found->text) : choice));
 }
 
 QStringList clashesWith(ppd_file_t *ppd, const QString &keyword, const QString &choice)

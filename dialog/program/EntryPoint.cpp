@@ -4,14 +4,13 @@
 #include "dialog/program/CommandOutput.h"
 #include "dialog/program/DialogCommand.h"
 #include "dialog/program/ExitStatus.h"
-#include "dialog/program/HelpText.h"
+#include "dialog/program/LauncherOutput.h"
+#include "dialog/program/LauncherTexts.h"
 #include "dialog/program/ReplayCommand.h"
 #include "dialog/program/ToolkitMessages.h"
 #include "dialog/program/Translations.h"
 
 #include <QtCore/QCoreApplication>
-
-#include <cstdio>
 
 namespace {
 
@@ -31,12 +30,6 @@ int refuse(int argc, char **argv, const QStringList &arguments)
     return exitCode(failWith(ExitStatus::Usage, parseCommandLine(arguments).sentence()));
 }
 
-int print(const char *text)
-{
-    std::fputs(text, stdout);
-    return exitCode(std::fflush(stdout) == 0 ? ExitStatus::Done : ExitStatus::Output);
-}
-
 } // namespace
 
 /// What the launcher calls: the whole program.
@@ -48,9 +41,9 @@ extern "C" Q_DECL_EXPORT int velkaroPrintMain(int argc, char **argv)
         return refuse(argc, argv, arguments);
     const CommandLine &line = *parsed;
     if (line.help)
-        return print(helpText());
+        return exitCode(printText(launcherTexts().help));
     if (line.version)
-        return print(versionText());
+        return exitCode(printText(versionText()));
     tellToolkitFaultsOnly();
     if (!line.checkPPD.isNull())
         return runCheckCommand(argc, argv, line);

@@ -1,8 +1,7 @@
-#include "dialog/program/HelpText.h"
+#include "dialog/program/LauncherTexts.h"
 
-const char *helpText()
-{
-    return R"(Usage: velkaro-print [options] [FILE...]
+const LauncherTexts kEnglishTexts{
+    R"(Usage: velkaro-print [options] [FILE...]
 Prints documents with the settings that you choose in a dialog. The file - is
 standard input.
 
@@ -15,7 +14,8 @@ Printer
       --ppd FILE          take the printer from a PPD file instead of a queue
 
 Settings
-  -o, --option KEY=VALUE  make a setting of the printer; may be given again
+  -o, --option KEY=VALUE  make a setting of the printer; may be given again,
+                          in any order, once for each KEY
       --paper NAME        choose the paper by its name in the PPD, or
                           Custom.WIDTHxHEIGHT with a unit: Custom.100x150mm
 
@@ -26,7 +26,8 @@ Job
       --force             replace files that exist already: those of --output,
                           --screenshot, --record and of a script's pictures
       --no-dialog         print without showing the dialog; every check is made
-      --yes               answer yes to what a check asks, instead of no
+      --yes               answer yes to what a check asks, instead of no, and
+                          print without the settings that cannot be had
 
 Looking and testing
       --screenshot FILE.png
@@ -48,16 +49,15 @@ Exit status
      whole job
   2  a wrong option, setting or script, a PPD that cannot be opened, or no
      display for the dialog
-  3  a check stopped the job
+  3  a check stopped the job, or a setting could not be had together
+     with the others
   4  a document cannot be read
   5  an output file cannot be written, or exists already
   6  the server or the queue cannot be reached, the job was refused, or it
      is not known whether it was taken
   7  the plug-in cannot be used, or cannot check a PPD
-)";
-}
-
-const char *versionText()
-{
-    return "velkaro-print " VELKARO_VERSION "\n";
-}
+)",
+    "The installation is incomplete: %s",
+    "the program's own place is unknown",
+    "Standard output cannot be written: %s.",
+};

@@ -23,6 +23,10 @@
         <translation>%1 には値が必要です。</translation>
     </message>
     <message>
+        <source>%1 may be given only once.</source>
+        <translation>%1 は 1 回だけ指定できます。</translation>
+    </message>
+    <message>
         <source>There is no option %1.</source>
         <translation>%1 というオプションはありません。</translation>
     </message>
@@ -57,6 +61,10 @@
 </context>
 <context>
     <name>Conflicts</name>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
     <message>
         <source>&quot;%1&quot;</source>
         <translation>「%1」</translation>
@@ -212,7 +220,7 @@
     </message>
     <message>
         <source>%1 It prints with the settings of this dialog alone.</source>
-        <translation>%1 この画面の設定だけで印刷します。</translation>
+        <translation>%1この画面の設定だけで印刷します。</translation>
     </message>
     <message>
         <source>There is no panel %1.</source>
@@ -468,7 +476,7 @@
     <name>JobSettlement</name>
     <message>
         <source>%1 Job %2 could not be cancelled at %3 and may be printed.</source>
-        <translation>%1 ジョブ %2 を %3 で取り消せませんでした。印刷される可能性があります。</translation>
+        <translation>%1ジョブ %2 を %3 で取り消せませんでした。印刷される可能性があります。</translation>
     </message>
     <message>
         <source>The print server %1 cancelled job %2.</source>
@@ -801,6 +809,13 @@
     </message>
 </context>
 <context>
+    <name>RequestedSettings</name>
+    <message>
+        <source>%1=%2 and %1=%3 cannot both be had: ask for one of them.</source>
+        <translation>%1=%2 と %1=%3 を同時に指定することはできません。どちらか一方を指定してください。</translation>
+    </message>
+</context>
+<context>
     <name>SavedJob</name>
     <message>
         <source>%1 is a saved job: it is sent as it was saved, without -o, --paper and --output.</source>
@@ -1000,8 +1015,16 @@
         <translation>プリンターに %1 という設定はありません。</translation>
     </message>
     <message>
-        <source>%1=%2 cannot be chosen while the other settings are as they are.</source>
-        <translation>現在のほかの設定では、%1=%2 は選べません。</translation>
+        <source>%1 cannot be chosen while the other settings are as they are.</source>
+        <translation>現在のほかの設定では、%1 は選べません。</translation>
+    </message>
+    <message>
+        <source>%1 cannot be chosen while the other settings are as they are: %2 is %3.</source>
+        <translation>現在のほかの設定では、%1 は選べません（%2 は「%3」です）。</translation>
+    </message>
+    <message>
+        <source>A paper of a size of your own needs that size, such as Custom.100x150mm.</source>
+        <translation>カスタムサイズの用紙には大きさの指定が必要です（例: Custom.100x150mm）。</translation>
     </message>
     <message>
         <source>The printer has no paper %1.</source>

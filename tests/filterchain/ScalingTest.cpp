@@ -2,7 +2,7 @@
 #include "dialog/job/DocumentFile.h"
 #include "dialog/job/Papers.h"
 #include "dialog/printing/PrintJob.h"
-#include "dialog/printing/SettingRequests.h"
+#include "dialog/printing/RequestedSettings.h"
 #include "tests/built/BuiltFiles.h"
 #include "tests/endtoend/JobPrinting.h"
 #include "tests/filterchain/FilterChain.h"
@@ -59,7 +59,7 @@ protected:
 
     void set(const QString &name, const QString &value)
     {
-        const Result<> made = makeSetting(m_job, name, value);
+        const Result<> made = makeSettings(m_job, {{name, value}});
         ASSERT_TRUE(made) << made.sentence().toStdString();
     }
 
