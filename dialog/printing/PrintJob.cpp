@@ -54,6 +54,12 @@ HostSession *PrintJob::session() const
     return session ? session->get() : nullptr;
 }
 
+QString PrintJob::printerKey() const
+{
+    return m_source.queue.queue.isEmpty() ? m_source.ppdPath
+                                          : m_source.server + u'/' + m_source.queue.queue;
+}
+
 const PMPageFormat &PrintJob::format() const
 {
     return session() ? session()->pageFormat() : std::get<PMPageFormat>(m_printer);

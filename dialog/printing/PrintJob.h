@@ -37,6 +37,10 @@ public:
 
     const PrinterSource &source() const { return m_source; }
     HostSession *session() const; ///< null: none
+
+    /// What the printer is called from run to run: its queue and server, or its PPD file.
+    QString printerKey() const;
+
     ppd_file_t *ppd() const { return session() ? session()->ppd() : nullptr; }
 
     HostSettings &settings() { return m_settings; }

@@ -1,4 +1,5 @@
 #include "dialog/files/PathBytes.h"
+#include "dialog/job/PaperMemory.h"
 #include "dialog/window/DialogWindow.h"
 #include "dialog/window/ProgressStrip.h"
 #include "dialog/work/Sentences.h"
@@ -112,6 +113,9 @@ void DialogWindow::beginSending(const QString &sentence,
 void DialogWindow::endSending(const Result<> &outcome, const QString &note)
 {
     m_mayHavePrinted = outcome.faultKind() == FaultKind::Unsettled;
+    const QString paper = job().sheet().value_or(PMPaper()).ppdName;
+    if (outcome && !paper.isEmpty())
+        rememberPaper(job().printerKey(), paper);
     if (outcome || m_mayHavePrinted)
         m_outcome = outcome;
     m_progress->end();

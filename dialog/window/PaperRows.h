@@ -1,15 +1,22 @@
 #pragma once
 
+#include "dialog/job/PaperMemory.h"
+#include "dialog/job/PaperSizes.h"
+
 #include <QtCore/QObject>
 
 class CustomSizeFields;
+class OwnSizeFields;
 class PopUpButton;
 class PrintJob;
+class QCheckBox;
 class QFormLayout;
 struct CustomLimits;
+struct PMPaper;
 
-/// The paper in the printer: one of the PPD's or a size of the user's own, and the document's page
-/// where that is another. Rows of the page setup's form, which owns what they show.
+/// The paper in the printer: first how large, then whether it is printed to its edges; a size of
+/// the user's own, which can be kept by a name; and the document's page where that is another
+/// paper. Rows of the page setup's form, which owns what they show.
 class PaperRows : public QObject
 {
     Q_OBJECT
@@ -32,11 +39,23 @@ private:
     void addPaper(QFormLayout *form);
     void addCustomSize(QFormLayout *form, const CustomLimits &limits);
     void addDocumentPage(QFormLayout *form);
+    void fillList();
     void showPaper();
-    void choosePaper();
+    void showCustomSize(const std::optional<PMPaper> &paper);
+    void pickRow();
+    void takeChoice(const QString &choice);
+    void takeOwnSize(const PMPaper &paper);
+    void chooseBorderless(bool borderless);
     void useCustomSize();
+    QString nameOfSheet() const;
+    void keepSheet(const QString &name);
+    void forgetSheet();
 
     PrintJob &m_job;
+    const QList<PaperSize> m_sizes; // of the printer
+    QList<OwnSize> m_own;           // of the user, which the printer takes
     PopUpButton *m_paper = nullptr;
+    QCheckBox *m_borderless = nullptr;
     CustomSizeFields *m_customSize = nullptr; // null: the printer takes no custom sizes
+    OwnSizeFields *m_ownSize = nullptr;       // likewise
 };

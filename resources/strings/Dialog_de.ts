@@ -572,6 +572,25 @@
     </message>
 </context>
 <context>
+    <name>OwnSizeFields</name>
+    <message>
+        <source>&amp;Keep</source>
+        <translation>&amp;Behalten</translation>
+    </message>
+    <message>
+        <source>Re&amp;name</source>
+        <translation>&amp;Umbenennen</translation>
+    </message>
+    <message>
+        <source>Remo&amp;ve</source>
+        <translation>&amp;Entfernen</translation>
+    </message>
+    <message>
+        <source>Name of this size</source>
+        <translation>Name dieses Formats</translation>
+    </message>
+</context>
+<context>
     <name>PPDFile</name>
     <message>
         <source>The PPD file %1 does not exist.</source>
@@ -654,18 +673,60 @@
     </message>
 </context>
 <context>
-    <name>PaperRows</name>
+    <name>PaperList</name>
+    <message>
+        <source>Standard</source>
+        <translation>Standard</translation>
+    </message>
+    <message>
+        <source>Photo</source>
+        <translation>Foto</translation>
+    </message>
+    <message>
+        <source>Envelopes and Cards</source>
+        <translation>Umschläge und Karten</translation>
+    </message>
+    <message>
+        <source>Discs</source>
+        <translation>Discs</translation>
+    </message>
+    <message>
+        <source>Used Recently</source>
+        <translation>Zuletzt verwendet</translation>
+    </message>
     <message>
         <source>Custom Size</source>
         <translation>Eigenes Format</translation>
     </message>
     <message>
+        <source>Own Sizes</source>
+        <translation>Eigene Formate</translation>
+    </message>
+</context>
+<context>
+    <name>PaperRows</name>
+    <message>
         <source>&amp;Paper in the Printer:</source>
         <translation>&amp;Papier im Drucker:</translation>
     </message>
     <message>
+        <source>&amp;Borderless</source>
+        <translation>&amp;Randlos</translation>
+    </message>
+    <message>
         <source>Document Page:</source>
         <translation>Seite des Dokuments:</translation>
+    </message>
+</context>
+<context>
+    <name>PaperSizes</name>
+    <message>
+        <source>%1 × %2 in</source>
+        <translation>%1 × %2 Zoll</translation>
+    </message>
+    <message>
+        <source>%1 × %2 mm</source>
+        <translation>%1 × %2 mm</translation>
     </message>
 </context>
 <context>

@@ -572,6 +572,25 @@
     </message>
 </context>
 <context>
+    <name>OwnSizeFields</name>
+    <message>
+        <source>&amp;Keep</source>
+        <translation>&amp;Garder</translation>
+    </message>
+    <message>
+        <source>Re&amp;name</source>
+        <translation>Re&amp;nommer</translation>
+    </message>
+    <message>
+        <source>Remo&amp;ve</source>
+        <translation>Suppri&amp;mer</translation>
+    </message>
+    <message>
+        <source>Name of this size</source>
+        <translation>Nom de ce format</translation>
+    </message>
+</context>
+<context>
     <name>PPDFile</name>
     <message>
         <source>The PPD file %1 does not exist.</source>
@@ -654,18 +673,60 @@
     </message>
 </context>
 <context>
-    <name>PaperRows</name>
+    <name>PaperList</name>
+    <message>
+        <source>Standard</source>
+        <translation>Standard</translation>
+    </message>
+    <message>
+        <source>Photo</source>
+        <translation>Photo</translation>
+    </message>
+    <message>
+        <source>Envelopes and Cards</source>
+        <translation>Enveloppes et cartes</translation>
+    </message>
+    <message>
+        <source>Discs</source>
+        <translation>Disques</translation>
+    </message>
+    <message>
+        <source>Used Recently</source>
+        <translation>Utilisés récemment</translation>
+    </message>
     <message>
         <source>Custom Size</source>
         <translation>Format personnalisé</translation>
     </message>
     <message>
+        <source>Own Sizes</source>
+        <translation>Vos formats</translation>
+    </message>
+</context>
+<context>
+    <name>PaperRows</name>
+    <message>
         <source>&amp;Paper in the Printer:</source>
         <translation>&amp;Papier dans l’imprimante :</translation>
     </message>
     <message>
+        <source>&amp;Borderless</source>
+        <translation>&amp;Sans marges</translation>
+    </message>
+    <message>
         <source>Document Page:</source>
         <translation>Page du document :</translation>
+    </message>
+</context>
+<context>
+    <name>PaperSizes</name>
+    <message>
+        <source>%1 × %2 in</source>
+        <translation>%1 × %2 po</translation>
+    </message>
+    <message>
+        <source>%1 × %2 mm</source>
+        <translation>%1 × %2 mm</translation>
     </message>
 </context>
 <context>

@@ -572,6 +572,25 @@
     </message>
 </context>
 <context>
+    <name>OwnSizeFields</name>
+    <message>
+        <source>&amp;Keep</source>
+        <translation>保存(&amp;K)</translation>
+    </message>
+    <message>
+        <source>Re&amp;name</source>
+        <translation>名前を変更(&amp;N)</translation>
+    </message>
+    <message>
+        <source>Remo&amp;ve</source>
+        <translation>削除(&amp;V)</translation>
+    </message>
+    <message>
+        <source>Name of this size</source>
+        <translation>このサイズの名前</translation>
+    </message>
+</context>
+<context>
     <name>PPDFile</name>
     <message>
         <source>The PPD file %1 does not exist.</source>
@@ -654,18 +673,60 @@
     </message>
 </context>
 <context>
-    <name>PaperRows</name>
+    <name>PaperList</name>
+    <message>
+        <source>Standard</source>
+        <translation>定型サイズ</translation>
+    </message>
+    <message>
+        <source>Photo</source>
+        <translation>写真</translation>
+    </message>
+    <message>
+        <source>Envelopes and Cards</source>
+        <translation>封筒・はがき・カード</translation>
+    </message>
+    <message>
+        <source>Discs</source>
+        <translation>ディスク</translation>
+    </message>
+    <message>
+        <source>Used Recently</source>
+        <translation>最近使った用紙</translation>
+    </message>
     <message>
         <source>Custom Size</source>
         <translation>カスタムサイズ</translation>
     </message>
     <message>
+        <source>Own Sizes</source>
+        <translation>ユーザー定義サイズ</translation>
+    </message>
+</context>
+<context>
+    <name>PaperRows</name>
+    <message>
         <source>&amp;Paper in the Printer:</source>
         <translation>プリンターの用紙(&amp;P):</translation>
     </message>
     <message>
+        <source>&amp;Borderless</source>
+        <translation>フチなし(&amp;B)</translation>
+    </message>
+    <message>
         <source>Document Page:</source>
         <translation>文書のページ:</translation>
+    </message>
+</context>
+<context>
+    <name>PaperSizes</name>
+    <message>
+        <source>%1 × %2 in</source>
+        <translation>%1 × %2 インチ</translation>
+    </message>
+    <message>
+        <source>%1 × %2 mm</source>
+        <translation>%1 × %2 mm</translation>
     </message>
 </context>
 <context>

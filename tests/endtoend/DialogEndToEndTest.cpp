@@ -116,7 +116,7 @@ TEST_F(Dialog, APaperThatIsPickedReachesThePanelsAndTheJob)
 {
     const auto window = open(lineFor(server().address(), u"photo"_s));
     part<QTabWidget>(*window, "parts")->setCurrentIndex(0);
-    pick(*window, "paperPopup", u"A4.Fullbleed"_s);
+    click(*window, "borderlessButton");
     pick(*window, "DuplexPopup", u"DuplexTumble"_s);
     click(*window, "landscapeButton");
     QTest::keyClick(window.get(), Qt::Key_Return); // Print is the default button
