@@ -5,6 +5,7 @@
 #include "dialog/job/DocumentFile.h"
 #include "dialog/job/JobFileWriter.h"
 #include "dialog/job/PipeDocuments.h"
+#include "dialog/printing/LastPrinter.h"
 #include "dialog/printing/RequestedSettings.h"
 #include "dialog/printing/SavedJob.h"
 #include "dialog/work/BackgroundCall.h"
@@ -82,6 +83,17 @@ PrinterSource PrintController::wantedPrinter() const
     if (m_wishes.ppd.isNull() || !m_wishes.queue.isNull())
         source.queue = wantedQueue(m_wishes.queue, m_wishes.instance);
     return source;
+}
+
+bool PrintController::mayChoosePrinter() const
+{
+    return m_wishes.queue.isNull() && m_wishes.ppd.isNull();
+}
+
+Result<PrinterChoice> PrintController::choosePrinter(const QList<Destination> &listed) const
+{
+    return chosenPrinter(
+        {lastPrinter(m_wishes.server), environmentQueue(), savedDefaultQueue(), listed});
 }
 
 void PrintController::findPrinter(const PrinterSource &source, Then<FoundPrinter> then)

@@ -6,6 +6,7 @@
 #include "dialog/printing/PanelVeto.h"
 #include "dialog/printing/PrintJob.h"
 #include "dialog/printing/PrintWishes.h"
+#include "dialog/printing/PrinterChoice.h"
 #include "dialog/work/Result.h"
 
 #include <QtCore/QObject>
@@ -61,8 +62,14 @@ public:
     /// once when there are none.
     void readPipes(Then<std::monostate> then);
 
-    /// The printer that was wished for.
+    /// The printer that was wished for. Where none was, the user's usual one, as `lp` has it.
     PrinterSource wantedPrinter() const;
+
+    /// Whether the wishes leave open which printer it is.
+    bool mayChoosePrinter() const;
+
+    /// The printer to begin with, out of the wished server's list, where the wishes leave it open.
+    Result<PrinterChoice> choosePrinter(const QList<Destination> &listed) const;
 
     /// Finds and opens the printer in place of the former one, whose panels must not be on screen
     /// any more. Even after a fault the job knows the queue, as far as there is one.

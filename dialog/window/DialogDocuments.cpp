@@ -16,7 +16,7 @@ void DialogWindow::readPipes()
         m_pageSetup->refresh();
         if (m_state != State::Ready)
             return;
-        m_standing = whatIsMissing();
+        m_standing = standing();
         tellStanding();
     });
 }
@@ -37,6 +37,6 @@ void DialogWindow::chooseDocuments()
     readPipes();
     m_header->reload();
     m_pageSetup->refresh();
-    m_standing = whatIsMissing();
+    m_standing = standing();
     tellStanding();
 }

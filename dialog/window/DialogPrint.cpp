@@ -1,5 +1,6 @@
 #include "dialog/files/PathBytes.h"
 #include "dialog/job/PaperMemory.h"
+#include "dialog/printing/LastPrinter.h"
 #include "dialog/window/DialogWindow.h"
 #include "dialog/window/ProgressStrip.h"
 #include "dialog/work/Sentences.h"
@@ -89,7 +90,10 @@ void DialogWindow::writeFile(const QString &path, const JobRequest &request,
 void DialogWindow::send(const JobRequest &request)
 {
     beginSending(tr("Sending the job to %1…").arg(request.queue),
-                 m_controller.send(request, [this](const Result<JobReceipt> &receipt) {
+                 m_controller.send(request, [this, queue = job().source().queue](
+                                                const Result<JobReceipt> &receipt) {
+                     if (receipt)
+                         rememberPrinter(m_wishes.server, queue);
                      const bool hasNote = receipt && !receipt->notes.isEmpty();
                      endSending(receipt ? Result<>() : receipt.fault(),
                                 hasNote ? tr("Job %1 was accepted. %2")
@@ -125,7 +129,7 @@ void DialogWindow::endSending(const Result<> &outcome, const QString &note)
     if (!outcome)
         tell(outcome.faultKind() == FaultKind::Cancelled ? NoticeBar::Kind::Information
                                                          : NoticeBar::Kind::Error,
-             outcome.sentence());
+             outcome.sentence(), offerAfter(outcome.fault().kind));
     else if (note.isNull())
         accept();
     else

@@ -23,7 +23,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr QSize kFirstSize(640, 560);
-constexpr int kMargin = 14;
+constexpr int kWindowMargin = 14;
 constexpr std::chrono::milliseconds kLookInterval{50};
 
 QPushButton *newButton(const QString &name, const QString &title, QWidget *parent)
@@ -41,7 +41,8 @@ DialogWindow::DialogWindow(const DialogWishes &wishes, QWidget *parent)
       m_wishes(wishes),
       m_controller(wishes),
       m_documentState(m_controller.openDocuments(wishes.files)),
-      m_outcome(Fault{FaultKind::Cancelled, {}})
+      m_outcome(Fault{FaultKind::Cancelled, {}}),
+      m_watch(m_controller, *this)
 {
     m_controller.addSessionHook([this](HostSession &session) {
         session.addObserver(this);
@@ -69,15 +70,16 @@ void DialogWindow::buildLayout()
     m_pageSetup = new PageSetupPane(job());
     m_summary = new SummaryPane;
     auto *layout = new QVBoxLayout(this);
-    layout->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
-    layout->setSpacing(kMargin);
+    layout->setContentsMargins(kWindowMargin, kWindowMargin, kWindowMargin, kWindowMargin);
+    layout->setSpacing(kWindowMargin);
     layout->addWidget(m_header);
     layout->addWidget(m_notice);
-    layout->addWidget(m_progress);
     layout->addWidget(m_tabs, 1);
     layout->addWidget(newButtons());
     buildParts();
     connect(m_tabs, &QTabWidget::currentChanged, this, &DialogWindow::changePart);
+    connect(m_notice, &NoticeBar::retryWanted, this, &DialogWindow::retry);
+    connect(&m_watch, &PrinterWatch::listed, this, &DialogWindow::takeList);
     connect(m_header, &JobHeader::documentsWanted, this, &DialogWindow::chooseDocuments);
     connect(m_header, &JobHeader::changed, this, &DialogWindow::tellStanding);
     connect(m_pageSetup, &PageSetupPane::changed, this, &DialogWindow::tellStanding);
@@ -87,6 +89,7 @@ void DialogWindow::buildLayout()
         // One that could not be reached may be tried again.
         if (m_state == State::Ready && queue == job().source().queue)
             return;
+        m_choice.reset();
         closePrinter();
         findPrinter({m_wishes.server, queue, QString()});
     });
@@ -106,7 +109,7 @@ QWidget *DialogWindow::newButtons()
     auto *layout = new QHBoxLayout(row);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(m_help);
-    layout->addStretch(1);
+    layout->addWidget(m_progress, 1);
     layout->addWidget(m_save);
     layout->addWidget(m_cancel);
     layout->addWidget(m_print);
@@ -129,7 +132,10 @@ void DialogWindow::start()
     setKeyWindow(this);
     if (!m_wishes.isPicture)
         readPipes();
-    findPrinter(m_controller.wantedPrinter());
+    if (m_controller.mayChoosePrinter())
+        choosePrinter();
+    else
+        findPrinter(m_controller.wantedPrinter());
 }
 
 void DialogWindow::setState(State state)
@@ -159,9 +165,9 @@ void DialogWindow::updateButtons()
     m_save->setEnabled(mayPrint());
 }
 
-void DialogWindow::tell(NoticeBar::Kind kind, const QString &sentence)
+void DialogWindow::tell(NoticeBar::Kind kind, const QString &sentence, NoticeBar::Offer offer)
 {
-    m_notice->tell(kind, sentence);
+    m_notice->tell(kind, sentence, offer);
 }
 
 /// Shows what is still true, in place of what was news.
@@ -179,7 +185,7 @@ void DialogWindow::tellStanding()
     else if (m_standing.sentence.isNull())
         m_notice->clear();
     else
-        tell(m_standing.kind, m_standing.sentence);
+        tell(m_standing.kind, m_standing.sentence, m_standing.offer);
     updateButtons();
 }
 

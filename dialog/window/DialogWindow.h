@@ -4,6 +4,7 @@
 #include "dialog/printing/PrintController.h"
 #include "dialog/window/DialogWishes.h"
 #include "dialog/window/NoticeBar.h"
+#include "dialog/window/PrinterWatch.h"
 #include "dialog/window/SummaryPane.h"
 
 #include <QtWidgets/QDialog>
@@ -87,6 +88,7 @@ private:
     {
         NoticeBar::Kind kind = NoticeBar::Kind::Information;
         QString sentence; ///< null: nothing to tell
+        NoticeBar::Offer offer = NoticeBar::Offer::Nothing;
     };
 
     /// A tab of the dialog.
@@ -103,7 +105,8 @@ private:
     QString printTitle() const;
     void setState(State state);
     void updateButtons();
-    void tell(NoticeBar::Kind kind, const QString &sentence);
+    void tell(NoticeBar::Kind kind, const QString &sentence,
+              NoticeBar::Offer offer = NoticeBar::Offer::Nothing);
     void tellStanding();
     bool mayPrint() const;
     void showHelp();
@@ -119,13 +122,19 @@ private:
     void chooseDocuments();
 
     // DialogPrinter.cpp
+    void choosePrinter();
     void findPrinter(const PrinterSource &source);
+    void beginSearch(const PrinterSource &source);
+    void retry();
+    static NoticeBar::Offer offerAfter(FaultKind fault);
     static QString waitFor(const PrinterSource &source);
     void takePrinter(const Result<FoundPrinter> &found);
     void showPrinter();
     void makeRequestedSettings();
+    Notice standing() const;
     Notice whatIsMissing() const;
-    void listPrinters();
+    void watchPrinters();
+    void takeList(const Result<QList<Destination>> &list);
 
     // DialogParts.cpp
     void buildParts();
@@ -157,15 +166,16 @@ private:
     Result<> m_settingState;
     Result<> m_outcome;
     State m_state = State::Searching;
-    QList<Fault> m_shortcomings; ///< of the printer
-    Notice m_standing;           ///< shown while there is nothing newer to tell
-    QString m_refusalToTell;     ///< of the pick that is going on
+    std::optional<PrinterChoice> m_choice; ///< of the dialog, where nobody named a printer
+    QList<Fault> m_shortcomings;           ///< of the printer
+    Notice m_standing;                     ///< shown while there is nothing newer to tell
+    QString m_refusalToTell;               ///< of the pick that is going on
     bool m_answersAreNoted = false;
     bool m_requestedSettingsAreMade = false;
-    bool m_printersAreListed = false;
     bool m_isEnding = false;
     bool m_mayHavePrinted = false; ///< what Print did last
 
+    PrinterWatch m_watch;
     JobHeader *m_header;
     NoticeBar *m_notice;
     ProgressStrip *m_progress;

@@ -6,6 +6,7 @@
 #include "dialog/printing/PrintJob.h"
 #include "dialog/window/CustomSizeFields.h"
 #include "dialog/window/OwnSizeFields.h"
+#include "dialog/window/SearchablePopUp.h"
 #include "dialog/window/SetupPopUp.h"
 #include "platform/foundation/NotificationCenter.h"
 #include "platform/ppd/PPDText.h"
@@ -15,6 +16,8 @@
 #include <QtWidgets/QCheckBox>
 #include <QtWidgets/QFormLayout>
 #include <QtWidgets/QLabel>
+
+#include <algorithm>
 
 using namespace Qt::StringLiterals;
 
@@ -47,7 +50,8 @@ PaperRows::PaperRows(PrintJob &job, QFormLayout *form, QObject *parent)
 
 void PaperRows::addPaper(QFormLayout *form)
 {
-    m_paper = newSetupPopUp(u"paperPopup"_s, form->parentWidget());
+    m_paper = new SearchablePopUp(form->parentWidget());
+    shapeSetupPopUp(m_paper, u"paperPopup"_s);
     addLabelledRow(form, tr("&Paper in the Printer:"), m_paper);
     connect(m_paper, &QComboBox::activated, this, [this, popup = m_paper] {
         const QString title = popup->currentText();
@@ -101,6 +105,10 @@ void PaperRows::fillList()
     for (const PaperListRow &row : rows)
         items.push_back({row.title, row.paper});
     m_paper->setItems(items);
+    m_paper->setDetails([rows](const QString &paper) {
+        const auto row = std::ranges::find(rows, paper, &PaperListRow::paper);
+        return row == rows.end() ? QString() : row->detail;
+    });
     for (int index = 0; index < m_paper->count(); ++index)
         m_paper->setItemEnabled(index, !rows[index].paper.isNull());
 }

@@ -11,9 +11,14 @@ constexpr int kContentsLength = 30; // characters: a pop-up does not measure hun
 PopUpButton *newSetupPopUp(const QString &name, QWidget *parent)
 {
     auto *popup = new PopUpButton(parent);
+    shapeSetupPopUp(popup, name);
+    return popup;
+}
+
+void shapeSetupPopUp(PopUpButton *popup, const QString &name)
+{
     popup->setObjectName(name);
     popup->setMinimumContentsLength(kContentsLength);
-    return popup;
 }
 
 std::vector<PopUpButton::Item> itemsOf(const ppd_option_t *option)

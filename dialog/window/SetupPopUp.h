@@ -3,8 +3,11 @@
 #include "platform/ppd/CupsPPD.h"
 #include "platform/toolkit/PopUpButton.h"
 
-/// A pop-up of the page setup: as wide as the others, whatever its choices are.
+/// A pop-up of the page setup.
 PopUpButton *newSetupPopUp(const QString &name, QWidget *parent);
+
+/// Names it, and makes it as wide as the others, whatever its choices are.
+void shapeSetupPopUp(PopUpButton *popup, const QString &name);
 
 /// The choices of the PPD option, by their texts.
 std::vector<PopUpButton::Item> itemsOf(const ppd_option_t *option);

@@ -13,6 +13,7 @@
 #include <QtWidgets/QComboBox>
 #include <QtWidgets/QDoubleSpinBox>
 #include <QtWidgets/QLineEdit>
+#include <QtWidgets/QListView>
 
 #include <sys/stat.h>
 
@@ -190,6 +191,38 @@ TEST_F(Window, ListsPapersUnderHeadingsThatCannotBePicked)
     }
     EXPECT_EQ(headings, (QStringList{u"Standard"_s, u"Photo"_s, u"Envelopes and Cards"_s,
                                      u"Discs"_s, u"Own Sizes"_s}));
+}
+
+TEST_F(Window, FindsAPaperByWhatIsTyped)
+{
+    const QLocale former;
+    QLocale::setDefault(QLocale(QLocale::German));
+    open();
+    part<QTabWidget>("parts")->setCurrentIndex(0);
+    auto *papers = part<PopUpButton>("paperPopup");
+    papers->setFocus();
+    QTest::keyClicks(papers, u"1"_s);
+    auto *words = part<QLineEdit>("searchField");
+    const auto *rows = part<QListView>("searchRows");
+    words->setFocus();
+    words->selectAll();
+    QTest::keyClicks(words, u"148x210"_s);
+    ASSERT_EQ(rows->model()->rowCount(), 1) << "headings are no finds";
+    QTest::keyClick(words, Qt::Key_Return);
+    EXPECT_EQ(marked(u"PageSize"_s), u"A5"_s);
+    EXPECT_EQ(papers->currentText(), u"A5"_s);
+
+    QTest::keyClicks(papers, u"4x6"_s.left(1));
+    words->clear();
+    EXPECT_TRUE(rows->currentIndex().flags().testFlag(Qt::ItemIsEnabled));
+    const QModelIndex heading = rows->model()->index(0, 0);
+    ASSERT_FALSE(heading.flags().testFlag(Qt::ItemIsEnabled));
+    QTest::mouseClick(rows->viewport(), Qt::LeftButton, {}, rows->visualRect(heading).center());
+    EXPECT_TRUE(rows->isVisible()) << "a heading picks nothing";
+    words->insert(u"4x6"_s);
+    QTest::keyClick(words, Qt::Key_Return);
+    EXPECT_EQ(marked(u"PageSize"_s), u"4x6"_s);
+    QLocale::setDefault(former);
 }
 
 TEST_F(Window, RemembersThePapersThatAPrinterWasPrintedToWith)
