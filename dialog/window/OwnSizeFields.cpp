@@ -3,6 +3,7 @@
 #include "dialog/job/PaperMemory.h"
 #include "platform/toolkit/AccessibleName.h"
 
+#include <QtGui/QKeyEvent>
 #include <QtWidgets/QHBoxLayout>
 #include <QtWidgets/QLineEdit>
 #include <QtWidgets/QPushButton>
@@ -37,8 +38,16 @@ QPushButton *OwnSizeFields::newButton(const QString &name, const QString &title)
 {
     auto *button = new QPushButton(title, this);
     button->setObjectName(name);
-    button->setAutoDefault(false); // Return in the name's field must not print
+    button->setAutoDefault(false);
     return button;
+}
+
+void OwnSizeFields::keyPressEvent(QKeyEvent *event)
+{
+    if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)
+        m_keep->click(); // nothing while it is disabled
+    else
+        QWidget::keyPressEvent(event);
 }
 
 void OwnSizeFields::setKept(const QString &name, bool isAcceptable)

@@ -28,6 +28,10 @@ Q_SIGNALS:
     /// The user wants the kept size to be forgotten.
     void removed();
 
+protected:
+    /// Return keeps the size; it must not print.
+    void keyPressEvent(QKeyEvent *event) override;
+
 private:
     QPushButton *newButton(const QString &name, const QString &title);
     void judge();

@@ -253,7 +253,8 @@ TEST_F(Window, KeepsSizesOfTheUsersOwnByTheirNames)
     part<QDoubleSpinBox>("customHeight")->setValue(150);
     EXPECT_FALSE(part<QAbstractButton>("keepSizeButton")->isEnabled()) << "without a name";
     QTest::keyClicks(part<QLineEdit>("sizeNameField"), u"Card & <b>"_s);
-    click("keepSizeButton");
+    QTest::keyClick(part<QLineEdit>("sizeNameField"), Qt::Key_Return);
+    ASSERT_EQ(m_window->state(), DialogWindow::State::Ready) << "Return keeps the size";
     const QString own = papers->selectedObject();
     EXPECT_TRUE(own.startsWith(u"Custom."_s)) << own.toStdString();
     EXPECT_EQ(papers->currentText(), u"Card & <b>"_s);
