@@ -25,6 +25,15 @@ struct FoundPrinter
     QList<Fault> shortcomings;
 };
 
+/// A job as it is to go out.
+struct FinishedJob
+{
+    JobRequest request;
+    /// What a person has to agree to before it goes, one sentence each: a choice that would not be
+    /// printed as it was made or shown, a paper that does not go with the other settings.
+    QStringList doubts;
+};
+
 /// The road of a job, under a window and without one: from what was wished to a job that is sent,
 /// or written into a file. It has no widgets and asks nobody: what only a user can answer is asked
 /// by whoever drives it.
@@ -33,7 +42,8 @@ struct FoundPrinter
 ///   1. openDocuments(), and readPipes() for those among them that are pipes;
 ///   2. findPrinter(), again for another printer;
 ///   3. makeRequestedSettings();
-///   4. finish(), which asks the panels, and then send() or write(); again after a fault.
+///   4. finish(), which asks the panels, and then, where nobody objects to its doubts, send() or
+///      write(); again after a fault.
 ///
 /// What takes its time comes back at once and tells its outcome to `then`, exactly once, from the
 /// event loop of the main thread, where all of this is called; to nobody when the controller has
@@ -83,7 +93,7 @@ public:
 
     /// Asks the panels whether the job may be printed, and makes the job as it is to go out. After
     /// a veto the sentence is null when the panel has told the user why by itself.
-    Result<JobRequest> finish();
+    Result<FinishedJob> finish();
 
     /// Sends a job. What is gone out of it is in the progress.
     std::shared_ptr<JobProgress> send(const JobRequest &request, Then<JobReceipt> then);

@@ -100,6 +100,7 @@ void DialogWindow::changePart()
     const Part *part = currentPart();
     if (!part)
         return;
+    tellEvent(); // what the user has done before
     hideShownPanel();
     const bool wasMissing = std::exchange(m_viewIsMissing, false);
     if (part->panel) {
@@ -114,6 +115,7 @@ void DialogWindow::changePart()
     if (m_viewIsMissing || wasMissing || !m_pageSetup->isAcceptable())
         tellStanding();
     fitToPart();
+    noteOwnEvent();
 }
 
 /// What a part has made of late has come behind the buttons in the tab order.
@@ -208,7 +210,7 @@ SummarySection DialogWindow::ownSection() const
     if (job().offersColorMatching()) {
         const bool byPrinter = job().colorMatching() == PrintJob::ColorMatching::Printer;
         own.lines +=
-            {tr("Color Matching"), byPrinter ? tr("By the Printer") : tr("By the Application")};
+            {tr("Color Management"), byPrinter ? tr("By the Printer") : tr("By the Application")};
     }
     return own;
 }

@@ -96,6 +96,7 @@ void DialogWindow::takePrinter(const Result<FoundPrinter> &found)
     tellStanding();
     if (found)
         makeRequestedSettings();
+    static_cast<void>(takeChanges()); // nothing of this has the user done in the window
     watchPrinters();
 }
 

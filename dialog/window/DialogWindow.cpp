@@ -83,8 +83,10 @@ void DialogWindow::buildLayout()
     connect(m_header, &JobHeader::documentsWanted, this, &DialogWindow::chooseDocuments);
     connect(m_header, &JobHeader::changed, this, &DialogWindow::tellStanding);
     connect(m_pageSetup, &PageSetupPane::changed, this, &DialogWindow::tellStanding);
-    connect(m_pageSetup, &PageSetupPane::refused, this,
-            [this](const QString &sentence) { tell(NoticeBar::Kind::Warning, sentence); });
+    connect(m_pageSetup, &PageSetupPane::refused, this, [this](const QString &sentence) {
+        tellEvent(); // what was before
+        tell(NoticeBar::Kind::Warning, sentence);
+    });
     connect(m_header->printers(), &PrinterPopUp::picked, this, [this](const QueueName &queue) {
         // One that could not be reached may be tried again.
         if (m_state == State::Ready && queue == job().source().queue)
@@ -182,10 +184,10 @@ void DialogWindow::tellStanding()
         tell(NoticeBar::Kind::Warning,
              tr("The printer cannot take the paper size in Page Setup. Correct it there "
                 "to print."));
-    else if (m_standing.sentence.isNull())
+    else if (const Notice standing = standingNotice(); standing.sentence.isEmpty())
         m_notice->clear();
     else
-        tell(m_standing.kind, m_standing.sentence, m_standing.offer);
+        tell(standing.kind, standing.sentence, standing.offer);
     updateButtons();
 }
 

@@ -2,10 +2,12 @@
 
 #include "dialog/host/SessionObserver.h"
 #include "dialog/printing/PrintController.h"
+#include "dialog/printing/SettingState.h"
 #include "dialog/window/DialogWishes.h"
 #include "dialog/window/NoticeBar.h"
 #include "dialog/window/PrinterWatch.h"
 #include "dialog/window/SummaryPane.h"
+#include "platform/toolkit/Alert.h"
 
 #include <QtWidgets/QDialog>
 
@@ -113,9 +115,17 @@ private:
 
     // DialogAnswers.cpp
     void didAnswer(const HostCallback::Call &call) override;
+    void didMark(const QString &keyword, const QString &choice) override;
+    void didSetPaper(const PMPaper &paper, const std::optional<QString> &mapped) override;
+    void didWriteTicket(const QString &key, const QVariant &value) override;
     void didFail(PanelOperation operation, const HostPanel &panel,
                  const QString &sentence) override;
-    void tellAnswers();
+    void noteEvent();
+    void noteOwnEvent();
+    void tellEvent();
+    Notice doubtsToTell() const;
+    Notice standingNotice() const;
+    QList<SettingChange> takeChanges();
 
     // DialogDocuments.cpp
     void readPipes();
@@ -151,6 +161,8 @@ private:
 
     // DialogPrint.cpp
     std::optional<JobRequest> finishedJob();
+    bool isAgreed(const QStringList &doubts);
+    int ask(const AlertContent &question);
     void print();
     void saveToFile();
     std::optional<OutputTerms> agreedTerms(const QString &path);
@@ -170,7 +182,10 @@ private:
     QList<Fault> m_shortcomings;           ///< of the printer
     Notice m_standing;                     ///< shown while there is nothing newer to tell
     QString m_refusalToTell;               ///< of the pick that is going on
-    bool m_answersAreNoted = false;
+    PPDMark m_pick;           ///< of the user, in the event that is going on; null: none yet
+    SettingState m_toldState; ///< to tell what an event has changed
+    bool m_eventIsNoted = false;
+    int m_eventLevel = 0; ///< of the event loop in which it was noted
     bool m_requestedSettingsAreMade = false;
     bool m_isEnding = false;
     bool m_mayHavePrinted = false; ///< what Print did last

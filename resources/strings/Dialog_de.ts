@@ -2,6 +2,29 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="de" sourcelanguage="en">
 <context>
+    <name>ChangeWords</name>
+    <message>
+        <source>%1 is now %2</source>
+        <translation>„%1“ ist jetzt „%2“</translation>
+    </message>
+    <message>
+        <source>%1 is now %2 (was %3)</source>
+        <translation>„%1“ ist jetzt „%2“ (bisher „%3“)</translation>
+    </message>
+    <message>
+        <source>%1.</source>
+        <translation>%1.</translation>
+    </message>
+    <message>
+        <source>%1; %2</source>
+        <translation>%1; %2</translation>
+    </message>
+    <message>
+        <source>%1: &quot;%2&quot; would be printed in place of &quot;%3&quot;.</source>
+        <translation>%1: „%2“ würde anstelle von „%3“ gedruckt.</translation>
+    </message>
+</context>
+<context>
     <name>CheckCommand</name>
     <message>
         <source>The plug-in %1 cannot check a PPD.</source>
@@ -147,8 +170,8 @@
         <translation>Der Drucker kann das Papierformat unter „Seite einrichten“ nicht verarbeiten. Ändern Sie es dort, um zu drucken.</translation>
     </message>
     <message>
-        <source>Color Matching</source>
-        <translation>Farbanpassung</translation>
+        <source>Color Management</source>
+        <translation>Farbverwaltung</translation>
     </message>
     <message>
         <source>By the Printer</source>
@@ -294,6 +317,14 @@
         <source>The printer %1 is no longer on the print server. Choose another one; the settings of this job stay.</source>
         <translation>Der Drucker %1 ist nicht mehr auf dem Druckserver. Wählen Sie einen anderen; die Einstellungen dieses Auftrags bleiben.</translation>
     </message>
+    <message>
+        <source>Go on with this job?</source>
+        <translation>Mit diesem Auftrag fortfahren?</translation>
+    </message>
+    <message>
+        <source>Go On</source>
+        <translation>Fortfahren</translation>
+    </message>
 </context>
 <context>
     <name>Document</name>
@@ -362,6 +393,17 @@
     <message>
         <source>&quot;Scaling&quot; says how the pages of the document come to the size of the paper in the printer. What comes of each choice stands below it.</source>
         <translation>„Skalierung“ sagt, wie die Seiten des Dokuments auf die Größe des Papiers im Drucker kommen. Was die Auswahl bewirkt, steht darunter.</translation>
+    </message>
+</context>
+<context>
+    <name>JobDoubts</name>
+    <message>
+        <source>The printer cannot print on both sides of this paper: %1.</source>
+        <translation>Der Drucker kann dieses Papier nicht beidseitig bedrucken: %1.</translation>
+    </message>
+    <message>
+        <source>For %1 there is &quot;%2&quot;.</source>
+        <translation>Für %1 gibt es „%2“.</translation>
     </message>
 </context>
 <context>
@@ -552,8 +594,8 @@
         <translation>Durch die &amp;Anwendung</translation>
     </message>
     <message>
-        <source>Color Matching:</source>
-        <translation>Farbanpassung:</translation>
+        <source>Color Management:</source>
+        <translation>Farbverwaltung:</translation>
     </message>
 </context>
 <context>

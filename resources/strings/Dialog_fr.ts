@@ -2,6 +2,29 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="fr" sourcelanguage="en">
 <context>
+    <name>ChangeWords</name>
+    <message>
+        <source>%1 is now %2</source>
+        <translation>« %1 » est maintenant « %2 »</translation>
+    </message>
+    <message>
+        <source>%1 is now %2 (was %3)</source>
+        <translation>« %1 » est maintenant « %2 » (auparavant « %3 »)</translation>
+    </message>
+    <message>
+        <source>%1.</source>
+        <translation>%1.</translation>
+    </message>
+    <message>
+        <source>%1; %2</source>
+        <translation>%1 ; %2</translation>
+    </message>
+    <message>
+        <source>%1: &quot;%2&quot; would be printed in place of &quot;%3&quot;.</source>
+        <translation>%1 : « %2 » serait imprimé au lieu de « %3 ».</translation>
+    </message>
+</context>
+<context>
     <name>CheckCommand</name>
     <message>
         <source>The plug-in %1 cannot check a PPD.</source>
@@ -147,8 +170,8 @@
         <translation>L’imprimante n’accepte pas le format de papier indiqué dans « Mise en page ». Corrigez-le pour imprimer.</translation>
     </message>
     <message>
-        <source>Color Matching</source>
-        <translation>Correspondance des couleurs</translation>
+        <source>Color Management</source>
+        <translation>Gestion des couleurs</translation>
     </message>
     <message>
         <source>By the Printer</source>
@@ -294,6 +317,14 @@
         <source>The printer %1 is no longer on the print server. Choose another one; the settings of this job stay.</source>
         <translation>L’imprimante %1 n’est plus sur le serveur d’impression. Choisissez-en une autre ; les réglages de ce travail restent.</translation>
     </message>
+    <message>
+        <source>Go on with this job?</source>
+        <translation>Poursuivre avec ce travail ?</translation>
+    </message>
+    <message>
+        <source>Go On</source>
+        <translation>Poursuivre</translation>
+    </message>
 </context>
 <context>
     <name>Document</name>
@@ -362,6 +393,17 @@
     <message>
         <source>&quot;Scaling&quot; says how the pages of the document come to the size of the paper in the printer. What comes of each choice stands below it.</source>
         <translation>« Mise à l’échelle » dit comment les pages du document sont mises à la taille du papier dans l’imprimante. L’effet de chaque choix est indiqué en dessous.</translation>
+    </message>
+</context>
+<context>
+    <name>JobDoubts</name>
+    <message>
+        <source>The printer cannot print on both sides of this paper: %1.</source>
+        <translation>L’imprimante ne peut pas imprimer ce papier recto verso : %1.</translation>
+    </message>
+    <message>
+        <source>For %1 there is &quot;%2&quot;.</source>
+        <translation>Pour %1, il y a « %2 ».</translation>
     </message>
 </context>
 <context>
@@ -552,8 +594,8 @@
         <translation>Par l’appl&amp;ication</translation>
     </message>
     <message>
-        <source>Color Matching:</source>
-        <translation>Correspondance des couleurs :</translation>
+        <source>Color Management:</source>
+        <translation>Gestion des couleurs :</translation>
     </message>
 </context>
 <context>
@@ -1390,7 +1432,7 @@
     <name>RequestedSettings</name>
     <message>
         <source>%1=%2 and %1=%3 cannot both be had: ask for one of them.</source>
-        <translation>%1=%2 et %1=%3 s’excluent : n’en demandez qu’un seul.</translation>
+        <translation>%1=%2 et %1=%3 s’excluent : n’en demandez qu’un seul.</translation>
     </message>
 </context>
 <context>
@@ -1621,7 +1663,7 @@
     </message>
     <message>
         <source>%1 cannot be chosen while the other settings are as they are: %2 is %3.</source>
-        <translation>%1 ne peut pas être choisi avec les autres réglages actuels : « %2 » est « %3 ».</translation>
+        <translation>%1 ne peut pas être choisi avec les autres réglages actuels : « %2 » est « %3 ».</translation>
     </message>
     <message>
         <source>A paper of a size of your own needs that size, such as Custom.100x150mm.</source>

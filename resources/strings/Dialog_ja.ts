@@ -2,6 +2,29 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="ja" sourcelanguage="en">
 <context>
+    <name>ChangeWords</name>
+    <message>
+        <source>%1 is now %2</source>
+        <translation>%1 は「%2」になりました</translation>
+    </message>
+    <message>
+        <source>%1 is now %2 (was %3)</source>
+        <translation>%1 は「%3」から「%2」に変わりました</translation>
+    </message>
+    <message>
+        <source>%1.</source>
+        <translation>%1。</translation>
+    </message>
+    <message>
+        <source>%1; %2</source>
+        <translation>%1。%2</translation>
+    </message>
+    <message>
+        <source>%1: &quot;%2&quot; would be printed in place of &quot;%3&quot;.</source>
+        <translation>%1 は「%3」ではなく「%2」で印刷されます。</translation>
+    </message>
+</context>
+<context>
     <name>CheckCommand</name>
     <message>
         <source>The plug-in %1 cannot check a PPD.</source>
@@ -147,8 +170,8 @@
         <translation>「ページ設定」の用紙サイズは、このプリンターでは使用できません。印刷するには、サイズを直してください。</translation>
     </message>
     <message>
-        <source>Color Matching</source>
-        <translation>カラーマッチング</translation>
+        <source>Color Management</source>
+        <translation>カラーマネージメント</translation>
     </message>
     <message>
         <source>By the Printer</source>
@@ -294,6 +317,14 @@
         <source>The printer %1 is no longer on the print server. Choose another one; the settings of this job stay.</source>
         <translation>プリンター %1 はプリントサーバーからなくなりました。ほかのプリンターを選んでください。このジョブの設定は残ります。</translation>
     </message>
+    <message>
+        <source>Go on with this job?</source>
+        <translation>このまま続けますか?</translation>
+    </message>
+    <message>
+        <source>Go On</source>
+        <translation>続ける</translation>
+    </message>
 </context>
 <context>
     <name>Document</name>
@@ -362,6 +393,17 @@
     <message>
         <source>&quot;Scaling&quot; says how the pages of the document come to the size of the paper in the printer. What comes of each choice stands below it.</source>
         <translation>「拡大縮小」では、文書のページをプリンターの用紙の大きさにどう合わせるかを選びます。それぞれの結果は項目の下に表示されます。</translation>
+    </message>
+</context>
+<context>
+    <name>JobDoubts</name>
+    <message>
+        <source>The printer cannot print on both sides of this paper: %1.</source>
+        <translation>このプリンターでは、この用紙の両面に印刷できません: %1。</translation>
+    </message>
+    <message>
+        <source>For %1 there is &quot;%2&quot;.</source>
+        <translation>%1 には「%2」を使用できます。</translation>
     </message>
 </context>
 <context>
@@ -552,8 +594,8 @@
         <translation>アプリケーション(&amp;I)</translation>
     </message>
     <message>
-        <source>Color Matching:</source>
-        <translation>カラーマッチング:</translation>
+        <source>Color Management:</source>
+        <translation>カラーマネージメント:</translation>
     </message>
 </context>
 <context>
