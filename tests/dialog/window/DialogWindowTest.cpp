@@ -230,7 +230,6 @@ TEST_F(Window, RemembersThePapersThatAPrinterWasPrintedToWith)
     m_line.queue = u"Remembering"_s;
     open();
     part<QTabWidget>("parts")->setCurrentIndex(0);
-    click("borderlessButton");
     pick("paperPopup", u"A3"_s);
     print();
     ASSERT_TRUE(m_window->outcome()) << notice().toStdString();
