@@ -165,7 +165,9 @@ JobOptions PrintJob::options() const
     values.havePages = !m_kinds.empty() && m_kinds.count(DocumentKind::Pages) == m_kinds.size();
     if (const HostSession *open = session()) {
         values.ppd = open->ppd();
-        values.defaultMarks = open->defaultMarks();
+        // A queue has defaults of its own, which a file that was named instead knows nothing of.
+        if (m_source.ppdPath.isNull())
+            values.defaultMarks = open->defaultMarks();
         values.ticket = open->ticket();
     }
     return jobOptions(values);
