@@ -53,20 +53,26 @@ void put(QList<JobOption> &options, const JobOption &option)
     options += option;
 }
 
-/// The paper, where it is not simply the marked choice: a size of the user's, or the paper that the
-/// document is scaled to.
+/// The sheet in the printer, where it is not simply the marked choice: a size of the user's, or the
+/// paper that the document's page is mapped to.
 void putPaper(QList<JobOption> &options, const JobValues &values)
 {
     const std::optional<PMPaper> &paper = values.format.paper;
     if (values.ppd && paper && paper->ppdName.isNull() && paper->width > 0 && paper->height > 0)
         put(options, {u"PageSize"_s, customPageSize(paper->width, paper->height)});
     const QString mapped = values.ticket.values().value(kPMMappedPaperKey).toString();
-    if (mapped.isEmpty())
-        return;
     if (const ppd_choice_t *found = findChoice(findOption(values.ppd, u"PageSize"_s), mapped))
         put(options, {u"PageSize"_s, ppdName(found->choice)});
-    put(options, {u"fit-to-page"_s, u"true"_s});
-    put(options, {u"print-scaling"_s, u"fit"_s});
+}
+
+/// The server turns a page that is higher than wide by a quarter, as it was told, and then once
+/// more so that it fills the upright sheet: it would come out upside down. Pictures lie right only
+/// so.
+void putLandscape(QList<JobOption> &options, bool havePages)
+{
+    put(options, {u"orientation-requested"_s, kLandscape});
+    if (havePages)
+        put(options, {u"pdfAutoRotate"_s, u"false"_s});
 }
 
 void putSettings(QList<JobOption> &options, const JobValues &values)
@@ -75,8 +81,9 @@ void putSettings(QList<JobOption> &options, const JobValues &values)
         put(options, {u"copies"_s, QString::number(values.settings.copies)});
     if (!values.settings.pageRanges.isEmpty())
         put(options, {u"page-ranges"_s, values.settings.pageRanges});
+    put(options, {u"print-scaling"_s, scalingKeyword(values.settings.scaling)});
     if (values.format.orientation == PMOrientation::Landscape)
-        put(options, {u"orientation-requested"_s, kLandscape});
+        putLandscape(options, values.havePages);
 }
 
 QString ticketText(const QVariant &value)

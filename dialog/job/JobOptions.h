@@ -2,6 +2,7 @@
 
 #include "dialog/host/PPDMarks.h"
 #include "dialog/job/JobOption.h"
+#include "dialog/job/PrintScaling.h"
 #include "platform/ppd/CupsPPD.h"
 #include "platform/printmanager/PMPageFormat.h"
 #include "platform/printmanager/PMPrintSettings.h"
@@ -15,6 +16,7 @@ struct HostSettings
 {
     int copies = 1;
     QString pageRanges; ///< as normalizedPageRanges() gives them; empty: all
+    PrintScaling scaling = PrintScaling::Automatic;
 
     bool operator==(const HostSettings &) const = default;
 };
@@ -27,6 +29,7 @@ struct JobValues
     PMPageFormat format;
     PMPrintSettings ticket;
     HostSettings settings;
+    bool havePages = false; ///< all documents have pages of their own, which know their way up
     QList<JobOption> saved; ///< lpoptions of the queue that are no choices of its PPD
 };
 
@@ -43,8 +46,11 @@ struct JobOptions
 /// value under a vendor key. A vendor key is one in reverse-domain form ("com.maker.thing") that is
 /// not the platform's own.
 ///
-/// The paper is sent as `PageSize` alone. Beside it `media` would win in later versions of CUPS,
-/// and borderless paper would print with margins.
+/// Every job says how it is to be scaled: the server shrinks the pages of one that does not.
+///
+/// The paper is sent as `PageSize` alone, and is the sheet in the printer: the paper that the
+/// document is mapped to, where the ticket has one, else that of the page format. Beside it `media`
+/// would win in later versions of CUPS, and borderless paper would print with margins.
 JobOptions jobOptions(const JobValues &values);
 
 /// Whether the name is that of an option of the PPD (null: none) whose choices may be sent.

@@ -5,6 +5,7 @@
 
 #include <QtCore/QRegularExpression>
 
+#include <algorithm>
 #include <array>
 
 using namespace Qt::StringLiterals;
@@ -53,6 +54,17 @@ QString paperText(ppd_file_t *ppd, const PMPaper &paper)
         return QString::number(qRound(points / kPointsPerMillimetre * 10) / 10.0);
     };
     return u"%1 × %2 mm"_s.arg(millimetres(paper.width), millimetres(paper.height));
+}
+
+bool hasMargins(ppd_file_t *ppd, const PMPaper &paper)
+{
+    if (!ppd)
+        return true;
+    if (paper.ppdName.isNull())
+        return std::ranges::any_of(ppd->custom_margins, [](float margin) { return margin > 0; });
+    const ppd_size_t *size = ppdPageSize(ppd, paper.ppdName.toUtf8().constData());
+    return !size || size->left > 0 || size->bottom > 0 || size->right < size->width ||
+           size->top < size->length;
 }
 
 std::optional<CustomLimits> customLimits(ppd_file_t *ppd)

@@ -23,6 +23,10 @@ PMPaper customPaper(double width, double height);
 /// The text of a paper for people: the PPD's text of the choice, else the size in millimetres.
 QString paperText(ppd_file_t *ppd, const PMPaper &paper);
 
+/// Whether the printer leaves a part of the sheet white. Of a printer without a PPD nobody knows:
+/// it may.
+bool hasMargins(ppd_file_t *ppd, const PMPaper &paper);
+
 /// The sizes that the PPD lets a user give.
 struct CustomLimits
 {

@@ -43,6 +43,8 @@ bool takeSetting(SavedSettings &settings, const JobOption &option)
         settings.orientation = number >= kFirstLandscape && number <= kLastLandscape
                                    ? PMOrientation::Landscape
                                    : PMOrientation::Portrait;
+    else if (isScalingOption(option.name))
+        settings.settings.scaling = scalingOf(option).value_or(PrintScaling::Automatic);
     else
         return false;
     return true;

@@ -42,6 +42,26 @@ void takeOrientation(PrintJob &job, const QString &value)
     job.setOrientation(value == kLandscape ? PMOrientation::Landscape : PMOrientation::Portrait);
 }
 
+constexpr auto kPrintScaling = "print-scaling"_L1;
+constexpr auto kFitToPage = "fit-to-page"_L1;
+
+QString normalizedScaling(const QString &value)
+{
+    const auto scaling = scalingOf({kPrintScaling, value});
+    return scaling ? scalingKeyword(*scaling) : QString();
+}
+
+QString normalizedFit(const QString &value)
+{
+    const auto scaling = scalingOf({kFitToPage, value});
+    return scaling ? scalingKeyword(*scaling) : QString();
+}
+
+void takeScaling(PrintJob &job, const QString &value)
+{
+    job.settings().scaling = scalingOf({kPrintScaling, value}).value_or(PrintScaling::Automatic);
+}
+
 struct OwnSetting
 {
     QLatin1String name;
@@ -52,7 +72,9 @@ struct OwnSetting
 constexpr std::array kOwnSettings{
     OwnSetting{"copies"_L1, normalizedCopies, takeCopies},
     OwnSetting{"page-ranges"_L1, normalizedPageRanges, takePages},
-    OwnSetting{"orientation-requested"_L1, normalizedOrientation, takeOrientation}};
+    OwnSetting{"orientation-requested"_L1, normalizedOrientation, takeOrientation},
+    OwnSetting{kPrintScaling, normalizedScaling, takeScaling},
+    OwnSetting{kFitToPage, normalizedFit, takeScaling}};
 
 const OwnSetting *settingNamed(const QString &name)
 {
@@ -65,6 +87,11 @@ const OwnSetting *settingNamed(const QString &name)
 bool isOwnSetting(const QString &name)
 {
     return settingNamed(name);
+}
+
+QString ownSettingName(const QString &name)
+{
+    return name == kFitToPage ? QString(kPrintScaling) : name;
 }
 
 QString normalizedOwnValue(const QString &name, const QString &value)

@@ -4,10 +4,13 @@
 
 class PrintJob;
 
-/// The settings of the dialog's own that may be asked for by name: `copies`, `page-ranges` and
-/// `orientation-requested`.
+/// The settings of the dialog's own that may be asked for by name: `copies`, `page-ranges`,
+/// `orientation-requested`, `print-scaling` and, as lp has it, `fit-to-page`.
 
 bool isOwnSetting(const QString &name);
+
+/// The one name of the setting: two words for the same are not two settings.
+QString ownSettingName(const QString &name);
 
 /// The one spelling of the value's meaning ("landscape" for "4"); null when it is no value for the
 /// setting.

@@ -1,6 +1,8 @@
 #include "dialog/printing/PrintJob.h"
 
 #include "dialog/job/DocumentFile.h"
+#include "dialog/job/DocumentKind.h"
+#include "dialog/job/Papers.h"
 #include "platform/ppd/PPDText.h"
 #include "platform/printmanager/PMTicketKeys.h"
 
@@ -14,14 +16,16 @@ constexpr auto kDuplex = "Duplex"_L1;
 
 } // namespace
 
-PrintJob::PrintJob(Documents documents)
-    : m_documents(std::move(documents)), m_title(jobTitle(m_documents))
-{}
+PrintJob::PrintJob(const Documents &documents)
+{
+    setDocuments(documents);
+}
 
 void PrintJob::setDocuments(const Documents &documents)
 {
     m_documents = documents;
     m_title = jobTitle(documents);
+    m_kinds = kindsOf(documents);
 }
 
 void PrintJob::setPrinter(const PrinterSource &source, OpenedPrinter printer)
@@ -50,6 +54,12 @@ HostSession *PrintJob::session() const
     return session ? session->get() : nullptr;
 }
 
+QString PrintJob::printerKey() const
+{
+    return m_source.queue.queue.isEmpty() ? m_source.ppdPath
+                                          : m_source.server + u'/' + m_source.queue.queue;
+}
+
 const PMPageFormat &PrintJob::format() const
 {
     return session() ? session()->pageFormat() : std::get<PMPageFormat>(m_printer);
@@ -75,7 +85,7 @@ std::optional<PMPaper> PrintJob::paper() const
 
 void PrintJob::setPaper(const PMPaper &paper)
 {
-    session()->setPaper(paper);
+    session()->setPaper(paper, mappedPaper().isEmpty() ? std::nullopt : std::optional(QString()));
 }
 
 QString PrintJob::mappedPaper() const
@@ -83,9 +93,23 @@ QString PrintJob::mappedPaper() const
     return session() ? session()->ticket().values().value(kPMMappedPaperKey).toString() : QString();
 }
 
-void PrintJob::setMappedPaper(const QString &paper)
+std::optional<PMPaper> PrintJob::sheet() const
 {
-    session()->setPaper(this->paper().value_or(PMPaper()), paper);
+    const std::optional<PMPaper> mapped = paperOfChoice(ppd(), mappedPaper());
+    return mapped ? mapped : paper();
+}
+
+std::optional<PMPaper> PrintJob::documentPage() const
+{
+    const std::optional<PMPaper> page = paper();
+    const std::optional<PMPaper> sheet = this->sheet();
+    return page && sheet && page->name != sheet->name ? page : std::nullopt;
+}
+
+ScalingCase PrintJob::scalingCase() const
+{
+    const std::optional<PMPaper> sheet = this->sheet();
+    return {!sheet || hasMargins(ppd(), *sheet), m_kinds.contains(DocumentKind::Picture)};
 }
 
 bool PrintJob::offersColorMatching() const
@@ -138,6 +162,7 @@ JobOptions PrintJob::options() const
     values.settings = m_settings;
     values.saved = m_saved;
     values.format = format();
+    values.havePages = !m_kinds.empty() && m_kinds.count(DocumentKind::Pages) == m_kinds.size();
     if (const HostSession *open = session()) {
         values.ppd = open->ppd();
         // A queue has defaults of its own, which a file that was named instead knows nothing of.

@@ -1,7 +1,9 @@
 #pragma once
 
 #include "dialog/cups/JobSubmission.h"
+#include "dialog/job/DocumentKind.h"
 #include "dialog/job/JobOptions.h"
+#include "dialog/job/ScalingSentences.h"
 #include "dialog/printing/PrinterSource.h"
 
 #include <QtCore/QString>
@@ -20,7 +22,7 @@ class PrintJob
 public:
     enum class ColorMatching { Printer, Application };
 
-    explicit PrintJob(Documents documents = {});
+    explicit PrintJob(const Documents &documents = {});
 
     const Documents &documents() const { return m_documents; }
     const QString &title() const { return m_title; }
@@ -35,6 +37,10 @@ public:
 
     const PrinterSource &source() const { return m_source; }
     HostSession *session() const; ///< null: none
+
+    /// What the printer is called from run to run: its queue and server, or its PPD file.
+    QString printerKey() const;
+
     ppd_file_t *ppd() const { return session() ? session()->ppd() : nullptr; }
 
     HostSettings &settings() { return m_settings; }
@@ -45,11 +51,22 @@ public:
 
     /// None without a session, or when nothing is marked.
     std::optional<PMPaper> paper() const;
+
+    /// Another sheet in the printer; the page is mapped to none any more.
     void setPaper(const PMPaper &paper);
 
-    /// The paper that the document is scaled to; null: its own.
+    /// The `PageSize` choice of the sheet that the document's page is mapped to; null: none, the
+    /// sheet is the page's paper.
     QString mappedPaper() const;
-    void setMappedPaper(const QString &paper);
+
+    /// The paper in the printer: what the page is mapped to, else paper().
+    std::optional<PMPaper> sheet() const;
+
+    /// The paper that the document's page was made for, where that is not the sheet.
+    std::optional<PMPaper> documentPage() const;
+
+    /// On what the documents are scaled.
+    ScalingCase scalingCase() const;
 
     /// Whether the printer leaves the choice who matches the colors.
     bool offersColorMatching() const;
@@ -72,6 +89,7 @@ private:
     const PMPageFormat &format() const;
 
     Documents m_documents;
+    QList<DocumentKind> m_kinds; // of the documents
     QString m_title;
     PrinterSource m_source;
     HostSettings m_settings;

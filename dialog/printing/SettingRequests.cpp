@@ -86,7 +86,7 @@ Result<RequestedChoice> knownOwnSetting(const RequestedChoice &wanted)
     const QString value = normalizedOwnValue(wanted.keyword, wanted.choice);
     if (value.isNull())
         return badValue(wanted);
-    return RequestedChoice{wanted.keyword, value};
+    return RequestedChoice{ownSettingName(wanted.keyword), value};
 }
 
 Result<RequestedChoice> knownChoice(const PrintJob &job, const RequestedChoice &wanted)

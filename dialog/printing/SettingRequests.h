@@ -10,8 +10,8 @@ class PrintJob;
 
 /// The setting by the names that the printer has for it, in the one spelling of its meaning. A
 /// fault of kind Request where the printer has no such setting, or not the choice. `PageSize` takes
-/// "Custom.WIDTHxHEIGHT" with a unit besides, within the limits of the PPD; `copies`, `page-ranges`
-/// and `orientation-requested` are the dialog's own.
+/// "Custom.WIDTHxHEIGHT" with a unit besides, within the limits of the PPD; those of
+/// OwnSettings.h are the dialog's own.
 Result<RequestedChoice> knownSetting(const PrintJob &job, const RequestedChoice &wanted);
 
 /// Makes a known setting, as far as the other ones allow. The panels' controls are filled

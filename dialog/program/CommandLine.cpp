@@ -29,8 +29,15 @@ QString takeQueue(CommandLine &line, const QString &value)
     return {};
 }
 
+// What lp takes without a value.
+constexpr std::array kSwitches{QLatin1String("fit-to-page")};
+
 QString takeChoice(CommandLine &line, const QString &value)
 {
+    if (std::ranges::find(kSwitches, value) != kSwitches.end()) {
+        line.choices.append({value, QStringLiteral("true")});
+        return {};
+    }
     const qsizetype equals = value.indexOf(u'=');
     if (equals <= 0 || equals == value.size() - 1)
         return QCoreApplication::translate("CommandLine", "-o needs KEY=VALUE, not \"%1\".")

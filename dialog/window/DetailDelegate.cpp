@@ -48,11 +48,14 @@ void DetailDelegate::paint(QPainter *painter, const QStyleOptionViewItem &option
     };
     const bool isSelected = row.state.testFlag(QStyle::State_Selected);
     QColor color = row.palette.color(isSelected ? QPalette::HighlightedText : QPalette::Text);
+    const bool isHeading = !index.flags().testFlag(Qt::ItemIsEnabled);
+    const bool hasDetail = !detailOf(index).isEmpty();
+    row.font.setBold(isHeading);
     painter->save();
     painter->setFont(row.font);
     painter->setPen(color);
-    painter->drawText(QRect(area.left(), area.top(), area.width(), line), Qt::AlignVCenter,
-                      elided(titleOf(index)));
+    painter->drawText(hasDetail ? QRect(area.left(), area.top(), area.width(), line) : area,
+                      Qt::AlignVCenter, elided(titleOf(index)));
     color.setAlphaF(static_cast<float>(color.alphaF() * kStrengthOfDetails));
     painter->setPen(color);
     painter->drawText(QRect(area.left(), area.top() + line, area.width(), line), Qt::AlignVCenter,

@@ -3,7 +3,8 @@
 #include <QtWidgets/QStyledItemDelegate>
 
 /// Draws the rows of a list in two lines: the title, and under it the detail of the item
-/// (PopUpButton::kDetailRole). A row whose texts are cut off tells them whole in a tool tip.
+/// (PopUpButton::kDetailRole). A row that cannot be picked is a heading. A row whose texts are cut
+/// off tells them whole in a tool tip.
 class DetailDelegate : public QStyledItemDelegate
 {
     Q_OBJECT

@@ -2,6 +2,7 @@
 #include "dialog/job/PipeDocuments.h"
 #include "dialog/window/DialogWindow.h"
 #include "dialog/window/JobHeader.h"
+#include "dialog/window/PageSetupPane.h"
 
 #include <QtCore/QMimeData>
 #include <QtGui/QDragEnterEvent>
@@ -63,6 +64,7 @@ void DialogWindow::takeDocuments()
     const bool hadSavedJob = m_savedJob.has_value();
     takeSavedJob();
     m_header->reload();
+    m_pageSetup->refresh();
     if (m_savedJob || hadSavedJob) {
         closePrinter();
         findPrinter(m_savedJob ? firstPrinter() : job().source());

@@ -201,10 +201,11 @@ SummarySection DialogWindow::ownSection() const
 {
     const HostSettings &settings = job().settings();
     SummarySection own{tr("Page Setup"), {}};
-    if (const std::optional<PMPaper> paper = job().paper())
-        own.lines += {tr("Paper"), paperText(job().ppd(), *paper)};
-    if (const std::optional<PMPaper> mapped = paperOfChoice(job().ppd(), job().mappedPaper()))
-        own.lines += {tr("Scaled to Fit"), paperText(job().ppd(), *mapped)};
+    if (const std::optional<PMPaper> sheet = job().sheet())
+        own.lines += {tr("Paper in the Printer"), paperText(job().ppd(), *sheet)};
+    if (const std::optional<PMPaper> page = job().documentPage())
+        own.lines += {tr("Document Page"), paperText(job().ppd(), *page)};
+    own.lines += {tr("Scaling"), scalingTitle(settings.scaling, job().scalingCase())};
     const bool isLandscape = job().orientation() == PMOrientation::Landscape;
     own.lines += {tr("Orientation"), isLandscape ? tr("Landscape") : tr("Portrait")};
     own.lines += {tr("Copies"), QString::number(settings.copies)};

@@ -1,4 +1,5 @@
 #include "dialog/files/PathBytes.h"
+#include "dialog/job/PaperMemory.h"
 #include "dialog/printing/LastPrinter.h"
 #include "dialog/window/DialogWindow.h"
 #include "dialog/window/ProgressStrip.h"
@@ -141,6 +142,9 @@ void DialogWindow::beginSending(const QString &sentence,
 void DialogWindow::endSending(const Result<> &outcome, const QString &note)
 {
     m_mayHavePrinted = outcome.faultKind() == FaultKind::Unsettled;
+    const QString paper = job().sheet().value_or(PMPaper()).ppdName;
+    if (outcome && !paper.isEmpty())
+        rememberPaper(job().printerKey(), paper);
     if (outcome || m_mayHavePrinted)
         m_outcome = outcome;
     m_progress->end();

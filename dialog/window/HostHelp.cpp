@@ -21,8 +21,9 @@ constexpr std::array kParagraphs{
                       "Page Setup holds the paper, its orientation, two-sided printing and what "
                       "else the printer leaves to this dialog. A size of your own is entered below "
                       "the paper; a word beside the field says when the printer cannot take it."),
-    QT_TRANSLATE_NOOP("HostHelp", "\"Scale to Fit\" prints the document on another paper than it "
-                                  "was made for, and makes it larger or smaller to fill that."),
+    QT_TRANSLATE_NOOP("HostHelp", "\"Scaling\" says how the pages of the document come to the size "
+                                  "of the paper in the printer. What comes of each choice stands "
+                                  "below it."),
     QT_TRANSLATE_NOOP("HostHelp", "When the printer does not allow two settings together, the "
                                   "second one is not made, and a line above the tabs names both."),
     QT_TRANSLATE_NOOP(

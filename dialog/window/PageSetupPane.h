@@ -2,15 +2,13 @@
 
 #include <QtWidgets/QWidget>
 
-class CustomSizeFields;
-class PopUpButton;
+class PaperRows;
+class PlacementRows;
 class PrintJob;
-class QFormLayout;
-struct CustomLimits;
 
-/// The page setup: paper, orientation, scaling, two-sided printing, colour matching, and the
-/// options that the plug-in leaves to the dialog. Shows what the job has, and changes the job
-/// alone.
+/// The page setup: the paper in the printer, how the pages lie on it, two-sided printing, colour
+/// matching, and the options that the plug-in leaves to the dialog. Shows what the job has, and
+/// changes the job alone.
 class PageSetupPane : public QWidget
 {
     Q_OBJECT
@@ -21,6 +19,9 @@ public:
 
     /// Shows the settings of the job's printer; after every change of the printer.
     void reload();
+
+    /// Shows what the job has of late: other documents, say.
+    void refresh();
 
     /// Whether all that stands in the fields can be used.
     bool isAcceptable() const;
@@ -33,20 +34,8 @@ Q_SIGNALS:
     void refused(const QString &sentence);
 
 private:
-    void addPaper(QFormLayout *form);
-    void addCustomSize(QFormLayout *form, const CustomLimits &limits);
-    void addOrientation(QFormLayout *form);
-    void addScaling(QFormLayout *form);
-    void addOption(QFormLayout *form, const QString &keyword);
-    void addColorMatching(QFormLayout *form);
-    PopUpButton *newPopUp(const QString &name);
-    void showPaper();
-    void choosePaper();
-    void useCustomSize();
-    void chooseOption(const QString &keyword, PopUpButton *popup);
-
     PrintJob &m_job;
     QWidget *m_page = nullptr;
-    PopUpButton *m_paper = nullptr;
-    CustomSizeFields *m_customSize = nullptr; // null: the printer takes no custom sizes
+    PaperRows *m_paper = nullptr;
+    PlacementRows *m_placement = nullptr;
 };

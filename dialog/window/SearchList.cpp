@@ -65,7 +65,10 @@ SearchList::SearchList(QAbstractItemModel *rows, QAbstractItemDelegate *delegate
     layout->addWidget(m_list, 1);
     setFocusProxy(m_words);
     connect(m_words, &QLineEdit::textChanged, this, &SearchList::search);
-    connect(m_list, &QListView::clicked, this, &SearchList::pickCurrent);
+    connect(m_list, &QListView::clicked, this, [this](const QModelIndex &row) {
+        if (row.flags().testFlag(Qt::ItemIsEnabled))
+            pickCurrent();
+    });
 }
 
 void SearchList::openAt(const QWidget &anchor, int row, const QString &typed)
@@ -79,11 +82,15 @@ void SearchList::openAt(const QWidget &anchor, int row, const QString &typed)
     m_words->insert(typed);
 }
 
-/// The first row that is found is the one that Return picks.
+/// The first row that can be picked is the one that Return picks.
 void SearchList::search(const QString &words)
 {
     m_found->setWords(words);
-    m_list->setCurrentIndex(m_found->index(0, 0));
+    int row = 0;
+    while (row + 1 < m_found->rowCount() &&
+           !m_found->index(row, 0).flags().testFlag(Qt::ItemIsEnabled))
+        ++row;
+    m_list->setCurrentIndex(m_found->index(row, 0));
     m_list->scrollToTop();
 }
 

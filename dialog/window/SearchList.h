@@ -10,7 +10,8 @@ class SearchModel;
 
 /// A list in a window of its own that shows the rows in which all typed words are found, in their
 /// titles or details. Arrow keys move in the list while the words are being typed, Return or a
-/// click picks, Escape closes. The rows must be of one height.
+/// click picks, Escape closes. Rows that
+/// cannot be picked are headings, and are no finds. The rows must be of one height.
 class SearchList : public QFrame
 {
     Q_OBJECT

@@ -37,19 +37,13 @@ bool isPaperTold(const PrintJob &job, const QString &choice)
             (choice == paper->ppdName || choice == customPageSize(paper->width, paper->height)));
 }
 
-bool isScalingTold(const PrintJob &job)
-{
-    return paperOfChoice(job.ppd(), job.mappedPaper()).has_value();
-}
-
 /// Whether the dialog itself has a line of it.
 bool isTold(const PrintJob &job, const JobOption &option)
 {
-    static const QStringList always{u"copies"_s, u"page-ranges"_s, u"orientation-requested"_s};
+    static const QStringList always{u"copies"_s, u"page-ranges"_s, u"print-scaling"_s,
+                                    u"orientation-requested"_s, u"pdfAutoRotate"_s};
     if (isSameName(option.name, u"PageSize"_s))
         return isPaperTold(job, option.value);
-    if (option.name == "fit-to-page"_L1 || option.name == "print-scaling"_L1)
-        return isScalingTold(job);
     if (option.name == kPMColorMatchingModeKey)
         return job.offersColorMatching();
     return always.contains(option.name) ||

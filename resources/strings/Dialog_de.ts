@@ -162,8 +162,8 @@
         <translation>Die Einstellungen dieses Bereichs können nicht angezeigt werden: Ein Teil des Plug-ins fehlt. Installieren Sie Velkaro Print neu.</translation>
     </message>
     <message>
-        <source>Paper</source>
-        <translation>Papier</translation>
+        <source>Paper in the Printer</source>
+        <translation>Papier im Drucker</translation>
     </message>
     <message>
         <source>The printer cannot take the paper size in Page Setup. Correct it there to print.</source>
@@ -182,8 +182,12 @@
         <translation>Durch die Anwendung</translation>
     </message>
     <message>
-        <source>Scaled to Fit</source>
-        <translation>Skaliert auf</translation>
+        <source>Document Page</source>
+        <translation>Seite des Dokuments</translation>
+    </message>
+    <message>
+        <source>Scaling</source>
+        <translation>Skalierung</translation>
     </message>
     <message>
         <source>Orientation</source>
@@ -415,8 +419,8 @@
         <translation>Hilfe zum Drucken</translation>
     </message>
     <message>
-        <source>&quot;Scale to Fit&quot; prints the document on another paper than it was made for, and makes it larger or smaller to fill that.</source>
-        <translation>„Skalieren auf“ druckt das Dokument auf ein anderes Papier als das, für das es erstellt wurde, und vergrößert oder verkleinert es entsprechend.</translation>
+        <source>&quot;Scaling&quot; says how the pages of the document come to the size of the paper in the printer. What comes of each choice stands below it.</source>
+        <translation>„Skalierung“ sagt, wie die Seiten des Dokuments auf die Größe des Papiers im Drucker kommen. Was die Auswahl bewirkt, steht darunter.</translation>
     </message>
     <message>
         <source>Close</source>
@@ -608,6 +612,25 @@
     </message>
 </context>
 <context>
+    <name>OptionRows</name>
+    <message>
+        <source>%1:</source>
+        <translation>%1:</translation>
+    </message>
+    <message>
+        <source>By the P&amp;rinter</source>
+        <translation>Durch den D&amp;rucker</translation>
+    </message>
+    <message>
+        <source>By the Appl&amp;ication</source>
+        <translation>Durch die &amp;Anwendung</translation>
+    </message>
+    <message>
+        <source>Color Management:</source>
+        <translation>Farbverwaltung:</translation>
+    </message>
+</context>
+<context>
     <name>OutputFile</name>
     <message>
         <source>The file %1 cannot be written: %2.</source>
@@ -631,6 +654,25 @@
     <message>
         <source>The file %1 exists already; --force replaces it.</source>
         <translation>Die Datei %1 ist bereits vorhanden; --force ersetzt sie.</translation>
+    </message>
+</context>
+<context>
+    <name>OwnSizeFields</name>
+    <message>
+        <source>&amp;Keep</source>
+        <translation>&amp;Behalten</translation>
+    </message>
+    <message>
+        <source>Re&amp;name</source>
+        <translation>&amp;Umbenennen</translation>
+    </message>
+    <message>
+        <source>Remo&amp;ve</source>
+        <translation>&amp;Entfernen</translation>
+    </message>
+    <message>
+        <source>Name of this size</source>
+        <translation>Name dieses Formats</translation>
     </message>
 </context>
 <context>
@@ -711,40 +753,8 @@
 <context>
     <name>PageSetupPane</name>
     <message>
-        <source>Custom Size</source>
-        <translation>Eigenes Format</translation>
-    </message>
-    <message>
         <source>P&amp;aper:</source>
         <translation>&amp;Papier:</translation>
-    </message>
-    <message>
-        <source>P&amp;ortrait</source>
-        <translation>&amp;Hochformat</translation>
-    </message>
-    <message>
-        <source>&amp;Landscape</source>
-        <translation>&amp;Querformat</translation>
-    </message>
-    <message>
-        <source>Orientation:</source>
-        <translation>Ausrichtung:</translation>
-    </message>
-    <message>
-        <source>%1:</source>
-        <translation>%1:</translation>
-    </message>
-    <message>
-        <source>Do Not Scale</source>
-        <translation>Nicht skalieren</translation>
-    </message>
-    <message>
-        <source>&amp;Scale to Fit:</source>
-        <translation>&amp;Skalieren auf:</translation>
-    </message>
-    <message>
-        <source>Color Management:</source>
-        <translation>Farbverwaltung:</translation>
     </message>
     <message>
         <source>B&amp;y the Printer</source>
@@ -763,6 +773,63 @@
     </message>
 </context>
 <context>
+    <name>PaperList</name>
+    <message>
+        <source>Standard</source>
+        <translation>Standard</translation>
+    </message>
+    <message>
+        <source>Photo</source>
+        <translation>Foto</translation>
+    </message>
+    <message>
+        <source>Envelopes and Cards</source>
+        <translation>Umschläge und Karten</translation>
+    </message>
+    <message>
+        <source>Discs</source>
+        <translation>Discs</translation>
+    </message>
+    <message>
+        <source>Used Recently</source>
+        <translation>Zuletzt verwendet</translation>
+    </message>
+    <message>
+        <source>Custom Size</source>
+        <translation>Eigenes Format</translation>
+    </message>
+    <message>
+        <source>Own Sizes</source>
+        <translation>Eigene Formate</translation>
+    </message>
+</context>
+<context>
+    <name>PaperRows</name>
+    <message>
+        <source>P&amp;aper in the Printer:</source>
+        <translation>&amp;Papier im Drucker:</translation>
+    </message>
+    <message>
+        <source>&amp;Borderless</source>
+        <translation>&amp;Randlos</translation>
+    </message>
+    <message>
+        <source>Document Page:</source>
+        <translation>Seite des Dokuments:</translation>
+    </message>
+</context>
+<context>
+    <name>PaperSizes</name>
+    <message>
+        <source>%1 × %2 in</source>
+        <translation>%1 × %2 Zoll</translation>
+    </message>
+    <message>
+        <source>%1 × %2 mm</source>
+        <translation>%1 × %2 mm</translation>
+    </message>
+</context>
+<context>
     <name>PipeDocuments</name>
     <message>
         <source>There is no room in the temporary folder %1 for the document %2.</source>
@@ -775,6 +842,33 @@
     <message>
         <source>The document %1 is longer than %2 MB, the most that is read from a pipe.</source>
         <translation>Das Dokument %1 ist länger als %2 MB; mehr wird aus einer Pipe nicht gelesen.</translation>
+    </message>
+</context>
+<context>
+    <name>PlacementRows</name>
+    <message>
+        <source>P&amp;ortrait</source>
+        <translation>&amp;Hochformat</translation>
+    </message>
+    <message>
+        <source>&amp;Landscape</source>
+        <translation>&amp;Querformat</translation>
+    </message>
+    <message>
+        <source>Orientation:</source>
+        <translation>Ausrichtung:</translation>
+    </message>
+    <message>
+        <source>&amp;Scaling:</source>
+        <translation>&amp;Skalierung:</translation>
+    </message>
+    <message>
+        <source>The paper lies on its side, and every page upright on it.</source>
+        <translation>Das Papier liegt quer, und jede Seite steht aufrecht darauf.</translation>
+    </message>
+    <message>
+        <source>Pages that are wider than high are turned to fill the paper.</source>
+        <translation>Seiten, die breiter als hoch sind, werden gedreht und füllen das Papier.</translation>
     </message>
 </context>
 <context>
@@ -1427,6 +1521,65 @@
     <message>
         <source>What was found</source>
         <translation>Gefundenes</translation>
+    </message>
+</context>
+<context>
+    <name>ScalingSentences</name>
+    <message>
+        <source>Automatic</source>
+        <translation>Automatisch</translation>
+    </message>
+    <message>
+        <source>Actual Size</source>
+        <translation>Originalgröße</translation>
+    </message>
+    <message>
+        <source>Fit to the Printable Area</source>
+        <translation>In den druckbaren Bereich einpassen</translation>
+    </message>
+    <message>
+        <source>Fill the Sheet</source>
+        <translation>Das Blatt füllen</translation>
+    </message>
+    <message>
+        <source>Fill the Printable Area</source>
+        <translation>Den druckbaren Bereich füllen</translation>
+    </message>
+    <message>
+        <source>Pages that are larger than the paper are made just small enough to cover it, and what does not fit is cut off. All others keep their size.</source>
+        <translation>Seiten, die größer als das Papier sind, werden so weit verkleinert, dass sie es gerade bedecken; was nicht darauf passt, wird abgeschnitten. Alle anderen behalten ihre Größe.</translation>
+    </message>
+    <message>
+        <source>Pictures that are larger than the printable area are made smaller. All others keep their size.</source>
+        <translation>Bilder, die größer als der druckbare Bereich sind, werden verkleinert. Alle anderen behalten ihre Größe.</translation>
+    </message>
+    <message>
+        <source>Pages that are larger than the paper are made smaller. All others keep their size.</source>
+        <translation>Seiten, die größer als das Papier sind, werden verkleinert. Alle anderen behalten ihre Größe.</translation>
+    </message>
+    <message>
+        <source>Every page keeps its size, in the middle of the paper. What does not fit is cut off.</source>
+        <translation>Jede Seite behält ihre Größe, in der Mitte des Papiers. Was nicht darauf passt, wird abgeschnitten.</translation>
+    </message>
+    <message>
+        <source>Every picture is made as large as fits as a whole. The print server leaves twice the paper&apos;s margins around it; borderless paper has none.</source>
+        <translation>Jedes Bild wird so groß, dass es ganz darauf passt. Der Druckserver lässt rundherum das Doppelte der Papierränder frei; randloses Papier hat keine.</translation>
+    </message>
+    <message>
+        <source>Every page is made as large as fits on the paper as a whole.</source>
+        <translation>Jede Seite wird so groß, dass sie ganz auf das Papier passt.</translation>
+    </message>
+    <message>
+        <source>Every page is made so large that no place stays white. What does not fit is cut off.</source>
+        <translation>Jede Seite wird so groß, dass nichts weiß bleibt. Was nicht darauf passt, wird abgeschnitten.</translation>
+    </message>
+    <message>
+        <source>Every picture is cut to the shape of the printable area. The print server leaves twice the paper&apos;s margins around it; borderless paper has none.</source>
+        <translation>Jedes Bild wird auf die Form des druckbaren Bereichs zugeschnitten. Der Druckserver lässt rundherum das Doppelte der Papierränder frei; randloses Papier hat keine.</translation>
+    </message>
+    <message>
+        <source>Every page is made so large that only the paper&apos;s margins stay white. What does not fit is cut off.</source>
+        <translation>Jede Seite wird so groß, dass nur die Ränder des Papiers weiß bleiben. Was nicht darauf passt, wird abgeschnitten.</translation>
     </message>
 </context>
 <context>

@@ -162,8 +162,8 @@
         <translation>Les réglages de ce volet ne peuvent pas être affichés : une partie du module est absente. Réinstallez Velkaro Print.</translation>
     </message>
     <message>
-        <source>Paper</source>
-        <translation>Papier</translation>
+        <source>Paper in the Printer</source>
+        <translation>Papier dans l’imprimante</translation>
     </message>
     <message>
         <source>The printer cannot take the paper size in Page Setup. Correct it there to print.</source>
@@ -182,8 +182,12 @@
         <translation>Par l’application</translation>
     </message>
     <message>
-        <source>Scaled to Fit</source>
-        <translation>Ajusté à</translation>
+        <source>Document Page</source>
+        <translation>Page du document</translation>
+    </message>
+    <message>
+        <source>Scaling</source>
+        <translation>Mise à l’échelle</translation>
     </message>
     <message>
         <source>Orientation</source>
@@ -415,8 +419,8 @@
         <translation>Aide sur l’impression</translation>
     </message>
     <message>
-        <source>&quot;Scale to Fit&quot; prints the document on another paper than it was made for, and makes it larger or smaller to fill that.</source>
-        <translation>« Ajuster à » imprime le document sur un autre papier que celui pour lequel il a été créé, en l’agrandissant ou en le réduisant en conséquence.</translation>
+        <source>&quot;Scaling&quot; says how the pages of the document come to the size of the paper in the printer. What comes of each choice stands below it.</source>
+        <translation>« Mise à l’échelle » dit comment les pages du document sont mises à la taille du papier dans l’imprimante. L’effet de chaque choix est indiqué en dessous.</translation>
     </message>
     <message>
         <source>Close</source>
@@ -608,6 +612,25 @@
     </message>
 </context>
 <context>
+    <name>OptionRows</name>
+    <message>
+        <source>%1:</source>
+        <translation>%1 :</translation>
+    </message>
+    <message>
+        <source>By the P&amp;rinter</source>
+        <translation>Par l’imp&amp;rimante</translation>
+    </message>
+    <message>
+        <source>By the Appl&amp;ication</source>
+        <translation>Par l’appl&amp;ication</translation>
+    </message>
+    <message>
+        <source>Color Management:</source>
+        <translation>Gestion des couleurs :</translation>
+    </message>
+</context>
+<context>
     <name>OutputFile</name>
     <message>
         <source>The file %1 cannot be written: %2.</source>
@@ -631,6 +654,25 @@
     <message>
         <source>The file %1 exists already; --force replaces it.</source>
         <translation>Le fichier %1 existe déjà ; --force le remplace.</translation>
+    </message>
+</context>
+<context>
+    <name>OwnSizeFields</name>
+    <message>
+        <source>&amp;Keep</source>
+        <translation>&amp;Garder</translation>
+    </message>
+    <message>
+        <source>Re&amp;name</source>
+        <translation>Re&amp;nommer</translation>
+    </message>
+    <message>
+        <source>Remo&amp;ve</source>
+        <translation>Suppri&amp;mer</translation>
+    </message>
+    <message>
+        <source>Name of this size</source>
+        <translation>Nom de ce format</translation>
     </message>
 </context>
 <context>
@@ -711,40 +753,12 @@
 <context>
     <name>PageSetupPane</name>
     <message>
-        <source>Custom Size</source>
-        <translation>Format personnalisé</translation>
-    </message>
-    <message>
         <source>P&amp;aper:</source>
         <translation>&amp;Papier :</translation>
     </message>
     <message>
-        <source>P&amp;ortrait</source>
-        <translation>P&amp;ortrait</translation>
-    </message>
-    <message>
-        <source>&amp;Landscape</source>
-        <translation>Pa&amp;ysage</translation>
-    </message>
-    <message>
-        <source>Orientation:</source>
-        <translation>Orientation :</translation>
-    </message>
-    <message>
-        <source>%1:</source>
-        <translation>%1 :</translation>
-    </message>
-    <message>
-        <source>Do Not Scale</source>
-        <translation>Ne pas mettre à l’échelle</translation>
-    </message>
-    <message>
         <source>&amp;Scale to Fit:</source>
         <translation>A&amp;juster à :</translation>
-    </message>
-    <message>
-        <source>Color Management:</source>
-        <translation>Gestion des couleurs :</translation>
     </message>
     <message>
         <source>B&amp;y the Printer</source>
@@ -763,6 +777,63 @@
     </message>
 </context>
 <context>
+    <name>PaperList</name>
+    <message>
+        <source>Standard</source>
+        <translation>Standard</translation>
+    </message>
+    <message>
+        <source>Photo</source>
+        <translation>Photo</translation>
+    </message>
+    <message>
+        <source>Envelopes and Cards</source>
+        <translation>Enveloppes et cartes</translation>
+    </message>
+    <message>
+        <source>Discs</source>
+        <translation>Disques</translation>
+    </message>
+    <message>
+        <source>Used Recently</source>
+        <translation>Utilisés récemment</translation>
+    </message>
+    <message>
+        <source>Custom Size</source>
+        <translation>Format personnalisé</translation>
+    </message>
+    <message>
+        <source>Own Sizes</source>
+        <translation>Vos formats</translation>
+    </message>
+</context>
+<context>
+    <name>PaperRows</name>
+    <message>
+        <source>P&amp;aper in the Printer:</source>
+        <translation>&amp;Papier dans l’imprimante :</translation>
+    </message>
+    <message>
+        <source>&amp;Borderless</source>
+        <translation>&amp;Sans marges</translation>
+    </message>
+    <message>
+        <source>Document Page:</source>
+        <translation>Page du document :</translation>
+    </message>
+</context>
+<context>
+    <name>PaperSizes</name>
+    <message>
+        <source>%1 × %2 in</source>
+        <translation>%1 × %2 po</translation>
+    </message>
+    <message>
+        <source>%1 × %2 mm</source>
+        <translation>%1 × %2 mm</translation>
+    </message>
+</context>
+<context>
     <name>PipeDocuments</name>
     <message>
         <source>There is no room in the temporary folder %1 for the document %2.</source>
@@ -775,6 +846,33 @@
     <message>
         <source>The document %1 is longer than %2 MB, the most that is read from a pipe.</source>
         <translation>Le document %1 dépasse %2 Mo, le maximum lu depuis un tube.</translation>
+    </message>
+</context>
+<context>
+    <name>PlacementRows</name>
+    <message>
+        <source>P&amp;ortrait</source>
+        <translation>P&amp;ortrait</translation>
+    </message>
+    <message>
+        <source>&amp;Landscape</source>
+        <translation>Pa&amp;ysage</translation>
+    </message>
+    <message>
+        <source>Orientation:</source>
+        <translation>Orientation :</translation>
+    </message>
+    <message>
+        <source>&amp;Scaling:</source>
+        <translation>Mise à l’é&amp;chelle :</translation>
+    </message>
+    <message>
+        <source>The paper lies on its side, and every page upright on it.</source>
+        <translation>Le papier est couché, et chaque page y est droite.</translation>
+    </message>
+    <message>
+        <source>Pages that are wider than high are turned to fill the paper.</source>
+        <translation>Les pages plus larges que hautes sont tournées pour remplir le papier.</translation>
     </message>
 </context>
 <context>
@@ -1427,6 +1525,65 @@
     <message>
         <source>What was found</source>
         <translation>Résultats</translation>
+    </message>
+</context>
+<context>
+    <name>ScalingSentences</name>
+    <message>
+        <source>Automatic</source>
+        <translation>Automatique</translation>
+    </message>
+    <message>
+        <source>Actual Size</source>
+        <translation>Taille réelle</translation>
+    </message>
+    <message>
+        <source>Fit to the Printable Area</source>
+        <translation>Ajuster à la zone imprimable</translation>
+    </message>
+    <message>
+        <source>Fill the Sheet</source>
+        <translation>Remplir la feuille</translation>
+    </message>
+    <message>
+        <source>Fill the Printable Area</source>
+        <translation>Remplir la zone imprimable</translation>
+    </message>
+    <message>
+        <source>Pages that are larger than the paper are made just small enough to cover it, and what does not fit is cut off. All others keep their size.</source>
+        <translation>Les pages plus grandes que le papier sont réduites juste assez pour le couvrir, et ce qui dépasse est coupé. Toutes les autres gardent leur taille.</translation>
+    </message>
+    <message>
+        <source>Pictures that are larger than the printable area are made smaller. All others keep their size.</source>
+        <translation>Les images plus grandes que la zone imprimable sont réduites. Toutes les autres gardent leur taille.</translation>
+    </message>
+    <message>
+        <source>Pages that are larger than the paper are made smaller. All others keep their size.</source>
+        <translation>Les pages plus grandes que le papier sont réduites. Toutes les autres gardent leur taille.</translation>
+    </message>
+    <message>
+        <source>Every page keeps its size, in the middle of the paper. What does not fit is cut off.</source>
+        <translation>Chaque page garde sa taille, au milieu du papier. Ce qui dépasse est coupé.</translation>
+    </message>
+    <message>
+        <source>Every picture is made as large as fits as a whole. The print server leaves twice the paper&apos;s margins around it; borderless paper has none.</source>
+        <translation>Chaque image est aussi grande que possible sans être coupée. Le serveur d’impression laisse autour d’elle le double des marges du papier ; le papier sans marges n’en a pas.</translation>
+    </message>
+    <message>
+        <source>Every page is made as large as fits on the paper as a whole.</source>
+        <translation>Chaque page est aussi grande que possible sans être coupée.</translation>
+    </message>
+    <message>
+        <source>Every page is made so large that no place stays white. What does not fit is cut off.</source>
+        <translation>Chaque page est assez grande pour ne rien laisser en blanc. Ce qui dépasse est coupé.</translation>
+    </message>
+    <message>
+        <source>Every picture is cut to the shape of the printable area. The print server leaves twice the paper&apos;s margins around it; borderless paper has none.</source>
+        <translation>Chaque image est coupée à la forme de la zone imprimable. Le serveur d’impression laisse autour d’elle le double des marges du papier ; le papier sans marges n’en a pas.</translation>
+    </message>
+    <message>
+        <source>Every page is made so large that only the paper&apos;s margins stay white. What does not fit is cut off.</source>
+        <translation>Chaque page est assez grande pour ne laisser en blanc que les marges du papier. Ce qui dépasse est coupé.</translation>
     </message>
 </context>
 <context>

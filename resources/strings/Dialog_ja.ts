@@ -162,8 +162,8 @@
         <translation>プラグインの一部が見つからないため、この設定画面を表示できません。Velkaro Print をインストールし直してください。</translation>
     </message>
     <message>
-        <source>Paper</source>
-        <translation>用紙</translation>
+        <source>Paper in the Printer</source>
+        <translation>プリンターの用紙</translation>
     </message>
     <message>
         <source>The printer cannot take the paper size in Page Setup. Correct it there to print.</source>
@@ -182,8 +182,12 @@
         <translation>アプリケーション</translation>
     </message>
     <message>
-        <source>Scaled to Fit</source>
-        <translation>拡大縮小先の用紙</translation>
+        <source>Document Page</source>
+        <translation>文書のページ</translation>
+    </message>
+    <message>
+        <source>Scaling</source>
+        <translation>拡大縮小</translation>
     </message>
     <message>
         <source>Orientation</source>
@@ -415,8 +419,8 @@
         <translation>印刷のヘルプ</translation>
     </message>
     <message>
-        <source>&quot;Scale to Fit&quot; prints the document on another paper than it was made for, and makes it larger or smaller to fill that.</source>
-        <translation>「用紙に合わせる」を選ぶと、文書を別の用紙に合わせて拡大または縮小して印刷します。</translation>
+        <source>&quot;Scaling&quot; says how the pages of the document come to the size of the paper in the printer. What comes of each choice stands below it.</source>
+        <translation>「拡大縮小」では、文書のページをプリンターの用紙の大きさにどう合わせるかを選びます。それぞれの結果は項目の下に表示されます。</translation>
     </message>
     <message>
         <source>Close</source>
@@ -608,6 +612,25 @@
     </message>
 </context>
 <context>
+    <name>OptionRows</name>
+    <message>
+        <source>%1:</source>
+        <translation>%1:</translation>
+    </message>
+    <message>
+        <source>By the P&amp;rinter</source>
+        <translation>プリンター(&amp;R)</translation>
+    </message>
+    <message>
+        <source>By the Appl&amp;ication</source>
+        <translation>アプリケーション(&amp;I)</translation>
+    </message>
+    <message>
+        <source>Color Management:</source>
+        <translation>カラーマネージメント:</translation>
+    </message>
+</context>
+<context>
     <name>OutputFile</name>
     <message>
         <source>The file %1 cannot be written: %2.</source>
@@ -631,6 +654,25 @@
     <message>
         <source>The file %1 exists already; --force replaces it.</source>
         <translation>ファイル %1 は既に存在します。置き換えるには --force を指定してください。</translation>
+    </message>
+</context>
+<context>
+    <name>OwnSizeFields</name>
+    <message>
+        <source>&amp;Keep</source>
+        <translation>保存(&amp;K)</translation>
+    </message>
+    <message>
+        <source>Re&amp;name</source>
+        <translation>名前を変更(&amp;N)</translation>
+    </message>
+    <message>
+        <source>Remo&amp;ve</source>
+        <translation>削除(&amp;V)</translation>
+    </message>
+    <message>
+        <source>Name of this size</source>
+        <translation>このサイズの名前</translation>
     </message>
 </context>
 <context>
@@ -711,40 +753,8 @@
 <context>
     <name>PageSetupPane</name>
     <message>
-        <source>Custom Size</source>
-        <translation>カスタムサイズ</translation>
-    </message>
-    <message>
         <source>P&amp;aper:</source>
         <translation>用紙(&amp;A):</translation>
-    </message>
-    <message>
-        <source>P&amp;ortrait</source>
-        <translation>縦(&amp;O)</translation>
-    </message>
-    <message>
-        <source>&amp;Landscape</source>
-        <translation>横(&amp;L)</translation>
-    </message>
-    <message>
-        <source>Orientation:</source>
-        <translation>向き:</translation>
-    </message>
-    <message>
-        <source>%1:</source>
-        <translation>%1:</translation>
-    </message>
-    <message>
-        <source>Do Not Scale</source>
-        <translation>拡大縮小しない</translation>
-    </message>
-    <message>
-        <source>&amp;Scale to Fit:</source>
-        <translation>用紙に合わせる(&amp;S):</translation>
-    </message>
-    <message>
-        <source>Color Management:</source>
-        <translation>カラーマネージメント:</translation>
     </message>
     <message>
         <source>B&amp;y the Printer</source>
@@ -763,6 +773,63 @@
     </message>
 </context>
 <context>
+    <name>PaperList</name>
+    <message>
+        <source>Standard</source>
+        <translation>定型サイズ</translation>
+    </message>
+    <message>
+        <source>Photo</source>
+        <translation>写真</translation>
+    </message>
+    <message>
+        <source>Envelopes and Cards</source>
+        <translation>封筒・はがき・カード</translation>
+    </message>
+    <message>
+        <source>Discs</source>
+        <translation>ディスク</translation>
+    </message>
+    <message>
+        <source>Used Recently</source>
+        <translation>最近使った用紙</translation>
+    </message>
+    <message>
+        <source>Custom Size</source>
+        <translation>カスタムサイズ</translation>
+    </message>
+    <message>
+        <source>Own Sizes</source>
+        <translation>ユーザー定義サイズ</translation>
+    </message>
+</context>
+<context>
+    <name>PaperRows</name>
+    <message>
+        <source>P&amp;aper in the Printer:</source>
+        <translation>プリンターの用紙(&amp;P):</translation>
+    </message>
+    <message>
+        <source>&amp;Borderless</source>
+        <translation>フチなし(&amp;B)</translation>
+    </message>
+    <message>
+        <source>Document Page:</source>
+        <translation>文書のページ:</translation>
+    </message>
+</context>
+<context>
+    <name>PaperSizes</name>
+    <message>
+        <source>%1 × %2 in</source>
+        <translation>%1 × %2 インチ</translation>
+    </message>
+    <message>
+        <source>%1 × %2 mm</source>
+        <translation>%1 × %2 mm</translation>
+    </message>
+</context>
+<context>
     <name>PipeDocuments</name>
     <message>
         <source>There is no room in the temporary folder %1 for the document %2.</source>
@@ -775,6 +842,33 @@
     <message>
         <source>The document %1 is longer than %2 MB, the most that is read from a pipe.</source>
         <translation>文書 %1 は、パイプから読み込める上限の %2 MB を超えています。</translation>
+    </message>
+</context>
+<context>
+    <name>PlacementRows</name>
+    <message>
+        <source>P&amp;ortrait</source>
+        <translation>縦(&amp;O)</translation>
+    </message>
+    <message>
+        <source>Pages that are wider than high are turned to fill the paper.</source>
+        <translation>横長のページは用紙に合わせて回転します。</translation>
+    </message>
+    <message>
+        <source>&amp;Landscape</source>
+        <translation>横(&amp;L)</translation>
+    </message>
+    <message>
+        <source>The paper lies on its side, and every page upright on it.</source>
+        <translation>用紙を横に使い、どのページもその上に正しい向きで印刷します。</translation>
+    </message>
+    <message>
+        <source>Orientation:</source>
+        <translation>向き:</translation>
+    </message>
+    <message>
+        <source>&amp;Scaling:</source>
+        <translation>拡大縮小(&amp;S):</translation>
     </message>
 </context>
 <context>
@@ -1427,6 +1521,65 @@
     <message>
         <source>What was found</source>
         <translation>検索結果</translation>
+    </message>
+</context>
+<context>
+    <name>ScalingSentences</name>
+    <message>
+        <source>Automatic</source>
+        <translation>自動</translation>
+    </message>
+    <message>
+        <source>Actual Size</source>
+        <translation>実際のサイズ</translation>
+    </message>
+    <message>
+        <source>Fit to the Printable Area</source>
+        <translation>印刷可能範囲に収める</translation>
+    </message>
+    <message>
+        <source>Fill the Sheet</source>
+        <translation>用紙いっぱいに広げる</translation>
+    </message>
+    <message>
+        <source>Fill the Printable Area</source>
+        <translation>印刷可能範囲いっぱいに広げる</translation>
+    </message>
+    <message>
+        <source>Pages that are larger than the paper are made just small enough to cover it, and what does not fit is cut off. All others keep their size.</source>
+        <translation>用紙より大きいページは用紙全体を覆う大きさまで縮小し、はみ出す部分は印刷しません。ほかのページは元のサイズのままです。</translation>
+    </message>
+    <message>
+        <source>Pictures that are larger than the printable area are made smaller. All others keep their size.</source>
+        <translation>印刷可能範囲より大きい画像は縮小します。ほかの画像は元のサイズのままです。</translation>
+    </message>
+    <message>
+        <source>Pages that are larger than the paper are made smaller. All others keep their size.</source>
+        <translation>用紙より大きいページは縮小します。ほかのページは元のサイズのままです。</translation>
+    </message>
+    <message>
+        <source>Every page keeps its size, in the middle of the paper. What does not fit is cut off.</source>
+        <translation>どのページも元のサイズのまま用紙の中央に印刷します。はみ出す部分は印刷しません。</translation>
+    </message>
+    <message>
+        <source>Every picture is made as large as fits as a whole. The print server leaves twice the paper&apos;s margins around it; borderless paper has none.</source>
+        <translation>画像全体が収まるいちばん大きいサイズにします。プリントサーバーは画像の周りに用紙の余白の2倍を空けます。フチなし用紙には余白がありません。</translation>
+    </message>
+    <message>
+        <source>Every page is made as large as fits on the paper as a whole.</source>
+        <translation>ページ全体が用紙に収まるいちばん大きいサイズにします。</translation>
+    </message>
+    <message>
+        <source>Every page is made so large that no place stays white. What does not fit is cut off.</source>
+        <translation>用紙に白い部分が残らない大きさにします。はみ出す部分は印刷しません。</translation>
+    </message>
+    <message>
+        <source>Every picture is cut to the shape of the printable area. The print server leaves twice the paper&apos;s margins around it; borderless paper has none.</source>
+        <translation>画像を印刷可能範囲の形に切り抜きます。プリントサーバーは画像の周りに用紙の余白の2倍を空けます。フチなし用紙には余白がありません。</translation>
+    </message>
+    <message>
+        <source>Every page is made so large that only the paper&apos;s margins stay white. What does not fit is cut off.</source>
+        <translation>用紙の余白だけが白く残る大きさにします。はみ出す部分は印刷しません。</translation>
     </message>
 </context>
 <context>

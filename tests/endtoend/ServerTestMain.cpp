@@ -1,4 +1,5 @@
 #include <QtCore/QStandardPaths>
+#include <QtCore/QTemporaryDir>
 #include <QtWidgets/QApplication>
 
 #include <gtest/gtest.h>
@@ -28,9 +29,11 @@ int main(int argc, char **argv)
                    stderr);
         return kSkipped;
     }
-    // The user's own saved queues must not show up in a test.
+    // The user's own saved queues must not show up in a test, and nothing is written among them.
+    const QTemporaryDir home;
     qputenv("CUPS_SERVERROOT", "/nonexistent");
-    qputenv("HOME", "/nonexistent");
+    qputenv("HOME", home.path().toLocal8Bit());
+    qputenv("XDG_CONFIG_HOME", home.path().toLocal8Bit());
     qunsetenv("LPDEST");
     qunsetenv("PRINTER");
     QApplication application(argc, argv);

@@ -31,7 +31,7 @@ protected:
     }
 
     /// "name=value" of every option, in the order of the job.
-    QStringList made() const
+    QStringList allMade() const
     {
         QStringList lines;
         for (const JobOption &option : jobOptions(m_values).options)
@@ -39,13 +39,21 @@ protected:
         return lines;
     }
 
+    /// The same without the automatic scaling, which is of every job that says nothing else.
+    QStringList made() const
+    {
+        QStringList lines = allMade();
+        EXPECT_EQ(lines.removeAll(u"print-scaling=auto"_s), 1);
+        return lines;
+    }
+
     OpenedPPD m_opened;
     JobValues m_values;
 };
 
-TEST_F(JobOptionsOf, AnUntouchedJobAreNone)
+TEST_F(JobOptionsOf, AnUntouchedJobAreItsScalingAlone)
 {
-    EXPECT_EQ(made(), QStringList());
+    EXPECT_EQ(allMade(), QStringList{u"print-scaling=auto"_s});
 }
 
 TEST_F(JobOptionsOf, PicksAreThoseThatDifferFromThePPD)
@@ -57,10 +65,12 @@ TEST_F(JobOptionsOf, PicksAreThoseThatDifferFromThePPD)
 
 TEST_F(JobOptionsOf, TheHostSettingsTravelBesideThem)
 {
-    m_values.settings = {3, u"1-2,5"_s};
+    m_values.settings.copies = 3;
+    m_values.settings.pageRanges = u"1-2,5"_s;
+    m_values.settings.scaling = PrintScaling::Fill;
     m_values.format.orientation = PMOrientation::Landscape;
-    EXPECT_EQ(made(),
-              (QStringList{u"copies=3"_s, u"page-ranges=1-2,5"_s, u"orientation-requested=4"_s}));
+    EXPECT_EQ(allMade(), (QStringList{u"copies=3"_s, u"page-ranges=1-2,5"_s,
+                                      u"print-scaling=fill"_s, u"orientation-requested=4"_s}));
 }
 
 TEST_F(JobOptionsOf, TheTicketTravelsUnderVendorKeysOnly)
@@ -85,11 +95,31 @@ TEST_F(JobOptionsOf, ACustomSizeIsAPageSizeInPoints)
     EXPECT_EQ(made(), QStringList{u"PageSize=Custom.283.46x425.2"_s});
 }
 
-TEST_F(JobOptionsOf, ADocumentScaledToAnotherPaperPrintsOnThatPaper)
+TEST_F(JobOptionsOf, AnUprightPageOnASheetThatLiesIsNotTurnedAgain)
+{
+    m_values.havePages = true;
+    EXPECT_EQ(made(), QStringList());
+    m_values.format.orientation = PMOrientation::Landscape;
+    EXPECT_EQ(made(), (QStringList{u"orientation-requested=4"_s, u"pdfAutoRotate=false"_s}));
+}
+
+TEST_F(JobOptionsOf, APageThatIsMappedToAnotherPaperPrintsOnThatPaper)
 {
     ticket(u"com.apple.print.PageToPaperMappingMediaName"_s, u"A3"_s);
-    EXPECT_EQ(made(),
-              (QStringList{u"PageSize=A3"_s, u"fit-to-page=true"_s, u"print-scaling=fit"_s}));
+    EXPECT_EQ(made(), QStringList{u"PageSize=A3"_s});
+    m_values.format.paper = PMPaper{u"Custom.300x400"_s, QString(), 300, 400};
+    EXPECT_EQ(made(), QStringList{u"PageSize=A3"_s});
+    ticket(u"com.apple.print.PageToPaperMappingMediaName"_s, u"NoSuchPaper"_s);
+    EXPECT_EQ(made(), QStringList{u"PageSize=Custom.300x400"_s});
+}
+
+TEST_F(JobOptionsOf, ASavedScalingIsSentOnce)
+{
+    const SavedSettings saved =
+        applySavedOptions(m_values.ppd, {{u"fit-to-page"_s, u"true"_s}, {u"number-up"_s, u"2"_s}});
+    m_values.settings = saved.settings;
+    m_values.saved = saved.others;
+    EXPECT_EQ(allMade(), (QStringList{u"number-up=2"_s, u"print-scaling=fit"_s}));
 }
 
 TEST_F(JobOptionsOf, SavedSettingsTravelUnlessThePPDHasThem)
@@ -116,7 +146,8 @@ TEST_F(JobOptionsOf, WhatMustNotBeSentIsNamedByItsNameOrItsValue)
     ticket(u"com.velkaro.evil"_s, u"a\nFoomaticRIPCommandLine: b"_s);
     ticket(u"com.velkaro.good"_s, u"x"_s);
     const JobOptions job = jobOptions(m_values);
-    EXPECT_EQ(job.options, (QList<JobOption>{{u"com.velkaro.good"_s, u"x"_s}}));
+    EXPECT_EQ(job.options,
+              (QList<JobOption>{{u"print-scaling"_s, u"auto"_s}, {u"com.velkaro.good"_s, u"x"_s}}));
     EXPECT_EQ(
         job.faults,
         (QStringList{u"The setting \"com.velkaro.bad key\" cannot be sent: a print server may be "

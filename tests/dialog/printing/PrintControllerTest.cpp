@@ -79,10 +79,11 @@ TEST_F(Controller, GoesTheWholeRoadToAFile)
     const Result<QStringList> written = write(job->request);
     ASSERT_TRUE(written) << written.sentence().toStdString();
     EXPECT_EQ(*written, QStringList());
-    EXPECT_EQ(readFile(m_wishes.output), "Velkaro-Print-Job: 1\nTitle: letter.ps\n"
-                                         "Option: PageSize=A5\nOption: Duplex=None\n"
-                                         "Option: Finish=Shiny\nOption: Weight=Light\n"
-                                         "Option: copies=3\nDocument: 5 letter.ps\n\n%!PS\n");
+    EXPECT_EQ(readFile(m_wishes.output),
+              "Velkaro-Print-Job: 1\nTitle: letter.ps\n"
+              "Option: PageSize=A5\nOption: Duplex=None\n"
+              "Option: Finish=Shiny\nOption: Weight=Light\n"
+              "Option: copies=3\nOption: print-scaling=auto\nDocument: 5 letter.ps\n\n%!PS\n");
 }
 
 TEST_F(Controller, MakesAllSettingsAndTellsTheFirstFault)

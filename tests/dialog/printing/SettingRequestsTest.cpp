@@ -49,6 +49,29 @@ TEST_F(Requests, RefuseABadOrientationBeforeItChangesAnything)
     EXPECT_EQ(m_job.orientation(), PMOrientation::Landscape);
 }
 
+TEST_F(Requests, TakeAScalingByItsNameAndByTheWordOfLp)
+{
+    EXPECT_TRUE(make(u"print-scaling"_s, u"fill"_s));
+    EXPECT_EQ(m_job.settings().scaling, PrintScaling::Fill);
+    EXPECT_TRUE(make(u"fit-to-page"_s, u"true"_s));
+    EXPECT_EQ(m_job.settings().scaling, PrintScaling::Fit);
+    const Result<> made = make(u"print-scaling"_s, u"large"_s);
+    EXPECT_EQ(made.faultKind(), FaultKind::Request);
+    EXPECT_EQ(made.sentence(), u"large is no value for print-scaling."_s);
+    EXPECT_EQ(m_job.settings().scaling, PrintScaling::Fit);
+}
+
+TEST_F(Requests, RefuseTwoScalingsWhateverTheyAreCalled)
+{
+    const Result<> made =
+        makeSettings(m_job, {{u"fit-to-page"_s, u"true"_s}, {u"print-scaling"_s, u"fill"_s}});
+    EXPECT_EQ(made.faultKind(), FaultKind::Request);
+    EXPECT_EQ(
+        made.sentence(),
+        u"print-scaling=fit and print-scaling=fill cannot both be had: ask for one of them."_s);
+    EXPECT_EQ(m_job.settings().scaling, PrintScaling::Automatic);
+}
+
 struct OwnSize
 {
     const char *behaviour;

@@ -90,26 +90,23 @@ INSTANTIATE_TEST_SUITE_P(
 
 TEST(CommandLine, TakesEveryOption)
 {
-    const Result<CommandLine> parsed =
-        parseCommandLine({u"-d"_s,          u"photo/glossy"_s,
-                          u"-h"_s,          u"host:8631"_s,
-                          u"--ppd"_s,       u"a.ppd"_s,
-                          u"-o"_s,          u"A=b=c"_s,
-                          u"-oD=e"_s,       u"--paper=Custom.100x150mm"_s,
-                          u"--output"_s,    u"out"_s,
-                          u"--no-dialog"_s, u"--yes"_s,
-                          u"--force"_s,     u"--panel"_s,
-                          u"summary"_s,     u"--record"_s,
-                          u"r"_s,           u"--plug-in"_s,
-                          u"p.bundle"_s,    u"one.pdf"_s,
-                          u"--"_s,          u"-two.pdf"_s});
+    const Result<CommandLine> parsed = parseCommandLine(
+        {u"-d"_s,       u"photo/glossy"_s, u"-h"_s,          u"host:8631"_s,
+         u"--ppd"_s,    u"a.ppd"_s,        u"-o"_s,          u"A=b=c"_s,
+         u"-oD=e"_s,    u"-o"_s,           u"fit-to-page"_s, u"--paper=Custom.100x150mm"_s,
+         u"--output"_s, u"out"_s,          u"--no-dialog"_s, u"--yes"_s,
+         u"--force"_s,  u"--panel"_s,      u"summary"_s,     u"--record"_s,
+         u"r"_s,        u"--plug-in"_s,    u"p.bundle"_s,    u"one.pdf"_s,
+         u"--"_s,       u"-two.pdf"_s});
     ASSERT_TRUE(parsed) << parsed.sentence().toStdString();
     const CommandLine &line = *parsed;
     EXPECT_EQ(line.queue, u"photo"_s);
     EXPECT_EQ(line.instance, u"glossy"_s);
     EXPECT_EQ(line.server, u"host:8631"_s);
     EXPECT_EQ(line.ppd, u"a.ppd"_s);
-    EXPECT_EQ(line.choices, (QList<RequestedChoice>{{u"A"_s, u"b=c"_s}, {u"D"_s, u"e"_s}}));
+    EXPECT_EQ(line.choices,
+              (QList<RequestedChoice>{
+                  {u"A"_s, u"b=c"_s}, {u"D"_s, u"e"_s}, {u"fit-to-page"_s, u"true"_s}}));
     EXPECT_EQ(line.paper, u"Custom.100x150mm"_s);
     EXPECT_EQ(line.output, u"out"_s);
     EXPECT_TRUE(line.noDialog);

@@ -1,4 +1,5 @@
 #include "dialog/host/PPDFile.h"
+#include "dialog/window/PageSetupPane.h"
 #include "dialog/work/BackgroundCall.h"
 #include "platform/foundation/NotificationCenter.h"
 #include "platform/toolkit/KeyWindow.h"
@@ -9,8 +10,10 @@
 #include "tests/support/SmallPrinter.h"
 
 #include <QtCore/QProcess>
+#include <QtWidgets/QComboBox>
 #include <QtWidgets/QDoubleSpinBox>
 #include <QtWidgets/QLineEdit>
+#include <QtWidgets/QListView>
 
 #include <sys/stat.h>
 
@@ -104,19 +107,19 @@ TEST_F(Window, WritesTheJobThatWasPicked)
     open();
     pick("mediaTypePopup", u"Glossy"_s);
     part<QTabWidget>("parts")->setCurrentIndex(0);
-    pick("paperPopup", u"A4.Fullbleed"_s);
-    pick("scalePopup", u"A3"_s);
+    click("borderlessButton");
+    pick("scalingPopup", u"fill"_s);
     click("landscapeButton");
     click("matchByApplicationButton");
     QTest::keyClicks(part<QLineEdit>("pagesField"), u"5, 1-2"_s);
     print();
     EXPECT_TRUE(m_window->outcome()) << notice().toStdString();
     const QByteArray job = written();
-    for (const char *line :
-         {"Option: PageSize=A3\n", "Option: fit-to-page=true\n", "Option: VKMediaType=Glossy\n",
-          "Option: orientation-requested=4\n", "Option: page-ranges=1-2,5\n",
-          "Option: AP_ColorMatchingMode=AP_ApplicationColorMatching\n",
-          "Document: 5 Holiday & <b>.ps\n"})
+    for (const char *line : {"Option: PageSize=A4.Fullbleed\n", "Option: print-scaling=fill\n",
+                             "Option: VKMediaType=Glossy\n", "Option: orientation-requested=4\n",
+                             "Option: page-ranges=1-2,5\n",
+                             "Option: AP_ColorMatchingMode=AP_ApplicationColorMatching\n",
+                             "Document: 5 Holiday & <b>.ps\n"})
         EXPECT_TRUE(job.contains(line)) << line << job.toStdString();
 }
 
@@ -137,6 +140,178 @@ TEST_F(Window, TellsThatThePaperMenuHasSentItsAction)
     pick("paperPopup", u"Custom"_s);
     NotificationCenter::defaultCenter().removeObserver(this);
     EXPECT_EQ(told, (QStringList{u"A3 on A3"_s, u"Custom Size on Custom.842x1191"_s}));
+}
+
+TEST_F(Window, AsksForTheSizeFirstAndThenWhetherToItsEdges)
+{
+    open();
+    part<QTabWidget>("parts")->setCurrentIndex(0);
+    auto *borderless = part<QAbstractButton>("borderlessButton");
+    ASSERT_TRUE(borderless->isVisible());
+    click("borderlessButton");
+    EXPECT_EQ(marked(u"PageSize"_s), u"A4.Fullbleed"_s);
+    EXPECT_EQ(m_window->job().paper()->ppdName, u"A4.Fullbleed"_s);
+    EXPECT_EQ(part<PopUpButton>("paperPopup")->currentText(), u"A4"_s);
+    pick("paperPopup", u"4x6"_s);
+    EXPECT_EQ(marked(u"PageSize"_s), u"4x6.Fullbleed"_s) << "another size stays borderless";
+    EXPECT_TRUE(borderless->isChecked());
+    pick("paperPopup", u"Legal"_s);
+    EXPECT_EQ(marked(u"PageSize"_s), u"Legal"_s) << "which has no borderless form";
+    EXPECT_FALSE(borderless->isVisible());
+    pick("paperPopup", u"A4"_s);
+    EXPECT_EQ(marked(u"PageSize"_s), u"A4"_s);
+    EXPECT_FALSE(borderless->isChecked());
+}
+
+TEST_F(Window, TakesABorderlessPaperBackThatThePrinterRefuses)
+{
+    m_line.ppd = m_folder.filePath(u"clashing.ppd"_s);
+    writeFile(m_line.ppd, sampleText(u"velkaro-px-t900"_s) +
+                              "*UIConstraints: *PageSize A4.Fullbleed *VKMediaType Glossy\n"
+                              "*UIConstraints: *VKMediaType Glossy *PageSize A4.Fullbleed\n");
+    open();
+    pick("mediaTypePopup", u"Glossy"_s);
+    part<QTabWidget>("parts")->setCurrentIndex(0);
+    click("borderlessButton");
+    EXPECT_NE(notice(), QString());
+    EXPECT_FALSE(part<QAbstractButton>("borderlessButton")->isChecked());
+    EXPECT_EQ(marked(u"PageSize"_s), u"A4"_s);
+}
+
+TEST_F(Window, ListsPapersUnderHeadingsThatCannotBePicked)
+{
+    m_line.queue = u"Unused"_s;
+    open();
+    const auto *papers = part<PopUpButton>("paperPopup");
+    QStringList headings;
+    for (int index = 0; index < papers->count(); ++index) {
+        if (papers->representedObject(index).isNull())
+            headings += papers->itemText(index);
+        EXPECT_EQ(papers->isItemEnabled(index), !papers->representedObject(index).isNull());
+    }
+    EXPECT_EQ(headings, (QStringList{u"Standard"_s, u"Photo"_s, u"Envelopes and Cards"_s,
+                                     u"Discs"_s, u"Own Sizes"_s}));
+}
+
+TEST_F(Window, FindsAPaperByWhatIsTyped)
+{
+    const QLocale former;
+    QLocale::setDefault(QLocale(QLocale::German));
+    open();
+    part<QTabWidget>("parts")->setCurrentIndex(0);
+    auto *papers = part<PopUpButton>("paperPopup");
+    papers->setFocus();
+    QTest::keyClicks(papers, u"1"_s);
+    auto *words = part<QLineEdit>("searchField");
+    const auto *rows = part<QListView>("searchRows");
+    words->setFocus();
+    words->selectAll();
+    QTest::keyClicks(words, u"148x210"_s);
+    ASSERT_EQ(rows->model()->rowCount(), 1) << "headings are no finds";
+    QTest::keyClick(words, Qt::Key_Return);
+    EXPECT_EQ(marked(u"PageSize"_s), u"A5"_s);
+    EXPECT_EQ(papers->currentText(), u"A5"_s);
+
+    QTest::keyClicks(papers, u"4x6"_s.left(1));
+    words->clear();
+    EXPECT_TRUE(rows->currentIndex().flags().testFlag(Qt::ItemIsEnabled));
+    const QModelIndex heading = rows->model()->index(0, 0);
+    ASSERT_FALSE(heading.flags().testFlag(Qt::ItemIsEnabled));
+    QTest::mouseClick(rows->viewport(), Qt::LeftButton, {}, rows->visualRect(heading).center());
+    EXPECT_TRUE(rows->isVisible()) << "a heading picks nothing";
+    words->insert(u"4x6"_s);
+    QTest::keyClick(words, Qt::Key_Return);
+    EXPECT_EQ(marked(u"PageSize"_s), u"4x6"_s);
+    QLocale::setDefault(former);
+}
+
+TEST_F(Window, RemembersThePapersThatAPrinterWasPrintedToWith)
+{
+    m_line.queue = u"Remembering"_s;
+    open();
+    part<QTabWidget>("parts")->setCurrentIndex(0);
+    pick("paperPopup", u"A3"_s);
+    print();
+    ASSERT_TRUE(m_window->outcome()) << notice().toStdString();
+    open();
+    const auto *papers = part<PopUpButton>("paperPopup");
+    EXPECT_EQ(papers->itemText(0), u"Used Recently"_s);
+    EXPECT_EQ(papers->representedObject(1), u"A3"_s);
+    EXPECT_EQ(papers->itemText(2), u"Standard"_s);
+    EXPECT_EQ(marked(u"PageSize"_s), u"A4"_s);
+}
+
+TEST_F(Window, KeepsSizesOfTheUsersOwnByTheirNames)
+{
+    open();
+    part<QTabWidget>("parts")->setCurrentIndex(0);
+    auto *papers = part<PopUpButton>("paperPopup");
+    pick("paperPopup", u"Custom"_s);
+    m_window->findChild<QComboBox *>(u"customUnit"_s)->setCurrentIndex(0);
+    part<QDoubleSpinBox>("customWidth")->setValue(100);
+    part<QDoubleSpinBox>("customHeight")->setValue(150);
+    EXPECT_FALSE(part<QAbstractButton>("keepSizeButton")->isEnabled()) << "without a name";
+    QTest::keyClicks(part<QLineEdit>("sizeNameField"), u"Card & <b>"_s);
+    QTest::keyClick(part<QLineEdit>("sizeNameField"), Qt::Key_Return);
+    ASSERT_EQ(m_window->state(), DialogWindow::State::Ready) << "Return keeps the size";
+    const QString own = papers->selectedObject();
+    EXPECT_TRUE(own.startsWith(u"Custom."_s)) << own.toStdString();
+    EXPECT_EQ(papers->currentText(), u"Card & <b>"_s);
+    const QString paper = m_window->job().paper()->name;
+
+    pick("paperPopup", u"A4"_s);
+    EXPECT_FALSE(part<QLineEdit>("sizeNameField")->isVisible());
+    pick("paperPopup", own);
+    EXPECT_EQ(m_window->job().paper()->name, paper);
+    EXPECT_EQ(m_window->job().paper()->ppdName, QString());
+    auto *name = part<QLineEdit>("sizeNameField");
+    EXPECT_EQ(name->text(), u"Card & <b>"_s);
+    name->setText(u"Menu"_s);
+    click("renameSizeButton");
+    EXPECT_EQ(papers->currentText(), u"Menu"_s);
+    EXPECT_EQ(papers->indexOfTitle(u"Card & <b>"_s), -1);
+    click("removeSizeButton");
+    EXPECT_EQ(papers->selectedObject(), u"Custom"_s);
+    EXPECT_EQ(papers->indexOfTitle(u"Menu"_s), -1);
+    EXPECT_EQ(m_window->job().paper()->name, paper);
+}
+
+TEST_F(Window, SaysWhatTheScalingDoesOnThePaperThatIsChosen)
+{
+    open();
+    part<QTabWidget>("parts")->setCurrentIndex(0);
+    pick("scalingPopup", u"fill"_s);
+    auto *scaling = part<PopUpButton>("scalingPopup");
+    const auto *sentence = part<QLabel>("scalingSentence");
+    EXPECT_EQ(scaling->currentText(), u"Fill the Printable Area"_s);
+    EXPECT_EQ(sentence->text(), u"Every page is made so large that only the paper's margins stay "
+                                "white. What does not fit is cut off."_s);
+    click("borderlessButton");
+    EXPECT_EQ(scaling->currentText(), u"Fill the Sheet"_s);
+    EXPECT_EQ(scaling->selectedObject(), u"fill"_s);
+    EXPECT_EQ(sentence->text(), u"Every page is made so large that no place stays white. What does "
+                                "not fit is cut off."_s);
+    const QStringList texts = summary();
+    EXPECT_EQ(texts.value(texts.indexOf(u"Scaling"_s) + 1), u"Fill the Sheet"_s);
+}
+
+TEST_F(Window, ShowsTheSheetThatAPageIsMappedToAsThePaperInThePrinter)
+{
+    open();
+    const PMPaper page = *m_window->job().paper();
+    m_window->job().session()->setPaper(page, u"A5"_s);
+    const QString all = summary().join(u'|');
+    EXPECT_TRUE(all.startsWith(u"Page Setup|Paper in the Printer|A5|Document Page|A4|"_s))
+        << all.toStdString();
+    part<QTabWidget>("parts")->setCurrentIndex(0);
+    part<PageSetupPane>("pageSetupPane")->reload();
+    EXPECT_EQ(part<PopUpButton>("paperPopup")->selectedObject(), u"A5"_s);
+    EXPECT_EQ(part<QLabel>("documentPageLabel")->text(), u"A4"_s);
+    pick("paperPopup", u"A3"_s);
+    EXPECT_FALSE(part<QLabel>("documentPageLabel")->isVisible());
+    EXPECT_EQ(m_window->job().mappedPaper(), QString());
+    print();
+    EXPECT_TRUE(written().contains("Option: PageSize=A3\n"));
 }
 
 TEST_F(Window, TakesNothingFromAPaneThatCannotBeUsed)
@@ -241,9 +416,11 @@ TEST_F(Window, SummarizesTheWholeJob)
     m_line.choices = {{u"VKMediaType"_s, u"Glossy"_s}, {u"copies"_s, u"3"_s}};
     open();
     const QString all = summary().join(u'|');
-    EXPECT_TRUE(all.startsWith(u"Page Setup|Paper|A4|Orientation|Portrait|Copies|3|Pages|All|"
-                               "Two-Sided Printing|Off|Output|Printer|"
-                               "Color Management|By the Printer|Print Settings|"_s))
+    EXPECT_TRUE(
+        all.startsWith(u"Page Setup|Paper in the "
+                       u"Printer|A4|Scaling|Automatic|Orientation|Portrait|Copies|3|Pages|All|"
+                       "Two-Sided Printing|Off|Output|Printer|"
+                       "Color Management|By the Printer|Print Settings|"_s))
         << all.toStdString();
     EXPECT_TRUE(all.endsWith(u"|Also Sent|Blue|0|Brightness|0|Contrast|0|Green|0|Red|0"_s))
         << all.toStdString();

@@ -92,8 +92,9 @@ TEST_P(KeyboardWalk, ComesToAllInReadingOrderAndSaysWhatTheyAreFor)
 INSTANTIATE_TEST_SUITE_P(
     Parts, KeyboardWalk,
     testing::Values(Walk{0,
-                         {u"Page Setup"_s, u"Paper:"_s, u"Portrait"_s, u"Scale to Fit:"_s,
-                          u"Two-Sided Printing:"_s, u"Output:"_s, u"By the Printer"_s}},
+                         {u"Page Setup"_s, u"Paper in the Printer:"_s, u"Borderless"_s,
+                          u"Portrait"_s, u"Scaling:"_s, u"Two-Sided Printing:"_s, u"Output:"_s,
+                          u"By the Printer"_s}},
                     Walk{1,
                          {u"Print Settings"_s, u"Media Type"_s, u"Print Quality"_s, u"Color Mode"_s,
                           u"Paper Thickness"_s, u"Paper Source"_s, u"Section: Advanced Settings"_s,

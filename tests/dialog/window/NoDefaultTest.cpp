@@ -56,8 +56,8 @@ TEST_F(NoDefault, OfAnOptionShowsNothingAndSendsNothing)
     EXPECT_EQ(selected("DuplexPopup"), QString());
     // What the panels have put into the ticket is sent to every printer, and told.
     EXPECT_EQ(summary().mid(0, 9),
-              QStringList({u"Page Setup"_s, u"Paper"_s, u"A4"_s, u"Orientation"_s, u"Portrait"_s,
-                           u"Copies"_s, u"1"_s, u"Pages"_s, u"All"_s}));
+              QStringList({u"Page Setup"_s, u"Paper in the Printer"_s, u"A4"_s, u"Scaling"_s,
+                           u"Automatic"_s, u"Orientation"_s, u"Portrait"_s, u"Copies"_s, u"1"_s}));
     EXPECT_FALSE(summary().contains(u"Two-Sided Printing"_s));
     EXPECT_EQ(printed(u"Duplex"_s), QString());
 }
@@ -76,7 +76,7 @@ TEST_F(NoDefault, OfThePaperShowsNoneAndIsNoCustomSize)
     open(printerWithoutPaperDefault());
     EXPECT_EQ(selected("paperPopup"), QString());
     EXPECT_FALSE(part<QDoubleSpinBox>("customWidth")->isVisible());
-    EXPECT_FALSE(summary().contains(u"Paper"_s));
+    EXPECT_FALSE(summary().contains(u"Paper in the Printer"_s));
     EXPECT_TRUE(part<QAbstractButton>("printButton")->isEnabled());
     EXPECT_EQ(printed(u"PageSize"_s), QString());
 }
@@ -92,11 +92,11 @@ TEST_F(NoDefault, OfThePaperLetsAPaperBePicked)
 TEST_F(NoDefault, OfThePaperStaysNoneWhereTheDocumentIsScaled)
 {
     open(printerWithoutPaperDefault());
-    pick("scalePopup", u"A3"_s);
+    pick("scalingPopup", u"fit"_s);
     const QStringList lines = summary();
-    EXPECT_FALSE(lines.contains(u"Paper"_s)) << qPrintable(lines.join(u'|'));
-    EXPECT_TRUE(lines.contains(u"Scaled to Fit"_s));
-    EXPECT_EQ(printed(u"PageSize"_s), u"A3"_s);
+    EXPECT_FALSE(lines.contains(u"Paper in the Printer"_s)) << qPrintable(lines.join(u'|'));
+    EXPECT_EQ(lines.value(lines.indexOf(u"Scaling"_s) + 1), u"Fit to the Printable Area"_s);
+    EXPECT_EQ(printed(u"PageSize"_s), QString());
 }
 
 TEST_F(NoDefault, OfThePaperComesBackWhereAPickIsRefused)

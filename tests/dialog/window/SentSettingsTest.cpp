@@ -43,8 +43,8 @@ protected:
         return lines;
     }
 
-    /// The options of the job, "name=value", without the printer's defaults and those of the
-    /// panels' ticket.
+    /// The options of the job, "name=value", without the printer's defaults, those of the panels'
+    /// ticket, and the scaling, which every job has.
     QStringList sent()
     {
         print();
@@ -53,6 +53,7 @@ protected:
         for (const QByteArray &line : written().split('\n'))
             if (line.startsWith("Option: ") && !line.contains("com.velkaro."))
                 options += QString::fromUtf8(line.mid(8));
+        EXPECT_EQ(options.removeAll(u"print-scaling=auto"_s), 1);
         for (const PPDMark &mark : m_defaults)
             options.removeAll(mark.keyword + u'=' + mark.choice);
         return options;
