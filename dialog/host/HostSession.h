@@ -123,6 +123,9 @@ public:
     /// when it says nothing of the key.
     QString keywordOfTicketKey(const QString &key) const;
 
+    /// The PPD keywords that title a value of the ticket: a panel has a control for that.
+    QStringList titledKeywords() const;
+
     /// The numbers that the sliders of the panels take, as the plug-in says; none when it does not.
     std::optional<SliderRange> sliderRange() const;
 

@@ -5,10 +5,13 @@
 #include <QtCore/QList>
 #include <QtCore/QString>
 
-/// A choice that is marked.
+/// What is marked of an option.
 struct PPDMark
 {
     QString keyword;
+    /// The choice. Of an option that lets several be chosen, those that are marked, with commas
+    /// between them ("Staple,Punch"); of a value of the user's own the choice that stands for it
+    /// (customChoice()).
     QString choice;
 
     bool operator==(const PPDMark &) const = default;
@@ -27,5 +30,6 @@ QList<PPDMark> changedMarks(ppd_file_t *ppd, const QList<PPDMark> &before);
 /// earlier marks stand and the answer is false.
 bool markChoice(ppd_file_t *ppd, const QString &keyword, const QString &choice);
 
-/// The same, whatever it conflicts with. False without such an option or choice.
+/// The same, whatever it conflicts with, and for all that a PPDMark holds: also several choices,
+/// and values of the user's own within the PPD's limits. False without such an option or choice.
 bool forceChoice(ppd_file_t *ppd, const QString &keyword, const QString &choice);

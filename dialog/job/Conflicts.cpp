@@ -1,5 +1,6 @@
 #include "dialog/job/Conflicts.h"
 
+#include "dialog/job/FeatureTexts.h"
 #include "platform/ppd/PPDText.h"
 #include "platform/toolkit/PlainText.h"
 
@@ -21,10 +22,9 @@ QString quotedList(const QStringList &texts)
 
 QString choiceText(ppd_file_t *ppd, const QString &keyword, const QString &choice)
 {
-    ppd_option_t *option = findOption(ppd, keyword);
-    const ppd_choice_t *found = findChoice(option, choice);
+    const ppd_option_t *option = findOption(ppd, keyword);
     return QStringLiteral("%1: %2").arg(displayText(option ? ppdText(option->text) : keyword),
-                                        displayText(found ? ppdText(found->text) : choice));
+                                        valueText(ppd, keyword, choice));
 }
 
 QStringList clashesWith(ppd_file_t *ppd, const QString &keyword, const QString &choice)

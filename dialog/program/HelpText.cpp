@@ -31,8 +31,8 @@ Job
 Looking and testing
       --screenshot FILE.png
                           paint the dialog into a picture instead of showing it
-      --panel NAME        show this part first: setup, print, color or
-                          summary; in a picture, this part alone
+      --panel NAME        show this part first: setup, print, color,
+                          features or summary; in a picture, this part alone
       --record SCRIPT     note the session in a script
       --replay SCRIPT     run a session from a script (-: standard input)
                           and print what happens, a line of JSON an event

@@ -1,5 +1,7 @@
 #include "dialog/job/Papers.h"
+#include "dialog/printing/FeaturePicks.h"
 #include "dialog/window/DialogWindow.h"
+#include "dialog/window/FeaturesPane.h"
 #include "dialog/window/PageSetupPane.h"
 #include "dialog/window/PanelPane.h"
 #include "dialog/window/SentSettings.h"
@@ -22,6 +24,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr auto kPageSetup = "setup"_L1;
+constexpr auto kFeatures = "features"_L1;
 constexpr auto kSummary = "summary"_L1;
 
 /// Whether the panel has anything to show for this PPD.
@@ -55,6 +58,10 @@ void DialogWindow::buildParts()
             m_parts.push_back({panel.name, pane, &panel});
             m_tabs->addTab(pane, tabTitle(panel.panel->panelName()));
         }
+    if (!featuresOf(job()).isEmpty()) {
+        m_parts.push_back({kFeatures, m_features, nullptr});
+        m_tabs->addTab(m_features, tr("Printer Features"));
+    }
     m_parts.push_back({kSummary, m_summary, nullptr});
     giveAccessibleName(m_summary, tr("Summary"));
     m_tabs->addTab(m_summary, tr("Summary"));
@@ -67,7 +74,8 @@ void DialogWindow::removeParts()
 {
     const QSignalBlocker quiet(m_tabs);
     m_shownPanel = nullptr;
-    m_tabs->clear(); // the pages themselves stay
+    m_tabs->clear();     // the pages themselves stay
+    m_features->clear(); // before its PPD goes
     for (const Part &part : m_parts)
         if (part.panel)
             delete part.page; // gives the view back to its panel
@@ -108,10 +116,13 @@ void DialogWindow::changePart()
         static_cast<PanelPane *>(part->page)->setView(view);
         m_viewIsMissing = !view;
     }
+    if (part->page == m_features)
+        m_features->reload();
     if (part->page == m_summary)
         m_summary->setSections(summarySections());
     moveButtonsLast();
-    if (m_viewIsMissing || wasMissing || !m_pageSetup->isAcceptable())
+    if (m_viewIsMissing || wasMissing || !m_pageSetup->isAcceptable() ||
+        !m_features->isAcceptable())
         tellStanding();
     fitToPart();
 }

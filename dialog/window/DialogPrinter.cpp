@@ -98,11 +98,6 @@ DialogWindow::Notice DialogWindow::whatIsMissing() const
     using Kind = NoticeBar::Kind;
     if (!m_shortcomings.isEmpty())
         return {Kind::Warning, m_shortcomings.constFirst().sentence};
-    const bool hasPanels =
-        std::ranges::any_of(m_parts, [](const Part &part) { return part.panel; });
-    if (job().session() && !hasPanels)
-        return {Kind::Information, tr("This printer has none of the settings that the panels are "
-                                      "for. It prints with the settings of this dialog alone.")};
     if (!m_documentState)
         return {Kind::Error, m_documentState.sentence()};
     if (hasPipes(job().documents()))

@@ -1,6 +1,7 @@
 #include "dialog/window/DialogWindow.h"
 
 #include "dialog/job/PipeDocuments.h"
+#include "dialog/window/FeaturesPane.h"
 #include "dialog/window/HostHelp.h"
 #include "dialog/window/JobHeader.h"
 #include "dialog/window/PageSetupPane.h"
@@ -67,6 +68,8 @@ void DialogWindow::buildLayout()
     m_tabs = new QTabWidget(this);
     m_tabs->setObjectName(u"parts"_s);
     m_pageSetup = new PageSetupPane(job());
+    m_features = new FeaturesPane(job(), this);
+    m_features->hide(); // a tab only where there is something to show
     m_summary = new SummaryPane;
     auto *layout = new QVBoxLayout(this);
     layout->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
@@ -82,6 +85,9 @@ void DialogWindow::buildLayout()
     connect(m_header, &JobHeader::changed, this, &DialogWindow::tellStanding);
     connect(m_pageSetup, &PageSetupPane::changed, this, &DialogWindow::tellStanding);
     connect(m_pageSetup, &PageSetupPane::refused, this,
+            [this](const QString &sentence) { tell(NoticeBar::Kind::Warning, sentence); });
+    connect(m_features, &FeaturesPane::changed, this, &DialogWindow::tellStanding);
+    connect(m_features, &FeaturesPane::refused, this,
             [this](const QString &sentence) { tell(NoticeBar::Kind::Warning, sentence); });
     connect(m_header->printers(), &PrinterPopUp::picked, this, [this](const QueueName &queue) {
         // One that could not be reached may be tried again.
@@ -149,7 +155,7 @@ void DialogWindow::setState(State state)
 bool DialogWindow::mayPrint() const
 {
     return m_state == State::Ready && !job().documents().empty() && !hasPipes(job().documents()) &&
-           m_header->isAcceptable() && m_pageSetup->isAcceptable();
+           m_header->isAcceptable() && m_pageSetup->isAcceptable() && m_features->isAcceptable();
 }
 
 void DialogWindow::updateButtons()
@@ -167,7 +173,9 @@ void DialogWindow::tell(NoticeBar::Kind kind, const QString &sentence)
 /// Shows what is still true, in place of what was news.
 void DialogWindow::tellStanding()
 {
-    const bool hidesFault = !m_pageSetup->isAcceptable() && m_tabs->currentWidget() != m_pageSetup;
+    const QWidget *shown = m_tabs->currentWidget();
+    const bool hidesFault = !m_pageSetup->isAcceptable() && shown != m_pageSetup;
+    const bool hidesFeature = !m_features->isAcceptable() && shown != m_features;
     if (m_viewIsMissing)
         tell(NoticeBar::Kind::Error,
              tr("The settings of this panel cannot be shown: a part of the plug-in is "
@@ -176,6 +184,9 @@ void DialogWindow::tellStanding()
         tell(NoticeBar::Kind::Warning,
              tr("The printer cannot take the paper size in Page Setup. Correct it there "
                 "to print."));
+    else if (hidesFeature)
+        tell(NoticeBar::Kind::Warning, tr("A value in Printer Features cannot be used. Correct it "
+                                          "there to print."));
     else if (m_standing.sentence.isNull())
         m_notice->clear();
     else

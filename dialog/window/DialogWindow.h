@@ -10,6 +10,7 @@
 
 #include <vector>
 
+class FeaturesPane;
 class JobHeader;
 class PageSetupPane;
 class PanelPane;
@@ -171,6 +172,7 @@ private:
     ProgressStrip *m_progress;
     QTabWidget *m_tabs;
     PageSetupPane *m_pageSetup;
+    FeaturesPane *m_features;
     SummaryPane *m_summary;
     QPushButton *m_help = nullptr;
     QPushButton *m_save = nullptr;

@@ -1,5 +1,6 @@
 #include "dialog/window/SentSettings.h"
 
+#include "dialog/job/FeatureTexts.h"
 #include "dialog/job/Papers.h"
 #include "dialog/job/StandardAttributes.h"
 #include "platform/pde/PDESummary.h"
@@ -76,10 +77,9 @@ QList<JobOption> sentOptions(const PrintJob &job)
 SummarySection::Line lineOf(const PrintJob &job, const JobOption &option)
 {
     ppd_option_t *named = optionOf(job, option.name);
-    const ppd_choice_t *choice = findChoice(named, option.value);
     const QString title = named ? ppdText(named->text) : QString();
-    const QString value = choice ? ppdText(choice->text) : QString();
-    return {title.isEmpty() ? option.name : title, value.isEmpty() ? option.value : value};
+    const QString keyword = named ? ppdName(named->keyword) : QString();
+    return {title.isEmpty() ? option.name : title, valueText(job.ppd(), keyword, option.value)};
 }
 
 } // namespace

@@ -102,6 +102,17 @@
     </message>
 </context>
 <context>
+    <name>CustomValueFields</name>
+    <message>
+        <source>%1:</source>
+        <translation>%1:</translation>
+    </message>
+    <message>
+        <source> pt</source>
+        <translation> pt</translation>
+    </message>
+</context>
+<context>
     <name>DialogCommand</name>
     <message>
         <source>There is no display for the dialog; --no-dialog prints without it.</source>
@@ -215,10 +226,6 @@
         <translation>%1 という設定画面はありません。</translation>
     </message>
     <message>
-        <source>This printer has none of the settings that the panels are for. It prints with the settings of this dialog alone.</source>
-        <translation>このプリンターには専用の設定項目がありません。この画面の設定だけで印刷します。</translation>
-    </message>
-    <message>
         <source>Choose a document to print.</source>
         <translation>印刷する文書を選んでください。</translation>
     </message>
@@ -278,6 +285,14 @@
         <source>Replace</source>
         <translation>置き換え</translation>
     </message>
+    <message>
+        <source>Printer Features</source>
+        <translation>プリンターの機能</translation>
+    </message>
+    <message>
+        <source>A value in Printer Features cannot be used. Correct it there to print.</source>
+        <translation>「プリンターの機能」に使えない値があります。印刷するには直してください。</translation>
+    </message>
 </context>
 <context>
     <name>Document</name>
@@ -323,6 +338,67 @@
     <message>
         <source>Standard input</source>
         <translation>標準入力</translation>
+    </message>
+</context>
+<context>
+    <name>FeaturePicks</name>
+    <message>
+        <source>&quot;%1&quot; needs at least one choice.</source>
+        <translation>「%1」では少なくとも 1 つを選んでください。</translation>
+    </message>
+    <message>
+        <source>The printer does not take &quot;%1: %2&quot;.</source>
+        <translation>このプリンターでは「%1: %2」を設定できません。</translation>
+    </message>
+</context>
+<context>
+    <name>FeatureTexts</name>
+    <message>
+        <source>, </source>
+        <translation>、</translation>
+    </message>
+    <message>
+        <source>%1 %2</source>
+        <translation>%1 %2</translation>
+    </message>
+    <message>
+        <source>%1 is a number.</source>
+        <translation>%1 には数値を入力してください。</translation>
+    </message>
+    <message>
+        <source>%1 is at least %2.</source>
+        <translation>%1 は %2 以上にしてください。</translation>
+    </message>
+    <message>
+        <source>%1 is at most %2.</source>
+        <translation>%1 は %2 以下にしてください。</translation>
+    </message>
+    <message>
+        <source>%1 has at least %2 characters.</source>
+        <translation>%1 は %2 文字以上にしてください。</translation>
+    </message>
+    <message>
+        <source>%1 has at most %2 characters.</source>
+        <translation>%1 は %2 文字以内にしてください。</translation>
+    </message>
+    <message>
+        <source>%1 consists of digits.</source>
+        <translation>%1 には数字だけを入力してください。</translation>
+    </message>
+</context>
+<context>
+    <name>FeaturesPane</name>
+    <message>
+        <source>%1:</source>
+        <translation>%1:</translation>
+    </message>
+    <message>
+        <source>Installed in the Printer</source>
+        <translation>プリンターの装備</translation>
+    </message>
+    <message>
+        <source>What the printer has been fitted with. It is set when the printer is set up, for everybody, and can only be looked at here.</source>
+        <translation>プリンターに取り付けられている装備です。プリンターの導入時に全員共通で設定されるもので、ここでは確認だけができます。</translation>
     </message>
 </context>
 <context>
