@@ -4,12 +4,12 @@
 
 run:
 	@packaging/install-packages run
-	@cmake --preset release -D VELKARO_TESTS=OFF
+	@cmake --preset release -D VELKARO_TESTS=OFF -D CMAKE_UNITY_BUILD=ON
 	@cmake --build --preset release
 	@packaging/run-sample build/release
 
 test:
 	@packaging/install-packages run test
-	@cmake --preset debug
+	@cmake --preset debug -D CMAKE_UNITY_BUILD=ON
 	@cmake --build --preset debug
 	@ctest --preset debug

@@ -15,8 +15,6 @@
 
 #include <cstdlib>
 
-using enum ExitStatus;
-
 namespace {
 
 // The threads of calls that were given up may wait for a name server; nobody wants to.
@@ -35,16 +33,18 @@ ExitStatus runDialog(const CommandLine &line)
     const EndSignals signals([&window] { window.end(); });
     QApplication::exec();
     window.closePrinter(); // is noted, too
-    return recording.finish(window.outcome() ? Done : statusOf(window.outcome().fault().kind));
+    return recording.finish(window.outcome() ? ExitStatus::Done
+                                             : statusOf(window.outcome().fault().kind));
 }
 
 // The toolkit would advise to install the program again, and abort.
 [[noreturn]] void refuseToShow()
 {
     installTranslations();
-    std::_Exit(exitCode(failWith(
-        Usage, QCoreApplication::translate("DialogCommand", "There is no display for the dialog; "
-                                                            "--no-dialog prints without it."))));
+    std::_Exit(exitCode(
+        failWith(ExitStatus::Usage,
+                 QCoreApplication::translate("DialogCommand", "There is no display for the dialog; "
+                                                              "--no-dialog prints without it."))));
 }
 
 ExitStatus run(const CommandLine &line)

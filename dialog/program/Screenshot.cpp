@@ -8,8 +8,6 @@
 #include <QtGui/QPixmap>
 #include <QtWidgets/QApplication>
 
-using enum ExitStatus;
-
 namespace {
 
 void waitForPrinter(DialogWindow &window)
@@ -45,7 +43,7 @@ ExitStatus write(const QPixmap &painted, const CommandLine &line)
     const Result<> written = file.open(line.screenshot, outputTerms(line))
                                  .andThen([&] { return file.write(png.data()); })
                                  .andThen([&] { return file.commit(); });
-    return written ? Done : failWith(written.fault());
+    return written ? ExitStatus::Done : failWith(written.fault());
 }
 
 } // namespace
@@ -61,7 +59,7 @@ ExitStatus takeScreenshot(const CommandLine &line)
     waitForPrinter(window);
     if (!window.printerState()) {
         const Fault &fault = window.printerState().fault();
-        return fault.kind == FaultKind::NoPrinter ? failWith(Server, fault.sentence)
+        return fault.kind == FaultKind::NoPrinter ? failWith(ExitStatus::Server, fault.sentence)
                                                   : failWith(fault);
     }
     if (!window.settingState())

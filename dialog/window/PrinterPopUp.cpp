@@ -13,7 +13,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int kContentsLength = 30;
+constexpr int kPrinterLength = 30;
 
 /// The queue in one text, as -d takes it. Names of queues hold no slash.
 QString keyOf(const QueueName &name)
@@ -36,7 +36,7 @@ PrinterPopUp::PrinterPopUp(QWidget *parent)
     : QWidget(parent), m_popup(new PopUpButton(this)), m_state(newPlainLabel(QString(), this))
 {
     m_popup->setObjectName(u"printerPopup"_s);
-    m_popup->setMinimumContentsLength(kContentsLength);
+    m_popup->setMinimumContentsLength(kPrinterLength);
     m_state->setObjectName(u"printerState"_s);
     auto *layout = new QHBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);

@@ -9,7 +9,7 @@
 
 namespace {
 
-constexpr int kMargin = 16;
+constexpr int kSummaryMargin = 16;
 constexpr int kLineSpacing = 4;
 constexpr int kSectionSpacing = 12;
 
@@ -56,8 +56,8 @@ void SummaryPane::setSections(const QList<SummarySection> &sections)
     auto *page = new QWidget;
     page->setAutoFillBackground(false);
     auto *grid = new QGridLayout(page);
-    grid->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
-    grid->setHorizontalSpacing(kMargin);
+    grid->setContentsMargins(kSummaryMargin, kSummaryMargin, kSummaryMargin, kSummaryMargin);
+    grid->setHorizontalSpacing(kSummaryMargin);
     grid->setVerticalSpacing(kLineSpacing);
     grid->setColumnStretch(0, 2);
     grid->setColumnStretch(1, 3);

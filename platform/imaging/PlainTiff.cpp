@@ -11,7 +11,7 @@
 namespace {
 
 // The tags that say how the pixels lie, by their numbers in the format.
-enum Tag : quint16 {
+enum TiffTag : quint16 {
     ImageWidth = 256,
     ImageLength = 257,
     BitsPerSample = 258,
@@ -105,7 +105,7 @@ bool isTiff(const QByteArray &file)
 // What a plain file says, or leaves to the default.
 bool isPlain(const Directory &directory)
 {
-    const auto is = [&](Tag tag, quint32 value) {
+    const auto is = [&](TiffTag tag, quint32 value) {
         return !directory.contains(tag) || directory.value(tag) == Values{value};
     };
     const Values samples = directory.value(SamplesPerPixel);
@@ -134,7 +134,7 @@ struct Layout
 // None when the strips do not make up the picture.
 std::optional<Layout> layoutOf(const Directory &directory)
 {
-    const auto single = [&](Tag tag) {
+    const auto single = [&](TiffTag tag) {
         const Values values = directory.value(tag);
         return values.size() == 1 ? qint64(values.constFirst()) : 0;
     };

@@ -6,7 +6,7 @@
 
 namespace {
 
-constexpr CIColor kWhite{1.0, 1.0, 1.0, 1.0};
+constexpr CIColor kPaperWhite{1.0, 1.0, 1.0, 1.0};
 
 Image picture(QImage::Format format, QSize size = {300, 200})
 {
@@ -33,10 +33,11 @@ TEST(ImageExtent, IsThePicturesRectangle)
 TEST(Recipes, AreMadeWithoutLookingAtThePixels)
 {
     const Image image = picture(QImage::Format_RGB32, {2000, 1000});
-    chained(image, {controlsLink(1, 0.1, 1.1), monoLink(kWhite, 1)}); // the filters' own first use
+    chained(image,
+            {controlsLink(1, 0.1, 1.1), monoLink(kPaperWhite, 1)}); // the filters' own first use
 
     const AllocationCounter counter;
-    const Image output = chained(image, {controlsLink(1, 0.1, 1.1), monoLink(kWhite, 1)});
+    const Image output = chained(image, {controlsLink(1, 0.1, 1.1), monoLink(kPaperWhite, 1)});
 
     EXPECT_EQ(output->extent(), image->extent());
     EXPECT_LT(counter.bytes(), 20'000U);
@@ -77,7 +78,8 @@ INSTANTIATE_TEST_SUITE_P(
     testing::Values(
         RepeatCase{"Colour", QImage::Format_RGB32, {controlsLink(1, 0.1, 1.1)}},
         RepeatCase{"ColourWithAlpha", QImage::Format_ARGB32, {gainsLink(1.1, 1, 0.9)}},
-        RepeatCase{"Mono", QImage::Format_RGB32, {controlsLink(1, 0.1, 1.1), monoLink(kWhite, 1)}},
+        RepeatCase{
+            "Mono", QImage::Format_RGB32, {controlsLink(1, 0.1, 1.1), monoLink(kPaperWhite, 1)}},
         RepeatCase{"MixedChannels", QImage::Format_RGB32, {controlsLink(1.5, 0.1, 1.1)}},
         RepeatCase{"SixteenBits", QImage::Format_RGBA64, {controlsLink(1, 0.1, 1.1)}}),
     [](const auto &test) { return test.param.name; });
@@ -147,7 +149,7 @@ TEST(DrawnPicture, OfEveryWidthHasItsLastPixel)
         EXPECT_EQ(drawn(CIImage::imageWithPicture(source)), source) << width;
         const QImage grey =
             drawn(chained(CIImage::imageWithPicture(source.convertedTo(QImage::Format_RGB32)),
-                          {monoLink(kWhite, 1)}));
+                          {monoLink(kPaperWhite, 1)}));
         EXPECT_TRUE(grey.isGrayscale()) << width;
         EXPECT_EQ(grey.width(), width);
     }

@@ -44,7 +44,7 @@ TEST_P(Listed, AChoiceOfAPopUp)
 
 INSTANTIATE_TEST_SUITE_P(Cases, Listed, testing::ValuesIn(kListedCases), CaseName());
 
-struct BoxCase
+struct ValueCase
 {
     const char *behaviour;
     QString keyword;
@@ -52,10 +52,10 @@ struct BoxCase
     QString value;
 };
 
-class BoxValue : public testing::TestWithParam<BoxCase>
+class BoxValue : public testing::TestWithParam<ValueCase>
 {};
 
-const BoxCase kBoxCases[] = {
+const ValueCase kValueCases[] = {
     {"On", u"VKBiDir"_s, true, u"ON"_s},         {"Off", u"VKBiDir"_s, false, u"OFF"_s},
     {"True", u"MirrorPrint"_s, true, u"True"_s}, {"False", u"MirrorPrint"_s, false, u"False"_s},
     {"NoKeyword", QString(), true, u"ON"_s},
@@ -67,7 +67,7 @@ TEST_P(BoxValue, OfACheckBox)
     EXPECT_EQ(isCheckedValue(GetParam().value), GetParam().checked);
 }
 
-INSTANTIATE_TEST_SUITE_P(Cases, BoxValue, testing::ValuesIn(kBoxCases), CaseName());
+INSTANTIATE_TEST_SUITE_P(Cases, BoxValue, testing::ValuesIn(kValueCases), CaseName());
 
 struct TicketCase
 {

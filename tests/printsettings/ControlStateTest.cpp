@@ -61,17 +61,17 @@ TEST_P(ControlState, Changes)
     EXPECT_EQ(log(), QStringList());
 }
 
-const QString kMedia = u"mediaTypePopup"_s;
-const QString kQuality = u"resolutionPopup"_s;
-const QString kFeed = u"paperFeedPopup"_s;
-const QString kColor = u"monoColorPopup"_s;
+const QString kMediaPopup = u"mediaTypePopup"_s;
+const QString kQualityPopup = u"resolutionPopup"_s;
+const QString kFeedPopup = u"paperFeedPopup"_s;
+const QString kColorPopup = u"monoColorPopup"_s;
 const QString kDiscQualities = u"DiscNormal* DiscSlow"_s;
 
 INSTANTIATE_TEST_SUITE_P(
     Media, ControlState,
     testing::Values(
         ChangeState{u"disabling others keeps the selection"_s,
-                    kMedia,
+                    kMediaPopup,
                     u"Glossy"_s,
                     {},
                     false,
@@ -82,7 +82,7 @@ INSTANTIATE_TEST_SUITE_P(
                     "HagakiAtena HagakiUra Transparencies PrintableDisc GlossyPrintableDisc"_s,
                     {}},
         ChangeState{u"a selection that becomes disabled moves to plain paper"_s,
-                    kMedia,
+                    kMediaPopup,
                     u"Glossy"_s,
                     {},
                     false,
@@ -93,7 +93,7 @@ INSTANTIATE_TEST_SUITE_P(
                     "HagakiAtena HagakiUra Transparencies PrintableDisc GlossyPrintableDisc"_s,
                     {}},
         ChangeState{u"disabling with a default moves an enabled selection"_s,
-                    kMedia,
+                    kMediaPopup,
                     u"Glossy"_s,
                     {},
                     false,
@@ -104,7 +104,7 @@ INSTANTIATE_TEST_SUITE_P(
                     "HagakiAtena HagakiUra Transparencies PrintableDisc GlossyPrintableDisc"_s,
                     {}},
         ChangeState{u"enabling with a default selects plain paper whatever is selected"_s,
-                    kMedia,
+                    kMediaPopup,
                     u"Glossy"_s,
                     {},
                     false,
@@ -115,7 +115,7 @@ INSTANTIATE_TEST_SUITE_P(
                     "HagakiAtena HagakiUra Transparencies PrintableDisc GlossyPrintableDisc"_s,
                     {}},
         ChangeState{u"enabling leaves items outside the list as they are"_s,
-                    kMedia,
+                    kMediaPopup,
                     u"Plain"_s,
                     u"Glossy Inkjet"_s,
                     false,
@@ -126,7 +126,7 @@ INSTANTIATE_TEST_SUITE_P(
                     "HagakiAtena HagakiUra Transparencies PrintableDisc GlossyPrintableDisc"_s,
                     {}},
         ChangeState{u"a disabled item stays selected where it is the default itself"_s,
-                    kMedia,
+                    kMediaPopup,
                     u"Plain"_s,
                     {},
                     false,
@@ -137,7 +137,7 @@ INSTANTIATE_TEST_SUITE_P(
                     "HagakiAtena HagakiUra Transparencies PrintableDisc GlossyPrintableDisc"_s,
                     {}},
         ChangeState{u"the default is selected even when it is disabled"_s,
-                    kMedia,
+                    kMediaPopup,
                     u"Glossy"_s,
                     u"Plain"_s,
                     false,
@@ -148,7 +148,7 @@ INSTANTIATE_TEST_SUITE_P(
                     "HagakiAtena HagakiUra Transparencies PrintableDisc GlossyPrintableDisc"_s,
                     {}},
         ChangeState{u"on a disc the default is the disc with its qualities"_s,
-                    kMedia,
+                    kMediaPopup,
                     u"Glossy"_s,
                     {},
                     true,
@@ -159,7 +159,7 @@ INSTANTIATE_TEST_SUITE_P(
                     "HagakiAtena HagakiUra Transparencies PrintableDisc* GlossyPrintableDisc"_s,
                     kDiscQualities},
         ChangeState{u"on a disc a disabled selection moves to the disc"_s,
-                    kMedia,
+                    kMediaPopup,
                     u"Glossy"_s,
                     {},
                     true,
@@ -170,7 +170,7 @@ INSTANTIATE_TEST_SUITE_P(
                     "HagakiAtena HagakiUra Transparencies PrintableDisc* GlossyPrintableDisc"_s,
                     kDiscQualities},
         ChangeState{u"on a disc an enabled selection stays"_s,
-                    kMedia,
+                    kMediaPopup,
                     u"GlossyPrintableDisc"_s,
                     {},
                     true,
@@ -184,7 +184,7 @@ INSTANTIATE_TEST_SUITE_P(
 INSTANTIATE_TEST_SUITE_P(
     Qualities, ControlState,
     testing::Values(ChangeState{u"enabling leaves exactly the list"_s,
-                                kQuality,
+                                kQualityPopup,
                                 u"High"_s,
                                 {},
                                 false,
@@ -194,7 +194,7 @@ INSTANTIATE_TEST_SUITE_P(
                                 u"PlainFast* PlainNormal Best"_s,
                                 {}},
                     ChangeState{u"enabling with a default selects the medium's"_s,
-                                kQuality,
+                                kQualityPopup,
                                 u"High"_s,
                                 {},
                                 false,
@@ -204,7 +204,7 @@ INSTANTIATE_TEST_SUITE_P(
                                 u"PlainFast PlainNormal* Best"_s,
                                 {}},
                     ChangeState{u"a default that is not in the list leaves the first item"_s,
-                                kQuality,
+                                kQualityPopup,
                                 u"High"_s,
                                 {},
                                 false,
@@ -214,7 +214,7 @@ INSTANTIATE_TEST_SUITE_P(
                                 u"Fast* Photo Best"_s,
                                 {}},
                     ChangeState{u"names without a title are passed over"_s,
-                                kQuality,
+                                kQualityPopup,
                                 u"High"_s,
                                 {},
                                 false,
@@ -224,7 +224,7 @@ INSTANTIATE_TEST_SUITE_P(
                                 u"Best PlainNormal*"_s,
                                 {}},
                     ChangeState{u"nothing is left of names without a title"_s,
-                                kQuality,
+                                kQualityPopup,
                                 u"High"_s,
                                 {},
                                 false,
@@ -234,7 +234,7 @@ INSTANTIATE_TEST_SUITE_P(
                                 u""_s,
                                 {}},
                     ChangeState{u"disabling keeps an enabled selection"_s,
-                                kQuality,
+                                kQualityPopup,
                                 u"High"_s,
                                 {},
                                 false,
@@ -244,7 +244,7 @@ INSTANTIATE_TEST_SUITE_P(
                                 u"-PlainFast PlainNormal High* Best"_s,
                                 {}},
                     ChangeState{u"disabling moves a disabled selection to the default"_s,
-                                kQuality,
+                                kQualityPopup,
                                 u"High"_s,
                                 {},
                                 false,
@@ -254,7 +254,7 @@ INSTANTIATE_TEST_SUITE_P(
                                 u"PlainFast PlainNormal* -High Best"_s,
                                 {}},
                     ChangeState{u"disabling with a default selects it"_s,
-                                kQuality,
+                                kQualityPopup,
                                 u"High"_s,
                                 {},
                                 false,
@@ -264,7 +264,7 @@ INSTANTIATE_TEST_SUITE_P(
                                 u"-PlainFast PlainNormal* High Best"_s,
                                 {}},
                     ChangeState{u"the default is selected though it is disabled"_s,
-                                kQuality,
+                                kQualityPopup,
                                 u"High"_s,
                                 {},
                                 false,
@@ -274,7 +274,7 @@ INSTANTIATE_TEST_SUITE_P(
                                 u"PlainFast -PlainNormal* -High Best"_s,
                                 {}},
                     ChangeState{u"on a disc likewise"_s,
-                                kQuality,
+                                kQualityPopup,
                                 u"High"_s,
                                 {},
                                 true,
@@ -287,7 +287,7 @@ INSTANTIATE_TEST_SUITE_P(
 INSTANTIATE_TEST_SUITE_P(
     Feed, ControlState,
     testing::Values(ChangeState{u"enabling leaves the other items"_s,
-                                kFeed,
+                                kFeedPopup,
                                 u"MPTray"_s,
                                 u"Tray2 AutoSelect"_s,
                                 false,
@@ -297,7 +297,7 @@ INSTANTIATE_TEST_SUITE_P(
                                 u"Tray1 Tray2 MPTray* -AutoSelect"_s,
                                 {}},
                     ChangeState{u"enabling with a default selects the first tray"_s,
-                                kFeed,
+                                kFeedPopup,
                                 u"MPTray"_s,
                                 {},
                                 false,
@@ -307,7 +307,7 @@ INSTANTIATE_TEST_SUITE_P(
                                 u"Tray1* Tray2 MPTray AutoSelect"_s,
                                 {}},
                     ChangeState{u"disabling keeps an enabled selection"_s,
-                                kFeed,
+                                kFeedPopup,
                                 u"MPTray"_s,
                                 {},
                                 false,
@@ -317,7 +317,7 @@ INSTANTIATE_TEST_SUITE_P(
                                 u"Tray1 -Tray2 MPTray* AutoSelect"_s,
                                 {}},
                     ChangeState{u"a disabled selection moves to the first tray"_s,
-                                kFeed,
+                                kFeedPopup,
                                 u"MPTray"_s,
                                 {},
                                 false,
@@ -327,7 +327,7 @@ INSTANTIATE_TEST_SUITE_P(
                                 u"Tray1* Tray2 -MPTray AutoSelect"_s,
                                 {}},
                     ChangeState{u"on a disc a disabled selection moves to the first tray"_s,
-                                kFeed,
+                                kFeedPopup,
                                 u"MPTray"_s,
                                 {},
                                 true,
@@ -337,7 +337,7 @@ INSTANTIATE_TEST_SUITE_P(
                                 u"Tray1* Tray2 -MPTray AutoSelect"_s,
                                 {}},
                     ChangeState{u"disabling with a default selects the first tray"_s,
-                                kFeed,
+                                kFeedPopup,
                                 u"MPTray"_s,
                                 {},
                                 false,
@@ -350,7 +350,7 @@ INSTANTIATE_TEST_SUITE_P(
 INSTANTIATE_TEST_SUITE_P(
     OtherPopUps, ControlState,
     testing::Values(ChangeState{u"a disabled item stays selected for want of a default"_s,
-                                kColor,
+                                kColorPopup,
                                 u"Mono"_s,
                                 {},
                                 false,
@@ -360,7 +360,7 @@ INSTANTIATE_TEST_SUITE_P(
                                 u"Color -Mono*"_s,
                                 {}},
                     ChangeState{u"also with a default asked for"_s,
-                                kColor,
+                                kColorPopup,
                                 u"Mono"_s,
                                 {},
                                 false,
@@ -370,7 +370,7 @@ INSTANTIATE_TEST_SUITE_P(
                                 u"Color -Mono*"_s,
                                 {}},
                     ChangeState{u"enabling the qualities' list changes nothing"_s,
-                                kColor,
+                                kColorPopup,
                                 u"Mono"_s,
                                 {},
                                 false,
@@ -380,7 +380,7 @@ INSTANTIATE_TEST_SUITE_P(
                                 u"Color Mono*"_s,
                                 {}},
                     ChangeState{u"on a disc likewise"_s,
-                                kColor,
+                                kColorPopup,
                                 u"Mono"_s,
                                 {},
                                 true,
@@ -397,9 +397,9 @@ protected:
     void showDiscQualities(const QString &medium, const QString &quality)
     {
         show();
-        panel->changeState(popup(kQuality), {u"DiscNormal"_s, u"DiscSlow"_s}, true, true);
-        ASSERT_TRUE(popup(kQuality)->selectObject(quality));
-        ASSERT_TRUE(popup(kMedia)->selectObject(medium));
+        panel->changeState(popup(kQualityPopup), {u"DiscNormal"_s, u"DiscSlow"_s}, true, true);
+        ASSERT_TRUE(popup(kQualityPopup)->selectObject(quality));
+        ASSERT_TRUE(popup(kMediaPopup)->selectObject(medium));
         panel->setFlag(SlowDryingUnavailable, true);
         log();
     }
@@ -408,9 +408,9 @@ protected:
 TEST_F(ControlStateAfterDisc, TheQualitiesOfTheMediumComeBackThoughNoDefaultWasAskedFor)
 {
     showDiscQualities(u"Glossy"_s, u"DiscSlow"_s);
-    panel->changeState(popup(kFeed), {u"Tray2"_s}, false, false);
-    EXPECT_EQ(itemsOf(popup(kQuality)), u"Fast Photo* Best"_s);
-    EXPECT_EQ(itemsOf(popup(kFeed)), u"Tray1* -Tray2 MPTray AutoSelect"_s);
+    panel->changeState(popup(kFeedPopup), {u"Tray2"_s}, false, false);
+    EXPECT_EQ(itemsOf(popup(kQualityPopup)), u"Fast Photo* Best"_s);
+    EXPECT_EQ(itemsOf(popup(kFeedPopup)), u"Tray1* -Tray2 MPTray AutoSelect"_s);
     EXPECT_FALSE(panel->hasFlag(SlowDryingUnavailable));
     EXPECT_EQ(log(), QStringList());
 }
@@ -420,18 +420,18 @@ TEST_F(ControlStateAfterDisc, AMediumForDiscsAloneIsReplacedByPlainPaper)
     showDiscQualities(u"GlossyPrintableDisc"_s, u"DiscNormal"_s);
     panel->recordPendingValue(u"VKMediaType"_s, u"GlossyPrintableDisc"_s);
     panel->recordPendingValue(u"VKResolution"_s, u"DiscNormal"_s);
-    panel->changeState(popup(kFeed), {u"Tray2"_s}, false, false);
+    panel->changeState(popup(kFeedPopup), {u"Tray2"_s}, false, false);
     EXPECT_EQ(panel->pending(), u"Plain/PlainNormal"_s);
     EXPECT_EQ(log(), QStringList({u"VKMediaType=Plain"_s, u"VKResolution=PlainNormal"_s}));
     // "Photo", the default of the medium that the pop-up shows, is not among them.
-    EXPECT_EQ(itemsOf(popup(kQuality)), u"PlainFast* PlainNormal High Best"_s);
+    EXPECT_EQ(itemsOf(popup(kQualityPopup)), u"PlainFast* PlainNormal High Best"_s);
 }
 
 TEST_F(ControlStateAfterDisc, ThePrintableDiscKeepsItsQualities)
 {
     showDiscQualities(u"PrintableDisc"_s, u"DiscSlow"_s);
-    panel->changeState(popup(kFeed), {u"Tray2"_s}, false, false);
-    EXPECT_EQ(itemsOf(popup(kQuality)), u"DiscNormal DiscSlow*"_s);
+    panel->changeState(popup(kFeedPopup), {u"Tray2"_s}, false, false);
+    EXPECT_EQ(itemsOf(popup(kQualityPopup)), u"DiscNormal DiscSlow*"_s);
     EXPECT_TRUE(panel->hasFlag(SlowDryingUnavailable));
 }
 
@@ -439,15 +439,15 @@ TEST_F(ControlStateAfterDisc, OnADiscTheyStay)
 {
     showDiscQualities(u"Glossy"_s, u"DiscSlow"_s);
     panel->setFlag(DiscPaper, true);
-    panel->changeState(popup(kFeed), {u"Tray2"_s}, false, false);
-    EXPECT_EQ(itemsOf(popup(kQuality)), u"DiscNormal DiscSlow*"_s);
+    panel->changeState(popup(kFeedPopup), {u"Tray2"_s}, false, false);
+    EXPECT_EQ(itemsOf(popup(kQualityPopup)), u"DiscNormal DiscSlow*"_s);
 }
 
 TEST_F(ControlStateAfterDisc, WithADefaultAskedForTheyStayToo)
 {
     showDiscQualities(u"Glossy"_s, u"DiscSlow"_s);
-    panel->changeState(popup(kFeed), {u"Tray2"_s}, true, true);
-    EXPECT_EQ(itemsOf(popup(kQuality)), u"DiscNormal DiscSlow*"_s);
+    panel->changeState(popup(kFeedPopup), {u"Tray2"_s}, true, true);
+    EXPECT_EQ(itemsOf(popup(kQualityPopup)), u"DiscNormal DiscSlow*"_s);
 }
 
 TEST_F(PrintPanelTest, ChangingTheStateOfNoPopUpDoesNothing)

@@ -15,7 +15,7 @@ namespace {
 
 // Servers that answer what is asked before a job, and how the answer ends.
 
-constexpr auto kShort = 600ms; // for servers that have to be given up
+constexpr auto kShortTimeout = 600ms; // for servers that have to be given up
 
 struct Misbehaviour
 {
@@ -109,7 +109,7 @@ constexpr auto kSilent = "The print server %1 does not answer.";
 constexpr auto kTooSlow = "The print server %1 takes too long to answer.";
 constexpr auto kClosed = "The print server %1 closed the connection without an answer.";
 constexpr auto kCut = "The print server %1 broke off in the middle of its answer.";
-constexpr auto kNonsense = "The answer of the print server %1 cannot be understood.";
+constexpr auto kNonsenseAnswer = "The answer of the print server %1 cannot be understood.";
 constexpr auto kTooLarge = "The answer of the print server %1 is too large.";
 constexpr auto kCutPPD =
     "The print server %1 sent only part of the PPD of the queue photo. Try again.";
@@ -119,24 +119,28 @@ const QByteArray kPrinter = printerNamed("photo").ended();
 INSTANTIATE_TEST_SUITE_P(
     Silence, AMisbehavingServer,
     testing::Values(
-        Misbehaviour{
-            "AtConnecting", printers, {{"connect", {hold()}}}, FaultKind::Silent, kSilent, kShort},
+        Misbehaviour{"AtConnecting",
+                     printers,
+                     {{"connect", {hold()}}},
+                     FaultKind::Silent,
+                     kSilent,
+                     kShortTimeout},
         Misbehaviour{"AfterTheRequest", printers, whenListing({readBody(), hold()}),
-                     FaultKind::Silent, kSilent, kShort},
+                     FaultKind::Silent, kSilent, kShortTimeout},
         Misbehaviour{"InItsHeaders", printers,
                      whenListing({readBody(), write("HTTP/1.1 200 OK\r\nContent-"), hold()}),
-                     FaultKind::Silent, kSilent, kShort},
+                     FaultKind::Silent, kSilent, kShortTimeout},
         Misbehaviour{"InItsAnswer", printers,
                      whenListing({readBody(), write(beginOf(kPrinter, 40)), hold()}),
-                     FaultKind::Silent, kSilent, kShort},
+                     FaultKind::Silent, kSilent, kShortTimeout},
         Misbehaviour{"InThePPD", ppd, whenFetching({write(beginOf(goodPPD(), 4096)), hold()}),
-                     FaultKind::Silent, kSilent, kShort},
+                     FaultKind::Silent, kSilent, kShortTimeout},
         Misbehaviour{"OfTheDefault",
                      defaultQueue,
                      {{"CUPS-Get-Default", {readBody(), hold()}}},
                      FaultKind::Silent,
                      kSilent,
-                     kShort}),
+                     kShortTimeout}),
     CaseName());
 
 INSTANTIATE_TEST_SUITE_P(
@@ -144,32 +148,32 @@ INSTANTIATE_TEST_SUITE_P(
     testing::Values(
         Misbehaviour{"HeadersByteByByte", printers,
                      whenListing({readBody(), drip(kOk + QByteArray(10000, 'X'), 10ms)}),
-                     FaultKind::Silent, kSilent, kShort},
+                     FaultKind::Silent, kSilent, kShortTimeout},
         Misbehaviour{"AnswerByteByByte", printers,
                      whenListing({readBody(), write(beginOf(QByteArray(100000, '\2'), 0)),
                                   drip(QByteArray(100000, '\2'), 10ms)}),
-                     FaultKind::Silent, kTooSlow, kShort},
+                     FaultKind::Silent, kTooSlow, kShortTimeout},
         Misbehaviour{"PPDByteByByte", ppd,
                      whenFetching({write(beginOf(goodPPD(), 0)), drip(goodPPD(), 10ms)}),
-                     FaultKind::Silent, kTooSlow, kShort},
+                     FaultKind::Silent, kTooSlow, kShortTimeout},
         Misbehaviour{"Headers", printers,
                      whenListing({readBody(), write("HTTP/1.1 200 OK\r\n"),
                                   flood(QByteArray("X-More: more\r\n").repeated(1000), 1LL << 40)}),
-                     FaultKind::Silent, kSilent, kShort},
+                     FaultKind::Silent, kSilent, kShortTimeout},
         Misbehaviour{
             "HeadersOfAPPD", ppd,
             whenFetching({write("HTTP/1.1 200 OK\r\n"),
                           flood(QByteArray("X-More: more\r\n").repeated(1000), 1LL << 40)}),
-            FaultKind::Silent, kSilent, kShort},
+            FaultKind::Silent, kSilent, kShortTimeout},
         Misbehaviour{"OneLongHeader", printers,
                      whenListing({readBody(), write("HTTP/1.1 200 OK\r\nX-More: "),
                                   flood(QByteArray(65536, 'm'), 1LL << 40)}),
-                     FaultKind::Refused, kNonsense},
+                     FaultKind::Refused, kNonsenseAnswer},
         Misbehaviour{"GoAheads", printers,
                      whenListing({readBody(),
                                   flood(QByteArray("HTTP/1.1 100 Continue\r\n\r\n").repeated(1000),
                                         1LL << 40)}),
-                     FaultKind::Silent, kSilent, kShort},
+                     FaultKind::Silent, kSilent, kShortTimeout},
         Misbehaviour{"Printers", printers,
                      whenListing({readBody(), write(kChunked + chunk(printerNamed("photo").cut())),
                                   flood(chunk(QByteArray("\4\x42\0\14printer-name\0\5photo", 22)
@@ -319,24 +323,27 @@ INSTANTIATE_TEST_SUITE_P(
 INSTANTIATE_TEST_SUITE_P(
     Nonsense, AMisbehavingServer,
     testing::Values(
-        ipp("NothingAtAll", {}, kNonsense), ipp("Html", "<html><h1>Hello</h1></html>", kNonsense),
-        ipp("OneByte", "\2", kNonsense), ipp("OnlyAHeader", IppBytes().cut().left(8), kNonsense),
+        ipp("NothingAtAll", {}, kNonsenseAnswer),
+        ipp("Html", "<html><h1>Hello</h1></html>", kNonsenseAnswer),
+        ipp("OneByte", "\2", kNonsenseAnswer),
+        ipp("OnlyAHeader", IppBytes().cut().left(8), kNonsenseAnswer),
         ipp("NestedTooDeep", IppBytes().group(IPP_TAG_PRINTER).nested("media-col", 9000).ended(),
-            kNonsense),
-        ipp("VersionThatIsNot", IppBytes::beginningWith("\x9\x9").ended(), kNonsense),
+            kNonsenseAnswer),
+        ipp("VersionThatIsNot", IppBytes::beginningWith("\x9\x9").ended(), kNonsenseAnswer),
         ipp("ALengthBeyondTheEnd", IppBytes().raw(QByteArray("\x41\0\4name\x7f\xff", 9)).ended(),
-            kNonsense),
+            kNonsenseAnswer),
         ipp("AnIntegerOfTwoBytes", IppBytes().attribute(IPP_TAG_INTEGER, "x", "ab").ended(),
-            kNonsense),
+            kNonsenseAnswer),
         ipp("AValueWithoutAnAttribute",
-            IppBytes().group(IPP_TAG_PRINTER).attribute(IPP_TAG_NAME, {}, "x").ended(), kNonsense),
+            IppBytes().group(IPP_TAG_PRINTER).attribute(IPP_TAG_NAME, {}, "x").ended(),
+            kNonsenseAnswer),
         ipp("AValueBeforeAnyGroup",
             IppBytes().cut().left(8) + ippNumber(IPP_TAG_NAME, 1) + QByteArray("\0\1x\0\1y\3", 7),
-            kNonsense),
+            kNonsenseAnswer),
         Misbehaviour{
             "NotHttp", printers,
             whenListing({readBody(), write("SSH-2.0-OpenSSH_9.2\r\n\r\n"), closeConnection()}),
-            FaultKind::Refused, kNonsense}),
+            FaultKind::Refused, kNonsenseAnswer}),
     CaseName());
 
 // --- And what is no misbehaviour, however odd it looks

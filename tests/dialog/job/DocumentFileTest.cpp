@@ -98,19 +98,19 @@ TEST(DocumentFile, IsWhatWasOpenedWhateverStandsUnderItsNameNow)
 }
 
 /// What a name that is not UTF-8 looks like to people.
-struct Name
+struct FileName
 {
     const char *name;
     QByteArray bytes;
     QString shown;
 };
 
-void PrintTo(const Name &row, std::ostream *out)
+void PrintTo(const FileName &row, std::ostream *out)
 {
     *out << row.name;
 }
 
-class DocumentNamed : public testing::TestWithParam<Name>
+class DocumentNamed : public testing::TestWithParam<FileName>
 {};
 
 TEST_P(DocumentNamed, IsFoundByItsBytesAndShownAsText)
@@ -129,12 +129,13 @@ TEST_P(DocumentNamed, IsFoundByItsBytesAndShownAsText)
 
 INSTANTIATE_TEST_SUITE_P(
     Table, DocumentNamed,
-    testing::Values(Name{"Ascii", "a.ps", u"a.ps"_s}, Name{"Utf8", "\xe5\x86\x99.ps", u"写.ps"_s},
-                    Name{"Latin1", "Gr\xfc\xdf.ps", u"Gr\ufffd\ufffd.ps"_s},
-                    Name{"CutCharacter", "\xe5\x86\x99\xe5\x86", u"写\ufffd\ufffd"_s},
-                    Name{"EncodedSurrogate", "\xed\xb2\x80.ps", u"\ufffd\ufffd\ufffd.ps"_s},
-                    Name{"ByteOrderMark", "\xef\xbb\xbf.ps", u"\ufeff.ps"_s},
-                    Name{"LineBreak", "a\nb", u"a b"_s}),
+    testing::Values(FileName{"Ascii", "a.ps", u"a.ps"_s},
+                    FileName{"Utf8", "\xe5\x86\x99.ps", u"写.ps"_s},
+                    FileName{"Latin1", "Gr\xfc\xdf.ps", u"Gr\ufffd\ufffd.ps"_s},
+                    FileName{"CutCharacter", "\xe5\x86\x99\xe5\x86", u"写\ufffd\ufffd"_s},
+                    FileName{"EncodedSurrogate", "\xed\xb2\x80.ps", u"\ufffd\ufffd\ufffd.ps"_s},
+                    FileName{"ByteOrderMark", "\xef\xbb\xbf.ps", u"\ufeff.ps"_s},
+                    FileName{"LineBreak", "a\nb", u"a b"_s}),
     [](const auto &row) { return std::string(row.param.name); });
 
 TEST(DocumentFile, ThatIsMissingIsNamedInPlainText)

@@ -64,19 +64,19 @@ INSTANTIATE_TEST_SUITE_P(
         Text{"ControlsAlone", u"\n\u001B\u202E"_s, "neutral"}),
     CaseName());
 
-struct Name
+struct GivenName
 {
     const char *behaviour;
     QString name;
     QByteArray leaves;
 };
 
-void PrintTo(const Name &row, std::ostream *out)
+void PrintTo(const GivenName &row, std::ostream *out)
 {
     *out << row.behaviour;
 }
 
-class OutgoingDocumentName : public testing::TestWithParam<Name>
+class OutgoingDocumentName : public testing::TestWithParam<GivenName>
 {};
 
 TEST_P(OutgoingDocumentName, HasNoFolders)
@@ -86,11 +86,12 @@ TEST_P(OutgoingDocumentName, HasNoFolders)
 
 INSTANTIATE_TEST_SUITE_P(
     Table, OutgoingDocumentName,
-    testing::Values(Name{"Plain", u"a.pdf"_s, "a.pdf"}, Name{"Path", u"/tmp/x/a.pdf"_s, "a.pdf"},
-                    Name{"Above", u"../.."_s, "document"}, Name{"Here", u"."_s, "document"},
-                    Name{"Folder", u"a/"_s, "document"}, Name{"Hidden", u"..a"_s, "..a"},
-                    Name{"None", QString(), "document"},
-                    Name{"ControlCharacters", u"a\nb\u001B.pdf"_s, "a b .pdf"}),
+    testing::Values(GivenName{"Plain", u"a.pdf"_s, "a.pdf"},
+                    GivenName{"Path", u"/tmp/x/a.pdf"_s, "a.pdf"},
+                    GivenName{"Above", u"../.."_s, "document"},
+                    GivenName{"Here", u"."_s, "document"}, GivenName{"Folder", u"a/"_s, "document"},
+                    GivenName{"Hidden", u"..a"_s, "..a"}, GivenName{"None", QString(), "document"},
+                    GivenName{"ControlCharacters", u"a\nb\u001B.pdf"_s, "a b .pdf"}),
     CaseName());
 
 TEST(OutgoingTitle, IsNeutralWhenNothingIsLeft)

@@ -7,19 +7,19 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-struct Typed
+struct TypedRanges
 {
     const char *name;
     QString text;
     QString ranges; ///< null: refused
 };
 
-void PrintTo(const Typed &row, std::ostream *out)
+void PrintTo(const TypedRanges &row, std::ostream *out)
 {
     *out << row.name;
 }
 
-class PageRanges : public testing::TestWithParam<Typed>
+class PageRanges : public testing::TestWithParam<TypedRanges>
 {};
 
 TEST_P(PageRanges, AreMadeAsTheServerWantsThem)
@@ -32,16 +32,19 @@ TEST_P(PageRanges, AreMadeAsTheServerWantsThem)
 INSTANTIATE_TEST_SUITE_P(
     Table, PageRanges,
     testing::Values(
-        Typed{"Nothing", u""_s, u""_s}, Typed{"Blanks", u"  "_s, u""_s},
-        Typed{"OnePage", u"7"_s, u"7"_s}, Typed{"OneRange", u"2-4"_s, u"2-4"_s},
-        Typed{"SpacesAnywhere", u" 2 - 4 , 9 "_s, u"2-4,9"_s},
-        Typed{"OutOfOrder", u"9,2-4"_s, u"2-4,9"_s}, Typed{"Touching", u"1-2,3"_s, u"1-3"_s},
-        Typed{"Overlapping", u"1-5,4-8,6"_s, u"1-8"_s}, Typed{"Twice", u"3,3"_s, u"3"_s},
-        Typed{"OpenEnd", u"5-"_s, u"5-65535"_s}, Typed{"OnePageRange", u"4-4"_s, u"4"_s},
-        Typed{"PageZero", u"0-3"_s, QString()}, Typed{"Backwards", u"4-2"_s, QString()},
-        Typed{"OpenStart", u"-3"_s, QString()}, Typed{"Word", u"all"_s, QString()},
-        Typed{"EmptyPart", u"1,,3"_s, QString()}, Typed{"TwoDashes", u"1-2-3"_s, QString()},
-        Typed{"Fraction", u"1.5"_s, QString()}, Typed{"Huge", u"99999999999"_s, QString()}),
+        TypedRanges{"Nothing", u""_s, u""_s}, TypedRanges{"Blanks", u"  "_s, u""_s},
+        TypedRanges{"OnePage", u"7"_s, u"7"_s}, TypedRanges{"OneRange", u"2-4"_s, u"2-4"_s},
+        TypedRanges{"SpacesAnywhere", u" 2 - 4 , 9 "_s, u"2-4,9"_s},
+        TypedRanges{"OutOfOrder", u"9,2-4"_s, u"2-4,9"_s},
+        TypedRanges{"Touching", u"1-2,3"_s, u"1-3"_s},
+        TypedRanges{"Overlapping", u"1-5,4-8,6"_s, u"1-8"_s},
+        TypedRanges{"Twice", u"3,3"_s, u"3"_s}, TypedRanges{"OpenEnd", u"5-"_s, u"5-65535"_s},
+        TypedRanges{"OnePageRange", u"4-4"_s, u"4"_s}, TypedRanges{"PageZero", u"0-3"_s, QString()},
+        TypedRanges{"Backwards", u"4-2"_s, QString()}, TypedRanges{"OpenStart", u"-3"_s, QString()},
+        TypedRanges{"Word", u"all"_s, QString()}, TypedRanges{"EmptyPart", u"1,,3"_s, QString()},
+        TypedRanges{"TwoDashes", u"1-2-3"_s, QString()},
+        TypedRanges{"Fraction", u"1.5"_s, QString()},
+        TypedRanges{"Huge", u"99999999999"_s, QString()}),
     [](const auto &row) { return std::string(row.param.name); });
 
 } // namespace

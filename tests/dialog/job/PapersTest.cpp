@@ -9,7 +9,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-struct Typed
+struct TypedPaper
 {
     const char *name;
     QString text;
@@ -17,12 +17,12 @@ struct Typed
     double height;
 };
 
-void PrintTo(const Typed &row, std::ostream *out)
+void PrintTo(const TypedPaper &row, std::ostream *out)
 {
     *out << row.name;
 }
 
-class CustomPaperText : public testing::TestWithParam<Typed>
+class CustomPaperText : public testing::TestWithParam<TypedPaper>
 {};
 
 TEST_P(CustomPaperText, IsReadInItsUnit)
@@ -37,20 +37,21 @@ TEST_P(CustomPaperText, IsReadInItsUnit)
     EXPECT_TRUE(paper->name.startsWith(u"Custom."_s));
 }
 
-INSTANTIATE_TEST_SUITE_P(Table, CustomPaperText,
-                         testing::Values(Typed{"Points", u"Custom.300x400"_s, 300, 400},
-                                         Typed{"PointsByName", u"Custom.300.5x400pt"_s, 300.5, 400},
-                                         Typed{"Millimetres", u"Custom.254x127mm"_s, 720, 360},
-                                         Typed{"Centimetres", u"Custom.25.4x12.7cm"_s, 720, 360},
-                                         Typed{"Inches", u"Custom.8.5x11in"_s, 612, 792},
-                                         Typed{"OtherUnit", u"Custom.8x11ft"_s, 0, 0},
-                                         Typed{"OneLength", u"Custom.300"_s, 0, 0},
-                                         Typed{"NoLength", u"Custom.x"_s, 0, 0},
-                                         Typed{"Zero", u"Custom.0x400"_s, 0, 0},
-                                         Typed{"TwoPoints", u"Custom.1.2.3x400"_s, 0, 0},
-                                         Typed{"Negative", u"Custom.-3x400"_s, 0, 0},
-                                         Typed{"AListedPaper", u"A4"_s, 0, 0}),
-                         [](const auto &row) { return std::string(row.param.name); });
+INSTANTIATE_TEST_SUITE_P(
+    Table, CustomPaperText,
+    testing::Values(TypedPaper{"Points", u"Custom.300x400"_s, 300, 400},
+                    TypedPaper{"PointsByName", u"Custom.300.5x400pt"_s, 300.5, 400},
+                    TypedPaper{"Millimetres", u"Custom.254x127mm"_s, 720, 360},
+                    TypedPaper{"Centimetres", u"Custom.25.4x12.7cm"_s, 720, 360},
+                    TypedPaper{"Inches", u"Custom.8.5x11in"_s, 612, 792},
+                    TypedPaper{"OtherUnit", u"Custom.8x11ft"_s, 0, 0},
+                    TypedPaper{"OneLength", u"Custom.300"_s, 0, 0},
+                    TypedPaper{"NoLength", u"Custom.x"_s, 0, 0},
+                    TypedPaper{"Zero", u"Custom.0x400"_s, 0, 0},
+                    TypedPaper{"TwoPoints", u"Custom.1.2.3x400"_s, 0, 0},
+                    TypedPaper{"Negative", u"Custom.-3x400"_s, 0, 0},
+                    TypedPaper{"AListedPaper", u"A4"_s, 0, 0}),
+    [](const auto &row) { return std::string(row.param.name); });
 
 TEST(Papers, OfAPPDHaveItsTextsAndSizes)
 {

@@ -17,15 +17,15 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-struct Outcome
+struct LauncherOutcome
 {
     int status = -1;
     std::string output;
     std::string error;
 };
 
-Outcome runProgram(const QString &program, const QStringList &arguments,
-                   const QMap<QString, QString> &variables = {})
+LauncherOutcome runProgram(const QString &program, const QStringList &arguments,
+                           const QMap<QString, QString> &variables = {})
 {
     QProcess process;
     auto environment = QProcessEnvironment::systemEnvironment();
@@ -54,7 +54,7 @@ TEST(Launcher, AnswersHelpAndVersion)
         {{u"--nonsense"_s, u"--help"_s}, helpText()},
     };
     for (const auto &[arguments, text] : cases) {
-        const Outcome result = runProgram(QStringLiteral(PROGRAM), arguments);
+        const LauncherOutcome result = runProgram(QStringLiteral(PROGRAM), arguments);
         EXPECT_EQ(result.status, 0);
         EXPECT_EQ(result.output, text);
         EXPECT_EQ(result.error, "");
@@ -63,7 +63,7 @@ TEST(Launcher, AnswersHelpAndVersion)
 
 TEST(Launcher, RefusesAnUnknownOption)
 {
-    const Outcome result = runProgram(QStringLiteral(PROGRAM), {u"--nonsense"_s});
+    const LauncherOutcome result = runProgram(QStringLiteral(PROGRAM), {u"--nonsense"_s});
     EXPECT_EQ(result.status, 2);
     EXPECT_EQ(result.output, "");
     EXPECT_EQ(result.error, "velkaro-print: There is no option --nonsense.\n");
@@ -71,7 +71,7 @@ TEST(Launcher, RefusesAnUnknownOption)
 
 TEST(Launcher, RefusesInTheUsersLanguage)
 {
-    const Outcome result =
+    const LauncherOutcome result =
         runProgram(QStringLiteral(PROGRAM), {u"--nonsense"_s}, {{u"LANGUAGE"_s, u"ja"_s}});
     EXPECT_EQ(result.status, 2);
     EXPECT_EQ(result.error, "velkaro-print: --nonsense というオプションはありません。\n");
@@ -90,8 +90,9 @@ TEST(Launcher, NamesSettingsThatClashAsJapaneseIsWritten)
                                 u"--output"_s,
                                 u"job"_s,
                                 printer.path()};
-    const Outcome result = runProgram(QStringLiteral(PROGRAM), arguments,
-                                      {{u"LC_ALL"_s, u"ja_JP.UTF-8"_s}, {u"LANGUAGE"_s, u"ja"_s}});
+    const LauncherOutcome result =
+        runProgram(QStringLiteral(PROGRAM), arguments,
+                   {{u"LC_ALL"_s, u"ja_JP.UTF-8"_s}, {u"LANGUAGE"_s, u"ja"_s}});
     EXPECT_EQ(result.status, 2);
     EXPECT_EQ(result.error,
               "velkaro-print: 「用紙種類: OHPフィルム」は選べません。このプリンターでは「両面印刷: "
@@ -106,7 +107,7 @@ TEST(Launcher, SaysSoWhenThereIsNoDisplayForTheDialog)
         {{u"QT_QPA_PLATFORM"_s, u"nonsense"_s}},
     };
     for (const auto &environment : cases) {
-        const Outcome result =
+        const LauncherOutcome result =
             runProgram(QStringLiteral(PROGRAM), {u"--ppd"_s, u"small.ppd"_s}, environment);
         EXPECT_EQ(result.status, 2) << environment.size();
         EXPECT_EQ(result.error, "velkaro-print: There is no display for the dialog; --no-dialog "
@@ -116,8 +117,9 @@ TEST(Launcher, SaysSoWhenThereIsNoDisplayForTheDialog)
 
 TEST(Launcher, SaysInTheUsersLanguageThatThereIsNoDisplay)
 {
-    const Outcome result = runProgram(QStringLiteral(PROGRAM), {u"--ppd"_s, u"small.ppd"_s},
-                                      {{u"LANGUAGE"_s, u"ja"_s}, {u"DISPLAY"_s, u":12345"_s}});
+    const LauncherOutcome result =
+        runProgram(QStringLiteral(PROGRAM), {u"--ppd"_s, u"small.ppd"_s},
+                   {{u"LANGUAGE"_s, u"ja"_s}, {u"DISPLAY"_s, u":12345"_s}});
     EXPECT_EQ(result.status, 2);
     EXPECT_THAT(result.error, testing::HasSubstr("--no-dialog"));
     EXPECT_THAT(result.error, testing::Not(testing::HasSubstr("There is no display")));
@@ -138,7 +140,7 @@ TEST(Launcher, NeedsNoDisplayWhereNoWindowIsShown)
         {u"--ppd"_s, ppd, u"--no-dialog"_s, u"--output"_s, folder.filePath(u"job"_s), ppd},
     };
     for (const QStringList &arguments : cases) {
-        const Outcome result = runProgram(QStringLiteral(PROGRAM), arguments, desktop);
+        const LauncherOutcome result = runProgram(QStringLiteral(PROGRAM), arguments, desktop);
         EXPECT_EQ(result.status, 0) << arguments.join(u' ').toStdString();
         EXPECT_EQ(result.error, "");
     }
@@ -155,7 +157,7 @@ TEST(Launcher, ReplaysTheSameInEveryUsersLanguage)
     const QMap<QString, QString> japanese = {{u"LC_ALL"_s, u"ja_JP.UTF-8"_s},
                                              {u"LANGUAGE"_s, u"ja"_s}};
     const QStringList arguments{u"--replay"_s, script};
-    const Outcome here = runProgram(QStringLiteral(PROGRAM), arguments);
+    const LauncherOutcome here = runProgram(QStringLiteral(PROGRAM), arguments);
     EXPECT_THAT(here.output, testing::HasSubstr("\"Media Type\":\"Plain Paper\""));
     EXPECT_EQ(runProgram(QStringLiteral(PROGRAM), arguments, japanese).output, here.output);
 }
@@ -167,7 +169,7 @@ TEST(Launcher, SaysSoWhenTheInstallationIsIncomplete)
     const QString copy = folder.filePath(u"bin/velkaro-print"_s);
     ASSERT_TRUE(QFile::copy(QStringLiteral(PROGRAM), copy));
     EXPECT_EQ(runProgram(copy, {u"--version"_s}).output, versionText());
-    const Outcome result = runProgram(copy, {u"--replay"_s, u"-"_s});
+    const LauncherOutcome result = runProgram(copy, {u"--replay"_s, u"-"_s});
     EXPECT_EQ(result.status, 7);
     EXPECT_THAT(result.error, testing::HasSubstr("the installation is incomplete: "));
     EXPECT_THAT(result.error, testing::HasSubstr("libvelkaro-dialog.so"));
