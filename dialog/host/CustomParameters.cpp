@@ -24,8 +24,8 @@ QString numberText(float number)
     return QString::fromLatin1(text.data(), end - text.data());
 }
 
-CustomParameter number(CustomParameter made, CustomParameter::Kind kind, float least,
-                       float greatest, float value)
+CustomParameter numberParameter(CustomParameter made, CustomParameter::Kind kind, float least,
+                                float greatest, float value)
 {
     made.kind = kind;
     made.least = static_cast<double>(least);
@@ -34,7 +34,8 @@ CustomParameter number(CustomParameter made, CustomParameter::Kind kind, float l
     return made;
 }
 
-CustomParameter text(CustomParameter made, CustomParameter::Kind kind, const ppd_cparam_t &from)
+CustomParameter textParameter(CustomParameter made, CustomParameter::Kind kind,
+                              const ppd_cparam_t &from)
 {
     made.kind = kind;
     made.least = from.minimum.custom_string;
@@ -57,31 +58,31 @@ CustomParameter parameterOf(const ppd_cparam_t &from)
         return made;
     case PPD_CUSTOM_CURVE:
     case PPD_CUSTOM_INVCURVE:
-        return number(made, Number, from.minimum.custom_curve, from.maximum.custom_curve,
-                      from.current.custom_curve);
+        return numberParameter(made, Number, from.minimum.custom_curve, from.maximum.custom_curve,
+                               from.current.custom_curve);
     case PPD_CUSTOM_REAL:
-        return number(made, Number, from.minimum.custom_real, from.maximum.custom_real,
-                      from.current.custom_real);
+        return numberParameter(made, Number, from.minimum.custom_real, from.maximum.custom_real,
+                               from.current.custom_real);
     case PPD_CUSTOM_POINTS:
-        return number(made, Points, from.minimum.custom_points, from.maximum.custom_points,
-                      from.current.custom_points);
+        return numberParameter(made, Points, from.minimum.custom_points, from.maximum.custom_points,
+                               from.current.custom_points);
     case PPD_CUSTOM_PASSCODE:
-        return text(made, Passcode, from);
+        return textParameter(made, Passcode, from);
     case PPD_CUSTOM_PASSWORD:
-        return text(made, Password, from);
+        return textParameter(made, Password, from);
     default:
-        return text(made, Text, from);
+        return textParameter(made, Text, from);
     }
 }
 
-bool isText(const CustomParameter &parameter)
+bool isTextual(const CustomParameter &parameter)
 {
     using enum CustomParameter::Kind;
     return parameter.kind == Text || parameter.kind == Passcode || parameter.kind == Password;
 }
 
 /// A text as a collection holds it.
-QString quoted(QString value)
+QString quotedText(QString value)
 {
     value.replace(u'\\', "\\\\"_L1).replace(u'"', "\\\""_L1);
     return u'"' + value + u'"';
@@ -91,8 +92,8 @@ QString collectionOf(const QList<CustomParameter> &parameters)
 {
     QStringList members;
     for (const CustomParameter &parameter : parameters)
-        members +=
-            parameter.name + u'=' + (isText(parameter) ? quoted(parameter.value) : parameter.value);
+        members += parameter.name + u'=' +
+                   (isTextual(parameter) ? quotedText(parameter.value) : parameter.value);
     return u'{' + members.join(u' ') + u'}';
 }
 
@@ -136,7 +137,7 @@ bool isSecret(const CustomParameter &parameter)
 
 ParameterFault faultOf(const CustomParameter &parameter)
 {
-    if (isText(parameter))
+    if (isTextual(parameter))
         return faultOfText(parameter);
     bool isNumber = false;
     const double value = parameter.kind == CustomParameter::Kind::Integer

@@ -133,6 +133,9 @@ public:
     /// views: nothing that a printer is to do.
     QStringList foldStateKeys() const;
 
+    /// The bundle of the plug-in; null without one.
+    const Bundle *bundle() const { return m_plugIn.bundle.get(); }
+
     /// What the user asked the plug-in's alerts to remember.
     QVariantMap alertMemory() const;
 

@@ -28,6 +28,9 @@ struct JobValues
     PMPrintSettings ticket;
     HostSettings settings;
     QList<JobOption> saved; ///< lpoptions of the queue that are no choices of its PPD
+    /// Keywords that lpoptions name: their choices are sent even where they are the default, as
+    /// every other program sends them.
+    QStringList settled;
 };
 
 /// The options of a job, or why it cannot be sent.
@@ -39,13 +42,16 @@ struct JobOptions
 };
 
 /// The job's options: saved settings that are not the PPD's, the marks that are not there by
-/// default (without those whose keyword is reserved), the dialog's own settings, and every ticket
-/// value under a vendor key. A vendor key is one in reverse-domain form ("com.maker.thing") that is
-/// not the platform's own.
+/// default or that were saved (without those whose keyword is reserved), the dialog's own settings,
+/// and every ticket value under a vendor key. A vendor key is one in reverse-domain form
+/// ("com.maker.thing") that is not the platform's own.
 ///
 /// The paper is sent as `PageSize` alone. Beside it `media` would win in later versions of CUPS,
 /// and borderless paper would print with margins.
 JobOptions jobOptions(const JobValues &values);
+
+/// Whether the key is one of a plug-in's own values of the ticket, which travel with the job.
+bool isVendorTicketKey(const QString &key);
 
 /// Whether the name is that of an option of the PPD (null: none) whose choices may be sent.
 bool isChoice(ppd_file_t *ppd, const QString &name);

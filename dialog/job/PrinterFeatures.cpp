@@ -48,10 +48,11 @@ bool hasSomethingToChoose(const ppd_option_t &option)
     return option.num_choices > (option.ui == PPD_UI_PICKMANY ? 0 : 1);
 }
 
-class Collector
+class FeatureCollector
 {
 public:
-    Collector(ppd_file_t *ppd, const QStringList &leftOut) : m_ppd(ppd), m_leftOut(leftOut) {}
+    FeatureCollector(ppd_file_t *ppd, const QStringList &leftOut) : m_ppd(ppd), m_leftOut(leftOut)
+    {}
 
     void addGroups(std::span<ppd_group_t> groups)
     {
@@ -108,7 +109,7 @@ QList<FeatureGroup> printerFeatures(ppd_file_t *ppd, const QStringList &leftOut)
 {
     if (!ppd)
         return {};
-    Collector collector(ppd, leftOut);
+    FeatureCollector collector(ppd, leftOut);
     collector.addGroups(std::span(ppd->groups, static_cast<std::size_t>(ppd->num_groups)));
     return collector.take();
 }

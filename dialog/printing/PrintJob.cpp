@@ -33,6 +33,7 @@ void PrintJob::setPrinter(const PrinterSource &source, OpenedPrinter printer)
     else
         m_printer = PMPageFormat{{}, printer.saved.orientation};
     m_saved = printer.saved.others;
+    m_settled = printer.saved.settled;
     if (m_settings == m_savedSettings)
         m_settings = printer.saved.settings;
     m_savedSettings = printer.saved.settings;
@@ -137,6 +138,7 @@ JobOptions PrintJob::options() const
     JobValues values;
     values.settings = m_settings;
     values.saved = m_saved;
+    values.settled = m_settled;
     values.format = format();
     if (const HostSession *open = session()) {
         values.ppd = open->ppd();

@@ -4,6 +4,7 @@
 #include "dialog/program/CommandOutput.h"
 #include "dialog/program/DialogCommand.h"
 #include "dialog/program/ExitStatus.h"
+#include "dialog/program/ForgetCommand.h"
 #include "dialog/program/HelpText.h"
 #include "dialog/program/ReplayCommand.h"
 #include "dialog/program/ToolkitMessages.h"
@@ -52,6 +53,8 @@ extern "C" Q_DECL_EXPORT int velkaroPrintMain(int argc, char **argv)
     if (line.version)
         return print(versionText());
     tellToolkitFaultsOnly();
+    if (line.forgetAlerts)
+        return runForgetCommand(argc, argv, line);
     if (!line.checkPPD.isNull())
         return runCheckCommand(argc, argv, line);
     if (!line.replay.isNull())

@@ -39,6 +39,7 @@ Looking and testing
       --check-ppd FILE    print what the plug-in will not understand in a PPD
                           file, a line a finding
       --plug-in FOLDER    load the plug-in from this bundle
+      --forget-alerts     show the warnings again that were not to be shown
       --version           print the version
       --help              print this text
 

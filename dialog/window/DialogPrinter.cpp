@@ -36,6 +36,7 @@ void DialogWindow::takePrinter(const Result<FoundPrinter> &found)
 {
     m_printerState = found ? Result<>() : found.fault();
     m_shortcomings = found ? found->shortcomings : QList<Fault>();
+    m_startNotes = found ? found->notes : QStringList();
     if (found.faultKind() == FaultKind::PPD)
         m_outcome = found.fault();
     showPrinter();
@@ -48,6 +49,7 @@ void DialogWindow::takePrinter(const Result<FoundPrinter> &found)
                       tr("%1 It prints with the settings of this dialog alone.")
                           .arg(missingPPD(job().source().queue.queue))};
     setState(found ? State::Ready : State::NoPrinter);
+    showPresets();
     tellStanding();
     if (found)
         makeRequestedSettings();
@@ -80,6 +82,12 @@ void DialogWindow::makeRequestedSettings()
     if (std::exchange(m_requestedSettingsAreMade, true))
         return;
     m_settingState = m_controller.makeRequestedSettings();
+    if (!m_settingState && job().source().start.kind == StartingSettings::Kind::LastUsed) {
+        // What is asked for now counts more than what was used last.
+        m_requestedSettingsAreMade = false;
+        startFrom({}, {});
+        return;
+    }
     if (!m_wishes.panel.isNull() && !showPart(m_wishes.panel) && m_settingState)
         m_settingState = Fault{FaultKind::Request, tr("There is no panel %1.").arg(m_wishes.panel)};
     if (!m_wishes.paper.isNull() || !m_wishes.choices.empty()) {
@@ -98,6 +106,8 @@ DialogWindow::Notice DialogWindow::whatIsMissing() const
     using Kind = NoticeBar::Kind;
     if (!m_shortcomings.isEmpty())
         return {Kind::Warning, m_shortcomings.constFirst().sentence};
+    if (!m_startNotes.isEmpty())
+        return {Kind::Warning, m_startNotes.constFirst()};
     if (!m_documentState)
         return {Kind::Error, m_documentState.sentence()};
     if (hasPipes(job().documents()))

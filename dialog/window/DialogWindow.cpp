@@ -89,12 +89,13 @@ void DialogWindow::buildLayout()
     connect(m_features, &FeaturesPane::changed, this, &DialogWindow::tellStanding);
     connect(m_features, &FeaturesPane::refused, this,
             [this](const QString &sentence) { tell(NoticeBar::Kind::Warning, sentence); });
+    connectPresets();
     connect(m_header->printers(), &PrinterPopUp::picked, this, [this](const QueueName &queue) {
         // One that could not be reached may be tried again.
         if (m_state == State::Ready && queue == job().source().queue)
             return;
         closePrinter();
-        findPrinter({m_wishes.server, queue, QString()});
+        findPrinter({m_wishes.server, queue, QString(), usualStart()});
     });
 }
 
@@ -135,7 +136,16 @@ void DialogWindow::start()
     setKeyWindow(this);
     if (!m_wishes.isPicture)
         readPipes();
-    findPrinter(m_controller.wantedPrinter());
+    PrinterSource source = m_controller.wantedPrinter();
+    source.start = usualStart();
+    findPrinter(source);
+}
+
+/// A picture shows the settings as they are saved; a user goes on where he was.
+StartingSettings DialogWindow::usualStart() const
+{
+    using enum StartingSettings::Kind;
+    return {m_wishes.isPicture ? Saved : LastUsed, {}};
 }
 
 void DialogWindow::setState(State state)

@@ -141,6 +141,16 @@ private:
     QList<SummarySection> summarySections();
     SummarySection ownSection() const;
 
+    // DialogPresets.cpp
+    void connectPresets();
+    void showPresets();
+    StartingSettings usualStart() const;
+    void startFrom(const QString &preset, const StartingSettings &start);
+    void savePreset();
+    void renamePreset();
+    void deletePreset();
+    void showHiddenAlerts();
+
     // DialogPrint.cpp
     std::optional<JobRequest> finishedJob();
     void print();
@@ -159,6 +169,7 @@ private:
     Result<> m_outcome;
     State m_state = State::Searching;
     QList<Fault> m_shortcomings; ///< of the printer
+    QStringList m_startNotes;    ///< on the settings that it starts from
     Notice m_standing;           ///< shown while there is nothing newer to tell
     QString m_refusalToTell;     ///< of the pick that is going on
     bool m_answersAreNoted = false;

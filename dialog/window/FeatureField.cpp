@@ -18,11 +18,11 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int kContentsLength = 30; // characters: a pop-up does not measure hundreds of texts
-constexpr int kListRows = 6;        // that are seen at once
+constexpr int kFeatureLength = 30; // characters: a pop-up does not measure hundreds of texts
+constexpr int kListRows = 6;       // that are seen at once
 constexpr int kListWidth = 300;
 
-std::vector<PopUpButton::Item> itemsOf(ppd_file_t *ppd, const PrinterFeature &feature)
+std::vector<PopUpButton::Item> choiceItems(ppd_file_t *ppd, const PrinterFeature &feature)
 {
     std::vector<PopUpButton::Item> items;
     const ppd_option_t *option = findOption(ppd, feature.keyword);
@@ -66,8 +66,8 @@ public:
     ChoiceField(ppd_file_t *ppd, const PrinterFeature &feature, QWidget *parent)
         : FeatureField(ppd, feature, parent), m_popup(new PopUpButton(this))
     {
-        m_popup->setMinimumContentsLength(kContentsLength);
-        m_popup->setItems(itemsOf(ppd, feature));
+        m_popup->setMinimumContentsLength(kFeatureLength);
+        m_popup->setItems(choiceItems(ppd, feature));
         addControl(m_popup);
         connect(m_popup, &QComboBox::activated, this, &ChoiceField::choose);
         if (customParameters(ppd, feature.keyword).isEmpty())
@@ -125,7 +125,7 @@ public:
     {
         m_list->setUniformItemSizes(true);
         m_list->setFixedWidth(kListWidth);
-        for (const PopUpButton::Item &choice : itemsOf(ppd, feature)) {
+        for (const PopUpButton::Item &choice : choiceItems(ppd, feature)) {
             auto *item = new QListWidgetItem(choice.title, m_list);
             item->setData(Qt::UserRole, choice.representedObject);
             item->setFlags(Qt::ItemIsEnabled | Qt::ItemIsSelectable | Qt::ItemIsUserCheckable);

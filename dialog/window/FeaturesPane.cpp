@@ -18,9 +18,9 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int kMargin = 16;
-constexpr int kGroupSpacing = 12;
-constexpr int kLeastHeight = 80; // on a very small screen
+constexpr int kFeatureMargin = 16;
+constexpr int kFeatureGroupSpacing = 12;
+constexpr int kLeastPaneHeight = 80; // on a very small screen
 
 QLabel *newHeading(const QString &text)
 {
@@ -54,8 +54,8 @@ void FeaturesPane::reload()
     auto *page = new QWidget;
     page->setAutoFillBackground(false);
     auto *layout = new QVBoxLayout(page);
-    layout->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
-    layout->setSpacing(kGroupSpacing);
+    layout->setContentsMargins(kFeatureMargin, kFeatureMargin, kFeatureMargin, kFeatureMargin);
+    layout->setSpacing(kFeatureGroupSpacing);
     for (const FeatureGroup &group : featuresOf(m_job))
         addGroup(layout, group);
     layout->addStretch(1);
@@ -129,5 +129,5 @@ bool FeaturesPane::isAcceptable() const
 
 QSize FeaturesPane::minimumSizeHint() const
 {
-    return {QScrollArea::minimumSizeHint().width(), kLeastHeight};
+    return {QScrollArea::minimumSizeHint().width(), kLeastPaneHeight};
 }

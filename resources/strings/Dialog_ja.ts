@@ -54,6 +54,10 @@
         <source>--check-ppd only looks at a PPD: it prints and replays nothing.</source>
         <translation>--check-ppd は PPD を調べるだけです。印刷やスクリプトの実行とは同時に指定できません。</translation>
     </message>
+    <message>
+        <source>--forget-alerts only has the warnings shown again: it prints nothing.</source>
+        <translation>--forget-alerts は警告を再び表示させるだけで、印刷は行いません。</translation>
+    </message>
 </context>
 <context>
     <name>Conflicts</name>
@@ -293,6 +297,30 @@
         <source>A value in Printer Features cannot be used. Correct it there to print.</source>
         <translation>「プリンターの機能」に使えない値があります。印刷するには直してください。</translation>
     </message>
+    <message>
+        <source>Save as Preset</source>
+        <translation>プリセットとして保存</translation>
+    </message>
+    <message>
+        <source>Rename Preset</source>
+        <translation>プリセット名の変更</translation>
+    </message>
+    <message>
+        <source>Delete the preset &quot;%1&quot;?</source>
+        <translation>プリセット「%1」を削除しますか?</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>削除</translation>
+    </message>
+    <message>
+        <source>Keep</source>
+        <translation>残す</translation>
+    </message>
+    <message>
+        <source>No warnings are hidden: all are shown.</source>
+        <translation>非表示にした警告はありません。すべて表示されます。</translation>
+    </message>
 </context>
 <context>
     <name>Document</name>
@@ -402,6 +430,44 @@
     </message>
 </context>
 <context>
+    <name>ForgetCommand</name>
+    <message>
+        <source>%1 is no plug-in.</source>
+        <translation>%1 はプラグインではありません。</translation>
+    </message>
+    <message>
+        <source>The user&apos;s settings cannot be written.</source>
+        <translation>ユーザーの設定を書き込めません。</translation>
+    </message>
+    <message>
+        <source>Shown again: %1</source>
+        <translation>再び表示します: %1</translation>
+    </message>
+</context>
+<context>
+    <name>HiddenAlertsDialog</name>
+    <message>
+        <source>Hidden Warnings</source>
+        <translation>非表示の警告</translation>
+    </message>
+    <message>
+        <source>You have asked not to be shown these warnings again. Select those to be shown.</source>
+        <translation>次の警告は表示しない設定になっています。再び表示するものを選んでください。</translation>
+    </message>
+    <message>
+        <source>Show Again</source>
+        <translation>再び表示</translation>
+    </message>
+    <message>
+        <source>Show All Again</source>
+        <translation>すべて再び表示</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>閉じる</translation>
+    </message>
+</context>
+<context>
     <name>HostHelp</name>
     <message>
         <source>Page Setup holds the paper, its orientation, two-sided printing and what else the printer leaves to this dialog. A size of your own is entered below the paper; a word beside the field says when the printer cannot take it.</source>
@@ -493,6 +559,10 @@
         <source>Pages look like this: 1-3, 5</source>
         <translation>「1-3, 5」のように入力してください</translation>
     </message>
+    <message>
+        <source>Prese&amp;t:</source>
+        <translation>プリセット(&amp;T):</translation>
+    </message>
 </context>
 <context>
     <name>JobOptions</name>
@@ -553,6 +623,25 @@
     <message>
         <source>The print server %1 did not say whether it took the job: it may have been printed as job %2.</source>
         <translation>プリントサーバー %1 から、ジョブを受け付けたかどうかの応答がありません。ジョブ %2 として印刷された可能性があります。</translation>
+    </message>
+</context>
+<context>
+    <name>LpoptionsFile</name>
+    <message>
+        <source>The saved settings in %1 cannot be read: %2.</source>
+        <translation>%1 に保存された設定を読み込めません: %2</translation>
+    </message>
+    <message>
+        <source>it is no such file</source>
+        <translation>設定ファイルではありません</translation>
+    </message>
+    <message>
+        <source>Another program is changing %1. Try again.</source>
+        <translation>別のプログラムが %1 を変更しています。もう一度お試しください。</translation>
+    </message>
+    <message>
+        <source>These are too many settings for one name.</source>
+        <translation>設定が多すぎて、1 つの名前では保存できません。</translation>
     </message>
 </context>
 <context>
@@ -800,6 +889,99 @@
     </message>
 </context>
 <context>
+    <name>PresetNameDialog</name>
+    <message>
+        <source>Save</source>
+        <translation>保存</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>キャンセル</translation>
+    </message>
+    <message>
+        <source>&amp;Name:</source>
+        <translation>名前(&amp;N):</translation>
+    </message>
+    <message>
+        <source>There is a preset of this name already.</source>
+        <translation>同じ名前のプリセットがすでにあります。</translation>
+    </message>
+    <message>
+        <source>This replaces the preset of the same name.</source>
+        <translation>同じ名前のプリセットが置き換えられます。</translation>
+    </message>
+</context>
+<context>
+    <name>Presets</name>
+    <message>
+        <source>The preset &quot;%1&quot; was set up for everybody who uses this computer; it cannot be changed here.</source>
+        <translation>プリセット「%1」はこのコンピューターの全員用に設定されたもので、ここでは変更できません。</translation>
+    </message>
+    <message>
+        <source>Give the preset a name.</source>
+        <translation>プリセットの名前を入力してください。</translation>
+    </message>
+    <message>
+        <source>The name of a preset has no spaces, slashes, quotes, braces or #; other programs would not find it. &quot;-&quot; and &quot;_&quot; are fine.</source>
+        <translation>プリセットの名前には空白、スラッシュ、引用符、波括弧、# を使えません（ほかのプログラムから見つけられなくなるため）。「-」と「_」は使えます。</translation>
+    </message>
+    <message>
+        <source>The name is too long.</source>
+        <translation>名前が長すぎます。</translation>
+    </message>
+    <message>
+        <source>There is a preset &quot;%1&quot; already.</source>
+        <translation>プリセット「%1」はすでにあります。</translation>
+    </message>
+</context>
+<context>
+    <name>PresetsRow</name>
+    <message>
+        <source>Presets</source>
+        <translation>プリセット</translation>
+    </message>
+    <message>
+        <source>Save as Preset…</source>
+        <translation>プリセットとして保存…</translation>
+    </message>
+    <message>
+        <source>Rename Preset…</source>
+        <translation>プリセット名の変更…</translation>
+    </message>
+    <message>
+        <source>Delete Preset…</source>
+        <translation>プリセットの削除…</translation>
+    </message>
+    <message>
+        <source>Back to the Printer&apos;s Defaults</source>
+        <translation>プリンターの初期値に戻す</translation>
+    </message>
+    <message>
+        <source>Start with the Settings Used Last</source>
+        <translation>前回の設定で始める</translation>
+    </message>
+    <message>
+        <source>Hidden Warnings…</source>
+        <translation>非表示の警告…</translation>
+    </message>
+    <message>
+        <source>Printer&apos;s Defaults</source>
+        <translation>プリンターの初期値</translation>
+    </message>
+    <message>
+        <source>Usual Settings</source>
+        <translation>いつもの設定</translation>
+    </message>
+    <message>
+        <source>Settings Used Last</source>
+        <translation>前回の設定</translation>
+    </message>
+    <message>
+        <source>%1 (from the printer&apos;s maker)</source>
+        <translation>%1（プリンターメーカー提供）</translation>
+    </message>
+</context>
+<context>
     <name>PrintController</name>
     <message>
         <source>The plug-in could not attach its panels to this printer. Its rules and checks are missing.</source>
@@ -838,6 +1020,18 @@
     <message>
         <source>There is no printer to print to.</source>
         <translation>印刷できるプリンターがありません。</translation>
+    </message>
+    <message>
+        <source>, </source>
+        <translation>、</translation>
+    </message>
+    <message>
+        <source>The printer no longer has some of the settings that you used last: %1.</source>
+        <translation>前回使った設定の一部が、このプリンターにはもうありません: %1</translation>
+    </message>
+    <message>
+        <source>The printer does not have some of the settings that are saved for %1: %2.</source>
+        <translation>%1 に保存された設定の一部が、このプリンターにはありません: %2</translation>
     </message>
 </context>
 <context>
@@ -879,6 +1073,13 @@
     <message>
         <source>The job in %1 can be looked at but not sent: it sets %2, which no saved job may. Remove that from the settings saved for the queue.</source>
         <translation>%1 のジョブは内容を確認できますが、送信はできません。保存されたジョブでは設定できない %2 が含まれています。キューに保存した設定から削除してください。</translation>
+    </message>
+</context>
+<context>
+    <name>SavedOptions</name>
+    <message>
+        <source>There are no settings saved as &quot;%1&quot; for the printer %2.</source>
+        <translation>プリンター %2 に「%1」という名前で保存された設定はありません。</translation>
     </message>
 </context>
 <context>
