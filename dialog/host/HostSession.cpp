@@ -172,9 +172,9 @@ QString HostSession::keywordOfTicketKey(const QString &key) const
 
 QStringList HostSession::titledKeywords() const
 {
-    const QVariantMap keywords =
-        m_plugIn.bundle ? m_plugIn.bundle->infoValue(kPDETicketKeyKeywordsKey).toMap()
-                        : QVariantMap();
+    const QVariantMap keywords = m_plugIn.bundle
+                                     ? m_plugIn.bundle->infoValue(kPDETicketKeyKeywordsKey).toMap()
+                                     : QVariantMap();
     QStringList titled;
     for (const QVariant &keyword : keywords)
         titled += keyword.toString();

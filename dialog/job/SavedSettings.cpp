@@ -29,7 +29,8 @@ constexpr int kMostCopies = 999;
 bool isForCups(ppd_file_t *ppd, const JobOption &option)
 {
     ppd_option_t *found = findOption(ppd, option.name);
-    return !found || isSameName(option.name, "PageSize"_L1) || findChoice(found, option.value);
+    return !found || isSameName(option.name, "PageSize"_L1) ||
+           (found->ui != PPD_UI_PICKMANY && findChoice(found, option.value));
 }
 
 void markAll(ppd_file_t *ppd, SavedSettings &settings, const QList<JobOption> &saved)

@@ -74,6 +74,12 @@ QList<JobOption> neutralised(const PrintJob &job, const QList<JobOption> &option
     return added;
 }
 
+QList<JobOption> presetOptions(const PrintJob &job)
+{
+    const QList<JobOption> options = lastingOptions(job, job.options().options);
+    return options + neutralised(job, options);
+}
+
 } // namespace
 
 QStringList presetNames(const QString &queue)
@@ -125,10 +131,17 @@ Result<> savePreset(const PrintJob &job, const QString &name)
         return presetFault(now.faults.constFirst());
     if (const QString fault = presetNameFault(name); !fault.isNull())
         return presetFault(fault);
-    const QList<JobOption> options = lastingOptions(job, now.options);
     const QueueName preset{job.source().queue.queue, name};
     return changeLpoptions([&](const QByteArray &text) {
-        return Result<QByteArray>(withSavedLine(text, preset, options + neutralised(job, options)));
+        return Result<QByteArray>(withSavedLine(text, preset, presetOptions(job)));
+    });
+}
+
+bool isAsSaved(const PrintJob &job, const QString &name)
+{
+    const QList<JobOption> saved = savedOptions({job.source().queue.queue, name});
+    return std::ranges::all_of(presetOptions(job), [&](const JobOption &option) {
+        return optionValue(saved, option.name) == option.value;
     });
 }
 

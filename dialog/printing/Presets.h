@@ -31,6 +31,10 @@ QList<JobOption> lastingOptions(const PrintJob &job, const QList<JobOption> &opt
 /// nothing is saved: the settings cannot be sent, or not written.
 Result<> savePreset(const PrintJob &job, const QString &name);
 
+/// Whether the job, which was opened with the preset of the name, has still what was saved. Panels
+/// may have changed what does not go together: lp would print something else.
+bool isAsSaved(const PrintJob &job, const QString &name);
+
 /// A fault when the preset is not the user's own, or has gone, or there is one of the new name.
 Result<> renamePreset(const QueueName &preset, const QString &name);
 Result<> deletePreset(const QueueName &preset);

@@ -59,7 +59,7 @@ void CustomValueFields::build()
         addLabelledRow(m_form, tr("%1:").arg(withoutMnemonic(parameter.text)), field.control);
         m_fields.push_back(field);
     }
-    m_form->addRow(m_validation);
+    m_form->setWidget(m_form->rowCount(), QFormLayout::SpanningRole, m_validation);
 }
 
 CustomValueFields::Field CustomValueFields::newField(const CustomParameter &parameter)
@@ -107,7 +107,7 @@ CustomValueFields::Field CustomValueFields::newText(const CustomParameter &param
         field->setEchoMode(QLineEdit::Password);
     connect(field, &QLineEdit::textEdited, this, &CustomValueFields::judge);
     return {field, [field] { return field->text(); },
-            [field](const QString &value) { field->setText(displayText(value)); }};
+            [field](const QString &value) { field->setText(value); }};
 }
 
 QList<CustomParameter> CustomValueFields::values() const

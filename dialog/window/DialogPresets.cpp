@@ -8,7 +8,7 @@
 #include "platform/toolkit/AlertObserver.h"
 #include "platform/toolkit/PlainText.h"
 
-#include <QtCore/QTimer>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -63,10 +63,25 @@ void DialogWindow::savePreset()
     if (dialog.exec() != QDialog::Accepted || m_isEnding)
         return;
     const Result<> saved = ::savePreset(job(), dialog.name());
-    if (saved)
-        startFrom(dialog.name(), {});
-    else
+    if (!saved) {
         tell(NoticeBar::Kind::Error, saved.sentence());
+        return;
+    }
+    m_presetIsNew = true;
+    startFrom(dialog.name(), {});
+}
+
+/// Looks at a preset that was saved just now, and opened: what panels have changed since does not
+/// go together with the rest, and is saved as they have it.
+void DialogWindow::confirmPreset()
+{
+    const QString preset = job().source().queue.instance;
+    if (!std::exchange(m_presetIsNew, false) || m_state != State::Ready || isAsSaved(job(), preset))
+        return;
+    const Result<> saved = ::savePreset(job(), preset);
+    tell(saved ? NoticeBar::Kind::Warning : NoticeBar::Kind::Error,
+         saved ? tr("Some of the settings do not go together: the preset has what is shown now.")
+               : saved.sentence());
 }
 
 void DialogWindow::renamePreset()

@@ -53,6 +53,7 @@ void DialogWindow::takePrinter(const Result<FoundPrinter> &found)
     tellStanding();
     if (found)
         makeRequestedSettings();
+    confirmPreset();
     // Of a server that cannot be reached there is no list.
     const bool isReached = found || found.faultKind() == FaultKind::PPD ||
                            found.faultKind() == FaultKind::NotFound ||

@@ -147,6 +147,7 @@ private:
     StartingSettings usualStart() const;
     void startFrom(const QString &preset, const StartingSettings &start);
     void savePreset();
+    void confirmPreset();
     void renamePreset();
     void deletePreset();
     void showHiddenAlerts();
@@ -175,6 +176,7 @@ private:
     bool m_answersAreNoted = false;
     bool m_requestedSettingsAreMade = false;
     bool m_printersAreListed = false;
+    bool m_presetIsNew = false; ///< the one that is being opened
     bool m_isEnding = false;
     bool m_mayHavePrinted = false; ///< what Print did last
 

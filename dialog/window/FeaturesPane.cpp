@@ -92,7 +92,7 @@ void FeaturesPane::addInstalled(QFormLayout *form, const PrinterFeature &feature
     QLabel *value = newPlainLabel(valueText(m_job.ppd(), feature.keyword, marked));
     value->setObjectName(feature.keyword + u"Installed"_s);
     value->setTextInteractionFlags(Qt::TextSelectableByMouse);
-    form->addRow(newPlainLabel(tr("%1:").arg(feature.text)), value);
+    addLabelledRow(form, tr("%1:").arg(withoutMnemonic(feature.text)), value);
 }
 
 void FeaturesPane::addField(QFormLayout *form, const PrinterFeature &feature)
@@ -103,7 +103,7 @@ void FeaturesPane::addField(QFormLayout *form, const PrinterFeature &feature)
             [this, feature](const QString &value) { choose(feature, value); });
     connect(field, &FeatureField::judged, this, &FeaturesPane::changed);
     if (field->hasOwnTitle())
-        form->addRow(QString(), field);
+        form->setWidget(form->rowCount(), QFormLayout::FieldRole, field);
     else
         addLabelledRow(form, tr("%1:").arg(withoutMnemonic(feature.text)), field);
 }

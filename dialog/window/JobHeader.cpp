@@ -77,6 +77,7 @@ JobHeader::JobHeader(PrintJob &job, QWidget *parent)
                  row({m_copies, label(tr("Pa&ges:"), m_pages), m_pages, m_pagesValidation}, 3));
     setTabOrder(m_choose, m_printers->popup());
     setTabOrder(m_printers->popup(), m_presets->popup());
+    setTabOrder(m_presets->popup(), m_presets->menuButton());
     connect(m_choose, &QPushButton::clicked, this, &JobHeader::documentsWanted);
     connect(m_copies, &NumberField::editedByUser, this, [this] {
         m_job.settings().copies = m_copies->value();

@@ -37,8 +37,8 @@ PresetNameDialog::PresetNameDialog(const QString &title, const QStringList &take
     buttons->addButton(tr("Cancel"), QDialogButtonBox::RejectRole);
     auto *form = new QFormLayout(this);
     addLabelledRow(form, tr("&Name:"), m_name);
-    form->addRow(m_validation);
-    form->addRow(buttons);
+    form->setWidget(form->rowCount(), QFormLayout::SpanningRole, m_validation);
+    form->setWidget(form->rowCount(), QFormLayout::SpanningRole, buttons);
     connect(m_name, &QLineEdit::textEdited, this, &PresetNameDialog::judge);
     connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);

@@ -33,6 +33,7 @@ public:
     void showChoices(const PresetChoices &choices);
 
     PopUpButton *popup() const { return m_popup; }
+    QPushButton *menuButton() const { return m_menu; }
 
 Q_SIGNALS:
     /// The user has picked what the settings are to start from; `preset` is null for none.

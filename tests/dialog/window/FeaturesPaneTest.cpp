@@ -11,6 +11,8 @@
 #include <QtWidgets/QPushButton>
 #include <QtWidgets/QSpinBox>
 
+#include <clocale>
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -209,9 +211,10 @@ TEST_F(FeaturesOf, AnotherPrinterAreNotedInASession)
     pick("WeightFeature", u"Custom"_s);
     ASSERT_TRUE(finishRecording());
     const QByteArray script = readFile(m_line.record);
-    EXPECT_TRUE(script.contains(R"({"do": "mark", "keyword": "Finisher", "choice": "Staple"})"))
+    EXPECT_TRUE(script.contains(R"({"do":"mark","keyword":"Finisher","choice":"Staple"})"))
         << script.toStdString();
-    EXPECT_TRUE(script.contains(R"({"do": "mark", "keyword": "Weight", "choice": "Custom.60"})"));
+    EXPECT_TRUE(script.contains(R"({"do":"mark","keyword":"Weight","choice":"Custom.60"})"))
+        << script.toStdString();
 }
 
 struct Language
@@ -225,10 +228,20 @@ struct Language
 class FeaturesIn : public FeaturesOf, public testing::WithParamInterface<Language>
 {
 protected:
-    FeaturesIn() : m_before(qgetenv("LANG")) { qputenv("LANG", GetParam().locale); }
-    ~FeaturesIn() override { qputenv("LANG", m_before); }
+    // libcups asks the environment where the process has no locale of its own.
+    FeaturesIn() : m_before(qgetenv("LANG")), m_locale(std::setlocale(LC_MESSAGES, nullptr))
+    {
+        std::setlocale(LC_MESSAGES, "C");
+        qputenv("LANG", GetParam().locale);
+    }
+    ~FeaturesIn() override
+    {
+        std::setlocale(LC_MESSAGES, m_locale.constData());
+        qputenv("LANG", m_before);
+    }
 
     const QByteArray m_before;
+    const QByteArray m_locale;
 };
 
 TEST_P(FeaturesIn, TheUsersLanguageStandInThePPDsWords)
