@@ -62,6 +62,9 @@ void HostSession::start()
         setPreferredLanguages(*m_options.languages);
     if (m_plugIn.bundle)
         m_plugIn.bundle->setStrings(m_options.strings);
+    if (m_plugIn.bundle && m_options.replayLanguagesOnly)
+        m_plugIn.bundle->setTableLanguages(
+            m_plugIn.bundle->infoValue(kPDEReplayLanguagesKey).toStringList());
     if (m_plugIn.bundle && m_options.alertMemory)
         UserDefaults::standardUserDefaults().setPersistentDomain(
             *m_options.alertMemory, m_plugIn.bundle->bundleIdentifier());

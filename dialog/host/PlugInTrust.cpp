@@ -1,6 +1,7 @@
 #include "dialog/host/PlugInTrust.h"
 
 #include <QtCore/QByteArray>
+#include <QtCore/QDirIterator>
 #include <QtCore/QFile>
 #include <QtCore/QFileInfo>
 
@@ -9,6 +10,8 @@
 #include <optional>
 #include <pwd.h>
 #include <unistd.h>
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -52,6 +55,20 @@ std::optional<FileRights> rightsOf(const QString &path)
                       status.st_mode};
 }
 
+/// The bundle's views, pictures and texts, and their folders.
+QStringList resourcesOf(const QString &bundle)
+{
+    const QString resources = bundle + u"/Resources"_s;
+    QStringList paths;
+    if (QFileInfo::exists(resources))
+        paths += resources;
+    QDirIterator entries(resources, QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot,
+                         QDirIterator::Subdirectories);
+    while (entries.hasNext())
+        paths += entries.next();
+    return paths;
+}
+
 } // namespace
 
 bool mayBeChangedByOthers(const FileRights &rights, uid_t user)
@@ -74,8 +91,8 @@ QString placeOpenToOthers(const QString &bundlePath, const QString &library)
 {
     const QString bundle = QFileInfo(bundlePath).canonicalFilePath();
     const QString code = QFileInfo(library).canonicalFilePath();
-    const std::array own{code, QFileInfo(code).path(), bundle};
-    for (const QString &path : own) {
+    const QStringList own{code, QFileInfo(code).path(), bundle, bundle + u"/Info.json"_s};
+    for (const QString &path : own + resourcesOf(bundle)) {
         const auto rights = rightsOf(path);
         if (!rights || mayBeChangedByOthers(*rights, geteuid()))
             return path;

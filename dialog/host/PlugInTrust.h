@@ -22,7 +22,9 @@ bool mayBeChangedByOthers(const FileRights &rights, uid_t user);
 /// in a folder like /tmp, where everybody may write and take away nothing but what is their own.
 bool mayBeRefilledByOthers(const FileRights &rights, uid_t user);
 
-/// The first of the bundle's library, its folder, the bundle's folder, and the folder that holds
-/// the bundle, which somebody else than the user of this process may change; null when there is
-/// none. Links are followed. What cannot be looked at counts as one.
+/// The first of the bundle's library, its folder, the bundle's folder, its information, its
+/// resources (a view says which operations its controls call), and the folder that holds the
+/// bundle, which somebody else than the user of this process may change; null when there is none.
+/// Links are followed. What cannot be looked at counts as one, but a bundle may be without
+/// resources.
 QString placeOpenToOthers(const QString &bundlePath, const QString &library);

@@ -31,6 +31,8 @@ struct SessionOptions
     /// The preferred languages of the process from then on; none: they are left alone.
     std::optional<QStringList> languages;
     Bundle::Strings strings = Bundle::Strings::Tables;
+    /// Whether the bundle's tables are those of its kPDEReplayLanguagesKey alone.
+    bool replayLanguagesOnly = false;
     PPDTexts ppdTexts = PPDTexts::InUserLanguage;
     /// Replaces the stored alert memory of the plug-in; none: it is left alone.
     std::optional<QVariantMap> alertMemory;

@@ -63,6 +63,7 @@ ReplaySession::Work ReplaySession::perform(const ReplayOpen &event)
     SessionOptions options = event.options;
     options.bundlePath = m_bundlePath;
     options.ppdTexts = PPDTexts::AsWritten; // a script gives the same on every machine
+    options.replayLanguagesOnly = true;     // and in every version
     m_pictures.addInput(options.ppdPath);
     Result<std::unique_ptr<HostSession>> opened = HostSession::open(options);
     if (!opened)

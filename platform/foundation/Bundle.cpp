@@ -123,12 +123,14 @@ QString Bundle::stringTable(const QString &language) const
 void Bundle::loadStringTable() const
 {
     const QStringList languages = preferredLanguages();
-    if (m_table && m_tableLanguages == languages)
+    if (m_table && m_languagesOfTable == languages)
         return;
-    m_tableLanguages = languages;
+    m_languagesOfTable = languages;
     QStringList candidates;
     for (const QString &language : languages)
         candidates << language << language.section(u'-', 0, 0);
+    if (!m_tableLanguages.isEmpty())
+        candidates.removeIf([this](const QString &one) { return !m_tableLanguages.contains(one); });
     candidates << QStringLiteral("en");
     for (const QString &language : std::as_const(candidates)) {
         const QString path = stringTable(language);
@@ -137,6 +139,12 @@ void Bundle::loadStringTable() const
             return;
     }
     m_table = std::make_unique<QTranslator>();
+}
+
+void Bundle::setTableLanguages(const QStringList &languages)
+{
+    m_tableLanguages = languages;
+    m_table.reset();
 }
 
 QString Bundle::localizedString(const QString &key) const

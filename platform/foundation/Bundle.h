@@ -64,6 +64,10 @@ public:
     /// The tables, unless something else is set.
     void setStrings(Strings strings) { m_strings = strings; }
 
+    /// Looks in the string tables of these languages and in the English one alone; an empty list:
+    /// in all, as at first.
+    void setTableLanguages(const QStringList &languages);
+
 private:
     explicit Bundle(const QString &path);
     QString stringTable(const QString &language) const;
@@ -72,6 +76,7 @@ private:
     QString m_path;
     std::optional<QVariantMap> m_info;
     Strings m_strings = Strings::Tables;
+    QStringList m_tableLanguages; // empty: all
     mutable std::unique_ptr<QTranslator> m_table;
-    mutable QStringList m_tableLanguages;
+    mutable QStringList m_languagesOfTable; // the user's when m_table was opened
 };

@@ -27,6 +27,10 @@ inline constexpr auto kPDEViewsKey = QLatin1String("PDEViews");
 /// The least and the greatest number that the sliders of the panels take: a list of two.
 inline constexpr auto kPDESliderRangeKey = QLatin1String("PDESliderRange");
 
+/// The languages in which replay shows the bundle's texts: a list. A table that is added for
+/// another language then changes no recorded session. Without this entry replay uses every table.
+inline constexpr auto kPDEReplayLanguagesKey = QLatin1String("PDEReplayLanguages");
+
 /// The PPD keywords that no panel shows and the plug-in wants the dialog to offer: a list.
 inline constexpr auto kPDEKeysWatchedKey = QLatin1String("PMPPDKeysWatched");
 

@@ -151,9 +151,12 @@ class StringTable : public BundleTest, public testing::WithParamInterface<TextCa
 const TextCase kTextCases[] = {
     {"English", {u"en"_s}, Bundle::Strings::Tables, u"Cancel"_s},
     {"Japanese", {u"ja"_s}, Bundle::Strings::Tables, u"キャンセル"_s},
+    {"German", {u"de"_s}, Bundle::Strings::Tables, u"Abbrechen"_s},
+    {"GermanOfARegion", {u"de-CH"_s}, Bundle::Strings::Tables, u"Abbrechen"_s},
+    {"French", {u"fr"_s}, Bundle::Strings::Tables, u"Annuler"_s},
     {"JapaneseOfARegion", {u"ja-US"_s}, Bundle::Strings::Tables, u"キャンセル"_s},
-    {"TheFirstLanguageThatHasATable", {u"fr"_s, u"ja"_s}, Bundle::Strings::Tables, u"キャンセル"_s},
-    {"EnglishWhereNoneHasATable", {u"fr"_s, u"it"_s}, Bundle::Strings::Tables, u"Cancel"_s},
+    {"TheFirstLanguageThatHasATable", {u"it"_s, u"ja"_s}, Bundle::Strings::Tables, u"キャンセル"_s},
+    {"EnglishWhereNoneHasATable", {u"es"_s, u"it"_s}, Bundle::Strings::Tables, u"Cancel"_s},
     {"TheKeysThemselves", {u"ja"_s}, Bundle::Strings::Keys, u"Cancel"_s},
 };
 
@@ -180,10 +183,23 @@ TEST_F(BundleTest, GivesTheKeyInKeysModeWhereTheTableHasAnotherText)
 TEST_F(BundleTest, FollowsAChangeOfTheLanguages)
 {
     const auto bundle = Bundle::open(builtBundle());
-    setPreferredLanguages({u"fr"_s, u"ja"_s});
+    setPreferredLanguages({u"it"_s, u"ja"_s});
     EXPECT_EQ(bundle->localizedString(u"Cancel"_s), u"キャンセル"_s);
-    setPreferredLanguages({u"fr"_s, u"en"_s});
+    setPreferredLanguages({u"it"_s, u"en"_s});
     EXPECT_EQ(bundle->localizedString(u"Cancel"_s), u"Cancel"_s);
+}
+
+TEST_F(BundleTest, LooksInTheTablesOfSomeLanguagesAloneWhereToldSo)
+{
+    const auto bundle = Bundle::open(builtBundle());
+    setPreferredLanguages({u"fr"_s, u"ja"_s});
+    EXPECT_EQ(bundle->localizedString(u"Cancel"_s), u"Annuler"_s);
+    bundle->setTableLanguages({u"ja"_s});
+    EXPECT_EQ(bundle->localizedString(u"Cancel"_s), u"キャンセル"_s);
+    setPreferredLanguages({u"fr"_s});
+    EXPECT_EQ(bundle->localizedString(u"Cancel"_s), u"Cancel"_s);
+    bundle->setTableLanguages({});
+    EXPECT_EQ(bundle->localizedString(u"Cancel"_s), u"Annuler"_s);
 }
 
 TEST_F(BundleTest, PassesOverADamagedStringTable)

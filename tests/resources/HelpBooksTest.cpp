@@ -1,6 +1,7 @@
 #include "tests/resources/Places.h"
 #include "tests/support/Files.h"
 
+#include <QtCore/QRegularExpression>
 #include <QtGui/QTextBlock>
 #include <QtGui/QTextDocument>
 
@@ -63,9 +64,32 @@ TEST_P(HelpBooks, LinkOnlyToTheirOwnSections)
 
 INSTANTIATE_TEST_SUITE_P(
     Pages, HelpBooks,
-    testing::Values(Page{"VKInkPrintSetting14", "en"}, Page{"VKInkPrintSetting14", "ja"},
-                    Page{"VKInkColorSetting", "en"}, Page{"VKInkColorSetting", "ja"}),
+    testing::Values(Page{"VKInkPrintSetting14", "de"}, Page{"VKInkPrintSetting14", "en"},
+                    Page{"VKInkPrintSetting14", "fr"}, Page{"VKInkPrintSetting14", "ja"},
+                    Page{"VKInkColorSetting", "de"}, Page{"VKInkColorSetting", "en"},
+                    Page{"VKInkColorSetting", "fr"}, Page{"VKInkColorSetting", "ja"}),
     [](const auto &row) { return std::string(row.param.book) + "_" + row.param.language; });
+
+// The sections, tables and rows of a page, by its tags; that of the whole page names its language.
+QStringList structureOf(const QString &book, const QString &language)
+{
+    static const QRegularExpression tag(u"<[^>]*>"_s);
+    const QString page =
+        QString::fromUtf8(readFile(helpFile(u"%1.help/%2/index.html"_s.arg(book, language))));
+    QStringList tags;
+    for (const QRegularExpressionMatch &match : tag.globalMatch(page))
+        tags += match.captured();
+    EXPECT_EQ(tags.removeAll(u"<html lang=\"%1\">"_s.arg(language)), 1) << qPrintable(language);
+    return tags;
+}
+
+TEST(HelpBookPages, SayTheSameInGermanAndFrenchAsInEnglish)
+{
+    for (const QString &book : {u"VKInkPrintSetting14"_s, u"VKInkColorSetting"_s})
+        for (const QString &language : {u"de"_s, u"fr"_s})
+            EXPECT_EQ(structureOf(book, language), structureOf(book, u"en"_s))
+                << qPrintable(language);
+}
 
 TEST(HelpBookNames, AreThoseThatThePanelsAskFor)
 {

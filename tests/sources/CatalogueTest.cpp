@@ -20,13 +20,23 @@ QString stringTable(const QString &name)
     return projectPath(u"resources/strings/"_s + name);
 }
 
-TEST(Catalogue, OfTheDialogHasEverySentenceOfTheSourcesAndNoOther)
+// English stands in the sources.
+const QString kLanguages[] = {u"de"_s, u"fr"_s, u"ja"_s};
+
+class Catalogue : public testing::TestWithParam<QString>
+{};
+
+TEST_P(Catalogue, OfTheDialogHasEverySentenceOfTheSourcesAndNoOther)
 {
     QStringList folders;
     for (const QString &folder : kProductFolders)
         folders += projectPath(folder);
-    EXPECT_EQ(catalogueFaults(stringTable(u"Dialog_ja.ts"_s), folders), QStringList());
+    EXPECT_EQ(catalogueFaults(stringTable(u"Dialog_%1.ts"_s.arg(GetParam())), folders),
+              QStringList());
 }
+
+INSTANTIATE_TEST_SUITE_P(Languages, Catalogue, testing::ValuesIn(kLanguages),
+                         [](const auto &language) { return language.param.toStdString(); });
 
 QString panelSources()
 {
@@ -51,13 +61,17 @@ TEST_P(StringTable, HasEveryKeyThatThePanelsLookUpAndNoOther)
 }
 
 INSTANTIATE_TEST_SUITE_P(Languages, StringTable,
-                         testing::Values(u"Localizable_en.ts"_s, u"Localizable_ja.ts"_s),
+                         testing::Values(u"Localizable_de.ts"_s, u"Localizable_en.ts"_s,
+                                         u"Localizable_fr.ts"_s, u"Localizable_ja.ts"_s),
                          [](const auto &table) { return table.param.chopped(3).toStdString(); });
 
-TEST(StringTables, HaveTheSameKeysInBothLanguages)
+TEST(StringTables, HaveTheSameKeysAndPlacesInEveryLanguage)
 {
-    EXPECT_EQ(translatedKeys(stringTable(u"Localizable_en.ts"_s)),
-              translatedKeys(stringTable(u"Localizable_ja.ts"_s)));
+    for (const QString &language : kLanguages)
+        EXPECT_EQ(tableFaults(stringTable(u"Localizable_en.ts"_s),
+                              stringTable(u"Localizable_%1.ts"_s.arg(language))),
+                  QStringList())
+            << qPrintable(language);
 }
 
 TEST(KeysLookedUp, AreAllLiteralsOfACall)
@@ -67,12 +81,13 @@ TEST(KeysLookedUp, AreAllLiteralsOfACall)
               QStringList({u"A"_s, u"B 1"_s, u"B 2"_s}));
 }
 
-// The check itself, held against a source of one sentence.
+// The check itself, held against a source of three texts.
 
 constexpr auto kSource = R"(
 #include <QtCore/QCoreApplication>
 QString sentence() { return QCoreApplication::translate("Place", "The paper is out."); }
 QString other() { return shown(QT_TRANSLATE_NOOP("Place", "Add " "paper.")); }
+QString label() { return QCoreApplication::translate("Place", "&Tray %1:"); }
 )";
 
 const QString kCatalogue = uR"(<?xml version="1.0" encoding="utf-8"?>
@@ -93,8 +108,15 @@ QString message(const QString &source, const QString &translation)
     return u"<message><source>%1</source>%2</message>"_s.arg(source, translation);
 }
 
-const QString kOut = message(u"The paper is out."_s, u"<translation>紙切れ</translation>"_s);
-const QString kAdd = message(u"Add paper."_s, u"<translation>給紙</translation>"_s);
+const QString kOut = message(u"The paper is out."_s, u"<translation>紙切れです。</translation>"_s);
+const QString kAdd = message(u"Add paper."_s, u"<translation>給紙してください。</translation>"_s);
+
+QString trayMessage(const QString &translation)
+{
+    return message(u"&amp;Tray %1:"_s, u"<translation>%1</translation>"_s.arg(translation));
+}
+
+const QString kTray = trayMessage(u"トレイ%1(&amp;T):"_s);
 
 class WrittenCatalogue : public testing::TestWithParam<Written>
 {};
@@ -111,20 +133,31 @@ TEST_P(WrittenCatalogue, IsHeldAgainstTheSources)
 }
 
 const Written kWritten[] = {
-    {"Whole", kOut + kAdd, {}},
-    {"Lacking", kOut, {u"Place: Add paper.: is not translated"_s}},
+    {"Whole", kOut + kAdd + kTray, {}},
+    {"Lacking", kOut + kTray, {u"Place: Add paper.: is not translated"_s}},
     {"Unfinished",
-     kOut + message(u"Add paper."_s, u"<translation type=\"unfinished\">給紙</translation>"_s),
+     kOut + kTray +
+         message(u"Add paper."_s,
+                 u"<translation type=\"unfinished\">給紙してください。</translation>"_s),
      {u"Place: Add paper.: is not translated"_s}},
     {"Empty",
-     kOut + message(u"Add paper."_s, u"<translation></translation>"_s),
+     kOut + kTray + message(u"Add paper."_s, u"<translation></translation>"_s),
      {u"Place: Add paper.: is not translated"_s}},
     {"LeftOver",
-     kOut + kAdd + message(u"Ink is out."_s, u"<translation>インク切れ</translation>"_s),
+     kOut + kAdd + kTray + message(u"Ink is out."_s, u"<translation>インク切れ</translation>"_s),
      {u"Place: Ink is out.: is said nowhere"_s}},
     {"TwoInOneMessage",
-     QString(kOut + kAdd).remove(u"</message><message>"_s),
+     kTray + QString(kOut + kAdd).remove(u"</message><message>"_s),
      {u"Place: The paper is out.: is not translated"_s}},
+    {"WithoutThePlace",
+     kOut + kAdd + trayMessage(u"トレイ(&amp;T):"_s),
+     {u"Place: &Tray %1:: has other places or mnemonics"_s}},
+    {"WithoutTheMnemonic",
+     kOut + kAdd + trayMessage(u"トレイ%1:"_s),
+     {u"Place: &Tray %1:: has other places or mnemonics"_s}},
+    {"EndingOtherwise",
+     kOut + kAdd + trayMessage(u"トレイ%1(&amp;T)。"_s),
+     {u"Place: &Tray %1:: ends otherwise"_s}},
 };
 
 INSTANTIATE_TEST_SUITE_P(Table, WrittenCatalogue, testing::ValuesIn(kWritten), CaseName());

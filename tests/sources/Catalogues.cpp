@@ -9,6 +9,9 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <iterator>
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -60,6 +63,45 @@ void update(const QString &catalogue, const QStringList &folders)
         ADD_FAILURE() << lupdate.errorString().toStdString() << lupdate.readAll().toStdString();
 }
 
+/// How often %1, %2, ... and "&" before a letter stand in the text, sorted.
+QStringList marksOf(const QString &text)
+{
+    static const QRegularExpression mark(u"%[0-9]+|&&|&"_s);
+    QStringList marks;
+    for (const QRegularExpressionMatch &match : mark.globalMatch(text))
+        marks += match.captured();
+    marks.removeAll(u"&&"_s);
+    marks.sort();
+    return marks;
+}
+
+// One row for each way to end.
+const QStringList kEndings[] = {
+    {u"."_s, u"。"_s},
+    {u"?"_s, u"？"_s},
+    {u"…"_s},
+    {u":"_s},
+};
+
+/// What the text ends with: the number of a row, or -1 for a text that is no sentence.
+qsizetype endingOf(const QString &text)
+{
+    const auto ends = [&text](const QString &ending) { return text.endsWith(ending); };
+    const auto row = std::ranges::find_if(
+        kEndings, [&](const QStringList &one) { return std::ranges::any_of(one, ends); });
+    return row == std::end(kEndings) ? -1 : row - std::begin(kEndings);
+}
+
+/// What is wrong with the form of a translation; null: nothing.
+QString faultOfForm(const QString &english, const QString &translation)
+{
+    if (marksOf(english) != marksOf(translation))
+        return u": has other places or mnemonics"_s;
+    if (endingOf(english) != endingOf(translation))
+        return u": ends otherwise"_s;
+    return {};
+}
+
 } // namespace
 
 QStringList catalogueFaults(const QString &catalogue, const QStringList &folders)
@@ -75,6 +117,28 @@ QStringList catalogueFaults(const QString &catalogue, const QStringList &folders
             faults += place + u": is said nowhere"_s;
         else if (!message.state.isEmpty() || message.translation.isEmpty())
             faults += place + u": is not translated"_s;
+        else if (const QString fault = faultOfForm(message.source, message.translation);
+                 !fault.isNull())
+            faults += place + fault;
+    }
+    return faults;
+}
+
+QStringList tableFaults(const QString &reference, const QString &table)
+{
+    const QList<Message> expected = messagesOf(reference);
+    const QList<Message> actual = messagesOf(table);
+    QStringList faults;
+    for (qsizetype row = 0; row < std::max(expected.size(), actual.size()); ++row) {
+        const Message english = expected.value(row);
+        const Message other = actual.value(row);
+        if (english.source != other.source)
+            return faults << other.source + u": "_s + english.source + u" is to stand here"_s;
+        const QString fault = other.translation.isEmpty()
+                                  ? u": is not translated"_s
+                                  : faultOfForm(english.translation, other.translation);
+        if (!fault.isNull())
+            faults += english.source + fault;
     }
     return faults;
 }

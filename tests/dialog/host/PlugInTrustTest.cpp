@@ -4,6 +4,7 @@
 
 #include <QtCore/QDir>
 #include <QtCore/QFile>
+#include <QtCore/QFileInfo>
 #include <QtCore/QTemporaryDir>
 
 #include <gtest/gtest.h>
@@ -58,10 +59,12 @@ class BundlePlaces : public testing::Test
 protected:
     BundlePlaces()
     {
-        QDir(m_folder.path()).mkpath(u"plug-ins/Some.bundle"_s);
-        writeFile(library(), "code");
-        allow(library(), 0755);
-        allow(bundle(), 0755);
+        QDir(m_folder.path()).mkpath(u"plug-ins/Some.bundle/Resources/Pictures"_s);
+        for (const QString &file : {library(), info(), view(), picture()}) {
+            writeFile(file, "something");
+            allow(file, 0755);
+            allow(QFileInfo(file).path(), 0755);
+        }
         allow(plugIns(), 0755);
     }
 
@@ -73,6 +76,9 @@ protected:
     QString plugIns() const { return m_folder.filePath(u"plug-ins"_s); }
     QString bundle() const { return plugIns() + u"/Some.bundle"_s; }
     QString library() const { return bundle() + u"/plugin.so"_s; }
+    QString info() const { return bundle() + u"/Info.json"_s; }
+    QString view() const { return bundle() + u"/Resources/View.ui"_s; }
+    QString picture() const { return bundle() + u"/Resources/Pictures/Tray.tiff"_s; }
     QString openPlace() const { return placeOpenToOthers(bundle(), library()); }
 
     QTemporaryDir m_folder;
@@ -87,6 +93,22 @@ TEST_F(BundlePlaces, AreOpenThroughTheLibrary)
 {
     allow(library(), 0757);
     EXPECT_EQ(openPlace(), library());
+}
+
+TEST_F(BundlePlaces, AreOpenThroughWhatTheBundleSaysAndShows)
+{
+    for (const QString &path :
+         {info(), QFileInfo(view()).path(), view(), QFileInfo(picture()).path(), picture()}) {
+        allow(path, 0757);
+        EXPECT_EQ(openPlace(), path);
+        allow(path, 0755);
+    }
+}
+
+TEST_F(BundlePlaces, NeedNoResources)
+{
+    ASSERT_TRUE(QDir(bundle() + u"/Resources"_s).removeRecursively());
+    EXPECT_EQ(openPlace(), QString());
 }
 
 TEST_F(BundlePlaces, AreOpenThroughTheBundle)

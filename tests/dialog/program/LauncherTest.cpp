@@ -71,10 +71,19 @@ TEST(Launcher, RefusesAnUnknownOption)
 
 TEST(Launcher, RefusesInTheUsersLanguage)
 {
-    const LauncherOutcome result =
-        runProgram(QStringLiteral(PROGRAM), {u"--nonsense"_s}, {{u"LANGUAGE"_s, u"ja"_s}});
-    EXPECT_EQ(result.status, 2);
-    EXPECT_EQ(result.error, "velkaro-print: --nonsense というオプションはありません。\n");
+    const std::pair<QString, const char *> cases[] = {
+        {u"de"_s, "velkaro-print: Die Option --nonsense gibt es nicht.\n"},
+        {u"de_CH"_s, "velkaro-print: Die Option --nonsense gibt es nicht.\n"},
+        {u"fr"_s, "velkaro-print: L’option --nonsense n’existe pas.\n"},
+        {u"it:fr"_s, "velkaro-print: L’option --nonsense n’existe pas.\n"},
+        {u"ja"_s, "velkaro-print: --nonsense というオプションはありません。\n"},
+    };
+    for (const auto &[language, sentence] : cases) {
+        const LauncherOutcome result =
+            runProgram(QStringLiteral(PROGRAM), {u"--nonsense"_s}, {{u"LANGUAGE"_s, language}});
+        EXPECT_EQ(result.status, 2);
+        EXPECT_EQ(result.error, sentence);
+    }
 }
 
 TEST(Launcher, NamesSettingsThatClashAsJapaneseIsWritten)

@@ -1,0 +1,942 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="de" sourcelanguage="en">
+<context>
+    <name>CheckCommand</name>
+    <message>
+        <source>The plug-in %1 cannot check a PPD.</source>
+        <translation>Das Plug-in %1 kann keine PPD-Datei prüfen.</translation>
+    </message>
+</context>
+<context>
+    <name>CommandLine</name>
+    <message>
+        <source>&quot;%1&quot; is not the name of a queue.</source>
+        <translation>„%1“ ist kein Name einer Warteschlange.</translation>
+    </message>
+    <message>
+        <source>-o needs KEY=VALUE, not &quot;%1&quot;.</source>
+        <translation>-o erwartet KEY=VALUE, nicht „%1“.</translation>
+    </message>
+    <message>
+        <source>%1 needs a value.</source>
+        <translation>%1 braucht einen Wert.</translation>
+    </message>
+    <message>
+        <source>There is no option %1.</source>
+        <translation>Die Option %1 gibt es nicht.</translation>
+    </message>
+    <message>
+        <source>%1 takes no value.</source>
+        <translation>%1 nimmt keinen Wert an.</translation>
+    </message>
+    <message>
+        <source>--replay and --record do not go together.</source>
+        <translation>--replay und --record lassen sich nicht zusammen verwenden.</translation>
+    </message>
+    <message>
+        <source>--no-dialog and --screenshot do not go together.</source>
+        <translation>--no-dialog und --screenshot lassen sich nicht zusammen verwenden.</translation>
+    </message>
+    <message>
+        <source>--no-dialog needs a document to print.</source>
+        <translation>--no-dialog braucht ein Dokument, das gedruckt werden soll.</translation>
+    </message>
+    <message>
+        <source>--yes is for --no-dialog.</source>
+        <translation>--yes gilt nur zusammen mit --no-dialog.</translation>
+    </message>
+    <message>
+        <source>The value of %1 is no UTF-8 text.</source>
+        <translation>Der Wert von %1 ist kein UTF-8-Text.</translation>
+    </message>
+    <message>
+        <source>--check-ppd only looks at a PPD: it prints and replays nothing.</source>
+        <translation>--check-ppd prüft nur eine PPD-Datei: Es wird nichts gedruckt und kein Skript ausgeführt.</translation>
+    </message>
+</context>
+<context>
+    <name>Conflicts</name>
+    <message>
+        <source>&quot;%1&quot;</source>
+        <translation>„%1“</translation>
+    </message>
+    <message>
+        <source>, </source>
+        <translation>, </translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; cannot be chosen: the printer does not allow it together with %2.</source>
+        <translation>„%1“ kann nicht gewählt werden: Der Drucker lässt es zusammen mit %2 nicht zu.</translation>
+    </message>
+</context>
+<context>
+    <name>CustomSizeFields</name>
+    <message>
+        <source>mm</source>
+        <translation>mm</translation>
+    </message>
+    <message>
+        <source>inches</source>
+        <translation>Zoll</translation>
+    </message>
+    <message>
+        <source>Unit</source>
+        <translation>Einheit</translation>
+    </message>
+    <message>
+        <source>&amp;Width:</source>
+        <translation>&amp;Breite:</translation>
+    </message>
+    <message>
+        <source>Too small: at least %1.</source>
+        <translation>Zu klein: mindestens %1.</translation>
+    </message>
+    <message>
+        <source>Too large: at most %1.</source>
+        <translation>Zu groß: höchstens %1.</translation>
+    </message>
+    <message>
+        <source>Heigh&amp;t:</source>
+        <translation>Höh&amp;e:</translation>
+    </message>
+</context>
+<context>
+    <name>DialogCommand</name>
+    <message>
+        <source>There is no display for the dialog; --no-dialog prints without it.</source>
+        <translation>Für den Dialog ist kein Bildschirm vorhanden; mit --no-dialog wird ohne ihn gedruckt.</translation>
+    </message>
+</context>
+<context>
+    <name>DialogWindow</name>
+    <message>
+        <source>Velkaro Print</source>
+        <translation>Velkaro Print</translation>
+    </message>
+    <message>
+        <source>Page Setup</source>
+        <translation>Seite einrichten</translation>
+    </message>
+    <message>
+        <source>Summary</source>
+        <translation>Zusammenfassung</translation>
+    </message>
+    <message>
+        <source>Also Sent</source>
+        <translation>Wird auch gesendet</translation>
+    </message>
+    <message>
+        <source>The settings of this panel cannot be shown: a part of the plug-in is missing. Install Velkaro Print again.</source>
+        <translation>Die Einstellungen dieses Bereichs können nicht angezeigt werden: Ein Teil des Plug-ins fehlt. Installieren Sie Velkaro Print neu.</translation>
+    </message>
+    <message>
+        <source>Paper</source>
+        <translation>Papier</translation>
+    </message>
+    <message>
+        <source>The printer cannot take the paper size in Page Setup. Correct it there to print.</source>
+        <translation>Der Drucker kann das Papierformat unter „Seite einrichten“ nicht verarbeiten. Ändern Sie es dort, um zu drucken.</translation>
+    </message>
+    <message>
+        <source>Color Matching</source>
+        <translation>Farbanpassung</translation>
+    </message>
+    <message>
+        <source>By the Printer</source>
+        <translation>Durch den Drucker</translation>
+    </message>
+    <message>
+        <source>By the Application</source>
+        <translation>Durch die Anwendung</translation>
+    </message>
+    <message>
+        <source>Scaled to Fit</source>
+        <translation>Skaliert auf</translation>
+    </message>
+    <message>
+        <source>Orientation</source>
+        <translation>Ausrichtung</translation>
+    </message>
+    <message>
+        <source>Landscape</source>
+        <translation>Querformat</translation>
+    </message>
+    <message>
+        <source>Portrait</source>
+        <translation>Hochformat</translation>
+    </message>
+    <message>
+        <source>Copies</source>
+        <translation>Exemplare</translation>
+    </message>
+    <message>
+        <source>Pages</source>
+        <translation>Seiten</translation>
+    </message>
+    <message>
+        <source>All</source>
+        <translation>Alle</translation>
+    </message>
+    <message>
+        <source>Save Job</source>
+        <translation>Auftrag speichern</translation>
+    </message>
+    <message>
+        <source>Print jobs (*.velkaro-job);;All files (*)</source>
+        <translation>Druckaufträge (*.velkaro-job);;Alle Dateien (*)</translation>
+    </message>
+    <message>
+        <source>Sending the job to %1…</source>
+        <translation>Der Auftrag wird an %1 gesendet …</translation>
+    </message>
+    <message>
+        <source>Job %1 was accepted. %2</source>
+        <translation>Auftrag %1 wurde angenommen. %2</translation>
+    </message>
+    <message>
+        <source>Looking for a printer…</source>
+        <translation>Drucker wird gesucht …</translation>
+    </message>
+    <message>
+        <source>Reading %1…</source>
+        <translation>%1 wird gelesen …</translation>
+    </message>
+    <message>
+        <source>Asking %1 about its settings…</source>
+        <translation>Die Einstellungen von %1 werden abgefragt …</translation>
+    </message>
+    <message>
+        <source>%1 It prints with the settings of this dialog alone.</source>
+        <translation>%1 Gedruckt wird nur mit den Einstellungen dieses Dialogs.</translation>
+    </message>
+    <message>
+        <source>There is no panel %1.</source>
+        <translation>Den Bereich %1 gibt es nicht.</translation>
+    </message>
+    <message>
+        <source>This printer has none of the settings that the panels are for. It prints with the settings of this dialog alone.</source>
+        <translation>Dieser Drucker hat keine der Einstellungen, für die es hier eigene Bereiche gibt. Gedruckt wird nur mit den Einstellungen dieses Dialogs.</translation>
+    </message>
+    <message>
+        <source>Choose a document to print.</source>
+        <translation>Wählen Sie ein Dokument zum Drucken aus.</translation>
+    </message>
+    <message>
+        <source>No queue was chosen: the job can be saved to a file.</source>
+        <translation>Es ist keine Warteschlange ausgewählt: Der Auftrag kann in einer Datei gespeichert werden.</translation>
+    </message>
+    <message>
+        <source>Print</source>
+        <translation>Drucken</translation>
+    </message>
+    <message>
+        <source>Help</source>
+        <translation>Hilfe</translation>
+    </message>
+    <message>
+        <source>Save to &amp;File…</source>
+        <translation>In &amp;Datei speichern …</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Speichern</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Schließen</translation>
+    </message>
+    <message>
+        <source>Choose Documents</source>
+        <translation>Dokumente auswählen</translation>
+    </message>
+    <message>
+        <source>Documents (*.pdf *.ps *.txt *.png *.jpg *.jpeg);;All files (*)</source>
+        <translation>Dokumente (*.pdf *.ps *.txt *.png *.jpg *.jpeg);;Alle Dateien (*)</translation>
+    </message>
+    <message>
+        <source>Print Again</source>
+        <translation>Erneut drucken</translation>
+    </message>
+    <message>
+        <source>Writing the job to %1…</source>
+        <translation>Der Auftrag wird in %1 geschrieben …</translation>
+    </message>
+    <message>
+        <source>Reading the document to its end…</source>
+        <translation>Das Dokument wird bis zum Ende gelesen …</translation>
+    </message>
+    <message>
+        <source>%1 exists already. Replace it?</source>
+        <translation>%1 ist bereits vorhanden. Ersetzen?</translation>
+    </message>
+    <message>
+        <source>Replace</source>
+        <translation>Ersetzen</translation>
+    </message>
+</context>
+<context>
+    <name>Document</name>
+    <message>
+        <source>The document %1 has become shorter or longer since it was opened.</source>
+        <translation>Das Dokument %1 ist seit dem Öffnen kürzer oder länger geworden.</translation>
+    </message>
+    <message>
+        <source>The document %1 cannot be read to its end.</source>
+        <translation>Das Dokument %1 kann nicht bis zum Ende gelesen werden.</translation>
+    </message>
+</context>
+<context>
+    <name>DocumentFile</name>
+    <message>
+        <source>The document %1 does not exist.</source>
+        <translation>Das Dokument %1 ist nicht vorhanden.</translation>
+    </message>
+    <message>
+        <source>%1 is a folder, not a document.</source>
+        <translation>%1 ist ein Ordner, kein Dokument.</translation>
+    </message>
+    <message>
+        <source>The document %1 is empty.</source>
+        <translation>Das Dokument %1 ist leer.</translation>
+    </message>
+    <message>
+        <source>The document %1 cannot be read: %2.</source>
+        <translation>Das Dokument %1 kann nicht gelesen werden: %2.</translation>
+    </message>
+    <message>
+        <source>%1 is a named pipe, not a document.</source>
+        <translation>%1 ist eine benannte Pipe, kein Dokument.</translation>
+    </message>
+    <message>
+        <source>%1 is a socket, not a document.</source>
+        <translation>%1 ist ein Socket, kein Dokument.</translation>
+    </message>
+    <message>
+        <source>%1 is a device, not a document.</source>
+        <translation>%1 ist ein Gerät, kein Dokument.</translation>
+    </message>
+    <message>
+        <source>Standard input</source>
+        <translation>Standardeingabe</translation>
+    </message>
+</context>
+<context>
+    <name>HostHelp</name>
+    <message>
+        <source>Page Setup holds the paper, its orientation, two-sided printing and what else the printer leaves to this dialog. A size of your own is entered below the paper; a word beside the field says when the printer cannot take it.</source>
+        <translation>„Seite einrichten“ enthält das Papier, seine Ausrichtung, den beidseitigen Druck und was der Drucker sonst diesem Dialog überlässt. Ein eigenes Format wird unter dem Papier eingegeben; neben dem Feld steht, wenn der Drucker es nicht verarbeiten kann.</translation>
+    </message>
+    <message>
+        <source>When the printer does not allow two settings together, the second one is not made, and a line above the tabs names both.</source>
+        <translation>Lässt der Drucker zwei Einstellungen nicht zusammen zu, wird die zweite nicht übernommen, und eine Zeile über den Registern nennt beide.</translation>
+    </message>
+    <message>
+        <source>Summary lists everything that will be printed with. &quot;Save to File&quot; keeps the job with its documents; send it later with velkaro-print --no-dialog.</source>
+        <translation>„Zusammenfassung“ zeigt alles, womit gedruckt wird. „In Datei speichern“ bewahrt den Auftrag mit seinen Dokumenten auf; senden Sie ihn später mit velkaro-print --no-dialog.</translation>
+    </message>
+    <message>
+        <source>Print Help</source>
+        <translation>Hilfe zum Drucken</translation>
+    </message>
+    <message>
+        <source>&quot;Scale to Fit&quot; prints the document on another paper than it was made for, and makes it larger or smaller to fill that.</source>
+        <translation>„Skalieren auf“ druckt das Dokument auf ein anderes Papier als das, für das es erstellt wurde, und vergrößert oder verkleinert es entsprechend.</translation>
+    </message>
+</context>
+<context>
+    <name>JobFile</name>
+    <message>
+        <source>%1 is no saved job.</source>
+        <translation>%1 ist kein gespeicherter Auftrag.</translation>
+    </message>
+    <message>
+        <source>The saved job %1 is damaged.</source>
+        <translation>Der gespeicherte Auftrag %1 ist beschädigt.</translation>
+    </message>
+    <message>
+        <source>The saved job %1 is cut short: its end is missing.</source>
+        <translation>Der gespeicherte Auftrag %1 ist unvollständig: Sein Ende fehlt.</translation>
+    </message>
+    <message>
+        <source>The saved job %1 is damaged: its header has no end.</source>
+        <translation>Der gespeicherte Auftrag %1 ist beschädigt: Sein Kopfteil hat kein Ende.</translation>
+    </message>
+    <message>
+        <source>The saved job %1 has too many documents: %2 are the most.</source>
+        <translation>Der gespeicherte Auftrag %1 hat zu viele Dokumente: Höchstens %2 sind möglich.</translation>
+    </message>
+    <message>
+        <source>The saved job %1 has too many settings: %2 are the most.</source>
+        <translation>Der gespeicherte Auftrag %1 hat zu viele Einstellungen: Höchstens %2 sind möglich.</translation>
+    </message>
+    <message>
+        <source>%1 would have too many documents: %2 are the most.</source>
+        <translation>%1 hätte zu viele Dokumente: Höchstens %2 sind möglich.</translation>
+    </message>
+    <message>
+        <source>The job was not written.</source>
+        <translation>Der Auftrag wurde nicht geschrieben.</translation>
+    </message>
+</context>
+<context>
+    <name>JobHeader</name>
+    <message>
+        <source>C&amp;hoose…</source>
+        <translation>Aus&amp;wählen …</translation>
+    </message>
+    <message>
+        <source>All, or 1-3, 5</source>
+        <translation>Alle, oder 1-3, 5</translation>
+    </message>
+    <message>
+        <source>Document:</source>
+        <translation>Dokument:</translation>
+    </message>
+    <message>
+        <source>Pri&amp;nter:</source>
+        <translation>Druc&amp;ker:</translation>
+    </message>
+    <message>
+        <source>&amp;Copies:</source>
+        <translation>E&amp;xemplare:</translation>
+    </message>
+    <message>
+        <source>Pa&amp;ges:</source>
+        <translation>Se&amp;iten:</translation>
+    </message>
+    <message>
+        <source>No document</source>
+        <translation>Kein Dokument</translation>
+    </message>
+    <message>
+        <source>Pages look like this: 1-3, 5</source>
+        <translation>Seiten werden so angegeben: 1-3, 5</translation>
+    </message>
+</context>
+<context>
+    <name>JobOptions</name>
+    <message>
+        <source>The setting %1 cannot be sent: &quot;%2&quot; is no value that a print server may be given.</source>
+        <translation>Die Einstellung %1 kann nicht gesendet werden: „%2“ ist kein Wert, der einem Druckserver übergeben werden darf.</translation>
+    </message>
+    <message>
+        <source>The setting &quot;%1&quot; cannot be sent: a print server may be given no setting of that name.</source>
+        <translation>Die Einstellung „%1“ kann nicht gesendet werden: Einem Druckserver darf keine Einstellung dieses Namens übergeben werden.</translation>
+    </message>
+</context>
+<context>
+    <name>JobReadBack</name>
+    <message>
+        <source>The server holds job %1 (%2).</source>
+        <translation>Der Server hält Auftrag %1 zurück (%2).</translation>
+    </message>
+    <message>
+        <source>The server dropped the setting %1=%2.</source>
+        <translation>Der Server hat die Einstellung %1=%2 verworfen.</translation>
+    </message>
+    <message>
+        <source>The server changed the setting %1 from %2 to %3.</source>
+        <translation>Der Server hat die Einstellung %1 von %2 in %3 geändert.</translation>
+    </message>
+    <message>
+        <source>The server has cancelled job %1 (%2).</source>
+        <translation>Der Server hat Auftrag %1 abgebrochen (%2).</translation>
+    </message>
+    <message>
+        <source>The server has aborted job %1 (%2).</source>
+        <translation>Der Server hat Auftrag %1 vorzeitig beendet (%2).</translation>
+    </message>
+    <message>
+        <source>The server has ended job %1 with errors (%2).</source>
+        <translation>Der Server hat Auftrag %1 mit Fehlern beendet (%2).</translation>
+    </message>
+    <message>
+        <source>Whether the server keeps all settings of job %1 is not known: its account of the job cannot be read.</source>
+        <translation>Ob der Server alle Einstellungen von Auftrag %1 übernommen hat, ist nicht bekannt: Seine Angaben zum Auftrag sind nicht lesbar.</translation>
+    </message>
+</context>
+<context>
+    <name>JobSettlement</name>
+    <message>
+        <source>%1 Job %2 could not be cancelled at %3 and may be printed.</source>
+        <translation>%1 Auftrag %2 konnte auf %3 nicht abgebrochen werden und wird möglicherweise gedruckt.</translation>
+    </message>
+    <message>
+        <source>The print server %1 cancelled job %2.</source>
+        <translation>Der Druckserver %1 hat Auftrag %2 abgebrochen.</translation>
+    </message>
+    <message>
+        <source>The print server %1 aborted job %2.</source>
+        <translation>Der Druckserver %1 hat Auftrag %2 vorzeitig beendet.</translation>
+    </message>
+    <message>
+        <source>The print server %1 did not say whether it took the job: it may have been printed as job %2.</source>
+        <translation>Der Druckserver %1 hat nicht mitgeteilt, ob er den Auftrag angenommen hat: Er wurde möglicherweise als Auftrag %2 gedruckt.</translation>
+    </message>
+</context>
+<context>
+    <name>NoDialogCommand</name>
+    <message>
+        <source>No printer was chosen and there is no default one; -d QUEUE names one.</source>
+        <translation>Es ist kein Drucker ausgewählt, und es gibt keinen Standarddrucker; -d QUEUE gibt einen an.</translation>
+    </message>
+    <message>
+        <source>Printing was cancelled.</source>
+        <translation>Das Drucken wurde abgebrochen.</translation>
+    </message>
+    <message>
+        <source>No queue was named to print to; -d QUEUE names one, --output FILE keeps the job.</source>
+        <translation>Es ist keine Warteschlange angegeben; -d QUEUE gibt eine an, --output FILE bewahrt den Auftrag auf.</translation>
+    </message>
+    <message>
+        <source>%1 accepted job %2.</source>
+        <translation>%1 hat Auftrag %2 angenommen.</translation>
+    </message>
+    <message>
+        <source>The job was written to %1.</source>
+        <translation>Der Auftrag wurde in %1 geschrieben.</translation>
+    </message>
+    <message>
+        <source>Sending &quot;%1&quot; to %2.</source>
+        <translation>„%1“ wird an %2 gesendet.</translation>
+    </message>
+    <message>
+        <source>Document: %1 (%2 bytes)</source>
+        <translation>Dokument: %1 (%2 Byte)</translation>
+    </message>
+    <message>
+        <source>Setting: %1=%2</source>
+        <translation>Einstellung: %1=%2</translation>
+    </message>
+</context>
+<context>
+    <name>OutputFile</name>
+    <message>
+        <source>The file %1 cannot be written: %2.</source>
+        <translation>Die Datei %1 kann nicht geschrieben werden: %2.</translation>
+    </message>
+    <message>
+        <source>nobody reads from it</source>
+        <translation>niemand liest daraus</translation>
+    </message>
+</context>
+<context>
+    <name>OutputRule</name>
+    <message>
+        <source>Nothing is written over %1: it is in use for this.</source>
+        <translation>%1 wird nicht überschrieben: Die Datei wird gerade hierfür verwendet.</translation>
+    </message>
+    <message>
+        <source>%1 is a folder: it cannot be written.</source>
+        <translation>%1 ist ein Ordner und kann nicht geschrieben werden.</translation>
+    </message>
+    <message>
+        <source>The file %1 exists already; --force replaces it.</source>
+        <translation>Die Datei %1 ist bereits vorhanden; --force ersetzt sie.</translation>
+    </message>
+</context>
+<context>
+    <name>PPDFile</name>
+    <message>
+        <source>The PPD file %1 does not exist.</source>
+        <translation>Die PPD-Datei %1 ist nicht vorhanden.</translation>
+    </message>
+    <message>
+        <source>%1 is not a PPD file.</source>
+        <translation>%1 ist keine PPD-Datei.</translation>
+    </message>
+    <message>
+        <source>The PPD file %1 cannot be read.</source>
+        <translation>Die PPD-Datei %1 kann nicht gelesen werden.</translation>
+    </message>
+    <message>
+        <source>The PPD file %1 is too large: it has more than %2 bytes.</source>
+        <translation>Die PPD-Datei %1 ist zu groß: Sie hat mehr als %2 Byte.</translation>
+    </message>
+    <message>
+        <source>The PPD file %1 cannot be used: it has more than %2 lines.</source>
+        <translation>Die PPD-Datei %1 kann nicht verwendet werden: Sie hat mehr als %2 Zeilen.</translation>
+    </message>
+    <message>
+        <source>The PPD file %1 cannot be used: it has more than %2 groups of options.</source>
+        <translation>Die PPD-Datei %1 kann nicht verwendet werden: Sie hat mehr als %2 Optionsgruppen.</translation>
+    </message>
+    <message>
+        <source>The PPD file %1 cannot be used: it has more than %2 options.</source>
+        <translation>Die PPD-Datei %1 kann nicht verwendet werden: Sie hat mehr als %2 Optionen.</translation>
+    </message>
+    <message>
+        <source>The PPD file %1 cannot be used: an option has more than %2 choices.</source>
+        <translation>Die PPD-Datei %1 kann nicht verwendet werden: Eine Option hat mehr als %2 Auswahlmöglichkeiten.</translation>
+    </message>
+    <message>
+        <source>The PPD file %1 cannot be used: it has more than %2 papers.</source>
+        <translation>Die PPD-Datei %1 kann nicht verwendet werden: Sie hat mehr als %2 Papiere.</translation>
+    </message>
+    <message>
+        <source>The PPD file %1 cannot be used: it has more than %2 custom parameters.</source>
+        <translation>Die PPD-Datei %1 kann nicht verwendet werden: Sie hat mehr als %2 benutzerdefinierte Parameter.</translation>
+    </message>
+    <message>
+        <source>The PPD file %1 cannot be used: it has more than %2 UIConstraints.</source>
+        <translation>Die PPD-Datei %1 kann nicht verwendet werden: Sie hat mehr als %2 UIConstraints.</translation>
+    </message>
+    <message>
+        <source>The PPD file %1 cannot be used: it has more than %2 cupsUIConstraints.</source>
+        <translation>Die PPD-Datei %1 kann nicht verwendet werden: Sie hat mehr als %2 cupsUIConstraints.</translation>
+    </message>
+    <message>
+        <source>The PPD file %1 cannot be used: its cupsUIConstraints name more than %2 options.</source>
+        <translation>Die PPD-Datei %1 kann nicht verwendet werden: Ihre cupsUIConstraints nennen mehr als %2 Optionen.</translation>
+    </message>
+    <message>
+        <source>The PPD file %1 cannot be used: it has more than %2 attributes.</source>
+        <translation>Die PPD-Datei %1 kann nicht verwendet werden: Sie hat mehr als %2 Attribute.</translation>
+    </message>
+    <message>
+        <source>The PPD file %1 is damaged: it cannot be unpacked. Get it again.</source>
+        <translation>Die PPD-Datei %1 ist beschädigt: Sie lässt sich nicht entpacken. Besorgen Sie die Datei erneut.</translation>
+    </message>
+    <message>
+        <source>%1 is not a PPD file (%2).</source>
+        <translation>%1 ist keine PPD-Datei (%2).</translation>
+    </message>
+    <message>
+        <source>%1 is not a usable PPD file (line %2: %3).</source>
+        <translation>%1 ist keine brauchbare PPD-Datei (Zeile %2: %3).</translation>
+    </message>
+    <message>
+        <source>The PPD file %1 is incomplete: it ends too early. Get it again.</source>
+        <translation>Die PPD-Datei %1 ist unvollständig: Sie endet zu früh. Besorgen Sie die Datei erneut.</translation>
+    </message>
+</context>
+<context>
+    <name>PageSetupPane</name>
+    <message>
+        <source>Custom Size</source>
+        <translation>Eigenes Format</translation>
+    </message>
+    <message>
+        <source>&amp;Paper:</source>
+        <translation>&amp;Papier:</translation>
+    </message>
+    <message>
+        <source>P&amp;ortrait</source>
+        <translation>&amp;Hochformat</translation>
+    </message>
+    <message>
+        <source>&amp;Landscape</source>
+        <translation>&amp;Querformat</translation>
+    </message>
+    <message>
+        <source>Orientation:</source>
+        <translation>Ausrichtung:</translation>
+    </message>
+    <message>
+        <source>%1:</source>
+        <translation>%1:</translation>
+    </message>
+    <message>
+        <source>Do Not Scale</source>
+        <translation>Nicht skalieren</translation>
+    </message>
+    <message>
+        <source>&amp;Scale to Fit:</source>
+        <translation>&amp;Skalieren auf:</translation>
+    </message>
+    <message>
+        <source>By the P&amp;rinter</source>
+        <translation>Durch den D&amp;rucker</translation>
+    </message>
+    <message>
+        <source>By the Appl&amp;ication</source>
+        <translation>Durch die &amp;Anwendung</translation>
+    </message>
+    <message>
+        <source>Color Matching:</source>
+        <translation>Farbanpassung:</translation>
+    </message>
+</context>
+<context>
+    <name>PanelVeto</name>
+    <message>
+        <source>The printer&apos;s settings do not allow this job.</source>
+        <translation>Die Einstellungen des Druckers lassen diesen Auftrag nicht zu.</translation>
+    </message>
+</context>
+<context>
+    <name>PipeDocuments</name>
+    <message>
+        <source>There is no room in the temporary folder %1 for the document %2.</source>
+        <translation>Im temporären Ordner %1 ist kein Platz für das Dokument %2.</translation>
+    </message>
+    <message>
+        <source>The document %1 cannot be kept in the temporary folder %2: %3.</source>
+        <translation>Das Dokument %1 kann nicht im temporären Ordner %2 abgelegt werden: %3.</translation>
+    </message>
+    <message>
+        <source>The document %1 is longer than %2 MB, the most that is read from a pipe.</source>
+        <translation>Das Dokument %1 ist länger als %2 MB; mehr wird aus einer Pipe nicht gelesen.</translation>
+    </message>
+</context>
+<context>
+    <name>PlugInLoader</name>
+    <message>
+        <source>The printer&apos;s settings are missing: there is no plug-in at %1. Install Velkaro Print again.</source>
+        <translation>Die Einstellungen des Druckers fehlen: Unter %1 gibt es kein Plug-in. Installieren Sie Velkaro Print neu.</translation>
+    </message>
+    <message>
+        <source>The plug-in %1 is incomplete: it has no readable Info.json. Install Velkaro Print again.</source>
+        <translation>Das Plug-in %1 ist unvollständig: Es hat keine lesbare Info.json. Installieren Sie Velkaro Print neu.</translation>
+    </message>
+    <message>
+        <source>The plug-in is incomplete: %1 is missing. Install Velkaro Print again.</source>
+        <translation>Das Plug-in ist unvollständig: %1 fehlt. Installieren Sie Velkaro Print neu.</translation>
+    </message>
+    <message>
+        <source>The plug-in %1 is incomplete: its library is missing. Install Velkaro Print again.</source>
+        <translation>Das Plug-in %1 ist unvollständig: Seine Bibliothek fehlt. Installieren Sie Velkaro Print neu.</translation>
+    </message>
+    <message>
+        <source>The plug-in is not used, because other users may change %1. Let nobody but yourself and the administrator write there.</source>
+        <translation>Das Plug-in wird nicht verwendet, weil andere Benutzer %1 ändern dürfen. Lassen Sie dort nur sich selbst und den Administrator schreiben.</translation>
+    </message>
+    <message>
+        <source>%1 is not a plug-in of this print dialog.</source>
+        <translation>%1 ist kein Plug-in dieses Druckdialogs.</translation>
+    </message>
+    <message>
+        <source>The plug-in %1 was made for another version of this print dialog. Install the same version of both.</source>
+        <translation>Das Plug-in %1 wurde für eine andere Version dieses Druckdialogs erstellt. Installieren Sie beide in derselben Version.</translation>
+    </message>
+    <message>
+        <source>The plug-in %1 could not be loaded.</source>
+        <translation>Das Plug-in %1 konnte nicht geladen werden.</translation>
+    </message>
+    <message>
+        <source>The plug-in %1 cannot be used with this print dialog.</source>
+        <translation>Das Plug-in %1 kann mit diesem Druckdialog nicht verwendet werden.</translation>
+    </message>
+</context>
+<context>
+    <name>PrintController</name>
+    <message>
+        <source>The plug-in could not attach its panels to this printer. Its rules and checks are missing.</source>
+        <translation>Das Plug-in konnte seine Bereiche nicht mit diesem Drucker verbinden. Seine Regeln und Prüfungen fehlen.</translation>
+    </message>
+</context>
+<context>
+    <name>PrinterPopUp</name>
+    <message>
+        <source>No printer</source>
+        <translation>Kein Drucker</translation>
+    </message>
+    <message>
+        <source>Searching for printers…</source>
+        <translation>Drucker werden gesucht …</translation>
+    </message>
+    <message>
+        <source>The other printers cannot be listed</source>
+        <translation>Die übrigen Drucker können nicht aufgelistet werden</translation>
+    </message>
+    <message>
+        <source>Takes no jobs at present</source>
+        <translation>Nimmt derzeit keine Aufträge an</translation>
+    </message>
+    <message>
+        <source>Stopped: jobs wait</source>
+        <translation>Angehalten: Aufträge warten</translation>
+    </message>
+</context>
+<context>
+    <name>PrinterSource</name>
+    <message>
+        <source>The PPD of the queue %1 cannot be used. %2</source>
+        <translation>Die PPD-Datei der Warteschlange %1 kann nicht verwendet werden. %2</translation>
+    </message>
+    <message>
+        <source>There is no printer to print to.</source>
+        <translation>Es ist kein Drucker vorhanden.</translation>
+    </message>
+</context>
+<context>
+    <name>ProgressStrip</name>
+    <message>
+        <source>Progress</source>
+        <translation>Fortschritt</translation>
+    </message>
+</context>
+<context>
+    <name>Recorder</name>
+    <message>
+        <source>The PPD cannot be copied to %1: %2</source>
+        <translation>Die PPD-Datei kann nicht nach %1 kopiert werden: %2</translation>
+    </message>
+    <message>
+        <source>no name is free</source>
+        <translation>kein Name ist frei</translation>
+    </message>
+</context>
+<context>
+    <name>SavedJob</name>
+    <message>
+        <source>%1 is a saved job: it is sent as it was saved, without -o, --paper and --output.</source>
+        <translation>%1 ist ein gespeicherter Auftrag: Er wird so gesendet, wie er gespeichert wurde, ohne -o, --paper und --output.</translation>
+    </message>
+    <message>
+        <source>%1 is a saved job: it is sent with --no-dialog, and with no other document beside it.</source>
+        <translation>%1 ist ein gespeicherter Auftrag: Er wird mit --no-dialog und ohne weitere Dokumente gesendet.</translation>
+    </message>
+    <message>
+        <source>%1 is not sent: it sets %2, which no saved job may.</source>
+        <translation>%1 wird nicht gesendet: Der Auftrag setzt %2, was ein gespeicherter Auftrag nicht darf.</translation>
+    </message>
+    <message>
+        <source>%1 is not sent: it sets %2, which Velkaro Print does not write; --yes sends it all the same.</source>
+        <translation>%1 wird nicht gesendet: Der Auftrag setzt %2, was Velkaro Print nicht schreibt; mit --yes wird er trotzdem gesendet.</translation>
+    </message>
+    <message>
+        <source>The job in %1 can be looked at but not sent: it sets %2, which no saved job may. Remove that from the settings saved for the queue.</source>
+        <translation>Der Auftrag in %1 kann angesehen, aber nicht gesendet werden: Er setzt %2, was ein gespeicherter Auftrag nicht darf. Entfernen Sie dies aus den Einstellungen, die für die Warteschlange gespeichert sind.</translation>
+    </message>
+</context>
+<context>
+    <name>Server</name>
+    <message>
+        <source>The queue %1 has no PPD.</source>
+        <translation>Die Warteschlange %1 hat keine PPD-Datei.</translation>
+    </message>
+    <message>
+        <source>The PPD of the queue %1 is too large.</source>
+        <translation>Die PPD-Datei der Warteschlange %1 ist zu groß.</translation>
+    </message>
+    <message>
+        <source>The print server %1 sent only part of the PPD of the queue %2. Try again.</source>
+        <translation>Der Druckserver %1 hat nur einen Teil der PPD-Datei der Warteschlange %2 gesendet. Versuchen Sie es erneut.</translation>
+    </message>
+    <message>
+        <source>The print server %1 cannot be reached.</source>
+        <translation>Der Druckserver %1 ist nicht erreichbar.</translation>
+    </message>
+    <message>
+        <source>The print server %1 broke off: %2.</source>
+        <translation>Der Druckserver %1 hat die Verbindung abgebrochen: %2.</translation>
+    </message>
+    <message>
+        <source>The print server %1 closed the connection without an answer.</source>
+        <translation>Der Druckserver %1 hat die Verbindung ohne Antwort geschlossen.</translation>
+    </message>
+    <message>
+        <source>The print server %1 broke off in the middle of its answer.</source>
+        <translation>Der Druckserver %1 hat mitten in seiner Antwort abgebrochen.</translation>
+    </message>
+    <message>
+        <source>The answer of the print server %1 cannot be understood.</source>
+        <translation>Die Antwort des Druckservers %1 ist nicht verständlich.</translation>
+    </message>
+    <message>
+        <source>The answer of the print server %1 is too large.</source>
+        <translation>Die Antwort des Druckservers %1 ist zu groß.</translation>
+    </message>
+    <message>
+        <source>What the print server %1 sends cannot be kept in the temporary folder: %2.</source>
+        <translation>Was der Druckserver %1 sendet, kann nicht im temporären Ordner abgelegt werden: %2.</translation>
+    </message>
+    <message>
+        <source>Printing was cancelled.</source>
+        <translation>Das Drucken wurde abgebrochen.</translation>
+    </message>
+    <message>
+        <source>The print server %1 has no queue %2.</source>
+        <translation>Der Druckserver %1 hat keine Warteschlange %2.</translation>
+    </message>
+    <message>
+        <source>The print server %1 does not know what it was asked for.</source>
+        <translation>Der Druckserver %1 kennt das Angefragte nicht.</translation>
+    </message>
+    <message>
+        <source>The print server %1 lets nobody print to %2 without a password.</source>
+        <translation>Der Druckserver %1 lässt niemanden ohne Passwort auf %2 drucken.</translation>
+    </message>
+    <message>
+        <source>The print server %1 answers nobody without a password.</source>
+        <translation>Der Druckserver %1 antwortet niemandem ohne Passwort.</translation>
+    </message>
+    <message>
+        <source>The print server %1 refused: %2</source>
+        <translation>Der Druckserver %1 hat abgelehnt: %2</translation>
+    </message>
+    <message>
+        <source>The print server %1 reports a fault: %2</source>
+        <translation>Der Druckserver %1 meldet einen Fehler: %2</translation>
+    </message>
+    <message>
+        <source>The print server %1 does not allow this machine to print to %2.</source>
+        <translation>Der Druckserver %1 erlaubt diesem Computer nicht, auf %2 zu drucken.</translation>
+    </message>
+    <message>
+        <source>The print server %1 does not allow this machine to ask.</source>
+        <translation>Der Druckserver %1 erlaubt diesem Computer keine Anfragen.</translation>
+    </message>
+    <message>
+        <source>The print server %1 answered with a redirection, which is not followed (%2).</source>
+        <translation>Der Druckserver %1 hat mit einer Weiterleitung geantwortet, der nicht gefolgt wird (%2).</translation>
+    </message>
+    <message>
+        <source>The print server %1 demands an encrypted connection, which cannot be made.</source>
+        <translation>Der Druckserver %1 verlangt eine verschlüsselte Verbindung, die sich nicht herstellen lässt.</translation>
+    </message>
+    <message>
+        <source>The print server %1 has a fault (%2).</source>
+        <translation>Der Druckserver %1 hat einen Fehler (%2).</translation>
+    </message>
+    <message>
+        <source>The print server %1 refused (%2).</source>
+        <translation>Der Druckserver %1 hat abgelehnt (%2).</translation>
+    </message>
+    <message>
+        <source>The print server %1 does not answer.</source>
+        <translation>Der Druckserver %1 antwortet nicht.</translation>
+    </message>
+    <message>
+        <source>The print server %1 takes too long to answer.</source>
+        <translation>Der Druckserver %1 braucht zu lange für eine Antwort.</translation>
+    </message>
+</context>
+<context>
+    <name>SettingRequests</name>
+    <message>
+        <source>%2 is no value for %1.</source>
+        <translation>%2 ist kein Wert für %1.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be set: the queue has no PPD.</source>
+        <translation>%1 kann nicht eingestellt werden: Die Warteschlange hat keine PPD-Datei.</translation>
+    </message>
+    <message>
+        <source>The printer has no setting %1.</source>
+        <translation>Der Drucker hat keine Einstellung %1.</translation>
+    </message>
+    <message>
+        <source>%1=%2 cannot be chosen while the other settings are as they are.</source>
+        <translation>%1=%2 kann mit den übrigen Einstellungen nicht gewählt werden.</translation>
+    </message>
+    <message>
+        <source>The printer has no paper %1.</source>
+        <translation>Der Drucker hat kein Papier %1.</translation>
+    </message>
+    <message>
+        <source>The printer takes no paper of a size of your own.</source>
+        <translation>Der Drucker nimmt kein Papier in eigenem Format an.</translation>
+    </message>
+    <message>
+        <source>The printer takes no paper of %1 × %2 mm: sizes of your own go from %3 × %4 mm to %5 × %6 mm.</source>
+        <translation>Der Drucker nimmt kein Papier von %1 × %2 mm an: Eigene Formate reichen von %3 × %4 mm bis %5 × %6 mm.</translation>
+    </message>
+</context>
+</TS>

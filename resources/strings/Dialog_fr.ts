@@ -1,0 +1,942 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="fr" sourcelanguage="en">
+<context>
+    <name>CheckCommand</name>
+    <message>
+        <source>The plug-in %1 cannot check a PPD.</source>
+        <translation>Le module %1 ne peut pas vérifier de fichier PPD.</translation>
+    </message>
+</context>
+<context>
+    <name>CommandLine</name>
+    <message>
+        <source>&quot;%1&quot; is not the name of a queue.</source>
+        <translation>« %1 » n’est pas le nom d’une file d’attente.</translation>
+    </message>
+    <message>
+        <source>-o needs KEY=VALUE, not &quot;%1&quot;.</source>
+        <translation>-o attend KEY=VALUE, et non « %1 ».</translation>
+    </message>
+    <message>
+        <source>%1 needs a value.</source>
+        <translation>%1 attend une valeur.</translation>
+    </message>
+    <message>
+        <source>There is no option %1.</source>
+        <translation>L’option %1 n’existe pas.</translation>
+    </message>
+    <message>
+        <source>%1 takes no value.</source>
+        <translation>%1 n’accepte pas de valeur.</translation>
+    </message>
+    <message>
+        <source>--replay and --record do not go together.</source>
+        <translation>--replay et --record ne peuvent pas être utilisés ensemble.</translation>
+    </message>
+    <message>
+        <source>--no-dialog and --screenshot do not go together.</source>
+        <translation>--no-dialog et --screenshot ne peuvent pas être utilisés ensemble.</translation>
+    </message>
+    <message>
+        <source>--no-dialog needs a document to print.</source>
+        <translation>--no-dialog attend un document à imprimer.</translation>
+    </message>
+    <message>
+        <source>--yes is for --no-dialog.</source>
+        <translation>--yes ne s’utilise qu’avec --no-dialog.</translation>
+    </message>
+    <message>
+        <source>The value of %1 is no UTF-8 text.</source>
+        <translation>La valeur de %1 n’est pas un texte UTF-8.</translation>
+    </message>
+    <message>
+        <source>--check-ppd only looks at a PPD: it prints and replays nothing.</source>
+        <translation>--check-ppd examine seulement un fichier PPD : rien n’est imprimé et aucun script n’est exécuté.</translation>
+    </message>
+</context>
+<context>
+    <name>Conflicts</name>
+    <message>
+        <source>&quot;%1&quot;</source>
+        <translation>« %1 »</translation>
+    </message>
+    <message>
+        <source>, </source>
+        <translation>, </translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; cannot be chosen: the printer does not allow it together with %2.</source>
+        <translation>« %1 » ne peut pas être choisi : l’imprimante ne l’accepte pas avec %2.</translation>
+    </message>
+</context>
+<context>
+    <name>CustomSizeFields</name>
+    <message>
+        <source>mm</source>
+        <translation>mm</translation>
+    </message>
+    <message>
+        <source>inches</source>
+        <translation>pouces</translation>
+    </message>
+    <message>
+        <source>Unit</source>
+        <translation>Unité</translation>
+    </message>
+    <message>
+        <source>&amp;Width:</source>
+        <translation>&amp;Largeur :</translation>
+    </message>
+    <message>
+        <source>Too small: at least %1.</source>
+        <translation>Trop petit : au moins %1.</translation>
+    </message>
+    <message>
+        <source>Too large: at most %1.</source>
+        <translation>Trop grand : au plus %1.</translation>
+    </message>
+    <message>
+        <source>Heigh&amp;t:</source>
+        <translation>Ha&amp;uteur :</translation>
+    </message>
+</context>
+<context>
+    <name>DialogCommand</name>
+    <message>
+        <source>There is no display for the dialog; --no-dialog prints without it.</source>
+        <translation>Aucun écran n’est disponible pour la boîte de dialogue ; --no-dialog imprime sans elle.</translation>
+    </message>
+</context>
+<context>
+    <name>DialogWindow</name>
+    <message>
+        <source>Velkaro Print</source>
+        <translation>Velkaro Print</translation>
+    </message>
+    <message>
+        <source>Page Setup</source>
+        <translation>Mise en page</translation>
+    </message>
+    <message>
+        <source>Summary</source>
+        <translation>Récapitulatif</translation>
+    </message>
+    <message>
+        <source>Also Sent</source>
+        <translation>Également envoyé</translation>
+    </message>
+    <message>
+        <source>The settings of this panel cannot be shown: a part of the plug-in is missing. Install Velkaro Print again.</source>
+        <translation>Les réglages de ce volet ne peuvent pas être affichés : une partie du module est absente. Réinstallez Velkaro Print.</translation>
+    </message>
+    <message>
+        <source>Paper</source>
+        <translation>Papier</translation>
+    </message>
+    <message>
+        <source>The printer cannot take the paper size in Page Setup. Correct it there to print.</source>
+        <translation>L’imprimante n’accepte pas le format de papier indiqué dans « Mise en page ». Corrigez-le pour imprimer.</translation>
+    </message>
+    <message>
+        <source>Color Matching</source>
+        <translation>Correspondance des couleurs</translation>
+    </message>
+    <message>
+        <source>By the Printer</source>
+        <translation>Par l’imprimante</translation>
+    </message>
+    <message>
+        <source>By the Application</source>
+        <translation>Par l’application</translation>
+    </message>
+    <message>
+        <source>Scaled to Fit</source>
+        <translation>Ajusté à</translation>
+    </message>
+    <message>
+        <source>Orientation</source>
+        <translation>Orientation</translation>
+    </message>
+    <message>
+        <source>Landscape</source>
+        <translation>Paysage</translation>
+    </message>
+    <message>
+        <source>Portrait</source>
+        <translation>Portrait</translation>
+    </message>
+    <message>
+        <source>Copies</source>
+        <translation>Copies</translation>
+    </message>
+    <message>
+        <source>Pages</source>
+        <translation>Pages</translation>
+    </message>
+    <message>
+        <source>All</source>
+        <translation>Toutes</translation>
+    </message>
+    <message>
+        <source>Save Job</source>
+        <translation>Enregistrer le travail</translation>
+    </message>
+    <message>
+        <source>Print jobs (*.velkaro-job);;All files (*)</source>
+        <translation>Travaux d’impression (*.velkaro-job);;Tous les fichiers (*)</translation>
+    </message>
+    <message>
+        <source>Sending the job to %1…</source>
+        <translation>Envoi du travail à %1…</translation>
+    </message>
+    <message>
+        <source>Job %1 was accepted. %2</source>
+        <translation>Le travail %1 a été accepté. %2</translation>
+    </message>
+    <message>
+        <source>Looking for a printer…</source>
+        <translation>Recherche d’une imprimante…</translation>
+    </message>
+    <message>
+        <source>Reading %1…</source>
+        <translation>Lecture de %1…</translation>
+    </message>
+    <message>
+        <source>Asking %1 about its settings…</source>
+        <translation>Lecture des réglages de %1…</translation>
+    </message>
+    <message>
+        <source>%1 It prints with the settings of this dialog alone.</source>
+        <translation>%1 L’impression se fera avec les seuls réglages de cette boîte de dialogue.</translation>
+    </message>
+    <message>
+        <source>There is no panel %1.</source>
+        <translation>Le volet %1 n’existe pas.</translation>
+    </message>
+    <message>
+        <source>This printer has none of the settings that the panels are for. It prints with the settings of this dialog alone.</source>
+        <translation>Cette imprimante n’a aucun des réglages auxquels les volets sont destinés. L’impression se fera avec les seuls réglages de cette boîte de dialogue.</translation>
+    </message>
+    <message>
+        <source>Choose a document to print.</source>
+        <translation>Choisissez un document à imprimer.</translation>
+    </message>
+    <message>
+        <source>No queue was chosen: the job can be saved to a file.</source>
+        <translation>Aucune file d’attente n’est choisie : le travail peut être enregistré dans un fichier.</translation>
+    </message>
+    <message>
+        <source>Print</source>
+        <translation>Imprimer</translation>
+    </message>
+    <message>
+        <source>Help</source>
+        <translation>Aide</translation>
+    </message>
+    <message>
+        <source>Save to &amp;File…</source>
+        <translation>Enregistrer dans un &amp;fichier…</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuler</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Enregistrer</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Fermer</translation>
+    </message>
+    <message>
+        <source>Choose Documents</source>
+        <translation>Choisir des documents</translation>
+    </message>
+    <message>
+        <source>Documents (*.pdf *.ps *.txt *.png *.jpg *.jpeg);;All files (*)</source>
+        <translation>Documents (*.pdf *.ps *.txt *.png *.jpg *.jpeg);;Tous les fichiers (*)</translation>
+    </message>
+    <message>
+        <source>Print Again</source>
+        <translation>Imprimer à nouveau</translation>
+    </message>
+    <message>
+        <source>Writing the job to %1…</source>
+        <translation>Écriture du travail dans %1…</translation>
+    </message>
+    <message>
+        <source>Reading the document to its end…</source>
+        <translation>Lecture du document jusqu’à la fin…</translation>
+    </message>
+    <message>
+        <source>%1 exists already. Replace it?</source>
+        <translation>%1 existe déjà. Remplacer ce fichier ?</translation>
+    </message>
+    <message>
+        <source>Replace</source>
+        <translation>Remplacer</translation>
+    </message>
+</context>
+<context>
+    <name>Document</name>
+    <message>
+        <source>The document %1 has become shorter or longer since it was opened.</source>
+        <translation>La longueur du document %1 a changé depuis son ouverture.</translation>
+    </message>
+    <message>
+        <source>The document %1 cannot be read to its end.</source>
+        <translation>Le document %1 ne peut pas être lu jusqu’à la fin.</translation>
+    </message>
+</context>
+<context>
+    <name>DocumentFile</name>
+    <message>
+        <source>The document %1 does not exist.</source>
+        <translation>Le document %1 n’existe pas.</translation>
+    </message>
+    <message>
+        <source>%1 is a folder, not a document.</source>
+        <translation>%1 est un dossier, pas un document.</translation>
+    </message>
+    <message>
+        <source>The document %1 is empty.</source>
+        <translation>Le document %1 est vide.</translation>
+    </message>
+    <message>
+        <source>The document %1 cannot be read: %2.</source>
+        <translation>Le document %1 ne peut pas être lu : %2.</translation>
+    </message>
+    <message>
+        <source>%1 is a named pipe, not a document.</source>
+        <translation>%1 est un tube nommé, pas un document.</translation>
+    </message>
+    <message>
+        <source>%1 is a socket, not a document.</source>
+        <translation>%1 est un socket, pas un document.</translation>
+    </message>
+    <message>
+        <source>%1 is a device, not a document.</source>
+        <translation>%1 est un périphérique, pas un document.</translation>
+    </message>
+    <message>
+        <source>Standard input</source>
+        <translation>Entrée standard</translation>
+    </message>
+</context>
+<context>
+    <name>HostHelp</name>
+    <message>
+        <source>Page Setup holds the paper, its orientation, two-sided printing and what else the printer leaves to this dialog. A size of your own is entered below the paper; a word beside the field says when the printer cannot take it.</source>
+        <translation>« Mise en page » réunit le papier, son orientation, l’impression recto verso et tout ce que l’imprimante confie à cette boîte de dialogue. Un format personnalisé se saisit sous le papier ; un mot à côté du champ signale que l’imprimante ne l’accepte pas.</translation>
+    </message>
+    <message>
+        <source>When the printer does not allow two settings together, the second one is not made, and a line above the tabs names both.</source>
+        <translation>Lorsque l’imprimante n’accepte pas deux réglages ensemble, le second n’est pas appliqué et une ligne au-dessus des onglets les nomme tous deux.</translation>
+    </message>
+    <message>
+        <source>Summary lists everything that will be printed with. &quot;Save to File&quot; keeps the job with its documents; send it later with velkaro-print --no-dialog.</source>
+        <translation>« Récapitulatif » indique tout ce avec quoi l’impression se fera. « Enregistrer dans un fichier » conserve le travail avec ses documents ; envoyez-le plus tard avec velkaro-print --no-dialog.</translation>
+    </message>
+    <message>
+        <source>Print Help</source>
+        <translation>Aide sur l’impression</translation>
+    </message>
+    <message>
+        <source>&quot;Scale to Fit&quot; prints the document on another paper than it was made for, and makes it larger or smaller to fill that.</source>
+        <translation>« Ajuster à » imprime le document sur un autre papier que celui pour lequel il a été créé, en l’agrandissant ou en le réduisant en conséquence.</translation>
+    </message>
+</context>
+<context>
+    <name>JobFile</name>
+    <message>
+        <source>%1 is no saved job.</source>
+        <translation>%1 n’est pas un travail enregistré.</translation>
+    </message>
+    <message>
+        <source>The saved job %1 is damaged.</source>
+        <translation>Le travail enregistré %1 est endommagé.</translation>
+    </message>
+    <message>
+        <source>The saved job %1 is cut short: its end is missing.</source>
+        <translation>Le travail enregistré %1 est tronqué : la fin est absente.</translation>
+    </message>
+    <message>
+        <source>The saved job %1 is damaged: its header has no end.</source>
+        <translation>Le travail enregistré %1 est endommagé : son en-tête n’a pas de fin.</translation>
+    </message>
+    <message>
+        <source>The saved job %1 has too many documents: %2 are the most.</source>
+        <translation>Le travail enregistré %1 contient trop de documents : %2 au maximum.</translation>
+    </message>
+    <message>
+        <source>The saved job %1 has too many settings: %2 are the most.</source>
+        <translation>Le travail enregistré %1 contient trop de réglages : %2 au maximum.</translation>
+    </message>
+    <message>
+        <source>%1 would have too many documents: %2 are the most.</source>
+        <translation>%1 contiendrait trop de documents : %2 au maximum.</translation>
+    </message>
+    <message>
+        <source>The job was not written.</source>
+        <translation>Le travail n’a pas été écrit.</translation>
+    </message>
+</context>
+<context>
+    <name>JobHeader</name>
+    <message>
+        <source>C&amp;hoose…</source>
+        <translation>C&amp;hoisir…</translation>
+    </message>
+    <message>
+        <source>All, or 1-3, 5</source>
+        <translation>Toutes, ou 1-3, 5</translation>
+    </message>
+    <message>
+        <source>Document:</source>
+        <translation>Document :</translation>
+    </message>
+    <message>
+        <source>Pri&amp;nter:</source>
+        <translation>I&amp;mprimante :</translation>
+    </message>
+    <message>
+        <source>&amp;Copies:</source>
+        <translation>&amp;Copies :</translation>
+    </message>
+    <message>
+        <source>Pa&amp;ges:</source>
+        <translation>Pa&amp;ges :</translation>
+    </message>
+    <message>
+        <source>No document</source>
+        <translation>Aucun document</translation>
+    </message>
+    <message>
+        <source>Pages look like this: 1-3, 5</source>
+        <translation>Les pages s’indiquent ainsi : 1-3, 5</translation>
+    </message>
+</context>
+<context>
+    <name>JobOptions</name>
+    <message>
+        <source>The setting %1 cannot be sent: &quot;%2&quot; is no value that a print server may be given.</source>
+        <translation>Le réglage %1 ne peut pas être envoyé : « %2 » n’est pas une valeur admise pour un serveur d’impression.</translation>
+    </message>
+    <message>
+        <source>The setting &quot;%1&quot; cannot be sent: a print server may be given no setting of that name.</source>
+        <translation>Le réglage « %1 » ne peut pas être envoyé : un serveur d’impression n’admet aucun réglage de ce nom.</translation>
+    </message>
+</context>
+<context>
+    <name>JobReadBack</name>
+    <message>
+        <source>The server holds job %1 (%2).</source>
+        <translation>Le serveur a mis le travail %1 en attente (%2).</translation>
+    </message>
+    <message>
+        <source>The server dropped the setting %1=%2.</source>
+        <translation>Le serveur a écarté le réglage %1=%2.</translation>
+    </message>
+    <message>
+        <source>The server changed the setting %1 from %2 to %3.</source>
+        <translation>Le serveur a remplacé %2 par %3 pour le réglage %1.</translation>
+    </message>
+    <message>
+        <source>The server has cancelled job %1 (%2).</source>
+        <translation>Le serveur a annulé le travail %1 (%2).</translation>
+    </message>
+    <message>
+        <source>The server has aborted job %1 (%2).</source>
+        <translation>Le serveur a interrompu le travail %1 (%2).</translation>
+    </message>
+    <message>
+        <source>The server has ended job %1 with errors (%2).</source>
+        <translation>Le serveur a terminé le travail %1 avec des erreurs (%2).</translation>
+    </message>
+    <message>
+        <source>Whether the server keeps all settings of job %1 is not known: its account of the job cannot be read.</source>
+        <translation>On ignore si le serveur conserve tous les réglages du travail %1 : ses indications sur le travail sont illisibles.</translation>
+    </message>
+</context>
+<context>
+    <name>JobSettlement</name>
+    <message>
+        <source>%1 Job %2 could not be cancelled at %3 and may be printed.</source>
+        <translation>%1 Le travail %2 n’a pas pu être annulé sur %3 et sera peut-être imprimé.</translation>
+    </message>
+    <message>
+        <source>The print server %1 cancelled job %2.</source>
+        <translation>Le serveur d’impression %1 a annulé le travail %2.</translation>
+    </message>
+    <message>
+        <source>The print server %1 aborted job %2.</source>
+        <translation>Le serveur d’impression %1 a interrompu le travail %2.</translation>
+    </message>
+    <message>
+        <source>The print server %1 did not say whether it took the job: it may have been printed as job %2.</source>
+        <translation>Le serveur d’impression %1 n’a pas indiqué s’il acceptait le travail : celui-ci a peut-être été imprimé comme travail %2.</translation>
+    </message>
+</context>
+<context>
+    <name>NoDialogCommand</name>
+    <message>
+        <source>No printer was chosen and there is no default one; -d QUEUE names one.</source>
+        <translation>Aucune imprimante n’est choisie et il n’y en a pas par défaut ; -d QUEUE en désigne une.</translation>
+    </message>
+    <message>
+        <source>Printing was cancelled.</source>
+        <translation>L’impression a été annulée.</translation>
+    </message>
+    <message>
+        <source>No queue was named to print to; -d QUEUE names one, --output FILE keeps the job.</source>
+        <translation>Aucune file d’attente n’est indiquée ; -d QUEUE en désigne une, --output FILE conserve le travail.</translation>
+    </message>
+    <message>
+        <source>%1 accepted job %2.</source>
+        <translation>%1 a accepté le travail %2.</translation>
+    </message>
+    <message>
+        <source>The job was written to %1.</source>
+        <translation>Le travail a été écrit dans %1.</translation>
+    </message>
+    <message>
+        <source>Sending &quot;%1&quot; to %2.</source>
+        <translation>Envoi de « %1 » à %2.</translation>
+    </message>
+    <message>
+        <source>Document: %1 (%2 bytes)</source>
+        <translation>Document : %1 (%2 octets)</translation>
+    </message>
+    <message>
+        <source>Setting: %1=%2</source>
+        <translation>Réglage : %1=%2</translation>
+    </message>
+</context>
+<context>
+    <name>OutputFile</name>
+    <message>
+        <source>The file %1 cannot be written: %2.</source>
+        <translation>Le fichier %1 ne peut pas être écrit : %2.</translation>
+    </message>
+    <message>
+        <source>nobody reads from it</source>
+        <translation>personne ne le lit</translation>
+    </message>
+</context>
+<context>
+    <name>OutputRule</name>
+    <message>
+        <source>Nothing is written over %1: it is in use for this.</source>
+        <translation>%1 n’est pas remplacé : ce fichier sert à l’opération en cours.</translation>
+    </message>
+    <message>
+        <source>%1 is a folder: it cannot be written.</source>
+        <translation>%1 est un dossier et ne peut pas être écrit.</translation>
+    </message>
+    <message>
+        <source>The file %1 exists already; --force replaces it.</source>
+        <translation>Le fichier %1 existe déjà ; --force le remplace.</translation>
+    </message>
+</context>
+<context>
+    <name>PPDFile</name>
+    <message>
+        <source>The PPD file %1 does not exist.</source>
+        <translation>Le fichier PPD %1 n’existe pas.</translation>
+    </message>
+    <message>
+        <source>%1 is not a PPD file.</source>
+        <translation>%1 n’est pas un fichier PPD.</translation>
+    </message>
+    <message>
+        <source>The PPD file %1 cannot be read.</source>
+        <translation>Le fichier PPD %1 ne peut pas être lu.</translation>
+    </message>
+    <message>
+        <source>The PPD file %1 is too large: it has more than %2 bytes.</source>
+        <translation>Le fichier PPD %1 est trop volumineux : il compte plus de %2 octets.</translation>
+    </message>
+    <message>
+        <source>The PPD file %1 cannot be used: it has more than %2 lines.</source>
+        <translation>Le fichier PPD %1 ne peut pas être utilisé : il compte plus de %2 lignes.</translation>
+    </message>
+    <message>
+        <source>The PPD file %1 cannot be used: it has more than %2 groups of options.</source>
+        <translation>Le fichier PPD %1 ne peut pas être utilisé : il compte plus de %2 groupes d’options.</translation>
+    </message>
+    <message>
+        <source>The PPD file %1 cannot be used: it has more than %2 options.</source>
+        <translation>Le fichier PPD %1 ne peut pas être utilisé : il compte plus de %2 options.</translation>
+    </message>
+    <message>
+        <source>The PPD file %1 cannot be used: an option has more than %2 choices.</source>
+        <translation>Le fichier PPD %1 ne peut pas être utilisé : une option compte plus de %2 choix.</translation>
+    </message>
+    <message>
+        <source>The PPD file %1 cannot be used: it has more than %2 papers.</source>
+        <translation>Le fichier PPD %1 ne peut pas être utilisé : il compte plus de %2 papiers.</translation>
+    </message>
+    <message>
+        <source>The PPD file %1 cannot be used: it has more than %2 custom parameters.</source>
+        <translation>Le fichier PPD %1 ne peut pas être utilisé : il compte plus de %2 paramètres personnalisés.</translation>
+    </message>
+    <message>
+        <source>The PPD file %1 cannot be used: it has more than %2 UIConstraints.</source>
+        <translation>Le fichier PPD %1 ne peut pas être utilisé : il compte plus de %2 UIConstraints.</translation>
+    </message>
+    <message>
+        <source>The PPD file %1 cannot be used: it has more than %2 cupsUIConstraints.</source>
+        <translation>Le fichier PPD %1 ne peut pas être utilisé : il compte plus de %2 cupsUIConstraints.</translation>
+    </message>
+    <message>
+        <source>The PPD file %1 cannot be used: its cupsUIConstraints name more than %2 options.</source>
+        <translation>Le fichier PPD %1 ne peut pas être utilisé : ses cupsUIConstraints nomment plus de %2 options.</translation>
+    </message>
+    <message>
+        <source>The PPD file %1 cannot be used: it has more than %2 attributes.</source>
+        <translation>Le fichier PPD %1 ne peut pas être utilisé : il compte plus de %2 attributs.</translation>
+    </message>
+    <message>
+        <source>The PPD file %1 is damaged: it cannot be unpacked. Get it again.</source>
+        <translation>Le fichier PPD %1 est endommagé : il ne peut pas être décompressé. Procurez-vous-le à nouveau.</translation>
+    </message>
+    <message>
+        <source>%1 is not a PPD file (%2).</source>
+        <translation>%1 n’est pas un fichier PPD (%2).</translation>
+    </message>
+    <message>
+        <source>%1 is not a usable PPD file (line %2: %3).</source>
+        <translation>%1 n’est pas un fichier PPD utilisable (ligne %2 : %3).</translation>
+    </message>
+    <message>
+        <source>The PPD file %1 is incomplete: it ends too early. Get it again.</source>
+        <translation>Le fichier PPD %1 est incomplet : il se termine trop tôt. Procurez-vous-le à nouveau.</translation>
+    </message>
+</context>
+<context>
+    <name>PageSetupPane</name>
+    <message>
+        <source>Custom Size</source>
+        <translation>Format personnalisé</translation>
+    </message>
+    <message>
+        <source>&amp;Paper:</source>
+        <translation>&amp;Papier :</translation>
+    </message>
+    <message>
+        <source>P&amp;ortrait</source>
+        <translation>P&amp;ortrait</translation>
+    </message>
+    <message>
+        <source>&amp;Landscape</source>
+        <translation>Pa&amp;ysage</translation>
+    </message>
+    <message>
+        <source>Orientation:</source>
+        <translation>Orientation :</translation>
+    </message>
+    <message>
+        <source>%1:</source>
+        <translation>%1 :</translation>
+    </message>
+    <message>
+        <source>Do Not Scale</source>
+        <translation>Ne pas mettre à l’échelle</translation>
+    </message>
+    <message>
+        <source>&amp;Scale to Fit:</source>
+        <translation>&amp;Ajuster à :</translation>
+    </message>
+    <message>
+        <source>By the P&amp;rinter</source>
+        <translation>Par l’imp&amp;rimante</translation>
+    </message>
+    <message>
+        <source>By the Appl&amp;ication</source>
+        <translation>Par l’appl&amp;ication</translation>
+    </message>
+    <message>
+        <source>Color Matching:</source>
+        <translation>Correspondance des couleurs :</translation>
+    </message>
+</context>
+<context>
+    <name>PanelVeto</name>
+    <message>
+        <source>The printer&apos;s settings do not allow this job.</source>
+        <translation>Les réglages de l’imprimante n’autorisent pas ce travail.</translation>
+    </message>
+</context>
+<context>
+    <name>PipeDocuments</name>
+    <message>
+        <source>There is no room in the temporary folder %1 for the document %2.</source>
+        <translation>Il n’y a pas de place dans le dossier temporaire %1 pour le document %2.</translation>
+    </message>
+    <message>
+        <source>The document %1 cannot be kept in the temporary folder %2: %3.</source>
+        <translation>Le document %1 ne peut pas être conservé dans le dossier temporaire %2 : %3.</translation>
+    </message>
+    <message>
+        <source>The document %1 is longer than %2 MB, the most that is read from a pipe.</source>
+        <translation>Le document %1 dépasse %2 Mo, le maximum lu depuis un tube.</translation>
+    </message>
+</context>
+<context>
+    <name>PlugInLoader</name>
+    <message>
+        <source>The printer&apos;s settings are missing: there is no plug-in at %1. Install Velkaro Print again.</source>
+        <translation>Les réglages de l’imprimante sont absents : il n’y a pas de module dans %1. Réinstallez Velkaro Print.</translation>
+    </message>
+    <message>
+        <source>The plug-in %1 is incomplete: it has no readable Info.json. Install Velkaro Print again.</source>
+        <translation>Le module %1 est incomplet : son fichier Info.json est absent ou illisible. Réinstallez Velkaro Print.</translation>
+    </message>
+    <message>
+        <source>The plug-in is incomplete: %1 is missing. Install Velkaro Print again.</source>
+        <translation>Le module est incomplet : %1 est absent. Réinstallez Velkaro Print.</translation>
+    </message>
+    <message>
+        <source>The plug-in %1 is incomplete: its library is missing. Install Velkaro Print again.</source>
+        <translation>Le module %1 est incomplet : sa bibliothèque est absente. Réinstallez Velkaro Print.</translation>
+    </message>
+    <message>
+        <source>The plug-in is not used, because other users may change %1. Let nobody but yourself and the administrator write there.</source>
+        <translation>Le module n’est pas utilisé, car d’autres utilisateurs peuvent modifier %1. N’y autorisez l’écriture qu’à vous-même et à l’administrateur.</translation>
+    </message>
+    <message>
+        <source>%1 is not a plug-in of this print dialog.</source>
+        <translation>%1 n’est pas un module de cette boîte de dialogue d’impression.</translation>
+    </message>
+    <message>
+        <source>The plug-in %1 was made for another version of this print dialog. Install the same version of both.</source>
+        <translation>Le module %1 a été conçu pour une autre version de cette boîte de dialogue. Installez la même version des deux.</translation>
+    </message>
+    <message>
+        <source>The plug-in %1 could not be loaded.</source>
+        <translation>Le module %1 n’a pas pu être chargé.</translation>
+    </message>
+    <message>
+        <source>The plug-in %1 cannot be used with this print dialog.</source>
+        <translation>Le module %1 ne peut pas être utilisé avec cette boîte de dialogue d’impression.</translation>
+    </message>
+</context>
+<context>
+    <name>PrintController</name>
+    <message>
+        <source>The plug-in could not attach its panels to this printer. Its rules and checks are missing.</source>
+        <translation>Le module n’a pas pu associer ses volets à cette imprimante. Ses règles et ses vérifications sont absentes.</translation>
+    </message>
+</context>
+<context>
+    <name>PrinterPopUp</name>
+    <message>
+        <source>No printer</source>
+        <translation>Aucune imprimante</translation>
+    </message>
+    <message>
+        <source>Searching for printers…</source>
+        <translation>Recherche d’imprimantes…</translation>
+    </message>
+    <message>
+        <source>The other printers cannot be listed</source>
+        <translation>Les autres imprimantes ne peuvent pas être énumérées</translation>
+    </message>
+    <message>
+        <source>Takes no jobs at present</source>
+        <translation>N’accepte pas de travaux actuellement</translation>
+    </message>
+    <message>
+        <source>Stopped: jobs wait</source>
+        <translation>Arrêtée : les travaux attendent</translation>
+    </message>
+</context>
+<context>
+    <name>PrinterSource</name>
+    <message>
+        <source>The PPD of the queue %1 cannot be used. %2</source>
+        <translation>Le fichier PPD de la file d’attente %1 ne peut pas être utilisé. %2</translation>
+    </message>
+    <message>
+        <source>There is no printer to print to.</source>
+        <translation>Il n’y a aucune imprimante.</translation>
+    </message>
+</context>
+<context>
+    <name>ProgressStrip</name>
+    <message>
+        <source>Progress</source>
+        <translation>Progression</translation>
+    </message>
+</context>
+<context>
+    <name>Recorder</name>
+    <message>
+        <source>The PPD cannot be copied to %1: %2</source>
+        <translation>Le fichier PPD ne peut pas être copié dans %1 : %2</translation>
+    </message>
+    <message>
+        <source>no name is free</source>
+        <translation>aucun nom n’est libre</translation>
+    </message>
+</context>
+<context>
+    <name>SavedJob</name>
+    <message>
+        <source>%1 is a saved job: it is sent as it was saved, without -o, --paper and --output.</source>
+        <translation>%1 est un travail enregistré : il est envoyé tel qu’il a été enregistré, sans -o, --paper ni --output.</translation>
+    </message>
+    <message>
+        <source>%1 is a saved job: it is sent with --no-dialog, and with no other document beside it.</source>
+        <translation>%1 est un travail enregistré : il s’envoie avec --no-dialog et sans autre document.</translation>
+    </message>
+    <message>
+        <source>%1 is not sent: it sets %2, which no saved job may.</source>
+        <translation>%1 n’est pas envoyé : il définit %2, ce qu’un travail enregistré n’a pas le droit de faire.</translation>
+    </message>
+    <message>
+        <source>%1 is not sent: it sets %2, which Velkaro Print does not write; --yes sends it all the same.</source>
+        <translation>%1 n’est pas envoyé : il définit %2, que Velkaro Print n’écrit pas ; --yes l’envoie malgré tout.</translation>
+    </message>
+    <message>
+        <source>The job in %1 can be looked at but not sent: it sets %2, which no saved job may. Remove that from the settings saved for the queue.</source>
+        <translation>Le travail enregistré dans %1 peut être examiné mais pas envoyé : il définit %2, ce qu’un travail enregistré n’a pas le droit de faire. Retirez-le des réglages enregistrés pour la file d’attente.</translation>
+    </message>
+</context>
+<context>
+    <name>Server</name>
+    <message>
+        <source>The queue %1 has no PPD.</source>
+        <translation>La file d’attente %1 n’a pas de fichier PPD.</translation>
+    </message>
+    <message>
+        <source>The PPD of the queue %1 is too large.</source>
+        <translation>Le fichier PPD de la file d’attente %1 est trop volumineux.</translation>
+    </message>
+    <message>
+        <source>The print server %1 sent only part of the PPD of the queue %2. Try again.</source>
+        <translation>Le serveur d’impression %1 n’a envoyé qu’une partie du fichier PPD de la file d’attente %2. Réessayez.</translation>
+    </message>
+    <message>
+        <source>The print server %1 cannot be reached.</source>
+        <translation>Le serveur d’impression %1 est injoignable.</translation>
+    </message>
+    <message>
+        <source>The print server %1 broke off: %2.</source>
+        <translation>Le serveur d’impression %1 a interrompu la connexion : %2.</translation>
+    </message>
+    <message>
+        <source>The print server %1 closed the connection without an answer.</source>
+        <translation>Le serveur d’impression %1 a fermé la connexion sans répondre.</translation>
+    </message>
+    <message>
+        <source>The print server %1 broke off in the middle of its answer.</source>
+        <translation>Le serveur d’impression %1 s’est interrompu au milieu de sa réponse.</translation>
+    </message>
+    <message>
+        <source>The answer of the print server %1 cannot be understood.</source>
+        <translation>La réponse du serveur d’impression %1 est incompréhensible.</translation>
+    </message>
+    <message>
+        <source>The answer of the print server %1 is too large.</source>
+        <translation>La réponse du serveur d’impression %1 est trop volumineuse.</translation>
+    </message>
+    <message>
+        <source>What the print server %1 sends cannot be kept in the temporary folder: %2.</source>
+        <translation>Ce qu’envoie le serveur d’impression %1 ne peut pas être conservé dans le dossier temporaire : %2.</translation>
+    </message>
+    <message>
+        <source>Printing was cancelled.</source>
+        <translation>L’impression a été annulée.</translation>
+    </message>
+    <message>
+        <source>The print server %1 has no queue %2.</source>
+        <translation>Le serveur d’impression %1 n’a pas de file d’attente %2.</translation>
+    </message>
+    <message>
+        <source>The print server %1 does not know what it was asked for.</source>
+        <translation>Le serveur d’impression %1 ne connaît pas ce qui lui est demandé.</translation>
+    </message>
+    <message>
+        <source>The print server %1 lets nobody print to %2 without a password.</source>
+        <translation>Le serveur d’impression %1 n’autorise pas l’impression sur %2 sans mot de passe.</translation>
+    </message>
+    <message>
+        <source>The print server %1 answers nobody without a password.</source>
+        <translation>Le serveur d’impression %1 ne répond pas sans mot de passe.</translation>
+    </message>
+    <message>
+        <source>The print server %1 refused: %2</source>
+        <translation>Le serveur d’impression %1 a refusé : %2</translation>
+    </message>
+    <message>
+        <source>The print server %1 reports a fault: %2</source>
+        <translation>Le serveur d’impression %1 signale une erreur : %2</translation>
+    </message>
+    <message>
+        <source>The print server %1 does not allow this machine to print to %2.</source>
+        <translation>Le serveur d’impression %1 n’autorise pas cet ordinateur à imprimer sur %2.</translation>
+    </message>
+    <message>
+        <source>The print server %1 does not allow this machine to ask.</source>
+        <translation>Le serveur d’impression %1 n’accepte pas de demandes de cet ordinateur.</translation>
+    </message>
+    <message>
+        <source>The print server %1 answered with a redirection, which is not followed (%2).</source>
+        <translation>Le serveur d’impression %1 a répondu par une redirection, qui n’est pas suivie (%2).</translation>
+    </message>
+    <message>
+        <source>The print server %1 demands an encrypted connection, which cannot be made.</source>
+        <translation>Le serveur d’impression %1 exige une connexion chiffrée, qui ne peut pas être établie.</translation>
+    </message>
+    <message>
+        <source>The print server %1 has a fault (%2).</source>
+        <translation>Le serveur d’impression %1 a rencontré une erreur (%2).</translation>
+    </message>
+    <message>
+        <source>The print server %1 refused (%2).</source>
+        <translation>Le serveur d’impression %1 a refusé (%2).</translation>
+    </message>
+    <message>
+        <source>The print server %1 does not answer.</source>
+        <translation>Le serveur d’impression %1 ne répond pas.</translation>
+    </message>
+    <message>
+        <source>The print server %1 takes too long to answer.</source>
+        <translation>Le serveur d’impression %1 met trop de temps à répondre.</translation>
+    </message>
+</context>
+<context>
+    <name>SettingRequests</name>
+    <message>
+        <source>%2 is no value for %1.</source>
+        <translation>%2 n’est pas une valeur pour %1.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be set: the queue has no PPD.</source>
+        <translation>%1 ne peut pas être réglé : la file d’attente n’a pas de fichier PPD.</translation>
+    </message>
+    <message>
+        <source>The printer has no setting %1.</source>
+        <translation>L’imprimante n’a pas de réglage %1.</translation>
+    </message>
+    <message>
+        <source>%1=%2 cannot be chosen while the other settings are as they are.</source>
+        <translation>%1=%2 ne peut pas être choisi avec les autres réglages actuels.</translation>
+    </message>
+    <message>
+        <source>The printer has no paper %1.</source>
+        <translation>L’imprimante n’a pas de papier %1.</translation>
+    </message>
+    <message>
+        <source>The printer takes no paper of a size of your own.</source>
+        <translation>L’imprimante n’accepte pas de papier de format personnalisé.</translation>
+    </message>
+    <message>
+        <source>The printer takes no paper of %1 × %2 mm: sizes of your own go from %3 × %4 mm to %5 × %6 mm.</source>
+        <translation>L’imprimante n’accepte pas de papier de %1 × %2 mm : les formats personnalisés vont de %3 × %4 mm à %5 × %6 mm.</translation>
+    </message>
+</context>
+</TS>
