@@ -321,6 +321,10 @@
         <source>No warnings are hidden: all are shown.</source>
         <translation>非表示にした警告はありません。すべて表示されます。</translation>
     </message>
+    <message>
+        <source>Some of the settings do not go together: the preset has what is shown now.</source>
+        <translation>組み合わせられない設定がありました。プリセットには現在表示されている設定が保存されました。</translation>
+    </message>
 </context>
 <context>
     <name>Document</name>

@@ -313,6 +313,20 @@ TEST_F(LastUsed, ComesBackWithoutWhatBelongedToThatJob)
     EXPECT_EQ(marked(u"VKMediaType"_s), u"Plain"_s);
 }
 
+TEST_F(LastUsed, NeverComesBackWithoutTheDialog)
+{
+    printGlossy();
+    m_window.reset();
+    PrintController controller(m_line);
+    bool isFound = false;
+    controller.findPrinter(controller.wantedPrinter(), [&](const Result<FoundPrinter> &found) {
+        isFound = true;
+        EXPECT_TRUE(found) << found.sentence().toStdString();
+    });
+    ASSERT_TRUE(QTest::qWaitFor([&] { return isFound; }, kTimeout));
+    EXPECT_EQ(markedChoice(controller.job().ppd(), u"VKMediaType"_s), u"Plain"_s);
+}
+
 TEST_F(LastUsed, BelongsToItsPrinter)
 {
     printGlossy();
