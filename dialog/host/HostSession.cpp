@@ -160,17 +160,19 @@ PPDMark HostSession::spelled(const QString &keyword, const QString &choice) cons
             found ? ppdName(found->choice) : choice};
 }
 
+QVariant HostSession::infoValue(QLatin1String key) const
+{
+    return m_plugIn.bundle ? m_plugIn.bundle->infoValue(key) : QVariant();
+}
+
 QStringList HostSession::watchedKeywords() const
 {
-    return m_plugIn.bundle ? m_plugIn.bundle->infoValue(kPDEKeysWatchedKey).toStringList()
-                           : QStringList();
+    return infoValue(kPDEKeysWatchedKey).toStringList();
 }
 
 QString HostSession::keywordOfTicketKey(const QString &key) const
 {
-    const QVariant keywords =
-        m_plugIn.bundle ? m_plugIn.bundle->infoValue(kPDETicketKeyKeywordsKey) : QVariant();
-    return keywords.toMap().value(key).toString();
+    return infoValue(kPDETicketKeyKeywordsKey).toMap().value(key).toString();
 }
 
 QStringList HostSession::titledKeywords() const
@@ -186,8 +188,7 @@ QStringList HostSession::titledKeywords() const
 
 std::optional<SliderRange> HostSession::sliderRange() const
 {
-    const QVariantList range =
-        m_plugIn.bundle ? m_plugIn.bundle->infoValue(kPDESliderRangeKey).toList() : QVariantList();
+    const QVariantList range = infoValue(kPDESliderRangeKey).toList();
     if (range.size() != 2)
         return std::nullopt;
     return SliderRange{range[0].toDouble(), range[1].toDouble()};
@@ -195,8 +196,23 @@ std::optional<SliderRange> HostSession::sliderRange() const
 
 QStringList HostSession::foldStateKeys() const
 {
-    return m_plugIn.bundle ? m_plugIn.bundle->infoValue(kPDEFoldStateKeysKey).toStringList()
-                           : QStringList();
+    return infoValue(kPDEFoldStateKeysKey).toStringList();
+}
+
+ChoiceForms HostSession::choiceForms() const
+{
+    return ChoiceForms(infoValue(kPDEChoiceFormsKey).toMap());
+}
+
+std::optional<QStringList> HostSession::twoSidedPapers() const
+{
+    const QVariant papers = infoValue(kPDETwoSidedPapersKey);
+    return papers.isValid() ? std::optional(papers.toStringList()) : std::nullopt;
+}
+
+QList<PaperAdvice> HostSession::paperAdvice() const
+{
+    return ::paperAdvice(infoValue(kPDEPaperAdviceKey).toList());
 }
 
 QVariantMap HostSession::alertMemory() const

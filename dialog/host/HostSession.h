@@ -1,7 +1,9 @@
 #pragma once
 
+#include "dialog/host/ChoiceForms.h"
 #include "dialog/host/HostCallback.h"
 #include "dialog/host/PPDFile.h"
+#include "dialog/host/PaperAdvice.h"
 #include "dialog/host/PlugInLoader.h"
 #include "dialog/host/SessionObserver.h"
 #include "dialog/host/SessionOptions.h"
@@ -136,6 +138,16 @@ public:
     /// The bundle of the plug-in; null without one.
     const Bundle *bundle() const { return m_plugIn.bundle.get(); }
 
+    /// Which choices are forms of one another, as the plug-in says.
+    ChoiceForms choiceForms() const;
+
+    /// The names of the papers that the printer takes on both sides, as the plug-in says; none when
+    /// it says nothing of it.
+    std::optional<QStringList> twoSidedPapers() const;
+
+    /// What the plug-in advises for some papers.
+    QList<PaperAdvice> paperAdvice() const;
+
     /// What the user asked the plug-in's alerts to remember.
     QVariantMap alertMemory() const;
 
@@ -180,6 +192,7 @@ public:
 
 private:
     explicit HostSession(const SessionOptions &options);
+    QVariant infoValue(QLatin1String key) const;
     void prepareCallback();
     void createPanels();
     void post(const QString &name);

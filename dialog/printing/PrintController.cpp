@@ -5,8 +5,8 @@
 #include "dialog/job/DocumentFile.h"
 #include "dialog/job/JobFileWriter.h"
 #include "dialog/job/PipeDocuments.h"
+#include "dialog/printing/RequestedSettings.h"
 #include "dialog/printing/SavedJob.h"
-#include "dialog/printing/SettingRequests.h"
 #include "dialog/work/BackgroundCall.h"
 
 #include <QtCore/QCoreApplication>
@@ -153,18 +153,10 @@ void PrintController::listPrinters(Then<QList<Destination>> then)
 
 Result<> PrintController::makeRequestedSettings(const std::function<void()> &madeOne)
 {
-    Result<> all;
-    const auto note = [&](const Result<> &one) {
-        if (madeOne)
-            madeOne();
-        if (all)
-            all = one;
-    };
+    QList<RequestedChoice> wanted = m_wishes.choices;
     if (!m_wishes.paper.isNull())
-        note(choosePaper(m_job, m_wishes.paper));
-    for (const RequestedChoice &wanted : m_wishes.choices)
-        note(makeSetting(m_job, wanted.keyword, wanted.choice));
-    return all;
+        wanted += RequestedChoice{QStringLiteral("PageSize"), m_wishes.paper};
+    return makeSettings(m_job, wanted, madeOne);
 }
 
 Result<JobRequest> PrintController::finish()

@@ -73,8 +73,7 @@ public:
     /// Lists the printers of the wished server.
     void listPrinters(Then<QList<Destination>> then);
 
-    /// Makes the wished settings in their order; the first fault when not all could be made.
-    /// `madeOne` is called after each.
+    /// Makes the wished settings (makeSettings()).
     Result<> makeRequestedSettings(const std::function<void()> &madeOne = {});
 
     /// Asks the panels whether the job may be printed, and makes the job as it is to go out. After

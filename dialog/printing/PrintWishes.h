@@ -22,7 +22,7 @@ struct PrintWishes
     QString instance;  ///< under which the user has saved settings for the queue
     QString server;    ///< host, host:port, or the path of a socket
     QString ppd;
-    QList<RequestedChoice> choices; ///< in the order in which they are to be made
+    QList<RequestedChoice> choices; ///< in any order
     QString paper;                  ///< a PageSize choice, or Custom.WIDTHxHEIGHT
     QString plugIn;                 ///< the bundle's path
     QString output;                 ///< where the job goes instead of to a server

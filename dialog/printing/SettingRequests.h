@@ -1,18 +1,25 @@
 #pragma once
 
+#include "dialog/printing/PrintWishes.h"
 #include "dialog/work/Result.h"
-
-#include <QtCore/QString>
 
 class PrintJob;
 
-/// Settings that were asked for on the command line, made as a person would: by a pick in the
-/// panel's control where a panel has one, which runs the panel's rules, else by the dialog itself.
+/// Settings that were asked for by name, made as a person would: by a pick in the panel's control
+/// where a panel has one, which runs the panel's rules, else by the dialog itself.
 
-/// Makes the setting. `copies`, `page-ranges` and `orientation-requested` are the dialog's own.
-/// After a fault that setting is as it was.
-Result<> makeSetting(PrintJob &job, const QString &keyword, const QString &choice);
+/// The setting by the names that the printer has for it, in the one spelling of its meaning. A
+/// fault of kind Request where the printer has no such setting, or not the choice. `PageSize` takes
+/// "Custom.WIDTHxHEIGHT" with a unit besides, within the limits of the PPD; `copies`, `page-ranges`
+/// and `orientation-requested` are the dialog's own.
+Result<RequestedChoice> knownSetting(const PrintJob &job, const RequestedChoice &wanted);
 
-/// Chooses the paper by the name of its `PageSize` choice, or "Custom.WIDTHxHEIGHT" with a unit
-/// within the limits of the PPD.
-Result<> choosePaper(PrintJob &job, const QString &paper);
+/// Makes a known setting, as far as the other ones allow. The panels' controls are filled
+/// (prepareControls()), but for settings of the page.
+void makeSetting(PrintJob &job, const RequestedChoice &known);
+
+/// Whether the job has the known setting now, or a form of it.
+bool hasSetting(const PrintJob &job, const RequestedChoice &known);
+
+/// Why the job has not: the printer's constraints, or what it has instead.
+QString lossSentence(const PrintJob &job, const RequestedChoice &known);

@@ -15,7 +15,8 @@ Printer
       --ppd FILE          take the printer from a PPD file instead of a queue
 
 Settings
-  -o, --option KEY=VALUE  make a setting of the printer; may be given again
+  -o, --option KEY=VALUE  make a setting of the printer; may be given again,
+                          in any order, once for each KEY
       --paper NAME        choose the paper by its name in the PPD, or
                           Custom.WIDTHxHEIGHT with a unit: Custom.100x150mm
 
@@ -26,7 +27,8 @@ Job
       --force             replace files that exist already: those of --output,
                           --screenshot, --record and of a script's pictures
       --no-dialog         print without showing the dialog; every check is made
-      --yes               answer yes to what a check asks, instead of no
+      --yes               answer yes to what a check asks, instead of no, and
+                          print without the settings that cannot be had
 
 Looking and testing
       --screenshot FILE.png
@@ -49,7 +51,8 @@ Exit status
      whole job
   2  a wrong option, setting or script, a PPD that cannot be opened, or no
      display for the dialog
-  3  a check stopped the job
+  3  a check stopped the job, or a setting could not be had together
+     with the others
   4  a document cannot be read
   5  an output file cannot be written, or exists already
   6  the server or the queue cannot be reached, the job was refused, or it

@@ -141,10 +141,14 @@ void Run::takePrinter(const FoundPrinter &printer)
 
 void Run::makeSettings()
 {
-    if (!goOn(m_controller.makeRequestedSettings([this] { m_answers.answerSheets(); })))
+    const Result<> made = m_controller.makeRequestedSettings([this] { m_answers.answerSheets(); });
+    const bool isAgreed = m_line.yes && made.faultKind() == FaultKind::Vetoed;
+    if (!goOn(isAgreed ? Result<>() : made))
         return;
     for (const QString &said : m_answers.takeSentences())
         warn(said);
+    if (!made)
+        warn(made.sentence());
     finish();
 }
 

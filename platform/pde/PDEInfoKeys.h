@@ -39,3 +39,20 @@ inline constexpr auto kPDETicketKeyKeywordsKey = QLatin1String("PMTicketKeyKeywo
 
 /// The keys of the ticket under which the panels keep what is folded and unfolded: a list.
 inline constexpr auto kPDEFoldStateKeysKey = QLatin1String("PMTicketFoldStateKeys");
+
+/// The PPD keyword to lists of its choices that are forms of one another, such as plain paper and
+/// plain paper that is printed on both sides: an object. People choose one of a list, the panel
+/// marks the one that the job needs, and the dialog neither tells of it nor asks.
+///
+///   "PDEChoiceForms": {"ExMedium": [["Plain", "PlainTwoSided"]]}
+inline constexpr auto kPDEChoiceFormsKey = QLatin1String("PDEChoiceForms");
+
+/// The names of the papers that the printer can print on both sides: a list. With any other paper
+/// the dialog tells of it, and asks before it prints. Without this entry all can be.
+inline constexpr auto kPDETwoSidedPapersKey = QLatin1String("PDETwoSidedPapers");
+
+/// Choices that the dialog advises for some papers while another one is marked: a list of objects.
+/// "Papers" are patterns of a shell for the names of the papers, in their letter case.
+///
+///   "PDEPaperAdvice": [{"Papers": ["Env*"], "Keyword": "ExTray", "Choice": "Rear"}]
+inline constexpr auto kPDEPaperAdviceKey = QLatin1String("PDEPaperAdvice");

@@ -1057,6 +1057,13 @@
     </message>
 </context>
 <context>
+    <name>RequestedSettings</name>
+    <message>
+        <source>%1=%2 and %1=%3 cannot both be had: ask for one of them.</source>
+        <translation>%1=%2 und %1=%3 schließen einander aus: Geben Sie nur eines davon an.</translation>
+    </message>
+</context>
+<context>
     <name>SavedJob</name>
     <message>
         <source>%1 is a saved job: it is sent as it was saved, without -o, --paper and --output.</source>
@@ -1204,8 +1211,8 @@
         <translation>Der Drucker hat keine Einstellung %1.</translation>
     </message>
     <message>
-        <source>%1=%2 cannot be chosen while the other settings are as they are.</source>
-        <translation>%1=%2 kann mit den übrigen Einstellungen nicht gewählt werden.</translation>
+        <source>%1 cannot be chosen while the other settings are as they are.</source>
+        <translation>%1 kann mit den übrigen Einstellungen nicht gewählt werden.</translation>
     </message>
     <message>
         <source>The printer has no paper %1.</source>
@@ -1218,6 +1225,14 @@
     <message>
         <source>The printer takes no paper of %1 × %2 mm: sizes of your own go from %3 × %4 mm to %5 × %6 mm.</source>
         <translation>Der Drucker nimmt kein Papier von %1 × %2 mm an: Eigene Formate reichen von %3 × %4 mm bis %5 × %6 mm.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be chosen while the other settings are as they are: %2 is %3.</source>
+        <translation>%1 kann mit den übrigen Einstellungen nicht gewählt werden: „%2“ ist „%3“.</translation>
+    </message>
+    <message>
+        <source>A paper of a size of your own needs that size, such as Custom.100x150mm.</source>
+        <translation>Ein Papier mit eigenem Format braucht dessen Maße, etwa Custom.100x150mm.</translation>
     </message>
 </context>
 </TS>

@@ -1057,6 +1057,13 @@
     </message>
 </context>
 <context>
+    <name>RequestedSettings</name>
+    <message>
+        <source>%1=%2 and %1=%3 cannot both be had: ask for one of them.</source>
+        <translation>%1=%2 et %1=%3 s’excluent : n’en demandez qu’un seul.</translation>
+    </message>
+</context>
+<context>
     <name>SavedJob</name>
     <message>
         <source>%1 is a saved job: it is sent as it was saved, without -o, --paper and --output.</source>
@@ -1204,8 +1211,8 @@
         <translation>L’imprimante n’a pas de réglage %1.</translation>
     </message>
     <message>
-        <source>%1=%2 cannot be chosen while the other settings are as they are.</source>
-        <translation>%1=%2 ne peut pas être choisi avec les autres réglages actuels.</translation>
+        <source>%1 cannot be chosen while the other settings are as they are.</source>
+        <translation>%1 ne peut pas être choisi avec les autres réglages actuels.</translation>
     </message>
     <message>
         <source>The printer has no paper %1.</source>
@@ -1218,6 +1225,14 @@
     <message>
         <source>The printer takes no paper of %1 × %2 mm: sizes of your own go from %3 × %4 mm to %5 × %6 mm.</source>
         <translation>L’imprimante n’accepte pas de papier de %1 × %2 mm : les formats personnalisés vont de %3 × %4 mm à %5 × %6 mm.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be chosen while the other settings are as they are: %2 is %3.</source>
+        <translation>%1 ne peut pas être choisi avec les autres réglages actuels : « %2 » est « %3 ».</translation>
+    </message>
+    <message>
+        <source>A paper of a size of your own needs that size, such as Custom.100x150mm.</source>
+        <translation>Un papier de format personnalisé doit avoir ses dimensions, par exemple Custom.100x150mm.</translation>
     </message>
 </context>
 </TS>

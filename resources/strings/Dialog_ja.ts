@@ -1057,6 +1057,13 @@
     </message>
 </context>
 <context>
+    <name>RequestedSettings</name>
+    <message>
+        <source>%1=%2 and %1=%3 cannot both be had: ask for one of them.</source>
+        <translation>%1=%2 と %1=%3 を同時に指定することはできません。どちらか一方を指定してください。</translation>
+    </message>
+</context>
+<context>
     <name>SavedJob</name>
     <message>
         <source>%1 is a saved job: it is sent as it was saved, without -o, --paper and --output.</source>
@@ -1204,8 +1211,16 @@
         <translation>プリンターに %1 という設定はありません。</translation>
     </message>
     <message>
-        <source>%1=%2 cannot be chosen while the other settings are as they are.</source>
-        <translation>現在のほかの設定では、%1=%2 は選べません。</translation>
+        <source>%1 cannot be chosen while the other settings are as they are.</source>
+        <translation>現在のほかの設定では、%1 は選べません。</translation>
+    </message>
+    <message>
+        <source>%1 cannot be chosen while the other settings are as they are: %2 is %3.</source>
+        <translation>現在のほかの設定では、%1 は選べません（%2 は「%3」です）。</translation>
+    </message>
+    <message>
+        <source>A paper of a size of your own needs that size, such as Custom.100x150mm.</source>
+        <translation>カスタムサイズの用紙には大きさの指定が必要です（例: Custom.100x150mm）。</translation>
     </message>
     <message>
         <source>The printer has no paper %1.</source>

@@ -252,6 +252,18 @@ INSTANTIATE_TEST_SUITE_P(
                              "The saved job %1 is cut short: its end is missing."}),
     CaseName());
 
+TEST_F(Command, ASettingThatIsLostIsToldAndPrintedWithoutAfterAYes)
+{
+    const ProgramRun run =
+        print({u"-o"_s, u"VKResolution=High"_s, u"-o"_s, u"VKMediaType=Glossy"_s, u"--yes"_s});
+    EXPECT_EQ(run.status, 0);
+    EXPECT_EQ(run.errors, u"velkaro-print: VKResolution=High cannot be chosen while the other "
+                          "settings are as they are: Print Quality is Photo.\n"_s);
+    const QList<int> jobs = newJobs();
+    ASSERT_EQ(jobs.size(), 1);
+    EXPECT_EQ(settingsOf(jobs[0]).value(u"VKResolution"_s), u"Photo"_s);
+}
+
 TEST_F(Command, AQueueWithoutAPPDPrintsWithTheHostsOwnSettings)
 {
     ASSERT_TRUE(server().addQueue(u"raw"_s, QString()));
@@ -305,8 +317,9 @@ INSTANTIATE_TEST_SUITE_P(
         Fault{"UnknownPaper", {u"--paper"_s, u"NoSuch"_s}, 2, "The printer has no paper NoSuch."},
         Fault{"DisabledSlider",
               {u"-o"_s, u"VKBrightness=3"_s},
-              2,
-              "VKBrightness=3 cannot be chosen while the other settings are as they are."},
+              3,
+              "VKBrightness=3 cannot be chosen while the other settings are as they are: "
+              "Brightness is 0."},
         Fault{"BadCopies", {u"-o"_s, u"copies=0"_s}, 2, "0 is no value for copies."},
         Fault{"UnknownQueue",
               {u"--ppd"_s, u"/nonexistent.ppd"_s},

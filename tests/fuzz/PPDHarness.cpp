@@ -1,8 +1,8 @@
 #include "dialog/job/JobOptions.h"
 #include "dialog/job/ReservedNames.h"
 #include "dialog/printing/PrintJob.h"
+#include "dialog/printing/RequestedSettings.h"
 #include "dialog/printing/ScriptedAnswers.h"
-#include "dialog/printing/SettingRequests.h"
 #include "platform/ppd/PPDText.h"
 #include "tests/built/BuiltFiles.h"
 #include "tests/fuzz/Harnesses.h"
@@ -48,7 +48,7 @@ void pick(PrintJob &job, const QByteArray &wish)
     const QString keyword = ppdName(option.keyword);
     const QString choice = ppdName(option.choices[at(1) % option.num_choices].choice);
     if (at(2) >= 0xF8 && isChoice(job.ppd(), keyword))
-        static_cast<void>(makeSetting(job, keyword, choice));
+        static_cast<void>(makeSettings(job, {{keyword, choice}}));
     else
         job.mark(keyword, choice);
 }

@@ -1,3 +1,4 @@
+#include "printsettings/rules/DuplexPapers.h"
 #include "tests/resources/Places.h"
 
 #include <QtCore/QDir>
@@ -50,6 +51,14 @@ TEST(InformationKeys, ListTheColorSettingsKeywordsWithoutTheEnhancementValues)
 {
     EXPECT_EQ(list(u"PMPPDKeysSupportedColor"_s),
               (QStringList{u"VKColorMatching"_s, u"VKHalfTonePattern"_s, u"VKColorEnhancement"_s}));
+}
+
+TEST(InformationKeys, ListThePapersThatTheRulesTakeForBothSides)
+{
+    const QStringList listed = list(u"PDETwoSidedPapers"_s);
+    EXPECT_EQ(listed.size(), 19);
+    for (const QString &paper : listed)
+        EXPECT_TRUE(isDuplexPaper(paper)) << paper.toStdString();
 }
 
 TEST(InformationKeys, ListEveryView)

@@ -2,6 +2,7 @@
 
 #include "dialog/job/Papers.h"
 #include "dialog/printing/PrintJob.h"
+#include "dialog/printing/RequestedSettings.h"
 #include "platform/ppd/PPDText.h"
 #include "tests/built/BuiltFiles.h"
 #include "tests/support/CaseName.h"
@@ -29,6 +30,11 @@ protected:
         m_job.setPrinter({}, openPrinter(options, *openPPD(options.ppdPath), {}));
     }
 
+    Result<> make(const QString &keyword, const QString &choice)
+    {
+        return makeSettings(m_job, {{keyword, choice}});
+    }
+
     QString paperName() { return m_job.paper().value_or(PMPaper()).name; }
 
     PrintJob m_job;
@@ -36,8 +42,8 @@ protected:
 
 TEST_F(Requests, RefuseABadOrientationBeforeItChangesAnything)
 {
-    ASSERT_TRUE(makeSetting(m_job, u"orientation-requested"_s, u"landscape"_s));
-    const Result<> made = makeSetting(m_job, u"orientation-requested"_s, u"sideways"_s);
+    ASSERT_TRUE(make(u"orientation-requested"_s, u"landscape"_s));
+    const Result<> made = make(u"orientation-requested"_s, u"sideways"_s);
     EXPECT_EQ(made.faultKind(), FaultKind::Request);
     EXPECT_EQ(made.sentence(), u"sideways is no value for orientation-requested."_s);
     EXPECT_EQ(m_job.orientation(), PMOrientation::Landscape);
@@ -59,12 +65,10 @@ TEST_P(OwnSizes, AreTakenWithinThePrintersLimits)
     ASSERT_EQ(QList<double>({limits.minWidth, limits.maxWidth, limits.minHeight, limits.maxHeight}),
               QList<double>({182, 936, 254, 1368}));
     const QString before = paperName();
-    for (const bool asSetting : {false, true}) {
-        const Result<> chosen = asSetting ? makeSetting(m_job, u"PageSize"_s, GetParam().paper)
-                                          : choosePaper(m_job, GetParam().paper);
-        EXPECT_EQ(chosen.isGood(), GetParam().isTaken) << chosen.sentence().toStdString();
-        EXPECT_EQ(paperName() != before, GetParam().isTaken);
-    }
+    const Result<> chosen = make(u"PageSize"_s, GetParam().paper);
+    EXPECT_EQ(chosen.faultKind(),
+              GetParam().isTaken ? std::nullopt : std::optional(FaultKind::Request));
+    EXPECT_EQ(paperName() != before, GetParam().isTaken);
 }
 
 INSTANTIATE_TEST_SUITE_P(Table, OwnSizes,
@@ -78,10 +82,28 @@ INSTANTIATE_TEST_SUITE_P(Table, OwnSizes,
                                          OwnSize{"ASheetForAHouse", u"Custom.9000x9000mm"_s}),
                          CaseName());
 
+TEST_F(Requests, WantTheSizeOfAnOwnPaper)
+{
+    for (const QString &keyword : {u"PageSize"_s, u"pagesize"_s, u"PageRegion"_s}) {
+        const Result<> chosen = make(keyword, u"custom"_s);
+        EXPECT_EQ(chosen.faultKind(), FaultKind::Request);
+        EXPECT_EQ(chosen.sentence(),
+                  u"A paper of a size of your own needs that size, such as Custom.100x150mm."_s);
+        EXPECT_EQ(paperName(), u"A4"_s);
+    }
+}
+
+TEST_F(Requests, TakeThePaperUnderBothOfItsKeywords)
+{
+    EXPECT_TRUE(make(u"PageRegion"_s, u"a5"_s));
+    EXPECT_EQ(paperName(), u"A5"_s);
+    EXPECT_EQ(markedChoice(m_job.ppd(), u"PageSize"_s), u"A5"_s);
+}
+
 TEST_F(Requests, NameTheLimitsOfAnOwnSize)
 {
     EXPECT_EQ(
-        choosePaper(m_job, u"Custom.2000x3000mm"_s).sentence(),
+        make(u"PageSize"_s, u"Custom.2000x3000mm"_s).sentence(),
         u"The printer takes no paper of 2000 × 3000 mm: sizes of your own go from 64.2 × 89.6 "
         "mm to 330.2 × 482.6 mm."_s);
 }
@@ -99,10 +121,11 @@ class HostRefusals : public Requests, public testing::WithParamInterface<HostRef
 TEST_P(HostRefusals, FailTheSettingThatTheyConcernAlone)
 {
     open(GetParam().refused);
-    const Result<> made = makeSetting(m_job, u"vkmediatype"_s, u"glossy"_s);
+    const Result<> made = make(u"vkmediatype"_s, u"glossy"_s);
     EXPECT_EQ(made.sentence(), GetParam().isMade ? QString()
                                                  : u"VKMediaType=Glossy cannot be chosen while "
-                                                   "the other settings are as they are."_s);
+                                                   "the other settings are as they are: Media "
+                                                   "Type is Plain Paper."_s);
     EXPECT_EQ(markedChoice(m_job.ppd(), u"VKMediaType"_s) == u"Glossy"_s, GetParam().isMade);
 }
 

@@ -1,0 +1,80 @@
+#include "dialog/printing/OwnSettings.h"
+
+#include "dialog/job/PageRanges.h"
+#include "dialog/printing/PrintJob.h"
+
+#include <algorithm>
+#include <array>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int kMostCopies = 999;
+constexpr auto kPortrait = "portrait"_L1;
+constexpr auto kLandscape = "landscape"_L1;
+
+QString normalizedCopies(const QString &value)
+{
+    const int copies = value.toInt();
+    return copies >= 1 && copies <= kMostCopies ? QString::number(copies) : QString();
+}
+
+void takeCopies(PrintJob &job, const QString &value)
+{
+    job.settings().copies = value.toInt();
+}
+
+void takePages(PrintJob &job, const QString &value)
+{
+    job.settings().pageRanges = value;
+}
+
+QString normalizedOrientation(const QString &value)
+{
+    if (value == "4"_L1 || value == kLandscape)
+        return kLandscape;
+    return value == "3"_L1 || value == kPortrait ? QString(kPortrait) : QString();
+}
+
+void takeOrientation(PrintJob &job, const QString &value)
+{
+    job.setOrientation(value == kLandscape ? PMOrientation::Landscape : PMOrientation::Portrait);
+}
+
+struct OwnSetting
+{
+    QLatin1String name;
+    QString (*normalized)(const QString &value);
+    void (*take)(PrintJob &job, const QString &value);
+};
+
+constexpr std::array kOwnSettings{
+    OwnSetting{"copies"_L1, normalizedCopies, takeCopies},
+    OwnSetting{"page-ranges"_L1, normalizedPageRanges, takePages},
+    OwnSetting{"orientation-requested"_L1, normalizedOrientation, takeOrientation}};
+
+const OwnSetting *settingNamed(const QString &name)
+{
+    const auto found = std::ranges::find(kOwnSettings, name, &OwnSetting::name);
+    return found == kOwnSettings.end() ? nullptr : &*found;
+}
+
+} // namespace
+
+bool isOwnSetting(const QString &name)
+{
+    return settingNamed(name);
+}
+
+QString normalizedOwnValue(const QString &name, const QString &value)
+{
+    const OwnSetting *setting = settingNamed(name);
+    return setting ? setting->normalized(value) : QString();
+}
+
+void takeOwnSetting(PrintJob &job, const QString &name, const QString &value)
+{
+    if (const OwnSetting *setting = settingNamed(name))
+        setting->take(job, value);
+}
