@@ -97,18 +97,37 @@ bool markSeveral(ppd_file_t *ppd, ppd_option_t &option, const QString &names)
     return true;
 }
 
-// libcups takes whatever it is given, and reads over what it does not know.
-bool markCustom(ppd_file_t *ppd, const ppd_option_t &option, const QString &choice)
+/// The value of the user's own that the choice stands for; null when it is none that the option
+/// takes.
+QString customValue(ppd_file_t *ppd, const ppd_option_t &option, const QString &choice)
 {
     const QList<CustomParameter> parameters =
         parametersOf(choice, customParameters(ppd, ppdName(option.keyword)));
-    const bool isGood =
-        !parameters.isEmpty() && std::ranges::all_of(parameters, [](const auto &parameter) {
-            return faultOf(parameter) == ParameterFault::None;
-        });
-    if (isGood)
-        ppdMarkOption(ppd, option.keyword, customChoice(parameters).toUtf8().constData());
-    return isGood;
+    const bool isGood = std::ranges::all_of(parameters, [](const auto &parameter) {
+        return faultOf(parameter) == ParameterFault::None;
+    });
+    return isGood ? customChoice(parameters) : QString();
+}
+
+// libcups takes whatever it is given, and reads over what it does not know.
+bool markCustom(ppd_file_t *ppd, const ppd_option_t &option, const QString &choice)
+{
+    const QString value = customValue(ppd, option, choice);
+    if (!value.isNull())
+        ppdMarkOption(ppd, option.keyword, value.toUtf8().constData());
+    return !value.isNull();
+}
+
+/// The names of several choices, spelt and in order as the PPD has them; null when one of them is
+/// none of the option's, or there may be but one.
+QString severalNames(ppd_option_t &option, const QString &names)
+{
+    const auto choices = choicesOf(option, names);
+    QStringList spelled;
+    for (int index = 0; index < option.num_choices; ++index)
+        if (std::ranges::find(choices, &option.choices[index]) != choices.end())
+            spelled += ppdName(option.choices[index].choice);
+    return option.ui == PPD_UI_PICKMANY && !spelled.isEmpty() ? spelled.join(u',') : QString();
 }
 
 void addMarks(ppd_file_t *ppd, ppd_group_t *groups, int count, QList<PPDMark> &marks)
@@ -133,6 +152,24 @@ QList<PPDMark> marksOf(ppd_file_t *ppd)
     if (ppd)
         addMarks(ppd, ppd->groups, ppd->num_groups, marks);
     return marks;
+}
+
+QString markedValue(ppd_file_t *ppd, const QString &keyword)
+{
+    const ppd_option_t *option = findOption(ppd, keyword);
+    const ppd_choice_t *choice = option ? ppdFindMarkedChoice(ppd, option->keyword) : nullptr;
+    return choice ? textOf(ppd, *option, *choice) : QString();
+}
+
+QString normalizedValue(ppd_file_t *ppd, const QString &keyword, const QString &value)
+{
+    ppd_option_t *option = findOption(ppd, keyword);
+    if (!option)
+        return {};
+    if (const ppd_choice_t *choice = findChoice(option, value))
+        return ppdName(choice->choice);
+    const QString several = severalNames(*option, value);
+    return several.isNull() ? customValue(ppd, *option, value) : several;
 }
 
 QList<PPDMark> changedMarks(ppd_file_t *ppd, const QList<PPDMark> &before)

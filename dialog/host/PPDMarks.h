@@ -22,6 +22,13 @@ struct PPDMark
 /// carries beside `PageSize`.
 QList<PPDMark> marksOf(ppd_file_t *ppd);
 
+/// What is marked of the option, as a PPDMark holds it; null when nothing is.
+QString markedValue(ppd_file_t *ppd, const QString &keyword);
+
+/// The value as it would be held by a PPDMark: spelt as the PPD has it, several in its order. Null
+/// when the option is not there or does not take the value.
+QString normalizedValue(ppd_file_t *ppd, const QString &keyword, const QString &value);
+
 /// Those of the marks that are not among `before`.
 QList<PPDMark> changedMarks(ppd_file_t *ppd, const QList<PPDMark> &before);
 

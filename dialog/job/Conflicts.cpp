@@ -8,6 +8,8 @@
 
 #include <cups/cups.h>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 QString quotedList(const QStringList &texts)
@@ -16,6 +18,34 @@ QString quotedList(const QStringList &texts)
     for (const QString &text : texts)
         quoted += QCoreApplication::translate("Conflicts", "\"%1\"").arg(text);
     return quoted.join(QCoreApplication::translate("Conflicts", ", "));
+}
+
+/// The choices of a value that constraints of the PPD may forbid: of several each, and the one that
+/// stands for all values of the user's own. libcups knows "Custom.120" by itself.
+QStringList constrainedChoices(ppd_file_t *ppd, const QString &keyword, const QString &value)
+{
+    ppd_option_t *option = findOption(ppd, keyword);
+    if (!option || findChoice(option, value))
+        return {value};
+    if (option->ui == PPD_UI_PICKMANY)
+        return value.split(u',');
+    return {value.startsWith(u'{') ? u"Custom"_s : value};
+}
+
+QStringList clashesWithOne(ppd_file_t *ppd, const QString &keyword, const QString &choice)
+{
+    cups_option_t *options = nullptr;
+    const int count = cupsGetConflicts(ppd, ppdBytes(keyword).constData(),
+                                       ppdBytes(choice).constData(), &options);
+    QStringList clashes;
+    for (int index = 0; index < count; ++index) {
+        const QString other = ppdName(options[index].name);
+        // PPDs have every paper twice, as PageSize and PageRegion: one of them is enough to name.
+        if (other != QLatin1String("PageRegion"))
+            clashes += choiceText(ppd, other, ppdName(options[index].value));
+    }
+    cupsFreeOptions(count, options);
+    return clashes;
 }
 
 } // namespace
@@ -29,17 +59,10 @@ QString choiceText(ppd_file_t *ppd, const QString &keyword, const QString &choic
 
 QStringList clashesWith(ppd_file_t *ppd, const QString &keyword, const QString &choice)
 {
-    cups_option_t *options = nullptr;
-    const int count = cupsGetConflicts(ppd, ppdBytes(keyword).constData(),
-                                       ppdBytes(choice).constData(), &options);
     QStringList clashes;
-    for (int index = 0; index < count; ++index) {
-        const QString other = ppdName(options[index].name);
-        // PPDs have every paper twice, as PageSize and PageRegion: one of them is enough to name.
-        if (other != QLatin1String("PageRegion"))
-            clashes += choiceText(ppd, other, ppdName(options[index].value));
-    }
-    cupsFreeOptions(count, options);
+    for (const QString &one : constrainedChoices(ppd, keyword, choice))
+        clashes += clashesWithOne(ppd, keyword, one);
+    clashes.removeDuplicates();
     return clashes;
 }
 

@@ -1,16 +1,12 @@
 #include "dialog/printing/FeaturePicks.h"
 
-#include "dialog/host/CustomParameters.h"
 #include "dialog/host/controls/PanelParts.h"
 #include "dialog/job/Conflicts.h"
 #include "dialog/job/FeatureTexts.h"
 #include "dialog/printing/PrintJob.h"
-#include "platform/ppd/PPDText.h"
 #include "platform/toolkit/ViewLoader.h"
 
 #include <QtCore/QCoreApplication>
-
-using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -25,16 +21,6 @@ QStringList keywordsOfPanels(const HostSession &session)
         if (const QString bound = boundKeyOf(part); !bound.isEmpty())
             keywords += bound;
     return keywords;
-}
-
-/// The choices of a value that constraints of the PPD may forbid.
-QStringList constrainedChoices(const PrintJob &job, const PrinterFeature &feature,
-                               const QString &value)
-{
-    if (findChoice(findOption(job.ppd(), feature.keyword), value))
-        return {value};
-    return feature.kind == PrinterFeature::Kind::Many ? value.split(u',')
-                                                      : QStringList(u"Custom"_s);
 }
 
 } // namespace
@@ -53,10 +39,9 @@ Result<> chooseFeature(PrintJob &job, const PrinterFeature &feature, const QStri
         return Fault{FaultKind::Request, QCoreApplication::translate(
                                              "FeaturePicks", "\"%1\" needs at least one choice.")
                                              .arg(feature.text)};
-    for (const QString &choice : constrainedChoices(job, feature, value))
-        if (const QString clash = refusalSentence(job.ppd(), feature.keyword, choice);
-            !clash.isNull())
-            return Fault{FaultKind::Request, clash};
+    const QString clash = refusalSentence(job.ppd(), feature.keyword, value);
+    if (!clash.isNull())
+        return Fault{FaultKind::Request, clash};
     if (job.mark(feature.keyword, value))
         return {};
     return Fault{

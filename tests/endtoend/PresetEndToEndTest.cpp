@@ -84,7 +84,7 @@ protected:
             const ppd_option_t *option = findOption(job.ppd(), mark.keyword);
             const QString choice =
                 ppdName(option->choices[random.bounded(option->num_choices)].choice);
-            (void)makeSetting(job, mark.keyword, choice);
+            makeSetting(job, {mark.keyword, choice});
         }
         if (random.bounded(2) == 1)
             job.setOrientation(PMOrientation::Landscape);

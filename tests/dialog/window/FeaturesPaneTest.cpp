@@ -186,6 +186,26 @@ TEST_F(FeaturesOf, AManyWithoutNoneKeepTheLastChoice)
     EXPECT_EQ(notice(), u"\"Finish\" needs at least one choice."_s);
 }
 
+TEST_F(FeaturesOf, AnotherPrinterAreSettingsOfTheCommandLineToo)
+{
+    m_line.choices = {{u"weight"_s, u"Custom.120"_s},
+                      {u"Finisher"_s, u"Punch,staple"_s},
+                      {u"Stamp"_s, u"{Angle=5 Offset=1 Text=x}"_s}};
+    openFeatures();
+    EXPECT_EQ(m_window->settingState().sentence(), QString());
+    EXPECT_EQ(part<QSpinBox>("WeightGrams")->value(), 120);
+    EXPECT_EQ(ticked("FinisherFeature"), (QStringList{u"Staple"_s, u"Punch & Fold"_s}));
+    EXPECT_EQ(part<QLineEdit>("StampText")->text(), u"x"_s);
+}
+
+TEST_F(FeaturesOf, AnotherPrinterAreNoSettingsOutOfTheirLimits)
+{
+    m_line.choices = {{u"Weight"_s, u"Custom.301"_s}};
+    openFeatures();
+    EXPECT_EQ(m_window->settingState().sentence(), u"Custom.301 is no value for Weight."_s);
+    EXPECT_EQ(marked(u"Weight"_s), u"Light"_s);
+}
+
 // A panel hears of a choice that was made elsewhere, as it always does.
 TEST_F(FeaturesOf, APrinterWithAPanelLeaveOutWhatThePanelLists)
 {
