@@ -181,6 +181,17 @@ QList<CustomParameter> parametersOf(const QString &choice, QList<CustomParameter
     return areKnown && count > 0 ? parameters : QList<CustomParameter>();
 }
 
+QString withoutSecrets(ppd_file_t *ppd, const QString &keyword, const QString &choice)
+{
+    QList<CustomParameter> parameters = parametersOf(choice, customParameters(ppd, keyword));
+    if (!std::ranges::any_of(parameters, isSecret))
+        return choice;
+    for (CustomParameter &parameter : parameters)
+        if (isSecret(parameter))
+            parameter.value = QString(std::max(1, static_cast<int>(parameter.least)), u'0');
+    return customChoice(parameters);
+}
+
 bool isCustomName(const QString &choice)
 {
     return choice.compare(kCustom, Qt::CaseInsensitive) == 0;

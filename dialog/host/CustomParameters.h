@@ -48,5 +48,8 @@ QString customChoice(const QList<CustomParameter> &parameters);
 /// keeps its own. None: it is no choice of that form, or names a parameter that the option lacks.
 QList<CustomParameter> parametersOf(const QString &choice, QList<CustomParameter> parameters);
 
+/// The choice with zeros in the place of what is secret, for a text that others will read.
+QString withoutSecrets(ppd_file_t *ppd, const QString &keyword, const QString &choice);
+
 /// Whether the choice is one of the PPD's that stands for values of the user's own.
 bool isCustomName(const QString &choice);

@@ -19,7 +19,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr int kDecimals = 3;
-constexpr int kTextWidth = 240;
+constexpr int kCustomTextWidth = 240;
 
 } // namespace
 
@@ -102,7 +102,7 @@ CustomValueFields::Field CustomValueFields::newNumber(const CustomParameter &par
 CustomValueFields::Field CustomValueFields::newText(const CustomParameter &parameter)
 {
     auto *field = new QLineEdit(this);
-    field->setFixedWidth(kTextWidth);
+    field->setFixedWidth(kCustomTextWidth);
     if (isSecret(parameter))
         field->setEchoMode(QLineEdit::Password);
     connect(field, &QLineEdit::textEdited, this, &CustomValueFields::judge);

@@ -633,7 +633,7 @@
     <name>LpoptionsFile</name>
     <message>
         <source>The saved settings in %1 cannot be read: %2.</source>
-        <translation>%1 に保存された設定を読み込めません: %2</translation>
+        <translation>%1 に保存された設定を読み込めません: %2。</translation>
     </message>
     <message>
         <source>it is no such file</source>
@@ -1031,11 +1031,11 @@
     </message>
     <message>
         <source>The printer no longer has some of the settings that you used last: %1.</source>
-        <translation>前回使った設定の一部が、このプリンターにはもうありません: %1</translation>
+        <translation>前回使った設定の一部が、このプリンターにはもうありません: %1。</translation>
     </message>
     <message>
         <source>The printer does not have some of the settings that are saved for %1: %2.</source>
-        <translation>%1 に保存された設定の一部が、このプリンターにはありません: %2</translation>
+        <translation>%1 に保存された設定の一部が、このプリンターにはありません: %2。</translation>
     </message>
 </context>
 <context>

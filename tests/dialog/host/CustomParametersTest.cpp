@@ -13,15 +13,6 @@ namespace {
 
 using Kind = CustomParameter::Kind;
 
-/// The mark of the keyword as a job says it.
-QString markedValue(ppd_file_t *ppd, const QString &keyword)
-{
-    for (const PPDMark &mark : marksOf(ppd))
-        if (mark.keyword == keyword)
-            return mark.choice;
-    return {};
-}
-
 class CustomParameters : public testing::Test
 {
 protected:

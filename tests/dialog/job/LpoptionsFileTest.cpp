@@ -29,7 +29,7 @@ constexpr char kForeign[] = "# mine, by hand\n"
                             "dest PHOTO/Matte x=1 title=\"a b\"\n"
                             "Dest other/glossy y=2";
 
-struct Change
+struct LineChange
 {
     const char *what;
     QByteArray (*change)(const QByteArray &text);
@@ -37,12 +37,12 @@ struct Change
     const char *after;
 };
 
-void PrintTo(const Change &row, std::ostream *out)
+void PrintTo(const LineChange &row, std::ostream *out)
 {
     *out << row.what;
 }
 
-class LpoptionsText : public testing::TestWithParam<Change>
+class LpoptionsText : public testing::TestWithParam<LineChange>
 {};
 
 TEST_P(LpoptionsText, ChangesInItsOwnLinesAlone)
@@ -58,47 +58,47 @@ QByteArray saved(const QByteArray &text, const QueueName &name)
 INSTANTIATE_TEST_SUITE_P(
     All, LpoptionsText,
     testing::Values(
-        Change{"another preset goes to the end",
-               [](const QByteArray &text) {
-                   return saved(text, {u"photo"_s, u"draft"_s});
-               },
-               kForeign,
-               "# mine, by hand\n"
-               "\tDest   photo   media=a4 \t\n"
-               "Default photo/glossy VKMediaType=Glossy\n"
-               "gibberish \xff\xfe here\r\n"
-               "dest PHOTO/Matte x=1 title=\"a b\"\n"
-               "Dest other/glossy y=2\n"
-               "Dest photo/draft VKMediaType=\"Plain\"\n"},
-        Change{"a preset that is the usual printer stays it",
-               [](const QByteArray &text) { return saved(text, kGlossy); }, kForeign,
-               "# mine, by hand\n"
-               "\tDest   photo   media=a4 \t\n"
-               "Default photo/glossy VKMediaType=\"Plain\"\n"
-               "gibberish \xff\xfe here\r\n"
-               "dest PHOTO/Matte x=1 title=\"a b\"\n"
-               "Dest other/glossy y=2"},
-        Change{"the case of letters is read over, as libcups does",
-               [](const QByteArray &text) {
-                   return saved(text, {u"photo"_s, u"matte"_s});
-               },
-               "dest PHOTO/Matte x=1\nDest photo/matte z=2\n",
-               "Dest photo/matte VKMediaType=\"Plain\"\n"},
-        Change{"an empty file gets its first line",
-               [](const QByteArray &text) { return saved(text, kGlossy); }, "",
-               "Dest photo/glossy VKMediaType=\"Plain\"\n"},
-        Change{"a preset is taken out",
-               [](const QByteArray &text) {
-                   return withoutSavedLine(text, {u"photo"_s, u"matte"_s});
-               },
-               "a\nDest photo/Matte x=1\nb\n", "a\nb\n"},
-        Change{"the usual printer goes on without its preset",
-               [](const QByteArray &text) { return withoutSavedLine(text, kGlossy); },
-               "Default photo/glossy x=1\nDest photo y=2\n", "Default photo\nDest photo y=2\n"},
-        Change{"another name leaves the settings as they were written",
-               [](const QByteArray &text) { return withRenamedLine(text, kGlossy, u"new"_s); },
-               "Default  photo/glossy\tx=\"photo/glossy\"  \nDest other/glossy y=2\n",
-               "Default  photo/new\tx=\"photo/glossy\"  \nDest other/glossy y=2\n"}));
+        LineChange{"another preset goes to the end",
+                   [](const QByteArray &text) {
+                       return saved(text, {u"photo"_s, u"draft"_s});
+                   },
+                   kForeign,
+                   "# mine, by hand\n"
+                   "\tDest   photo   media=a4 \t\n"
+                   "Default photo/glossy VKMediaType=Glossy\n"
+                   "gibberish \xff\xfe here\r\n"
+                   "dest PHOTO/Matte x=1 title=\"a b\"\n"
+                   "Dest other/glossy y=2\n"
+                   "Dest photo/draft VKMediaType=\"Plain\"\n"},
+        LineChange{"a preset that is the usual printer stays it",
+                   [](const QByteArray &text) { return saved(text, kGlossy); }, kForeign,
+                   "# mine, by hand\n"
+                   "\tDest   photo   media=a4 \t\n"
+                   "Default photo/glossy VKMediaType=\"Plain\"\n"
+                   "gibberish \xff\xfe here\r\n"
+                   "dest PHOTO/Matte x=1 title=\"a b\"\n"
+                   "Dest other/glossy y=2"},
+        LineChange{"the case of letters is read over, as libcups does",
+                   [](const QByteArray &text) {
+                       return saved(text, {u"photo"_s, u"matte"_s});
+                   },
+                   "dest PHOTO/Matte x=1\nDest photo/matte z=2\n",
+                   "Dest photo/matte VKMediaType=\"Plain\"\n"},
+        LineChange{"an empty file gets its first line",
+                   [](const QByteArray &text) { return saved(text, kGlossy); }, "",
+                   "Dest photo/glossy VKMediaType=\"Plain\"\n"},
+        LineChange{"a preset is taken out",
+                   [](const QByteArray &text) {
+                       return withoutSavedLine(text, {u"photo"_s, u"matte"_s});
+                   },
+                   "a\nDest photo/Matte x=1\nb\n", "a\nb\n"},
+        LineChange{"the usual printer goes on without its preset",
+                   [](const QByteArray &text) { return withoutSavedLine(text, kGlossy); },
+                   "Default photo/glossy x=1\nDest photo y=2\n", "Default photo\nDest photo y=2\n"},
+        LineChange{"another name leaves the settings as they were written",
+                   [](const QByteArray &text) { return withRenamedLine(text, kGlossy, u"new"_s); },
+                   "Default  photo/glossy\tx=\"photo/glossy\"  \nDest other/glossy y=2\n",
+                   "Default  photo/new\tx=\"photo/glossy\"  \nDest other/glossy y=2\n"}));
 
 /// The user's file, with libcups beside us.
 class Lpoptions : public testing::Test

@@ -1,4 +1,5 @@
 // The features of a printer that no panel has: the dialog offers them itself.
+#include "dialog/host/PPDMarks.h"
 #include "tests/dialog/window/DialogWindowFixture.h"
 #include "tests/support/FeaturePrinter.h"
 #include "tests/support/PlainTextWalk.h"
@@ -229,12 +230,18 @@ TEST_F(FeaturesOf, AnotherPrinterAreNotedInASession)
     ASSERT_TRUE(m_window->showPart(u"features"_s));
     tick("FinisherFeature", u"Staple"_s, true);
     pick("WeightFeature", u"Custom"_s);
+    pick("HoldFeature", u"Custom"_s);
+    QTest::keyClicks(part<QLineEdit>("HoldCode"), u"1234"_s);
+    EXPECT_EQ(markedValue(m_window->job().ppd(), u"Hold"_s), u"Custom.1234"_s);
     ASSERT_TRUE(finishRecording());
     const QByteArray script = readFile(m_line.record);
     EXPECT_TRUE(script.contains(R"({"do":"mark","keyword":"Finisher","choice":"Staple"})"))
         << script.toStdString();
     EXPECT_TRUE(script.contains(R"({"do":"mark","keyword":"Weight","choice":"Custom.60"})"))
         << script.toStdString();
+    // Scripts are attached to bug reports.
+    EXPECT_FALSE(script.contains("1234"));
+    EXPECT_TRUE(script.contains(R"("keyword":"Hold","choice":"Custom.0000")"));
 }
 
 struct Language
