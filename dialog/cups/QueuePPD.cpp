@@ -2,11 +2,11 @@
 
 #include "dialog/cups/ServerConnection.h"
 #include "dialog/files/TemporaryFile.h"
+#include "dialog/work/SystemReason.h"
 
 #include <QtCore/QCoreApplication>
 
 #include <cerrno>
-#include <cstring>
 
 namespace {
 
@@ -70,8 +70,8 @@ Result<QueuePPD> fetchQueuePPD(const QString &server, const QString &queue, Call
     const auto kept = std::make_shared<const FileDescriptor>(unnamedTemporaryFile());
     QFile file;
     if (!kept->isOpen() || !file.open(kept->get(), QIODevice::WriteOnly | QIODevice::Unbuffered))
-        return faultOf({Kind::NotStored, 0, QString::fromLocal8Bit(std::strerror(errno)), false},
-                       connection.serverName(), queue);
+        return faultOf({Kind::NotStored, 0, systemReason(errno), false}, connection.serverName(),
+                       queue);
     bool isFetched = fetch(connection, queue, file);
     if (!isFetched && isAbsent(connection)) {
         const Result<QString> member = firstMember(connection, queue);

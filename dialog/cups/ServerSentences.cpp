@@ -1,6 +1,8 @@
 #include "dialog/cups/ServerSentences.h"
 
 #include "dialog/cups/ServerLimits.h"
+#include "dialog/work/Sentences.h"
+#include "dialog/work/SystemReason.h"
 #include "platform/toolkit/PlainText.h"
 
 #include <QtCore/QCoreApplication>
@@ -11,7 +13,6 @@
 #include <algorithm>
 #include <array>
 #include <climits>
-#include <cstring>
 
 namespace {
 
@@ -135,11 +136,6 @@ constexpr std::array kHttpStatuses{
         {FaultKind::Refused, QT_TRANSLATE_NOOP("Server", "The print server %1 refused (%2).")}},
 };
 
-QString endedLikeASentence(const QString &text)
-{
-    return QStringLiteral(".!?\u2026").contains(text.back()) ? text : text + u'.';
-}
-
 QString detailOf(const ExchangeEnd &end)
 {
     switch (end.kind) {
@@ -151,7 +147,7 @@ QString detailOf(const ExchangeEnd &end)
     case Kind::HttpStatus:
         return QStringLiteral("HTTP %1").arg(end.status);
     case Kind::Broken:
-        return QString::fromLocal8Bit(std::strerror(end.status));
+        return systemReason(end.status);
     default:
         return end.text;
     }

@@ -2,6 +2,7 @@
 
 #include "dialog/files/DescriptorPath.h"
 #include "dialog/files/PathBytes.h"
+#include "dialog/work/SystemReason.h"
 
 #include <QtCore/QCoreApplication>
 #include <QtCore/QRandomGenerator>
@@ -13,7 +14,6 @@
 #include <cstddef>
 #include <cstdio>
 #include <cstdlib>
-#include <cstring>
 #include <fcntl.h>
 #include <memory>
 #include <poll.h>
@@ -249,5 +249,5 @@ Result<> OutputFile::fail(const QString &reason)
 
 Result<> OutputFile::failForErrno()
 {
-    return fail(QString::fromLocal8Bit(std::strerror(errno)));
+    return fail(systemReason(errno));
 }

@@ -4,6 +4,8 @@
 #include "dialog/host/PPDReading.h"
 #include "dialog/host/PPDSentence.h"
 
+#include <cstring>
+#include <span>
 #include <sys/mman.h>
 #include <unistd.h>
 #include <utility>
@@ -25,6 +27,31 @@ Fault parserError(const QString &path)
 bool saysNothing(const ppd_file_t &ppd)
 {
     return ppd.num_groups == 0 && !ppd.modelname && !ppd.nickname && !ppd.manufacturer;
+}
+
+template <typename Named> void nameWhereEmpty(Named &named, const char *name)
+{
+    if (named.text[0] == '\0')
+        std::strncpy(named.text, name, sizeof named.text - 1);
+}
+
+// A translation may be empty. People then read the name, as where a PPD has no text at all.
+void nameWhatHasNoText(ppd_group_t &group)
+{
+    for (ppd_option_t &option :
+         std::span(group.options, static_cast<std::size_t>(group.num_options))) {
+        nameWhereEmpty(option, option.keyword);
+        for (ppd_choice_t &choice :
+             std::span(option.choices, static_cast<std::size_t>(option.num_choices)))
+            nameWhereEmpty(choice, choice.choice);
+    }
+}
+
+void localize(ppd_file_t &ppd)
+{
+    ppdLocalize(&ppd);
+    for (ppd_group_t &group : std::span(ppd.groups, static_cast<std::size_t>(ppd.num_groups)))
+        nameWhatHasNoText(group);
 }
 
 // libcups opens nothing but files, and closes this one; -1 when there is no memory for it. The file
@@ -54,7 +81,7 @@ Result<OpenedPPD> openPPD(const QString &path, PPDTexts texts)
     if (saysNothing(*ppd) || isCutOff(*text))
         return incompletePPD(path);
     if (texts == PPDTexts::InUserLanguage)
-        ppdLocalize(ppd.get());
+        localize(*ppd);
     ppdMarkDefaults(ppd.get());
     const QList<PPDMark> defaults = marksOf(ppd.get());
     return OpenedPPD{std::move(ppd), defaults};

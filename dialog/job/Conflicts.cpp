@@ -53,8 +53,9 @@ QStringList clashesWithOne(ppd_file_t *ppd, const QString &keyword, const QStrin
 QString choiceText(ppd_file_t *ppd, const QString &keyword, const QString &choice)
 {
     const ppd_option_t *option = findOption(ppd, keyword);
-    return QStringLiteral("%1: %2").arg(displayText(option ? ppdText(option->text) : keyword),
-                                        valueText(ppd, keyword, choice));
+    return QCoreApplication::translate("Conflicts", "%1: %2")
+        .arg(displayText(option ? ppdText(option->text) : keyword),
+             valueText(ppd, keyword, choice));
 }
 
 QStringList clashesWith(ppd_file_t *ppd, const QString &keyword, const QString &choice)

@@ -2,12 +2,12 @@
 
 #include "dialog/files/DescriptorPath.h"
 #include "dialog/files/PathBytes.h"
+#include "dialog/work/SystemReason.h"
 
 #include <QtCore/QCoreApplication>
 #include <QtCore/QFileInfo>
 
 #include <cerrno>
-#include <cstring>
 #include <fcntl.h>
 #include <optional>
 #include <sys/stat.h>
@@ -28,7 +28,7 @@ Fault systemFault(const QString &path)
                 .arg(path));
     return documentFault(
         QCoreApplication::translate("DocumentFile", "The document %1 cannot be read: %2.")
-            .arg(path, QString::fromLocal8Bit(std::strerror(error))));
+            .arg(path, systemReason(error)));
 }
 
 /// Why a file of this kind is no document; null when it is one.

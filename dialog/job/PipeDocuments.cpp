@@ -2,13 +2,13 @@
 
 #include "dialog/files/PathBytes.h"
 #include "dialog/files/TemporaryFile.h"
+#include "dialog/work/SystemReason.h"
 
 #include <QtCore/QCoreApplication>
 
 #include <algorithm>
 #include <array>
 #include <cerrno>
-#include <cstring>
 #include <poll.h>
 
 namespace {
@@ -70,7 +70,7 @@ QString roomFault(const QString &path)
             .arg(folder, path);
     return QCoreApplication::translate("PipeDocuments", "The document %1 cannot be kept in the "
                                                         "temporary folder %2: %3.")
-        .arg(path, folder, QString::fromLocal8Bit(std::strerror(error)));
+        .arg(path, folder, systemReason(error));
 }
 
 Fault faultOf(Spooled spooled, const QString &path, qint64 longest)
@@ -85,7 +85,7 @@ Fault faultOf(Spooled spooled, const QString &path, qint64 longest)
     case Spooled::CannotRead:
         return {FaultKind::Document,
                 QCoreApplication::translate("DocumentFile", "The document %1 cannot be read: %2.")
-                    .arg(path, QString::fromLocal8Bit(std::strerror(errno)))};
+                    .arg(path, systemReason(errno))};
     case Spooled::CannotKeep:
         return {FaultKind::Document, roomFault(path)};
     default:

@@ -5,6 +5,7 @@
 #include "dialog/printing/PanelPicks.h"
 #include "dialog/printing/PrintJob.h"
 #include "dialog/printing/SettingRequests.h"
+#include "dialog/work/Sentences.h"
 #include "platform/toolkit/PlainText.h"
 
 #include <QtCore/QCoreApplication>
@@ -147,5 +148,5 @@ Result<> makeSettings(PrintJob &job, const QList<RequestedChoice> &wanted,
         losses += lossSentence(job, missing);
     if (!state || !single)
         return state ? single : state;
-    return losses.isEmpty() ? Result<>() : Fault{FaultKind::Vetoed, losses.join(u' ')};
+    return losses.isEmpty() ? Result<>() : Fault{FaultKind::Vetoed, joinedSentences(losses)};
 }

@@ -4,6 +4,7 @@
 #include "dialog/host/PPDFile.h"
 #include "dialog/host/PlugInLoader.h"
 #include "dialog/program/CommandOutput.h"
+#include "dialog/program/LauncherOutput.h"
 #include "dialog/program/Translations.h"
 #include "platform/foundation/Bundle.h"
 #include "platform/pde/PDEPPDCheck.h"
@@ -31,7 +32,7 @@ ExitStatus reportFindings(const CommandLine &line)
                 .arg(shownPath(load.bundle->bundlePath())));
     for (const QString &finding : check->findingsInPPD(opened->ppd.get()))
         report(line, finding);
-    return std::ferror(stdout) == 0 ? ExitStatus::Done : ExitStatus::Output;
+    return std::ferror(stdout) == 0 ? ExitStatus::Done : failWithoutOutput();
 }
 
 } // namespace

@@ -7,14 +7,14 @@
 
 namespace {
 
-/// One option: exactly one of `text`, `flag` and `take` is set.
+/// One option: it has a flag, or takes a value.
 struct Option
 {
     const char *longName;
-    char shortName; // '\0': none
-    QString CommandLine::*text = nullptr;
+    char shortName;                       // '\0': none
+    QString CommandLine::*text = nullptr; // where a value stands that may be given once
     bool CommandLine::*flag = nullptr;
-    QString (*take)(CommandLine &, const QString &value) = nullptr; // null: all right
+    QString (*take)(CommandLine &, const QString &value) = nullptr; // null: into `text` as it is
 };
 
 QString takeQueue(CommandLine &line, const QString &value)
@@ -47,12 +47,12 @@ QString takeOutput(CommandLine &line, const QString &value)
 }
 
 constexpr std::array kOptions{
-    Option{"destination", 'd', nullptr, nullptr, takeQueue},
+    Option{"destination", 'd', &CommandLine::queue, nullptr, takeQueue},
     Option{"server", 'h', &CommandLine::server},
     Option{"ppd", '\0', &CommandLine::ppd},
     Option{"option", 'o', nullptr, nullptr, takeChoice},
     Option{"paper", '\0', &CommandLine::paper},
-    Option{"output", '\0', nullptr, nullptr, takeOutput},
+    Option{"output", '\0', &CommandLine::output, nullptr, takeOutput},
     Option{"force", '\0', nullptr, &CommandLine::force},
     Option{"no-dialog", '\0', nullptr, &CommandLine::noDialog},
     Option{"yes", '\0', nullptr, &CommandLine::yes},
@@ -102,9 +102,13 @@ QString takeValue(CommandLine &line, const Argument &argument)
     if (!argument.value.isValidUtf16())
         return QCoreApplication::translate("CommandLine", "The value of %1 is no UTF-8 text.")
             .arg(argument.name);
+    const auto text = argument.option->text;
+    if (text && !(line.*text).isNull())
+        return QCoreApplication::translate("CommandLine", "%1 may be given only once.")
+            .arg(argument.name);
     if (argument.option->take)
         return argument.option->take(line, argument.value);
-    line.*argument.option->text = argument.value;
+    line.*text = argument.value;
     return {};
 }
 

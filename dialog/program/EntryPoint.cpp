@@ -5,14 +5,13 @@
 #include "dialog/program/DialogCommand.h"
 #include "dialog/program/ExitStatus.h"
 #include "dialog/program/ForgetCommand.h"
-#include "dialog/program/HelpText.h"
+#include "dialog/program/LauncherOutput.h"
+#include "dialog/program/LauncherTexts.h"
 #include "dialog/program/ReplayCommand.h"
 #include "dialog/program/ToolkitMessages.h"
 #include "dialog/program/Translations.h"
 
 #include <QtCore/QCoreApplication>
-
-#include <cstdio>
 
 namespace {
 
@@ -24,18 +23,13 @@ QStringList argumentsOf(int argc, char **argv)
     return arguments;
 }
 
-/// Reads the arguments once more, with the user's language at hand: only what is wrong needs it.
+/// Reads the arguments once more, with the user's language at hand: only what is wrong needs
+/// it.
 int refuse(int argc, char **argv, const QStringList &arguments)
 {
     const QCoreApplication application(argc, argv);
     installTranslations();
     return exitCode(failWith(ExitStatus::Usage, parseCommandLine(arguments).sentence()));
-}
-
-int print(const char *text)
-{
-    std::fputs(text, stdout);
-    return exitCode(std::fflush(stdout) == 0 ? ExitStatus::Done : ExitStatus::Output);
 }
 
 } // namespace
@@ -49,9 +43,9 @@ extern "C" Q_DECL_EXPORT int velkaroPrintMain(int argc, char **argv)
         return refuse(argc, argv, arguments);
     const CommandLine &line = *parsed;
     if (line.help)
-        return print(helpText());
+        return exitCode(printText(launcherTexts().help));
     if (line.version)
-        return print(versionText());
+        return exitCode(printText(versionText()));
     tellToolkitFaultsOnly();
     if (line.forgetAlerts)
         return runForgetCommand(argc, argv, line);

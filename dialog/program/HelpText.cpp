@@ -1,8 +1,7 @@
-#include "dialog/program/HelpText.h"
+#include "dialog/program/LauncherTexts.h"
 
-const char *helpText()
-{
-    return R"(Usage: velkaro-print [options] [FILE...]
+const LauncherTexts kEnglishTexts{
+    R"(Usage: velkaro-print [options] [FILE...]
 Prints documents with the settings that you choose in a dialog. The file - is
 standard input.
 
@@ -58,10 +57,8 @@ Exit status
   6  the server or the queue cannot be reached, the job was refused, or it
      is not known whether it was taken
   7  the plug-in cannot be used, or cannot check a PPD
-)";
-}
-
-const char *versionText()
-{
-    return "velkaro-print " VELKARO_VERSION "\n";
-}
+)",
+    "The installation is incomplete: %s",
+    "the program's own place is unknown",
+    "Standard output cannot be written: %s.",
+};

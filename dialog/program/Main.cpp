@@ -2,10 +2,10 @@
 // its own, so that nobody waits for widgets who sees none. It links no Qt: a library that is loaded
 // later is searched after those of the program, and the dialog would start more slowly for it.
 #include "dialog/program/ExitStatus.h"
-#include "dialog/program/HelpText.h"
+#include "dialog/program/LauncherOutput.h"
+#include "dialog/program/LauncherTexts.h"
 
 #include <climits>
-#include <cstdio>
 #include <cstring>
 #include <dlfcn.h>
 #include <malloc.h>
@@ -15,12 +15,6 @@
 namespace {
 
 using EntryPoint = int (*)(int, char **);
-
-int print(const char *text)
-{
-    std::fputs(text, stdout);
-    return exitCode(std::fflush(stdout) == 0 ? ExitStatus::Done : ExitStatus::Output);
-}
 
 // Threads that ask servers and read files get heaps of their own by default: more than a hundred
 // kilobytes that are hardly used, since most of the time only one thread works.
@@ -58,8 +52,7 @@ int runDialogLibrary(int argc, char **argv)
     void *entry = library ? dlsym(library, "velkaroPrintMain") : nullptr;
     if (!entry) {
         const char *reason = dlerror();
-        std::fprintf(stderr, "velkaro-print: the installation is incomplete: %s\n",
-                     reason ? reason : "the program's own place is unknown");
+        complain(launcherTexts().incomplete, reason ? reason : launcherTexts().noPlace);
         return exitCode(ExitStatus::PlugIn);
     }
     return reinterpret_cast<EntryPoint>(entry)(argc, argv);
@@ -69,11 +62,12 @@ int runDialogLibrary(int argc, char **argv)
 
 int main(int argc, char **argv)
 {
+    holdStandardStreams();
     // Further behind, either might be an option's value: the library reads the whole line.
     const std::string_view first = argc > 1 ? argv[1] : "";
     if (first == "--help")
-        return print(helpText());
+        return exitCode(printText(launcherTexts().help));
     if (first == "--version")
-        return print(versionText());
+        return exitCode(printText(versionText()));
     return runDialogLibrary(argc, argv);
 }

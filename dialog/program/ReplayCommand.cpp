@@ -25,11 +25,11 @@ namespace {
 constexpr qint64 kLongestLine = 1'000'000; // bytes
 
 // One line, whatever a file name or a script has in it.
-ExitStatus fail(const QString &what)
+ExitStatus fail(const QString &what, ExitStatus status = ExitStatus::Usage)
 {
     const QByteArray line = "velkaro-print: " + displayText(what).toUtf8() + '\n';
     std::fputs(line.constData(), stderr);
-    return ExitStatus::Usage;
+    return status;
 }
 
 /// Why a file of this kind is no script; null when it is one.
@@ -95,7 +95,7 @@ ExitStatus runLines(QFile &file, const QString &name, const QDir &folder, Replay
         if (!line)
             return fail(place + line.sentence());
         if (!print(*line))
-            return fail(u"the output cannot be written"_s);
+            return fail(u"the output cannot be written"_s, ExitStatus::Output);
     }
 }
 

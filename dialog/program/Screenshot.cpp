@@ -57,11 +57,8 @@ ExitStatus takeScreenshot(const CommandLine &line)
         return failWith(window.documentState().fault());
     window.show();
     waitForPrinter(window);
-    if (!window.printerState()) {
-        const Fault &fault = window.printerState().fault();
-        return fault.kind == FaultKind::NoPrinter ? failWith(ExitStatus::Server, fault.sentence)
-                                                  : failWith(fault);
-    }
+    if (!window.printerState())
+        return failWith(window.printerState().fault());
     if (!window.settingState())
         return failWith(window.settingState().fault());
     QApplication::processEvents(QEventLoop::ExcludeUserInputEvents);

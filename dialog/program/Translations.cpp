@@ -6,8 +6,10 @@
 #include <QtCore/QCoreApplication>
 #include <QtCore/QDir>
 #include <QtCore/QLibraryInfo>
+#include <QtCore/QLocale>
 #include <QtCore/QTranslator>
 
+#include <clocale>
 #include <memory>
 
 using namespace Qt::StringLiterals;
@@ -38,17 +40,40 @@ void installToolkitTable(const QString &language)
         install(std::move(table));
 }
 
+/// The first of the user's languages that the program speaks; where it speaks none, the first.
+QString installTables()
+{
+    const QStringList languages = preferredLanguages();
+    for (const QString &language : languages) {
+        const QString base = language.section(u'-', 0, 0);
+        if (base == QLatin1String(kSourceLanguage))
+            return language;
+        if (install(openCatalogue(ownTable(base)))) {
+            installToolkitTable(base);
+            return language;
+        }
+    }
+    return languages.first();
+}
+
+// libcups reads the texts of a PPD and asks servers in the language of the locale, and knows no
+// list of languages; where the system does not have the locale, it looks at the variable. The C
+// library then knows the list alone.
+void setLanguageOfLibraries(const QString &language)
+{
+    const QByteArray name = QLocale(language).name().toUtf8();
+    const QByteArray locale = name + ".UTF-8";
+    if (qEnvironmentVariableIsEmpty("LANGUAGE"))
+        qputenv("LANGUAGE", name);
+    if (std::setlocale(LC_MESSAGES, locale.constData()))
+        return;
+    std::setlocale(LC_MESSAGES, "C");
+    qputenv("LC_MESSAGES", locale);
+}
+
 } // namespace
 
 void installTranslations()
 {
-    for (const QString &language : preferredLanguages()) {
-        const QString base = language.section(u'-', 0, 0);
-        if (base == QLatin1String(kSourceLanguage))
-            return;
-        if (install(openCatalogue(ownTable(base)))) {
-            installToolkitTable(base);
-            return;
-        }
-    }
+    setLanguageOfLibraries(installTables());
 }

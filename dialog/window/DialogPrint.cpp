@@ -3,6 +3,7 @@
 #include "dialog/printing/Presets.h"
 #include "dialog/window/DialogWindow.h"
 #include "dialog/window/ProgressStrip.h"
+#include "dialog/work/Sentences.h"
 #include "platform/toolkit/AlertObserver.h"
 
 #include <QtCore/QTimer>
@@ -82,7 +83,7 @@ void DialogWindow::writeFile(const QString &path, const JobRequest &request,
     beginSending(tr("Writing the job to %1…").arg(path),
                  m_controller.write(path, request, terms, [this](const Result<QStringList> &notes) {
                      endSending(notes ? Result<>() : notes.fault(),
-                                notes ? notes->join(u' ') : QString());
+                                notes ? joinedSentences(*notes) : QString());
                  }));
 }
 
@@ -91,11 +92,11 @@ void DialogWindow::send(const JobRequest &request)
     beginSending(tr("Sending the job to %1…").arg(request.queue),
                  m_controller.send(request, [this](const Result<JobReceipt> &receipt) {
                      const bool hasNote = receipt && !receipt->notes.isEmpty();
-                     endSending(
-                         receipt ? Result<>() : receipt.fault(),
-                         hasNote ? tr("Job %1 was accepted. %2")
-                                       .arg(QString::number(receipt->id), receipt->notes.join(u' '))
-                                 : QString());
+                     endSending(receipt ? Result<>() : receipt.fault(),
+                                hasNote ? tr("Job %1 was accepted. %2")
+                                              .arg(QString::number(receipt->id),
+                                                   joinedSentences(receipt->notes))
+                                        : QString());
                  }));
 }
 

@@ -23,6 +23,10 @@
         <translation>%1 braucht einen Wert.</translation>
     </message>
     <message>
+        <source>%1 may be given only once.</source>
+        <translation>%1 darf nur einmal angegeben werden.</translation>
+    </message>
+    <message>
         <source>There is no option %1.</source>
         <translation>Die Option %1 gibt es nicht.</translation>
     </message>
@@ -61,6 +65,10 @@
 </context>
 <context>
     <name>Conflicts</name>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
     <message>
         <source>&quot;%1&quot;</source>
         <translation>„%1“</translation>

@@ -23,6 +23,10 @@
         <translation>%1 attend une valeur.</translation>
     </message>
     <message>
+        <source>%1 may be given only once.</source>
+        <translation>%1 ne peut être indiqué qu’une fois.</translation>
+    </message>
+    <message>
         <source>There is no option %1.</source>
         <translation>L’option %1 n’existe pas.</translation>
     </message>
@@ -61,6 +65,10 @@
 </context>
 <context>
     <name>Conflicts</name>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1 : %2</translation>
+    </message>
     <message>
         <source>&quot;%1&quot;</source>
         <translation>« %1 »</translation>

@@ -23,6 +23,10 @@
         <translation>%1 には値が必要です。</translation>
     </message>
     <message>
+        <source>%1 may be given only once.</source>
+        <translation>%1 は 1 回だけ指定できます。</translation>
+    </message>
+    <message>
         <source>There is no option %1.</source>
         <translation>%1 というオプションはありません。</translation>
     </message>
@@ -61,6 +65,10 @@
 </context>
 <context>
     <name>Conflicts</name>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
     <message>
         <source>&quot;%1&quot;</source>
         <translation>「%1」</translation>
@@ -223,7 +231,7 @@
     </message>
     <message>
         <source>%1 It prints with the settings of this dialog alone.</source>
-        <translation>%1 この画面の設定だけで印刷します。</translation>
+        <translation>%1この画面の設定だけで印刷します。</translation>
     </message>
     <message>
         <source>There is no panel %1.</source>
@@ -614,7 +622,7 @@
     <name>JobSettlement</name>
     <message>
         <source>%1 Job %2 could not be cancelled at %3 and may be printed.</source>
-        <translation>%1 ジョブ %2 を %3 で取り消せませんでした。印刷される可能性があります。</translation>
+        <translation>%1ジョブ %2 を %3 で取り消せませんでした。印刷される可能性があります。</translation>
     </message>
     <message>
         <source>The print server %1 cancelled job %2.</source>

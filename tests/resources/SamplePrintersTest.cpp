@@ -183,10 +183,13 @@ TEST(FullModel, NamesTheOptionForDedicatedMediaAsTheSummaryKnowsIt)
 }
 
 // Read as text: libcups keeps only the language that its process runs in.
-TEST(FullModel, HasJapaneseTexts)
+TEST(FullModel, HasGermanFrenchAndJapaneseTexts)
 {
     const QString lines = QString::fromUtf8(readFile(path(u"velkaro-px-t900"_s)));
-    EXPECT_TRUE(lines.contains(u"*cupsLanguages: \"en ja\"\n"_s));
+    EXPECT_TRUE(lines.contains(u"*cupsLanguages: \"en de fr ja\"\n"_s));
+    EXPECT_TRUE(lines.contains(u"*de.Translation VKMediaType/Medientyp: \"\"\n"_s));
+    EXPECT_TRUE(lines.contains(u"*de.VKMediaType Plain/Normalpapier: \"\"\n"_s));
+    EXPECT_TRUE(lines.contains(u"*fr.VKMediaType Plain/Papier ordinaire: \"\"\n"_s));
     EXPECT_TRUE(lines.contains(u"*ja.Translation VKMediaType/用紙種類: \"\"\n"_s));
     EXPECT_TRUE(lines.contains(u"*ja.VKMediaType Plain/普通紙: \"\"\n"_s));
     EXPECT_TRUE(lines.contains(u"*ja.VKMediaType HagakiAtena/はがき 宛名面: \"\"\n"_s));

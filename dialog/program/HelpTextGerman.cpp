@@ -1,0 +1,70 @@
+#include "dialog/program/LauncherTexts.h"
+
+const LauncherTexts kGermanTexts{
+    R"(Aufruf: velkaro-print [Optionen] [FILE...]
+Druckt Dokumente mit den Einstellungen, die Sie in einem Dialog wählen. Die
+Datei - ist die Standardeingabe.
+
+Drucker
+  -d, --destination QUEUE[/INSTANCE]
+                          auf diese Warteschlange drucken (mit den
+                          Einstellungen, die für die Instanz gespeichert sind)
+  -h, --server HOST[:PORT]
+                          diesen Druckserver fragen statt des üblichen
+      --ppd FILE          den Drucker aus einer PPD-Datei nehmen statt aus
+                          einer Warteschlange
+
+Einstellungen
+  -o, --option KEY=VALUE  den Drucker einstellen; mehrfach möglich, in jeder
+                          Reihenfolge, einmal für jeden KEY
+      --paper NAME        das Papier mit seinem Namen in der PPD-Datei wählen,
+                          oder Custom.WIDTHxHEIGHT mit Einheit:
+                          Custom.100x150mm
+
+Auftrag
+      --output FILE       den Auftrag in eine Datei schreiben (-:
+                          Standardausgabe), Einstellungen und Dokumente
+                          zusammen; später drucken mit
+                          --no-dialog -d QUEUE FILE
+      --force             vorhandene Dateien ersetzen: die von --output,
+                          --screenshot, --record und die Bilder eines Skripts
+      --no-dialog         ohne Dialog drucken; alle Prüfungen finden statt
+      --yes               was eine Prüfung fragt, mit Ja beantworten statt mit
+                          Nein, und ohne die Einstellungen drucken, die nicht
+                          möglich sind
+
+Ansehen und prüfen
+      --screenshot FILE.png
+                          den Dialog in ein Bild zeichnen statt ihn zu zeigen
+      --panel NAME        diesen Teil zuerst zeigen: setup, print, color,
+                          features oder summary; in einem Bild nur diesen Teil
+      --record SCRIPT     die Sitzung in einem Skript aufzeichnen
+      --replay SCRIPT     eine Sitzung aus einem Skript ausführen (-:
+                          Standardeingabe) und ausgeben, was geschieht, eine
+                          JSON-Zeile je Ereignis
+      --check-ppd FILE    ausgeben, was das Plug-in in einer PPD-Datei nicht
+                          verstehen wird, eine Zeile je Befund
+      --plug-in FOLDER    das Plug-in aus diesem Bündel laden
+      --forget-alerts     Warnungen wieder anzeigen, die nicht mehr angezeigt
+                          werden sollten
+      --version           die Version ausgeben
+      --help              diesen Text ausgeben
+
+Exit-Status
+  0  gedruckt, geschrieben, geprüft, oder das Skript lief bis zum Ende
+  1  im Dialog abgebrochen, oder durch ein Signal, bevor der Server den
+     ganzen Auftrag hatte
+  2  falsche Option, Einstellung oder falsches Skript, eine PPD-Datei, die
+     sich nicht öffnen lässt, oder kein Bildschirm für den Dialog
+  3  eine Prüfung hat den Auftrag angehalten, oder eine Einstellung war
+     zusammen mit den übrigen nicht möglich
+  4  ein Dokument kann nicht gelesen werden
+  5  eine Ausgabedatei kann nicht geschrieben werden oder ist bereits vorhanden
+  6  der Server oder die Warteschlange ist nicht erreichbar, der Auftrag wurde
+     abgelehnt, oder es ist nicht bekannt, ob er angenommen wurde
+  7  das Plug-in kann nicht verwendet werden oder keine PPD-Datei prüfen
+)",
+    "Die Installation ist unvollständig: %s",
+    "der Ort des Programms ist unbekannt",
+    "Die Standardausgabe kann nicht geschrieben werden: %s.",
+};
