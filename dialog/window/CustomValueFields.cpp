@@ -107,15 +107,10 @@ CustomValueFields::Field CustomValueFields::newText(const CustomParameter &param
         field->setEchoMode(QLineEdit::Password);
     connect(field, &QLineEdit::textEdited, this, &CustomValueFields::judge);
     return {field, [field] { return field->text(); },
-            [field](const QString &value) { field->setText(value); }};
-}
-
-QList<CustomParameter> CustomValueFields::values() const
-{
-    QList<CustomParameter> values = m_parameters;
-    for (qsizetype index = 0; index < values.size(); ++index)
-        values[index].value = m_fields[static_cast<std::size_t>(index)].value();
-    return values;
+            [field](const QString &value) {
+                field->clear();
+                field->insert(value);
+            }};
 }
 
 bool CustomValueFields::isAcceptable() const

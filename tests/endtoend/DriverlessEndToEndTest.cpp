@@ -139,7 +139,7 @@ TEST_F(OtherQueues, AClassOpensAndPrints)
     ASSERT_TRUE(m_server.command(u"cupsenable"_s, {u"everyone"_s}));
     open(u"everyone"_s);
     print();
-    EXPECT_EQ(m_server.jobs(u"everyone"_s).size() + m_server.jobs(u"photo"_s).size(), 1);
+    EXPECT_EQ(m_server.jobs(u"everyone"_s).size(), 1);
 }
 
 TEST_F(OtherQueues, AQueueOfAnotherServerOpensAndPrints)

@@ -90,6 +90,16 @@ protected:
             job.setOrientation(PMOrientation::Landscape);
     }
 
+    /// libcups sends True and False as booleans, which a filter gets in small letters; it finds the
+    /// choice all the same.
+    static QString spelledBoolean(const QString &value)
+    {
+        for (const QString &boolean : {u"true"_s, u"false"_s})
+            if (value.compare(boolean, Qt::CaseInsensitive) == 0)
+                return boolean;
+        return value;
+    }
+
     /// The options of the next job, in order and without what the server adds to every job.
     QStringList notedOptions()
     {
@@ -102,7 +112,7 @@ protected:
             const QString name = QString::fromUtf8(options[index].name);
             if (!name.startsWith(u"job-") && !name.startsWith(u"date-time-at-") &&
                 !name.startsWith(u"time-at-") && !name.startsWith(u"document-name"))
-                texts += name + u'=' + QString::fromUtf8(options[index].value);
+                texts += name + u'=' + spelledBoolean(QString::fromUtf8(options[index].value));
         }
         cupsFreeOptions(count, options);
         texts.sort();

@@ -5,6 +5,7 @@
 #include <QtCore/QDeadlineTimer>
 #include <QtCore/QFile>
 #include <QtCore/QStandardPaths>
+#include <QtNetwork/QHostAddress>
 #include <QtNetwork/QTcpSocket>
 
 #include <csignal>
@@ -74,7 +75,8 @@ constexpr char kBus[] = R"(<!DOCTYPE busconfig PUBLIC
  "http://www.freedesktop.org/standards/dbus/1.0/busconfig.dtd">
 <busconfig>
   <listen>unix:path=%1/bus</listen>
-  <policy context="default"><allow send_destination="*"/><allow own="*"/></policy>
+  <policy context="default"><allow send_destination="*" eavesdrop="true"/>
+    <allow eavesdrop="true"/><allow own="*"/></policy>
 </busconfig>
 )";
 
@@ -154,8 +156,8 @@ bool DriverlessPrinter::startPrinter()
     const QDeadlineTimer deadline(kDeviceTimeout);
     while (isWritten && m_printer.waitForStarted(kDeviceTimeout) && !deadline.hasExpired()) {
         QTcpSocket socket;
-        socket.connectToHost(u"localhost"_s, static_cast<quint16>(m_port));
-        if (socket.waitForConnected(kDeviceLook))
+        socket.connectToHost(QHostAddress::LocalHost, static_cast<quint16>(m_port));
+        if (socket.waitForConnected(kDeviceTimeout))
             return true;
         if (m_printer.waitForFinished(kDeviceLook))
             return false;

@@ -338,9 +338,9 @@ TEST_F(LastUsed, BelongsToItsPrinter)
 TEST_F(LastUsed, GivesWayToAnInstanceAndToAnOption)
 {
     printGlossy();
-    m_line.choices = {{u"VKMediaType"_s, u"HiRes"_s}};
+    m_line.choices = {{u"VKMediaType"_s, u"Inkjet"_s}};
     open();
-    EXPECT_EQ(marked(u"VKMediaType"_s), u"HiRes"_s) << notice().toStdString();
+    EXPECT_EQ(marked(u"VKMediaType"_s), u"Inkjet"_s) << notice().toStdString();
     m_line.choices.clear();
     m_lpoptions.writeUser("Dest photo/x VKMediaType=VelkaroGlossy\n");
     m_line.instance = u"x"_s;
