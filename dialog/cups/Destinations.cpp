@@ -7,12 +7,32 @@
 
 namespace {
 
-constexpr std::array kWanted{"printer-name", "printer-info", "printer-location", "printer-state",
-                             "printer-is-accepting-jobs"};
+constexpr std::array kWanted{
+    "printer-name",          "printer-info",          "printer-location",         "printer-state",
+    "printer-state-message", "printer-state-reasons", "printer-is-accepting-jobs"};
 
 QString text(ipp_attribute_t *attribute)
 {
     return QString::fromUtf8(ippGetString(attribute, 0, nullptr));
+}
+
+QStringList reasonsOf(ipp_attribute_t *attribute)
+{
+    QStringList reasons;
+    for (int index = 0; index < ippGetCount(attribute); ++index) {
+        const QString one =
+            shownServerText(QString::fromUtf8(ippGetString(attribute, index, nullptr)));
+        if (!one.isEmpty() && one != QLatin1String("none"))
+            reasons += one;
+    }
+    return reasons;
+}
+
+void takeState(ipp_attribute_t *attribute, Destination &destination)
+{
+    const int state = ippGetInteger(attribute, 0);
+    destination.isStopped = state == IPP_PSTATE_STOPPED;
+    destination.isPrinting = state == IPP_PSTATE_PROCESSING;
 }
 
 /// Takes over the attribute's value, unless it has another syntax than the standard gives it.
@@ -27,7 +47,11 @@ void take(ipp_attribute_t *attribute, Destination &destination)
     else if (name == "printer-location" && tag == IPP_TAG_TEXT)
         destination.location = shownServerText(text(attribute));
     else if (name == "printer-state" && tag == IPP_TAG_ENUM)
-        destination.isStopped = ippGetInteger(attribute, 0) == IPP_PSTATE_STOPPED;
+        takeState(attribute, destination);
+    else if (name == "printer-state-message" && tag == IPP_TAG_TEXT)
+        destination.stateMessage = shownServerText(text(attribute));
+    else if (name == "printer-state-reasons" && tag == IPP_TAG_KEYWORD)
+        destination.reasons = reasonsOf(attribute);
     else if (name == "printer-is-accepting-jobs" && tag == IPP_TAG_BOOLEAN)
         destination.isAccepting = ippGetBoolean(attribute, 0) != 0;
 }
@@ -124,21 +148,6 @@ void markDefault(QList<Destination> &destinations, const QueueName &name)
         one.isDefault = one.name == name;
 }
 
-bool isListed(const QList<Destination> &destinations, const QueueName &name)
-{
-    return std::ranges::find(destinations, name, &Destination::name) != destinations.end();
-}
-
-/// The one that the user has named, else the server's; a null queue when neither is there.
-QueueName defaultAmong(const QList<Destination> &destinations, ServerConnection &connection)
-{
-    const QueueName usual = usualQueue();
-    if (isListed(destinations, usual))
-        return usual;
-    const Result<QueueName> byServer = defaultOf(connection);
-    return byServer ? *byServer : QueueName();
-}
-
 } // namespace
 
 QList<Destination> queuesOf(ipp_t *answer)
@@ -155,7 +164,8 @@ Result<QList<Destination>> listDestinations(const QString &server, CallGuard &gu
     if (!connection.succeeded())
         return connection.lastFault();
     QList<Destination> destinations = withInstances(queuesOf(response.get()));
-    markDefault(destinations, defaultAmong(destinations, connection));
+    if (const Result<QueueName> byServer = defaultOf(connection))
+        markDefault(destinations, *byServer);
     return destinations;
 }
 

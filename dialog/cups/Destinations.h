@@ -6,18 +6,24 @@
 
 #include <QtCore/QList>
 #include <QtCore/QString>
+#include <QtCore/QStringList>
 
 #include <cups/ipp.h>
 
 /// A queue that can be printed to, or an instance of one.
 struct Destination
 {
-    QueueName name;
-    QString description; ///< what the queue's owner calls it; empty where he says nothing
-    QString location;    ///< empty where nobody says
-    bool isDefault = false;
-    bool isAccepting = true; ///< false: the queue rejects jobs at present
-    bool isStopped = false;  ///< jobs wait until somebody starts the queue
+    QueueName name = {};
+    QString description = {};  ///< what the queue's owner calls it; empty where he says nothing
+    QString location = {};     ///< empty where nobody says
+    bool isDefault = false;    ///< the server prints to it unless told otherwise
+    bool isAccepting = true;   ///< false: the queue rejects jobs at present
+    bool isStopped = false;    ///< jobs wait until somebody starts the queue
+    bool isPrinting = false;   ///< a job is at the printer
+    QStringList reasons = {};  ///< `printer-state-reasons`; none where nothing is the matter
+    QString stateMessage = {}; ///< the server's own words on the state; empty where it has none
+
+    bool operator==(const Destination &) const = default;
 };
 
 /// Every queue and class of the server (null: the user's usual one), with the user's instances.

@@ -22,6 +22,14 @@ int mayWaitOn(http_t *, void *guard)
     return static_cast<CallGuard *>(guard)->mayFinish() ? 1 : 0;
 }
 
+/// Has libcups take the server for this thread's own, its port included.
+void useServer(const QString &server)
+{
+    cupsSetServer(nullptr); // a name without a port would leave the former one's port
+    if (!server.isNull())
+        cupsSetServer(server.toUtf8().constData());
+}
+
 // libcups would ask on the terminal, which blocks a dialog for ever.
 const char *noPassword(const char *, http_t *, const char *, const char *, void *)
 {
@@ -38,7 +46,7 @@ bool closesConnection(http_t *http)
 ServerConnection::ServerConnection(const QString &server, CallGuard &guard)
     : m_guard(guard), m_watch(guard)
 {
-    cupsSetServer(server.isNull() ? nullptr : server.toUtf8().constData());
+    useServer(server);
     cupsSetPasswordCB2(noPassword, nullptr);
     m_name = nameOfServer(server);
     // Not connected yet: with the guard in place, a handshake for TLS waits no longer than it says.
@@ -333,8 +341,10 @@ QByteArray queueResource(const QString &queue)
 
 QString nameOfServer(const QString &server)
 {
-    const QString name = server.isNull() ? QString::fromUtf8(cupsServer()) : server;
-    return name.startsWith(u'/') ? QLatin1String(kLocalServer) : name;
+    useServer(server);
+    const QString host = QString::fromUtf8(cupsServer());
+    return host.startsWith(u'/') ? QString::fromLatin1(kLocalServer)
+                                 : QStringLiteral("%1:%2").arg(host).arg(ippPort());
 }
 
 Fault silentServer(const QString &server)

@@ -101,7 +101,8 @@ IppHandle queueRequest(ipp_op_t operation, const QString &queue);
 /// The path of the queue on its server.
 QByteArray queueResource(const QString &queue);
 
-/// The server's name for people.
+/// The server's name for people: host and port ("print.example:631"), or "localhost" where it is
+/// reached by a socket of this machine.
 QString nameOfServer(const QString &server);
 
 /// What is said of a server that was given up.

@@ -101,6 +101,11 @@ QueueName queueName(const QString &text)
     return {text.left(slash), slash < 0 ? QString() : text.mid(slash + 1)};
 }
 
+QString textOf(const QueueName &name)
+{
+    return name.instance.isNull() ? name.queue : name.queue + u'/' + name.instance;
+}
+
 SavedLine parseSavedLine(const QByteArray &written)
 {
     const QByteArray line = withoutComment(written);
@@ -140,18 +145,27 @@ QList<QueueName> savedInstances()
     return instances;
 }
 
-QueueName usualQueue()
+QueueName environmentQueue()
 {
     const QString byLpdest = qEnvironmentVariable("LPDEST");
     if (!byLpdest.isEmpty())
         return queueName(byLpdest);
     // "lp" is what the variable says on systems where nobody has set it up.
     const QString byPrinter = qEnvironmentVariable("PRINTER");
-    if (!byPrinter.isEmpty() && byPrinter != QLatin1String("lp"))
-        return queueName(byPrinter);
-    QueueName usual;
+    return byPrinter == QLatin1String("lp") ? QueueName() : queueName(byPrinter);
+}
+
+QueueName savedDefaultQueue()
+{
+    QueueName saved;
     for (const SavedLine &line : savedLines())
         if (line.isDefault)
-            usual = line.name;
-    return usual;
+            saved = line.name;
+    return saved;
+}
+
+QueueName usualQueue()
+{
+    const QueueName byEnvironment = environmentQueue();
+    return byEnvironment.queue.isEmpty() ? savedDefaultQueue() : byEnvironment;
 }

@@ -29,8 +29,15 @@ QList<JobOption> savedOptions(const QueueName &name);
 /// queues that are no more.
 QList<QueueName> savedInstances();
 
-/// The queue that the user prints to unless told otherwise: the one of lpoptions, else what LPDEST
-/// or PRINTER say. Null queue: the server decides.
+/// The queue that LPDEST or PRINTER name; a null queue: neither does.
+QueueName environmentQueue();
+
+/// The queue that the user, else the system, has made the default one with lpoptions; a null queue:
+/// none.
+QueueName savedDefaultQueue();
+
+/// The queue that the user prints to unless told otherwise, as `lp` does: the environment's, else
+/// the saved default. A null queue: the server decides.
 QueueName usualQueue();
 
 /// A fault when the name has an instance that nobody has saved settings for: libcups would print
@@ -48,5 +55,6 @@ struct SavedLine
 
 SavedLine parseSavedLine(const QByteArray &line);
 
-/// "queue/instance" taken apart.
+/// "queue/instance" taken apart, and put together again. Names of queues hold no slash.
 QueueName queueName(const QString &text);
+QString textOf(const QueueName &name);

@@ -5,6 +5,8 @@
 #include "dialog/job/DocumentFile.h"
 #include "dialog/job/JobFileWriter.h"
 #include "dialog/job/PipeDocuments.h"
+#include "dialog/printing/JobDoubts.h"
+#include "dialog/printing/LastPrinter.h"
 #include "dialog/printing/RequestedSettings.h"
 #include "dialog/printing/SavedJob.h"
 #include "dialog/work/BackgroundCall.h"
@@ -85,6 +87,17 @@ PrinterSource PrintController::wantedPrinter() const
     return source;
 }
 
+bool PrintController::mayChoosePrinter() const
+{
+    return m_wishes.queue.isNull() && m_wishes.ppd.isNull();
+}
+
+Result<PrinterChoice> PrintController::choosePrinter(const QList<Destination> &listed) const
+{
+    return chosenPrinter(
+        {lastPrinter(m_wishes.server), environmentQueue(), savedDefaultQueue(), listed});
+}
+
 void PrintController::findPrinter(const PrinterSource &source, Then<FoundPrinter> then)
 {
     if (const Result<> known = checkInstance(source.queue); !known) {
@@ -159,10 +172,11 @@ Result<> PrintController::makeRequestedSettings(const std::function<void()> &mad
     return makeSettings(m_job, wanted, madeOne);
 }
 
-Result<JobRequest> PrintController::finish()
+Result<FinishedJob> PrintController::finish()
 {
     if (const Result<> checked = refuseSavedJobs(m_job.documents()); !checked)
         return checked.fault();
+    const SettingState before = settingState(m_job);
     if (HostSession *session = m_job.session()) {
         const Result<> agreed =
             m_unsaved.saveAgain(*session).andThen([&] { return askPanels(*session); });
@@ -172,7 +186,10 @@ Result<JobRequest> PrintController::finish()
     const JobOptions options = m_job.options();
     if (!options.faults.isEmpty())
         return Fault{FaultKind::Vetoed, options.faults.constFirst()};
-    return m_job.request(options.options);
+    FinishedJob finished{m_job.request(options.options),
+                         replacedBySaving(m_job, before) + doubtsOf(m_job)};
+    finished.doubts.removeDuplicates();
+    return finished;
 }
 
 std::shared_ptr<JobProgress> PrintController::send(const JobRequest &request, Then<JobReceipt> then)

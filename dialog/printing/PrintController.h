@@ -6,6 +6,7 @@
 #include "dialog/printing/PanelVeto.h"
 #include "dialog/printing/PrintJob.h"
 #include "dialog/printing/PrintWishes.h"
+#include "dialog/printing/PrinterChoice.h"
 #include "dialog/work/Result.h"
 
 #include <QtCore/QObject>
@@ -26,6 +27,15 @@ struct FoundPrinter
     QStringList notes;
 };
 
+/// A job as it is to go out.
+struct FinishedJob
+{
+    JobRequest request;
+    /// What a person has to agree to before it goes, one sentence each: a choice that would not be
+    /// printed as it was made or shown, a paper that does not go with the other settings.
+    QStringList doubts;
+};
+
 /// The road of a job, under a window and without one: from what was wished to a job that is sent,
 /// or written into a file. It has no widgets and asks nobody: what only a user can answer is asked
 /// by whoever drives it.
@@ -34,7 +44,8 @@ struct FoundPrinter
 ///   1. openDocuments(), and readPipes() for those among them that are pipes;
 ///   2. findPrinter(), again for another printer;
 ///   3. makeRequestedSettings();
-///   4. finish(), which asks the panels, and then send() or write(); again after a fault.
+///   4. finish(), which asks the panels, and then, where nobody objects to its doubts, send() or
+///      write(); again after a fault.
 ///
 /// What takes its time comes back at once and tells its outcome to `then`, exactly once, from the
 /// event loop of the main thread, where all of this is called; to nobody when the controller has
@@ -63,8 +74,14 @@ public:
     /// once when there are none.
     void readPipes(Then<std::monostate> then);
 
-    /// The printer that was wished for.
+    /// The printer that was wished for. Where none was, the user's usual one, as `lp` has it.
     PrinterSource wantedPrinter() const;
+
+    /// Whether the wishes leave open which printer it is.
+    bool mayChoosePrinter() const;
+
+    /// The printer to begin with, out of the wished server's list, where the wishes leave it open.
+    Result<PrinterChoice> choosePrinter(const QList<Destination> &listed) const;
 
     /// Finds and opens the printer in place of the former one, whose panels must not be on screen
     /// any more. Even after a fault the job knows the queue, as far as there is one.
@@ -78,7 +95,7 @@ public:
 
     /// Asks the panels whether the job may be printed, and makes the job as it is to go out. After
     /// a veto the sentence is null when the panel has told the user why by itself.
-    Result<JobRequest> finish();
+    Result<FinishedJob> finish();
 
     /// Sends a job. What is gone out of it is in the progress.
     std::shared_ptr<JobProgress> send(const JobRequest &request, Then<JobReceipt> then);

@@ -11,6 +11,7 @@
 #include "dialog/program/CommandOutput.h"
 #include "dialog/program/SessionRecording.h"
 #include "dialog/work/EndSignals.h"
+#include "dialog/work/Sentences.h"
 
 #include <QtCore/QCoreApplication>
 #include <QtCore/QEventLoop>
@@ -51,6 +52,7 @@ private:
     void takePrinter(const FoundPrinter &printer);
     void makeSettings();
     void finish();
+    void decide(const FinishedJob &finished);
     void deliver(const JobRequest &request);
     void send(const JobRequest &request);
     void write(const JobRequest &request);
@@ -154,15 +156,27 @@ void Run::makeSettings()
 
 void Run::finish()
 {
-    const Result<JobRequest> finished = m_controller.finish();
+    const Result<FinishedJob> finished = m_controller.finish();
     m_answers.answerSheets();
     const QStringList said = m_answers.takeSentences();
     if (finished)
-        deliver(*finished);
+        decide(*finished);
     else if (finished.sentence().isNull() && !said.isEmpty())
         goOn(Fault{finished.fault().kind, said.constLast()});
     else
         goOn(finished.fault());
+}
+
+/// Nobody is there to be asked: the answer to all doubts is that of the command line.
+void Run::decide(const FinishedJob &finished)
+{
+    if (!finished.doubts.isEmpty() && !m_line.yes) {
+        goOn(Fault{FaultKind::Vetoed, joinedSentences(finished.doubts)});
+        return;
+    }
+    for (const QString &doubt : finished.doubts)
+        warn(doubt);
+    deliver(finished.request);
 }
 
 void Run::deliver(const JobRequest &request)

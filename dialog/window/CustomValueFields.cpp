@@ -113,6 +113,14 @@ CustomValueFields::Field CustomValueFields::newText(const CustomParameter &param
             }};
 }
 
+QList<CustomParameter> CustomValueFields::values() const
+{
+    QList<CustomParameter> values = m_parameters;
+    for (qsizetype index = 0; index < values.size(); ++index)
+        values[index].value = m_fields[static_cast<std::size_t>(index)].value();
+    return values;
+}
+
 bool CustomValueFields::isAcceptable() const
 {
     return std::ranges::all_of(values(), [](const CustomParameter &parameter) {

@@ -1,9 +1,22 @@
+#include "dialog/host/HostSession.h"
 #include "dialog/job/Conflicts.h"
+#include "dialog/printing/ChangeWords.h"
+#include "dialog/printing/JobDoubts.h"
 #include "dialog/window/DialogWindow.h"
+#include "dialog/work/Sentences.h"
 
+#include <QtCore/QThread>
 #include <QtCore/QTimer>
 
 #include <utility>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr std::chrono::milliseconds kAlertInterval{20};
+
+} // namespace
 
 /// A panel has asked for a choice. A pick asks for the user's own first, and its rules for more:
 /// what is told when all is over is the first refusal, or that there was none.
@@ -15,19 +28,98 @@ void DialogWindow::didAnswer(const HostCallback::Call &call)
     }
     if (!call.accepted && m_refusalToTell.isNull())
         m_refusalToTell = refusalSentence(job().ppd(), call.keyword, call.choice);
-    if (!std::exchange(m_answersAreNoted, true))
-        QTimer::singleShot(0, this, &DialogWindow::tellAnswers);
+    if (m_pick.keyword.isNull())
+        m_pick = {call.keyword, call.accepted ? call.choice : QString()};
+    noteEvent();
 }
 
-void DialogWindow::tellAnswers()
+/// The panels have heard of it before, and asked for what follows from it.
+void DialogWindow::didMark(const QString &keyword, const QString &choice)
 {
-    m_answersAreNoted = false;
+    m_pick = {keyword, choice};
+    noteEvent();
+}
+
+void DialogWindow::didSetPaper(const PMPaper &, const std::optional<QString> &)
+{
+    m_pick = {u"PageSize"_s, QString()};
+    noteEvent();
+}
+
+/// The panels hear of it afterwards.
+void DialogWindow::didWriteTicket(const QString &key, const QVariant &)
+{
+    m_pick = {key, QString()};
+    noteEvent();
+}
+
+/// What is going on is told of when it is over.
+void DialogWindow::noteEvent()
+{
+    if (std::exchange(m_eventIsNoted, true))
+        return;
+    m_eventLevel = QThread::currentThread()->loopLevel();
+    QTimer::singleShot(0, this, &DialogWindow::tellEvent);
+}
+
+/// What the dialog has done by itself, as when another part comes in front, is over.
+void DialogWindow::noteOwnEvent()
+{
+    m_pick = {u""_s, QString()}; // nobody's
+    noteEvent();
+}
+
+void DialogWindow::tellEvent()
+{
+    if (!m_eventIsNoted)
+        return;
+    // An alert in the midst of it waits for its answer.
+    if (QThread::currentThread()->loopLevel() > m_eventLevel) {
+        QTimer::singleShot(kAlertInterval, this, &DialogWindow::tellEvent);
+        return;
+    }
+    m_eventIsNoted = false;
     const QString refusal = std::exchange(m_refusalToTell, QString());
+    const QString changes = changeSentence(job().ppd(), takeChanges());
     if (m_state != State::Ready)
         return;
     tellStanding();
-    if (!refusal.isNull())
-        tell(NoticeBar::Kind::Warning, refusal);
+    const Notice doubts = doubtsToTell();
+    if (refusal.isNull() && changes.isNull())
+        return;
+    QStringList news{refusal, changes, doubts.sentence};
+    news.removeAll(QString());
+    tell(refusal.isNull() ? doubts.kind : NoticeBar::Kind::Warning, joinedSentences(news));
+}
+
+/// What is not as it is shown, or goes with nothing else, and what the plug-in advises.
+DialogWindow::Notice DialogWindow::doubtsToTell() const
+{
+    const QStringList doubts = doubtsOf(job());
+    return {doubts.isEmpty() ? NoticeBar::Kind::Information : NoticeBar::Kind::Warning,
+            joinedSentences(doubts + adviceFor(job()))};
+}
+
+/// What the printer or the documents lack, and the doubts about the settings.
+DialogWindow::Notice DialogWindow::standingNotice() const
+{
+    const Notice doubts = doubtsToTell();
+    if (doubts.sentence.isEmpty())
+        return m_standing;
+    if (m_standing.kind == NoticeBar::Kind::Information)
+        return doubts;
+    return {m_standing.kind, joinedSentences({m_standing.sentence, doubts.sentence}),
+            m_standing.offer};
+}
+
+/// What has changed since the last look, but for the user's pick.
+QList<SettingChange> DialogWindow::takeChanges()
+{
+    const PPDMark pick = std::exchange(m_pick, PPDMark());
+    const SettingState now = ::settingState(job());
+    const SettingState former = std::exchange(m_toldState, now);
+    return job().session() ? changesBeside(pick, former, now, job().session()->choiceForms())
+                           : QList<SettingChange>();
 }
 
 /// After what is going on: showing another part, or a printer, tells something by itself.

@@ -14,7 +14,7 @@ void DialogWindow::readPipes()
         m_header->reload();
         if (m_state != State::Ready)
             return;
-        m_standing = whatIsMissing();
+        m_standing = standing();
         tellStanding();
     });
 }
@@ -34,6 +34,6 @@ void DialogWindow::chooseDocuments()
     m_documentState = opened;
     readPipes();
     m_header->reload();
-    m_standing = whatIsMissing();
+    m_standing = standing();
     tellStanding();
 }

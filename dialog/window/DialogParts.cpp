@@ -108,6 +108,7 @@ void DialogWindow::changePart()
     const Part *part = currentPart();
     if (!part)
         return;
+    tellEvent(); // what the user has done before
     hideShownPanel();
     const bool wasMissing = std::exchange(m_viewIsMissing, false);
     if (part->panel) {
@@ -125,6 +126,7 @@ void DialogWindow::changePart()
         !m_features->isAcceptable())
         tellStanding();
     fitToPart();
+    noteOwnEvent();
 }
 
 /// What a part has made of late has come behind the buttons in the tab order.
@@ -218,7 +220,7 @@ SummarySection DialogWindow::ownSection() const
     if (job().offersColorMatching()) {
         const bool byPrinter = job().colorMatching() == PrintJob::ColorMatching::Printer;
         own.lines +=
-            {tr("Color Matching"), byPrinter ? tr("By the Printer") : tr("By the Application")};
+            {tr("Color Management"), byPrinter ? tr("By the Printer") : tr("By the Application")};
     }
     return own;
 }

@@ -5,7 +5,7 @@
 #include "dialog/window/JobHeader.h"
 #include "dialog/window/PresetNameDialog.h"
 #include "dialog/window/PresetsRow.h"
-#include "platform/toolkit/AlertObserver.h"
+#include "platform/toolkit/Alert.h"
 #include "platform/toolkit/PlainText.h"
 
 #include <utility>
@@ -103,17 +103,12 @@ void DialogWindow::renamePreset()
 void DialogWindow::deletePreset()
 {
     const QueueName preset = job().source().queue;
-    // No alert of a panel: a recording has nothing to do with it.
-    AlertObserver *const observer = AlertObserver::alertObserver();
-    AlertObserver::setAlertObserver(nullptr);
     AlertContent question;
     question.style = AlertStyle::Warning;
     question.text = tr("Delete the preset \"%1\"?").arg(displayText(preset.instance));
     question.buttons = {tr("Delete"), tr("Keep")};
     question.defaultButton = kKeep;
-    const bool isKept = runAlert(question).button == kKeep;
-    AlertObserver::setAlertObserver(observer);
-    if (isKept || m_isEnding)
+    if (ask(question) == kKeep || m_isEnding)
         return;
     const Result<> deleted = ::deletePreset(preset);
     if (deleted)

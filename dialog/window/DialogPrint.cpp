@@ -1,4 +1,5 @@
 #include "dialog/files/PathBytes.h"
+#include "dialog/printing/LastPrinter.h"
 #include "dialog/printing/LastUsed.h"
 #include "dialog/printing/Presets.h"
 #include "dialog/window/DialogWindow.h"
@@ -13,21 +14,48 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int kCancel = 1; // of the question whether to replace a file
+constexpr int kYes = 0; // of a question of the dialog's own
+constexpr int kCancel = 1;
 
 } // namespace
 
-/// The job as it is now. None when it must not go out: the user has been told why.
+/// The job as it is now. None when it must not go out: the user has been told why, or has said so.
 std::optional<JobRequest> DialogWindow::finishedJob()
 {
-    const Result<JobRequest> finished = m_controller.finish();
+    const Result<FinishedJob> finished = m_controller.finish();
     if (m_isEnding) // dismissed, not answered
         return std::nullopt;
-    if (finished)
-        return *finished;
+    noteOwnEvent();
+    tellEvent(); // what saving has changed, before what is told of the job
+    if (finished && isAgreed(finished->doubts))
+        return finished->request;
     if (!finished.sentence().isNull())
         tell(NoticeBar::Kind::Error, finished.sentence());
     return std::nullopt;
+}
+
+bool DialogWindow::isAgreed(const QStringList &doubts)
+{
+    if (doubts.isEmpty())
+        return true;
+    AlertContent question;
+    question.style = AlertStyle::Warning;
+    question.text = tr("Go on with this job?");
+    question.informative = doubts.join(u'\n');
+    question.buttons = {tr("Go On"), tr("Cancel")};
+    question.defaultButton = kCancel;
+    return ask(question) == kYes && !m_isEnding;
+}
+
+/// The number of the button.
+int DialogWindow::ask(const AlertContent &question)
+{
+    // No alert of a panel: a recording has nothing to do with it.
+    AlertObserver *const observer = AlertObserver::alertObserver();
+    AlertObserver::setAlertObserver(nullptr);
+    const int button = runAlert(question).button;
+    AlertObserver::setAlertObserver(observer);
+    return button;
 }
 
 void DialogWindow::print()
@@ -48,16 +76,12 @@ std::optional<OutputTerms> DialogWindow::agreedTerms(const QString &path)
     OutputTerms terms = m_controller.outputTerms();
     if (verdictAt(path, terms) != OutputVerdict::Exists)
         return terms;
-    // No alert of a panel: a recording has nothing to do with it.
-    AlertObserver *const observer = AlertObserver::alertObserver();
-    AlertObserver::setAlertObserver(nullptr);
     AlertContent question;
     question.style = AlertStyle::Warning;
     question.text = tr("%1 exists already. Replace it?").arg(shownPath(path));
     question.buttons = {tr("Replace"), tr("Cancel")};
     question.defaultButton = kCancel;
-    terms.mayReplace = runAlert(question).button != kCancel;
-    AlertObserver::setAlertObserver(observer);
+    terms.mayReplace = ask(question) != kCancel;
     return terms.mayReplace ? std::optional(terms) : std::nullopt;
 }
 
@@ -90,7 +114,10 @@ void DialogWindow::writeFile(const QString &path, const JobRequest &request,
 void DialogWindow::send(const JobRequest &request)
 {
     beginSending(tr("Sending the job to %1…").arg(request.queue),
-                 m_controller.send(request, [this](const Result<JobReceipt> &receipt) {
+                 m_controller.send(request, [this, queue = job().source().queue](
+                                                const Result<JobReceipt> &receipt) {
+                     if (receipt)
+                         rememberPrinter(m_wishes.server, queue);
                      const bool hasNote = receipt && !receipt->notes.isEmpty();
                      endSending(receipt ? Result<>() : receipt.fault(),
                                 hasNote ? tr("Job %1 was accepted. %2")
@@ -126,7 +153,7 @@ void DialogWindow::endSending(const Result<> &outcome, const QString &note)
     if (!outcome)
         tell(outcome.faultKind() == FaultKind::Cancelled ? NoticeBar::Kind::Information
                                                          : NoticeBar::Kind::Error,
-             outcome.sentence());
+             outcome.sentence(), offerAfter(outcome.fault().kind));
     else if (note.isNull())
         accept();
     else

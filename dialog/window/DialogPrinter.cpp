@@ -13,6 +13,22 @@
 
 using namespace Qt::StringLiterals;
 
+/// What is offered after a fault: to do the same again, where it may come to another end.
+NoticeBar::Offer DialogWindow::offerAfter(FaultKind fault)
+{
+    switch (fault) {
+    case FaultKind::NoPrinter:
+    case FaultKind::Unreachable:
+    case FaultKind::Silent:
+    case FaultKind::NotFound:
+    case FaultKind::Refused:
+    case FaultKind::NeedsPassword:
+        return NoticeBar::Offer::Retry;
+    default:
+        return NoticeBar::Offer::Nothing;
+    }
+}
+
 /// What people read while the printer is looked for.
 QString DialogWindow::waitFor(const PrinterSource &source)
 {
@@ -23,13 +39,49 @@ QString DialogWindow::waitFor(const PrinterSource &source)
                : tr("Asking %1 about its settings…").arg(source.queue.queue);
 }
 
+/// Where nobody has named a printer, the dialog begins with the likeliest one of the server's.
+void DialogWindow::choosePrinter()
+{
+    const PrinterSource open{m_wishes.server, {}, {}};
+    beginSearch(open);
+    m_controller.listPrinters([this, open](const Result<QList<Destination>> &list) {
+        if (list)
+            m_header->printers()->setDestinations(*list);
+        const Result<PrinterChoice> choice =
+            list ? m_controller.choosePrinter(*list) : Result<PrinterChoice>(list.fault());
+        if (!choice) {
+            takePrinter(choice.fault());
+            return;
+        }
+        m_choice = *choice;
+        findPrinter({m_wishes.server, choice->queue, {}, usualStart()});
+    });
+}
+
 void DialogWindow::findPrinter(const PrinterSource &source)
+{
+    beginSearch(source);
+    m_controller.findPrinter(source,
+                             [this](const Result<FoundPrinter> &found) { takePrinter(found); });
+}
+
+void DialogWindow::beginSearch(const PrinterSource &source)
 {
     setState(State::Searching);
     m_header->printers()->setCurrent(source.queue);
     tell(NoticeBar::Kind::Information, waitFor(source));
-    m_controller.findPrinter(source,
-                             [this](const Result<FoundPrinter> &found) { takePrinter(found); });
+}
+
+/// Does anew what has failed at the server.
+void DialogWindow::retry()
+{
+    const PrinterSource source = job().source();
+    if (m_state == State::Ready)
+        print();
+    else if (source.queue.queue.isEmpty())
+        choosePrinter();
+    else
+        findPrinter(source);
 }
 
 void DialogWindow::takePrinter(const Result<FoundPrinter> &found)
@@ -40,28 +92,15 @@ void DialogWindow::takePrinter(const Result<FoundPrinter> &found)
     if (found.faultKind() == FaultKind::PPD)
         m_outcome = found.fault();
     showPrinter();
-    if (!found)
-        m_standing = {NoticeBar::Kind::Error, found.sentence()};
-    else if (job().session())
-        m_standing = whatIsMissing();
-    else
-        m_standing = {NoticeBar::Kind::Information,
-                      tr("%1 It prints with the settings of this dialog alone.")
-                          .arg(missingPPD(job().source().queue.queue))};
+    m_standing = standing();
     setState(found ? State::Ready : State::NoPrinter);
     showPresets();
     tellStanding();
     if (found)
         makeRequestedSettings();
     confirmPreset();
-    // Of a server that cannot be reached there is no list.
-    const bool isReached = found || found.faultKind() == FaultKind::PPD ||
-                           found.faultKind() == FaultKind::NotFound ||
-                           found.faultKind() == FaultKind::NoPrinter;
-    const bool isFileAlone =
-        !job().source().ppdPath.isNull() && job().source().queue.queue.isEmpty();
-    if (isReached && !isFileAlone)
-        listPrinters();
+    static_cast<void>(takeChanges()); // nothing of this has the user done in the window
+    watchPrinters();
 }
 
 /// The printer's name in the header, and its parts.
@@ -102,9 +141,29 @@ void DialogWindow::makeRequestedSettings()
                            [this] { tell(NoticeBar::Kind::Warning, m_settingState.sentence()); });
 }
 
+/// What is told as long as it is true and nothing newer is to be told.
+DialogWindow::Notice DialogWindow::standing() const
+{
+    Notice missing = whatIsMissing();
+    if (!m_choice || missing.kind != NoticeBar::Kind::Information)
+        return missing;
+    const QString chosen = choiceSentence(*m_choice);
+    missing.sentence = missing.sentence.isNull() ? chosen : chosen + u' ' + missing.sentence;
+    return missing;
+}
+
 DialogWindow::Notice DialogWindow::whatIsMissing() const
 {
     using Kind = NoticeBar::Kind;
+    if (!m_printerState)
+        return {Kind::Error, m_printerState.sentence(), offerAfter(m_printerState.fault().kind)};
+    if (m_header->printers()->isCurrentGone())
+        return {Kind::Warning, tr("The printer %1 is no longer on the print server. Choose another "
+                                  "one; the settings of this job stay.")
+                                   .arg(job().source().queue.queue)};
+    if (!job().session())
+        return {Kind::Information, tr("%1 It prints with the settings of this dialog alone.")
+                                       .arg(missingPPD(job().source().queue.queue))};
     if (!m_shortcomings.isEmpty())
         return {Kind::Warning, m_shortcomings.constFirst().sentence};
     if (!m_startNotes.isEmpty())
@@ -120,17 +179,30 @@ DialogWindow::Notice DialogWindow::whatIsMissing() const
     return {};
 }
 
-void DialogWindow::listPrinters()
+/// Lists the printers from now on, where there is a server that can be asked.
+void DialogWindow::watchPrinters()
 {
-    if (std::exchange(m_printersAreListed, true) || m_wishes.isPicture)
+    const std::optional<FaultKind> fault = m_printerState.faultKind();
+    const bool isReached = !fault || fault == FaultKind::PPD || fault == FaultKind::NotFound ||
+                           fault == FaultKind::NoPrinter;
+    const bool isFileAlone =
+        !job().source().ppdPath.isNull() && job().source().queue.queue.isEmpty();
+    if (!isReached || isFileAlone || m_wishes.isPicture || m_watch.hasBegun())
         return;
-    m_header->printers()->setSearching(true);
-    m_controller.listPrinters([this](const Result<QList<Destination>> &list) {
-        if (list)
-            m_header->printers()->setDestinations(*list);
-        else
-            m_header->printers()->setListFailed();
-    });
+    m_header->printers()->setSearching(!m_choice);
+    m_watch.begin(m_choice ? PrinterWatch::First::Later : PrinterWatch::First::Now);
+}
+
+void DialogWindow::takeList(const Result<QList<Destination>> &list)
+{
+    if (list)
+        m_header->printers()->setDestinations(*list);
+    else
+        m_header->printers()->setListFailed();
+    if (m_state != State::Ready || standing().sentence == m_standing.sentence)
+        return;
+    m_standing = standing();
+    tellStanding();
 }
 
 void DialogWindow::closePrinter()

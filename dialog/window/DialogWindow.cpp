@@ -24,7 +24,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr QSize kFirstSize(640, 560);
-constexpr int kMargin = 14;
+constexpr int kWindowMargin = 14;
 constexpr std::chrono::milliseconds kLookInterval{50};
 
 QPushButton *newButton(const QString &name, const QString &title, QWidget *parent)
@@ -42,7 +42,8 @@ DialogWindow::DialogWindow(const DialogWishes &wishes, QWidget *parent)
       m_wishes(wishes),
       m_controller(wishes),
       m_documentState(m_controller.openDocuments(wishes.files)),
-      m_outcome(Fault{FaultKind::Cancelled, {}})
+      m_outcome(Fault{FaultKind::Cancelled, {}}),
+      m_watch(m_controller, *this)
 {
     m_controller.addSessionHook([this](HostSession &session) {
         session.addObserver(this);
@@ -72,28 +73,34 @@ void DialogWindow::buildLayout()
     m_features->hide(); // a tab only where there is something to show
     m_summary = new SummaryPane;
     auto *layout = new QVBoxLayout(this);
-    layout->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
-    layout->setSpacing(kMargin);
+    layout->setContentsMargins(kWindowMargin, kWindowMargin, kWindowMargin, kWindowMargin);
+    layout->setSpacing(kWindowMargin);
     layout->addWidget(m_header);
     layout->addWidget(m_notice);
-    layout->addWidget(m_progress);
     layout->addWidget(m_tabs, 1);
     layout->addWidget(newButtons());
     buildParts();
     connect(m_tabs, &QTabWidget::currentChanged, this, &DialogWindow::changePart);
+    connect(m_notice, &NoticeBar::retryWanted, this, &DialogWindow::retry);
+    connect(&m_watch, &PrinterWatch::listed, this, &DialogWindow::takeList);
     connect(m_header, &JobHeader::documentsWanted, this, &DialogWindow::chooseDocuments);
     connect(m_header, &JobHeader::changed, this, &DialogWindow::tellStanding);
     connect(m_pageSetup, &PageSetupPane::changed, this, &DialogWindow::tellStanding);
-    connect(m_pageSetup, &PageSetupPane::refused, this,
-            [this](const QString &sentence) { tell(NoticeBar::Kind::Warning, sentence); });
+    connect(m_pageSetup, &PageSetupPane::refused, this, [this](const QString &sentence) {
+        tellEvent(); // what was before
+        tell(NoticeBar::Kind::Warning, sentence);
+    });
     connect(m_features, &FeaturesPane::changed, this, &DialogWindow::tellStanding);
-    connect(m_features, &FeaturesPane::refused, this,
-            [this](const QString &sentence) { tell(NoticeBar::Kind::Warning, sentence); });
+    connect(m_features, &FeaturesPane::refused, this, [this](const QString &sentence) {
+        tellEvent(); // what was before
+        tell(NoticeBar::Kind::Warning, sentence);
+    });
     connectPresets();
     connect(m_header->printers(), &PrinterPopUp::picked, this, [this](const QueueName &queue) {
         // One that could not be reached may be tried again.
         if (m_state == State::Ready && queue == job().source().queue)
             return;
+        m_choice.reset();
         closePrinter();
         findPrinter({m_wishes.server, queue, QString(), usualStart()});
     });
@@ -113,7 +120,7 @@ QWidget *DialogWindow::newButtons()
     auto *layout = new QHBoxLayout(row);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(m_help);
-    layout->addStretch(1);
+    layout->addWidget(m_progress, 1);
     layout->addWidget(m_save);
     layout->addWidget(m_cancel);
     layout->addWidget(m_print);
@@ -136,9 +143,13 @@ void DialogWindow::start()
     setKeyWindow(this);
     if (!m_wishes.isPicture)
         readPipes();
-    PrinterSource source = m_controller.wantedPrinter();
-    source.start = usualStart();
-    findPrinter(source);
+    if (m_controller.mayChoosePrinter())
+        choosePrinter();
+    else {
+        PrinterSource source = m_controller.wantedPrinter();
+        source.start = usualStart();
+        findPrinter(source);
+    }
 }
 
 /// A picture shows the settings as they are saved; a user goes on where he was.
@@ -175,9 +186,9 @@ void DialogWindow::updateButtons()
     m_save->setEnabled(mayPrint());
 }
 
-void DialogWindow::tell(NoticeBar::Kind kind, const QString &sentence)
+void DialogWindow::tell(NoticeBar::Kind kind, const QString &sentence, NoticeBar::Offer offer)
 {
-    m_notice->tell(kind, sentence);
+    m_notice->tell(kind, sentence, offer);
 }
 
 /// Shows what is still true, in place of what was news.
@@ -197,10 +208,10 @@ void DialogWindow::tellStanding()
     else if (hidesFeature)
         tell(NoticeBar::Kind::Warning, tr("A value in Printer Features cannot be used. Correct it "
                                           "there to print."));
-    else if (m_standing.sentence.isNull())
+    else if (const Notice standing = standingNotice(); standing.sentence.isEmpty())
         m_notice->clear();
     else
-        tell(m_standing.kind, m_standing.sentence);
+        tell(standing.kind, standing.sentence, standing.offer);
     updateButtons();
 }
 

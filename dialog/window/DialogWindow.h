@@ -2,9 +2,12 @@
 
 #include "dialog/host/SessionObserver.h"
 #include "dialog/printing/PrintController.h"
+#include "dialog/printing/SettingState.h"
 #include "dialog/window/DialogWishes.h"
 #include "dialog/window/NoticeBar.h"
+#include "dialog/window/PrinterWatch.h"
 #include "dialog/window/SummaryPane.h"
+#include "platform/toolkit/Alert.h"
 
 #include <QtWidgets/QDialog>
 
@@ -88,6 +91,7 @@ private:
     {
         NoticeBar::Kind kind = NoticeBar::Kind::Information;
         QString sentence; ///< null: nothing to tell
+        NoticeBar::Offer offer = NoticeBar::Offer::Nothing;
     };
 
     /// A tab of the dialog.
@@ -104,29 +108,44 @@ private:
     QString printTitle() const;
     void setState(State state);
     void updateButtons();
-    void tell(NoticeBar::Kind kind, const QString &sentence);
+    void tell(NoticeBar::Kind kind, const QString &sentence,
+              NoticeBar::Offer offer = NoticeBar::Offer::Nothing);
     void tellStanding();
     bool mayPrint() const;
     void showHelp();
 
     // DialogAnswers.cpp
     void didAnswer(const HostCallback::Call &call) override;
+    void didMark(const QString &keyword, const QString &choice) override;
+    void didSetPaper(const PMPaper &paper, const std::optional<QString> &mapped) override;
+    void didWriteTicket(const QString &key, const QVariant &value) override;
     void didFail(PanelOperation operation, const HostPanel &panel,
                  const QString &sentence) override;
-    void tellAnswers();
+    void noteEvent();
+    void noteOwnEvent();
+    void tellEvent();
+    Notice doubtsToTell() const;
+    Notice standingNotice() const;
+    QList<SettingChange> takeChanges();
 
     // DialogDocuments.cpp
     void readPipes();
     void chooseDocuments();
 
     // DialogPrinter.cpp
+    void choosePrinter();
     void findPrinter(const PrinterSource &source);
+    void beginSearch(const PrinterSource &source);
+    void retry();
+    static NoticeBar::Offer offerAfter(FaultKind fault);
     static QString waitFor(const PrinterSource &source);
     void takePrinter(const Result<FoundPrinter> &found);
     void showPrinter();
     void makeRequestedSettings();
+    Notice standing() const;
     Notice whatIsMissing() const;
-    void listPrinters();
+    void watchPrinters();
+    void takeList(const Result<QList<Destination>> &list);
 
     // DialogParts.cpp
     void buildParts();
@@ -154,6 +173,8 @@ private:
 
     // DialogPrint.cpp
     std::optional<JobRequest> finishedJob();
+    bool isAgreed(const QStringList &doubts);
+    int ask(const AlertContent &question);
     void print();
     void saveToFile();
     std::optional<OutputTerms> agreedTerms(const QString &path);
@@ -169,17 +190,21 @@ private:
     Result<> m_settingState;
     Result<> m_outcome;
     State m_state = State::Searching;
-    QList<Fault> m_shortcomings; ///< of the printer
-    QStringList m_startNotes;    ///< on the settings that it starts from
-    Notice m_standing;           ///< shown while there is nothing newer to tell
-    QString m_refusalToTell;     ///< of the pick that is going on
-    bool m_answersAreNoted = false;
+    std::optional<PrinterChoice> m_choice; ///< of the dialog, where nobody named a printer
+    QList<Fault> m_shortcomings;           ///< of the printer
+    QStringList m_startNotes;              ///< on the settings that it starts from
+    Notice m_standing;                     ///< shown while there is nothing newer to tell
+    QString m_refusalToTell;               ///< of the pick that is going on
+    PPDMark m_pick;           ///< of the user, in the event that is going on; null: none yet
+    SettingState m_toldState; ///< to tell what an event has changed
+    bool m_eventIsNoted = false;
+    int m_eventLevel = 0; ///< of the event loop in which it was noted
     bool m_requestedSettingsAreMade = false;
-    bool m_printersAreListed = false;
     bool m_presetIsNew = false; ///< the one that is being opened
     bool m_isEnding = false;
     bool m_mayHavePrinted = false; ///< what Print did last
 
+    PrinterWatch m_watch;
     JobHeader *m_header;
     NoticeBar *m_notice;
     ProgressStrip *m_progress;

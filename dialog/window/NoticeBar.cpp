@@ -1,5 +1,6 @@
 #include "dialog/window/NoticeBar.h"
 
+#include "dialog/window/NoticeLabel.h"
 #include "dialog/window/NoticeSign.h"
 #include "platform/toolkit/AccessibleName.h"
 #include "platform/toolkit/PlainLabel.h"
@@ -7,7 +8,7 @@
 
 #include <QtCore/QEvent>
 #include <QtWidgets/QHBoxLayout>
-#include <QtWidgets/QLabel>
+#include <QtWidgets/QPushButton>
 
 #include <array>
 
@@ -43,36 +44,49 @@ QColor mixed(const QColor &base, const QColor &accent, qreal share)
 } // namespace
 
 NoticeBar::NoticeBar(QWidget *parent)
-    : QFrame(parent), m_sign(new NoticeSign(this)), m_label(newPlainLabel(QString(), this))
+    : QFrame(parent),
+      m_sign(new NoticeSign(this)),
+      m_label(new NoticeLabel(this)),
+      m_retry(new QPushButton(tr("&Retry"), this))
 {
     setObjectName(QStringLiteral("noticeBar"));
-    setAutoFillBackground(true);
     m_label->setObjectName(QStringLiteral("noticeLabel"));
-    m_label->setWordWrap(true);
-    m_label->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    m_retry->setObjectName(QStringLiteral("retryButton"));
+    m_retry->setAutoDefault(false);
     auto *layout = new QHBoxLayout(this);
     layout->setContentsMargins(10, 6, 10, 6);
     layout->setSpacing(10);
-    layout->addWidget(m_sign, 0, Qt::AlignTop);
+    layout->addWidget(m_sign);
     layout->addWidget(m_label, 1);
-    hide();
+    layout->addWidget(m_retry);
+    connect(m_retry, &QPushButton::clicked, this, &NoticeBar::retryWanted);
+    clear();
 }
 
-void NoticeBar::tell(Kind kind, const QString &sentence)
+void NoticeBar::tell(Kind kind, const QString &sentence, Offer offer)
 {
     m_kind = kind;
     m_sentence = displayText(sentence);
-    setLabelText(m_label, m_sentence);
-    giveAccessibleName(this, m_sentence);
     m_sign->setSign(lookOf(kind).mark, QColor::fromRgb(lookOf(kind).accent));
     applyColors();
-    show();
+    showSentence(m_sentence, offer);
 }
 
 void NoticeBar::clear()
 {
     m_sentence = QString();
-    hide();
+    showSentence(QString(), Offer::Nothing);
+}
+
+/// The room stays when there is nothing to show in it.
+void NoticeBar::showSentence(const QString &sentence, Offer offer)
+{
+    setLabelText(m_label, sentence);
+    giveAccessibleName(this, sentence);
+    setAutoFillBackground(!sentence.isEmpty());
+    m_sign->setVisible(!sentence.isEmpty());
+    m_retry->setVisible(offer == Offer::Retry);
+    update();
 }
 
 void NoticeBar::changeEvent(QEvent *event)

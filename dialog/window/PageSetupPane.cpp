@@ -249,7 +249,7 @@ void PageSetupPane::addColorMatching(QFormLayout *form)
         {{u"matchByPrinterButton"_s, tr("By the P&rinter")},
          {u"matchByApplicationButton"_s, tr("By the Appl&ication")}}};
     const bool byApplication = m_job.colorMatching() == PrintJob::ColorMatching::Application;
-    addLabelledRow(form, tr("Color Matching:"),
+    addLabelledRow(form, tr("Color Management:"),
                    newRadioPair(titles, byApplication ? 1 : 0, [this](int id) {
                        m_job.setColorMatching(id == 1 ? PrintJob::ColorMatching::Application
                                                       : PrintJob::ColorMatching::Printer);

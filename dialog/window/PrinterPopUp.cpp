@@ -1,11 +1,12 @@
 #include "dialog/window/PrinterPopUp.h"
 
+#include "dialog/cups/PrinterReasons.h"
+#include "dialog/window/SearchablePopUp.h"
+#include "platform/toolkit/CaptionLabel.h"
 #include "platform/toolkit/PlainLabel.h"
 #include "platform/toolkit/PlainText.h"
-#include "platform/toolkit/PopUpButton.h"
 
 #include <QtWidgets/QHBoxLayout>
-#include <QtWidgets/QLabel>
 
 #include <algorithm>
 
@@ -15,15 +16,9 @@ namespace {
 
 constexpr int kPrinterLength = 30;
 
-/// The queue in one text, as -d takes it. Names of queues hold no slash.
-QString keyOf(const QueueName &name)
-{
-    return name.instance.isNull() ? name.queue : name.queue + u'/' + name.instance;
-}
-
 QString titleOf(const Destination &destination)
 {
-    const QString name = keyOf(destination.name);
+    const QString name = textOf(destination.name);
     const bool saysMore = !destination.description.isEmpty() &&
                           destination.name.instance.isNull() &&
                           destination.description != destination.name.queue;
@@ -33,11 +28,14 @@ QString titleOf(const Destination &destination)
 } // namespace
 
 PrinterPopUp::PrinterPopUp(QWidget *parent)
-    : QWidget(parent), m_popup(new PopUpButton(this)), m_state(newPlainLabel(QString(), this))
+    : QWidget(parent), m_popup(new SearchablePopUp(this)), m_state(new CaptionLabel(this))
 {
     m_popup->setObjectName(u"printerPopup"_s);
     m_popup->setMinimumContentsLength(kPrinterLength);
+    m_popup->setDetails([this](const QString &key) { return detailOf(key); });
     m_state->setObjectName(u"printerState"_s);
+    m_state->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+    m_state->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     auto *layout = new QHBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(m_popup);
@@ -47,12 +45,19 @@ PrinterPopUp::PrinterPopUp(QWidget *parent)
         if (!key.isEmpty())
             Q_EMIT picked(queueName(key));
     });
+    connect(m_popup, &SearchablePopUp::listClosed, this, &PrinterPopUp::fill, Qt::QueuedConnection);
+}
+
+PopUpButton *PrinterPopUp::popup() const
+{
+    return m_popup;
 }
 
 void PrinterPopUp::setCurrent(const QueueName &queue, const QString &title)
 {
     m_current = queue;
     m_currentTitle = title;
+    m_wasListed = current();
     fill();
 }
 
@@ -64,9 +69,18 @@ void PrinterPopUp::setSearching(bool searching)
 
 void PrinterPopUp::setDestinations(const QList<Destination> &destinations)
 {
-    m_destinations = destinations;
+    const bool isNews = m_destinations != destinations;
     m_searching = false;
-    fill();
+    m_listFailed = false;
+    if (isNews) {
+        m_destinations = destinations;
+        m_indexOfKey.clear();
+        for (qsizetype index = 0; index < destinations.size(); ++index)
+            m_indexOfKey.insert(textOf(destinations[index].name), index);
+        m_wasListed = m_wasListed || current();
+        fill();
+    }
+    tellState();
 }
 
 void PrinterPopUp::setListFailed()
@@ -76,37 +90,65 @@ void PrinterPopUp::setListFailed()
     tellState();
 }
 
+/// What the server lists of the printer that is open, by whatever case its name was given in; null
+/// without anything.
+const Destination *PrinterPopUp::current() const
+{
+    const auto known = m_indexOfKey.constFind(textOf(m_current));
+    if (known != m_indexOfKey.cend())
+        return &m_destinations[*known];
+    const auto found = std::ranges::find_if(m_destinations, [this](const Destination &one) {
+        return one.name.queue.compare(m_current.queue, Qt::CaseInsensitive) == 0;
+    });
+    return found == m_destinations.cend() ? nullptr : &*found;
+}
+
+/// Place and state, for the row in the list.
+QString PrinterPopUp::detailOf(const QString &key) const
+{
+    const auto known = m_indexOfKey.constFind(key);
+    if (known == m_indexOfKey.cend())
+        return m_wasListed ? tr("No longer on the print server") : QString();
+    const Destination &printer = m_destinations[*known];
+    const QString state = stateText(printer);
+    return displayText(printer.location.isEmpty() ? state
+                                                  : u"%1 · %2"_s.arg(printer.location, state));
+}
+
 void PrinterPopUp::fill()
 {
-    std::vector<PopUpButton::Item> items;
-    for (const Destination &destination : m_destinations)
-        items.push_back({titleOf(destination), keyOf(destination.name)});
-    const QString current = keyOf(m_current);
-    const bool isListed = std::ranges::any_of(
-        items, [&](const PopUpButton::Item &item) { return item.representedObject == current; });
-    if (!isListed) {
-        const QString title = m_currentTitle.isEmpty() ? current : m_currentTitle;
-        items.insert(items.begin(),
-                     {title.isEmpty() ? tr("No printer") : displayText(title), current});
+    if (m_popup->isListOpen()) { // it is filled when it closes
+        m_popup->refreshDetails();
+        return;
     }
-    m_popup->setItems(items);
-    m_popup->selectObject(current);
+    std::vector<PopUpButton::Item> items;
+    items.reserve(static_cast<std::size_t>(m_destinations.size()) + 1);
+    const QString key = textOf(m_current);
+    if (!m_indexOfKey.contains(key)) {
+        const QString title = m_currentTitle.isEmpty() ? key : m_currentTitle;
+        items.push_back({title.isEmpty() ? tr("No printer") : displayText(title), key});
+    }
+    for (const Destination &destination : std::as_const(m_destinations))
+        items.push_back({titleOf(destination), textOf(destination.name)});
+    if (m_popup->hasItems(items))
+        m_popup->refreshDetails();
+    else
+        m_popup->setItems(items);
+    m_popup->selectObject(key);
     tellState();
 }
 
 void PrinterPopUp::tellState()
 {
-    const auto found = std::ranges::find(m_destinations, m_current, &Destination::name);
+    const Destination *printer = current();
     QString state;
     if (m_searching)
         state = tr("Searching for printers…");
     else if (m_listFailed)
         state = tr("The other printers cannot be listed");
-    else if (found != m_destinations.end() && !found->isAccepting)
-        state = tr("Takes no jobs at present");
-    else if (found != m_destinations.end() && found->isStopped)
-        state = tr("Stopped: jobs wait");
-    else if (found != m_destinations.end())
-        state = displayText(found->location);
-    setLabelText(m_state, state);
+    else if (isCurrentGone())
+        state = tr("No longer on the print server");
+    else if (printer)
+        state = isInTrouble(*printer) ? stateText(*printer) : printer->location;
+    setLabelText(m_state, displayText(state));
 }

@@ -2,13 +2,16 @@
 
 #include "dialog/cups/Destinations.h"
 
+#include <QtCore/QHash>
 #include <QtWidgets/QWidget>
 
+class CaptionLabel;
 class PopUpButton;
-class QLabel;
+class SearchablePopUp;
 
-/// The pop-up of printers, with a word on the chosen one. Until the server has answered it lists
-/// the chosen one alone and says that it searches.
+/// The pop-up of printers, each with its place and its state, and with a word on the chosen one
+/// beside it. Until the server has answered it lists the chosen one alone and says that it
+/// searches. A list that the user has open keeps its rows: newer ones come when it is closed.
 class PrinterPopUp : public QWidget
 {
     Q_OBJECT
@@ -27,21 +30,28 @@ public:
     /// Says that there is no list to be had.
     void setListFailed();
 
-    PopUpButton *popup() const { return m_popup; }
+    /// Whether the server has listed the printer that is open, and does so no more.
+    bool isCurrentGone() const { return m_wasListed && !current(); }
+
+    PopUpButton *popup() const;
 
 Q_SIGNALS:
     /// The user has picked a queue, perhaps the one that is open.
     void picked(const QueueName &queue);
 
 private:
+    const Destination *current() const;
+    QString detailOf(const QString &key) const;
     void fill();
     void tellState();
 
-    PopUpButton *m_popup;
-    QLabel *m_state;
+    SearchablePopUp *m_popup;
+    CaptionLabel *m_state;
     QueueName m_current;
     QString m_currentTitle;
     QList<Destination> m_destinations;
+    QHash<QString, qsizetype> m_indexOfKey; ///< in m_destinations, by textOf(Destination::name)
     bool m_searching = false;
     bool m_listFailed = false;
+    bool m_wasListed = false; ///< the printer that is open
 };

@@ -13,7 +13,7 @@ constexpr int kSummaryMargin = 16;
 constexpr int kLineSpacing = 4;
 constexpr int kSectionSpacing = 12;
 
-QLabel *label(const QString &text, QWidget *parent)
+QLabel *summaryLabel(const QString &text, QWidget *parent)
 {
     QLabel *made = newPlainLabel(displayText(text), parent);
     made->setWordWrap(true);
@@ -23,7 +23,7 @@ QLabel *label(const QString &text, QWidget *parent)
 
 QLabel *heading(const QString &text, QWidget *parent)
 {
-    QLabel *made = label(text, parent);
+    QLabel *made = summaryLabel(text, parent);
     QFont bold = made->font();
     bold.setBold(true);
     made->setFont(bold);
@@ -78,10 +78,10 @@ void SummaryPane::addSection(QGridLayout *grid, const SummarySection &section)
         grid->setRowMinimumHeight(row++, kSectionSpacing);
     grid->addWidget(heading(section.heading, page), row++, 0, 1, 2);
     for (const SummarySection::Line &line : section.lines) {
-        QLabel *title = label(line.title, page);
+        QLabel *title = summaryLabel(line.title, page);
         title->setAlignment(Qt::AlignRight | Qt::AlignTop);
         grid->addWidget(title, row, 0);
-        QLabel *value = label(line.value, page);
+        QLabel *value = summaryLabel(line.value, page);
         value->setAlignment(Qt::AlignLeft | Qt::AlignTop);
         grid->addWidget(value, row++, 1);
     }

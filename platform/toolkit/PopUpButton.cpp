@@ -49,6 +49,21 @@ void PopUpButton::setPictures(PictureOf pictureOf)
     m_items->setPictures(std::move(pictureOf));
 }
 
+void PopUpButton::setDetails(TextOf detailOf)
+{
+    m_items->setDetails(std::move(detailOf));
+}
+
+void PopUpButton::refreshDetails()
+{
+    m_items->refreshDetails();
+}
+
+bool PopUpButton::hasItems(const std::vector<Item> &items) const
+{
+    return m_items->hasItems(items);
+}
+
 int PopUpButton::indexOfRepresentedObject(const QString &object) const
 {
     return m_items->rowOfObject(object);

@@ -21,12 +21,20 @@ class VELKARO_PLATFORM_EXPORT PopUpButton : public QComboBox
     Q_PROPERTY(int tag MEMBER m_tag)
 
 public:
+    /// The role of the model under which a list finds the detail of an item (setDetails()).
+    static constexpr int kDetailRole = Qt::UserRole + 1;
+
     /// One line of the list.
     struct Item
     {
         QString title;             ///< what people read
         QString representedObject; ///< what the item stands for
+
+        bool operator==(const Item &) const = default;
     };
+
+    /// A plain text for the item with the represented object.
+    using TextOf = std::function<QString(const QString &representedObject)>;
 
     /// The path of the picture before the title of the item with the represented object; null:
     /// none.
@@ -40,6 +48,14 @@ public:
     /// For the items that come after. A picture is looked for when it is first drawn: of a closed
     /// list that is the selected item's only.
     void setPictures(PictureOf pictureOf);
+
+    /// What a list that shows details says of an item beside its title. It is asked for when it is
+    /// drawn or searched; refreshDetails() says that it may have changed.
+    void setDetails(TextOf detailOf);
+    void refreshDetails();
+
+    /// Whether these are the items that there are, in this order.
+    bool hasItems(const std::vector<Item> &items) const;
 
     /// The index of the first item with the represented object; -1 when there is none.
     int indexOfRepresentedObject(const QString &object) const;

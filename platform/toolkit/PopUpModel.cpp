@@ -28,6 +28,28 @@ void PopUpModel::setPictures(PopUpButton::PictureOf pictureOf)
     m_pictureOf = std::move(pictureOf);
 }
 
+void PopUpModel::setDetails(PopUpButton::TextOf detailOf)
+{
+    m_detailOf = std::move(detailOf);
+}
+
+void PopUpModel::refreshDetails()
+{
+    if (!m_rows.empty())
+        Q_EMIT dataChanged(index(0), index(rowCount() - 1),
+                           {PopUpButton::kDetailRole, Qt::AccessibleTextRole});
+}
+
+bool PopUpModel::hasItems(const std::vector<PopUpButton::Item> &items) const
+{
+    return std::ranges::equal(m_rows, items, {}, &Row::item);
+}
+
+QString PopUpModel::detailOf(const Row &row) const
+{
+    return m_detailOf ? m_detailOf(row.item.representedObject) : QString();
+}
+
 const PopUpModel::Row *PopUpModel::rowAt(int row) const
 {
     const bool there = row >= 0 && row < static_cast<int>(m_rows.size());
@@ -95,6 +117,13 @@ QVariant PopUpModel::data(const QModelIndex &index, int role) const
         return iconOf(*row);
     case Qt::UserRole:
         return row->item.representedObject;
+    case PopUpButton::kDetailRole:
+        return detailOf(*row);
+    case Qt::AccessibleTextRole: {
+        const QString detail = detailOf(*row);
+        return detail.isEmpty() ? row->item.title
+                                : QStringLiteral("%1, %2").arg(row->item.title, detail);
+    }
     default:
         return {};
     }

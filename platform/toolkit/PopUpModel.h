@@ -22,6 +22,11 @@ public:
     /// See PopUpButton::setPictures().
     void setPictures(PopUpButton::PictureOf pictureOf);
 
+    /// See PopUpButton::setDetails(), refreshDetails() and hasItems().
+    void setDetails(PopUpButton::TextOf detailOf);
+    void refreshDetails();
+    bool hasItems(const std::vector<PopUpButton::Item> &items) const;
+
     /// The row of the first item with the represented object; -1 without one. No item is found by a
     /// null object.
     int rowOfObject(const QString &object) const;
@@ -51,10 +56,12 @@ private:
     };
 
     const QIcon &iconOf(const Row &row) const;
+    QString detailOf(const Row &row) const;
 
     const Row *rowAt(int row) const;
 
     std::vector<Row> m_rows;
     QHash<QString, int> m_rowOfObject;
     PopUpButton::PictureOf m_pictureOf;
+    PopUpButton::TextOf m_detailOf;
 };

@@ -2,6 +2,29 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="de" sourcelanguage="en">
 <context>
+    <name>ChangeWords</name>
+    <message>
+        <source>%1 is now %2</source>
+        <translation>„%1“ ist jetzt „%2“</translation>
+    </message>
+    <message>
+        <source>%1 is now %2 (was %3)</source>
+        <translation>„%1“ ist jetzt „%2“ (bisher „%3“)</translation>
+    </message>
+    <message>
+        <source>%1.</source>
+        <translation>%1.</translation>
+    </message>
+    <message>
+        <source>%1; %2</source>
+        <translation>%1; %2</translation>
+    </message>
+    <message>
+        <source>%1: &quot;%2&quot; would be printed in place of &quot;%3&quot;.</source>
+        <translation>%1: „%2“ würde anstelle von „%3“ gedruckt.</translation>
+    </message>
+</context>
+<context>
     <name>CheckCommand</name>
     <message>
         <source>The plug-in %1 cannot check a PPD.</source>
@@ -162,8 +185,8 @@
         <translation>Der Drucker kann das Papierformat unter „Seite einrichten“ nicht verarbeiten. Ändern Sie es dort, um zu drucken.</translation>
     </message>
     <message>
-        <source>Color Matching</source>
-        <translation>Farbanpassung</translation>
+        <source>Color Management</source>
+        <translation>Farbverwaltung</translation>
     </message>
     <message>
         <source>By the Printer</source>
@@ -296,6 +319,18 @@
     <message>
         <source>Replace</source>
         <translation>Ersetzen</translation>
+    </message>
+    <message>
+        <source>The printer %1 is no longer on the print server. Choose another one; the settings of this job stay.</source>
+        <translation>Der Drucker %1 ist nicht mehr auf dem Druckserver. Wählen Sie einen anderen; die Einstellungen dieses Auftrags bleiben.</translation>
+    </message>
+    <message>
+        <source>Go on with this job?</source>
+        <translation>Mit diesem Auftrag fortfahren?</translation>
+    </message>
+    <message>
+        <source>Go On</source>
+        <translation>Fortfahren</translation>
     </message>
     <message>
         <source>Printer Features</source>
@@ -503,6 +538,17 @@
     </message>
 </context>
 <context>
+    <name>JobDoubts</name>
+    <message>
+        <source>The printer cannot print on both sides of this paper: %1.</source>
+        <translation>Der Drucker kann dieses Papier nicht beidseitig bedrucken: %1.</translation>
+    </message>
+    <message>
+        <source>For %1 there is &quot;%2&quot;.</source>
+        <translation>Für %1 gibt es „%2“.</translation>
+    </message>
+</context>
+<context>
     <name>JobFile</name>
     <message>
         <source>%1 is no saved job.</source>
@@ -692,6 +738,13 @@
     </message>
 </context>
 <context>
+    <name>NoticeBar</name>
+    <message>
+        <source>&amp;Retry</source>
+        <translation>E&amp;rneut versuchen</translation>
+    </message>
+</context>
+<context>
     <name>OutputFile</name>
     <message>
         <source>The file %1 cannot be written: %2.</source>
@@ -835,8 +888,8 @@
         <translation>Durch die &amp;Anwendung</translation>
     </message>
     <message>
-        <source>Color Matching:</source>
-        <translation>Farbanpassung:</translation>
+        <source>Color Management:</source>
+        <translation>Farbverwaltung:</translation>
     </message>
 </context>
 <context>
@@ -1001,6 +1054,41 @@
     </message>
 </context>
 <context>
+    <name>PrinterChoice</name>
+    <message>
+        <source>%1 was chosen: you printed to it last.</source>
+        <translation>%1 wurde gewählt: Darauf haben Sie zuletzt gedruckt.</translation>
+    </message>
+    <message>
+        <source>%1 was chosen: LPDEST or PRINTER names it.</source>
+        <translation>%1 wurde gewählt: LPDEST oder PRINTER nennt diesen Drucker.</translation>
+    </message>
+    <message>
+        <source>%1 was chosen: it is your default printer.</source>
+        <translation>%1 wurde gewählt: Das ist Ihr Standarddrucker.</translation>
+    </message>
+    <message>
+        <source>%1 was chosen: it is the print server's default printer.</source>
+        <translation>%1 wurde gewählt: Das ist der Standarddrucker des Druckservers.</translation>
+    </message>
+    <message>
+        <source>%1 was chosen: it is the only printer.</source>
+        <translation>%1 wurde gewählt: Das ist der einzige Drucker.</translation>
+    </message>
+    <message>
+        <source>%1 was chosen: it is the first printer that takes jobs, and none is the default.</source>
+        <translation>%1 wurde gewählt: Das ist der erste Drucker, der Aufträge annimmt, und keiner ist Standard.</translation>
+    </message>
+    <message>
+        <source>No printer takes jobs at present. Choose one, or try again later.</source>
+        <translation>Derzeit nimmt kein Drucker Aufträge an. Wählen Sie einen, oder versuchen Sie es später noch einmal.</translation>
+    </message>
+    <message>
+        <source>The print server has no printer to print to.</source>
+        <translation>Der Druckserver hat keinen Drucker, auf dem gedruckt werden kann.</translation>
+    </message>
+</context>
+<context>
     <name>PrinterPopUp</name>
     <message>
         <source>No printer</source>
@@ -1015,12 +1103,483 @@
         <translation>Die übrigen Drucker können nicht aufgelistet werden</translation>
     </message>
     <message>
+        <source>No longer on the print server</source>
+        <translation>Nicht mehr auf dem Druckserver</translation>
+    </message>
+</context>
+<context>
+    <name>PrinterReasons</name>
+    <message>
+        <source>An alert is over</source>
+        <translation>Eine Warnung ist aufgehoben</translation>
+    </message>
+    <message>
+        <source>Connecting</source>
+        <translation>Verbindung wird hergestellt</translation>
+    </message>
+    <message>
+        <source>The cover is open</source>
+        <translation>Die Abdeckung ist offen</translation>
+    </message>
+    <message>
+        <source>A filter of the server is not safe to run</source>
+        <translation>Ein Filter des Servers ist nicht sicher</translation>
+    </message>
+    <message>
+        <source>A filter is missing on the server</source>
+        <translation>Auf dem Server fehlt ein Filter</translation>
+    </message>
+    <message>
+        <source>Waiting for the end of a job</source>
+        <translation>Wartet auf das Ende eines Auftrags</translation>
+    </message>
+    <message>
+        <source>Deactivated</source>
+        <translation>Deaktiviert</translation>
+    </message>
+    <message>
+        <source>Deleted</source>
+        <translation>Gelöscht</translation>
+    </message>
+    <message>
+        <source>The developer is used up</source>
+        <translation>Der Entwickler ist verbraucht</translation>
+    </message>
+    <message>
+        <source>The developer is low</source>
+        <translation>Der Entwickler geht zur Neige</translation>
+    </message>
+    <message>
+        <source>A door is open</source>
+        <translation>Eine Klappe ist offen</translation>
+    </message>
+    <message>
+        <source>The fuser is too hot</source>
+        <translation>Die Fixiereinheit ist zu heiß</translation>
+    </message>
+    <message>
+        <source>The fuser is too cold</source>
+        <translation>Die Fixiereinheit ist zu kalt</translation>
+    </message>
+    <message>
+        <source>Hibernating</source>
+        <translation>Im Ruhezustand</translation>
+    </message>
+    <message>
+        <source>New jobs are held</source>
+        <translation>Neue Aufträge werden zurückgehalten</translation>
+    </message>
+    <message>
+        <source>Making itself known</source>
+        <translation>Macht auf sich aufmerksam</translation>
+    </message>
+    <message>
+        <source>A paper tray is missing</source>
+        <translation>Ein Papierfach fehlt</translation>
+    </message>
+    <message>
+        <source>An interlock is open</source>
+        <translation>Eine Verriegelung ist offen</translation>
+    </message>
+    <message>
+        <source>A font or form is missing</source>
+        <translation>Eine Schrift oder ein Formular fehlt</translation>
+    </message>
+    <message>
+        <source>Ink or toner is used up</source>
+        <translation>Tinte oder Toner ist verbraucht</translation>
+    </message>
+    <message>
+        <source>Ink or toner is low</source>
+        <translation>Tinte oder Toner geht zur Neige</translation>
+    </message>
+    <message>
+        <source>An ink or toner cartridge is missing</source>
+        <translation>Eine Tinten- oder Tonerpatrone fehlt</translation>
+    </message>
+    <message>
+        <source>The waste container is almost full</source>
+        <translation>Der Resttintenbehälter ist fast voll</translation>
+    </message>
+    <message>
+        <source>The waste container is full</source>
+        <translation>Der Resttintenbehälter ist voll</translation>
+    </message>
+    <message>
+        <source>Out of paper</source>
+        <translation>Kein Papier</translation>
+    </message>
+    <message>
+        <source>Paper jam</source>
+        <translation>Papierstau</translation>
+    </message>
+    <message>
+        <source>Paper is low</source>
+        <translation>Wenig Papier</translation>
+    </message>
+    <message>
+        <source>Waiting for paper</source>
+        <translation>Wartet auf Papier</translation>
+    </message>
+    <message>
+        <source>Being stopped</source>
+        <translation>Wird angehalten</translation>
+    </message>
+    <message>
+        <source>Not connected or switched off</source>
+        <translation>Nicht verbunden oder ausgeschaltet</translation>
+    </message>
+    <message>
+        <source>The drum is worn out</source>
+        <translation>Die Trommel ist verschlissen</translation>
+    </message>
+    <message>
+        <source>The drum is nearly worn out</source>
+        <translation>Die Trommel ist fast verschlissen</translation>
+    </message>
+    <message>
+        <source>Something is wrong</source>
+        <translation>Etwas stimmt nicht</translation>
+    </message>
+    <message>
+        <source>The output tray is almost full</source>
+        <translation>Das Ausgabefach ist fast voll</translation>
+    </message>
+    <message>
+        <source>The output tray is full</source>
+        <translation>Das Ausgabefach ist voll</translation>
+    </message>
+    <message>
+        <source>The output tray is missing</source>
+        <translation>Das Ausgabefach fehlt</translation>
+    </message>
+    <message>
+        <source>Stopped</source>
+        <translation>Angehalten</translation>
+    </message>
+    <message>
+        <source>Starting again</source>
+        <translation>Läuft wieder an</translation>
+    </message>
+    <message>
+        <source>Switched off</source>
+        <translation>Ausgeschaltet</translation>
+    </message>
+    <message>
+        <source>The server has no room for jobs</source>
+        <translation>Der Server hat keinen Platz für Aufträge</translation>
+    </message>
+    <message>
+        <source>On standby</source>
+        <translation>In Bereitschaft</translation>
+    </message>
+    <message>
+        <source>Stopped in part</source>
+        <translation>Teilweise angehalten</translation>
+    </message>
+    <message>
+        <source>Suspended</source>
+        <translation>Ausgesetzt</translation>
+    </message>
+    <message>
+        <source>Testing itself</source>
+        <translation>Prüft sich selbst</translation>
+    </message>
+    <message>
+        <source>The printer does not answer</source>
+        <translation>Der Drucker antwortet nicht</translation>
+    </message>
+    <message>
+        <source>Toner is used up</source>
+        <translation>Der Toner ist verbraucht</translation>
+    </message>
+    <message>
+        <source>Toner is low</source>
+        <translation>Der Toner geht zur Neige</translation>
+    </message>
+    <message>
+        <source>The state is not known</source>
+        <translation>Der Zustand ist nicht bekannt</translation>
+    </message>
+    <message>
+        <source>Waiting for fonts</source>
+        <translation>Wartet auf Schriften</translation>
+    </message>
+    <message>
+        <source>Bander: %1</source>
+        <translation>Banderoliergerät: %1</translation>
+    </message>
+    <message>
+        <source>Binder: %1</source>
+        <translation>Bindegerät: %1</translation>
+    </message>
+    <message>
+        <source>Cleaner: %1</source>
+        <translation>Reiniger: %1</translation>
+    </message>
+    <message>
+        <source>Configuration: %1</source>
+        <translation>Konfiguration: %1</translation>
+    </message>
+    <message>
+        <source>Die cutter: %1</source>
+        <translation>Stanzgerät: %1</translation>
+    </message>
+    <message>
+        <source>Folder: %1</source>
+        <translation>Falzgerät: %1</translation>
+    </message>
+    <message>
+        <source>Imprinter: %1</source>
+        <translation>Eindruckwerk: %1</translation>
+    </message>
+    <message>
+        <source>Paper feed: %1</source>
+        <translation>Papierzufuhr: %1</translation>
+    </message>
+    <message>
+        <source>Inserter: %1</source>
+        <translation>Einschießgerät: %1</translation>
+    </message>
+    <message>
+        <source>Interpreter: %1</source>
+        <translation>Interpreter: %1</translation>
+    </message>
+    <message>
+        <source>Envelope maker: %1</source>
+        <translation>Umschlaggerät: %1</translation>
+    </message>
+    <message>
+        <source>Print head: %1</source>
+        <translation>Druckwerk: %1</translation>
+    </message>
+    <message>
+        <source>Paper path: %1</source>
+        <translation>Papierweg: %1</translation>
+    </message>
+    <message>
+        <source>Output tray: %1</source>
+        <translation>Ausgabefach: %1</translation>
+    </message>
+    <message>
+        <source>Perforator: %1</source>
+        <translation>Perforiergerät: %1</translation>
+    </message>
+    <message>
+        <source>Power: %1</source>
+        <translation>Strom: %1</translation>
+    </message>
+    <message>
+        <source>Hole punch: %1</source>
+        <translation>Locher: %1</translation>
+    </message>
+    <message>
+        <source>Cutter: %1</source>
+        <translation>Schneidegerät: %1</translation>
+    </message>
+    <message>
+        <source>Sheet rotator: %1</source>
+        <translation>Blattdreher: %1</translation>
+    </message>
+    <message>
+        <source>Slitter: %1</source>
+        <translation>Längsschneider: %1</translation>
+    </message>
+    <message>
+        <source>Stacker: %1</source>
+        <translation>Stapler: %1</translation>
+    </message>
+    <message>
+        <source>Stapler: %1</source>
+        <translation>Hefter: %1</translation>
+    </message>
+    <message>
+        <source>Stitcher: %1</source>
+        <translation>Drahthefter: %1</translation>
+    </message>
+    <message>
+        <source>A part: %1</source>
+        <translation>Ein Teil: %1</translation>
+    </message>
+    <message>
+        <source>Trimmer: %1</source>
+        <translation>Beschnitt: %1</translation>
+    </message>
+    <message>
+        <source>Wrapper: %1</source>
+        <translation>Verpackung: %1</translation>
+    </message>
+    <message>
+        <source>added</source>
+        <translation>hinzugefügt</translation>
+    </message>
+    <message>
+        <source>almost empty</source>
+        <translation>fast leer</translation>
+    </message>
+    <message>
+        <source>almost full</source>
+        <translation>fast voll</translation>
+    </message>
+    <message>
+        <source>at its limit</source>
+        <translation>an der Grenze</translation>
+    </message>
+    <message>
+        <source>changed</source>
+        <translation>geändert</translation>
+    </message>
+    <message>
+        <source>closed</source>
+        <translation>geschlossen</translation>
+    </message>
+    <message>
+        <source>set up anew</source>
+        <translation>neu eingerichtet</translation>
+    </message>
+    <message>
+        <source>cover closed</source>
+        <translation>Abdeckung geschlossen</translation>
+    </message>
+    <message>
+        <source>cover open</source>
+        <translation>Abdeckung offen</translation>
+    </message>
+    <message>
+        <source>empty</source>
+        <translation>leer</translation>
+    </message>
+    <message>
+        <source>full</source>
+        <translation>voll</translation>
+    </message>
+    <message>
+        <source>interlock closed</source>
+        <translation>Verriegelung geschlossen</translation>
+    </message>
+    <message>
+        <source>interlock open</source>
+        <translation>Verriegelung offen</translation>
+    </message>
+    <message>
+        <source>jammed</source>
+        <translation>Stau</translation>
+    </message>
+    <message>
+        <source>nearly worn out</source>
+        <translation>fast verschlissen</translation>
+    </message>
+    <message>
+        <source>worn out</source>
+        <translation>verschlissen</translation>
+    </message>
+    <message>
+        <source>out of memory</source>
+        <translation>kein Speicher mehr</translation>
+    </message>
+    <message>
+        <source>missing</source>
+        <translation>fehlt</translation>
+    </message>
+    <message>
+        <source>motor failed</source>
+        <translation>Motor ausgefallen</translation>
+    </message>
+    <message>
+        <source>near its limit</source>
+        <translation>nahe der Grenze</translation>
+    </message>
+    <message>
+        <source>offline</source>
+        <translation>offline</translation>
+    </message>
+    <message>
+        <source>opened</source>
+        <translation>geöffnet</translation>
+    </message>
+    <message>
+        <source>too hot</source>
+        <translation>zu heiß</translation>
+    </message>
+    <message>
+        <source>saving power</source>
+        <translation>spart Strom</translation>
+    </message>
+    <message>
+        <source>failed for the moment</source>
+        <translation>vorübergehend ausgefallen</translation>
+    </message>
+    <message>
+        <source>storage is short</source>
+        <translation>Speicher knapp</translation>
+    </message>
+    <message>
+        <source>removed</source>
+        <translation>entfernt</translation>
+    </message>
+    <message>
+        <source>resource added</source>
+        <translation>Ressource hinzugefügt</translation>
+    </message>
+    <message>
+        <source>resource removed</source>
+        <translation>Ressource entfernt</translation>
+    </message>
+    <message>
+        <source>thermistor failed</source>
+        <translation>Temperaturfühler ausgefallen</translation>
+    </message>
+    <message>
+        <source>timing failed</source>
+        <translation>Zeitablauf gestört</translation>
+    </message>
+    <message>
+        <source>switched off</source>
+        <translation>ausgeschaltet</translation>
+    </message>
+    <message>
+        <source>switched on</source>
+        <translation>eingeschaltet</translation>
+    </message>
+    <message>
+        <source>too cold</source>
+        <translation>zu kalt</translation>
+    </message>
+    <message>
+        <source>failed</source>
+        <translation>ausgefallen</translation>
+    </message>
+    <message>
+        <source>storage failed</source>
+        <translation>Speicher ausgefallen</translation>
+    </message>
+    <message>
+        <source>warming up</source>
+        <translation>wärmt auf</translation>
+    </message>
+    <message>
+        <source>Warning: %1</source>
+        <translation>Warnung: %1</translation>
+    </message>
+    <message>
+        <source>Error: %1</source>
+        <translation>Fehler: %1</translation>
+    </message>
+    <message>
         <source>Takes no jobs at present</source>
         <translation>Nimmt derzeit keine Aufträge an</translation>
     </message>
     <message>
         <source>Stopped: jobs wait</source>
         <translation>Angehalten: Aufträge warten</translation>
+    </message>
+    <message>
+        <source>Printing</source>
+        <translation>Druckt</translation>
+    </message>
+    <message>
+        <source>Ready</source>
+        <translation>Bereit</translation>
     </message>
 </context>
 <context>
@@ -1092,6 +1651,17 @@
     <message>
         <source>The job in %1 can be looked at but not sent: it sets %2, which no saved job may. Remove that from the settings saved for the queue.</source>
         <translation>Der Auftrag in %1 kann angesehen, aber nicht gesendet werden: Er setzt %2, was ein gespeicherter Auftrag nicht darf. Entfernen Sie dies aus den Einstellungen, die für die Warteschlange gespeichert sind.</translation>
+    </message>
+</context>
+<context>
+    <name>SearchList</name>
+    <message>
+        <source>Search</source>
+        <translation>Suchen</translation>
+    </message>
+    <message>
+        <source>What was found</source>
+        <translation>Gefundenes</translation>
     </message>
 </context>
 <context>

@@ -2,6 +2,29 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="fr" sourcelanguage="en">
 <context>
+    <name>ChangeWords</name>
+    <message>
+        <source>%1 is now %2</source>
+        <translation>« %1 » est maintenant « %2 »</translation>
+    </message>
+    <message>
+        <source>%1 is now %2 (was %3)</source>
+        <translation>« %1 » est maintenant « %2 » (auparavant « %3 »)</translation>
+    </message>
+    <message>
+        <source>%1.</source>
+        <translation>%1.</translation>
+    </message>
+    <message>
+        <source>%1; %2</source>
+        <translation>%1 ; %2</translation>
+    </message>
+    <message>
+        <source>%1: &quot;%2&quot; would be printed in place of &quot;%3&quot;.</source>
+        <translation>%1 : « %2 » serait imprimé au lieu de « %3 ».</translation>
+    </message>
+</context>
+<context>
     <name>CheckCommand</name>
     <message>
         <source>The plug-in %1 cannot check a PPD.</source>
@@ -162,8 +185,8 @@
         <translation>L’imprimante n’accepte pas le format de papier indiqué dans « Mise en page ». Corrigez-le pour imprimer.</translation>
     </message>
     <message>
-        <source>Color Matching</source>
-        <translation>Correspondance des couleurs</translation>
+        <source>Color Management</source>
+        <translation>Gestion des couleurs</translation>
     </message>
     <message>
         <source>By the Printer</source>
@@ -296,6 +319,18 @@
     <message>
         <source>Replace</source>
         <translation>Remplacer</translation>
+    </message>
+    <message>
+        <source>The printer %1 is no longer on the print server. Choose another one; the settings of this job stay.</source>
+        <translation>L’imprimante %1 n’est plus sur le serveur d’impression. Choisissez-en une autre ; les réglages de ce travail restent.</translation>
+    </message>
+    <message>
+        <source>Go on with this job?</source>
+        <translation>Poursuivre avec ce travail ?</translation>
+    </message>
+    <message>
+        <source>Go On</source>
+        <translation>Poursuivre</translation>
     </message>
     <message>
         <source>Printer Features</source>
@@ -503,6 +538,17 @@
     </message>
 </context>
 <context>
+    <name>JobDoubts</name>
+    <message>
+        <source>The printer cannot print on both sides of this paper: %1.</source>
+        <translation>L’imprimante ne peut pas imprimer ce papier recto verso : %1.</translation>
+    </message>
+    <message>
+        <source>For %1 there is &quot;%2&quot;.</source>
+        <translation>Pour %1, il y a « %2 ».</translation>
+    </message>
+</context>
+<context>
     <name>JobFile</name>
     <message>
         <source>%1 is no saved job.</source>
@@ -692,6 +738,13 @@
     </message>
 </context>
 <context>
+    <name>NoticeBar</name>
+    <message>
+        <source>&amp;Retry</source>
+        <translation>&amp;Réessayer</translation>
+    </message>
+</context>
+<context>
     <name>OutputFile</name>
     <message>
         <source>The file %1 cannot be written: %2.</source>
@@ -835,8 +888,8 @@
         <translation>Par l’appl&amp;ication</translation>
     </message>
     <message>
-        <source>Color Matching:</source>
-        <translation>Correspondance des couleurs :</translation>
+        <source>Color Management:</source>
+        <translation>Gestion des couleurs :</translation>
     </message>
 </context>
 <context>
@@ -1001,6 +1054,41 @@
     </message>
 </context>
 <context>
+    <name>PrinterChoice</name>
+    <message>
+        <source>%1 was chosen: you printed to it last.</source>
+        <translation>%1 a été choisie : c’est la dernière que vous avez utilisée.</translation>
+    </message>
+    <message>
+        <source>%1 was chosen: LPDEST or PRINTER names it.</source>
+        <translation>%1 a été choisie : LPDEST ou PRINTER la désigne.</translation>
+    </message>
+    <message>
+        <source>%1 was chosen: it is your default printer.</source>
+        <translation>%1 a été choisie : c’est votre imprimante par défaut.</translation>
+    </message>
+    <message>
+        <source>%1 was chosen: it is the print server's default printer.</source>
+        <translation>%1 a été choisie : c’est l’imprimante par défaut du serveur d’impression.</translation>
+    </message>
+    <message>
+        <source>%1 was chosen: it is the only printer.</source>
+        <translation>%1 a été choisie : c’est la seule imprimante.</translation>
+    </message>
+    <message>
+        <source>%1 was chosen: it is the first printer that takes jobs, and none is the default.</source>
+        <translation>%1 a été choisie : c’est la première qui accepte des travaux, et aucune n’est définie par défaut.</translation>
+    </message>
+    <message>
+        <source>No printer takes jobs at present. Choose one, or try again later.</source>
+        <translation>Aucune imprimante n’accepte de travaux actuellement. Choisissez-en une, ou réessayez plus tard.</translation>
+    </message>
+    <message>
+        <source>The print server has no printer to print to.</source>
+        <translation>Le serveur d’impression n’a aucune imprimante.</translation>
+    </message>
+</context>
+<context>
     <name>PrinterPopUp</name>
     <message>
         <source>No printer</source>
@@ -1015,12 +1103,483 @@
         <translation>Les autres imprimantes ne peuvent pas être énumérées</translation>
     </message>
     <message>
+        <source>No longer on the print server</source>
+        <translation>N’est plus sur le serveur d’impression</translation>
+    </message>
+</context>
+<context>
+    <name>PrinterReasons</name>
+    <message>
+        <source>An alert is over</source>
+        <translation>Une alerte est levée</translation>
+    </message>
+    <message>
+        <source>Connecting</source>
+        <translation>Connexion en cours</translation>
+    </message>
+    <message>
+        <source>The cover is open</source>
+        <translation>Le capot est ouvert</translation>
+    </message>
+    <message>
+        <source>A filter of the server is not safe to run</source>
+        <translation>Un filtre du serveur n’est pas sûr</translation>
+    </message>
+    <message>
+        <source>A filter is missing on the server</source>
+        <translation>Il manque un filtre sur le serveur</translation>
+    </message>
+    <message>
+        <source>Waiting for the end of a job</source>
+        <translation>Attend la fin d’un travail</translation>
+    </message>
+    <message>
+        <source>Deactivated</source>
+        <translation>Désactivée</translation>
+    </message>
+    <message>
+        <source>Deleted</source>
+        <translation>Supprimée</translation>
+    </message>
+    <message>
+        <source>The developer is used up</source>
+        <translation>Le révélateur est épuisé</translation>
+    </message>
+    <message>
+        <source>The developer is low</source>
+        <translation>Le révélateur est presque épuisé</translation>
+    </message>
+    <message>
+        <source>A door is open</source>
+        <translation>Une porte est ouverte</translation>
+    </message>
+    <message>
+        <source>The fuser is too hot</source>
+        <translation>Le four est trop chaud</translation>
+    </message>
+    <message>
+        <source>The fuser is too cold</source>
+        <translation>Le four est trop froid</translation>
+    </message>
+    <message>
+        <source>Hibernating</source>
+        <translation>En hibernation</translation>
+    </message>
+    <message>
+        <source>New jobs are held</source>
+        <translation>Les nouveaux travaux sont retenus</translation>
+    </message>
+    <message>
+        <source>Making itself known</source>
+        <translation>Se signale</translation>
+    </message>
+    <message>
+        <source>A paper tray is missing</source>
+        <translation>Il manque un bac à papier</translation>
+    </message>
+    <message>
+        <source>An interlock is open</source>
+        <translation>Un verrouillage est ouvert</translation>
+    </message>
+    <message>
+        <source>A font or form is missing</source>
+        <translation>Il manque une police ou un formulaire</translation>
+    </message>
+    <message>
+        <source>Ink or toner is used up</source>
+        <translation>L’encre ou le toner est épuisé</translation>
+    </message>
+    <message>
+        <source>Ink or toner is low</source>
+        <translation>L’encre ou le toner est presque épuisé</translation>
+    </message>
+    <message>
+        <source>An ink or toner cartridge is missing</source>
+        <translation>Il manque une cartouche d’encre ou de toner</translation>
+    </message>
+    <message>
+        <source>The waste container is almost full</source>
+        <translation>Le bac de récupération est presque plein</translation>
+    </message>
+    <message>
+        <source>The waste container is full</source>
+        <translation>Le bac de récupération est plein</translation>
+    </message>
+    <message>
+        <source>Out of paper</source>
+        <translation>Plus de papier</translation>
+    </message>
+    <message>
+        <source>Paper jam</source>
+        <translation>Bourrage papier</translation>
+    </message>
+    <message>
+        <source>Paper is low</source>
+        <translation>Peu de papier</translation>
+    </message>
+    <message>
+        <source>Waiting for paper</source>
+        <translation>Attend du papier</translation>
+    </message>
+    <message>
+        <source>Being stopped</source>
+        <translation>Arrêt en cours</translation>
+    </message>
+    <message>
+        <source>Not connected or switched off</source>
+        <translation>Non connectée ou éteinte</translation>
+    </message>
+    <message>
+        <source>The drum is worn out</source>
+        <translation>Le tambour est usé</translation>
+    </message>
+    <message>
+        <source>The drum is nearly worn out</source>
+        <translation>Le tambour est presque usé</translation>
+    </message>
+    <message>
+        <source>Something is wrong</source>
+        <translation>Un problème est survenu</translation>
+    </message>
+    <message>
+        <source>The output tray is almost full</source>
+        <translation>Le bac de sortie est presque plein</translation>
+    </message>
+    <message>
+        <source>The output tray is full</source>
+        <translation>Le bac de sortie est plein</translation>
+    </message>
+    <message>
+        <source>The output tray is missing</source>
+        <translation>Le bac de sortie manque</translation>
+    </message>
+    <message>
+        <source>Stopped</source>
+        <translation>Arrêtée</translation>
+    </message>
+    <message>
+        <source>Starting again</source>
+        <translation>Redémarrage en cours</translation>
+    </message>
+    <message>
+        <source>Switched off</source>
+        <translation>Éteinte</translation>
+    </message>
+    <message>
+        <source>The server has no room for jobs</source>
+        <translation>Le serveur n’a plus de place pour les travaux</translation>
+    </message>
+    <message>
+        <source>On standby</source>
+        <translation>En veille</translation>
+    </message>
+    <message>
+        <source>Stopped in part</source>
+        <translation>Arrêtée en partie</translation>
+    </message>
+    <message>
+        <source>Suspended</source>
+        <translation>Suspendue</translation>
+    </message>
+    <message>
+        <source>Testing itself</source>
+        <translation>Test en cours</translation>
+    </message>
+    <message>
+        <source>The printer does not answer</source>
+        <translation>L’imprimante ne répond pas</translation>
+    </message>
+    <message>
+        <source>Toner is used up</source>
+        <translation>Le toner est épuisé</translation>
+    </message>
+    <message>
+        <source>Toner is low</source>
+        <translation>Le toner est presque épuisé</translation>
+    </message>
+    <message>
+        <source>The state is not known</source>
+        <translation>L’état n’est pas connu</translation>
+    </message>
+    <message>
+        <source>Waiting for fonts</source>
+        <translation>Attend des polices</translation>
+    </message>
+    <message>
+        <source>Bander: %1</source>
+        <translation>Banderoleuse : %1</translation>
+    </message>
+    <message>
+        <source>Binder: %1</source>
+        <translation>Relieuse : %1</translation>
+    </message>
+    <message>
+        <source>Cleaner: %1</source>
+        <translation>Nettoyeur : %1</translation>
+    </message>
+    <message>
+        <source>Configuration: %1</source>
+        <translation>Configuration : %1</translation>
+    </message>
+    <message>
+        <source>Die cutter: %1</source>
+        <translation>Découpeuse : %1</translation>
+    </message>
+    <message>
+        <source>Folder: %1</source>
+        <translation>Plieuse : %1</translation>
+    </message>
+    <message>
+        <source>Imprinter: %1</source>
+        <translation>Imprimeur : %1</translation>
+    </message>
+    <message>
+        <source>Paper feed: %1</source>
+        <translation>Alimentation papier : %1</translation>
+    </message>
+    <message>
+        <source>Inserter: %1</source>
+        <translation>Insertion : %1</translation>
+    </message>
+    <message>
+        <source>Interpreter: %1</source>
+        <translation>Interpréteur : %1</translation>
+    </message>
+    <message>
+        <source>Envelope maker: %1</source>
+        <translation>Façonnage d’enveloppes : %1</translation>
+    </message>
+    <message>
+        <source>Print head: %1</source>
+        <translation>Tête d’impression : %1</translation>
+    </message>
+    <message>
+        <source>Paper path: %1</source>
+        <translation>Trajet du papier : %1</translation>
+    </message>
+    <message>
+        <source>Output tray: %1</source>
+        <translation>Bac de sortie : %1</translation>
+    </message>
+    <message>
+        <source>Perforator: %1</source>
+        <translation>Perforateur : %1</translation>
+    </message>
+    <message>
+        <source>Power: %1</source>
+        <translation>Alimentation : %1</translation>
+    </message>
+    <message>
+        <source>Hole punch: %1</source>
+        <translation>Perforeuse : %1</translation>
+    </message>
+    <message>
+        <source>Cutter: %1</source>
+        <translation>Massicot : %1</translation>
+    </message>
+    <message>
+        <source>Sheet rotator: %1</source>
+        <translation>Rotation des feuilles : %1</translation>
+    </message>
+    <message>
+        <source>Slitter: %1</source>
+        <translation>Coupe longitudinale : %1</translation>
+    </message>
+    <message>
+        <source>Stacker: %1</source>
+        <translation>Empileur : %1</translation>
+    </message>
+    <message>
+        <source>Stapler: %1</source>
+        <translation>Agrafeuse : %1</translation>
+    </message>
+    <message>
+        <source>Stitcher: %1</source>
+        <translation>Piqueuse : %1</translation>
+    </message>
+    <message>
+        <source>A part: %1</source>
+        <translation>Un élément : %1</translation>
+    </message>
+    <message>
+        <source>Trimmer: %1</source>
+        <translation>Rogneuse : %1</translation>
+    </message>
+    <message>
+        <source>Wrapper: %1</source>
+        <translation>Emballage : %1</translation>
+    </message>
+    <message>
+        <source>added</source>
+        <translation>ajout</translation>
+    </message>
+    <message>
+        <source>almost empty</source>
+        <translation>presque vide</translation>
+    </message>
+    <message>
+        <source>almost full</source>
+        <translation>presque plein</translation>
+    </message>
+    <message>
+        <source>at its limit</source>
+        <translation>à sa limite</translation>
+    </message>
+    <message>
+        <source>changed</source>
+        <translation>modification</translation>
+    </message>
+    <message>
+        <source>closed</source>
+        <translation>fermé</translation>
+    </message>
+    <message>
+        <source>set up anew</source>
+        <translation>reconfiguré</translation>
+    </message>
+    <message>
+        <source>cover closed</source>
+        <translation>capot fermé</translation>
+    </message>
+    <message>
+        <source>cover open</source>
+        <translation>capot ouvert</translation>
+    </message>
+    <message>
+        <source>empty</source>
+        <translation>vide</translation>
+    </message>
+    <message>
+        <source>full</source>
+        <translation>plein</translation>
+    </message>
+    <message>
+        <source>interlock closed</source>
+        <translation>verrouillage fermé</translation>
+    </message>
+    <message>
+        <source>interlock open</source>
+        <translation>verrouillage ouvert</translation>
+    </message>
+    <message>
+        <source>jammed</source>
+        <translation>bourrage</translation>
+    </message>
+    <message>
+        <source>nearly worn out</source>
+        <translation>presque usé</translation>
+    </message>
+    <message>
+        <source>worn out</source>
+        <translation>usé</translation>
+    </message>
+    <message>
+        <source>out of memory</source>
+        <translation>mémoire insuffisante</translation>
+    </message>
+    <message>
+        <source>missing</source>
+        <translation>absent</translation>
+    </message>
+    <message>
+        <source>motor failed</source>
+        <translation>panne du moteur</translation>
+    </message>
+    <message>
+        <source>near its limit</source>
+        <translation>près de sa limite</translation>
+    </message>
+    <message>
+        <source>offline</source>
+        <translation>hors ligne</translation>
+    </message>
+    <message>
+        <source>opened</source>
+        <translation>ouvert</translation>
+    </message>
+    <message>
+        <source>too hot</source>
+        <translation>trop chaud</translation>
+    </message>
+    <message>
+        <source>saving power</source>
+        <translation>économie d’énergie</translation>
+    </message>
+    <message>
+        <source>failed for the moment</source>
+        <translation>panne passagère</translation>
+    </message>
+    <message>
+        <source>storage is short</source>
+        <translation>stockage insuffisant</translation>
+    </message>
+    <message>
+        <source>removed</source>
+        <translation>retrait</translation>
+    </message>
+    <message>
+        <source>resource added</source>
+        <translation>ressource ajoutée</translation>
+    </message>
+    <message>
+        <source>resource removed</source>
+        <translation>ressource retirée</translation>
+    </message>
+    <message>
+        <source>thermistor failed</source>
+        <translation>panne du thermistor</translation>
+    </message>
+    <message>
+        <source>timing failed</source>
+        <translation>défaut de synchronisation</translation>
+    </message>
+    <message>
+        <source>switched off</source>
+        <translation>éteint</translation>
+    </message>
+    <message>
+        <source>switched on</source>
+        <translation>allumé</translation>
+    </message>
+    <message>
+        <source>too cold</source>
+        <translation>trop froid</translation>
+    </message>
+    <message>
+        <source>failed</source>
+        <translation>en panne</translation>
+    </message>
+    <message>
+        <source>storage failed</source>
+        <translation>panne de stockage</translation>
+    </message>
+    <message>
+        <source>warming up</source>
+        <translation>préchauffage</translation>
+    </message>
+    <message>
+        <source>Warning: %1</source>
+        <translation>Avertissement : %1</translation>
+    </message>
+    <message>
+        <source>Error: %1</source>
+        <translation>Erreur : %1</translation>
+    </message>
+    <message>
         <source>Takes no jobs at present</source>
         <translation>N’accepte pas de travaux actuellement</translation>
     </message>
     <message>
         <source>Stopped: jobs wait</source>
-        <translation>Arrêtée : les travaux attendent</translation>
+        <translation>Arrêtée : les travaux attendent</translation>
+    </message>
+    <message>
+        <source>Printing</source>
+        <translation>Imprime</translation>
+    </message>
+    <message>
+        <source>Ready</source>
+        <translation>Prête</translation>
     </message>
 </context>
 <context>
@@ -1068,7 +1627,7 @@
     <name>RequestedSettings</name>
     <message>
         <source>%1=%2 and %1=%3 cannot both be had: ask for one of them.</source>
-        <translation>%1=%2 et %1=%3 s’excluent : n’en demandez qu’un seul.</translation>
+        <translation>%1=%2 et %1=%3 s’excluent : n’en demandez qu’un seul.</translation>
     </message>
 </context>
 <context>
@@ -1092,6 +1651,17 @@
     <message>
         <source>The job in %1 can be looked at but not sent: it sets %2, which no saved job may. Remove that from the settings saved for the queue.</source>
         <translation>Le travail enregistré dans %1 peut être examiné mais pas envoyé : il définit %2, ce qu’un travail enregistré n’a pas le droit de faire. Retirez-le des réglages enregistrés pour la file d’attente.</translation>
+    </message>
+</context>
+<context>
+    <name>SearchList</name>
+    <message>
+        <source>Search</source>
+        <translation>Rechercher</translation>
+    </message>
+    <message>
+        <source>What was found</source>
+        <translation>Résultats</translation>
     </message>
 </context>
 <context>
@@ -1236,7 +1806,7 @@
     </message>
     <message>
         <source>%1 cannot be chosen while the other settings are as they are: %2 is %3.</source>
-        <translation>%1 ne peut pas être choisi avec les autres réglages actuels : « %2 » est « %3 ».</translation>
+        <translation>%1 ne peut pas être choisi avec les autres réglages actuels : « %2 » est « %3 ».</translation>
     </message>
     <message>
         <source>A paper of a size of your own needs that size, such as Custom.100x150mm.</source>

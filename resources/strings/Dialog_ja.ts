@@ -2,6 +2,29 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="ja" sourcelanguage="en">
 <context>
+    <name>ChangeWords</name>
+    <message>
+        <source>%1 is now %2</source>
+        <translation>%1 は「%2」になりました</translation>
+    </message>
+    <message>
+        <source>%1 is now %2 (was %3)</source>
+        <translation>%1 は「%3」から「%2」に変わりました</translation>
+    </message>
+    <message>
+        <source>%1.</source>
+        <translation>%1。</translation>
+    </message>
+    <message>
+        <source>%1; %2</source>
+        <translation>%1。%2</translation>
+    </message>
+    <message>
+        <source>%1: &quot;%2&quot; would be printed in place of &quot;%3&quot;.</source>
+        <translation>%1 は「%3」ではなく「%2」で印刷されます。</translation>
+    </message>
+</context>
+<context>
     <name>CheckCommand</name>
     <message>
         <source>The plug-in %1 cannot check a PPD.</source>
@@ -162,8 +185,8 @@
         <translation>「ページ設定」の用紙サイズは、このプリンターでは使用できません。印刷するには、サイズを直してください。</translation>
     </message>
     <message>
-        <source>Color Matching</source>
-        <translation>カラーマッチング</translation>
+        <source>Color Management</source>
+        <translation>カラーマネージメント</translation>
     </message>
     <message>
         <source>By the Printer</source>
@@ -296,6 +319,18 @@
     <message>
         <source>Replace</source>
         <translation>置き換え</translation>
+    </message>
+    <message>
+        <source>The printer %1 is no longer on the print server. Choose another one; the settings of this job stay.</source>
+        <translation>プリンター %1 はプリントサーバーからなくなりました。ほかのプリンターを選んでください。このジョブの設定は残ります。</translation>
+    </message>
+    <message>
+        <source>Go on with this job?</source>
+        <translation>このまま続けますか?</translation>
+    </message>
+    <message>
+        <source>Go On</source>
+        <translation>続ける</translation>
     </message>
     <message>
         <source>Printer Features</source>
@@ -503,6 +538,17 @@
     </message>
 </context>
 <context>
+    <name>JobDoubts</name>
+    <message>
+        <source>The printer cannot print on both sides of this paper: %1.</source>
+        <translation>このプリンターでは、この用紙の両面に印刷できません: %1。</translation>
+    </message>
+    <message>
+        <source>For %1 there is &quot;%2&quot;.</source>
+        <translation>%1 には「%2」を使用できます。</translation>
+    </message>
+</context>
+<context>
     <name>JobFile</name>
     <message>
         <source>%1 is no saved job.</source>
@@ -692,6 +738,13 @@
     </message>
 </context>
 <context>
+    <name>NoticeBar</name>
+    <message>
+        <source>&amp;Retry</source>
+        <translation>再試行(&amp;R)</translation>
+    </message>
+</context>
+<context>
     <name>OutputFile</name>
     <message>
         <source>The file %1 cannot be written: %2.</source>
@@ -835,8 +888,8 @@
         <translation>アプリケーション(&amp;I)</translation>
     </message>
     <message>
-        <source>Color Matching:</source>
-        <translation>カラーマッチング:</translation>
+        <source>Color Management:</source>
+        <translation>カラーマネージメント:</translation>
     </message>
 </context>
 <context>
@@ -1001,6 +1054,41 @@
     </message>
 </context>
 <context>
+    <name>PrinterChoice</name>
+    <message>
+        <source>%1 was chosen: you printed to it last.</source>
+        <translation>最後に印刷した %1 を選びました。</translation>
+    </message>
+    <message>
+        <source>%1 was chosen: LPDEST or PRINTER names it.</source>
+        <translation>LPDEST または PRINTER で指定されている %1 を選びました。</translation>
+    </message>
+    <message>
+        <source>%1 was chosen: it is your default printer.</source>
+        <translation>通常使うプリンターの %1 を選びました。</translation>
+    </message>
+    <message>
+        <source>%1 was chosen: it is the print server's default printer.</source>
+        <translation>プリントサーバーの既定のプリンターである %1 を選びました。</translation>
+    </message>
+    <message>
+        <source>%1 was chosen: it is the only printer.</source>
+        <translation>ただ 1 台のプリンターである %1 を選びました。</translation>
+    </message>
+    <message>
+        <source>%1 was chosen: it is the first printer that takes jobs, and none is the default.</source>
+        <translation>既定のプリンターがないため、ジョブを受け付ける最初のプリンターである %1 を選びました。</translation>
+    </message>
+    <message>
+        <source>No printer takes jobs at present. Choose one, or try again later.</source>
+        <translation>現在ジョブを受け付けるプリンターがありません。プリンターを選ぶか、あとでもう一度試してください。</translation>
+    </message>
+    <message>
+        <source>The print server has no printer to print to.</source>
+        <translation>プリントサーバーには、印刷できるプリンターがありません。</translation>
+    </message>
+</context>
+<context>
     <name>PrinterPopUp</name>
     <message>
         <source>No printer</source>
@@ -1015,12 +1103,483 @@
         <translation>ほかのプリンターを一覧できません</translation>
     </message>
     <message>
+        <source>No longer on the print server</source>
+        <translation>プリントサーバーからなくなりました</translation>
+    </message>
+</context>
+<context>
+    <name>PrinterReasons</name>
+    <message>
+        <source>An alert is over</source>
+        <translation>警告は解除されました</translation>
+    </message>
+    <message>
+        <source>Connecting</source>
+        <translation>接続しています</translation>
+    </message>
+    <message>
+        <source>The cover is open</source>
+        <translation>カバーが開いています</translation>
+    </message>
+    <message>
+        <source>A filter of the server is not safe to run</source>
+        <translation>サーバーのフィルターが安全に実行できません</translation>
+    </message>
+    <message>
+        <source>A filter is missing on the server</source>
+        <translation>サーバーにフィルターがありません</translation>
+    </message>
+    <message>
+        <source>Waiting for the end of a job</source>
+        <translation>ジョブの終了を待っています</translation>
+    </message>
+    <message>
+        <source>Deactivated</source>
+        <translation>無効になっています</translation>
+    </message>
+    <message>
+        <source>Deleted</source>
+        <translation>削除されています</translation>
+    </message>
+    <message>
+        <source>The developer is used up</source>
+        <translation>現像剤がなくなりました</translation>
+    </message>
+    <message>
+        <source>The developer is low</source>
+        <translation>現像剤が残りわずかです</translation>
+    </message>
+    <message>
+        <source>A door is open</source>
+        <translation>ドアが開いています</translation>
+    </message>
+    <message>
+        <source>The fuser is too hot</source>
+        <translation>定着器の温度が高すぎます</translation>
+    </message>
+    <message>
+        <source>The fuser is too cold</source>
+        <translation>定着器の温度が低すぎます</translation>
+    </message>
+    <message>
+        <source>Hibernating</source>
+        <translation>休止しています</translation>
+    </message>
+    <message>
+        <source>New jobs are held</source>
+        <translation>新しいジョブは保留されます</translation>
+    </message>
+    <message>
+        <source>Making itself known</source>
+        <translation>プリンターの場所を知らせています</translation>
+    </message>
+    <message>
+        <source>A paper tray is missing</source>
+        <translation>給紙トレイがありません</translation>
+    </message>
+    <message>
+        <source>An interlock is open</source>
+        <translation>インターロックが開いています</translation>
+    </message>
+    <message>
+        <source>A font or form is missing</source>
+        <translation>フォントまたはフォームがありません</translation>
+    </message>
+    <message>
+        <source>Ink or toner is used up</source>
+        <translation>インクまたはトナーがなくなりました</translation>
+    </message>
+    <message>
+        <source>Ink or toner is low</source>
+        <translation>インクまたはトナーが残りわずかです</translation>
+    </message>
+    <message>
+        <source>An ink or toner cartridge is missing</source>
+        <translation>インクまたはトナーのカートリッジがありません</translation>
+    </message>
+    <message>
+        <source>The waste container is almost full</source>
+        <translation>廃インク・廃トナー容器がまもなくいっぱいです</translation>
+    </message>
+    <message>
+        <source>The waste container is full</source>
+        <translation>廃インク・廃トナー容器がいっぱいです</translation>
+    </message>
+    <message>
+        <source>Out of paper</source>
+        <translation>用紙がありません</translation>
+    </message>
+    <message>
+        <source>Paper jam</source>
+        <translation>紙づまりです</translation>
+    </message>
+    <message>
+        <source>Paper is low</source>
+        <translation>用紙が残りわずかです</translation>
+    </message>
+    <message>
+        <source>Waiting for paper</source>
+        <translation>用紙を待っています</translation>
+    </message>
+    <message>
+        <source>Being stopped</source>
+        <translation>停止しようとしています</translation>
+    </message>
+    <message>
+        <source>Not connected or switched off</source>
+        <translation>接続されていないか、電源が切れています</translation>
+    </message>
+    <message>
+        <source>The drum is worn out</source>
+        <translation>ドラムの寿命です</translation>
+    </message>
+    <message>
+        <source>The drum is nearly worn out</source>
+        <translation>ドラムの寿命が近づいています</translation>
+    </message>
+    <message>
+        <source>Something is wrong</source>
+        <translation>問題が起きています</translation>
+    </message>
+    <message>
+        <source>The output tray is almost full</source>
+        <translation>排紙トレイがまもなくいっぱいです</translation>
+    </message>
+    <message>
+        <source>The output tray is full</source>
+        <translation>排紙トレイがいっぱいです</translation>
+    </message>
+    <message>
+        <source>The output tray is missing</source>
+        <translation>排紙トレイがありません</translation>
+    </message>
+    <message>
+        <source>Stopped</source>
+        <translation>停止中</translation>
+    </message>
+    <message>
+        <source>Starting again</source>
+        <translation>再開しています</translation>
+    </message>
+    <message>
+        <source>Switched off</source>
+        <translation>電源が切れています</translation>
+    </message>
+    <message>
+        <source>The server has no room for jobs</source>
+        <translation>サーバーにジョブを置く空きがありません</translation>
+    </message>
+    <message>
+        <source>On standby</source>
+        <translation>スタンバイ中です</translation>
+    </message>
+    <message>
+        <source>Stopped in part</source>
+        <translation>一部が停止しています</translation>
+    </message>
+    <message>
+        <source>Suspended</source>
+        <translation>一時停止しています</translation>
+    </message>
+    <message>
+        <source>Testing itself</source>
+        <translation>自己診断をしています</translation>
+    </message>
+    <message>
+        <source>The printer does not answer</source>
+        <translation>プリンターが応答しません</translation>
+    </message>
+    <message>
+        <source>Toner is used up</source>
+        <translation>トナーがなくなりました</translation>
+    </message>
+    <message>
+        <source>Toner is low</source>
+        <translation>トナーが残りわずかです</translation>
+    </message>
+    <message>
+        <source>The state is not known</source>
+        <translation>状態が分かりません</translation>
+    </message>
+    <message>
+        <source>Waiting for fonts</source>
+        <translation>フォントを待っています</translation>
+    </message>
+    <message>
+        <source>Bander: %1</source>
+        <translation>帯掛け機: %1</translation>
+    </message>
+    <message>
+        <source>Binder: %1</source>
+        <translation>製本機: %1</translation>
+    </message>
+    <message>
+        <source>Cleaner: %1</source>
+        <translation>クリーナー: %1</translation>
+    </message>
+    <message>
+        <source>Configuration: %1</source>
+        <translation>構成: %1</translation>
+    </message>
+    <message>
+        <source>Die cutter: %1</source>
+        <translation>型抜き機: %1</translation>
+    </message>
+    <message>
+        <source>Folder: %1</source>
+        <translation>紙折り機: %1</translation>
+    </message>
+    <message>
+        <source>Imprinter: %1</source>
+        <translation>インプリンター: %1</translation>
+    </message>
+    <message>
+        <source>Paper feed: %1</source>
+        <translation>給紙部: %1</translation>
+    </message>
+    <message>
+        <source>Inserter: %1</source>
+        <translation>インサーター: %1</translation>
+    </message>
+    <message>
+        <source>Interpreter: %1</source>
+        <translation>インタープリター: %1</translation>
+    </message>
+    <message>
+        <source>Envelope maker: %1</source>
+        <translation>封筒作成機: %1</translation>
+    </message>
+    <message>
+        <source>Print head: %1</source>
+        <translation>印字部: %1</translation>
+    </message>
+    <message>
+        <source>Paper path: %1</source>
+        <translation>用紙経路: %1</translation>
+    </message>
+    <message>
+        <source>Output tray: %1</source>
+        <translation>排紙トレイ: %1</translation>
+    </message>
+    <message>
+        <source>Perforator: %1</source>
+        <translation>ミシン目加工機: %1</translation>
+    </message>
+    <message>
+        <source>Power: %1</source>
+        <translation>電源: %1</translation>
+    </message>
+    <message>
+        <source>Hole punch: %1</source>
+        <translation>パンチ: %1</translation>
+    </message>
+    <message>
+        <source>Cutter: %1</source>
+        <translation>カッター: %1</translation>
+    </message>
+    <message>
+        <source>Sheet rotator: %1</source>
+        <translation>用紙回転部: %1</translation>
+    </message>
+    <message>
+        <source>Slitter: %1</source>
+        <translation>スリッター: %1</translation>
+    </message>
+    <message>
+        <source>Stacker: %1</source>
+        <translation>スタッカー: %1</translation>
+    </message>
+    <message>
+        <source>Stapler: %1</source>
+        <translation>ステープラー: %1</translation>
+    </message>
+    <message>
+        <source>Stitcher: %1</source>
+        <translation>中綴じ機: %1</translation>
+    </message>
+    <message>
+        <source>A part: %1</source>
+        <translation>部品: %1</translation>
+    </message>
+    <message>
+        <source>Trimmer: %1</source>
+        <translation>断裁機: %1</translation>
+    </message>
+    <message>
+        <source>Wrapper: %1</source>
+        <translation>包装機: %1</translation>
+    </message>
+    <message>
+        <source>added</source>
+        <translation>取り付けられました</translation>
+    </message>
+    <message>
+        <source>almost empty</source>
+        <translation>まもなく空です</translation>
+    </message>
+    <message>
+        <source>almost full</source>
+        <translation>まもなくいっぱいです</translation>
+    </message>
+    <message>
+        <source>at its limit</source>
+        <translation>限界に達しました</translation>
+    </message>
+    <message>
+        <source>changed</source>
+        <translation>変更されました</translation>
+    </message>
+    <message>
+        <source>closed</source>
+        <translation>閉じられました</translation>
+    </message>
+    <message>
+        <source>set up anew</source>
+        <translation>構成が変わりました</translation>
+    </message>
+    <message>
+        <source>cover closed</source>
+        <translation>カバーが閉じられました</translation>
+    </message>
+    <message>
+        <source>cover open</source>
+        <translation>カバーが開いています</translation>
+    </message>
+    <message>
+        <source>empty</source>
+        <translation>空です</translation>
+    </message>
+    <message>
+        <source>full</source>
+        <translation>いっぱいです</translation>
+    </message>
+    <message>
+        <source>interlock closed</source>
+        <translation>インターロックが閉じられました</translation>
+    </message>
+    <message>
+        <source>interlock open</source>
+        <translation>インターロックが開いています</translation>
+    </message>
+    <message>
+        <source>jammed</source>
+        <translation>つまりました</translation>
+    </message>
+    <message>
+        <source>nearly worn out</source>
+        <translation>寿命が近づいています</translation>
+    </message>
+    <message>
+        <source>worn out</source>
+        <translation>寿命です</translation>
+    </message>
+    <message>
+        <source>out of memory</source>
+        <translation>メモリーが足りません</translation>
+    </message>
+    <message>
+        <source>missing</source>
+        <translation>ありません</translation>
+    </message>
+    <message>
+        <source>motor failed</source>
+        <translation>モーターの故障です</translation>
+    </message>
+    <message>
+        <source>near its limit</source>
+        <translation>限界に近づいています</translation>
+    </message>
+    <message>
+        <source>offline</source>
+        <translation>オフラインです</translation>
+    </message>
+    <message>
+        <source>opened</source>
+        <translation>開かれました</translation>
+    </message>
+    <message>
+        <source>too hot</source>
+        <translation>温度が高すぎます</translation>
+    </message>
+    <message>
+        <source>saving power</source>
+        <translation>節電中です</translation>
+    </message>
+    <message>
+        <source>failed for the moment</source>
+        <translation>一時的な故障です</translation>
+    </message>
+    <message>
+        <source>storage is short</source>
+        <translation>記憶領域が不足しています</translation>
+    </message>
+    <message>
+        <source>removed</source>
+        <translation>取り外されました</translation>
+    </message>
+    <message>
+        <source>resource added</source>
+        <translation>リソースが追加されました</translation>
+    </message>
+    <message>
+        <source>resource removed</source>
+        <translation>リソースが取り除かれました</translation>
+    </message>
+    <message>
+        <source>thermistor failed</source>
+        <translation>サーミスターの故障です</translation>
+    </message>
+    <message>
+        <source>timing failed</source>
+        <translation>タイミングの異常です</translation>
+    </message>
+    <message>
+        <source>switched off</source>
+        <translation>電源が切られました</translation>
+    </message>
+    <message>
+        <source>switched on</source>
+        <translation>電源が入りました</translation>
+    </message>
+    <message>
+        <source>too cold</source>
+        <translation>温度が低すぎます</translation>
+    </message>
+    <message>
+        <source>failed</source>
+        <translation>故障です</translation>
+    </message>
+    <message>
+        <source>storage failed</source>
+        <translation>記憶領域の故障です</translation>
+    </message>
+    <message>
+        <source>warming up</source>
+        <translation>ウォームアップ中です</translation>
+    </message>
+    <message>
+        <source>Warning: %1</source>
+        <translation>警告: %1</translation>
+    </message>
+    <message>
+        <source>Error: %1</source>
+        <translation>エラー: %1</translation>
+    </message>
+    <message>
         <source>Takes no jobs at present</source>
         <translation>現在ジョブを受け付けていません</translation>
     </message>
     <message>
         <source>Stopped: jobs wait</source>
         <translation>停止中: ジョブは待機します</translation>
+    </message>
+    <message>
+        <source>Printing</source>
+        <translation>印刷中</translation>
+    </message>
+    <message>
+        <source>Ready</source>
+        <translation>準備完了</translation>
     </message>
 </context>
 <context>
@@ -1092,6 +1651,17 @@
     <message>
         <source>The job in %1 can be looked at but not sent: it sets %2, which no saved job may. Remove that from the settings saved for the queue.</source>
         <translation>%1 のジョブは内容を確認できますが、送信はできません。保存されたジョブでは設定できない %2 が含まれています。キューに保存した設定から削除してください。</translation>
+    </message>
+</context>
+<context>
+    <name>SearchList</name>
+    <message>
+        <source>Search</source>
+        <translation>検索</translation>
+    </message>
+    <message>
+        <source>What was found</source>
+        <translation>検索結果</translation>
     </message>
 </context>
 <context>

@@ -320,6 +320,10 @@ INSTANTIATE_TEST_SUITE_P(
               3,
               "VKBrightness=3 cannot be chosen while the other settings are as they are: "
               "Brightness is 0."},
+        Fault{"PaperThatIsNotForBothSides",
+              {u"-o"_s, u"Duplex=DuplexNoTumble"_s, u"--paper"_s, u"A4.Fullbleed"_s},
+              3,
+              "The printer cannot print on both sides of this paper: A4 (Borderless)."},
         Fault{"BadCopies", {u"-o"_s, u"copies=0"_s}, 2, "0 is no value for copies."},
         Fault{"UnknownQueue",
               {u"--ppd"_s, u"/nonexistent.ppd"_s},

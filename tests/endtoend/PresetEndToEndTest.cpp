@@ -139,12 +139,12 @@ protected:
     QStringList printedByDialog(const QString &preset)
     {
         const auto controller = open(preset);
-        const Result<JobRequest> job = controller->finish();
+        const Result<FinishedJob> job = controller->finish();
         EXPECT_TRUE(job) << job.sentence().toStdString();
         if (!job)
             return {};
         std::optional<Result<JobReceipt>> sent;
-        controller->send(*job, [&](const Result<JobReceipt> &one) { sent = one; });
+        controller->send(job->request, [&](const Result<JobReceipt> &one) { sent = one; });
         EXPECT_TRUE(QTest::qWaitFor([&] { return sent.has_value(); }, kTimeout));
         EXPECT_TRUE(*sent) << sent->sentence().toStdString();
         return notedOptions();

@@ -30,7 +30,7 @@ QByteArray operationOf(const QByteArray &body)
 
 } // namespace
 
-ScriptedServer::ScriptedServer(Script script)
+ScriptedServer::ScriptedServer(Script script, int port)
     : m_listener(socket(AF_INET, SOCK_STREAM | SOCK_CLOEXEC, 0)),
       m_stop(eventfd(0, EFD_CLOEXEC)),
       m_script(std::move(script))
@@ -38,6 +38,7 @@ ScriptedServer::ScriptedServer(Script script)
     sockaddr_in address{};
     address.sin_family = AF_INET;
     address.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
+    address.sin_port = htons(static_cast<in_port_t>(port));
     socklen_t length = sizeof address;
     auto *generic = reinterpret_cast<sockaddr *>(&address);
     if (bind(m_listener, generic, length) == 0 && listen(m_listener, SOMAXCONN) == 0 &&

@@ -28,7 +28,8 @@ using Script = QList<Rule>;
 class ScriptedServer
 {
 public:
-    explicit ScriptedServer(Script script = {});
+    /// With a port that is not 0, on that one.
+    explicit ScriptedServer(Script script = {}, int port = 0);
     ~ScriptedServer();
 
     /// "127.0.0.1:PORT", as velkaro-print -h takes it.

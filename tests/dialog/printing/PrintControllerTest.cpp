@@ -74,9 +74,9 @@ TEST_F(Controller, GoesTheWholeRoadToAFile)
     ASSERT_TRUE(found) << found.sentence().toStdString();
     EXPECT_EQ(found->shortcomings, QList<Fault>());
     EXPECT_EQ(controller().makeRequestedSettings().sentence(), QString());
-    const Result<JobRequest> job = controller().finish();
+    const Result<FinishedJob> job = controller().finish();
     ASSERT_TRUE(job) << job.sentence().toStdString();
-    const Result<QStringList> written = write(*job);
+    const Result<QStringList> written = write(job->request);
     ASSERT_TRUE(written) << written.sentence().toStdString();
     EXPECT_EQ(*written, QStringList());
     EXPECT_EQ(readFile(m_wishes.output), "Velkaro-Print-Job: 1\nTitle: letter.ps\n"
@@ -102,7 +102,7 @@ TEST_F(Controller, StopsAtASavedJobAmongTheDocuments)
     writeFile(saved, "Velkaro-Print-Job: 1\n\n");
     m_wishes.files += saved;
     ASSERT_TRUE(find());
-    const Result<JobRequest> job = controller().finish();
+    const Result<FinishedJob> job = controller().finish();
     EXPECT_EQ(job.faultKind(), FaultKind::Request);
     EXPECT_EQ(job.sentence(), saved + u" is a saved job: it is sent with --no-dialog, and with no "
                                       "other document beside it."_s);
@@ -113,7 +113,7 @@ TEST_F(Controller, StopsAtAPanelsVeto)
     m_wishes.choices = {{u"Weight"_s, u"Heavy"_s}};
     ASSERT_TRUE(find());
     ASSERT_TRUE(controller().makeRequestedSettings());
-    const Result<JobRequest> job = controller().finish();
+    const Result<FinishedJob> job = controller().finish();
     EXPECT_EQ(job.faultKind(), FaultKind::Vetoed);
     EXPECT_EQ(job.sentence(), u"The printer's settings do not allow this job."_s);
 }
@@ -166,10 +166,10 @@ TEST_F(Controller, ClosesAPrinterBeforeItOpensAnother)
 TEST_F(Controller, NotesAJobThatCannotBeSentFromItsFile)
 {
     ASSERT_TRUE(find());
-    Result<JobRequest> job = controller().finish();
+    Result<FinishedJob> job = controller().finish();
     ASSERT_TRUE(job);
-    job->options += JobOption{u"raw"_s, u"true"_s};
-    const Result<QStringList> written = write(*job);
+    job->request.options += JobOption{u"raw"_s, u"true"_s};
+    const Result<QStringList> written = write(job->request);
     ASSERT_TRUE(written);
     ASSERT_EQ(written->size(), 1);
     EXPECT_TRUE(written->first().contains(u"it sets raw"_s)) << written->first().toStdString();
@@ -180,7 +180,7 @@ TEST_F(Controller, WritesNothingOverWhatItReads)
     m_wishes.force = true;
     m_wishes.output = m_wishes.ppd;
     ASSERT_TRUE(find());
-    const Result<QStringList> written = write(*controller().finish());
+    const Result<QStringList> written = write(controller().finish()->request);
     EXPECT_EQ(written.faultKind(), FaultKind::Output);
     EXPECT_EQ(written.sentence(),
               u"Nothing is written over %1: it is in use for this."_s.arg(m_wishes.ppd));

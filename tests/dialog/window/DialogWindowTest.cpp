@@ -230,7 +230,7 @@ TEST_F(Window, TellsOfASettingOfTheCommandLineThatCannotBeMade)
     EXPECT_EQ(marked(u"VKMediaType"_s), u"Glossy"_s);
     EXPECT_EQ(notice(), u"The printer has no setting NoSuch."_s);
     EXPECT_EQ(m_window->notice().kind(), NoticeBar::Kind::Warning);
-    pick("mediaTypePopup", u"Plain"_s);
+    pick("resolutionPopup", u"Fast"_s);
     EXPECT_EQ(notice(), QString());
 }
 
@@ -241,7 +241,7 @@ TEST_F(Window, SummarizesTheWholeJob)
     const QString all = summary().join(u'|');
     EXPECT_TRUE(all.startsWith(u"Page Setup|Paper|A4|Orientation|Portrait|Copies|3|Pages|All|"
                                "Two-Sided Printing|Off|Output|Printer|"
-                               "Color Matching|By the Printer|Print Settings|"_s))
+                               "Color Management|By the Printer|Print Settings|"_s))
         << all.toStdString();
     EXPECT_TRUE(all.endsWith(u"|Also Sent|Blue|0|Brightness|0|Contrast|0|Green|0|Red|0"_s))
         << all.toStdString();

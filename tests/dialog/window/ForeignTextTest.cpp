@@ -124,7 +124,7 @@ TEST_P(ForeignText, IsPlainInEveryTab)
     ASSERT_EQ(m_window->state(), DialogWindow::State::Ready) << notice().toStdString();
     lookAtAllTabs();
     for (const char *place :
-         {"QLabel documentsLabel", "PopUpButton printerPopup", "PopUpButton paperPopup",
+         {"QLabel documentsLabel", "SearchablePopUp printerPopup", "PopUpButton paperPopup",
           "PopUpButton scalePopup", "PopUpButton DuplexPopup", "PopUpButton VKOutputPopup",
           "QLabel ", // of a row of Page Setup or of the summary
           "CaptionLabel mediaTypeLabel", "PopUpButton mediaTypePopup",
@@ -160,7 +160,7 @@ TEST_P(ForeignText, IsPlainInTheNoticeOfAConflict)
     pick("DuplexPopup", u"DuplexTumble"_s);
     EXPECT_TRUE(notice().contains(u"<img src="_s + opened())) << notice().toStdString();
     look();
-    EXPECT_TRUE(m_walk.seen().contains(u"QLabel noticeLabel"_s));
+    EXPECT_TRUE(m_walk.seen().contains(u"NoticeLabel noticeLabel"_s));
     EXPECT_TRUE(m_walk.seen().contains(u"NoticeBar noticeBar"_s)) << "its accessible name";
 }
 
@@ -217,8 +217,8 @@ TEST_P(ForeignText, IsPlainInTheListOfPrinters)
                               {{u"q<b>A&amp;B"_s, u"<b>"_s}, shown, shown}});
     printers.show();
     look();
-    EXPECT_TRUE(m_walk.seen().contains(u"PopUpButton printerPopup"_s));
-    EXPECT_TRUE(m_walk.seen().contains(u"QLabel printerState"_s));
+    EXPECT_TRUE(m_walk.seen().contains(u"SearchablePopUp printerPopup"_s));
+    EXPECT_TRUE(m_walk.seen().contains(u"CaptionLabel printerState"_s));
 }
 
 // The test itself: what it looks for is seen where it is.

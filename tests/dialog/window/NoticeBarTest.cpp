@@ -1,5 +1,13 @@
 #include "dialog/window/NoticeBar.h"
+#include "dialog/window/NoticeLabel.h"
 #include "dialog/window/NoticeSign.h"
+#include "tests/support/QStringPrinting.h"
+
+#include <QtGui/QHelpEvent>
+#include <QtTest/QTest>
+#include <QtWidgets/QApplication>
+#include <QtWidgets/QPushButton>
+#include <QtWidgets/QToolTip>
 
 #include <gtest/gtest.h>
 
@@ -23,6 +31,63 @@ TEST(NoticeBar, HasASignOfItsOwnForEachKind)
     EXPECT_NE(warning, error);
     EXPECT_NE(error, information);
     EXPECT_EQ(signOf(bar, NoticeBar::Kind::Information), information);
+}
+
+TEST(NoticeBar, HasItsRoomWhetherOrNotThereIsAnythingToTell)
+{
+    NoticeBar bar;
+    bar.resize(500, bar.sizeHint().height());
+    bar.show();
+    const int room = bar.sizeHint().height();
+    const int lines = 2 * bar.fontMetrics().lineSpacing();
+    EXPECT_GE(room, lines);
+    bar.tell(NoticeBar::Kind::Error, QString(5000, u'x'), NoticeBar::Offer::Retry);
+    EXPECT_EQ(bar.sizeHint().height(), room);
+    EXPECT_EQ(bar.minimumSizeHint().height(), room);
+    bar.clear();
+    EXPECT_EQ(bar.sizeHint().height(), room);
+    EXPECT_FALSE(bar.isHidden());
+    EXPECT_EQ(bar.sentence(), QString());
+}
+
+TEST(NoticeBar, ShowsTwoLinesAndTellsTheWholeSentence)
+{
+    NoticeBar bar;
+    bar.resize(400, bar.sizeHint().height());
+    bar.show();
+    const QString sentence = u"The printer does not allow it. "_s.repeated(9).trimmed();
+    bar.tell(NoticeBar::Kind::Warning, sentence);
+    QCoreApplication::processEvents();
+    auto *label = bar.findChild<NoticeLabel *>();
+    const QStringList lines = label->shownLines();
+    ASSERT_EQ(lines.size(), 2);
+    EXPECT_TRUE(sentence.startsWith(lines[0]));
+    EXPECT_TRUE(lines[1].endsWith(u'…'));
+    for (const QString &line : lines)
+        EXPECT_LE(label->fontMetrics().horizontalAdvance(line), label->width());
+    EXPECT_EQ(bar.accessibleName(), sentence);
+    QHelpEvent event(QEvent::ToolTip, QPoint(1, 1), label->mapToGlobal(QPoint(1, 1)));
+    QApplication::sendEvent(label, &event);
+    EXPECT_TRUE(QToolTip::text().contains(u"The printer does not allow it. The printer"_s));
+    bar.tell(NoticeBar::Kind::Warning, u"Short."_s);
+    EXPECT_EQ(label->shownLines(), QStringList{u"Short."_s});
+}
+
+TEST(NoticeBar, OffersToTryAgainWhereThatMayHelp)
+{
+    NoticeBar bar;
+    bar.show();
+    int wanted = 0;
+    QObject::connect(&bar, &NoticeBar::retryWanted, &bar, [&] { ++wanted; });
+    auto *retry = bar.findChild<QPushButton *>(u"retryButton"_s);
+    bar.tell(NoticeBar::Kind::Error, u"Away."_s);
+    EXPECT_FALSE(retry->isVisible());
+    bar.tell(NoticeBar::Kind::Error, u"Away."_s, NoticeBar::Offer::Retry);
+    ASSERT_TRUE(retry->isVisible());
+    QTest::mouseClick(retry, Qt::LeftButton);
+    EXPECT_EQ(wanted, 1);
+    bar.clear();
+    EXPECT_FALSE(retry->isVisible());
 }
 
 TEST(NoticeSign, IsAMarkInACircleOfItsColor)

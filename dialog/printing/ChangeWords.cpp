@@ -1,0 +1,66 @@
+#include "dialog/printing/ChangeWords.h"
+
+#include "dialog/job/Papers.h"
+#include "platform/ppd/PPDText.h"
+#include "platform/toolkit/PlainText.h"
+
+#include <QtCore/QCoreApplication>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+QString titleOf(ppd_file_t *ppd, const QString &keyword)
+{
+    const ppd_option_t *option = findOption(ppd, keyword);
+    return displayText(option ? ppdText(option->text) : keyword);
+}
+
+/// The choice's text; with its name where the PPD has the text twice.
+QString choiceWords(ppd_file_t *ppd, const QString &keyword, const QString &choice)
+{
+    if (const std::optional<PMPaper> custom = parseCustomPaper(choice))
+        return paperText(ppd, *custom);
+    ppd_option_t *option = findOption(ppd, keyword);
+    const ppd_choice_t *found = findChoice(option, choice);
+    if (!found)
+        return displayText(choice);
+    int uses = 0;
+    for (int index = 0; index < option->num_choices; ++index)
+        uses += qstrcmp(option->choices[index].text, found->text) == 0 ? 1 : 0;
+    const QString text = displayText(ppdText(found->text));
+    return uses > 1 ? text + u" ["_s + displayText(choice) + u']' : text;
+}
+
+QString changeWords(ppd_file_t *ppd, const SettingChange &change)
+{
+    const QString title = titleOf(ppd, change.keyword);
+    const QString now = choiceWords(ppd, change.keyword, change.to);
+    if (change.from.isNull())
+        return QCoreApplication::translate("ChangeWords", "%1 is now %2").arg(title, now);
+    return QCoreApplication::translate("ChangeWords", "%1 is now %2 (was %3)")
+        .arg(title, now, choiceWords(ppd, change.keyword, change.from));
+}
+
+} // namespace
+
+QString changeSentence(ppd_file_t *ppd, const QList<SettingChange> &changes)
+{
+    QString words;
+    for (const SettingChange &change : changes) {
+        const QString next = changeWords(ppd, change);
+        words = words.isNull()
+                    ? next
+                    : QCoreApplication::translate("ChangeWords", "%1; %2").arg(words, next);
+    }
+    return words.isNull() ? QString()
+                          : QCoreApplication::translate("ChangeWords", "%1.").arg(words);
+}
+
+QString replacementSentence(ppd_file_t *ppd, const SettingChange &change)
+{
+    return QCoreApplication::translate("ChangeWords",
+                                       "%1: \"%2\" would be printed in place of \"%3\".")
+        .arg(titleOf(ppd, change.keyword), choiceWords(ppd, change.keyword, change.to),
+             choiceWords(ppd, change.keyword, change.from));
+}

@@ -1,0 +1,98 @@
+#include "dialog/printing/JobDoubts.h"
+
+#include "dialog/host/HostSession.h"
+#include "dialog/job/Conflicts.h"
+#include "dialog/job/Papers.h"
+#include "dialog/printing/ChangeWords.h"
+#include "dialog/printing/PrintJob.h"
+#include "platform/ppd/PPDText.h"
+#include "platform/toolkit/PlainText.h"
+
+#include <QtCore/QCoreApplication>
+
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// The paper in the printer, by the name that a plug-in reads.
+QString sheetOf(const PrintJob &job)
+{
+    const QString mapped = job.mappedPaper();
+    return mapped.isEmpty() ? job.paper().value_or(PMPaper()).name : mapped;
+}
+
+QString sheetText(const PrintJob &job)
+{
+    const std::optional<PMPaper> mapped = paperOfChoice(job.ppd(), job.mappedPaper());
+    return displayText(paperText(job.ppd(), mapped ? *mapped : job.paper().value_or(PMPaper())));
+}
+
+/// As PPDs name the choices: DuplexNoTumble, DuplexTumble; None and SimplexTumble are one-sided.
+bool isTwoSided(const PrintJob &job)
+{
+    return markedChoice(job.ppd(), u"Duplex"_s).startsWith("Duplex"_L1, Qt::CaseInsensitive);
+}
+
+/// Null when the paper may be printed on both sides, or is not to be.
+QString oneSidedPaper(const PrintJob &job)
+{
+    const auto papers = job.session()->twoSidedPapers();
+    if (!papers || !isTwoSided(job) || sheetOf(job).isNull() || papers->contains(sheetOf(job)))
+        return {};
+    return QCoreApplication::translate("JobDoubts",
+                                       "The printer cannot print on both sides of this paper: %1.")
+        .arg(sheetText(job));
+}
+
+bool wasMadeOrShown(const PrintJob &job, const SettingState &before, const SettingChange &change)
+{
+    return !job.session()->defaultMarks().contains(PPDMark{change.keyword, change.from}) ||
+           before.shown.contains(PPDMark{change.keyword, change.from});
+}
+
+} // namespace
+
+QStringList doubtsOf(const PrintJob &job)
+{
+    QStringList doubts;
+    if (!job.session())
+        return doubts;
+    const auto unlike = unlikeShown(settingState(job), job.session()->choiceForms());
+    for (const SettingChange &change : unlike)
+        doubts += replacementSentence(job.ppd(), change);
+    if (const QString paper = oneSidedPaper(job); !paper.isNull())
+        doubts += paper;
+    return doubts;
+}
+
+QStringList replacedBySaving(const PrintJob &job, const SettingState &before)
+{
+    QStringList replaced;
+    if (!job.session())
+        return replaced;
+    const auto changes =
+        changesBetween(before.marks, settingState(job).marks, job.session()->choiceForms());
+    for (const SettingChange &change : changes)
+        if (wasMadeOrShown(job, before, change))
+            replaced += replacementSentence(job.ppd(), change);
+    return replaced;
+}
+
+QStringList adviceFor(const PrintJob &job)
+{
+    QStringList sentences;
+    if (!job.session())
+        return sentences;
+    const QList<PaperAdvice> all = job.session()->paperAdvice();
+    for (const PaperAdvice &advice : all) {
+        const bool isKnown = findChoice(findOption(job.ppd(), advice.keyword), advice.choice);
+        if (isKnown && advice.isFor(sheetOf(job)) &&
+            !isSameName(markedChoice(job.ppd(), advice.keyword), advice.choice))
+            sentences +=
+                QCoreApplication::translate("JobDoubts", "For %1 there is \"%2\".")
+                    .arg(sheetText(job), choiceText(job.ppd(), advice.keyword, advice.choice));
+    }
+    return sentences;
+}

@@ -1,0 +1,19 @@
+#pragma once
+
+#include "dialog/printing/SettingState.h"
+
+#include <QtCore/QStringList>
+
+class PrintJob;
+
+/// What a person should know of a job before it leaves, one sentence each: what would be printed
+/// otherwise than it is shown, and a paper that the printer does not take for printing on both
+/// sides.
+QStringList doubtsOf(const PrintJob &job);
+
+/// What saving the panels has put in the place of choices that somebody made, or that were shown:
+/// `before` is the state before it.
+QStringList replacedBySaving(const PrintJob &job, const SettingState &before);
+
+/// What the plug-in advises for the job's paper, one sentence each.
+QStringList adviceFor(const PrintJob &job);

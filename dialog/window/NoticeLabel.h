@@ -1,0 +1,23 @@
+#pragma once
+
+#include <QtWidgets/QLabel>
+
+/// A label with the room of two lines, for plain text. What does not fit ends in an ellipsis and is
+/// whole in the tool tip.
+class NoticeLabel : public QLabel
+{
+    Q_OBJECT
+
+public:
+    explicit NoticeLabel(QWidget *parent = nullptr);
+
+    QSize sizeHint() const override;
+    QSize minimumSizeHint() const override;
+
+    /// The lines as they are shown.
+    QStringList shownLines() const;
+
+protected:
+    bool event(QEvent *event) override;
+    void paintEvent(QPaintEvent *event) override;
+};
