@@ -188,8 +188,7 @@ TEST_F(Presets, HaveNamesThatLpFinds)
 
 TEST_F(Presets, OfAPrinterThatHasChangedSayWhatIsGone)
 {
-    m_lpoptions.writeUser(
-        "Dest photo/old VKMediaType=Papyrus VKGone=Yes VKResolution=Best number-up=2\n");
+    m_lpoptions.writeUser("Dest photo/old VKMediaType=Papyrus VKGone=Yes number-up=2\n");
     m_line.instance = u"old"_s;
     open();
     EXPECT_EQ(notice(), u"The printer does not have some of the settings that are saved for old: "
