@@ -142,7 +142,9 @@ JobOptions PrintJob::options() const
     values.format = format();
     if (const HostSession *open = session()) {
         values.ppd = open->ppd();
-        values.defaultMarks = open->defaultMarks();
+        // A queue has defaults of its own, which a file that was named instead knows nothing of.
+        if (m_source.ppdPath.isNull())
+            values.defaultMarks = open->defaultMarks();
         values.ticket = open->ticket();
     }
     return jobOptions(values);

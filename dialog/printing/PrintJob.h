@@ -63,7 +63,8 @@ public:
     /// watched. Those that the PPD has.
     QStringList ownKeywords() const;
 
-    /// The job as it would be sent now.
+    /// The job as it would be sent now. Where the PPD is not the queue's own, all that is marked
+    /// goes with it, defaults as well: it may be sent to a queue with other ones.
     JobOptions options() const;
     JobRequest request(const QList<JobOption> &options) const;
 

@@ -30,9 +30,9 @@ ExitStatus runDialog(const CommandLine &line)
         return failWith(known.fault());
     if (const Result<> begun = recording.begin(line, window.controller()); !begun)
         return failWith(begun.fault());
+    const EndSignals signals([&window] { window.end(); }); // a server may be asked from here on
     window.start();
     window.show();
-    const EndSignals signals([&window] { window.end(); });
     QApplication::exec();
     window.closePrinter(); // is noted, too
     return recording.finish(window.outcome() ? ExitStatus::Done

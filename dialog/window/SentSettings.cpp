@@ -1,5 +1,6 @@
 #include "dialog/window/SentSettings.h"
 
+#include "dialog/host/HostSession.h"
 #include "dialog/job/FeatureTexts.h"
 #include "dialog/job/Papers.h"
 #include "dialog/job/StandardAttributes.h"
@@ -65,12 +66,21 @@ bool isTold(const PrintJob &job, const JobOption &option, const PanelSummary &pa
                : told.isValid() && told.toString() == option.value;
 }
 
-/// Without the standard attributes that say the same as a choice.
+bool isDefault(const PrintJob &job, const JobOption &option)
+{
+    return job.session() &&
+           job.session()->defaultMarks().contains(PPDMark{option.name, option.value});
+}
+
+/// Without the standard attributes that say the same as a choice, and the printer's defaults, which
+/// a job carries that may go to any queue.
 QList<JobOption> sentOptions(const PrintJob &job)
 {
     QList<JobOption> options = job.options().options;
     const QList<JobOption> doubles = standardAttributesBeside(options);
-    options.removeIf([&](const JobOption &option) { return doubles.contains(option); });
+    options.removeIf([&](const JobOption &option) {
+        return doubles.contains(option) || isDefault(job, option);
+    });
     return options;
 }
 

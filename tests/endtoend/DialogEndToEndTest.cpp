@@ -117,14 +117,14 @@ TEST_F(Dialog, APaperThatIsPickedReachesThePanelsAndTheJob)
 {
     const auto window = open(lineFor(server().address(), u"photo"_s));
     part<QTabWidget>(*window, "parts")->setCurrentIndex(0);
-    pick(*window, "paperPopup", u"A4.Fullbleed"_s);
+    pick(*window, "paperPopup", u"A3.LongGrain"_s);
     pick(*window, "DuplexPopup", u"DuplexTumble"_s);
     click(*window, "landscapeButton");
     QTest::keyClick(window.get(), Qt::Key_Return); // Print is the default button
     waitWhile(*window, DialogWindow::State::Sending);
     ASSERT_EQ(newJobs().size(), 1) << window->notice().sentence().toStdString();
     const QMap<QString, QString> job = server().jobAttributes(u"photo"_s, newJobs()[0]);
-    EXPECT_EQ(job.value(u"PageSize"_s), u"A4.Fullbleed"_s);
+    EXPECT_EQ(job.value(u"PageSize"_s), u"A3.LongGrain"_s);
     EXPECT_EQ(job.value(u"Duplex"_s), u"DuplexTumble"_s);
     EXPECT_EQ(job.value(u"VKMediaType"_s), u"PlainDuplex"_s);
     EXPECT_EQ(job.value(u"orientation-requested"_s), u"4"_s);

@@ -80,7 +80,8 @@ TEST_F(Controller, GoesTheWholeRoadToAFile)
     ASSERT_TRUE(written) << written.sentence().toStdString();
     EXPECT_EQ(*written, QStringList());
     EXPECT_EQ(readFile(m_wishes.output), "Velkaro-Print-Job: 1\nTitle: letter.ps\n"
-                                         "Option: PageSize=A5\nOption: Finish=Shiny\n"
+                                         "Option: PageSize=A5\nOption: Duplex=None\n"
+                                         "Option: Finish=Shiny\nOption: Weight=Light\n"
                                          "Option: copies=3\nDocument: 5 letter.ps\n\n%!PS\n");
 }
 

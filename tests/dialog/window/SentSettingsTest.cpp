@@ -1,3 +1,4 @@
+#include "dialog/host/HostSession.h"
 #include "tests/dialog/window/DialogWindowFixture.h"
 #include "tests/support/PPDSource.h"
 
@@ -28,6 +29,7 @@ protected:
         writeFile(m_line.ppd, sample + added);
         DialogWindowFixture::open();
         ASSERT_EQ(m_window->state(), DialogWindow::State::Ready) << notice().toStdString();
+        m_defaults = m_window->job().session()->defaultMarks();
     }
 
     /// The lines of what no panel tells, "title=value".
@@ -41,7 +43,8 @@ protected:
         return lines;
     }
 
-    /// The options of the job, "name=value", without those of the panels' ticket.
+    /// The options of the job, "name=value", without the printer's defaults and those of the
+    /// panels' ticket.
     QStringList sent()
     {
         print();
@@ -50,8 +53,12 @@ protected:
         for (const QByteArray &line : written().split('\n'))
             if (line.startsWith("Option: ") && !line.contains("com.velkaro."))
                 options += QString::fromUtf8(line.mid(8));
+        for (const PPDMark &mark : m_defaults)
+            options.removeAll(mark.keyword + u'=' + mark.choice);
         return options;
     }
+
+    QList<PPDMark> m_defaults;
 
     const QStringList m_enhancement{u"Blue=0"_s, u"Brightness=0"_s, u"Contrast=0"_s, u"Green=0"_s,
                                     u"Red=0"_s};

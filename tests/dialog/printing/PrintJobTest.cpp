@@ -1,0 +1,49 @@
+#include "dialog/printing/PrintJob.h"
+
+#include "tests/support/Files.h"
+#include "tests/support/QStringPrinting.h"
+#include "tests/support/SmallPrinter.h"
+
+#include <QtCore/QTemporaryDir>
+
+#include <gtest/gtest.h>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// A job for the small printer, whose panels nobody knows.
+class SmallJob : public testing::Test
+{
+protected:
+    QStringList optionsFor(const PrinterSource &source)
+    {
+        SessionOptions options;
+        options.ppdPath = m_folder.filePath(u"the.ppd"_s);
+        options.bundlePath = u"/nowhere.bundle"_s;
+        writeFile(options.ppdPath, smallPrinter().text());
+        m_job.setPrinter(
+            source, openPrinter(options, *openPPD(options.ppdPath), {{u"Finish"_s, u"Shiny"_s}}));
+        QStringList lines;
+        for (const JobOption &option : m_job.options().options)
+            lines += option.name + u'=' + option.value;
+        return lines;
+    }
+
+    QTemporaryDir m_folder;
+    PrintJob m_job;
+};
+
+TEST_F(SmallJob, CarriesWhatDiffersFromTheDefaultsOfItsQueue)
+{
+    EXPECT_EQ(optionsFor({{}, {u"photo"_s, {}}, {}}), QStringList{u"Finish=Shiny"_s});
+}
+
+TEST_F(SmallJob, CarriesAllThatIsMarkedWhereThePPDIsNoQueuesOwn)
+{
+    const QStringList all{u"PageSize=A4"_s, u"Duplex=None"_s, u"Finish=Shiny"_s, u"Weight=Light"_s};
+    EXPECT_EQ(optionsFor({{}, {}, u"the.ppd"_s}), all);
+    EXPECT_EQ(optionsFor({{}, {u"photo"_s, {}}, u"the.ppd"_s}), all);
+}
+
+} // namespace
