@@ -175,6 +175,17 @@ QString HostSession::keywordOfTicketKey(const QString &key) const
     return infoValue(kPDETicketKeyKeywordsKey).toMap().value(key).toString();
 }
 
+QStringList HostSession::titledKeywords() const
+{
+    const QVariantMap keywords = m_plugIn.bundle
+                                     ? m_plugIn.bundle->infoValue(kPDETicketKeyKeywordsKey).toMap()
+                                     : QVariantMap();
+    QStringList titled;
+    for (const QVariant &keyword : keywords)
+        titled += keyword.toString();
+    return titled;
+}
+
 std::optional<SliderRange> HostSession::sliderRange() const
 {
     const QVariantList range = infoValue(kPDESliderRangeKey).toList();

@@ -125,12 +125,18 @@ public:
     /// when it says nothing of the key.
     QString keywordOfTicketKey(const QString &key) const;
 
+    /// The PPD keywords that title a value of the ticket: a panel has a control for that.
+    QStringList titledKeywords() const;
+
     /// The numbers that the sliders of the panels take, as the plug-in says; none when it does not.
     std::optional<SliderRange> sliderRange() const;
 
     /// The keys of the ticket under which the plug-in keeps what is folded and unfolded in its
     /// views: nothing that a printer is to do.
     QStringList foldStateKeys() const;
+
+    /// The bundle of the plug-in; null without one.
+    const Bundle *bundle() const { return m_plugIn.bundle.get(); }
 
     /// Which choices are forms of one another, as the plug-in says.
     ChoiceForms choiceForms() const;

@@ -5,10 +5,13 @@
 #include <QtCore/QList>
 #include <QtCore/QString>
 
-/// A choice that is marked.
+/// What is marked of an option.
 struct PPDMark
 {
     QString keyword;
+    /// The choice. Of an option that lets several be chosen, those that are marked, with commas
+    /// between them ("Staple,Punch"); of a value of the user's own the choice that stands for it
+    /// (customChoice()).
     QString choice;
 
     bool operator==(const PPDMark &) const = default;
@@ -19,6 +22,13 @@ struct PPDMark
 /// carries beside `PageSize`.
 QList<PPDMark> marksOf(ppd_file_t *ppd);
 
+/// What is marked of the option, as a PPDMark holds it; null when nothing is.
+QString markedValue(ppd_file_t *ppd, const QString &keyword);
+
+/// The value as it would be held by a PPDMark: spelt as the PPD has it, several in its order. Null
+/// when the option is not there or does not take the value.
+QString normalizedValue(ppd_file_t *ppd, const QString &keyword, const QString &value);
+
 /// Those of the marks that are not among `before`.
 QList<PPDMark> changedMarks(ppd_file_t *ppd, const QList<PPDMark> &before);
 
@@ -27,5 +37,6 @@ QList<PPDMark> changedMarks(ppd_file_t *ppd, const QList<PPDMark> &before);
 /// earlier marks stand and the answer is false.
 bool markChoice(ppd_file_t *ppd, const QString &keyword, const QString &choice);
 
-/// The same, whatever it conflicts with. False without such an option or choice.
+/// The same, whatever it conflicts with, and for all that a PPDMark holds: also several choices,
+/// and values of the user's own within the PPD's limits. False without such an option or choice.
 bool forceChoice(ppd_file_t *ppd, const QString &keyword, const QString &choice);

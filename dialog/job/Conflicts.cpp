@@ -1,11 +1,14 @@
 #include "dialog/job/Conflicts.h"
 
+#include "dialog/job/FeatureTexts.h"
 #include "platform/ppd/PPDText.h"
 #include "platform/toolkit/PlainText.h"
 
 #include <QtCore/QCoreApplication>
 
 #include <cups/cups.h>
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -17,18 +20,19 @@ QString quotedList(const QStringList &texts)
     return quoted.join(QCoreApplication::translate("Conflicts", ", "));
 }
 
-} // namespace
-
-QString choiceText(ppd_file_t *ppd, const QString &keyword, const QString &choice)
+/// The choices of a value that constraints of the PPD may forbid: of several each, and the one that
+/// stands for all values of the user's own. libcups knows "Custom.120" by itself.
+QStringList constrainedChoices(ppd_file_t *ppd, const QString &keyword, const QString &value)
 {
     ppd_option_t *option = findOption(ppd, keyword);
-    const ppd_choice_t *found = findChoice(option, choice);
-    return QCoreApplication::translate("Conflicts", "%1: %2")
-        .arg(displayText(option ? ppdText(option->text) : keyword),
-             displayText(found ? ppdText(found->text) : choice));
+    if (!option || findChoice(option, value))
+        return {value};
+    if (option->ui == PPD_UI_PICKMANY)
+        return value.split(u',');
+    return {value.startsWith(u'{') ? u"Custom"_s : value};
 }
 
-QStringList clashesWith(ppd_file_t *ppd, const QString &keyword, const QString &choice)
+QStringList clashesWithOne(ppd_file_t *ppd, const QString &keyword, const QString &choice)
 {
     cups_option_t *options = nullptr;
     const int count = cupsGetConflicts(ppd, ppdBytes(keyword).constData(),
@@ -41,6 +45,25 @@ QStringList clashesWith(ppd_file_t *ppd, const QString &keyword, const QString &
             clashes += choiceText(ppd, other, ppdName(options[index].value));
     }
     cupsFreeOptions(count, options);
+    return clashes;
+}
+
+} // namespace
+
+QString choiceText(ppd_file_t *ppd, const QString &keyword, const QString &choice)
+{
+    const ppd_option_t *option = findOption(ppd, keyword);
+    return QCoreApplication::translate("Conflicts", "%1: %2")
+        .arg(displayText(option ? ppdText(option->text) : keyword),
+             valueText(ppd, keyword, choice));
+}
+
+QStringList clashesWith(ppd_file_t *ppd, const QString &keyword, const QString &choice)
+{
+    QStringList clashes;
+    for (const QString &one : constrainedChoices(ppd, keyword, choice))
+        clashes += clashesWithOne(ppd, keyword, one);
+    clashes.removeDuplicates();
     return clashes;
 }
 

@@ -8,6 +8,8 @@
 /// "Media Type: Glossy", the way people read a choice; plain text.
 QString choiceText(ppd_file_t *ppd, const QString &keyword, const QString &choice);
 
+/// A choice is what a PPDMark holds: also several, or a value of the user's own.
+
 /// The marked choices that the choice would not go together with, as choiceText() gives them; none
 /// when the PPD's constraints allow it. Marks nothing.
 QStringList clashesWith(ppd_file_t *ppd, const QString &keyword, const QString &choice);

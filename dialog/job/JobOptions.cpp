@@ -41,9 +41,12 @@ bool isValue(const QString &value)
 QList<JobOption> changedChoices(const JobValues &values)
 {
     QList<JobOption> choices;
-    for (const PPDMark &mark : changedMarks(values.ppd, values.defaultMarks))
-        if (!isReservedName(mark.keyword))
+    for (const PPDMark &mark : marksOf(values.ppd)) {
+        const bool isSent = !values.defaultMarks.contains(mark) ||
+                            values.settled.contains(mark.keyword, Qt::CaseInsensitive);
+        if (isSent && !isReservedName(mark.keyword))
             choices += JobOption{mark.keyword, mark.choice};
+    }
     return choices;
 }
 
@@ -99,8 +102,7 @@ void putTicket(QList<JobOption> &options, const QVariantMap &ticket)
 {
     for (auto entry = ticket.cbegin(); entry != ticket.cend(); ++entry) {
         const QString &key = entry.key();
-        if (key == kPMColorMatchingModeKey ||
-            (key.contains(u'.') && !key.startsWith(kPMPlatformKeyPrefix)))
+        if (key == kPMColorMatchingModeKey || isVendorTicketKey(key))
             put(options, {key, ticketText(entry.value())});
     }
 }
@@ -125,6 +127,11 @@ QString fault(const JobOption &option)
 }
 
 } // namespace
+
+bool isVendorTicketKey(const QString &key)
+{
+    return key.contains(u'.') && !key.startsWith(kPMPlatformKeyPrefix);
+}
 
 bool isChoice(ppd_file_t *ppd, const QString &name)
 {

@@ -31,6 +31,9 @@ struct JobValues
     HostSettings settings;
     bool havePages = false; ///< all documents have pages of their own, which know their way up
     QList<JobOption> saved; ///< lpoptions of the queue that are no choices of its PPD
+    /// Keywords that lpoptions name: their choices are sent even where they are the default, as
+    /// every other program sends them.
+    QStringList settled;
 };
 
 /// The options of a job, or why it cannot be sent.
@@ -42,9 +45,9 @@ struct JobOptions
 };
 
 /// The job's options: saved settings that are not the PPD's, the marks that are not there by
-/// default (without those whose keyword is reserved), the dialog's own settings, and every ticket
-/// value under a vendor key. A vendor key is one in reverse-domain form ("com.maker.thing") that is
-/// not the platform's own.
+/// default or that were saved (without those whose keyword is reserved), the dialog's own settings,
+/// and every ticket value under a vendor key. A vendor key is one in reverse-domain form
+/// ("com.maker.thing") that is not the platform's own.
 ///
 /// Every job says how it is to be scaled: the server shrinks the pages of one that does not.
 ///
@@ -52,6 +55,9 @@ struct JobOptions
 /// document is mapped to, where the ticket has one, else that of the page format. Beside it `media`
 /// would win in later versions of CUPS, and borderless paper would print with margins.
 JobOptions jobOptions(const JobValues &values);
+
+/// Whether the key is one of a plug-in's own values of the ticket, which travel with the job.
+bool isVendorTicketKey(const QString &key);
 
 /// Whether the name is that of an option of the PPD (null: none) whose choices may be sent.
 bool isChoice(ppd_file_t *ppd, const QString &name);

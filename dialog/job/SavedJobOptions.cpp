@@ -32,9 +32,13 @@ OptionOrigin originOf(const QString &option)
         kNever, [&](QLatin1String name) { return option.compare(name, Qt::CaseInsensitive) == 0; });
     if (isNever)
         return OptionOrigin::Never;
-    const bool isSetting = std::ranges::find(kSettings, option) != kSettings.end();
     // A name that is neither reserved nor the platform's is a keyword of a PPD or a vendor's key.
     const bool isForeign =
         isReservedName(option) || option.startsWith(kPMPlatformKeyPrefix, Qt::CaseInsensitive);
-    return isSetting || !isForeign ? OptionOrigin::Ours : OptionOrigin::Foreign;
+    return isStandardSetting(option) || !isForeign ? OptionOrigin::Ours : OptionOrigin::Foreign;
+}
+
+bool isStandardSetting(const QString &option)
+{
+    return std::ranges::find(kSettings, option) != kSettings.end();
 }

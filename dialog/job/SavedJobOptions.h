@@ -12,3 +12,6 @@ enum class OptionOrigin {
 /// Ours are the dialog's own settings, what people save with lpoptions (a hold among them), vendor
 /// keys in reverse-domain form, and keywords of PPDs, which may be any name that is not reserved.
 OptionOrigin originOf(const QString &option);
+
+/// Whether the option is one of the dialog's own settings, or what people save with lpoptions.
+bool isStandardSetting(const QString &option);

@@ -1,25 +1,17 @@
 #include "dialog/job/SavedOptions.h"
 
+#include "platform/toolkit/PlainText.h"
+
+#include <QtCore/QCoreApplication>
 #include <QtCore/QFile>
 #include <QtCore/QFileInfo>
-#include <QtCore/QStringList>
 
 #include <cups/cups.h>
 
+#include <algorithm>
 #include <unistd.h>
 
 namespace {
-
-QStringList lpoptionsFiles()
-{
-    const QByteArray folder = qgetenv("CUPS_SERVERROOT");
-    QStringList files{QString::fromLocal8Bit(folder.isEmpty() ? QByteArray("/etc/cups") : folder) +
-                      QStringLiteral("/lpoptions")};
-    const QByteArray home = qgetenv("HOME");
-    if (!home.isEmpty())
-        files += QString::fromLocal8Bit(home) + QStringLiteral("/.cups/lpoptions");
-    return files;
-}
 
 /// The lines of all files, the user's own last.
 QList<SavedLine> savedLines()
@@ -37,6 +29,17 @@ QList<SavedLine> savedLines()
         }
     }
     return lines;
+}
+
+/// As libcups reads a line: a # begins a comment, unless a backslash stands before it.
+QByteArray withoutComment(QByteArray line)
+{
+    for (qsizetype at = line.indexOf('#'); at >= 0; at = line.indexOf('#', at)) {
+        if (at == 0 || line[at - 1] != '\\')
+            return line.left(at);
+        line.remove(at - 1, 1);
+    }
+    return line;
 }
 
 void put(QList<JobOption> &options, const QList<JobOption> &added)
@@ -61,6 +64,37 @@ QList<JobOption> parseOptions(const QByteArray &text)
 
 } // namespace
 
+bool isSameQueue(const QueueName &one, const QueueName &other)
+{
+    return one.queue.compare(other.queue, Qt::CaseInsensitive) == 0 &&
+           one.instance.isNull() == other.instance.isNull() &&
+           one.instance.compare(other.instance, Qt::CaseInsensitive) == 0;
+}
+
+QStringList lpoptionsFiles()
+{
+    const QByteArray folder = qgetenv("CUPS_SERVERROOT");
+    QStringList files{QString::fromLocal8Bit(folder.isEmpty() ? QByteArray("/etc/cups") : folder) +
+                      QStringLiteral("/lpoptions")};
+    const QByteArray home = qgetenv("HOME");
+    if (!home.isEmpty())
+        files += QString::fromLocal8Bit(home) + QStringLiteral("/.cups/lpoptions");
+    return files;
+}
+
+Result<> checkInstance(const QueueName &name)
+{
+    const QList<QueueName> known = savedInstances();
+    const bool isKnown =
+        std::ranges::any_of(known, [&](const QueueName &one) { return isSameQueue(one, name); });
+    if (name.instance.isNull() || isKnown)
+        return {};
+    return Fault{FaultKind::Request,
+                 QCoreApplication::translate(
+                     "SavedOptions", "There are no settings saved as \"%1\" for the printer %2.")
+                     .arg(displayText(name.instance), displayText(name.queue))};
+}
+
 QueueName queueName(const QString &text)
 {
     const qsizetype slash = text.indexOf(u'/');
@@ -72,8 +106,9 @@ QString textOf(const QueueName &name)
     return name.instance.isNull() ? name.queue : name.queue + u'/' + name.instance;
 }
 
-SavedLine parseSavedLine(const QByteArray &line)
+SavedLine parseSavedLine(const QByteArray &written)
 {
+    const QByteArray line = withoutComment(written);
     const QByteArray words = line.simplified();
     const qsizetype keywordEnd = words.indexOf(' ');
     const QByteArray keyword = words.left(keywordEnd).toLower();
@@ -91,10 +126,10 @@ QList<JobOption> savedOptions(const QueueName &name)
     const QList<SavedLine> lines = savedLines();
     QList<JobOption> options;
     for (const SavedLine &line : lines)
-        if (line.name == QueueName{name.queue, {}})
+        if (isSameQueue(line.name, {name.queue, {}}))
             put(options, line.options);
     for (const SavedLine &line : lines)
-        if (!name.instance.isNull() && line.name == name)
+        if (!name.instance.isNull() && isSameQueue(line.name, name))
             put(options, line.options);
     return options;
 }
@@ -103,7 +138,9 @@ QList<QueueName> savedInstances()
 {
     QList<QueueName> instances;
     for (const SavedLine &line : savedLines())
-        if (!line.name.instance.isNull() && !instances.contains(line.name))
+        if (!line.name.instance.isNull() &&
+            std::ranges::none_of(instances,
+                                 [&](const QueueName &one) { return isSameQueue(one, line.name); }))
             instances += line.name;
     return instances;
 }

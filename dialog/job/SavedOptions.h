@@ -1,8 +1,10 @@
 #pragma once
 
 #include "dialog/job/JobOption.h"
+#include "dialog/work/Result.h"
 
 #include <QtCore/QString>
+#include <QtCore/QStringList>
 
 /// A queue, or one of the instances that a user has saved settings under.
 struct QueueName
@@ -12,6 +14,12 @@ struct QueueName
 
     bool operator==(const QueueName &) const = default;
 };
+
+/// Whether both are the same to libcups, which reads over the case of letters.
+bool isSameQueue(const QueueName &one, const QueueName &other);
+
+/// The files that libcups reads, those of the user's own last.
+QStringList lpoptionsFiles();
 
 /// The settings that the system and the user have saved with lpoptions for the queue and, above
 /// them, for the instance. Read from the files, without asking a server.
@@ -31,6 +39,10 @@ QueueName savedDefaultQueue();
 /// The queue that the user prints to unless told otherwise, as `lp` does: the environment's, else
 /// the saved default. A null queue: the server decides.
 QueueName usualQueue();
+
+/// A fault when the name has an instance that nobody has saved settings for: libcups would print
+/// without any.
+Result<> checkInstance(const QueueName &name);
 
 /// One line of an lpoptions file, "Dest photo/glossy media=a4 ..." or "Default ...". An empty
 /// queue: the line says nothing.

@@ -1,6 +1,10 @@
 #include "dialog/job/SavedSettings.h"
 
+#include "dialog/host/PPDMarks.h"
 #include "dialog/job/PageRanges.h"
+#include "dialog/job/SavedJobOptions.h"
+#include "platform/ppd/PPDText.h"
+#include "platform/printmanager/PMTicketKeys.h"
 
 #include <cups/cups.h>
 
@@ -20,13 +24,30 @@ constexpr int kFirstLandscape = 4; // orientation-requested: landscape, reverse-
 constexpr int kLastLandscape = 5;
 constexpr int kMostCopies = 999;
 
-void markAll(ppd_file_t *ppd, const QList<JobOption> &saved)
+/// Whether libcups itself may mark the option: it reads over choices that the PPD lacks, but takes
+/// any value of the user's own, and no several choices.
+bool isForCups(ppd_file_t *ppd, const JobOption &option)
+{
+    ppd_option_t *found = findOption(ppd, option.name);
+    return !found || isSameName(option.name, "PageSize"_L1) ||
+           (found->ui != PPD_UI_PICKMANY && findChoice(found, option.value));
+}
+
+void markAll(ppd_file_t *ppd, SavedSettings &settings, const QList<JobOption> &saved)
 {
     cups_option_t *options = nullptr;
     int count = 0;
-    for (const JobOption &option : saved)
+    for (const JobOption &option : saved) {
+        if (findOption(ppd, option.name))
+            settings.settled += option.name;
+        if (!isForCups(ppd, option)) {
+            if (!forceChoice(ppd, option.name, option.value))
+                settings.missing += option;
+            continue;
+        }
         count = cupsAddOption(option.name.toUtf8().constData(), option.value.toUtf8().constData(),
                               count, &options);
+    }
     cupsMarkOptions(ppd, count, options);
     cupsFreeOptions(count, options);
 }
@@ -50,18 +71,40 @@ bool takeSetting(SavedSettings &settings, const JobOption &option)
     return true;
 }
 
+/// True when the option is a value of the ticket. Without panels it is sent as it was saved.
+bool takeTicketValue(SavedSettings &settings, ppd_file_t *ppd, const JobOption &option)
+{
+    const bool isOurs =
+        ppd && (option.name == kPMColorMatchingModeKey || isVendorTicketKey(option.name)) &&
+        !isChoice(ppd, option.name);
+    if (isOurs)
+        settings.ticket.insert(option.name, option.value);
+    return isOurs;
+}
+
+/// Whether it looks like a keyword of a PPD: no attribute that servers, filters or people use.
+bool isForeignKeyword(const JobOption &option)
+{
+    return originOf(option.name) == OptionOrigin::Ours && !isStandardSetting(option.name) &&
+           !isVendorTicketKey(option.name);
+}
+
 } // namespace
 
 SavedSettings applySavedOptions(ppd_file_t *ppd, const QList<JobOption> &saved)
 {
     SavedSettings settings;
     if (ppd)
-        markAll(ppd, saved);
+        markAll(ppd, settings, saved);
     for (const JobOption &option : saved) {
         const bool isMapped =
             ppd && std::ranges::find(kMappedByCups, option.name) != kMappedByCups.end();
-        if (!takeSetting(settings, option) && !isMapped && !isChoice(ppd, option.name))
-            settings.others += option;
+        if (takeSetting(settings, option) || takeTicketValue(settings, ppd, option) || isMapped ||
+            isChoice(ppd, option.name))
+            continue;
+        settings.others += option;
+        if (ppd && isForeignKeyword(option))
+            settings.missing += option;
     }
     return settings;
 }

@@ -5,15 +5,22 @@
 #include "platform/ppd/CupsPPD.h"
 
 #include <QtCore/QList>
+#include <QtCore/QStringList>
+#include <QtCore/QVariant>
 
 /// Saved options (lpoptions) as a dialog takes them over.
 struct SavedSettings
 {
     HostSettings settings;
     PMOrientation orientation = PMOrientation::Portrait;
+    QVariantMap ticket;      ///< values under a plug-in's own keys
     QList<JobOption> others; ///< what is neither the PPD's nor the dialog's: JobValues::saved
+    QStringList settled;     ///< keywords of the PPD that were named: JobValues::settled
+    /// What was meant for another printer, or another state of this one: choices that the PPD does
+    /// not have, and keywords that nobody knows (these are among the others all the same).
+    QList<JobOption> missing;
 };
 
 /// Marks the saved choices in the PPD (null: none), standard attributes such as `media` and `sides`
-/// included as libcups maps them, and gives the rest. Choices that the PPD lacks are passed over.
+/// included as libcups maps them, and gives the rest. Choices that the PPD lacks are not marked.
 SavedSettings applySavedOptions(ppd_file_t *ppd, const QList<JobOption> &saved);

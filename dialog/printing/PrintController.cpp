@@ -12,6 +12,7 @@
 #include "dialog/work/BackgroundCall.h"
 
 #include <QtCore/QCoreApplication>
+#include <QtCore/QTimer>
 
 #include <utility>
 
@@ -99,6 +100,11 @@ Result<PrinterChoice> PrintController::choosePrinter(const QList<Destination> &l
 
 void PrintController::findPrinter(const PrinterSource &source, Then<FoundPrinter> then)
 {
+    if (const Result<> known = checkInstance(source.queue); !known) {
+        m_job.setPrinter(source, {});
+        QTimer::singleShot(0, this, [then = std::move(then), known] { then(known.fault()); });
+        return;
+    }
     begin<FetchedPrinter>(
         m_call, kServerTimeout, [source](CallGuard &guard) { return fetchPrinter(source, guard); },
         [this, source, then = std::move(then)](FetchedPrinter fetched) {
@@ -113,12 +119,16 @@ Result<FoundPrinter> PrintController::takePrinter(const PrinterSource &source,
     m_job.closePrinter(); // two sessions at once would hear of each other
     PrinterSource found = source;
     found.queue = fetched.queue;
+    const QList<JobOption> starting = startingOptions(
+        found, fetched.opened && *fetched.opened ? (*fetched.opened)->ppd.get() : nullptr);
     if (!fetched.opened) {
         m_job.setPrinter(found, {});
         return fetched.opened.fault();
     }
     FoundPrinter printer;
-    m_job.setPrinter(found, open(found, fetched, printer.shortcomings));
+    OpenedPrinter opened = open(fetched, starting, printer.shortcomings);
+    printer.notes = notesOnStart(found, opened.saved.missing);
+    m_job.setPrinter(found, std::move(opened));
     if (m_job.session() && m_job.session()->plugInFault())
         printer.shortcomings += Fault{FaultKind::PlugIn, m_job.session()->plugInFault()->sentence};
     else if (m_job.session() && m_job.session()->hasPlugIn() && m_job.session()->panels().empty())
@@ -130,13 +140,13 @@ Result<FoundPrinter> PrintController::takePrinter(const PrinterSource &source,
     return printer;
 }
 
-OpenedPrinter PrintController::open(const PrinterSource &source, FetchedPrinter &fetched,
+OpenedPrinter PrintController::open(FetchedPrinter &fetched, const QList<JobOption> &starting,
                                     QList<Fault> &shortcomings)
 {
     SessionOptions options;
     options.ppdPath = fetched.ppdPath;
     options.bundlePath = m_wishes.plugIn;
-    return openPrinter(options, *std::move(fetched.opened), savedOptions(source.queue),
+    return openPrinter(options, *std::move(fetched.opened), starting,
                        [this, &shortcomings](HostSession &session) {
                            session.addObserver(&m_unsaved);
                            for (const SessionHook &hook : std::as_const(m_hooks))

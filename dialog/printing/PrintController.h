@@ -23,6 +23,8 @@ struct FoundPrinter
     /// What a person should know of it although it prints: that the session cannot be noted, that
     /// the plug-in cannot be used. A command that nobody watches stops at the first.
     QList<Fault> shortcomings;
+    /// What is to be told of the settings that it starts from, a sentence each.
+    QStringList notes;
 };
 
 /// A job as it is to go out.
@@ -120,7 +122,7 @@ private:
                std::function<Value(CallGuard &)> work, std::function<void(Value)> take,
                std::function<Value()> givenUp = {});
     Result<FoundPrinter> takePrinter(const PrinterSource &source, FetchedPrinter &fetched);
-    OpenedPrinter open(const PrinterSource &source, FetchedPrinter &fetched,
+    OpenedPrinter open(FetchedPrinter &fetched, const QList<JobOption> &starting,
                        QList<Fault> &shortcomings);
 
     const PrintWishes m_wishes;

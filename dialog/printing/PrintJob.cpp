@@ -37,6 +37,7 @@ void PrintJob::setPrinter(const PrinterSource &source, OpenedPrinter printer)
     else
         m_printer = PMPageFormat{{}, printer.saved.orientation};
     m_saved = printer.saved.others;
+    m_settled = printer.saved.settled;
     if (m_settings == m_savedSettings)
         m_settings = printer.saved.settings;
     m_savedSettings = printer.saved.settings;
@@ -161,6 +162,7 @@ JobOptions PrintJob::options() const
     JobValues values;
     values.settings = m_settings;
     values.saved = m_saved;
+    values.settled = m_settled;
     values.format = format();
     values.havePages = !m_kinds.empty() && m_kinds.count(DocumentKind::Pages) == m_kinds.size();
     if (const HostSession *open = session()) {

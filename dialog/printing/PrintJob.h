@@ -95,6 +95,7 @@ private:
     HostSettings m_settings;
     HostSettings m_savedSettings; // to tell whether the user has settled anything since
     QList<JobOption> m_saved;
+    QStringList m_settled; ///< JobValues::settled
     /// The panels' session, which has the page format, or that format alone.
     std::variant<PMPageFormat, std::unique_ptr<HostSession>> m_printer;
 };

@@ -31,7 +31,7 @@ constexpr std::array kReasons{
                                                  "takes jobs, and none is the default.")},
 };
 
-bool isSameQueue(const QueueName &one, const QueueName &other)
+bool hasSameQueue(const QueueName &one, const QueueName &other)
 {
     return one.queue.compare(other.queue, Qt::CaseInsensitive) == 0;
 }
@@ -41,7 +41,7 @@ std::optional<QueueName> listedName(const QList<Destination> &listed, const Queu
 {
     std::optional<QueueName> queue;
     for (const Destination &one : listed) {
-        if (!isSameQueue(one.name, wanted))
+        if (!hasSameQueue(one.name, wanted))
             continue;
         if (one.name.instance == wanted.instance)
             return one.name;

@@ -4,12 +4,21 @@
 #include "dialog/cups/ServerConnection.h"
 #include "dialog/host/HostPaper.h"
 #include "dialog/host/PPDSentence.h"
+#include "dialog/job/PPDPresets.h"
+#include "dialog/printing/LastUsed.h"
+#include "dialog/printing/Presets.h"
+#include "platform/toolkit/PlainText.h"
 
 #include <QtCore/QCoreApplication>
 
+#include <algorithm>
 #include <utility>
 
+using namespace Qt::StringLiterals;
+
 namespace {
+
+constexpr qsizetype kMostNamed = 3; // in one sentence
 
 using MaybePPD = Result<std::optional<OpenedPPD>>;
 
@@ -84,6 +93,49 @@ QueueName wantedQueue(const QString &queue, const QString &instance)
     return queue.isNull() ? usualQueue() : QueueName{queue, instance};
 }
 
+QList<JobOption> startingOptions(PrinterSource &source, ppd_file_t *ppd)
+{
+    using enum StartingSettings::Kind;
+    QList<JobOption> options = savedOptions(source.queue);
+    const QList<JobOption> lastUsed = source.start.kind == LastUsed
+                                          ? lastUsedSettings(source.server, source.queue.queue)
+                                          : QList<JobOption>();
+    if (source.start.kind == LastUsed && (lastUsed.isEmpty() || !source.queue.instance.isNull()))
+        source.start.kind = Saved;
+    if (source.start.kind == Printer)
+        return {};
+    if (source.start.kind == LastUsed) {
+        options.removeIf([](const JobOption &option) { return !isPassing(option.name); });
+        return options + lastUsed;
+    }
+    if (source.start.kind == OfPPD)
+        for (const PPDPreset &preset : presetsOf(ppd))
+            if (preset.name == source.start.name)
+                options += preset.options;
+    return options;
+}
+
+QStringList notesOnStart(const PrinterSource &source, const QList<JobOption> &missing)
+{
+    if (missing.isEmpty())
+        return {};
+    QStringList named;
+    for (const JobOption &option : missing.first(std::min<qsizetype>(missing.size(), kMostNamed)))
+        named += displayText(option.name.left(40) + u'=' + option.value.left(40));
+    const QString list = named.join(QCoreApplication::translate("PrinterSource", ", "));
+    if (source.start.kind == StartingSettings::Kind::LastUsed)
+        return {QCoreApplication::translate("PrinterSource",
+                                            "The printer no longer has some of the settings that "
+                                            "you used last: %1.")
+                    .arg(list)};
+    const QString name =
+        source.queue.instance.isNull() ? source.queue.queue : source.queue.instance;
+    return {QCoreApplication::translate("PrinterSource",
+                                        "The printer does not have some of the settings that are "
+                                        "saved for %1: %2.")
+                .arg(displayText(name), list)};
+}
+
 OpenedPrinter openPrinter(const SessionOptions &options, std::optional<OpenedPPD> ppd,
                           const QList<JobOption> &saved,
                           const std::function<void(HostSession &)> &beforeStart)
@@ -94,6 +146,9 @@ OpenedPrinter openPrinter(const SessionOptions &options, std::optional<OpenedPPD
     const SavedSettings settings = applySavedOptions(session->ppd(), saved);
     session->pageFormat().paper = markedPaper(session->ppd());
     session->pageFormat().orientation = settings.orientation;
+    QVariantMap ticket = session->ticket().values();
+    ticket.insert(settings.ticket);
+    session->ticket().setValues(ticket);
     if (beforeStart)
         beforeStart(*session);
     session->start();

@@ -4,6 +4,7 @@
 #include "dialog/host/HostSession.h"
 #include "dialog/job/SavedOptions.h"
 #include "dialog/job/SavedSettings.h"
+#include "dialog/printing/StartingSettings.h"
 #include "dialog/work/CallGuard.h"
 
 #include <QtCore/QString>
@@ -18,6 +19,7 @@ struct PrinterSource
     QString server;  ///< null: the user's usual one
     QueueName queue; ///< a null queue: none, or not known yet
     QString ppdPath; ///< null: the queue's own
+    StartingSettings start = {};
 };
 
 /// What a server told of a queue, or what is in a PPD file.
@@ -41,6 +43,14 @@ FetchedPrinter givenUpPrinter(const PrinterSource &source);
 
 /// The queue that was asked for on the command line, else the user's usual one.
 QueueName wantedQueue(const QString &queue, const QString &instance);
+
+/// The settings that the source starts from; `ppd` is the source's (null: it has none). A source
+/// that starts from what was used last says afterwards whether there is any.
+QList<JobOption> startingOptions(PrinterSource &source, ppd_file_t *ppd);
+
+/// One sentence on the settings that the source started from and the printer does not have; none
+/// when it has them all.
+QStringList notesOnStart(const PrinterSource &source, const QList<JobOption> &missing);
 
 /// A printer whose panels run.
 struct OpenedPrinter

@@ -1,7 +1,9 @@
 #include "dialog/printing/SettingRequests.h"
 
 #include "dialog/host/HostSession.h"
+#include "dialog/host/PPDMarks.h"
 #include "dialog/job/Conflicts.h"
+#include "dialog/job/FeatureTexts.h"
 #include "dialog/job/Papers.h"
 #include "dialog/printing/OwnSettings.h"
 #include "dialog/printing/PanelPicks.h"
@@ -96,10 +98,10 @@ Result<RequestedChoice> knownChoice(const PrintJob &job, const RequestedChoice &
         return settingFault(
             QCoreApplication::translate("SettingRequests", "The printer has no setting %1.")
                 .arg(displayText(keyword)));
-    const RequestedChoice known{keyword, choice};
-    if (!findChoice(findOption(job.ppd(), keyword), choice))
-        return badValue(known);
-    return known;
+    const QString value = normalizedValue(job.ppd(), keyword, choice);
+    if (value.isNull())
+        return badValue({keyword, choice});
+    return RequestedChoice{keyword, value};
 }
 
 // --- What the job has ----------------------------------------------------------------------------
@@ -119,15 +121,14 @@ std::optional<double> sentBySlider(const PrintJob &job, const RequestedChoice &k
 }
 
 /// The job's value of the setting as the printer's texts have it; null when it has none.
-QString valueText(const PrintJob &job, const RequestedChoice &known)
+QString currentText(const PrintJob &job, const RequestedChoice &known)
 {
     if (isPaper(known))
         return job.paper() ? paperText(job.ppd(), *job.paper()) : QString();
     if (const std::optional<double> sent = sentBySlider(job, known))
         return QString::number(*sent);
-    const ppd_choice_t *marked =
-        findChoice(findOption(job.ppd(), known.keyword), markedChoice(job.ppd(), known.keyword));
-    return marked ? ppdText(marked->text) : QString();
+    const QString marked = markedValue(job.ppd(), known.keyword);
+    return marked.isNull() ? QString() : valueText(job.ppd(), known.keyword, marked);
 }
 
 } // namespace
@@ -170,7 +171,7 @@ bool hasSetting(const PrintJob &job, const RequestedChoice &known)
     if (const std::optional<double> sent = sentBySlider(job, known))
         return qFuzzyCompare(1 + *sent, 1 + known.choice.toDouble());
     return job.session()->choiceForms().areSame(known.keyword, known.choice,
-                                                markedChoice(job.ppd(), known.keyword));
+                                                markedValue(job.ppd(), known.keyword));
 }
 
 QString lossSentence(const PrintJob &job, const RequestedChoice &known)
@@ -180,7 +181,7 @@ QString lossSentence(const PrintJob &job, const RequestedChoice &known)
         return clash;
     const QString wanted =
         displayText(known.keyword) + u'=' + displayText(known.choice); // as it is typed
-    const QString value = valueText(job, known);
+    const QString value = currentText(job, known);
     const ppd_option_t *option = findOption(job.ppd(), known.keyword);
     if (!option || value.isEmpty())
         return QCoreApplication::translate(

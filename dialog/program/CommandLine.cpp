@@ -68,6 +68,7 @@ constexpr std::array kOptions{
     Option{"record", '\0', &CommandLine::record},
     Option{"replay", '\0', &CommandLine::replay},
     Option{"check-ppd", '\0', &CommandLine::checkPPD},
+    Option{"forget-alerts", '\0', nullptr, &CommandLine::forgetAlerts},
     Option{"plug-in", '\0', &CommandLine::plugIn},
     Option{"version", '\0', nullptr, &CommandLine::version},
     Option{"help", '\0', nullptr, &CommandLine::help},
@@ -148,6 +149,9 @@ QString contradiction(const CommandLine &line)
     if (!line.checkPPD.isNull() && asksForWork)
         return QCoreApplication::translate(
             "CommandLine", "--check-ppd only looks at a PPD: it prints and replays nothing.");
+    if (line.forgetAlerts && (asksForWork || !line.checkPPD.isNull()))
+        return QCoreApplication::translate(
+            "CommandLine", "--forget-alerts only has the warnings shown again: it prints nothing.");
     if (line.noDialog && !line.screenshot.isNull())
         return QCoreApplication::translate("CommandLine",
                                            "--no-dialog and --screenshot do not go together.");

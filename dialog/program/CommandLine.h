@@ -13,6 +13,7 @@ struct CommandLine : DialogWishes
     QString replay;   ///< "-": standard input
     QString checkPPD; ///< --check-ppd
     bool noDialog = false;
+    bool forgetAlerts = false; ///< --forget-alerts
     bool yes = false;
     bool version = false;
     bool help = false;

@@ -28,6 +28,8 @@ ExitStatus runDialog(const CommandLine &line)
     DialogWindow window(line);
     if (!window.documentState())
         return failWith(window.documentState().fault());
+    if (const Result<> known = checkInstance(window.controller().wantedPrinter().queue); !known)
+        return failWith(known.fault());
     if (const Result<> begun = recording.begin(line, window.controller()); !begun)
         return failWith(begun.fault());
     const EndSignals signals([&window] { window.end(); }); // a server may be asked from here on

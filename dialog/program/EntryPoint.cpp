@@ -4,6 +4,7 @@
 #include "dialog/program/CommandOutput.h"
 #include "dialog/program/DialogCommand.h"
 #include "dialog/program/ExitStatus.h"
+#include "dialog/program/ForgetCommand.h"
 #include "dialog/program/LauncherOutput.h"
 #include "dialog/program/LauncherTexts.h"
 #include "dialog/program/ReplayCommand.h"
@@ -22,7 +23,8 @@ QStringList argumentsOf(int argc, char **argv)
     return arguments;
 }
 
-/// Reads the arguments once more, with the user's language at hand: only what is wrong needs it.
+/// Reads the arguments once more, with the user's language at hand: only what is wrong needs
+/// it.
 int refuse(int argc, char **argv, const QStringList &arguments)
 {
     const QCoreApplication application(argc, argv);
@@ -45,6 +47,8 @@ extern "C" Q_DECL_EXPORT int velkaroPrintMain(int argc, char **argv)
     if (line.version)
         return exitCode(printText(versionText()));
     tellToolkitFaultsOnly();
+    if (line.forgetAlerts)
+        return runForgetCommand(argc, argv, line);
     if (!line.checkPPD.isNull())
         return runCheckCommand(argc, argv, line);
     if (!line.replay.isNull())

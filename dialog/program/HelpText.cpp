@@ -32,14 +32,15 @@ Job
 Looking and testing
       --screenshot FILE.png
                           paint the dialog into a picture instead of showing it
-      --panel NAME        show this part first: setup, print, color or
-                          summary; in a picture, this part alone
+      --panel NAME        show this part first: setup, print, color,
+                          features or summary; in a picture, this part alone
       --record SCRIPT     note the session in a script
       --replay SCRIPT     run a session from a script (-: standard input)
                           and print what happens, a line of JSON an event
       --check-ppd FILE    print what the plug-in will not understand in a PPD
                           file, a line a finding
       --plug-in FOLDER    load the plug-in from this bundle
+      --forget-alerts     show the warnings again that were not to be shown
       --version           print the version
       --help              print this text
 

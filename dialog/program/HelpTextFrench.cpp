@@ -39,8 +39,9 @@ Examen et essais
       --screenshot FILE.png
                           dessiner la boîte de dialogue dans une image au lieu
                           de l’afficher
-      --panel NAME        afficher d’abord cette partie : setup, print, color
-                          ou summary ; dans une image, cette partie seule
+      --panel NAME        afficher d’abord cette partie : setup, print, color,
+                          features ou summary ; dans une image, cette partie
+                          seule
       --record SCRIPT     noter la session dans un script
       --replay SCRIPT     exécuter une session depuis un script (- : entrée
                           standard) et afficher ce qui se passe, une ligne
@@ -48,6 +49,8 @@ Examen et essais
       --check-ppd FILE    afficher ce que le module ne comprendra pas dans un
                           fichier PPD, une ligne par constat
       --plug-in FOLDER    charger le module depuis ce paquet
+      --forget-alerts     réafficher les avertissements qui ne devaient plus
+                          l’être
       --version           afficher la version
       --help              afficher ce texte
 

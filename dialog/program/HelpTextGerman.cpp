@@ -36,8 +36,8 @@ Auftrag
 Ansehen und prüfen
       --screenshot FILE.png
                           den Dialog in ein Bild zeichnen statt ihn zu zeigen
-      --panel NAME        diesen Teil zuerst zeigen: setup, print, color oder
-                          summary; in einem Bild nur diesen Teil
+      --panel NAME        diesen Teil zuerst zeigen: setup, print, color,
+                          features oder summary; in einem Bild nur diesen Teil
       --record SCRIPT     die Sitzung in einem Skript aufzeichnen
       --replay SCRIPT     eine Sitzung aus einem Skript ausführen (-:
                           Standardeingabe) und ausgeben, was geschieht, eine
@@ -45,6 +45,8 @@ Ansehen und prüfen
       --check-ppd FILE    ausgeben, was das Plug-in in einer PPD-Datei nicht
                           verstehen wird, eine Zeile je Befund
       --plug-in FOLDER    das Plug-in aus diesem Bündel laden
+      --forget-alerts     Warnungen wieder anzeigen, die nicht mehr angezeigt
+                          werden sollten
       --version           die Version ausgeben
       --help              diesen Text ausgeben
 

@@ -31,14 +31,15 @@ const LauncherTexts kJapaneseTexts{
 表示とテスト
       --screenshot FILE.png
                           画面を表示せずに、画像として保存する
-      --panel NAME        最初に表示する部分: setup、print、color、summary。
-                          画像の場合はその部分だけを保存する
+      --panel NAME        最初に表示する部分: setup、print、color、features、
+                          summary。画像の場合はその部分だけを保存する
       --record SCRIPT     操作をスクリプトに記録する
       --replay SCRIPT     スクリプト（-: 標準入力）を実行し、結果をイベント
                           ごとに 1 行の JSON で出力する
       --check-ppd FILE    PPD ファイルのうちプラグインが認識できない部分を
                           1 件 1 行で出力する
       --plug-in FOLDER    このバンドルのプラグインを読み込む
+      --forget-alerts     表示しないようにした警告を再び表示させる
       --version           バージョンを表示する
       --help              この説明を表示する
 

@@ -136,6 +136,8 @@ void Run::takePrinter(const FoundPrinter &printer)
 {
     if (!goOn(printer.shortcomings.isEmpty() ? Result<>() : printer.shortcomings.constFirst()))
         return;
+    for (const QString &note : printer.notes)
+        warn(note);
     makeSettings();
 }
 

@@ -1,4 +1,5 @@
 #include "dialog/files/PathBytes.h"
+#include "dialog/host/CustomParameters.h"
 #include "dialog/host/HostOperationNames.h"
 #include "dialog/host/HostSession.h"
 #include "dialog/host/PPDMarks.h"
@@ -21,7 +22,7 @@ QJsonObject marksBesideDefaults(const HostSession &session)
 {
     QJsonObject marks;
     for (const PPDMark &mark : changedMarks(session.ppd(), session.defaultMarks()))
-        marks.insert(mark.keyword, mark.choice);
+        marks.insert(mark.keyword, withoutSecrets(session.ppd(), mark.keyword, mark.choice));
     return marks;
 }
 

@@ -1,5 +1,6 @@
 #include "dialog/replay/Recorder.h"
 
+#include "dialog/host/CustomParameters.h"
 #include "dialog/host/HostSession.h"
 #include "platform/toolkit/KeyWindow.h"
 
@@ -114,7 +115,8 @@ void Recorder::didPerform(PanelOperation operation, const HostPanel &panel)
 
 void Recorder::didMark(const QString &keyword, const QString &choice)
 {
-    note("mark", {{u"keyword"_s, keyword}, {u"choice"_s, choice}});
+    note("mark", {{u"keyword"_s, keyword},
+                  {u"choice"_s, withoutSecrets(m_session->ppd(), keyword, choice)}});
 }
 
 void Recorder::didSetPaper(const PMPaper &paper, const std::optional<QString> &mapped)

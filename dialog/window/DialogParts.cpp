@@ -1,5 +1,7 @@
 #include "dialog/job/Papers.h"
+#include "dialog/printing/FeaturePicks.h"
 #include "dialog/window/DialogWindow.h"
+#include "dialog/window/FeaturesPane.h"
 #include "dialog/window/JobHeader.h"
 #include "dialog/window/Mnemonics.h"
 #include "dialog/window/PageSetupPane.h"
@@ -24,6 +26,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr auto kPageSetup = "setup"_L1;
+constexpr auto kFeatures = "features"_L1;
 constexpr auto kSummary = "summary"_L1;
 
 /// Whether the panel has anything to show for this PPD.
@@ -60,6 +63,10 @@ void DialogWindow::buildParts()
             m_parts.push_back({panel.name, pane, &panel});
             m_tabs->addTab(pane, tabTitle(panel.panel->panelName()));
         }
+    if (!m_savedJob && !featuresOf(job()).isEmpty()) {
+        m_parts.push_back({kFeatures, m_features, nullptr});
+        m_tabs->addTab(m_features, tr("Printer Features"));
+    }
     m_parts.push_back({kSummary, m_summary, nullptr});
     giveAccessibleName(m_summary, tr("Summary"));
     m_tabs->addTab(m_summary, tr("Summary"));
@@ -74,7 +81,8 @@ void DialogWindow::removeParts()
 {
     const QSignalBlocker quiet(m_tabs);
     m_shownPanel = nullptr;
-    m_tabs->clear(); // the pages themselves stay
+    m_tabs->clear();     // the pages themselves stay
+    m_features->clear(); // before its PPD goes
     for (const Part &part : m_parts)
         if (part.panel)
             delete part.page; // gives the view back to its panel
@@ -116,10 +124,13 @@ void DialogWindow::changePart()
         static_cast<PanelPane *>(part->page)->setView(view);
         m_viewIsMissing = !view;
     }
+    if (part->page == m_features)
+        m_features->reload();
     if (part->page == m_summary)
         m_summary->setSections(summarySections());
     moveButtonsLast();
-    if (m_viewIsMissing || wasMissing || !m_pageSetup->isAcceptable())
+    if (m_viewIsMissing || wasMissing || !m_pageSetup->isAcceptable() ||
+        !m_features->isAcceptable())
         tellStanding();
     fitToPart();
     noteOwnEvent();

@@ -1,6 +1,8 @@
 #include "dialog/files/PathBytes.h"
 #include "dialog/job/PaperMemory.h"
 #include "dialog/printing/LastPrinter.h"
+#include "dialog/printing/LastUsed.h"
+#include "dialog/printing/Presets.h"
 #include "dialog/window/DialogWindow.h"
 #include "dialog/window/ProgressStrip.h"
 #include "dialog/work/Sentences.h"
@@ -148,6 +150,9 @@ void DialogWindow::endSending(const Result<> &outcome, const QString &note)
     if (outcome || m_mayHavePrinted)
         m_outcome = outcome;
     m_progress->end();
+    if (outcome)
+        rememberLastUsed(job().source().server, job().source().queue.queue,
+                         lastingOptions(job(), job().options().options));
     setState(outcome ? State::Done : State::Ready);
     if (m_isEnding)
         QTimer::singleShot(0, this, &DialogWindow::end);

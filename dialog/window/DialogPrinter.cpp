@@ -55,7 +55,7 @@ void DialogWindow::choosePrinter()
             return;
         }
         m_choice = *choice;
-        findPrinter({m_wishes.server, choice->queue, {}});
+        findPrinter({m_wishes.server, choice->queue, {}, usualStart()});
     });
 }
 
@@ -89,14 +89,17 @@ void DialogWindow::takePrinter(const Result<FoundPrinter> &found)
 {
     m_printerState = found ? Result<>() : found.fault();
     m_shortcomings = found ? found->shortcomings : QList<Fault>();
+    m_startNotes = found ? found->notes : QStringList();
     if (found.faultKind() == FaultKind::PPD)
         m_outcome = found.fault();
     showPrinter();
     m_standing = standing();
     setState(found ? State::Ready : State::NoPrinter);
+    showPresets();
     tellStanding();
     if (found)
         makeRequestedSettings();
+    confirmPreset();
     static_cast<void>(takeChanges()); // nothing of this has the user done in the window
     watchPrinters();
 }
@@ -120,6 +123,12 @@ void DialogWindow::makeRequestedSettings()
     if (std::exchange(m_requestedSettingsAreMade, true))
         return;
     m_settingState = m_controller.makeRequestedSettings();
+    if (!m_settingState && job().source().start.kind == StartingSettings::Kind::LastUsed) {
+        // What is asked for now counts more than what was used last.
+        m_requestedSettingsAreMade = false;
+        startFrom({}, {});
+        return;
+    }
     if (!m_wishes.panel.isNull() && !showPart(m_wishes.panel) && m_settingState)
         m_settingState = Fault{FaultKind::Request, tr("There is no panel %1.").arg(m_wishes.panel)};
     if (!m_wishes.paper.isNull() || !m_wishes.choices.empty()) {
@@ -161,11 +170,8 @@ DialogWindow::Notice DialogWindow::whatIsMissing() const
                                        .arg(missingPPD(job().source().queue.queue))};
     if (!m_shortcomings.isEmpty())
         return {Kind::Warning, m_shortcomings.constFirst().sentence};
-    const bool hasPanels =
-        std::ranges::any_of(m_parts, [](const Part &part) { return part.panel; });
-    if (job().session() && !hasPanels)
-        return {Kind::Information, tr("This printer has none of the settings that the panels are "
-                                      "for. It prints with the settings of this dialog alone.")};
+    if (!m_startNotes.isEmpty())
+        return {Kind::Warning, m_startNotes.constFirst()};
     if (!m_documentState)
         return {Kind::Error, m_documentState.sentence()};
     if (hasPipes(job().documents()))

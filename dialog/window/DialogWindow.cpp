@@ -1,6 +1,7 @@
 #include "dialog/window/DialogWindow.h"
 
 #include "dialog/job/PipeDocuments.h"
+#include "dialog/window/FeaturesPane.h"
 #include "dialog/window/HostHelp.h"
 #include "dialog/window/JobHeader.h"
 #include "dialog/window/Mnemonics.h"
@@ -72,6 +73,8 @@ void DialogWindow::buildLayout()
     m_tabs = new QTabWidget(this);
     m_tabs->setObjectName(u"parts"_s);
     m_pageSetup = new PageSetupPane(job());
+    m_features = new FeaturesPane(job(), this);
+    m_features->hide(); // a tab only where there is something to show
     m_summary = new SummaryPane;
     auto *layout = new QVBoxLayout(this);
     layout->setContentsMargins(kWindowMargin, kWindowMargin, kWindowMargin, kWindowMargin);
@@ -93,13 +96,19 @@ void DialogWindow::buildLayout()
         tellEvent(); // what was before
         tell(NoticeBar::Kind::Warning, sentence);
     });
+    connect(m_features, &FeaturesPane::changed, this, &DialogWindow::tellStanding);
+    connect(m_features, &FeaturesPane::refused, this, [this](const QString &sentence) {
+        tellEvent(); // what was before
+        tell(NoticeBar::Kind::Warning, sentence);
+    });
+    connectPresets();
     connect(m_header->printers(), &PrinterPopUp::picked, this, [this](const QueueName &queue) {
         // One that could not be reached may be tried again.
         if (m_state == State::Ready && queue == job().source().queue)
             return;
         m_choice.reset();
         closePrinter();
-        findPrinter({m_wishes.server, queue, QString()});
+        findPrinter({m_wishes.server, queue, QString(), usualStart()});
     });
 }
 
@@ -155,8 +164,18 @@ void DialogWindow::start()
     const bool isNamed = m_savedJob && !m_savedJob->queue.isEmpty();
     if (m_controller.mayChoosePrinter() && !isNamed)
         choosePrinter();
-    else
-        findPrinter(firstPrinter());
+    else {
+        PrinterSource source = firstPrinter();
+        source.start = usualStart();
+        findPrinter(source);
+    }
+}
+
+/// A picture shows the settings as they are saved; a user goes on where he was.
+StartingSettings DialogWindow::usualStart() const
+{
+    using enum StartingSettings::Kind;
+    return {m_wishes.isPicture ? Saved : LastUsed, {}};
 }
 
 void DialogWindow::setState(State state)
@@ -176,7 +195,8 @@ void DialogWindow::setState(State state)
 bool DialogWindow::mayPrint() const
 {
     return m_state == State::Ready && m_documentState && !job().documents().empty() &&
-           !hasPipes(job().documents()) && m_header->isAcceptable() && m_pageSetup->isAcceptable();
+           !hasPipes(job().documents()) && m_header->isAcceptable() &&
+           m_pageSetup->isAcceptable() && m_features->isAcceptable();
 }
 
 void DialogWindow::updateButtons()
@@ -195,7 +215,9 @@ void DialogWindow::tell(NoticeBar::Kind kind, const QString &sentence, NoticeBar
 /// Shows what is still true, in place of what was news.
 void DialogWindow::tellStanding()
 {
-    const bool hidesFault = !m_pageSetup->isAcceptable() && m_tabs->currentWidget() != m_pageSetup;
+    const QWidget *shown = m_tabs->currentWidget();
+    const bool hidesFault = !m_pageSetup->isAcceptable() && shown != m_pageSetup;
+    const bool hidesFeature = !m_features->isAcceptable() && shown != m_features;
     if (m_viewIsMissing)
         tell(NoticeBar::Kind::Error,
              tr("The settings of this panel cannot be shown: a part of the plug-in is "
@@ -204,6 +226,9 @@ void DialogWindow::tellStanding()
         tell(NoticeBar::Kind::Warning,
              tr("The printer cannot take the paper size in Page Setup. Correct it there "
                 "to print."));
+    else if (hidesFeature)
+        tell(NoticeBar::Kind::Warning, tr("A value in Printer Features cannot be used. Correct it "
+                                          "there to print."));
     else if (const Notice standing = standingNotice(); standing.sentence.isEmpty())
         m_notice->clear();
     else

@@ -15,7 +15,7 @@
 #include <optional>
 #include <vector>
 
-struct AlertContent;
+class FeaturesPane;
 class JobHeader;
 class PageSetupPane;
 class PanelPane;
@@ -174,6 +174,17 @@ private:
     QList<SummarySection> summarySections();
     SummarySection ownSection() const;
 
+    // DialogPresets.cpp
+    void connectPresets();
+    void showPresets();
+    StartingSettings usualStart() const;
+    void startFrom(const QString &preset, const StartingSettings &start);
+    void savePreset();
+    void confirmPreset();
+    void renamePreset();
+    void deletePreset();
+    void showHiddenAlerts();
+
     // DialogPrint.cpp
     std::optional<JobRequest> finishedJob();
     bool isAgreed(const QStringList &doubts);
@@ -196,6 +207,7 @@ private:
     State m_state = State::Searching;
     std::optional<PrinterChoice> m_choice; ///< of the dialog, where nobody named a printer
     QList<Fault> m_shortcomings;           ///< of the printer
+    QStringList m_startNotes;              ///< on the settings that it starts from
     Notice m_standing;                     ///< shown while there is nothing newer to tell
     QString m_refusalToTell;               ///< of the pick that is going on
     PPDMark m_pick;           ///< of the user, in the event that is going on; null: none yet
@@ -203,6 +215,7 @@ private:
     bool m_eventIsNoted = false;
     int m_eventLevel = 0; ///< of the event loop in which it was noted
     bool m_requestedSettingsAreMade = false;
+    bool m_presetIsNew = false; ///< the one that is being opened
     bool m_isEnding = false;
     bool m_mayHavePrinted = false; ///< what Print did last
 
@@ -212,6 +225,7 @@ private:
     ProgressStrip *m_progress;
     QTabWidget *m_tabs;
     PageSetupPane *m_pageSetup;
+    FeaturesPane *m_features;
     SummaryPane *m_summary;
     QPushButton *m_help = nullptr;
     QPushButton *m_save = nullptr;

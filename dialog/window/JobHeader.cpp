@@ -2,6 +2,7 @@
 
 #include "dialog/job/PageRanges.h"
 #include "dialog/printing/PrintJob.h"
+#include "dialog/window/PresetsRow.h"
 #include "dialog/window/PrinterPopUp.h"
 #include "platform/toolkit/AccessibleName.h"
 #include "platform/toolkit/NumberField.h"
@@ -50,6 +51,7 @@ JobHeader::JobHeader(PrintJob &job, QWidget *parent)
       m_documents(newPlainLabel(QString(), this)),
       m_choose(new QPushButton(tr("C&hoose…"), this)),
       m_printers(new PrinterPopUp(this)),
+      m_presets(new PresetsRow(this)),
       m_copies(new NumberField(this)),
       m_pages(new QLineEdit(this)),
       m_pagesValidation(newPlainLabel(QString(), this))
@@ -70,9 +72,12 @@ JobHeader::JobHeader(PrintJob &job, QWidget *parent)
     form->setFieldGrowthPolicy(QFormLayout::AllNonFixedFieldsGrow);
     addLabelledRow(form, tr("Document:"), row({m_documents, m_choose}, 0));
     form->addRow(label(tr("Pri&nter:"), m_printers->popup()), m_printers);
+    form->addRow(label(tr("Prese&t:"), m_presets->popup()), m_presets);
     m_settingsRow = row({m_copies, label(tr("Pa&ges:"), m_pages), m_pages, m_pagesValidation}, 3);
     form->addRow(label(tr("&Copies:"), m_copies), m_settingsRow);
     setTabOrder(m_choose, m_printers->popup());
+    setTabOrder(m_printers->popup(), m_presets->popup());
+    setTabOrder(m_presets->popup(), m_presets->menuButton());
     connect(m_choose, &QPushButton::clicked, this, &JobHeader::documentsWanted);
     connect(m_copies, &NumberField::editedByUser, this, [this] {
         m_job.settings().copies = m_copies->value();
@@ -95,7 +100,9 @@ void JobHeader::reload()
 
 void JobHeader::showJobSettings(bool shown)
 {
-    static_cast<QFormLayout *>(layout())->setRowVisible(m_settingsRow, shown);
+    auto *form = static_cast<QFormLayout *>(layout());
+    form->setRowVisible(m_settingsRow, shown);
+    form->setRowVisible(m_presets, shown);
 }
 
 void JobHeader::takePages()

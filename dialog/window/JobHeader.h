@@ -3,6 +3,7 @@
 #include <QtWidgets/QWidget>
 
 class NumberField;
+class PresetsRow;
 class PrinterPopUp;
 class PrintJob;
 class QLabel;
@@ -19,6 +20,7 @@ public:
     explicit JobHeader(PrintJob &job, QWidget *parent = nullptr);
 
     PrinterPopUp *printers() const { return m_printers; }
+    PresetsRow *presets() const { return m_presets; }
 
     /// Shows the job's documents and settings.
     void reload();
@@ -41,6 +43,7 @@ private:
     QLabel *m_documents;
     QPushButton *m_choose;
     PrinterPopUp *m_printers;
+    PresetsRow *m_presets;
     NumberField *m_copies;
     QLineEdit *m_pages;
     QWidget *m_settingsRow = nullptr;

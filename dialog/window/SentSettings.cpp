@@ -1,6 +1,7 @@
 #include "dialog/window/SentSettings.h"
 
 #include "dialog/host/HostSession.h"
+#include "dialog/job/FeatureTexts.h"
 #include "dialog/job/Papers.h"
 #include "dialog/job/StandardAttributes.h"
 #include "platform/pde/PDESummary.h"
@@ -80,10 +81,9 @@ QList<JobOption> sentOptions(const PrintJob &job)
 SummarySection::Line lineOf(const PrintJob &job, const JobOption &option)
 {
     ppd_option_t *named = optionOf(job, option.name);
-    const ppd_choice_t *choice = findChoice(named, option.value);
     const QString title = named ? ppdText(named->text) : QString();
-    const QString value = choice ? ppdText(choice->text) : QString();
-    return {title.isEmpty() ? option.name : title, value.isEmpty() ? option.value : value};
+    const QString keyword = named ? ppdName(named->keyword) : QString();
+    return {title.isEmpty() ? option.name : title, valueText(job.ppd(), keyword, option.value)};
 }
 
 } // namespace

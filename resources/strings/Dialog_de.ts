@@ -81,6 +81,10 @@
         <source>--check-ppd only looks at a PPD: it prints and replays nothing.</source>
         <translation>--check-ppd prüft nur eine PPD-Datei: Es wird nichts gedruckt und kein Skript ausgeführt.</translation>
     </message>
+    <message>
+        <source>--forget-alerts only has the warnings shown again: it prints nothing.</source>
+        <translation>--forget-alerts lässt nur die Warnungen wieder anzeigen; es druckt nichts.</translation>
+    </message>
 </context>
 <context>
     <name>Conflicts</name>
@@ -130,6 +134,17 @@
     <message>
         <source>H&amp;eight:</source>
         <translation>Höh&amp;e:</translation>
+    </message>
+</context>
+<context>
+    <name>CustomValueFields</name>
+    <message>
+        <source>%1:</source>
+        <translation>%1:</translation>
+    </message>
+    <message>
+        <source> pt</source>
+        <translation> pt</translation>
     </message>
 </context>
 <context>
@@ -250,10 +265,6 @@
         <translation>Den Bereich %1 gibt es nicht.</translation>
     </message>
     <message>
-        <source>This printer has none of the settings that the panels are for. It prints with the settings of this dialog alone.</source>
-        <translation>Dieser Drucker hat keine der Einstellungen, für die es hier eigene Bereiche gibt. Gedruckt wird nur mit den Einstellungen dieses Dialogs.</translation>
-    </message>
-    <message>
         <source>Choose a document to print.</source>
         <translation>Wählen Sie ein Dokument zum Drucken aus.</translation>
     </message>
@@ -324,6 +335,42 @@
     <message>
         <source>Go On</source>
         <translation>Fortfahren</translation>
+    </message>
+    <message>
+        <source>Printer Features</source>
+        <translation>Druckerfunktionen</translation>
+    </message>
+    <message>
+        <source>A value in Printer Features cannot be used. Correct it there to print.</source>
+        <translation>Ein Wert in „Druckerfunktionen“ kann nicht verwendet werden. Berichtigen Sie ihn dort, um zu drucken.</translation>
+    </message>
+    <message>
+        <source>Save as Preset</source>
+        <translation>Als Voreinstellung sichern</translation>
+    </message>
+    <message>
+        <source>Rename Preset</source>
+        <translation>Voreinstellung umbenennen</translation>
+    </message>
+    <message>
+        <source>Delete the preset &quot;%1&quot;?</source>
+        <translation>Voreinstellung „%1“ löschen?</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Löschen</translation>
+    </message>
+    <message>
+        <source>Keep</source>
+        <translation>Behalten</translation>
+    </message>
+    <message>
+        <source>No warnings are hidden: all are shown.</source>
+        <translation>Keine Warnungen sind ausgeblendet: Alle werden angezeigt.</translation>
+    </message>
+    <message>
+        <source>Some of the settings do not go together: the preset has what is shown now.</source>
+        <translation>Einige der Einstellungen passen nicht zusammen: Die Voreinstellung enthält, was jetzt angezeigt wird.</translation>
     </message>
     <message>
         <source>Choose the printer for this saved job.</source>
@@ -398,6 +445,105 @@
     <message>
         <source>Standard input</source>
         <translation>Standardeingabe</translation>
+    </message>
+</context>
+<context>
+    <name>FeaturePicks</name>
+    <message>
+        <source>&quot;%1&quot; needs at least one choice.</source>
+        <translation>„%1“ braucht mindestens eine Auswahl.</translation>
+    </message>
+    <message>
+        <source>The printer does not take &quot;%1: %2&quot;.</source>
+        <translation>Der Drucker nimmt „%1: %2“ nicht an.</translation>
+    </message>
+</context>
+<context>
+    <name>FeatureTexts</name>
+    <message>
+        <source>, </source>
+        <translation>, </translation>
+    </message>
+    <message>
+        <source>%1 %2</source>
+        <translation>%1 %2</translation>
+    </message>
+    <message>
+        <source>%1 is a number.</source>
+        <translation>%1 muss eine Zahl sein.</translation>
+    </message>
+    <message>
+        <source>%1 is at least %2.</source>
+        <translation>%1 muss mindestens %2 sein.</translation>
+    </message>
+    <message>
+        <source>%1 is at most %2.</source>
+        <translation>%1 darf höchstens %2 sein.</translation>
+    </message>
+    <message>
+        <source>%1 has at least %2 characters.</source>
+        <translation>%1 braucht mindestens %2 Zeichen.</translation>
+    </message>
+    <message>
+        <source>%1 has at most %2 characters.</source>
+        <translation>%1 darf höchstens %2 Zeichen haben.</translation>
+    </message>
+    <message>
+        <source>%1 consists of digits.</source>
+        <translation>%1 darf nur aus Ziffern bestehen.</translation>
+    </message>
+</context>
+<context>
+    <name>FeaturesPane</name>
+    <message>
+        <source>%1:</source>
+        <translation>%1:</translation>
+    </message>
+    <message>
+        <source>Installed in the Printer</source>
+        <translation>Ausstattung des Druckers</translation>
+    </message>
+    <message>
+        <source>What the printer has been fitted with. It is set when the printer is set up, for everybody, and can only be looked at here.</source>
+        <translation>Womit der Drucker ausgestattet ist. Das wird beim Einrichten des Druckers für alle festgelegt und kann hier nur angesehen werden.</translation>
+    </message>
+</context>
+<context>
+    <name>ForgetCommand</name>
+    <message>
+        <source>%1 is no plug-in.</source>
+        <translation>%1 ist kein Plug-in.</translation>
+    </message>
+    <message>
+        <source>The user&apos;s settings cannot be written.</source>
+        <translation>Die Einstellungen des Benutzers können nicht geschrieben werden.</translation>
+    </message>
+    <message>
+        <source>Shown again: %1</source>
+        <translation>Wird wieder angezeigt: %1</translation>
+    </message>
+</context>
+<context>
+    <name>HiddenAlertsDialog</name>
+    <message>
+        <source>Hidden Warnings</source>
+        <translation>Ausgeblendete Warnungen</translation>
+    </message>
+    <message>
+        <source>You have asked not to be shown these warnings again. Select those to be shown.</source>
+        <translation>Diese Warnungen sollten nicht mehr angezeigt werden. Wählen Sie aus, welche wieder angezeigt werden sollen.</translation>
+    </message>
+    <message>
+        <source>Show Again</source>
+        <translation>Wieder anzeigen</translation>
+    </message>
+    <message>
+        <source>Show All Again</source>
+        <translation>Alle wieder anzeigen</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Schließen</translation>
     </message>
 </context>
 <context>
@@ -507,6 +653,10 @@
         <source>Pages look like this: 1-3, 5</source>
         <translation>Seiten werden so angegeben: 1-3, 5</translation>
     </message>
+    <message>
+        <source>Prese&amp;t:</source>
+        <translation>&amp;Voreinstellung:</translation>
+    </message>
 </context>
 <context>
     <name>JobOptions</name>
@@ -567,6 +717,25 @@
     <message>
         <source>The print server %1 did not say whether it took the job: it may have been printed as job %2.</source>
         <translation>Der Druckserver %1 hat nicht mitgeteilt, ob er den Auftrag angenommen hat: Er wurde möglicherweise als Auftrag %2 gedruckt.</translation>
+    </message>
+</context>
+<context>
+    <name>LpoptionsFile</name>
+    <message>
+        <source>The saved settings in %1 cannot be read: %2.</source>
+        <translation>Die gesicherten Einstellungen in %1 können nicht gelesen werden: %2.</translation>
+    </message>
+    <message>
+        <source>it is no such file</source>
+        <translation>es ist keine solche Datei</translation>
+    </message>
+    <message>
+        <source>Another program is changing %1. Try again.</source>
+        <translation>Ein anderes Programm ändert gerade %1. Versuchen Sie es noch einmal.</translation>
+    </message>
+    <message>
+        <source>These are too many settings for one name.</source>
+        <translation>Das sind zu viele Einstellungen für einen Namen.</translation>
     </message>
 </context>
 <context>
@@ -908,6 +1077,99 @@
     <message>
         <source>The plug-in %1 cannot be used with this print dialog.</source>
         <translation>Das Plug-in %1 kann mit diesem Druckdialog nicht verwendet werden.</translation>
+    </message>
+</context>
+<context>
+    <name>PresetNameDialog</name>
+    <message>
+        <source>Save</source>
+        <translation>Sichern</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>&amp;Name:</source>
+        <translation>&amp;Name:</translation>
+    </message>
+    <message>
+        <source>There is a preset of this name already.</source>
+        <translation>Eine Voreinstellung dieses Namens gibt es schon.</translation>
+    </message>
+    <message>
+        <source>This replaces the preset of the same name.</source>
+        <translation>Das ersetzt die gleichnamige Voreinstellung.</translation>
+    </message>
+</context>
+<context>
+    <name>Presets</name>
+    <message>
+        <source>The preset &quot;%1&quot; was set up for everybody who uses this computer; it cannot be changed here.</source>
+        <translation>Die Voreinstellung „%1“ wurde für alle Benutzer dieses Computers eingerichtet; hier kann sie nicht geändert werden.</translation>
+    </message>
+    <message>
+        <source>Give the preset a name.</source>
+        <translation>Geben Sie der Voreinstellung einen Namen.</translation>
+    </message>
+    <message>
+        <source>The name of a preset has no spaces, slashes, quotes, braces or #; other programs would not find it. &quot;-&quot; and &quot;_&quot; are fine.</source>
+        <translation>Der Name einer Voreinstellung enthält keine Leerzeichen, Schrägstriche, Anführungszeichen, geschweiften Klammern oder #; andere Programme fänden sie sonst nicht. „-“ und „_“ sind erlaubt.</translation>
+    </message>
+    <message>
+        <source>The name is too long.</source>
+        <translation>Der Name ist zu lang.</translation>
+    </message>
+    <message>
+        <source>There is a preset &quot;%1&quot; already.</source>
+        <translation>Die Voreinstellung „%1“ gibt es schon.</translation>
+    </message>
+</context>
+<context>
+    <name>PresetsRow</name>
+    <message>
+        <source>Presets</source>
+        <translation>Voreinstellungen</translation>
+    </message>
+    <message>
+        <source>Save as Preset…</source>
+        <translation>Als Voreinstellung sichern …</translation>
+    </message>
+    <message>
+        <source>Rename Preset…</source>
+        <translation>Voreinstellung umbenennen …</translation>
+    </message>
+    <message>
+        <source>Delete Preset…</source>
+        <translation>Voreinstellung löschen …</translation>
+    </message>
+    <message>
+        <source>Back to the Printer&apos;s Defaults</source>
+        <translation>Zurück zu den Vorgaben des Druckers</translation>
+    </message>
+    <message>
+        <source>Start with the Settings Used Last</source>
+        <translation>Mit den zuletzt benutzten Einstellungen beginnen</translation>
+    </message>
+    <message>
+        <source>Hidden Warnings…</source>
+        <translation>Ausgeblendete Warnungen …</translation>
+    </message>
+    <message>
+        <source>Printer&apos;s Defaults</source>
+        <translation>Vorgaben des Druckers</translation>
+    </message>
+    <message>
+        <source>Usual Settings</source>
+        <translation>Übliche Einstellungen</translation>
+    </message>
+    <message>
+        <source>Settings Used Last</source>
+        <translation>Zuletzt benutzte Einstellungen</translation>
+    </message>
+    <message>
+        <source>%1 (from the printer&apos;s maker)</source>
+        <translation>%1 (vom Druckerhersteller)</translation>
     </message>
 </context>
 <context>
@@ -1463,6 +1725,18 @@
         <source>There is no printer to print to.</source>
         <translation>Es ist kein Drucker vorhanden.</translation>
     </message>
+    <message>
+        <source>, </source>
+        <translation>, </translation>
+    </message>
+    <message>
+        <source>The printer no longer has some of the settings that you used last: %1.</source>
+        <translation>Einige der zuletzt benutzten Einstellungen hat der Drucker nicht mehr: %1.</translation>
+    </message>
+    <message>
+        <source>The printer does not have some of the settings that are saved for %1: %2.</source>
+        <translation>Einige der für %1 gesicherten Einstellungen hat der Drucker nicht: %2.</translation>
+    </message>
 </context>
 <context>
     <name>ProgressStrip</name>
@@ -1521,6 +1795,13 @@
     <message>
         <source>What was found</source>
         <translation>Gefundenes</translation>
+    </message>
+</context>
+<context>
+    <name>SavedOptions</name>
+    <message>
+        <source>There are no settings saved as &quot;%1&quot; for the printer %2.</source>
+        <translation>Unter „%1“ sind für den Drucker %2 keine Einstellungen gesichert.</translation>
     </message>
 </context>
 <context>

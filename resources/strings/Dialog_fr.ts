@@ -81,6 +81,10 @@
         <source>--check-ppd only looks at a PPD: it prints and replays nothing.</source>
         <translation>--check-ppd examine seulement un fichier PPD : rien n’est imprimé et aucun script n’est exécuté.</translation>
     </message>
+    <message>
+        <source>--forget-alerts only has the warnings shown again: it prints nothing.</source>
+        <translation>--forget-alerts fait seulement réafficher les avertissements ; il n’imprime rien.</translation>
+    </message>
 </context>
 <context>
     <name>Conflicts</name>
@@ -130,6 +134,17 @@
     <message>
         <source>H&amp;eight:</source>
         <translation>Ha&amp;uteur :</translation>
+    </message>
+</context>
+<context>
+    <name>CustomValueFields</name>
+    <message>
+        <source>%1:</source>
+        <translation>%1 :</translation>
+    </message>
+    <message>
+        <source> pt</source>
+        <translation> pt</translation>
     </message>
 </context>
 <context>
@@ -250,10 +265,6 @@
         <translation>Le volet %1 n’existe pas.</translation>
     </message>
     <message>
-        <source>This printer has none of the settings that the panels are for. It prints with the settings of this dialog alone.</source>
-        <translation>Cette imprimante n’a aucun des réglages auxquels les volets sont destinés. L’impression se fera avec les seuls réglages de cette boîte de dialogue.</translation>
-    </message>
-    <message>
         <source>Choose a document to print.</source>
         <translation>Choisissez un document à imprimer.</translation>
     </message>
@@ -324,6 +335,42 @@
     <message>
         <source>Go On</source>
         <translation>Poursuivre</translation>
+    </message>
+    <message>
+        <source>Printer Features</source>
+        <translation>Fonctions de l’imprimante</translation>
+    </message>
+    <message>
+        <source>A value in Printer Features cannot be used. Correct it there to print.</source>
+        <translation>Une valeur dans « Fonctions de l’imprimante » ne peut pas être utilisée. Corrigez-la pour imprimer.</translation>
+    </message>
+    <message>
+        <source>Save as Preset</source>
+        <translation>Enregistrer comme préréglage</translation>
+    </message>
+    <message>
+        <source>Rename Preset</source>
+        <translation>Renommer le préréglage</translation>
+    </message>
+    <message>
+        <source>Delete the preset &quot;%1&quot;?</source>
+        <translation>Supprimer le préréglage « %1 » ?</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Supprimer</translation>
+    </message>
+    <message>
+        <source>Keep</source>
+        <translation>Garder</translation>
+    </message>
+    <message>
+        <source>No warnings are hidden: all are shown.</source>
+        <translation>Aucun avertissement n’est masqué : tous s’affichent.</translation>
+    </message>
+    <message>
+        <source>Some of the settings do not go together: the preset has what is shown now.</source>
+        <translation>Certains réglages ne vont pas ensemble : le préréglage contient ce qui est affiché maintenant.</translation>
     </message>
     <message>
         <source>Choose the printer for this saved job.</source>
@@ -398,6 +445,105 @@
     <message>
         <source>Standard input</source>
         <translation>Entrée standard</translation>
+    </message>
+</context>
+<context>
+    <name>FeaturePicks</name>
+    <message>
+        <source>&quot;%1&quot; needs at least one choice.</source>
+        <translation>« %1 » demande au moins un choix.</translation>
+    </message>
+    <message>
+        <source>The printer does not take &quot;%1: %2&quot;.</source>
+        <translation>L’imprimante n’accepte pas « %1 : %2 ».</translation>
+    </message>
+</context>
+<context>
+    <name>FeatureTexts</name>
+    <message>
+        <source>, </source>
+        <translation>, </translation>
+    </message>
+    <message>
+        <source>%1 %2</source>
+        <translation>%1 %2</translation>
+    </message>
+    <message>
+        <source>%1 is a number.</source>
+        <translation>%1 doit être un nombre.</translation>
+    </message>
+    <message>
+        <source>%1 is at least %2.</source>
+        <translation>%1 doit être au moins %2.</translation>
+    </message>
+    <message>
+        <source>%1 is at most %2.</source>
+        <translation>%1 doit être au plus %2.</translation>
+    </message>
+    <message>
+        <source>%1 has at least %2 characters.</source>
+        <translation>%1 doit avoir au moins %2 caractères.</translation>
+    </message>
+    <message>
+        <source>%1 has at most %2 characters.</source>
+        <translation>%1 doit avoir au plus %2 caractères.</translation>
+    </message>
+    <message>
+        <source>%1 consists of digits.</source>
+        <translation>%1 ne doit contenir que des chiffres.</translation>
+    </message>
+</context>
+<context>
+    <name>FeaturesPane</name>
+    <message>
+        <source>%1:</source>
+        <translation>%1 :</translation>
+    </message>
+    <message>
+        <source>Installed in the Printer</source>
+        <translation>Équipement de l’imprimante</translation>
+    </message>
+    <message>
+        <source>What the printer has been fitted with. It is set when the printer is set up, for everybody, and can only be looked at here.</source>
+        <translation>Ce dont l’imprimante est équipée. Cela se règle à l’installation de l’imprimante, pour tous, et ne peut être que consulté ici.</translation>
+    </message>
+</context>
+<context>
+    <name>ForgetCommand</name>
+    <message>
+        <source>%1 is no plug-in.</source>
+        <translation>%1 n’est pas un module.</translation>
+    </message>
+    <message>
+        <source>The user&apos;s settings cannot be written.</source>
+        <translation>Les réglages de l’utilisateur ne peuvent pas être écrits.</translation>
+    </message>
+    <message>
+        <source>Shown again: %1</source>
+        <translation>S’affichera de nouveau : %1</translation>
+    </message>
+</context>
+<context>
+    <name>HiddenAlertsDialog</name>
+    <message>
+        <source>Hidden Warnings</source>
+        <translation>Avertissements masqués</translation>
+    </message>
+    <message>
+        <source>You have asked not to be shown these warnings again. Select those to be shown.</source>
+        <translation>Vous avez demandé à ne plus voir ces avertissements. Sélectionnez ceux à afficher de nouveau.</translation>
+    </message>
+    <message>
+        <source>Show Again</source>
+        <translation>Afficher de nouveau</translation>
+    </message>
+    <message>
+        <source>Show All Again</source>
+        <translation>Tous les afficher de nouveau</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Fermer</translation>
     </message>
 </context>
 <context>
@@ -507,6 +653,10 @@
         <source>Pages look like this: 1-3, 5</source>
         <translation>Les pages s’indiquent ainsi : 1-3, 5</translation>
     </message>
+    <message>
+        <source>Prese&amp;t:</source>
+        <translation>&amp;Préréglage :</translation>
+    </message>
 </context>
 <context>
     <name>JobOptions</name>
@@ -567,6 +717,25 @@
     <message>
         <source>The print server %1 did not say whether it took the job: it may have been printed as job %2.</source>
         <translation>Le serveur d’impression %1 n’a pas indiqué s’il acceptait le travail : celui-ci a peut-être été imprimé comme travail %2.</translation>
+    </message>
+</context>
+<context>
+    <name>LpoptionsFile</name>
+    <message>
+        <source>The saved settings in %1 cannot be read: %2.</source>
+        <translation>Les réglages enregistrés dans %1 ne peuvent pas être lus : %2.</translation>
+    </message>
+    <message>
+        <source>it is no such file</source>
+        <translation>ce n’est pas un tel fichier</translation>
+    </message>
+    <message>
+        <source>Another program is changing %1. Try again.</source>
+        <translation>Un autre programme est en train de modifier %1. Réessayez.</translation>
+    </message>
+    <message>
+        <source>These are too many settings for one name.</source>
+        <translation>Il y a trop de réglages pour un seul nom.</translation>
     </message>
 </context>
 <context>
@@ -912,6 +1081,99 @@
     <message>
         <source>The plug-in %1 cannot be used with this print dialog.</source>
         <translation>Le module %1 ne peut pas être utilisé avec cette boîte de dialogue d’impression.</translation>
+    </message>
+</context>
+<context>
+    <name>PresetNameDialog</name>
+    <message>
+        <source>Save</source>
+        <translation>Enregistrer</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuler</translation>
+    </message>
+    <message>
+        <source>&amp;Name:</source>
+        <translation>&amp;Nom :</translation>
+    </message>
+    <message>
+        <source>There is a preset of this name already.</source>
+        <translation>Il existe déjà un préréglage de ce nom.</translation>
+    </message>
+    <message>
+        <source>This replaces the preset of the same name.</source>
+        <translation>Cela remplace le préréglage du même nom.</translation>
+    </message>
+</context>
+<context>
+    <name>Presets</name>
+    <message>
+        <source>The preset &quot;%1&quot; was set up for everybody who uses this computer; it cannot be changed here.</source>
+        <translation>Le préréglage « %1 » a été créé pour tous les utilisateurs de cet ordinateur ; il ne peut pas être modifié ici.</translation>
+    </message>
+    <message>
+        <source>Give the preset a name.</source>
+        <translation>Donnez un nom au préréglage.</translation>
+    </message>
+    <message>
+        <source>The name of a preset has no spaces, slashes, quotes, braces or #; other programs would not find it. &quot;-&quot; and &quot;_&quot; are fine.</source>
+        <translation>Le nom d’un préréglage ne contient ni espaces, ni barres obliques, ni guillemets, ni accolades, ni # ; d’autres programmes ne le trouveraient pas. « - » et « _ » conviennent.</translation>
+    </message>
+    <message>
+        <source>The name is too long.</source>
+        <translation>Le nom est trop long.</translation>
+    </message>
+    <message>
+        <source>There is a preset &quot;%1&quot; already.</source>
+        <translation>Le préréglage « %1 » existe déjà.</translation>
+    </message>
+</context>
+<context>
+    <name>PresetsRow</name>
+    <message>
+        <source>Presets</source>
+        <translation>Préréglages</translation>
+    </message>
+    <message>
+        <source>Save as Preset…</source>
+        <translation>Enregistrer comme préréglage…</translation>
+    </message>
+    <message>
+        <source>Rename Preset…</source>
+        <translation>Renommer le préréglage…</translation>
+    </message>
+    <message>
+        <source>Delete Preset…</source>
+        <translation>Supprimer le préréglage…</translation>
+    </message>
+    <message>
+        <source>Back to the Printer&apos;s Defaults</source>
+        <translation>Revenir aux valeurs de l’imprimante</translation>
+    </message>
+    <message>
+        <source>Start with the Settings Used Last</source>
+        <translation>Commencer avec les derniers réglages utilisés</translation>
+    </message>
+    <message>
+        <source>Hidden Warnings…</source>
+        <translation>Avertissements masqués…</translation>
+    </message>
+    <message>
+        <source>Printer&apos;s Defaults</source>
+        <translation>Valeurs de l’imprimante</translation>
+    </message>
+    <message>
+        <source>Usual Settings</source>
+        <translation>Réglages habituels</translation>
+    </message>
+    <message>
+        <source>Settings Used Last</source>
+        <translation>Derniers réglages utilisés</translation>
+    </message>
+    <message>
+        <source>%1 (from the printer&apos;s maker)</source>
+        <translation>%1 (du fabricant de l’imprimante)</translation>
     </message>
 </context>
 <context>
@@ -1467,6 +1729,18 @@
         <source>There is no printer to print to.</source>
         <translation>Il n’y a aucune imprimante.</translation>
     </message>
+    <message>
+        <source>, </source>
+        <translation>, </translation>
+    </message>
+    <message>
+        <source>The printer no longer has some of the settings that you used last: %1.</source>
+        <translation>L’imprimante n’a plus certains des derniers réglages utilisés : %1.</translation>
+    </message>
+    <message>
+        <source>The printer does not have some of the settings that are saved for %1: %2.</source>
+        <translation>L’imprimante n’a pas certains des réglages enregistrés pour %1 : %2.</translation>
+    </message>
 </context>
 <context>
     <name>ProgressStrip</name>
@@ -1525,6 +1799,13 @@
     <message>
         <source>What was found</source>
         <translation>Résultats</translation>
+    </message>
+</context>
+<context>
+    <name>SavedOptions</name>
+    <message>
+        <source>There are no settings saved as &quot;%1&quot; for the printer %2.</source>
+        <translation>Aucun réglage n’est enregistré sous « %1 » pour l’imprimante %2.</translation>
     </message>
 </context>
 <context>

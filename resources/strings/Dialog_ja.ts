@@ -81,6 +81,10 @@
         <source>--check-ppd only looks at a PPD: it prints and replays nothing.</source>
         <translation>--check-ppd は PPD を調べるだけです。印刷やスクリプトの実行とは同時に指定できません。</translation>
     </message>
+    <message>
+        <source>--forget-alerts only has the warnings shown again: it prints nothing.</source>
+        <translation>--forget-alerts は警告を再び表示させるだけで、印刷は行いません。</translation>
+    </message>
 </context>
 <context>
     <name>Conflicts</name>
@@ -130,6 +134,17 @@
     <message>
         <source>H&amp;eight:</source>
         <translation>高さ(&amp;E):</translation>
+    </message>
+</context>
+<context>
+    <name>CustomValueFields</name>
+    <message>
+        <source>%1:</source>
+        <translation>%1:</translation>
+    </message>
+    <message>
+        <source> pt</source>
+        <translation> pt</translation>
     </message>
 </context>
 <context>
@@ -250,10 +265,6 @@
         <translation>%1 という設定画面はありません。</translation>
     </message>
     <message>
-        <source>This printer has none of the settings that the panels are for. It prints with the settings of this dialog alone.</source>
-        <translation>このプリンターには専用の設定項目がありません。この画面の設定だけで印刷します。</translation>
-    </message>
-    <message>
         <source>Choose a document to print.</source>
         <translation>印刷する文書を選んでください。</translation>
     </message>
@@ -324,6 +335,42 @@
     <message>
         <source>Go On</source>
         <translation>続ける</translation>
+    </message>
+    <message>
+        <source>Printer Features</source>
+        <translation>プリンターの機能</translation>
+    </message>
+    <message>
+        <source>A value in Printer Features cannot be used. Correct it there to print.</source>
+        <translation>「プリンターの機能」に使えない値があります。印刷するには直してください。</translation>
+    </message>
+    <message>
+        <source>Save as Preset</source>
+        <translation>プリセットとして保存</translation>
+    </message>
+    <message>
+        <source>Rename Preset</source>
+        <translation>プリセット名の変更</translation>
+    </message>
+    <message>
+        <source>Delete the preset &quot;%1&quot;?</source>
+        <translation>プリセット「%1」を削除しますか?</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>削除</translation>
+    </message>
+    <message>
+        <source>Keep</source>
+        <translation>残す</translation>
+    </message>
+    <message>
+        <source>No warnings are hidden: all are shown.</source>
+        <translation>非表示にした警告はありません。すべて表示されます。</translation>
+    </message>
+    <message>
+        <source>Some of the settings do not go together: the preset has what is shown now.</source>
+        <translation>組み合わせられない設定がありました。プリセットには現在表示されている設定が保存されました。</translation>
     </message>
     <message>
         <source>Choose the printer for this saved job.</source>
@@ -398,6 +445,105 @@
     <message>
         <source>Standard input</source>
         <translation>標準入力</translation>
+    </message>
+</context>
+<context>
+    <name>FeaturePicks</name>
+    <message>
+        <source>&quot;%1&quot; needs at least one choice.</source>
+        <translation>「%1」では少なくとも 1 つを選んでください。</translation>
+    </message>
+    <message>
+        <source>The printer does not take &quot;%1: %2&quot;.</source>
+        <translation>このプリンターでは「%1: %2」を設定できません。</translation>
+    </message>
+</context>
+<context>
+    <name>FeatureTexts</name>
+    <message>
+        <source>, </source>
+        <translation>、</translation>
+    </message>
+    <message>
+        <source>%1 %2</source>
+        <translation>%1 %2</translation>
+    </message>
+    <message>
+        <source>%1 is a number.</source>
+        <translation>%1 には数値を入力してください。</translation>
+    </message>
+    <message>
+        <source>%1 is at least %2.</source>
+        <translation>%1 は %2 以上にしてください。</translation>
+    </message>
+    <message>
+        <source>%1 is at most %2.</source>
+        <translation>%1 は %2 以下にしてください。</translation>
+    </message>
+    <message>
+        <source>%1 has at least %2 characters.</source>
+        <translation>%1 は %2 文字以上にしてください。</translation>
+    </message>
+    <message>
+        <source>%1 has at most %2 characters.</source>
+        <translation>%1 は %2 文字以内にしてください。</translation>
+    </message>
+    <message>
+        <source>%1 consists of digits.</source>
+        <translation>%1 には数字だけを入力してください。</translation>
+    </message>
+</context>
+<context>
+    <name>FeaturesPane</name>
+    <message>
+        <source>%1:</source>
+        <translation>%1:</translation>
+    </message>
+    <message>
+        <source>Installed in the Printer</source>
+        <translation>プリンターの装備</translation>
+    </message>
+    <message>
+        <source>What the printer has been fitted with. It is set when the printer is set up, for everybody, and can only be looked at here.</source>
+        <translation>プリンターに取り付けられている装備です。プリンターの導入時に全員共通で設定されるもので、ここでは確認だけができます。</translation>
+    </message>
+</context>
+<context>
+    <name>ForgetCommand</name>
+    <message>
+        <source>%1 is no plug-in.</source>
+        <translation>%1 はプラグインではありません。</translation>
+    </message>
+    <message>
+        <source>The user&apos;s settings cannot be written.</source>
+        <translation>ユーザーの設定を書き込めません。</translation>
+    </message>
+    <message>
+        <source>Shown again: %1</source>
+        <translation>再び表示します: %1</translation>
+    </message>
+</context>
+<context>
+    <name>HiddenAlertsDialog</name>
+    <message>
+        <source>Hidden Warnings</source>
+        <translation>非表示の警告</translation>
+    </message>
+    <message>
+        <source>You have asked not to be shown these warnings again. Select those to be shown.</source>
+        <translation>次の警告は表示しない設定になっています。再び表示するものを選んでください。</translation>
+    </message>
+    <message>
+        <source>Show Again</source>
+        <translation>再び表示</translation>
+    </message>
+    <message>
+        <source>Show All Again</source>
+        <translation>すべて再び表示</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>閉じる</translation>
     </message>
 </context>
 <context>
@@ -507,6 +653,10 @@
         <source>Pages look like this: 1-3, 5</source>
         <translation>「1-3, 5」のように入力してください</translation>
     </message>
+    <message>
+        <source>Prese&amp;t:</source>
+        <translation>プリセット(&amp;T):</translation>
+    </message>
 </context>
 <context>
     <name>JobOptions</name>
@@ -567,6 +717,25 @@
     <message>
         <source>The print server %1 did not say whether it took the job: it may have been printed as job %2.</source>
         <translation>プリントサーバー %1 から、ジョブを受け付けたかどうかの応答がありません。ジョブ %2 として印刷された可能性があります。</translation>
+    </message>
+</context>
+<context>
+    <name>LpoptionsFile</name>
+    <message>
+        <source>The saved settings in %1 cannot be read: %2.</source>
+        <translation>%1 に保存された設定を読み込めません: %2。</translation>
+    </message>
+    <message>
+        <source>it is no such file</source>
+        <translation>設定ファイルではありません</translation>
+    </message>
+    <message>
+        <source>Another program is changing %1. Try again.</source>
+        <translation>別のプログラムが %1 を変更しています。もう一度お試しください。</translation>
+    </message>
+    <message>
+        <source>These are too many settings for one name.</source>
+        <translation>設定が多すぎて、1 つの名前では保存できません。</translation>
     </message>
 </context>
 <context>
@@ -908,6 +1077,99 @@
     <message>
         <source>The plug-in %1 cannot be used with this print dialog.</source>
         <translation>プラグイン %1 はこの印刷画面では使用できません。</translation>
+    </message>
+</context>
+<context>
+    <name>PresetNameDialog</name>
+    <message>
+        <source>Save</source>
+        <translation>保存</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>キャンセル</translation>
+    </message>
+    <message>
+        <source>&amp;Name:</source>
+        <translation>名前(&amp;N):</translation>
+    </message>
+    <message>
+        <source>There is a preset of this name already.</source>
+        <translation>同じ名前のプリセットがすでにあります。</translation>
+    </message>
+    <message>
+        <source>This replaces the preset of the same name.</source>
+        <translation>同じ名前のプリセットが置き換えられます。</translation>
+    </message>
+</context>
+<context>
+    <name>Presets</name>
+    <message>
+        <source>The preset &quot;%1&quot; was set up for everybody who uses this computer; it cannot be changed here.</source>
+        <translation>プリセット「%1」はこのコンピューターの全員用に設定されたもので、ここでは変更できません。</translation>
+    </message>
+    <message>
+        <source>Give the preset a name.</source>
+        <translation>プリセットの名前を入力してください。</translation>
+    </message>
+    <message>
+        <source>The name of a preset has no spaces, slashes, quotes, braces or #; other programs would not find it. &quot;-&quot; and &quot;_&quot; are fine.</source>
+        <translation>プリセットの名前には空白、スラッシュ、引用符、波括弧、# を使えません（ほかのプログラムから見つけられなくなるため）。「-」と「_」は使えます。</translation>
+    </message>
+    <message>
+        <source>The name is too long.</source>
+        <translation>名前が長すぎます。</translation>
+    </message>
+    <message>
+        <source>There is a preset &quot;%1&quot; already.</source>
+        <translation>プリセット「%1」はすでにあります。</translation>
+    </message>
+</context>
+<context>
+    <name>PresetsRow</name>
+    <message>
+        <source>Presets</source>
+        <translation>プリセット</translation>
+    </message>
+    <message>
+        <source>Save as Preset…</source>
+        <translation>プリセットとして保存…</translation>
+    </message>
+    <message>
+        <source>Rename Preset…</source>
+        <translation>プリセット名の変更…</translation>
+    </message>
+    <message>
+        <source>Delete Preset…</source>
+        <translation>プリセットの削除…</translation>
+    </message>
+    <message>
+        <source>Back to the Printer&apos;s Defaults</source>
+        <translation>プリンターの初期値に戻す</translation>
+    </message>
+    <message>
+        <source>Start with the Settings Used Last</source>
+        <translation>前回の設定で始める</translation>
+    </message>
+    <message>
+        <source>Hidden Warnings…</source>
+        <translation>非表示の警告…</translation>
+    </message>
+    <message>
+        <source>Printer&apos;s Defaults</source>
+        <translation>プリンターの初期値</translation>
+    </message>
+    <message>
+        <source>Usual Settings</source>
+        <translation>いつもの設定</translation>
+    </message>
+    <message>
+        <source>Settings Used Last</source>
+        <translation>前回の設定</translation>
+    </message>
+    <message>
+        <source>%1 (from the printer&apos;s maker)</source>
+        <translation>%1（プリンターメーカー提供）</translation>
     </message>
 </context>
 <context>
@@ -1463,6 +1725,18 @@
         <source>There is no printer to print to.</source>
         <translation>印刷できるプリンターがありません。</translation>
     </message>
+    <message>
+        <source>, </source>
+        <translation>、</translation>
+    </message>
+    <message>
+        <source>The printer no longer has some of the settings that you used last: %1.</source>
+        <translation>前回使った設定の一部が、このプリンターにはもうありません: %1。</translation>
+    </message>
+    <message>
+        <source>The printer does not have some of the settings that are saved for %1: %2.</source>
+        <translation>%1 に保存された設定の一部が、このプリンターにはありません: %2。</translation>
+    </message>
 </context>
 <context>
     <name>ProgressStrip</name>
@@ -1521,6 +1795,13 @@
     <message>
         <source>What was found</source>
         <translation>検索結果</translation>
+    </message>
+</context>
+<context>
+    <name>SavedOptions</name>
+    <message>
+        <source>There are no settings saved as &quot;%1&quot; for the printer %2.</source>
+        <translation>プリンター %2 に「%1」という名前で保存された設定はありません。</translation>
     </message>
 </context>
 <context>

@@ -149,6 +149,23 @@ TEST_F(SeveralMarks, GiveWayToAChoiceOfTheDialogs)
     EXPECT_EQ(changed(), (Marks{{u"Finish"_s, u"Coarse"_s}}));
 }
 
+TEST_F(SeveralMarks, AreMadeTogetherAndToldTogether)
+{
+    EXPECT_TRUE(forceChoice(m_opened.ppd.get(), u"Finish"_s, u"coarse,Matt"_s));
+    EXPECT_EQ(marked("Finish"), (QStringList{u"Matt"_s, u"Coarse"_s}));
+    EXPECT_EQ(changed(), (Marks{{u"Finish"_s, u"Matt,Coarse"_s}}));
+    for (const QString &bad : {u"Matt,Silk"_s, u"Matt,"_s, u","_s, QString()})
+        EXPECT_FALSE(forceChoice(m_opened.ppd.get(), u"Finish"_s, bad)) << bad.toStdString();
+    EXPECT_EQ(changed(), (Marks{{u"Finish"_s, u"Matt,Coarse"_s}}));
+}
+
+TEST_F(MarksOf, AnOptionOfOneChoiceAreNeverSeveral)
+{
+    open(smallPrinter().text());
+    EXPECT_FALSE(forceChoice(m_opened.ppd.get(), u"Finish"_s, u"Matt,Shiny"_s));
+    EXPECT_EQ(changed(), Marks());
+}
+
 TEST_F(SeveralMarks, StandWhereAPickIsRefused)
 {
     ppdMarkOption(m_opened.ppd.get(), "Finish", "Coarse");

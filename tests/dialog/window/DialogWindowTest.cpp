@@ -42,10 +42,8 @@ TEST_F(Window, HasNoPanelsForAPrinterThatNoPlugInIsFor)
     writeFile(m_line.ppd, smallPrinter().attribute("Manufacturer", "Example").text());
     open();
     EXPECT_EQ(m_window->state(), DialogWindow::State::Ready);
-    EXPECT_EQ(tabs(), (QStringList{u"Page Setup"_s, u"Summary"_s}));
-    EXPECT_EQ(notice(),
-              u"This printer has none of the settings that the panels are for. It prints with "
-              "the settings of this dialog alone."_s);
+    EXPECT_EQ(tabs(), (QStringList{u"Page Setup"_s, u"Printer Features"_s, u"Summary"_s}));
+    EXPECT_EQ(notice(), QString());
     print();
     EXPECT_TRUE(m_window->outcome());
 }
@@ -505,7 +503,7 @@ TEST_F(Window, WithoutAPlugInSaysSoAndPrintsWithItsOwnSettings)
 {
     m_line.plugIn = m_folder.path();
     open();
-    EXPECT_EQ(tabs(), (QStringList{u"Page Setup"_s, u"Summary"_s}));
+    EXPECT_EQ(tabs(), (QStringList{u"Page Setup"_s, u"Printer Features"_s, u"Summary"_s}));
     EXPECT_EQ(notice(), u"The plug-in %1 is incomplete: it has no readable Info.json. Install "
                         "Velkaro Print again."_s.arg(m_folder.path()));
     pick("paperPopup", u"A3"_s);
@@ -514,15 +512,14 @@ TEST_F(Window, WithoutAPlugInSaysSoAndPrintsWithItsOwnSettings)
     EXPECT_TRUE(written().contains("Option: PageSize=A3\n"));
 }
 
-TEST_F(Window, WithAPrinterOfAnotherKindSaysSo)
+TEST_F(Window, HasNoTabWhereAPanelHasNothingToShow)
 {
     m_line.ppd = m_folder.filePath(u"other.ppd"_s);
     writeFile(m_line.ppd, PPDSource().papers({{"A4", 595, 842}, {"A5", 420, 595}}).text());
     open();
     EXPECT_EQ(m_window->state(), DialogWindow::State::Ready);
     EXPECT_EQ(tabs(), (QStringList{u"Page Setup"_s, u"Summary"_s}));
-    EXPECT_EQ(notice(), u"This printer has none of the settings that the panels are for. It prints "
-                        "with the settings of this dialog alone."_s);
+    EXPECT_EQ(notice(), QString());
     print();
     EXPECT_TRUE(m_window->outcome());
 }

@@ -71,7 +71,8 @@ TEST_F(Keyboard, GoesFromPartToPartFromEveryControl)
 }
 
 // What every part has before and after its own controls.
-const QStringList kBefore{u"Choose…"_s, u"Printer:"_s, u"Copies:"_s, u"Pages:"_s};
+const QStringList kBefore{u"Choose…"_s, u"Printer:"_s, u"Preset:"_s,
+                          u"Presets"_s, u"Copies:"_s,  u"Pages:"_s};
 const QStringList kAfter{u"Help"_s, u"Cancel"_s, u"Save"_s};
 
 struct Walk
