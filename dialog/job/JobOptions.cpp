@@ -77,6 +77,8 @@ void putSettings(QList<JobOption> &options, const JobValues &values)
         put(options, {u"page-ranges"_s, values.settings.pageRanges});
     if (values.format.orientation == PMOrientation::Landscape)
         put(options, {u"orientation-requested"_s, kLandscape});
+    for (const JobOption &option : layoutOptions(values.settings.layout))
+        put(options, option);
 }
 
 QString ticketText(const QVariant &value)

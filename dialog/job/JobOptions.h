@@ -1,6 +1,7 @@
 #pragma once
 
 #include "dialog/host/PPDMarks.h"
+#include "dialog/job/JobLayout.h"
 #include "dialog/job/JobOption.h"
 #include "platform/ppd/CupsPPD.h"
 #include "platform/printmanager/PMPageFormat.h"
@@ -15,6 +16,7 @@ struct HostSettings
 {
     int copies = 1;
     QString pageRanges; ///< as normalizedPageRanges() gives them; empty: all
+    JobLayout layout;
 
     bool operator==(const HostSettings &) const = default;
 };

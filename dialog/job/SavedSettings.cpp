@@ -31,6 +31,16 @@ void markAll(ppd_file_t *ppd, const QList<JobOption> &saved)
     cupsFreeOptions(count, options);
 }
 
+/// True when the option is one of a layout, with a value that it can have.
+bool takeLayout(JobLayout &layout, const JobOption &option)
+{
+    const LayoutSetting *setting = layoutSetting(option.name);
+    const QString value = setting ? normalizedLayoutValue(*setting, option.value) : QString();
+    if (!value.isNull())
+        layout.*setting->value = value;
+    return !value.isNull();
+}
+
 /// True when the option is one of the dialog's own settings, which then has it.
 bool takeSetting(SavedSettings &settings, const JobOption &option)
 {
@@ -44,7 +54,7 @@ bool takeSetting(SavedSettings &settings, const JobOption &option)
                                    ? PMOrientation::Landscape
                                    : PMOrientation::Portrait;
     else
-        return false;
+        return takeLayout(settings.settings.layout, option);
     return true;
 }
 

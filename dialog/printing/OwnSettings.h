@@ -4,8 +4,8 @@
 
 class PrintJob;
 
-/// The settings of the dialog's own that may be asked for by name: `copies`, `page-ranges` and
-/// `orientation-requested`.
+/// The settings of the dialog's own that may be asked for by name: `copies`, `page-ranges`,
+/// `orientation-requested`, and those of a layout.
 
 bool isOwnSetting(const QString &name);
 

@@ -23,7 +23,12 @@ public:
     explicit PrintJob(Documents documents = {});
 
     const Documents &documents() const { return m_documents; }
-    const QString &title() const { return m_title; }
+    /// The user's own title, else the documents'.
+    QString title() const { return m_ownTitle.isEmpty() ? m_title : m_ownTitle; }
+    const QString &documentTitle() const { return m_title; }
+    const QString &ownTitle() const { return m_ownTitle; }
+    void setTitle(const QString &title) { m_ownTitle = title; }
+
     void setDocuments(const Documents &documents);
 
     /// Takes another printer; the former one's panels must not be on screen any more. Copies and
@@ -72,7 +77,8 @@ private:
     const PMPageFormat &format() const;
 
     Documents m_documents;
-    QString m_title;
+    QString m_title;    ///< of the documents
+    QString m_ownTitle; ///< empty: the user has given none
     PrinterSource m_source;
     HostSettings m_settings;
     HostSettings m_savedSettings; // to tell whether the user has settled anything since

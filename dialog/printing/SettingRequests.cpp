@@ -24,12 +24,6 @@ Fault settingFault(const QString &sentence)
     return {FaultKind::Request, sentence};
 }
 
-Fault badValue(const RequestedChoice &wanted)
-{
-    return settingFault(QCoreApplication::translate("SettingRequests", "%2 is no value for %1.")
-                            .arg(displayText(wanted.keyword), displayText(wanted.choice)));
-}
-
 // --- What is known -------------------------------------------------------------------------------
 
 QString millimetres(double points)
@@ -85,7 +79,7 @@ Result<RequestedChoice> knownOwnSetting(const RequestedChoice &wanted)
 {
     const QString value = normalizedOwnValue(wanted.keyword, wanted.choice);
     if (value.isNull())
-        return badValue(wanted);
+        return noSuchValue(wanted);
     return RequestedChoice{wanted.keyword, value};
 }
 
@@ -98,7 +92,7 @@ Result<RequestedChoice> knownChoice(const PrintJob &job, const RequestedChoice &
                 .arg(displayText(keyword)));
     const RequestedChoice known{keyword, choice};
     if (!findChoice(findOption(job.ppd(), keyword), choice))
-        return badValue(known);
+        return noSuchValue(known);
     return known;
 }
 
@@ -131,6 +125,21 @@ QString valueText(const PrintJob &job, const RequestedChoice &known)
 }
 
 } // namespace
+
+Fault noSuchValue(const RequestedChoice &wanted)
+{
+    return settingFault(QCoreApplication::translate("SettingRequests", "%2 is no value for %1.")
+                            .arg(displayText(wanted.keyword), displayText(wanted.choice)));
+}
+
+Result<> checkOwnSettings(const QList<RequestedChoice> &wanted)
+{
+    for (const RequestedChoice &one : wanted)
+        if (isOwnSetting(one.keyword))
+            if (const Result<RequestedChoice> known = knownOwnSetting(one); !known)
+                return known.fault();
+    return {};
+}
 
 Result<RequestedChoice> knownSetting(const PrintJob &job, const RequestedChoice &wanted)
 {

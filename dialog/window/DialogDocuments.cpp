@@ -7,15 +7,27 @@
 /// What is written into a pipe may take its time: meanwhile everything can be settled but Print.
 void DialogWindow::readPipes()
 {
-    if (!hasPipes(job().documents()))
+    if (!hasPipes(job().documents())) {
+        countPages();
         return;
+    }
     m_controller.readPipes([this](const Result<> &read) {
         m_documentState = read;
         m_header->reload();
+        countPages();
         if (m_state != State::Ready)
             return;
         m_standing = standing();
         tellStanding();
+    });
+}
+
+/// Meanwhile, and where it cannot be known, any pages may be typed.
+void DialogWindow::countPages()
+{
+    m_controller.countPages([this](const PageCount &count) {
+        m_header->setPageCount(count);
+        updateButtons();
     });
 }
 

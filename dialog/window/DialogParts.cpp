@@ -1,5 +1,7 @@
+#include "dialog/job/JobLayout.h"
 #include "dialog/job/Papers.h"
 #include "dialog/window/DialogWindow.h"
+#include "dialog/window/LayoutPane.h"
 #include "dialog/window/PageSetupPane.h"
 #include "dialog/window/PanelPane.h"
 #include "dialog/window/SentSettings.h"
@@ -22,6 +24,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr auto kPageSetup = "setup"_L1;
+constexpr auto kLayout = "layout"_L1;
 constexpr auto kSummary = "summary"_L1;
 
 /// Whether the panel has anything to show for this PPD.
@@ -55,6 +58,9 @@ void DialogWindow::buildParts()
             m_parts.push_back({panel.name, pane, &panel});
             m_tabs->addTab(pane, tabTitle(panel.panel->panelName()));
         }
+    m_layout->reload();
+    m_parts.push_back({kLayout, m_layout, nullptr});
+    m_tabs->addTab(m_layout, tabTitle(tr("Layout & Job")));
     m_parts.push_back({kSummary, m_summary, nullptr});
     giveAccessibleName(m_summary, tr("Summary"));
     m_tabs->addTab(m_summary, tr("Summary"));
@@ -65,6 +71,8 @@ void DialogWindow::buildParts()
 
 void DialogWindow::removeParts()
 {
+    m_coversAreListed = false;
+    m_layout->setCoverPages({});
     const QSignalBlocker quiet(m_tabs);
     m_shownPanel = nullptr;
     m_tabs->clear(); // the pages themselves stay
@@ -109,6 +117,8 @@ void DialogWindow::changePart()
         static_cast<PanelPane *>(part->page)->setView(view);
         m_viewIsMissing = !view;
     }
+    if (part->page == m_layout)
+        listCoverPages();
     if (part->page == m_summary)
         m_summary->setSections(summarySections());
     moveButtonsLast();
@@ -184,6 +194,7 @@ QList<SummarySection> DialogWindow::summarySections()
     }
     // Panels may change what is sent while they sum it up.
     sections.prepend(ownSection());
+    sections += layoutSection();
     sections += SummarySection{tr("Also Sent"), linesOfTheRest(job(), told)};
     return sections;
 }
@@ -212,4 +223,26 @@ SummarySection DialogWindow::ownSection() const
             {tr("Color Management"), byPrinter ? tr("By the Printer") : tr("By the Application")};
     }
     return own;
+}
+
+SummarySection DialogWindow::layoutSection() const
+{
+    SummarySection section{tr("Layout & Job"), {}};
+    if (!job().ownTitle().isEmpty())
+        section.lines += {tr("Job Title"), job().ownTitle()};
+    for (const LayoutSetting &setting : layoutSettings())
+        if (const QString &value = job().settings().layout.*setting.value; !value.isEmpty())
+            section.lines += {layoutTitle(setting), layoutText(setting, value)};
+    return section;
+}
+
+/// Once for a printer, when the cover pages can be seen.
+void DialogWindow::listCoverPages()
+{
+    if (job().source().queue.queue.isEmpty() || std::exchange(m_coversAreListed, true))
+        return;
+    m_controller.listCoverPages([this](const Result<QStringList> &covers) {
+        if (covers)
+            m_layout->setCoverPages(*covers);
+    });
 }

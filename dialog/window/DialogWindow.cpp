@@ -3,6 +3,7 @@
 #include "dialog/job/PipeDocuments.h"
 #include "dialog/window/HostHelp.h"
 #include "dialog/window/JobHeader.h"
+#include "dialog/window/LayoutPane.h"
 #include "dialog/window/PageSetupPane.h"
 #include "dialog/window/PrinterPopUp.h"
 #include "dialog/window/ProgressStrip.h"
@@ -68,6 +69,7 @@ void DialogWindow::buildLayout()
     m_tabs = new QTabWidget(this);
     m_tabs->setObjectName(u"parts"_s);
     m_pageSetup = new PageSetupPane(job());
+    m_layout = new LayoutPane(job());
     m_summary = new SummaryPane;
     auto *layout = new QVBoxLayout(this);
     layout->setContentsMargins(kWindowMargin, kWindowMargin, kWindowMargin, kWindowMargin);
@@ -83,6 +85,7 @@ void DialogWindow::buildLayout()
     connect(m_header, &JobHeader::documentsWanted, this, &DialogWindow::chooseDocuments);
     connect(m_header, &JobHeader::changed, this, &DialogWindow::tellStanding);
     connect(m_pageSetup, &PageSetupPane::changed, this, &DialogWindow::tellStanding);
+    connect(m_layout, &LayoutPane::changed, this, &DialogWindow::tellStanding);
     connect(m_pageSetup, &PageSetupPane::refused, this, [this](const QString &sentence) {
         tellEvent(); // what was before
         tell(NoticeBar::Kind::Warning, sentence);
@@ -157,7 +160,7 @@ void DialogWindow::setState(State state)
 bool DialogWindow::mayPrint() const
 {
     return m_state == State::Ready && !job().documents().empty() && !hasPipes(job().documents()) &&
-           m_header->isAcceptable() && m_pageSetup->isAcceptable();
+           m_header->isAcceptable() && m_pageSetup->isAcceptable() && m_layout->isAcceptable();
 }
 
 void DialogWindow::updateButtons()

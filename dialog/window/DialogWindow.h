@@ -14,6 +14,7 @@
 #include <vector>
 
 class JobHeader;
+class LayoutPane;
 class PageSetupPane;
 class PanelPane;
 class ProgressStrip;
@@ -130,6 +131,7 @@ private:
     // DialogDocuments.cpp
     void readPipes();
     void chooseDocuments();
+    void countPages();
 
     // DialogPrinter.cpp
     void choosePrinter();
@@ -141,6 +143,7 @@ private:
     void takePrinter(const Result<FoundPrinter> &found);
     void showPrinter();
     void makeRequestedSettings();
+    void endWithoutPanel();
     Notice standing() const;
     Notice whatIsMissing() const;
     void watchPrinters();
@@ -158,6 +161,8 @@ private:
     void setHeight(int height);
     QList<SummarySection> summarySections();
     SummarySection ownSection() const;
+    SummarySection layoutSection() const;
+    void listCoverPages();
 
     // DialogPrint.cpp
     std::optional<JobRequest> finishedJob();
@@ -182,6 +187,7 @@ private:
     QList<Fault> m_shortcomings;           ///< of the printer
     Notice m_standing;                     ///< shown while there is nothing newer to tell
     QString m_refusalToTell;               ///< of the pick that is going on
+    bool m_coversAreListed = false;        ///< of the printer
     PPDMark m_pick;           ///< of the user, in the event that is going on; null: none yet
     SettingState m_toldState; ///< to tell what an event has changed
     bool m_eventIsNoted = false;
@@ -196,6 +202,7 @@ private:
     ProgressStrip *m_progress;
     QTabWidget *m_tabs;
     PageSetupPane *m_pageSetup;
+    LayoutPane *m_layout;
     SummaryPane *m_summary;
     QPushButton *m_help = nullptr;
     QPushButton *m_save = nullptr;

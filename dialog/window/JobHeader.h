@@ -1,6 +1,10 @@
 #pragma once
 
+#include "dialog/printing/PageCounter.h"
+
 #include <QtWidgets/QWidget>
+
+#include <optional>
 
 class NumberField;
 class PrinterPopUp;
@@ -20,10 +24,14 @@ public:
 
     PrinterPopUp *printers() const { return m_printers; }
 
+    /// The pages of the job's documents, as far as they are known.
+    void setPageCount(const PageCount &count);
+
     /// Shows the job's documents and settings.
     void reload();
 
-    /// Whether the pages that were typed are a list of pages.
+    /// Whether the pages that were typed are a list of pages, of which the documents have some as
+    /// far as that is known.
     bool isAcceptable() const;
 
 Q_SIGNALS:
@@ -33,6 +41,8 @@ Q_SIGNALS:
 
 private:
     void takePages();
+    void judgePages();
+    std::optional<int> typedBeyond() const;
 
     PrintJob &m_job;
     QLabel *m_documents;
@@ -41,4 +51,5 @@ private:
     NumberField *m_copies;
     QLineEdit *m_pages;
     QLabel *m_pagesValidation;
+    std::optional<PageCount> m_pageCount; ///< none while it is being counted
 };

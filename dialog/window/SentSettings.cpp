@@ -1,6 +1,7 @@
 #include "dialog/window/SentSettings.h"
 
 #include "dialog/host/HostSession.h"
+#include "dialog/job/JobLayout.h"
 #include "dialog/job/Papers.h"
 #include "dialog/job/StandardAttributes.h"
 #include "platform/pde/PDESummary.h"
@@ -52,7 +53,7 @@ bool isTold(const PrintJob &job, const JobOption &option)
         return isScalingTold(job);
     if (option.name == kPMColorMatchingModeKey)
         return job.offersColorMatching();
-    return always.contains(option.name) ||
+    return always.contains(option.name) || layoutSetting(option.name) ||
            job.ownKeywords().contains(option.name, Qt::CaseInsensitive);
 }
 

@@ -57,10 +57,12 @@ TEST_F(JobOptionsOf, PicksAreThoseThatDifferFromThePPD)
 
 TEST_F(JobOptionsOf, TheHostSettingsTravelBesideThem)
 {
-    m_values.settings = {3, u"1-2,5"_s};
+    m_values.settings.copies = 3;
+    m_values.settings.pageRanges = u"1-2,5"_s;
+    m_values.settings.layout.pageSet = u"odd"_s;
     m_values.format.orientation = PMOrientation::Landscape;
-    EXPECT_EQ(made(),
-              (QStringList{u"copies=3"_s, u"page-ranges=1-2,5"_s, u"orientation-requested=4"_s}));
+    EXPECT_EQ(made(), (QStringList{u"copies=3"_s, u"page-ranges=1-2,5"_s,
+                                   u"orientation-requested=4"_s, u"page-set=odd"_s}));
 }
 
 TEST_F(JobOptionsOf, TheTicketTravelsUnderVendorKeysOnly)
@@ -185,7 +187,7 @@ TEST_F(JobOptionsOfAHostilePPD, KeepTheSavedSettingsOfThoseNames)
     EXPECT_EQ(saved.settings.copies, 3);
     m_values.settings = saved.settings;
     m_values.saved = saved.others;
-    EXPECT_EQ(made(), (QStringList{u"job-hold-until=evening"_s, u"copies=3"_s}));
+    EXPECT_EQ(made(), (QStringList{u"copies=3"_s, u"job-hold-until=evening"_s}));
 }
 
 struct Sendable

@@ -25,7 +25,7 @@ TEST_F(Window, ShowsThePanelsBetweenPageSetupAndSummary)
     open();
     EXPECT_EQ(m_window->state(), DialogWindow::State::Ready);
     EXPECT_EQ(tabs(), (QStringList{u"Page Setup"_s, u"Print Settings"_s, u"Color Settings"_s,
-                                   u"Summary"_s}));
+                                   u"Layout && Job"_s, u"Summary"_s}));
     EXPECT_EQ(part<QTabWidget>("parts")->currentIndex(), 1);
     EXPECT_TRUE(part<QWidget>("mediaTypePopup")->isVisible());
     EXPECT_EQ(notice(), QString());
@@ -39,7 +39,7 @@ TEST_F(Window, HasNoPanelsForAPrinterThatNoPlugInIsFor)
     writeFile(m_line.ppd, smallPrinter().attribute("Manufacturer", "Example").text());
     open();
     EXPECT_EQ(m_window->state(), DialogWindow::State::Ready);
-    EXPECT_EQ(tabs(), (QStringList{u"Page Setup"_s, u"Summary"_s}));
+    EXPECT_EQ(tabs(), (QStringList{u"Page Setup"_s, u"Layout && Job"_s, u"Summary"_s}));
     EXPECT_EQ(notice(),
               u"This printer has none of the settings that the panels are for. It prints with "
               "the settings of this dialog alone."_s);
@@ -328,7 +328,7 @@ TEST_F(Window, WithoutAPlugInSaysSoAndPrintsWithItsOwnSettings)
 {
     m_line.plugIn = m_folder.path();
     open();
-    EXPECT_EQ(tabs(), (QStringList{u"Page Setup"_s, u"Summary"_s}));
+    EXPECT_EQ(tabs(), (QStringList{u"Page Setup"_s, u"Layout && Job"_s, u"Summary"_s}));
     EXPECT_EQ(notice(), u"The plug-in %1 is incomplete: it has no readable Info.json. Install "
                         "Velkaro Print again."_s.arg(m_folder.path()));
     pick("paperPopup", u"A3"_s);
@@ -343,7 +343,7 @@ TEST_F(Window, WithAPrinterOfAnotherKindSaysSo)
     writeFile(m_line.ppd, PPDSource().papers({{"A4", 595, 842}, {"A5", 420, 595}}).text());
     open();
     EXPECT_EQ(m_window->state(), DialogWindow::State::Ready);
-    EXPECT_EQ(tabs(), (QStringList{u"Page Setup"_s, u"Summary"_s}));
+    EXPECT_EQ(tabs(), (QStringList{u"Page Setup"_s, u"Layout && Job"_s, u"Summary"_s}));
     EXPECT_EQ(notice(), u"This printer has none of the settings that the panels are for. It prints "
                         "with the settings of this dialog alone."_s);
     print();
