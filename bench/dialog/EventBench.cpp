@@ -13,6 +13,7 @@
 #include <QtCore/QTemporaryDir>
 #include <QtCore/QTimer>
 #include <QtWidgets/QApplication>
+#include <QtWidgets/QLineEdit>
 #include <QtWidgets/QTabWidget>
 
 #include <algorithm>
@@ -146,6 +147,15 @@ double listPrinters(EventCosts &costs, DialogWindow &window)
     return costs.of([&] { printers->setDestinations(many); });
 }
 
+double searchPrinters(EventCosts &costs, DialogWindow &window)
+{
+    listPrinters(costs, window);
+    PopUpButton *printers = window.findChild<PrinterPopUp *>()->popup();
+    const double opened = costs.of([=] { printers->showPopup(); });
+    auto *words = printers->findChild<QLineEdit *>();
+    return std::max(opened, costs.of([=] { words->insert(u"9"_s); }));
+}
+
 void printLimits(EventCosts &costs)
 {
     const QTemporaryDir folder;
@@ -173,6 +183,7 @@ int main(int argc, char **argv)
     printRow(costs, "a pick in Print Settings", sample, pickEverywhere);
     printRow(costs, "a pick in Page Setup", sample, pickInPageSetup);
     printRow(costs, "20,000 printers are listed", sample, listPrinters);
+    printRow(costs, "20,000 printers are searched", sample, searchPrinters);
     printLimits(costs);
     return 0;
 }

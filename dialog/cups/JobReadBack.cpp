@@ -13,14 +13,22 @@ ipp_attribute_t *find(ipp_t *job, const QByteArray &name)
     return ippFindAttribute(job, name.constData(), IPP_TAG_ZERO);
 }
 
+/// Whether the job was sent to wait at the server.
+bool isToBeHeld(const QList<JobOption> &sent)
+{
+    const QString hold = optionValue(sent, QStringLiteral("job-hold-until"));
+    return !hold.isEmpty() && hold != QLatin1String("no-hold");
+}
+
 /// What is said of a job in this state; null when there is nothing to say.
-const char *stateNote(ipp_t *job)
+const char *stateNote(ipp_t *job, const QList<JobOption> &sent)
 {
     ipp_attribute_t *state = find(job, "job-state");
     ipp_attribute_t *reasons = find(job, "job-state-reasons");
     switch (state ? ippGetInteger(state, 0) : 0) {
     case IPP_JSTATE_HELD:
-        return QT_TRANSLATE_NOOP("JobReadBack", "The server holds job %1 (%2).");
+        return isToBeHeld(sent) ? nullptr
+                                : QT_TRANSLATE_NOOP("JobReadBack", "The server holds job %1 (%2).");
     case IPP_JSTATE_CANCELED:
         return QT_TRANSLATE_NOOP("JobReadBack", "The server has cancelled job %1 (%2).");
     case IPP_JSTATE_ABORTED:
@@ -69,11 +77,13 @@ IppHandle jobRequest(const QString &queue, int jobId, const QList<JobOption> &se
 QStringList differences(ipp_t *job, int jobId, const QList<JobOption> &sent)
 {
     QStringList notes;
-    if (const char *note = stateNote(job))
+    if (const char *note = stateNote(job, sent))
         notes += QCoreApplication::translate("JobReadBack", note)
                      .arg(QString::number(jobId),
                           shownServerText(attributeText(find(job, "job-state-reasons"))));
     for (const JobOption &option : sent) {
+        if (isOfSubscription(option)) // no attribute of the job
+            continue;
         const QString note = difference(job, option);
         if (!note.isNull())
             notes += note;

@@ -12,7 +12,11 @@ IppHandle createJobRequest(const JobRequest &job)
     ippAddString(request.get(), IPP_TAG_OPERATION, IPP_TAG_NAME, "job-name", nullptr,
                  outgoingTitle(job.title).constData());
     for (const JobOption &option : job.options)
-        addOptionAttribute(request.get(), option);
+        if (!isOfSubscription(option))
+            addOptionAttribute(request.get(), option);
+    for (const JobOption &option : job.options)
+        if (isOfSubscription(option))
+            addSubscription(request.get(), option);
     return request;
 }
 

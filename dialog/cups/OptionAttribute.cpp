@@ -1,6 +1,7 @@
 #include "dialog/cups/OptionAttribute.h"
 
 #include <QtCore/QByteArray>
+#include <QtCore/QByteArrayList>
 #include <QtCore/QStringList>
 
 #include <array>
@@ -15,12 +16,16 @@ struct Standard
 };
 
 // The standard attributes that the dialog or lpoptions may send, with their syntax.
+constexpr auto kRecipient = "notify-recipient-uri";
+constexpr auto kCoverPages = "job-sheets"; // of several values
+
 constexpr std::array kStandard{
     Standard{"copies", IPP_TAG_INTEGER},
     Standard{"fit-to-page", IPP_TAG_BOOLEAN},
     Standard{"finishings", IPP_TAG_ENUM},
     Standard{"job-hold-until", IPP_TAG_KEYWORD},
     Standard{"job-priority", IPP_TAG_INTEGER},
+    Standard{"job-sheets", IPP_TAG_KEYWORD},
     Standard{"multiple-document-handling", IPP_TAG_KEYWORD},
     Standard{"number-up", IPP_TAG_INTEGER},
     Standard{"number-up-layout", IPP_TAG_KEYWORD},
@@ -53,7 +58,30 @@ void addRanges(ipp_t *request, const char *name, const QString &value)
                  upper.data());
 }
 
+void addList(ipp_t *request, ipp_tag_t tag, const QByteArray &name, const QString &value)
+{
+    std::vector<const char *> texts;
+    const QByteArrayList values = value.toUtf8().split(',');
+    for (const QByteArray &one : values)
+        texts.push_back(one.constData());
+    ippAddStrings(request, IPP_TAG_JOB, tag, name.constData(), static_cast<int>(texts.size()),
+                  nullptr, texts.data());
+}
+
 } // namespace
+
+bool isOfSubscription(const JobOption &option)
+{
+    return option.name == QLatin1String(kRecipient);
+}
+
+void addSubscription(ipp_t *request, const JobOption &option)
+{
+    ippAddString(request, IPP_TAG_SUBSCRIPTION, IPP_TAG_URI, kRecipient, nullptr,
+                 option.value.toUtf8().constData());
+    ippAddString(request, IPP_TAG_SUBSCRIPTION, IPP_TAG_KEYWORD, "notify-events", nullptr,
+                 "job-completed");
+}
 
 void addOptionAttribute(ipp_t *request, const JobOption &option)
 {
@@ -72,6 +100,8 @@ void addOptionAttribute(ipp_t *request, const JobOption &option)
         addRanges(request, name.constData(), option.value);
         return;
     default:
+        if (name == kCoverPages)
+            return addList(request, tag, name, option.value);
         ippAddString(request, IPP_TAG_JOB, tag, name.constData(), nullptr,
                      option.value.toUtf8().constData());
     }

@@ -9,5 +9,12 @@
 /// boolean of it, and several values of one with a comma.
 void addOptionAttribute(ipp_t *request, const JobOption &option);
 
+/// Whether the option is no attribute of the job but one of a subscription that comes with it.
+bool isOfSubscription(const JobOption &option);
+
+/// Adds the subscription that the option asks for: to be told of the job's end. After all
+/// attributes of the job.
+void addSubscription(ipp_t *request, const JobOption &option);
+
 /// The attribute's value in the form that the option had.
 QString attributeText(ipp_attribute_t *attribute);

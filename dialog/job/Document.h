@@ -32,6 +32,9 @@ public:
     const QString &path() const { return m_path; }
 
     bool isPipe() const { return m_size < 0; }
+
+    /// Whether it is all of the open file.
+    bool isWholeFile() const { return m_begin == 0 && m_size == m_file->size; }
     int descriptor() const { return m_file->descriptor.get(); }
 
     /// In bytes, as it was when the document was opened.

@@ -87,6 +87,8 @@ void putSettings(QList<JobOption> &options, const JobValues &values)
     put(options, {u"print-scaling"_s, scalingKeyword(values.settings.scaling)});
     if (values.format.orientation == PMOrientation::Landscape)
         putLandscape(options, values.havePages);
+    for (const JobOption &option : layoutOptions(values.settings.layout))
+        put(options, option);
 }
 
 QString ticketText(const QVariant &value)

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "dialog/host/PPDMarks.h"
+#include "dialog/job/JobLayout.h"
 #include "dialog/job/JobOption.h"
 #include "dialog/job/PrintScaling.h"
 #include "platform/ppd/CupsPPD.h"
@@ -17,6 +18,7 @@ struct HostSettings
     int copies = 1;
     QString pageRanges; ///< as normalizedPageRanges() gives them; empty: all
     PrintScaling scaling = PrintScaling::Automatic;
+    JobLayout layout;
 
     bool operator==(const HostSettings &) const = default;
 };

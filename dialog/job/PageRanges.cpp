@@ -71,3 +71,11 @@ QString normalizedPageRanges(const QString &typed)
     }
     return joined(ranges);
 }
+
+std::optional<int> pageBeyond(const QString &ranges, int pages)
+{
+    for (const QString &range : ranges.split(u',', Qt::SkipEmptyParts))
+        if (const int first = range.section(u'-', 0, 0).toInt(); first > pages)
+            return first;
+    return std::nullopt;
+}

@@ -166,24 +166,9 @@ constexpr auto kAttributes = std::to_array<std::string_view>({
 // keywords of their own, and `OutputOrder` and `Resolution` are of every PPD: exactly these alone.
 // Sorted.
 constexpr auto kFilterOptions = std::to_array<std::string_view>({
-    "blackplot",
-    "brightness",
-    "columns",
-    "cpi",
-    "fitplot",
-    "gamma",
-    "hue",
-    "landscape",
-    "lpi",
-    "mirror",
-    "outputorder",
-    "penwidth",
-    "ppi",
-    "prettyprint",
-    "resolution",
-    "saturation",
-    "scaling",
-    "wrap",
+    "blackplot",   "booklet",    "brightness", "columns", "cpi",         "fitplot",  "gamma",
+    "hue",         "landscape",  "lpi",        "mirror",  "outputorder", "penwidth", "ppi",
+    "prettyprint", "resolution", "saturation", "scaling", "wrap",
 });
 
 static_assert(std::ranges::is_sorted(kAttributes) && std::ranges::is_sorted(kFilterOptions));

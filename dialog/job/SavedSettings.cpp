@@ -52,6 +52,16 @@ void markAll(ppd_file_t *ppd, SavedSettings &settings, const QList<JobOption> &s
     cupsFreeOptions(count, options);
 }
 
+/// True when the option is one of a layout, with a value that it can have.
+bool takeLayout(JobLayout &layout, const JobOption &option)
+{
+    const LayoutSetting *setting = layoutSetting(option.name);
+    const QString value = setting ? normalizedLayoutValue(*setting, option.value) : QString();
+    if (!value.isNull())
+        layout.*setting->value = value;
+    return !value.isNull();
+}
+
 /// True when the option is one of the dialog's own settings, which then has it.
 bool takeSetting(SavedSettings &settings, const JobOption &option)
 {
@@ -67,7 +77,7 @@ bool takeSetting(SavedSettings &settings, const JobOption &option)
     else if (isScalingOption(option.name))
         settings.settings.scaling = scalingOf(option).value_or(PrintScaling::Automatic);
     else
-        return false;
+        return takeLayout(settings.settings.layout, option);
     return true;
 }
 

@@ -1,5 +1,6 @@
 #include "dialog/printing/OwnSettings.h"
 
+#include "dialog/job/JobLayout.h"
 #include "dialog/job/PageRanges.h"
 #include "dialog/printing/PrintJob.h"
 
@@ -86,7 +87,7 @@ const OwnSetting *settingNamed(const QString &name)
 
 bool isOwnSetting(const QString &name)
 {
-    return settingNamed(name);
+    return settingNamed(name) || layoutSetting(name);
 }
 
 QString ownSettingName(const QString &name)
@@ -96,12 +97,16 @@ QString ownSettingName(const QString &name)
 
 QString normalizedOwnValue(const QString &name, const QString &value)
 {
+    if (const LayoutSetting *setting = layoutSetting(name))
+        return normalizedLayoutValue(*setting, value);
     const OwnSetting *setting = settingNamed(name);
     return setting ? setting->normalized(value) : QString();
 }
 
 void takeOwnSetting(PrintJob &job, const QString &name, const QString &value)
 {
-    if (const OwnSetting *setting = settingNamed(name))
-        setting->take(job, value);
+    if (const LayoutSetting *setting = layoutSetting(name))
+        job.settings().layout.*setting->value = value;
+    else if (const OwnSetting *own = settingNamed(name))
+        own->take(job, value);
 }

@@ -5,7 +5,8 @@
 class PrintJob;
 
 /// The settings of the dialog's own that may be asked for by name: `copies`, `page-ranges`,
-/// `orientation-requested`, `print-scaling` and, as lp has it, `fit-to-page`.
+/// `orientation-requested`, `print-scaling` and, as lp has it, `fit-to-page`, and those of a
+/// layout.
 
 bool isOwnSetting(const QString &name);
 

@@ -1,5 +1,6 @@
 #include "dialog/printing/PrintController.h"
 
+#include "dialog/cups/CoverPages.h"
 #include "dialog/cups/ServerConnection.h"
 #include "dialog/host/HostSession.h"
 #include "dialog/job/DocumentFile.h"
@@ -9,16 +10,30 @@
 #include "dialog/printing/LastPrinter.h"
 #include "dialog/printing/RequestedSettings.h"
 #include "dialog/printing/SavedJob.h"
+#include "dialog/printing/StandardSettings.h"
 #include "dialog/work/BackgroundCall.h"
 
 #include <QtCore/QCoreApplication>
+#include <QtCore/QSysInfo>
 #include <QtCore/QTimer>
 
 #include <utility>
 
+namespace {
+
+/// The user's address on this machine, as `lp -m` has it.
+QString ownAddress()
+{
+    return QString::fromUtf8(requestingUser()) + u'@' + QSysInfo::machineHostName();
+}
+
+} // namespace
+
 PrintController::PrintController(PrintWishes wishes, QObject *parent)
     : QObject(parent), m_wishes(std::move(wishes))
-{}
+{
+    m_job.setTitle(m_wishes.title);
+}
 
 // The calls go first: nothing of theirs arrives any more.
 PrintController::~PrintController()
@@ -26,6 +41,7 @@ PrintController::~PrintController()
     delete m_call;
     delete m_reading;
     delete m_listing;
+    delete m_covers;
 }
 
 /// Starts the work in place of the call's former one. A null `givenUp`: nobody gives it up. Whoever
@@ -164,12 +180,25 @@ void PrintController::listPrinters(Then<QList<Destination>> then)
         std::move(then), [server = m_wishes.server] { return List(silentServer(server)); });
 }
 
+void PrintController::listCoverPages(Then<QStringList> then)
+{
+    const PrinterSource source = m_job.source();
+    begin<Result<QStringList>>(
+        m_covers, kServerTimeout,
+        [source](CallGuard &guard) { return coverPages(source.server, source.queue.queue, guard); },
+        std::move(then), [source] { return Result<QStringList>(silentServer(source.server)); });
+}
+
 Result<> PrintController::makeRequestedSettings(const std::function<void()> &madeOne)
 {
     QList<RequestedChoice> wanted = m_wishes.choices;
+    if (m_wishes.mail)
+        wanted += RequestedChoice{QStringLiteral("notify-recipient-uri"), ownAddress()};
     if (!m_wishes.paper.isNull())
         wanted += RequestedChoice{QStringLiteral("PageSize"), m_wishes.paper};
-    return makeSettings(m_job, wanted, madeOne);
+    const NamedWishes named = inPrintersNames(m_job.ppd(), wanted);
+    const Result<> made = makeSettings(m_job, named.wanted, madeOne);
+    return named.state ? made : named.state;
 }
 
 Result<FinishedJob> PrintController::finish()

@@ -3,6 +3,7 @@
 #include "dialog/cups/Destinations.h"
 #include "dialog/cups/JobSubmission.h"
 #include "dialog/files/OutputFile.h"
+#include "dialog/printing/PageCounter.h"
 #include "dialog/printing/PanelVeto.h"
 #include "dialog/printing/PrintJob.h"
 #include "dialog/printing/PrintWishes.h"
@@ -90,6 +91,12 @@ public:
     /// Lists the printers of the wished server.
     void listPrinters(Then<QList<Destination>> then);
 
+    /// Counts the pages of the job's documents, none of which is a pipe any more.
+    void countPages(PageCounter::Then then) { m_pages.count(m_job.documents(), std::move(then)); }
+
+    /// Asks for the cover pages that the job's queue offers.
+    void listCoverPages(Then<QStringList> then);
+
     /// Makes the wished settings (makeSettings()).
     Result<> makeRequestedSettings(const std::function<void()> &madeOne = {});
 
@@ -132,4 +139,6 @@ private:
     QPointer<BackgroundCall> m_call;    ///< finding, sending or writing
     QPointer<BackgroundCall> m_reading; ///< of documents that are pipes
     QPointer<BackgroundCall> m_listing;
+    QPointer<BackgroundCall> m_covers;
+    PageCounter m_pages;
 };

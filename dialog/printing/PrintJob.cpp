@@ -180,7 +180,7 @@ JobRequest PrintJob::request(const QList<JobOption> &options) const
     JobRequest request;
     request.server = m_source.server;
     request.queue = m_source.queue.queue;
-    request.title = m_title;
+    request.title = title();
     request.options = options;
     request.documents = m_documents;
     return request;

@@ -25,7 +25,12 @@ public:
     explicit PrintJob(const Documents &documents = {});
 
     const Documents &documents() const { return m_documents; }
-    const QString &title() const { return m_title; }
+    /// The user's own title, else the documents'.
+    QString title() const { return m_ownTitle.isEmpty() ? m_title : m_ownTitle; }
+    const QString &documentTitle() const { return m_title; }
+    const QString &ownTitle() const { return m_ownTitle; }
+    void setTitle(const QString &title) { m_ownTitle = title; }
+
     void setDocuments(const Documents &documents);
 
     /// Takes another printer; the former one's panels must not be on screen any more. Copies and
@@ -90,7 +95,8 @@ private:
 
     Documents m_documents;
     QList<DocumentKind> m_kinds; // of the documents
-    QString m_title;
+    QString m_title;             // of the documents
+    QString m_ownTitle;          // empty: the user has given none
     PrinterSource m_source;
     HostSettings m_settings;
     HostSettings m_savedSettings; // to tell whether the user has settled anything since

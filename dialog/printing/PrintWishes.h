@@ -24,8 +24,10 @@ struct PrintWishes
     QString ppd;
     QList<RequestedChoice> choices; ///< in any order
     QString paper;                  ///< a PageSize choice, or Custom.WIDTHxHEIGHT
+    QString title;                  ///< of the job
     QString plugIn;                 ///< the bundle's path
     QString output;                 ///< where the job goes instead of to a server
     QString record;     ///< where the session is being noted meanwhile: no job is written over it
+    bool mail = false;  ///< the user is told by mail of the job's end
     bool force = false; ///< files that exist may be replaced
 };

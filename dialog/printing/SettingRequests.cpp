@@ -26,12 +26,6 @@ Fault settingFault(const QString &sentence)
     return {FaultKind::Request, sentence};
 }
 
-Fault badValue(const RequestedChoice &wanted)
-{
-    return settingFault(QCoreApplication::translate("SettingRequests", "%2 is no value for %1.")
-                            .arg(displayText(wanted.keyword), displayText(wanted.choice)));
-}
-
 // --- What is known -------------------------------------------------------------------------------
 
 QString millimetres(double points)
@@ -87,7 +81,7 @@ Result<RequestedChoice> knownOwnSetting(const RequestedChoice &wanted)
 {
     const QString value = normalizedOwnValue(wanted.keyword, wanted.choice);
     if (value.isNull())
-        return badValue(wanted);
+        return noSuchValue(wanted);
     return RequestedChoice{ownSettingName(wanted.keyword), value};
 }
 
@@ -100,7 +94,7 @@ Result<RequestedChoice> knownChoice(const PrintJob &job, const RequestedChoice &
                 .arg(displayText(keyword)));
     const QString value = normalizedValue(job.ppd(), keyword, choice);
     if (value.isNull())
-        return badValue({keyword, choice});
+        return noSuchValue({keyword, choice});
     return RequestedChoice{keyword, value};
 }
 
@@ -132,6 +126,21 @@ QString currentText(const PrintJob &job, const RequestedChoice &known)
 }
 
 } // namespace
+
+Fault noSuchValue(const RequestedChoice &wanted)
+{
+    return settingFault(QCoreApplication::translate("SettingRequests", "%2 is no value for %1.")
+                            .arg(displayText(wanted.keyword), displayText(wanted.choice)));
+}
+
+Result<> checkOwnSettings(const QList<RequestedChoice> &wanted)
+{
+    for (const RequestedChoice &one : wanted)
+        if (isOwnSetting(one.keyword))
+            if (const Result<RequestedChoice> known = knownOwnSetting(one); !known)
+                return known.fault();
+    return {};
+}
 
 Result<RequestedChoice> knownSetting(const PrintJob &job, const RequestedChoice &wanted)
 {

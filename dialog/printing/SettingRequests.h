@@ -14,6 +14,13 @@ class PrintJob;
 /// OwnSettings.h are the dialog's own.
 Result<RequestedChoice> knownSetting(const PrintJob &job, const RequestedChoice &wanted);
 
+/// The fault of the first setting of the dialog's own that has no value for it: what can be known
+/// before there is a printer.
+Result<> checkOwnSettings(const QList<RequestedChoice> &wanted);
+
+/// What is said of a value that the setting cannot have.
+Fault noSuchValue(const RequestedChoice &wanted);
+
 /// Makes a known setting, as far as the other ones allow. The panels' controls are filled
 /// (prepareControls()), but for settings of the page.
 void makeSetting(PrintJob &job, const RequestedChoice &known);

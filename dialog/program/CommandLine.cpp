@@ -46,6 +46,39 @@ QString takeChoice(CommandLine &line, const QString &value)
     return {};
 }
 
+// What `lp` has options of its own for.
+
+QString takeNamed(CommandLine &line, const char *keyword, const QString &value)
+{
+    line.choices.append({QString::fromLatin1(keyword), value});
+    return {};
+}
+
+QString takeCopies(CommandLine &line, const QString &value)
+{
+    return takeNamed(line, "copies", value);
+}
+
+QString takePages(CommandLine &line, const QString &value)
+{
+    return takeNamed(line, "page-ranges", value);
+}
+
+QString takePriority(CommandLine &line, const QString &value)
+{
+    return takeNamed(line, "job-priority", value);
+}
+
+QString takeHold(CommandLine &line, const QString &value)
+{
+    const bool isImmediate = value == QLatin1String("immediate");
+    const bool isHold = value == QLatin1String("hold");
+    return takeNamed(line, "job-hold-until",
+                     isImmediate ? QStringLiteral("no-hold")
+                     : isHold    ? QStringLiteral("indefinite")
+                                 : value);
+}
+
 /// Standard output has two names; the files know the one that is a path.
 QString takeOutput(CommandLine &line, const QString &value)
 {
@@ -58,6 +91,12 @@ constexpr std::array kOptions{
     Option{"server", 'h', &CommandLine::server},
     Option{"ppd", '\0', &CommandLine::ppd},
     Option{"option", 'o', nullptr, nullptr, takeChoice},
+    Option{"copies", 'n', nullptr, nullptr, takeCopies},
+    Option{"pages", 'P', nullptr, nullptr, takePages},
+    Option{"title", 't', &CommandLine::title},
+    Option{"hold", 'H', nullptr, nullptr, takeHold},
+    Option{"priority", 'q', nullptr, nullptr, takePriority},
+    Option{"mail", 'm', nullptr, &CommandLine::mail},
     Option{"paper", '\0', &CommandLine::paper},
     Option{"output", '\0', &CommandLine::output, nullptr, takeOutput},
     Option{"force", '\0', nullptr, &CommandLine::force},
@@ -155,6 +194,9 @@ QString contradiction(const CommandLine &line)
     if (line.noDialog && !line.screenshot.isNull())
         return QCoreApplication::translate("CommandLine",
                                            "--no-dialog and --screenshot do not go together.");
+    if (line.noDialog && !line.panel.isNull())
+        return QCoreApplication::translate("CommandLine",
+                                           "--no-dialog and --panel do not go together.");
     if (line.noDialog && line.files.isEmpty())
         return QCoreApplication::translate("CommandLine", "--no-dialog needs a document to print.");
     if (line.yes && !line.noDialog)

@@ -1,5 +1,6 @@
 #include "dialog/program/DialogCommand.h"
 
+#include "dialog/printing/SettingRequests.h"
 #include "dialog/program/CommandOutput.h"
 #include "dialog/program/ExitStatus.h"
 #include "dialog/program/NoDialogCommand.h"
@@ -24,6 +25,8 @@ constexpr std::chrono::milliseconds kTimeoutAtTheEnd{300};
 
 ExitStatus runDialog(const CommandLine &line)
 {
+    if (const Result<> checked = checkOwnSettings(line.choices); !checked)
+        return failWith(checked.fault());
     SessionRecording recording; // outlives the sessions that it follows
     DialogWindow window(line);
     if (!window.documentState())
@@ -37,6 +40,8 @@ ExitStatus runDialog(const CommandLine &line)
     window.show();
     QApplication::exec();
     window.closePrinter(); // is noted, too
+    if (window.outcome().faultKind() == FaultKind::Request)
+        return recording.finish(failWith(window.outcome().fault()));
     return recording.finish(window.outcome() ? ExitStatus::Done
                                              : statusOf(window.outcome().fault().kind));
 }

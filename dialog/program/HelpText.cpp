@@ -15,11 +15,23 @@ Printer
 
 Settings
   -o, --option KEY=VALUE  make a setting of the printer; may be given again,
-                          in any order, once for each KEY
+                          in any order, once for each KEY;
+                          every printer has media, sides,
+                          print-quality, number-up, number-up-layout,
+                          page-border, page-set, outputorder, booklet,
+                          multiple-document-handling, job-hold-until,
+                          job-priority, job-sheets, notify-recipient-uri
       --paper NAME        choose the paper by its name in the PPD, or
                           Custom.WIDTHxHEIGHT with a unit: Custom.100x150mm
 
 Job
+  -n, --copies NUMBER     print so many copies
+  -P, --pages LIST        print these pages: 1-3,5
+  -t, --title TITLE       give the job this title
+  -H, --hold WHEN         hold the job: hold, immediate, night or another
+                          period of the server, or a time of day in UTC, HH:MM
+  -q, --priority NUMBER   from 1 to 100, the highest
+  -m, --mail              send mail to you when the job is over
       --output FILE       put the job into a file (-: standard output),
                           settings and documents together; print it later
                           with --no-dialog -d QUEUE FILE
@@ -33,7 +45,8 @@ Looking and testing
       --screenshot FILE.png
                           paint the dialog into a picture instead of showing it
       --panel NAME        show this part first: setup, print, color,
-                          features or summary; in a picture, this part alone
+                          features, layout or summary; in a picture, this
+                          part alone
       --record SCRIPT     note the session in a script
       --replay SCRIPT     run a session from a script (-: standard input)
                           and print what happens, a line of JSON an event

@@ -17,12 +17,24 @@ Imprimante
 
 Réglages
   -o, --option KEY=VALUE  faire un réglage de l’imprimante ; peut être répété,
-                          dans n’importe quel ordre, une fois par KEY
+                          dans n’importe quel ordre, une fois par KEY ;
+                          chaque imprimante a media, sides,
+                          print-quality, number-up, number-up-layout,
+                          page-border, page-set, outputorder, booklet,
+                          multiple-document-handling, job-hold-until,
+                          job-priority, job-sheets, notify-recipient-uri
       --paper NAME        choisir le papier par son nom dans le fichier PPD,
                           ou Custom.WIDTHxHEIGHT avec une unité :
                           Custom.100x150mm
 
 Travail
+  -n, --copies NUMBER     imprimer ce nombre d’exemplaires
+  -P, --pages LIST        imprimer ces pages : 1-3,5
+  -t, --title TITLE       donner ce titre au travail
+  -H, --hold WHEN         retenir le travail : hold, immediate, night ou une
+                          autre période du serveur, ou une heure UTC, HH:MM
+  -q, --priority NUMBER   de 1 à 100, la plus haute
+  -m, --mail              vous envoyer un courriel à la fin du travail
       --output FILE       écrire le travail dans un fichier (- : sortie
                           standard), réglages et documents ensemble ;
                           l’imprimer plus tard avec
@@ -39,9 +51,9 @@ Examen et essais
       --screenshot FILE.png
                           dessiner la boîte de dialogue dans une image au lieu
                           de l’afficher
-      --panel NAME        afficher d’abord cette partie : setup, print, color,
-                          features ou summary ; dans une image, cette partie
-                          seule
+      --panel NAME        afficher d’abord cette partie : setup, print, color,
+                          features, layout ou summary ; dans une image, cette
+                          partie seule
       --record SCRIPT     noter la session dans un script
       --replay SCRIPT     exécuter une session depuis un script (- : entrée
                           standard) et afficher ce qui se passe, une ligne

@@ -16,12 +16,25 @@ Drucker
 
 Einstellungen
   -o, --option KEY=VALUE  den Drucker einstellen; mehrfach möglich, in jeder
-                          Reihenfolge, einmal für jeden KEY
+                          Reihenfolge, einmal für jeden KEY;
+                          jeder Drucker hat media, sides,
+                          print-quality, number-up, number-up-layout,
+                          page-border, page-set, outputorder, booklet,
+                          multiple-document-handling, job-hold-until,
+                          job-priority, job-sheets, notify-recipient-uri
       --paper NAME        das Papier mit seinem Namen in der PPD-Datei wählen,
                           oder Custom.WIDTHxHEIGHT mit Einheit:
                           Custom.100x150mm
 
 Auftrag
+  -n, --copies NUMBER     so viele Exemplare drucken
+  -P, --pages LIST        diese Seiten drucken: 1-3,5
+  -t, --title TITLE       dem Auftrag diesen Titel geben
+  -H, --hold WHEN         den Auftrag zurückhalten: hold, immediate, night oder
+                          ein anderer Zeitraum des Servers, oder eine Uhrzeit
+                          in UTC, HH:MM
+  -q, --priority NUMBER   von 1 bis 100, der höchsten
+  -m, --mail              Ihnen am Ende des Auftrags eine Mail schicken
       --output FILE       den Auftrag in eine Datei schreiben (-:
                           Standardausgabe), Einstellungen und Dokumente
                           zusammen; später drucken mit
@@ -37,7 +50,8 @@ Ansehen und prüfen
       --screenshot FILE.png
                           den Dialog in ein Bild zeichnen statt ihn zu zeigen
       --panel NAME        diesen Teil zuerst zeigen: setup, print, color,
-                          features oder summary; in einem Bild nur diesen Teil
+                          features, layout oder summary; in einem Bild nur
+                          diesen Teil
       --record SCRIPT     die Sitzung in einem Skript aufzeichnen
       --replay SCRIPT     eine Sitzung aus einem Skript ausführen (-:
                           Standardeingabe) und ausgeben, was geschieht, eine

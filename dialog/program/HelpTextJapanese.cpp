@@ -14,11 +14,23 @@ const LauncherTexts kJapaneseTexts{
 
 設定
   -o, --option KEY=VALUE  プリンターの設定を選ぶ（KEY ごとに 1 回ずつ、順序に
-                          関係なく、繰り返し指定できます）
+                          関係なく、繰り返し指定できます）。どのプリンターにも
+                          ある設定: media, sides,
+                          print-quality, number-up, number-up-layout,
+                          page-border, page-set, outputorder, booklet,
+                          multiple-document-handling, job-hold-until,
+                          job-priority, job-sheets, notify-recipient-uri
       --paper NAME        PPD での名前で用紙を選ぶ。または単位を付けて
                           Custom.WIDTHxHEIGHT で指定する: Custom.100x150mm
 
 ジョブ
+  -n, --copies NUMBER     この部数を印刷する
+  -P, --pages LIST        これらのページを印刷する: 1-3,5
+  -t, --title TITLE       ジョブにこのタイトルを付ける
+  -H, --hold WHEN         ジョブを保留する: hold、immediate、night などサーバー
+                          の時間帯、または UTC の時刻 HH:MM
+  -q, --priority NUMBER   1 から 100（最高）まで
+  -m, --mail              ジョブが終わったらメールで知らせる
       --output FILE       ジョブの設定と文書をまとめてファイルに保存する
                           （-: 標準出力）。後で
                           --no-dialog -d QUEUE FILE で印刷できます
@@ -32,7 +44,7 @@ const LauncherTexts kJapaneseTexts{
       --screenshot FILE.png
                           画面を表示せずに、画像として保存する
       --panel NAME        最初に表示する部分: setup、print、color、features、
-                          summary。画像の場合はその部分だけを保存する
+                          layout、summary。画像の場合はその部分だけを保存する
       --record SCRIPT     操作をスクリプトに記録する
       --replay SCRIPT     スクリプト（-: 標準入力）を実行し、結果をイベント
                           ごとに 1 行の JSON で出力する

@@ -5,9 +5,11 @@
 #include "dialog/host/SessionObserver.h"
 #include "dialog/job/JobFileReader.h"
 #include "dialog/job/OutgoingText.h"
+#include "dialog/job/PageRanges.h"
 #include "dialog/printing/PrintController.h"
 #include "dialog/printing/SavedJob.h"
 #include "dialog/printing/ScriptedAnswers.h"
+#include "dialog/printing/SettingRequests.h"
 #include "dialog/program/CommandOutput.h"
 #include "dialog/program/SessionRecording.h"
 #include "dialog/work/EndSignals.h"
@@ -31,6 +33,13 @@ void list(const JobRequest &job)
                  .arg(option.name, option.value));
 }
 
+QString beyondSentence(int page, int last)
+{
+    return QCoreApplication::translate("NoDialogCommand",
+                                       "Page %1 is beyond the document's last page, %2.")
+        .arg(QString::number(page), QString::number(last));
+}
+
 /// One run of the command: drives a controller from one step to the next, and answers in a person's
 /// place.
 class Run : private SessionObserver
@@ -51,6 +60,7 @@ private:
     void findPrinter();
     void takePrinter(const FoundPrinter &printer);
     void makeSettings();
+    void countPages();
     void finish();
     void decide(const FinishedJob &finished);
     void deliver(const JobRequest &request);
@@ -90,7 +100,10 @@ bool Run::goOn(const Result<> &done)
 
 void Run::readDocuments()
 {
-    if (goOn(m_controller.openDocuments(m_line.files)))
+    const Result<> begun = checkOwnSettings(m_line.choices).andThen([this] {
+        return m_controller.openDocuments(m_line.files);
+    });
+    if (goOn(begun))
         m_controller.readPipes([this](const Result<> &read) {
             if (goOn(read))
                 takeDocuments();
@@ -151,7 +164,25 @@ void Run::makeSettings()
         warn(said);
     if (!made)
         warn(made.sentence());
-    finish();
+    countPages();
+}
+
+/// Pages that a document does not have would end in trouble on the server.
+void Run::countPages()
+{
+    const QString ranges = m_controller.job().settings().pageRanges;
+    if (ranges.isEmpty()) {
+        finish();
+        return;
+    }
+    m_controller.countPages([this, ranges](const PageCount &count) {
+        const std::optional<int> beyond =
+            count.fewest ? pageBeyond(ranges, *count.fewest) : std::nullopt;
+        if (goOn(beyond
+                     ? Result<>(Fault{FaultKind::Request, beyondSentence(*beyond, *count.fewest)})
+                     : Result<>()))
+            finish();
+    });
 }
 
 void Run::finish()

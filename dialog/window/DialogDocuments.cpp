@@ -29,11 +29,23 @@ QStringList filesOf(const QMimeData &dragged)
 /// What is written into a pipe may take its time: meanwhile everything can be settled but Print.
 void DialogWindow::readPipes()
 {
-    if (!hasPipes(job().documents()))
+    if (!hasPipes(job().documents())) {
+        countPages();
         return;
+    }
     m_controller.readPipes([this](const Result<> &read) {
         m_documentState = read;
         takeDocuments();
+        countPages();
+    });
+}
+
+/// Meanwhile, and where it cannot be known, any pages may be typed.
+void DialogWindow::countPages()
+{
+    m_controller.countPages([this](const PageCount &count) {
+        m_header->setPageCount(count);
+        updateButtons();
     });
 }
 

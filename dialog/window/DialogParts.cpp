@@ -1,8 +1,10 @@
+#include "dialog/job/JobLayout.h"
 #include "dialog/job/Papers.h"
 #include "dialog/printing/FeaturePicks.h"
 #include "dialog/window/DialogWindow.h"
 #include "dialog/window/FeaturesPane.h"
 #include "dialog/window/JobHeader.h"
+#include "dialog/window/LayoutPane.h"
 #include "dialog/window/Mnemonics.h"
 #include "dialog/window/PageSetupPane.h"
 #include "dialog/window/PanelPane.h"
@@ -27,6 +29,7 @@ namespace {
 
 constexpr auto kPageSetup = "setup"_L1;
 constexpr auto kFeatures = "features"_L1;
+constexpr auto kLayout = "layout"_L1;
 constexpr auto kSummary = "summary"_L1;
 
 /// Whether the panel has anything to show for this PPD.
@@ -67,6 +70,11 @@ void DialogWindow::buildParts()
         m_parts.push_back({kFeatures, m_features, nullptr});
         m_tabs->addTab(m_features, tr("Printer Features"));
     }
+    if (!m_savedJob) {
+        m_layout->reload();
+        m_parts.push_back({kLayout, m_layout, nullptr});
+        m_tabs->addTab(m_layout, tabTitle(tr("Layout & Job")));
+    }
     m_parts.push_back({kSummary, m_summary, nullptr});
     giveAccessibleName(m_summary, tr("Summary"));
     m_tabs->addTab(m_summary, tr("Summary"));
@@ -79,6 +87,8 @@ void DialogWindow::buildParts()
 
 void DialogWindow::removeParts()
 {
+    m_coversAreListed = false;
+    m_layout->setCoverPages({});
     const QSignalBlocker quiet(m_tabs);
     m_shownPanel = nullptr;
     m_tabs->clear();     // the pages themselves stay
@@ -126,6 +136,8 @@ void DialogWindow::changePart()
     }
     if (part->page == m_features)
         m_features->reload();
+    if (part->page == m_layout)
+        listCoverPages();
     if (part->page == m_summary)
         m_summary->setSections(summarySections());
     moveButtonsLast();
@@ -204,6 +216,7 @@ QList<SummarySection> DialogWindow::summarySections()
     }
     // Panels may change what is sent while they sum it up.
     sections.prepend(ownSection());
+    sections += layoutSection();
     sections += SummarySection{tr("Also Sent"), linesOfTheRest(job(), told)};
     return sections;
 }
@@ -233,4 +246,26 @@ SummarySection DialogWindow::ownSection() const
             {tr("Color Management"), byPrinter ? tr("By the Printer") : tr("By the Application")};
     }
     return own;
+}
+
+SummarySection DialogWindow::layoutSection() const
+{
+    SummarySection section{tr("Layout & Job"), {}};
+    if (!job().ownTitle().isEmpty())
+        section.lines += {tr("Job Title"), job().ownTitle()};
+    for (const LayoutSetting &setting : layoutSettings())
+        if (const QString &value = job().settings().layout.*setting.value; !value.isEmpty())
+            section.lines += {layoutTitle(setting), layoutText(setting, value)};
+    return section;
+}
+
+/// Once for a printer, when the cover pages can be seen.
+void DialogWindow::listCoverPages()
+{
+    if (job().source().queue.queue.isEmpty() || std::exchange(m_coversAreListed, true))
+        return;
+    m_controller.listCoverPages([this](const Result<QStringList> &covers) {
+        if (covers)
+            m_layout->setCoverPages(*covers);
+    });
 }

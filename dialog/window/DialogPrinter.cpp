@@ -1,6 +1,7 @@
 #include "dialog/job/PipeDocuments.h"
 #include "dialog/window/DialogWindow.h"
 #include "dialog/window/JobHeader.h"
+#include "dialog/window/LayoutPane.h"
 #include "dialog/window/PageSetupPane.h"
 #include "dialog/window/PrinterPopUp.h"
 #include "dialog/work/Sentences.h"
@@ -122,6 +123,10 @@ void DialogWindow::makeRequestedSettings()
 {
     if (std::exchange(m_requestedSettingsAreMade, true))
         return;
+    if (!m_wishes.panel.isNull() && !showPart(m_wishes.panel)) {
+        endWithoutPanel();
+        return;
+    }
     m_settingState = m_controller.makeRequestedSettings();
     if (!m_settingState && job().source().start.kind == StartingSettings::Kind::LastUsed) {
         // What is asked for now counts more than what was used last.
@@ -129,17 +134,25 @@ void DialogWindow::makeRequestedSettings()
         startFrom({}, {});
         return;
     }
-    if (!m_wishes.panel.isNull() && !showPart(m_wishes.panel) && m_settingState)
-        m_settingState = Fault{FaultKind::Request, tr("There is no panel %1.").arg(m_wishes.panel)};
     if (!m_wishes.paper.isNull() || !m_wishes.choices.empty()) {
         m_pageSetup->reload();
         moveButtonsLast();
+        m_layout->reload();
         m_header->reload();
     }
     // After what the picks among them have told.
     if (!m_settingState)
         QTimer::singleShot(0, this,
                            [this] { tell(NoticeBar::Kind::Warning, m_settingState.sentence()); });
+}
+
+/// A wrong word of the command line: nobody would look for the settings where they are not.
+void DialogWindow::endWithoutPanel()
+{
+    m_settingState = Fault{FaultKind::Request, tr("There is no panel %1.").arg(m_wishes.panel)};
+    m_outcome = m_settingState;
+    if (!m_wishes.isPicture)
+        QTimer::singleShot(0, this, &DialogWindow::reject);
 }
 
 /// What is told as long as it is true and nothing newer is to be told.

@@ -4,6 +4,7 @@
 #include "dialog/window/FeaturesPane.h"
 #include "dialog/window/HostHelp.h"
 #include "dialog/window/JobHeader.h"
+#include "dialog/window/LayoutPane.h"
 #include "dialog/window/Mnemonics.h"
 #include "dialog/window/PageSetupPane.h"
 #include "dialog/window/PrinterPopUp.h"
@@ -75,6 +76,7 @@ void DialogWindow::buildLayout()
     m_pageSetup = new PageSetupPane(job());
     m_features = new FeaturesPane(job(), this);
     m_features->hide(); // a tab only where there is something to show
+    m_layout = new LayoutPane(job());
     m_summary = new SummaryPane;
     auto *layout = new QVBoxLayout(this);
     layout->setContentsMargins(kWindowMargin, kWindowMargin, kWindowMargin, kWindowMargin);
@@ -92,6 +94,7 @@ void DialogWindow::buildLayout()
     connect(m_header, &JobHeader::documentsWanted, this, &DialogWindow::chooseDocuments);
     connect(m_header, &JobHeader::changed, this, &DialogWindow::tellStanding);
     connect(m_pageSetup, &PageSetupPane::changed, this, &DialogWindow::tellStanding);
+    connect(m_layout, &LayoutPane::changed, this, &DialogWindow::tellStanding);
     connect(m_pageSetup, &PageSetupPane::refused, this, [this](const QString &sentence) {
         tellEvent(); // what was before
         tell(NoticeBar::Kind::Warning, sentence);
@@ -196,7 +199,7 @@ bool DialogWindow::mayPrint() const
 {
     return m_state == State::Ready && m_documentState && !job().documents().empty() &&
            !hasPipes(job().documents()) && m_header->isAcceptable() &&
-           m_pageSetup->isAcceptable() && m_features->isAcceptable();
+           m_pageSetup->isAcceptable() && m_features->isAcceptable() && m_layout->isAcceptable();
 }
 
 void DialogWindow::updateButtons()

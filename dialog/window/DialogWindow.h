@@ -17,6 +17,7 @@
 
 class FeaturesPane;
 class JobHeader;
+class LayoutPane;
 class PageSetupPane;
 class PanelPane;
 class ProgressStrip;
@@ -138,6 +139,7 @@ private:
     void chooseDocuments();
     void openDocuments(const QStringList &paths);
     void takeDocuments();
+    void countPages();
 
     // DialogSavedJob.cpp
     void takeSavedJob();
@@ -156,6 +158,7 @@ private:
     void takePrinter(const Result<FoundPrinter> &found);
     void showPrinter();
     void makeRequestedSettings();
+    void endWithoutPanel();
     Notice standing() const;
     Notice whatIsMissing() const;
     void watchPrinters();
@@ -173,6 +176,8 @@ private:
     void setHeight(int height);
     QList<SummarySection> summarySections();
     SummarySection ownSection() const;
+    SummarySection layoutSection() const;
+    void listCoverPages();
 
     // DialogPresets.cpp
     void connectPresets();
@@ -210,6 +215,7 @@ private:
     QStringList m_startNotes;              ///< on the settings that it starts from
     Notice m_standing;                     ///< shown while there is nothing newer to tell
     QString m_refusalToTell;               ///< of the pick that is going on
+    bool m_coversAreListed = false;        ///< of the printer
     PPDMark m_pick;           ///< of the user, in the event that is going on; null: none yet
     SettingState m_toldState; ///< to tell what an event has changed
     bool m_eventIsNoted = false;
@@ -226,6 +232,7 @@ private:
     QTabWidget *m_tabs;
     PageSetupPane *m_pageSetup;
     FeaturesPane *m_features;
+    LayoutPane *m_layout;
     SummaryPane *m_summary;
     QPushButton *m_help = nullptr;
     QPushButton *m_save = nullptr;

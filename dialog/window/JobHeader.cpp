@@ -95,7 +95,13 @@ void JobHeader::reload()
     setLabelText(m_documents, names.isEmpty() ? tr("No document") : names.join(u", "_s));
     m_copies->setDoubleValue(m_job.settings().copies);
     m_pages->setText(m_job.settings().pageRanges);
-    m_pagesValidation->clear();
+    judgePages();
+}
+
+void JobHeader::setPageCount(const PageCount &count)
+{
+    m_pageCount = count;
+    judgePages();
 }
 
 void JobHeader::showJobSettings(bool shown)
@@ -108,14 +114,36 @@ void JobHeader::showJobSettings(bool shown)
 void JobHeader::takePages()
 {
     const QString ranges = normalizedPageRanges(m_pages->text());
-    setLabelText(m_pagesValidation,
-                 ranges.isNull() ? tr("Pages look like this: 1-3, 5") : QString());
     if (!ranges.isNull())
         m_job.settings().pageRanges = ranges;
+    judgePages();
     Q_EMIT changed();
+}
+
+/// What is wrong with the pages, else how many there are.
+void JobHeader::judgePages()
+{
+    QString told;
+    if (normalizedPageRanges(m_pages->text()).isNull())
+        told = tr("Pages look like this: 1-3, 5");
+    else if (const std::optional<int> beyond = typedBeyond())
+        told = tr("%1 is beyond page %2").arg(*beyond).arg(*m_pageCount->fewest);
+    else if (m_pageCount && m_pageCount->all)
+        told = tr("%1 in all").arg(*m_pageCount->all);
+    else if (m_pageCount && !m_job.documents().empty())
+        told = tr("How many there are is not known");
+    setLabelText(m_pagesValidation, told);
+}
+
+/// The page of what was typed that a document does not have; none where that is not known.
+std::optional<int> JobHeader::typedBeyond() const
+{
+    const QString ranges = normalizedPageRanges(m_pages->text());
+    return m_pageCount && m_pageCount->fewest ? pageBeyond(ranges, *m_pageCount->fewest)
+                                              : std::nullopt;
 }
 
 bool JobHeader::isAcceptable() const
 {
-    return !normalizedPageRanges(m_pages->text()).isNull();
+    return !normalizedPageRanges(m_pages->text()).isNull() && !typedBeyond();
 }

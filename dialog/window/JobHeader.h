@@ -1,6 +1,10 @@
 #pragma once
 
+#include "dialog/printing/PageCounter.h"
+
 #include <QtWidgets/QWidget>
+
+#include <optional>
 
 class NumberField;
 class PresetsRow;
@@ -22,13 +26,17 @@ public:
     PrinterPopUp *printers() const { return m_printers; }
     PresetsRow *presets() const { return m_presets; }
 
+    /// The pages of the job's documents, as far as they are known.
+    void setPageCount(const PageCount &count);
+
     /// Shows the job's documents and settings.
     void reload();
 
     /// Whether copies and pages are shown: a saved job has its own.
     void showJobSettings(bool shown);
 
-    /// Whether the pages that were typed are a list of pages.
+    /// Whether the pages that were typed are a list of pages, of which the documents have some as
+    /// far as that is known.
     bool isAcceptable() const;
 
 Q_SIGNALS:
@@ -38,6 +46,8 @@ Q_SIGNALS:
 
 private:
     void takePages();
+    void judgePages();
+    std::optional<int> typedBeyond() const;
 
     PrintJob &m_job;
     QLabel *m_documents;
@@ -48,4 +58,5 @@ private:
     QLineEdit *m_pages;
     QWidget *m_settingsRow = nullptr;
     QLabel *m_pagesValidation;
+    std::optional<PageCount> m_pageCount; ///< none while it is being counted
 };

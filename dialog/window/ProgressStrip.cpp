@@ -19,6 +19,9 @@ ProgressStrip::ProgressStrip(QWidget *parent) : QProgressBar(parent)
     setObjectName(QStringLiteral("progressStrip"));
     giveAccessibleName(this, tr("Progress"));
     setRange(0, kSteps);
+    QSizePolicy room = sizePolicy();
+    room.setRetainSizeWhenHidden(true); // nothing beside it moves
+    setSizePolicy(room);
     hide();
 }
 

@@ -2,6 +2,7 @@
 
 #include "dialog/host/HostSession.h"
 #include "dialog/job/FeatureTexts.h"
+#include "dialog/job/JobLayout.h"
 #include "dialog/job/Papers.h"
 #include "dialog/job/StandardAttributes.h"
 #include "platform/pde/PDESummary.h"
@@ -47,7 +48,7 @@ bool isTold(const PrintJob &job, const JobOption &option)
         return isPaperTold(job, option.value);
     if (option.name == kPMColorMatchingModeKey)
         return job.offersColorMatching();
-    return always.contains(option.name) ||
+    return always.contains(option.name) || layoutSetting(option.name) ||
            job.ownKeywords().contains(option.name, Qt::CaseInsensitive);
 }
 

@@ -82,6 +82,10 @@
         <translation>--check-ppd prüft nur eine PPD-Datei: Es wird nichts gedruckt und kein Skript ausgeführt.</translation>
     </message>
     <message>
+        <source>--no-dialog and --panel do not go together.</source>
+        <translation>--no-dialog und --panel passen nicht zusammen.</translation>
+    </message>
+    <message>
         <source>--forget-alerts only has the warnings shown again: it prints nothing.</source>
         <translation>--forget-alerts lässt nur die Warnungen wieder anzeigen; es druckt nichts.</translation>
     </message>
@@ -337,6 +341,14 @@
         <translation>Fortfahren</translation>
     </message>
     <message>
+        <source>Layout &amp; Job</source>
+        <translation>Layout &amp; Auftrag</translation>
+    </message>
+    <message>
+        <source>Job Title</source>
+        <translation>Auftragstitel</translation>
+    </message>
+    <message>
         <source>Printer Features</source>
         <translation>Druckerfunktionen</translation>
     </message>
@@ -445,6 +457,17 @@
     <message>
         <source>Standard input</source>
         <translation>Standardeingabe</translation>
+    </message>
+</context>
+<context>
+    <name>HoldField</name>
+    <message>
+        <source>At a time of day</source>
+        <translation>Zu einer Uhrzeit</translation>
+    </message>
+    <message>
+        <source>Time of day</source>
+        <translation>Uhrzeit</translation>
     </message>
 </context>
 <context>
@@ -654,8 +677,231 @@
         <translation>Seiten werden so angegeben: 1-3, 5</translation>
     </message>
     <message>
+        <source>%1 is beyond page %2</source>
+        <translation>%1 liegt hinter Seite %2</translation>
+    </message>
+    <message>
+        <source>%1 in all</source>
+        <translation>insgesamt %1</translation>
+    </message>
+    <message>
+        <source>How many there are is not known</source>
+        <translation>Wie viele es gibt, ist nicht bekannt</translation>
+    </message>
+    <message>
         <source>Prese&amp;t:</source>
         <translation>&amp;Voreinstellung:</translation>
+    </message>
+</context>
+<context>
+    <name>JobLayout</name>
+    <message>
+        <source>Across, from the top left</source>
+        <translation>Quer, von links oben</translation>
+    </message>
+    <message>
+        <source>Across, from the top right</source>
+        <translation>Quer, von rechts oben</translation>
+    </message>
+    <message>
+        <source>Across, from the bottom left</source>
+        <translation>Quer, von links unten</translation>
+    </message>
+    <message>
+        <source>Across, from the bottom right</source>
+        <translation>Quer, von rechts unten</translation>
+    </message>
+    <message>
+        <source>Down, from the top left</source>
+        <translation>Abwärts, von links oben</translation>
+    </message>
+    <message>
+        <source>Down, from the top right</source>
+        <translation>Abwärts, von rechts oben</translation>
+    </message>
+    <message>
+        <source>Up, from the bottom left</source>
+        <translation>Aufwärts, von links unten</translation>
+    </message>
+    <message>
+        <source>Up, from the bottom right</source>
+        <translation>Aufwärts, von rechts unten</translation>
+    </message>
+    <message>
+        <source>No border</source>
+        <translation>Kein Rahmen</translation>
+    </message>
+    <message>
+        <source>Thin line</source>
+        <translation>Dünne Linie</translation>
+    </message>
+    <message>
+        <source>Thick line</source>
+        <translation>Dicke Linie</translation>
+    </message>
+    <message>
+        <source>Two thin lines</source>
+        <translation>Zwei dünne Linien</translation>
+    </message>
+    <message>
+        <source>Two thick lines</source>
+        <translation>Zwei dicke Linien</translation>
+    </message>
+    <message>
+        <source>All pages</source>
+        <translation>Alle Seiten</translation>
+    </message>
+    <message>
+        <source>Odd pages only</source>
+        <translation>Nur ungerade Seiten</translation>
+    </message>
+    <message>
+        <source>Even pages only</source>
+        <translation>Nur gerade Seiten</translation>
+    </message>
+    <message>
+        <source>First page first</source>
+        <translation>Erste Seite zuerst</translation>
+    </message>
+    <message>
+        <source>Last page first</source>
+        <translation>Letzte Seite zuerst</translation>
+    </message>
+    <message>
+        <source>Copy by copy</source>
+        <translation>Exemplar für Exemplar</translation>
+    </message>
+    <message>
+        <source>Page by page</source>
+        <translation>Seite für Seite</translation>
+    </message>
+    <message>
+        <source>No</source>
+        <translation>Nein</translation>
+    </message>
+    <message>
+        <source>Yes</source>
+        <translation>Ja</translation>
+    </message>
+    <message>
+        <source>Now</source>
+        <translation>Jetzt</translation>
+    </message>
+    <message>
+        <source>When somebody releases it</source>
+        <translation>Wenn jemand ihn freigibt</translation>
+    </message>
+    <message>
+        <source>By day (6:00 to 18:00)</source>
+        <translation>Tagsüber (6:00 bis 18:00)</translation>
+    </message>
+    <message>
+        <source>In the evening (from 18:00)</source>
+        <translation>Abends (ab 18:00)</translation>
+    </message>
+    <message>
+        <source>At night (18:00 to 6:00)</source>
+        <translation>Nachts (18:00 bis 6:00)</translation>
+    </message>
+    <message>
+        <source>In the second shift (from 16:00)</source>
+        <translation>In der zweiten Schicht (ab 16:00)</translation>
+    </message>
+    <message>
+        <source>In the third shift (from midnight)</source>
+        <translation>In der dritten Schicht (ab Mitternacht)</translation>
+    </message>
+    <message>
+        <source>At the weekend</source>
+        <translation>Am Wochenende</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>Keine</translation>
+    </message>
+    <message>
+        <source>Standard</source>
+        <translation>Standard</translation>
+    </message>
+    <message>
+        <source>Unclassified</source>
+        <translation>Nicht eingestuft</translation>
+    </message>
+    <message>
+        <source>Classified</source>
+        <translation>Eingestuft</translation>
+    </message>
+    <message>
+        <source>Confidential</source>
+        <translation>Vertraulich</translation>
+    </message>
+    <message>
+        <source>Secret</source>
+        <translation>Geheim</translation>
+    </message>
+    <message>
+        <source>Top secret</source>
+        <translation>Streng geheim</translation>
+    </message>
+    <message>
+        <source>At %1</source>
+        <translation>Um %1</translation>
+    </message>
+    <message>
+        <source>%1 before the job</source>
+        <translation>%1 vor dem Auftrag</translation>
+    </message>
+    <message>
+        <source>%1 after the job</source>
+        <translation>%1 nach dem Auftrag</translation>
+    </message>
+    <message>
+        <source>%1 before the job, %2 after it</source>
+        <translation>%1 vor dem Auftrag, %2 danach</translation>
+    </message>
+    <message>
+        <source>Pages per Sheet</source>
+        <translation>Seiten pro Blatt</translation>
+    </message>
+    <message>
+        <source>Order on the Sheet</source>
+        <translation>Anordnung auf dem Blatt</translation>
+    </message>
+    <message>
+        <source>Border</source>
+        <translation>Rahmen</translation>
+    </message>
+    <message>
+        <source>Booklet</source>
+        <translation>Broschüre</translation>
+    </message>
+    <message>
+        <source>Even and Odd</source>
+        <translation>Gerade und ungerade</translation>
+    </message>
+    <message>
+        <source>Page Order</source>
+        <translation>Seitenfolge</translation>
+    </message>
+    <message>
+        <source>Several Copies</source>
+        <translation>Mehrere Exemplare</translation>
+    </message>
+    <message>
+        <source>Print It</source>
+        <translation>Drucken</translation>
+    </message>
+    <message>
+        <source>Priority</source>
+        <translation>Priorität</translation>
+    </message>
+    <message>
+        <source>Cover Pages</source>
+        <translation>Deckblätter</translation>
+    </message>
+    <message>
+        <source>Notification</source>
+        <translation>Benachrichtigung</translation>
     </message>
 </context>
 <context>
@@ -720,6 +966,33 @@
     </message>
 </context>
 <context>
+    <name>LayoutPane</name>
+    <message>
+        <source>%1:</source>
+        <translation>%1:</translation>
+    </message>
+    <message>
+        <source>Job Title:</source>
+        <translation>Auftragstitel:</translation>
+    </message>
+    <message>
+        <source>Cover page before the job</source>
+        <translation>Deckblatt vor dem Auftrag</translation>
+    </message>
+    <message>
+        <source>Cover page after the job</source>
+        <translation>Deckblatt nach dem Auftrag</translation>
+    </message>
+    <message>
+        <source>Mail address, or nothing</source>
+        <translation>Mailadresse oder nichts</translation>
+    </message>
+    <message>
+        <source>An address looks like this: me@example.com</source>
+        <translation>Eine Adresse sieht so aus: ich@example.com</translation>
+    </message>
+</context>
+<context>
     <name>LpoptionsFile</name>
     <message>
         <source>The saved settings in %1 cannot be read: %2.</source>
@@ -771,6 +1044,10 @@
     <message>
         <source>Setting: %1=%2</source>
         <translation>Einstellung: %1=%2</translation>
+    </message>
+    <message>
+        <source>Page %1 is beyond the document's last page, %2.</source>
+        <translation>Seite %1 liegt hinter der letzten Seite des Dokuments, %2.</translation>
     </message>
 </context>
 <context>

@@ -82,6 +82,10 @@
         <translation>--check-ppd examine seulement un fichier PPD : rien n’est imprimé et aucun script n’est exécuté.</translation>
     </message>
     <message>
+        <source>--no-dialog and --panel do not go together.</source>
+        <translation>--no-dialog et --panel ne vont pas ensemble.</translation>
+    </message>
+    <message>
         <source>--forget-alerts only has the warnings shown again: it prints nothing.</source>
         <translation>--forget-alerts fait seulement réafficher les avertissements ; il n’imprime rien.</translation>
     </message>
@@ -337,6 +341,14 @@
         <translation>Poursuivre</translation>
     </message>
     <message>
+        <source>Layout &amp; Job</source>
+        <translation>Mise en page &amp; travail</translation>
+    </message>
+    <message>
+        <source>Job Title</source>
+        <translation>Titre du travail</translation>
+    </message>
+    <message>
         <source>Printer Features</source>
         <translation>Fonctions de l’imprimante</translation>
     </message>
@@ -445,6 +457,17 @@
     <message>
         <source>Standard input</source>
         <translation>Entrée standard</translation>
+    </message>
+</context>
+<context>
+    <name>HoldField</name>
+    <message>
+        <source>At a time of day</source>
+        <translation>À une heure donnée</translation>
+    </message>
+    <message>
+        <source>Time of day</source>
+        <translation>Heure</translation>
     </message>
 </context>
 <context>
@@ -654,8 +677,231 @@
         <translation>Les pages s’indiquent ainsi : 1-3, 5</translation>
     </message>
     <message>
+        <source>%1 is beyond page %2</source>
+        <translation>%1 dépasse la page %2</translation>
+    </message>
+    <message>
+        <source>%1 in all</source>
+        <translation>%1 en tout</translation>
+    </message>
+    <message>
+        <source>How many there are is not known</source>
+        <translation>Leur nombre n’est pas connu</translation>
+    </message>
+    <message>
         <source>Prese&amp;t:</source>
         <translation>&amp;Préréglage :</translation>
+    </message>
+</context>
+<context>
+    <name>JobLayout</name>
+    <message>
+        <source>Across, from the top left</source>
+        <translation>En ligne, depuis le haut à gauche</translation>
+    </message>
+    <message>
+        <source>Across, from the top right</source>
+        <translation>En ligne, depuis le haut à droite</translation>
+    </message>
+    <message>
+        <source>Across, from the bottom left</source>
+        <translation>En ligne, depuis le bas à gauche</translation>
+    </message>
+    <message>
+        <source>Across, from the bottom right</source>
+        <translation>En ligne, depuis le bas à droite</translation>
+    </message>
+    <message>
+        <source>Down, from the top left</source>
+        <translation>Vers le bas, depuis le haut à gauche</translation>
+    </message>
+    <message>
+        <source>Down, from the top right</source>
+        <translation>Vers le bas, depuis le haut à droite</translation>
+    </message>
+    <message>
+        <source>Up, from the bottom left</source>
+        <translation>Vers le haut, depuis le bas à gauche</translation>
+    </message>
+    <message>
+        <source>Up, from the bottom right</source>
+        <translation>Vers le haut, depuis le bas à droite</translation>
+    </message>
+    <message>
+        <source>No border</source>
+        <translation>Sans bordure</translation>
+    </message>
+    <message>
+        <source>Thin line</source>
+        <translation>Trait fin</translation>
+    </message>
+    <message>
+        <source>Thick line</source>
+        <translation>Trait épais</translation>
+    </message>
+    <message>
+        <source>Two thin lines</source>
+        <translation>Deux traits fins</translation>
+    </message>
+    <message>
+        <source>Two thick lines</source>
+        <translation>Deux traits épais</translation>
+    </message>
+    <message>
+        <source>All pages</source>
+        <translation>Toutes les pages</translation>
+    </message>
+    <message>
+        <source>Odd pages only</source>
+        <translation>Pages impaires seulement</translation>
+    </message>
+    <message>
+        <source>Even pages only</source>
+        <translation>Pages paires seulement</translation>
+    </message>
+    <message>
+        <source>First page first</source>
+        <translation>Première page d’abord</translation>
+    </message>
+    <message>
+        <source>Last page first</source>
+        <translation>Dernière page d’abord</translation>
+    </message>
+    <message>
+        <source>Copy by copy</source>
+        <translation>Exemplaire par exemplaire</translation>
+    </message>
+    <message>
+        <source>Page by page</source>
+        <translation>Page par page</translation>
+    </message>
+    <message>
+        <source>No</source>
+        <translation>Non</translation>
+    </message>
+    <message>
+        <source>Yes</source>
+        <translation>Oui</translation>
+    </message>
+    <message>
+        <source>Now</source>
+        <translation>Maintenant</translation>
+    </message>
+    <message>
+        <source>When somebody releases it</source>
+        <translation>Quand quelqu’un le libère</translation>
+    </message>
+    <message>
+        <source>By day (6:00 to 18:00)</source>
+        <translation>Le jour (6:00 à 18:00)</translation>
+    </message>
+    <message>
+        <source>In the evening (from 18:00)</source>
+        <translation>Le soir (dès 18:00)</translation>
+    </message>
+    <message>
+        <source>At night (18:00 to 6:00)</source>
+        <translation>La nuit (18:00 à 6:00)</translation>
+    </message>
+    <message>
+        <source>In the second shift (from 16:00)</source>
+        <translation>Au deuxième poste (dès 16:00)</translation>
+    </message>
+    <message>
+        <source>In the third shift (from midnight)</source>
+        <translation>Au troisième poste (dès minuit)</translation>
+    </message>
+    <message>
+        <source>At the weekend</source>
+        <translation>Le week-end</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>Aucune</translation>
+    </message>
+    <message>
+        <source>Standard</source>
+        <translation>Standard</translation>
+    </message>
+    <message>
+        <source>Unclassified</source>
+        <translation>Non classifié</translation>
+    </message>
+    <message>
+        <source>Classified</source>
+        <translation>Classifié</translation>
+    </message>
+    <message>
+        <source>Confidential</source>
+        <translation>Confidentiel</translation>
+    </message>
+    <message>
+        <source>Secret</source>
+        <translation>Secret</translation>
+    </message>
+    <message>
+        <source>Top secret</source>
+        <translation>Très secret</translation>
+    </message>
+    <message>
+        <source>At %1</source>
+        <translation>À %1</translation>
+    </message>
+    <message>
+        <source>%1 before the job</source>
+        <translation>%1 avant le travail</translation>
+    </message>
+    <message>
+        <source>%1 after the job</source>
+        <translation>%1 après le travail</translation>
+    </message>
+    <message>
+        <source>%1 before the job, %2 after it</source>
+        <translation>%1 avant le travail, %2 après</translation>
+    </message>
+    <message>
+        <source>Pages per Sheet</source>
+        <translation>Pages par feuille</translation>
+    </message>
+    <message>
+        <source>Order on the Sheet</source>
+        <translation>Ordre sur la feuille</translation>
+    </message>
+    <message>
+        <source>Border</source>
+        <translation>Bordure</translation>
+    </message>
+    <message>
+        <source>Booklet</source>
+        <translation>Livret</translation>
+    </message>
+    <message>
+        <source>Even and Odd</source>
+        <translation>Paires et impaires</translation>
+    </message>
+    <message>
+        <source>Page Order</source>
+        <translation>Ordre des pages</translation>
+    </message>
+    <message>
+        <source>Several Copies</source>
+        <translation>Plusieurs exemplaires</translation>
+    </message>
+    <message>
+        <source>Print It</source>
+        <translation>Imprimer</translation>
+    </message>
+    <message>
+        <source>Priority</source>
+        <translation>Priorité</translation>
+    </message>
+    <message>
+        <source>Cover Pages</source>
+        <translation>Pages de garde</translation>
+    </message>
+    <message>
+        <source>Notification</source>
+        <translation>Notification</translation>
     </message>
 </context>
 <context>
@@ -720,6 +966,33 @@
     </message>
 </context>
 <context>
+    <name>LayoutPane</name>
+    <message>
+        <source>%1:</source>
+        <translation>%1 :</translation>
+    </message>
+    <message>
+        <source>Job Title:</source>
+        <translation>Titre du travail :</translation>
+    </message>
+    <message>
+        <source>Cover page before the job</source>
+        <translation>Page de garde avant le travail</translation>
+    </message>
+    <message>
+        <source>Cover page after the job</source>
+        <translation>Page de garde après le travail</translation>
+    </message>
+    <message>
+        <source>Mail address, or nothing</source>
+        <translation>Adresse électronique, ou rien</translation>
+    </message>
+    <message>
+        <source>An address looks like this: me@example.com</source>
+        <translation>Une adresse ressemble à : moi@example.com</translation>
+    </message>
+</context>
+<context>
     <name>LpoptionsFile</name>
     <message>
         <source>The saved settings in %1 cannot be read: %2.</source>
@@ -771,6 +1044,10 @@
     <message>
         <source>Setting: %1=%2</source>
         <translation>Réglage : %1=%2</translation>
+    </message>
+    <message>
+        <source>Page %1 is beyond the document's last page, %2.</source>
+        <translation>La page %1 dépasse la dernière page du document, %2.</translation>
     </message>
 </context>
 <context>

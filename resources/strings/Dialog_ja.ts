@@ -82,6 +82,10 @@
         <translation>--check-ppd は PPD を調べるだけです。印刷やスクリプトの実行とは同時に指定できません。</translation>
     </message>
     <message>
+        <source>--no-dialog and --panel do not go together.</source>
+        <translation>--no-dialog と --panel は同時に指定できません。</translation>
+    </message>
+    <message>
         <source>--forget-alerts only has the warnings shown again: it prints nothing.</source>
         <translation>--forget-alerts は警告を再び表示させるだけで、印刷は行いません。</translation>
     </message>
@@ -337,6 +341,14 @@
         <translation>続ける</translation>
     </message>
     <message>
+        <source>Layout &amp; Job</source>
+        <translation>レイアウト &amp; ジョブ</translation>
+    </message>
+    <message>
+        <source>Job Title</source>
+        <translation>ジョブのタイトル</translation>
+    </message>
+    <message>
         <source>Printer Features</source>
         <translation>プリンターの機能</translation>
     </message>
@@ -445,6 +457,17 @@
     <message>
         <source>Standard input</source>
         <translation>標準入力</translation>
+    </message>
+</context>
+<context>
+    <name>HoldField</name>
+    <message>
+        <source>At a time of day</source>
+        <translation>時刻を指定</translation>
+    </message>
+    <message>
+        <source>Time of day</source>
+        <translation>時刻</translation>
     </message>
 </context>
 <context>
@@ -654,8 +677,231 @@
         <translation>「1-3, 5」のように入力してください</translation>
     </message>
     <message>
+        <source>%1 is beyond page %2</source>
+        <translation>%1 は最終ページ (%2) を超えています</translation>
+    </message>
+    <message>
+        <source>%1 in all</source>
+        <translation>全 %1 ページ</translation>
+    </message>
+    <message>
+        <source>How many there are is not known</source>
+        <translation>全ページ数は不明です</translation>
+    </message>
+    <message>
         <source>Prese&amp;t:</source>
         <translation>プリセット(&amp;T):</translation>
+    </message>
+</context>
+<context>
+    <name>JobLayout</name>
+    <message>
+        <source>Across, from the top left</source>
+        <translation>左上から横へ</translation>
+    </message>
+    <message>
+        <source>Across, from the top right</source>
+        <translation>右上から横へ</translation>
+    </message>
+    <message>
+        <source>Across, from the bottom left</source>
+        <translation>左下から横へ</translation>
+    </message>
+    <message>
+        <source>Across, from the bottom right</source>
+        <translation>右下から横へ</translation>
+    </message>
+    <message>
+        <source>Down, from the top left</source>
+        <translation>左上から下へ</translation>
+    </message>
+    <message>
+        <source>Down, from the top right</source>
+        <translation>右上から下へ</translation>
+    </message>
+    <message>
+        <source>Up, from the bottom left</source>
+        <translation>左下から上へ</translation>
+    </message>
+    <message>
+        <source>Up, from the bottom right</source>
+        <translation>右下から上へ</translation>
+    </message>
+    <message>
+        <source>No border</source>
+        <translation>枠なし</translation>
+    </message>
+    <message>
+        <source>Thin line</source>
+        <translation>細線</translation>
+    </message>
+    <message>
+        <source>Thick line</source>
+        <translation>太線</translation>
+    </message>
+    <message>
+        <source>Two thin lines</source>
+        <translation>細い二重線</translation>
+    </message>
+    <message>
+        <source>Two thick lines</source>
+        <translation>太い二重線</translation>
+    </message>
+    <message>
+        <source>All pages</source>
+        <translation>すべてのページ</translation>
+    </message>
+    <message>
+        <source>Odd pages only</source>
+        <translation>奇数ページのみ</translation>
+    </message>
+    <message>
+        <source>Even pages only</source>
+        <translation>偶数ページのみ</translation>
+    </message>
+    <message>
+        <source>First page first</source>
+        <translation>最初のページから</translation>
+    </message>
+    <message>
+        <source>Last page first</source>
+        <translation>最後のページから</translation>
+    </message>
+    <message>
+        <source>Copy by copy</source>
+        <translation>部単位</translation>
+    </message>
+    <message>
+        <source>Page by page</source>
+        <translation>ページ単位</translation>
+    </message>
+    <message>
+        <source>No</source>
+        <translation>しない</translation>
+    </message>
+    <message>
+        <source>Yes</source>
+        <translation>する</translation>
+    </message>
+    <message>
+        <source>Now</source>
+        <translation>今すぐ</translation>
+    </message>
+    <message>
+        <source>When somebody releases it</source>
+        <translation>保留が解除されたとき</translation>
+    </message>
+    <message>
+        <source>By day (6:00 to 18:00)</source>
+        <translation>日中 (6:00～18:00)</translation>
+    </message>
+    <message>
+        <source>In the evening (from 18:00)</source>
+        <translation>夕方以降 (18:00 から)</translation>
+    </message>
+    <message>
+        <source>At night (18:00 to 6:00)</source>
+        <translation>夜間 (18:00～6:00)</translation>
+    </message>
+    <message>
+        <source>In the second shift (from 16:00)</source>
+        <translation>第 2 シフト (16:00 から)</translation>
+    </message>
+    <message>
+        <source>In the third shift (from midnight)</source>
+        <translation>第 3 シフト (0:00 から)</translation>
+    </message>
+    <message>
+        <source>At the weekend</source>
+        <translation>週末</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>なし</translation>
+    </message>
+    <message>
+        <source>Standard</source>
+        <translation>標準</translation>
+    </message>
+    <message>
+        <source>Unclassified</source>
+        <translation>区分なし</translation>
+    </message>
+    <message>
+        <source>Classified</source>
+        <translation>機密区分あり</translation>
+    </message>
+    <message>
+        <source>Confidential</source>
+        <translation>社外秘</translation>
+    </message>
+    <message>
+        <source>Secret</source>
+        <translation>機密</translation>
+    </message>
+    <message>
+        <source>Top secret</source>
+        <translation>最高機密</translation>
+    </message>
+    <message>
+        <source>At %1</source>
+        <translation>%1</translation>
+    </message>
+    <message>
+        <source>%1 before the job</source>
+        <translation>ジョブの前に%1</translation>
+    </message>
+    <message>
+        <source>%1 after the job</source>
+        <translation>ジョブの後に%1</translation>
+    </message>
+    <message>
+        <source>%1 before the job, %2 after it</source>
+        <translation>ジョブの前に%1、後に%2</translation>
+    </message>
+    <message>
+        <source>Pages per Sheet</source>
+        <translation>1 枚あたりのページ数</translation>
+    </message>
+    <message>
+        <source>Order on the Sheet</source>
+        <translation>ページの並び順</translation>
+    </message>
+    <message>
+        <source>Border</source>
+        <translation>枠</translation>
+    </message>
+    <message>
+        <source>Booklet</source>
+        <translation>小冊子</translation>
+    </message>
+    <message>
+        <source>Even and Odd</source>
+        <translation>奇数・偶数ページ</translation>
+    </message>
+    <message>
+        <source>Page Order</source>
+        <translation>印刷順</translation>
+    </message>
+    <message>
+        <source>Several Copies</source>
+        <translation>複数部数</translation>
+    </message>
+    <message>
+        <source>Print It</source>
+        <translation>印刷の時期</translation>
+    </message>
+    <message>
+        <source>Priority</source>
+        <translation>優先度</translation>
+    </message>
+    <message>
+        <source>Cover Pages</source>
+        <translation>バナーページ</translation>
+    </message>
+    <message>
+        <source>Notification</source>
+        <translation>通知先</translation>
     </message>
 </context>
 <context>
@@ -720,6 +966,33 @@
     </message>
 </context>
 <context>
+    <name>LayoutPane</name>
+    <message>
+        <source>%1:</source>
+        <translation>%1:</translation>
+    </message>
+    <message>
+        <source>Job Title:</source>
+        <translation>ジョブのタイトル:</translation>
+    </message>
+    <message>
+        <source>Cover page before the job</source>
+        <translation>ジョブの前のバナーページ</translation>
+    </message>
+    <message>
+        <source>Cover page after the job</source>
+        <translation>ジョブの後のバナーページ</translation>
+    </message>
+    <message>
+        <source>Mail address, or nothing</source>
+        <translation>メールアドレス (任意)</translation>
+    </message>
+    <message>
+        <source>An address looks like this: me@example.com</source>
+        <translation>アドレスの例: me@example.com</translation>
+    </message>
+</context>
+<context>
     <name>LpoptionsFile</name>
     <message>
         <source>The saved settings in %1 cannot be read: %2.</source>
@@ -771,6 +1044,10 @@
     <message>
         <source>Setting: %1=%2</source>
         <translation>設定: %1=%2</translation>
+    </message>
+    <message>
+        <source>Page %1 is beyond the document's last page, %2.</source>
+        <translation>%1 ページは、文書の最終ページ (%2) を超えています。</translation>
     </message>
 </context>
 <context>

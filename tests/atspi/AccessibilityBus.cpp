@@ -9,7 +9,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int kTimeout = 20000; // ms
+constexpr int kReplyTimeout = 20000; // ms
 constexpr auto kAccessible = "org.a11y.atspi.Accessible"_L1;
 constexpr auto kSession = "session"_L1;
 
@@ -21,7 +21,7 @@ QDBusMessage call(const AccessiblePlace &place, const QString &interface, const 
 void end(QProcess &process)
 {
     process.terminate();
-    if (!process.waitForFinished(kTimeout))
+    if (!process.waitForFinished(kReplyTimeout))
         process.kill();
 }
 
@@ -68,7 +68,7 @@ AccessibilityBus::AccessibilityBus()
                                                               u"org.a11y.Bus"_s, u"GetAddress"_s));
             return address.isValid();
         },
-        kTimeout);
+        kReplyTimeout);
     if (!isThere ||
         !QDBusConnection::connectToBus(address.value(), u"accessibility"_s).isConnected())
         m_fault = u"the bus for assistive technology: "_s + address.error().message();
@@ -89,7 +89,7 @@ QByteArray AccessibilityBus::start(QProcess &process, const QString &program,
 {
     process.setProcessEnvironment(m_environment);
     process.start(program, arguments);
-    while (!process.canReadLine() && process.waitForReadyRead(kTimeout)) {
+    while (!process.canReadLine() && process.waitForReadyRead(kReplyTimeout)) {
     }
     const QByteArray line = process.readLine().trimmed();
     if (line.isEmpty())

@@ -68,6 +68,67 @@ TEST_F(Command, AChoiceArrivesInTheJobAndInThePrinter)
     EXPECT_FALSE(printed().contains("%% VKMediaType=Plain"));
 }
 
+TEST_F(Command, TheNamesOfLpArriveInTheJob)
+{
+    const ProgramRun run = print({u"-n"_s, u"2"_s, u"-t"_s, u"Mine"_s, u"-P1"_s, u"-Hhold"_s,
+                                  u"-q"_s, u"70"_s, u"-m"_s, u"-o"_s, u"number-up=2"_s, u"-o"_s,
+                                  u"page-set=odd"_s, u"-o"_s, u"job-sheets=standard"_s, u"-o"_s,
+                                  u"sides=two-sided-short-edge"_s, u"-o"_s, u"media=A5"_s});
+    ASSERT_EQ(run.status, 0) << run.errors.toStdString();
+    EXPECT_EQ(run.errors, u""_s) << "that it is held was asked for";
+    ASSERT_EQ(newJobs().size(), 1);
+    const QMap<QString, QString> job = server().jobAttributes(u"photo"_s, newJobs()[0]);
+    const QMap<QString, QString> expected{{u"copies"_s, u"2"_s},
+                                          {u"job-name"_s, u"Mine"_s},
+                                          {u"page-ranges"_s, u"1"_s},
+                                          {u"job-hold-until"_s, u"indefinite"_s},
+                                          {u"job-priority"_s, u"70"_s},
+                                          {u"number-up"_s, u"2"_s},
+                                          {u"page-set"_s, u"odd"_s},
+                                          {u"job-sheets"_s, u"standard,none"_s},
+                                          {u"Duplex"_s, u"DuplexTumble"_s},
+                                          {u"VKMediaType"_s, u"PlainDuplex"_s},
+                                          {u"PageSize"_s, u"A5"_s}};
+    for (auto one = expected.cbegin(); one != expected.cend(); ++one)
+        EXPECT_EQ(job.value(one.key()), one.value()) << one.key().toStdString();
+    for (const char *name : {"sides", "media", "notify-recipient-uri"})
+        EXPECT_FALSE(job.contains(QLatin1String(name))) << name;
+    EXPECT_TRUE(server().command(u"cancel"_s, {u"-a"_s, u"photo"_s}));
+}
+
+TEST_F(Command, PagesBeyondTheDocumentAreRefusedBeforeAnythingIsSent)
+{
+    const ProgramRun run = print({u"-P"_s, u"99"_s});
+    EXPECT_EQ(run.status, 2);
+    EXPECT_EQ(run.errors, u"velkaro-print: Page 99 is beyond the document's last page, 1.\n"_s);
+    EXPECT_EQ(newJobs(), QList<int>());
+}
+
+TEST_F(Command, AWrongValueIsToldBeforeAnyServerIsAsked)
+{
+    for (const QStringList &options :
+         {QStringList{u"-o"_s, u"number-up=3"_s}, QStringList{u"-q"_s, u"0"_s},
+          QStringList{u"-n"_s, u"many"_s}, QStringList{u"-H"_s, u"someday"_s},
+          QStringList{u"-P"_s, u"x"_s}}) {
+        const ProgramRun run = runProgram(
+            QStringList{u"--no-dialog"_s, u"-h"_s, u"127.0.0.1:1"_s, u"-d"_s, u"photo"_s} +
+            options + QStringList{pdf()});
+        EXPECT_EQ(run.status, 2) << run.errors.toStdString();
+    }
+}
+
+TEST_F(Command, SavedOptionsOfALayoutArriveInTheJob)
+{
+    const ProgramRun run =
+        runProgram({u"--no-dialog"_s, u"-h"_s, server().address(), u"-d"_s, u"photo"_s, pdf()},
+                   "Dest photo number-up=4 page-border=single job-sheets=none,standard\n");
+    ASSERT_EQ(run.status, 0) << run.errors.toStdString();
+    const QMap<QString, QString> job = server().jobAttributes(u"photo"_s, newJobs()[0]);
+    EXPECT_EQ(job.value(u"number-up"_s), u"4"_s);
+    EXPECT_EQ(job.value(u"page-border"_s), u"single"_s);
+    EXPECT_EQ(job.value(u"job-sheets"_s), u"none,standard"_s);
+}
+
 TEST_F(Command, ARecordingOnAQueueKeepsItsPPDAndCanBeReplayed)
 {
     const QString script = inFolder(u"session.jsonl"_s);

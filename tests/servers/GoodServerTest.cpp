@@ -1,4 +1,5 @@
 #include "dialog/cups/Destinations.h"
+#include "dialog/cups/IppAnswer.h"
 #include "dialog/cups/JobSubmission.h"
 #include "dialog/cups/QueuePPD.h"
 #include "tests/servers/GoodAnswers.h"
@@ -62,6 +63,33 @@ TEST(ScriptedServerTest, WithoutAScriptTakesAJobAsItWasSent)
     ASSERT_EQ(sent.size(), 2);
     EXPECT_TRUE(sent[0].endsWith(QByteArray(100000, '1')));
     EXPECT_TRUE(sent[1].endsWith("second"));
+}
+
+TEST(ScriptedServerTest, IsAskedToTellOfTheJobsEndInASubscription)
+{
+    const ScriptedServer server;
+    const QTemporaryDir folder;
+    writeFile(folder.filePath(u"first.pdf"_s), "first");
+    JobRequest job;
+    job.server = server.address();
+    job.queue = u"photo"_s;
+    job.options = {{u"notify-recipient-uri"_s, u"mailto:me@example.com"_s},
+                   {u"job-sheets"_s, u"standard,none"_s}};
+    job.documents = openedDocuments({folder.filePath(u"first.pdf"_s)});
+    CallGuard guard;
+    const auto receipt = submitJob(job, guard);
+    ASSERT_TRUE(receipt) << receipt.sentence().toStdString();
+    EXPECT_EQ(receipt->notes, QStringList()) << "no attribute of the job is missed";
+    const IppHandle request = readIppAnswer(server.bodies(u"Create-Job"_s).value(0)).ipp;
+    ipp_attribute_t *recipient =
+        ippFindAttribute(request.get(), "notify-recipient-uri", IPP_TAG_URI);
+    ASSERT_NE(recipient, nullptr);
+    EXPECT_EQ(ippGetGroupTag(recipient), IPP_TAG_SUBSCRIPTION);
+    EXPECT_STREQ(ippGetString(recipient, 0, nullptr), "mailto:me@example.com");
+    ipp_attribute_t *covers = ippFindAttribute(request.get(), "job-sheets", IPP_TAG_KEYWORD);
+    ASSERT_NE(covers, nullptr);
+    EXPECT_EQ(ippGetGroupTag(covers), IPP_TAG_JOB);
+    EXPECT_EQ(ippGetCount(covers), 2);
 }
 
 } // namespace

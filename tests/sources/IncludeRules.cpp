@@ -30,6 +30,7 @@ const QList<IncludeRule> &rules()
         {u"panel"_s, {u"platform"_s}},
         {u"platform"_s, {}},
         {u"dialog/work"_s, {}},
+        {u"dialog/pagecount"_s, {}},
         {u"dialog/files"_s, {u"platform"_s, u"dialog/work"_s}},
         {u"dialog/host"_s, {u"platform"_s, u"dialog/work"_s, u"dialog/files"_s}},
         {u"dialog/replay"_s,

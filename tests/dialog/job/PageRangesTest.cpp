@@ -1,5 +1,6 @@
 #include "dialog/job/PageRanges.h"
 #include "tests/endtoend/JobPrinting.h"
+#include "tests/support/CaseName.h"
 
 #include <gtest/gtest.h>
 
@@ -46,5 +47,27 @@ INSTANTIATE_TEST_SUITE_P(
         TypedRanges{"Fraction", u"1.5"_s, QString()},
         TypedRanges{"Huge", u"99999999999"_s, QString()}),
     [](const auto &row) { return std::string(row.param.name); });
+
+struct Beyond
+{
+    const char *behaviour;
+    QString ranges;
+    std::optional<int> page; ///< of a document of five pages
+};
+
+class PageBeyond : public testing::TestWithParam<Beyond>
+{};
+
+TEST_P(PageBeyond, IsTheFirstOfARangeWithoutAPage)
+{
+    EXPECT_EQ(pageBeyond(GetParam().ranges, 5), GetParam().page);
+}
+
+INSTANTIATE_TEST_SUITE_P(Table, PageBeyond,
+                         testing::Values(Beyond{"All", u""_s, {}}, Beyond{"TheLast", u"5"_s, {}},
+                                         Beyond{"ARangeThatGoesOn", u"1,4-65535"_s, {}},
+                                         Beyond{"One", u"99"_s, 99},
+                                         Beyond{"OneOfSeveral", u"1-3,6-7,99"_s, 6}),
+                         CaseName());
 
 } // namespace

@@ -30,8 +30,9 @@ INSTANTIATE_TEST_SUITE_P(Ours, SavedJobOption,
                                   u"print-quality"_s, u"AP_ColorMatchingMode"_s}},
                              // lpoptions
                              Row{OptionOrigin::Ours,
-                                 {u"job-hold-until"_s, u"number-up"_s, u"sides"_s,
-                                  u"job-priority"_s, u"job-sheets"_s, u"mirror"_s, u"page-left"_s}},
+                                 {u"job-hold-until"_s, u"number-up"_s, u"sides"_s, u"booklet"_s,
+                                  u"notify-recipient-uri"_s, u"job-priority"_s, u"job-sheets"_s,
+                                  u"mirror"_s, u"page-left"_s}},
                              // keywords of PPDs
                              Row{OptionOrigin::Ours,
                                  {u"PageSize"_s, u"Duplex"_s, u"VKMediaType"_s,
@@ -47,8 +48,7 @@ INSTANTIATE_TEST_SUITE_P(
         // what IPP says of a job, in whatever case
         Row{OptionOrigin::Foreign,
             {u"job-name"_s, u"Job-Name"_s, u"job-cancel-after"_s, u"requesting-user-name"_s,
-             u"notify-recipient-uri"_s, u"printer-info"_s, u"PRINTER-URI-SUPPORTED"_s,
-             u"media-col"_s, u"auth-info"_s}},
+             u"printer-info"_s, u"PRINTER-URI-SUPPORTED"_s, u"media-col"_s, u"auth-info"_s}},
         // the platform's own keys
         Row{OptionOrigin::Foreign,
             {u"com.apple.print.PageToPaperMappingMediaName"_s, u"COM.APPLE.x"_s}},

@@ -110,14 +110,20 @@ TEST(SavedSettings, BecomeMarksSettingsAndTheRest)
                                               {u"copies"_s, u"3"_s},
                                               {u"page-ranges"_s, u"2-4"_s},
                                               {u"orientation-requested"_s, u"5"_s},
-                                              {u"number-up"_s, u"2"_s}});
+                                              {u"number-up"_s, u"2"_s},
+                                              {u"number-up-layout"_s, u"zigzag"_s},
+                                              {u"job-sheets"_s, u"standard"_s},
+                                              {u"mirror"_s, u"true"_s}});
     EXPECT_EQ(markedChoice(opened->ppd.get(), u"VKMediaType"_s), u"Glossy"_s);
     EXPECT_EQ(markedChoice(opened->ppd.get(), u"PageSize"_s), u"A4.Fullbleed"_s);
     EXPECT_EQ(markedChoice(opened->ppd.get(), u"Duplex"_s), u"DuplexNoTumble"_s);
     EXPECT_EQ(settings.settings.copies, 3);
     EXPECT_EQ(settings.settings.pageRanges, u"2-4"_s);
     EXPECT_EQ(settings.orientation, PMOrientation::Landscape);
-    EXPECT_EQ(settings.others, (QList<JobOption>{{u"number-up"_s, u"2"_s}}));
+    EXPECT_EQ(settings.settings.layout.pagesPerSheet, u"2"_s);
+    EXPECT_EQ(settings.settings.layout.coverPages, u"standard,none"_s);
+    EXPECT_EQ(settings.others,
+              (QList<JobOption>{{u"number-up-layout"_s, u"zigzag"_s}, {u"mirror"_s, u"true"_s}}));
 }
 
 TEST(SavedSettings, WithoutAPPDKeepEverythingElse)

@@ -81,6 +81,9 @@ INSTANTIATE_TEST_SUITE_P(
         Refused{"CheckAndOutput",
                 {u"--check-ppd=a.ppd"_s, u"--output=-"_s},
                 "--check-ppd only looks at a PPD: it prints and replays nothing."},
+        Refused{"NoDialogAndAPanel",
+                {u"--no-dialog"_s, u"--panel=print"_s, u"a.pdf"_s},
+                "--no-dialog and --panel do not go together."},
         Refused{"NothingToPrint", {u"--no-dialog"_s}, "--no-dialog needs a document to print."},
         Refused{"PictureOfNoDialog",
                 {u"--no-dialog"_s, u"--screenshot=a.png"_s, u"a.pdf"_s},
@@ -95,9 +98,8 @@ TEST(CommandLine, TakesEveryOption)
          u"--ppd"_s,    u"a.ppd"_s,        u"-o"_s,          u"A=b=c"_s,
          u"-oD=e"_s,    u"-o"_s,           u"fit-to-page"_s, u"--paper=Custom.100x150mm"_s,
          u"--output"_s, u"out"_s,          u"--no-dialog"_s, u"--yes"_s,
-         u"--force"_s,  u"--panel"_s,      u"summary"_s,     u"--record"_s,
-         u"r"_s,        u"--plug-in"_s,    u"p.bundle"_s,    u"one.pdf"_s,
-         u"--"_s,       u"-two.pdf"_s});
+         u"--force"_s,  u"--record"_s,     u"r"_s,           u"--plug-in"_s,
+         u"p.bundle"_s, u"one.pdf"_s,      u"--"_s,          u"-two.pdf"_s});
     ASSERT_TRUE(parsed) << parsed.sentence().toStdString();
     const CommandLine &line = *parsed;
     EXPECT_EQ(line.queue, u"photo"_s);
@@ -112,10 +114,32 @@ TEST(CommandLine, TakesEveryOption)
     EXPECT_TRUE(line.noDialog);
     EXPECT_TRUE(line.yes);
     EXPECT_TRUE(line.force);
-    EXPECT_EQ(line.panel, u"summary"_s);
     EXPECT_EQ(line.record, u"r"_s);
     EXPECT_EQ(line.plugIn, u"p.bundle"_s);
     EXPECT_EQ(line.files, (QStringList{u"one.pdf"_s, u"-two.pdf"_s}));
+}
+
+TEST(CommandLine, TakesAPartToShow)
+{
+    EXPECT_EQ(parseCommandLine({u"--panel"_s, u"summary"_s})->panel, u"summary"_s);
+}
+
+TEST(CommandLine, TakesTheOptionsOfLp)
+{
+    const CommandLine line =
+        *parseCommandLine({u"-n2"_s, u"-P"_s, u"1-3,5"_s, u"-t"_s, u"A title"_s, u"-H"_s,
+                           u"immediate"_s, u"-q70"_s, u"-m"_s});
+    EXPECT_EQ(line.choices, (QList<RequestedChoice>{{u"copies"_s, u"2"_s},
+                                                    {u"page-ranges"_s, u"1-3,5"_s},
+                                                    {u"job-hold-until"_s, u"no-hold"_s},
+                                                    {u"job-priority"_s, u"70"_s}}));
+    EXPECT_EQ(line.title, u"A title"_s);
+    EXPECT_TRUE(line.mail);
+    const auto hold = [](const QString &when) {
+        return parseCommandLine({u"-H"_s, when})->choices[0].choice;
+    };
+    EXPECT_EQ(hold(u"hold"_s), u"indefinite"_s);
+    EXPECT_EQ(hold(u"23:30"_s), u"23:30"_s);
 }
 
 TEST(CommandLine, TakesAPPDToCheckWithAPlugIn)

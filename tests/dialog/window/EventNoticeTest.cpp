@@ -89,7 +89,7 @@ TEST_F(EventNotice, TellsWhatLookingAtTheSummaryChanges)
     pick("mediaTypePopup", u"Glossy"_s);
     setUpPage("DuplexPopup", u"DuplexNoTumble"_s);
     EXPECT_EQ(marked(u"VKMediaType"_s), u"Glossy"_s);
-    showTab(3);
+    showTab(4);
     EXPECT_EQ(marked(u"VKMediaType"_s), u"PlainDuplex"_s);
     EXPECT_EQ(notice(),
               u"Media Type is now Plain Paper (Two-Sided) (was Other Glossy Paper); Print "

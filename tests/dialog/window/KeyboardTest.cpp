@@ -92,17 +92,22 @@ TEST_P(KeyboardWalk, ComesToAllInReadingOrderAndSaysWhatTheyAreFor)
 
 INSTANTIATE_TEST_SUITE_P(
     Parts, KeyboardWalk,
-    testing::Values(Walk{0,
-                         {u"Page Setup"_s, u"Paper in the Printer:"_s, u"Borderless"_s,
-                          u"Portrait"_s, u"Scaling:"_s, u"Two-Sided Printing:"_s, u"Output:"_s,
-                          u"By the Printer"_s}},
-                    Walk{1,
-                         {u"Print Settings"_s, u"Media Type"_s, u"Print Quality"_s, u"Color Mode"_s,
-                          u"Paper Thickness"_s, u"Paper Source"_s, u"Section: Advanced Settings"_s,
-                          u"Advanced Settings"_s, u"Mirror Image"_s, u"Rotate by 180 Degrees"_s}},
-                    Walk{2,
-                         {u"Color Settings"_s, u"Natural"_s, u"Halftone Pattern"_s,
-                          u"Section: Color Enhancement"_s, u"Color Enhancement"_s}},
-                    Walk{3, {u"Summary"_s, u"Summary"_s}}));
+    testing::Values(
+        Walk{0,
+             {u"Page Setup"_s, u"Paper in the Printer:"_s, u"Borderless"_s, u"Portrait"_s,
+              u"Scaling:"_s, u"Two-Sided Printing:"_s, u"Output:"_s, u"By the Printer"_s}},
+        Walk{1,
+             {u"Print Settings"_s, u"Media Type"_s, u"Print Quality"_s, u"Color Mode"_s,
+              u"Paper Thickness"_s, u"Paper Source"_s, u"Section: Advanced Settings"_s,
+              u"Advanced Settings"_s, u"Mirror Image"_s, u"Rotate by 180 Degrees"_s}},
+        Walk{2,
+             {u"Color Settings"_s, u"Natural"_s, u"Halftone Pattern"_s,
+              u"Section: Color Enhancement"_s, u"Color Enhancement"_s}},
+        Walk{3,
+             {u"Layout & Job"_s, u"Pages per Sheet:"_s, u"Booklet:"_s, u"Even and Odd:"_s,
+              u"Page Order:"_s, u"Several Copies:"_s, u"Job Title:"_s, u"Print It"_s,
+              u"Priority:"_s, u"Cover page before the job"_s, u"Cover page after the job"_s,
+              u"Notification"_s}},
+        Walk{4, {u"Summary"_s, u"Summary"_s}}));
 
 } // namespace

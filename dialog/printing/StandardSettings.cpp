@@ -1,0 +1,105 @@
+#include "dialog/printing/StandardSettings.h"
+
+#include "dialog/host/PPDMarks.h"
+#include "dialog/printing/SettingRequests.h"
+#include "platform/ppd/PPDText.h"
+
+#include <cups/cups.h>
+
+#include <algorithm>
+#include <array>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr auto kMedia = "media"_L1;
+constexpr auto kPaperKeyword = "PageSize"_L1;
+constexpr auto kOwnSize = "Custom."_L1;
+
+/// A name and values of it that map to different choices where a printer has any.
+struct StandardName
+{
+    QLatin1String name;
+    std::array<QLatin1String, 2> values;
+    QLatin1String third = {}; ///< where it has these three alone; libcups takes any number
+};
+
+constexpr std::array kNames{
+    StandardName{"sides"_L1, {"one-sided"_L1, "two-sided-long-edge"_L1}},
+    StandardName{"print-quality"_L1, {"3"_L1, "5"_L1}, "4"_L1},
+    StandardName{"print-color-mode"_L1, {"monochrome"_L1, "color"_L1}},
+    StandardName{"output-bin"_L1, {"face-up"_L1, "face-down"_L1}},
+    StandardName{kMedia, {"iso_a4_210x297mm"_L1, "iso_a5_148x210mm"_L1}},
+};
+
+void markAsCups(ppd_file_t *ppd, const QString &name, const QString &value)
+{
+    cups_option_t *options = nullptr;
+    const int count =
+        cupsAddOption(name.toUtf8().constData(), value.toUtf8().constData(), 0, &options);
+    cupsMarkOptions(ppd, count, options);
+    cupsFreeOptions(count, options);
+}
+
+void markAgain(ppd_file_t *ppd, const QList<PPDMark> &before)
+{
+    const QList<PPDMark> changed = changedMarks(ppd, before);
+    for (const PPDMark &mark : changed) {
+        const auto former = std::ranges::find(before, mark.keyword, &PPDMark::keyword);
+        if (former != before.end())
+            forceChoice(ppd, former->keyword, former->choice);
+    }
+}
+
+bool isValue(const StandardName &standard, const QString &value)
+{
+    return standard.third.isEmpty() || value == standard.third ||
+           std::ranges::find(standard.values, value) != standard.values.end();
+}
+
+/// What the value marks. It may be marked already: so it is looked for after either of two others.
+QList<PPDMark> marksFor(ppd_file_t *ppd, const StandardName &standard, const QString &value)
+{
+    const QList<PPDMark> before = marksOf(ppd);
+    QList<PPDMark> marks;
+    for (const QLatin1String other : standard.values) {
+        markAsCups(ppd, standard.name, other);
+        const QList<PPDMark> base = marksOf(ppd);
+        markAsCups(ppd, standard.name, value);
+        if (marks.isEmpty())
+            marks = changedMarks(ppd, base);
+    }
+    markAgain(ppd, before);
+    return marks;
+}
+
+/// The wish as the PPD names it; none where the PPD has no choice for it.
+QList<RequestedChoice> namedByPPD(ppd_file_t *ppd, const RequestedChoice &wanted)
+{
+    const auto *standard = std::ranges::find(kNames, wanted.keyword, &StandardName::name);
+    if (!ppd || standard == kNames.end())
+        return {wanted};
+    if (wanted.keyword == kMedia && wanted.choice.startsWith(kOwnSize))
+        return {{kPaperKeyword, wanted.choice}};
+    if (!isValue(*standard, wanted.choice))
+        return {};
+    QList<RequestedChoice> named;
+    for (const PPDMark &mark : marksFor(ppd, *standard, wanted.choice))
+        named += RequestedChoice{mark.keyword, mark.choice};
+    return named;
+}
+
+} // namespace
+
+NamedWishes inPrintersNames(ppd_file_t *ppd, const QList<RequestedChoice> &wanted)
+{
+    NamedWishes named;
+    for (const RequestedChoice &one : wanted) {
+        const QList<RequestedChoice> choices = namedByPPD(ppd, one);
+        named.wanted += choices;
+        if (choices.isEmpty() && named.state)
+            named.state = noSuchValue(one);
+    }
+    return named;
+}

@@ -1,0 +1,18 @@
+#pragma once
+
+#include "dialog/printing/PrintWishes.h"
+#include "dialog/work/Result.h"
+#include "platform/ppd/CupsPPD.h"
+
+/// Wishes in the names of the printer.
+struct NamedWishes
+{
+    QList<RequestedChoice> wanted;
+    Result<> state; ///< the fault of the first wish that the printer has no choice for
+};
+
+/// The wishes with what was asked for by the names that every printer has (`media`, `sides`,
+/// `print-quality`, `output-bin`, `print-color-mode`) as choices of the PPD (null: none, and they
+/// stay), as libcups maps them: the printer's own names and rules count from then on. The marks
+/// stay as they are.
+NamedWishes inPrintersNames(ppd_file_t *ppd, const QList<RequestedChoice> &wanted);

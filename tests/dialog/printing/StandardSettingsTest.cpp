@@ -1,0 +1,87 @@
+#include "dialog/printing/StandardSettings.h"
+
+#include "dialog/host/PPDFile.h"
+#include "dialog/host/PPDMarks.h"
+#include "tests/built/BuiltFiles.h"
+#include "tests/support/CaseName.h"
+#include "tests/support/Files.h"
+#include "tests/support/PPDSource.h"
+#include "tests/support/QStringPrinting.h"
+
+#include <QtCore/QTemporaryDir>
+
+#include <gtest/gtest.h>
+
+using namespace Qt::StringLiterals;
+
+void PrintTo(const RequestedChoice &choice, std::ostream *out)
+{
+    *out << choice.keyword.toStdString() << '=' << choice.choice.toStdString();
+}
+
+namespace {
+
+struct Standard
+{
+    const char *behaviour;
+    RequestedChoice wanted;
+    QList<RequestedChoice> named;
+    QString sentence;
+};
+
+class StandardSetting : public testing::TestWithParam<Standard>
+{};
+
+TEST_P(StandardSetting, IsNamedAsThePrinterDoes)
+{
+    const QTemporaryDir folder;
+    const QString path = folder.filePath(u"printer.ppd"_s);
+    writeFile(path,
+              PPDSource()
+                  .papers({{"A4", 595, 842}, {"A5", 420, 595}})
+                  .option("Duplex/Two-Sided",
+                          {"None/Off", "DuplexNoTumble/Long Edge", "DuplexTumble/Short Edge"})
+                  .option("cupsPrintQuality/Quality", {"Draft/Draft", "Normal/Normal", "High/High"})
+                  .text());
+    const auto opened = openPPD(path);
+    ASSERT_TRUE(opened) << opened.sentence().toStdString();
+    ppd_file_t *ppd = opened->ppd.get();
+    const QList<PPDMark> before = marksOf(ppd);
+    const NamedWishes named = inPrintersNames(ppd, {GetParam().wanted});
+    EXPECT_EQ(named.wanted, GetParam().named);
+    EXPECT_EQ(named.state.sentence(), GetParam().sentence);
+    EXPECT_EQ(marksOf(ppd), before);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Table, StandardSetting,
+    testing::Values(
+        Standard{"TwoSides",
+                 {u"sides"_s, u"two-sided-long-edge"_s},
+                 {{u"Duplex"_s, u"DuplexNoTumble"_s}},
+                 {}},
+        Standard{
+            "OneSideWhichIsMarked", {u"sides"_s, u"one-sided"_s}, {{u"Duplex"_s, u"None"_s}}, {}},
+        Standard{"NoSides", {u"sides"_s, u"both"_s}, {}, u"both is no value for sides."_s},
+        Standard{"APaper", {u"media"_s, u"A5"_s}, {{u"PageSize"_s, u"A5"_s}}, {}},
+        Standard{"APaperByItsStandardName",
+                 {u"media"_s, u"iso_a4_210x297mm"_s},
+                 {{u"PageSize"_s, u"A4"_s}},
+                 {}},
+        Standard{"APaperOfOnesOwn",
+                 {u"media"_s, u"Custom.100x150mm"_s},
+                 {{u"PageSize"_s, u"Custom.100x150mm"_s}},
+                 {}},
+        Standard{"NoPaper", {u"media"_s, u"B9"_s}, {}, u"B9 is no value for media."_s},
+        Standard{
+            "AQuality", {u"print-quality"_s, u"5"_s}, {{u"cupsPrintQuality"_s, u"High"_s}}, {}},
+        Standard{"TheQualityThatIsMarked",
+                 {u"print-quality"_s, u"3"_s},
+                 {{u"cupsPrintQuality"_s, u"Draft"_s}},
+                 {}},
+        Standard{
+            "NoQuality", {u"print-quality"_s, u"9"_s}, {}, u"9 is no value for print-quality."_s},
+        Standard{"AnotherName", {u"Finish"_s, u"Shiny"_s}, {{u"Finish"_s, u"Shiny"_s}}, {}}),
+    CaseName());
+
+} // namespace
