@@ -140,6 +140,8 @@ void DialogWindow::changePart()
         listCoverPages();
     if (part->page == m_summary)
         m_summary->setSections(summarySections());
+    if (!part->panel)
+        settleMnemonics(*part->page, mnemonicsIn(*this));
     moveButtonsLast();
     if (m_viewIsMissing || wasMissing || !m_pageSetup->isAcceptable() ||
         !m_features->isAcceptable())

@@ -1,8 +1,10 @@
 #include "dialog/window/Mnemonics.h"
 
+#include <QtCore/QRegularExpression>
 #include <QtGui/QKeySequence>
 #include <QtWidgets/QAbstractButton>
 #include <QtWidgets/QLabel>
+#include <QtWidgets/QStackedWidget>
 #include <QtWidgets/QTabBar>
 #include <QtWidgets/QTabWidget>
 
@@ -89,12 +91,40 @@ private:
     QString m_asked; // for the title that letters are being looked for
 };
 
+bool isOnAPageOf(const QWidget &window, const QWidget *widget)
+{
+    for (; widget && widget != &window; widget = widget->parentWidget())
+        if (qobject_cast<const QStackedWidget *>(widget))
+            return true;
+    return false;
+}
+
+/// The title as it was before it got its mnemonic.
+QString stripped(QString title)
+{
+    static const QRegularExpression behind(QStringLiteral("\\(&[A-Z]\\)"));
+    static const QRegularExpression before(QStringLiteral("(?<!&)&(?!&)"));
+    return title.remove(behind).remove(before);
+}
+
+/// Another letter for a title whose own is taken.
+template <typename Titled> void settle(Titled &titled, QString &taken)
+{
+    const QString own = mnemonicOf(titled.text());
+    if (own.isEmpty())
+        return;
+    if (taken.contains(own))
+        titled.setText(withMnemonic(stripped(titled.text()), taken));
+    taken += mnemonicOf(titled.text());
+}
+
 } // namespace
 
 QString mnemonicsIn(const QWidget &window, const QWidget *except)
 {
-    const auto counts = [except](const QWidget *widget) {
-        return !except || (widget != except && !except->isAncestorOf(widget));
+    const auto counts = [&](const QWidget *widget) {
+        const bool isExcepted = except && (widget == except || except->isAncestorOf(widget));
+        return !isExcepted && !isOnAPageOf(window, widget);
     };
     QString letters;
     for (const auto *button : window.findChildren<QAbstractButton *>())
@@ -131,4 +161,14 @@ void giveMnemonics(QTabWidget &tabs)
     for (int index = 0; index < tabs.count(); ++index)
         if (!letters.of(index).isNull())
             tabs.setTabText(index, marked(tabs.tabText(index), letters.of(index)));
+}
+
+void settleMnemonics(QWidget &page, const QString &taken)
+{
+    QString given = taken;
+    for (auto *label : page.findChildren<QLabel *>())
+        if (label->buddy())
+            settle(*label, given);
+    for (auto *button : page.findChildren<QAbstractButton *>())
+        settle(*button, given);
 }

@@ -6,8 +6,9 @@ class QAbstractButton;
 class QTabWidget;
 class QWidget;
 
-/// The letters, in upper case, that buttons, labels of controls and tabs in the window answer with
-/// Alt; `except` and what is in it left out.
+/// The letters, in upper case, that buttons, labels of controls and tabs in the window, or on a
+/// page of tabs, answer with Alt. Left out are `except` and what is in it, and the pages of tabs in
+/// the window: only one of them is there at a time.
 QString mnemonicsIn(const QWidget &window, const QWidget *except = nullptr);
 
 /// The title, which has no mnemonic, with one on a letter that is not taken: the first letter of a
@@ -20,3 +21,7 @@ void setTitleWithMnemonic(QAbstractButton &button, const QString &title);
 
 /// Gives every tab a mnemonic that nothing in the tabs' window answers yet. Their titles have none.
 void giveMnemonics(QTabWidget &tabs);
+
+/// Has the buttons and labels of a page that have mnemonics answer letters of their own, which are
+/// not taken: they keep theirs as far as possible.
+void settleMnemonics(QWidget &page, const QString &taken);

@@ -1198,22 +1198,6 @@
 </context>
 <context>
     <name>PageSetupPane</name>
-    <message>
-        <source>P&amp;aper:</source>
-        <translation>&amp;Papier :</translation>
-    </message>
-    <message>
-        <source>&amp;Scale to Fit:</source>
-        <translation>A&amp;juster à :</translation>
-    </message>
-    <message>
-        <source>B&amp;y the Printer</source>
-        <translation>Par l’imprima&amp;nte</translation>
-    </message>
-    <message>
-        <source>&amp;By the Application</source>
-        <translation>Par l’appl&amp;ication</translation>
-    </message>
 </context>
 <context>
     <name>PanelVeto</name>

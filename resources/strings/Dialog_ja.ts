@@ -1197,21 +1197,6 @@
     </message>
 </context>
 <context>
-    <name>PageSetupPane</name>
-    <message>
-        <source>P&amp;aper:</source>
-        <translation>用紙(&amp;A):</translation>
-    </message>
-    <message>
-        <source>B&amp;y the Printer</source>
-        <translation>プリンター(&amp;Y)</translation>
-    </message>
-    <message>
-        <source>&amp;By the Application</source>
-        <translation>アプリケーション(&amp;B)</translation>
-    </message>
-</context>
-<context>
     <name>PanelVeto</name>
     <message>
         <source>The printer&apos;s settings do not allow this job.</source>

@@ -42,6 +42,7 @@ const QList<SourceRule> &plainTextRules()
           u"platform/toolkit/Alert.cpp: box->setText(content.text);"_s,
           u"dialog/window/PresetNameDialog.cpp: m_name->setText(name);"_s,
           u"dialog/window/Mnemonics.cpp: button.setText(withMnemonic(title, taken));"_s,
+          u"dialog/window/Mnemonics.cpp: titled.setText(withMnemonic(stripped(titled.text()), taken));"_s,
           u"dialog/window/JobHeader.cpp: m_pages->setText(m_job.settings().pageRanges);"_s,
           u"dialog/window/LayoutPane.cpp: m_title->setText(title);"_s,
           u"dialog/window/LayoutPane.cpp: m_notification->setText(address);"_s}},

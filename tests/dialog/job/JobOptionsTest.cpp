@@ -121,7 +121,7 @@ TEST_F(JobOptionsOf, ASavedScalingIsSentOnce)
         applySavedOptions(m_values.ppd, {{u"fit-to-page"_s, u"true"_s}, {u"number-up"_s, u"2"_s}});
     m_values.settings = saved.settings;
     m_values.saved = saved.others;
-    EXPECT_EQ(allMade(), (QStringList{u"number-up=2"_s, u"print-scaling=fit"_s}));
+    EXPECT_EQ(allMade(), (QStringList{u"print-scaling=fit"_s, u"number-up=2"_s}));
 }
 
 TEST_F(JobOptionsOf, SavedSettingsTravelUnlessThePPDHasThem)

@@ -36,12 +36,14 @@ protected:
 
 TEST_F(SmallJob, CarriesWhatDiffersFromTheDefaultsOfItsQueue)
 {
-    EXPECT_EQ(optionsFor({{}, {u"photo"_s, {}}, {}}), QStringList{u"Finish=Shiny"_s});
+    EXPECT_EQ(optionsFor({{}, {u"photo"_s, {}}, {}}),
+              (QStringList{u"Finish=Shiny"_s, u"print-scaling=auto"_s}));
 }
 
 TEST_F(SmallJob, CarriesAllThatIsMarkedWhereThePPDIsNoQueuesOwn)
 {
-    const QStringList all{u"PageSize=A4"_s, u"Duplex=None"_s, u"Finish=Shiny"_s, u"Weight=Light"_s};
+    const QStringList all{u"PageSize=A4"_s, u"Duplex=None"_s, u"Finish=Shiny"_s, u"Weight=Light"_s,
+                          u"print-scaling=auto"_s};
     EXPECT_EQ(optionsFor({{}, {}, u"the.ppd"_s}), all);
     EXPECT_EQ(optionsFor({{}, {u"photo"_s, {}}, u"the.ppd"_s}), all);
 }

@@ -96,12 +96,21 @@ protected:
         QCoreApplication::processEvents();
     }
 
+    /// The title as people read it.
+    static QString plainTitle(QString title)
+    {
+        constexpr QChar kAmpersand(1);
+        return title.replace(QLatin1String("&&"), kAmpersand)
+            .remove(u'&')
+            .replace(kAmpersand, u'&');
+    }
+
     QStringList tabs()
     {
         QStringList titles;
         const auto *bar = part<QTabWidget>("parts");
         for (int index = 0; index < bar->count(); ++index)
-            titles += bar->tabText(index).remove(u'&');
+            titles += plainTitle(bar->tabText(index));
         return titles;
     }
 

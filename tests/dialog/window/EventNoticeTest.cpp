@@ -110,10 +110,10 @@ TEST_F(EventNotice, TellsAPaperThatIsNotForBothSidesAsSoonAsItIsChosen)
     showTab(0);
     pick("DuplexPopup", u"DuplexNoTumble"_s);
     EXPECT_EQ(notice(), QString());
-    pick("paperPopup", u"A4.Fullbleed"_s);
+    part<QAbstractButton>("borderlessButton")->click();
     EXPECT_EQ(notice(),
               u"The printer cannot print on both sides of this paper: A4 (Borderless)."_s);
-    pick("paperPopup", u"A5"_s);
+    part<QAbstractButton>("borderlessButton")->click();
     EXPECT_EQ(notice(), QString());
 }
 
@@ -137,7 +137,7 @@ TEST_F(EventNotice, SaysAfterTheBorderlessAlertWhatBecameWhat)
     showTab(0);
     {
         AlertAnswers answers({AlertAnswers::button(0)});
-        pick("paperPopup", u"A4.Fullbleed"_s);
+        part<QAbstractButton>("borderlessButton")->click();
     }
     EXPECT_TRUE(QTest::qWaitFor(
         [this] { return notice() == u"Print Quality is now Normal (was Draft)."_s; }, kTimeout))

@@ -78,7 +78,7 @@ protected:
 TEST_F(FeaturesOf, APrinterWithoutAnyHaveNoTabAndNoSentence)
 {
     openPrinter(PPDSource().papers({{"A4", 595, 842}, {"A5", 420, 595}}).text());
-    EXPECT_EQ(tabs(), (QStringList{u"Page Setup"_s, u"Summary"_s}));
+    EXPECT_EQ(tabs(), (QStringList{u"Page Setup"_s, u"Layout & Job"_s, u"Summary"_s}));
     EXPECT_EQ(notice(), QString());
 }
 
@@ -86,13 +86,14 @@ TEST_F(FeaturesOf, ASamplePrinterAreItsPanels)
 {
     open();
     EXPECT_EQ(tabs(), (QStringList{u"Page Setup"_s, u"Print Settings"_s, u"Color Settings"_s,
-                                   u"Summary"_s}));
+                                   u"Layout & Job"_s, u"Summary"_s}));
 }
 
 TEST_F(FeaturesOf, AnotherPrinterStandInATab)
 {
     openFeatures();
-    EXPECT_EQ(tabs(), (QStringList{u"Page Setup"_s, u"Printer Features"_s, u"Summary"_s}));
+    EXPECT_EQ(tabs(), (QStringList{u"Page Setup"_s, u"Printer Features"_s, u"Layout & Job"_s,
+                                   u"Summary"_s}));
     EXPECT_FALSE(part<QCheckBox>("JogFeature")->isChecked());
     EXPECT_EQ(part<QCheckBox>("JogFeature")->text(), u"Jog Stacks"_s);
     EXPECT_EQ(part<PopUpButton>("WeightFeature")->selectedObject(), u"Light"_s);
@@ -214,8 +215,8 @@ TEST_F(FeaturesOf, APrinterWithAPanelLeaveOutWhatThePanelLists)
     m_line.plugIn = QLatin1String(FIXTURE_FOLDER) + u"/Plain.bundle"_s;
     writeFile(m_line.ppd, smallPrinter().option("Stapler/Stapler", {"No", "Yes"}).text());
     open();
-    EXPECT_EQ(tabs(),
-              (QStringList{u"Page Setup"_s, u"Plain"_s, u"Printer Features"_s, u"Summary"_s}));
+    EXPECT_EQ(tabs(), (QStringList{u"Page Setup"_s, u"Plain"_s, u"Printer Features"_s,
+                                   u"Layout & Job"_s, u"Summary"_s}));
     ASSERT_TRUE(m_window->showPart(u"features"_s));
     EXPECT_EQ(part<QWidget>("featuresPane")->findChildren<PopUpButton *>().size(), 1);
     pick("StaplerFeature", u"Yes"_s);

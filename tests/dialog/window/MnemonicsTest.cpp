@@ -68,13 +68,14 @@ TEST_P(MnemonicsOfTheDialog, AreEachForOneThing)
 {
     m_line.output = QString(); // with "Save to File"
     open();
-    QString letters = mnemonicsIn(*m_window);
-    std::sort(letters.begin(), letters.end());
-    const auto twice = std::adjacent_find(letters.begin(), letters.end());
-    EXPECT_EQ(twice, letters.end()) << letters.toStdString();
-    // Every tab and Print have one.
-    for (int index = 0; index < part<QTabWidget>("parts")->count(); ++index) {
-        const QString title = part<QTabWidget>("parts")->tabText(index);
+    auto *tabs = part<QTabWidget>("parts");
+    for (int index = 0; index < tabs->count(); ++index) {
+        tabs->setCurrentIndex(index);
+        QString letters = mnemonicsIn(*m_window) + mnemonicsIn(*tabs->widget(index));
+        std::sort(letters.begin(), letters.end());
+        const auto twice = std::adjacent_find(letters.begin(), letters.end());
+        EXPECT_EQ(twice, letters.end()) << index << ": " << letters.toStdString();
+        const QString title = tabs->tabText(index);
         EXPECT_FALSE(QKeySequence::mnemonic(title).isEmpty()) << title.toStdString();
     }
     const QString print = part<QAbstractButton>("printButton")->text();

@@ -30,7 +30,7 @@ protected:
 TEST_F(PlainPanel, HasATabOfItsOwn)
 {
     open();
-    EXPECT_EQ(tabs(), (QStringList{u"Page Setup"_s, u"Plain"_s, u"Layout && Job"_s, u"Summary"_s}));
+    EXPECT_EQ(tabs(), (QStringList{u"Page Setup"_s, u"Plain"_s, u"Layout & Job"_s, u"Summary"_s}));
     EXPECT_TRUE(part<QWidget>("plainView")->isVisible());
     EXPECT_EQ(notice(), QString());
 }

@@ -78,7 +78,7 @@ TEST_F(SavedJobInTheDialog, GivesWayToADocumentThatIsDropped)
     open();
     drop({m_document});
     EXPECT_EQ(tabs(), QStringList({u"Page Setup"_s, u"Print Settings"_s, u"Color Settings"_s,
-                                   u"Summary"_s}));
+                                   u"Layout & Job"_s, u"Summary"_s}));
     EXPECT_EQ(part<QLabel>("documentsLabel")->text(), u"Holiday & <b>.ps"_s);
     EXPECT_TRUE(part<QLineEdit>("pagesField")->isVisible());
     EXPECT_TRUE(part<QAbstractButton>("saveButton")->isEnabled());
@@ -88,7 +88,7 @@ TEST_F(SavedJobInTheDialog, TakesThePlaceOfADocumentWhenItIsDropped)
 {
     m_line.files = {m_document};
     open();
-    ASSERT_EQ(tabs().size(), 4);
+    ASSERT_EQ(tabs().size(), 5);
     drop({m_saved});
     EXPECT_EQ(tabs(), QStringList(u"Summary"_s));
 }
