@@ -95,7 +95,7 @@ void VKInkColorSettingPDE::titleSection()
     if (optionLabel && !title.isNull())
         setLabelText(optionLabel, title);
     if (optionButton)
-        giveAccessibleName(optionButton, title);
+        nameDisclosure(optionButton, localized("Section"), title);
     if (effectImageView)
         giveAccessibleName(effectImageView, localized("Preview"));
     QWidget *view = loadedView();

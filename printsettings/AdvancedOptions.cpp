@@ -48,7 +48,7 @@ void VKInkPrintSetting14PDE::initializeAdvOption(const QList<QWidget *> &parts)
     const QString title = localized("advancedItem");
     m_advanced.finish(title);
     if (optionButton)
-        giveAccessibleName(optionButton, title);
+        nameDisclosure(optionButton, localized("Section"), title);
     m_advanced.fitColumn(parts);
 }
 

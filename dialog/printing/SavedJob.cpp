@@ -53,8 +53,8 @@ Result<> refuseSavedJobs(const Documents &documents)
         return {};
     return Fault{FaultKind::Request,
                  QCoreApplication::translate("SavedJob",
-                                             "%1 is a saved job: it is sent with --no-dialog, and "
-                                             "with no other document beside it.")
+                                             "%1 is a saved job: it is sent alone, with no other "
+                                             "document beside it.")
                      .arg(saved->path())};
 }
 

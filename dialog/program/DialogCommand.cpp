@@ -11,6 +11,8 @@
 #include "dialog/work/BackgroundCall.h"
 #include "dialog/work/EndSignals.h"
 
+#include <QtCore/QDir>
+#include <QtGui/QIcon>
 #include <QtWidgets/QApplication>
 
 #include <cstdlib>
@@ -49,6 +51,18 @@ ExitStatus runDialog(const CommandLine &line)
                                                               "--no-dialog prints without it."))));
 }
 
+/// The desktop's own picture of the program, as it is installed beside it.
+QIcon windowIcon()
+{
+    QIcon icon;
+    for (const QLatin1String size : {QLatin1String("48x48"), QLatin1String("128x128")})
+        icon.addFile(QDir(QCoreApplication::applicationDirPath())
+                         .filePath(QStringLiteral(VELKARO_SHARE_FROM_BIN
+                                                  "/../icons/hicolor/%1/apps/velkaro-print.png")
+                                       .arg(size)));
+    return icon;
+}
+
 ExitStatus run(const CommandLine &line)
 {
     if (line.noDialog)
@@ -71,6 +85,7 @@ int runDialogCommand(int &argc, char **argv, const CommandLine &line)
     installTranslations();
     QApplication::setApplicationDisplayName(
         QCoreApplication::translate("DialogWindow", "Velkaro Print"));
+    QApplication::setWindowIcon(windowIcon());
     const ExitStatus status = run(line);
     ignoreEndSignals();
     waitForBackgroundThreads(kTimeoutAtTheEnd);

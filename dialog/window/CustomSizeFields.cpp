@@ -44,7 +44,7 @@ CustomSizeFields::CustomSizeFields(QWidget *parent)
     giveAccessibleName(m_unit, tr("Unit"));
     QLabel *widthLabel = newPlainLabel(tr("&Width:"), this);
     widthLabel->setBuddy(m_width);
-    QLabel *heightLabel = newPlainLabel(tr("Heigh&t:"), this);
+    QLabel *heightLabel = newPlainLabel(tr("H&eight:"), this);
     heightLabel->setBuddy(m_height);
     auto *grid = new QGridLayout(this);
     grid->setContentsMargins(0, 0, 0, 0);

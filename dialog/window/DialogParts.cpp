@@ -2,6 +2,8 @@
 #include "dialog/printing/FeaturePicks.h"
 #include "dialog/window/DialogWindow.h"
 #include "dialog/window/FeaturesPane.h"
+#include "dialog/window/JobHeader.h"
+#include "dialog/window/Mnemonics.h"
 #include "dialog/window/PageSetupPane.h"
 #include "dialog/window/PanelPane.h"
 #include "dialog/window/SentSettings.h"
@@ -46,9 +48,12 @@ void DialogWindow::buildParts()
     removeParts();
     const QSignalBlocker quiet(m_tabs);
     m_pageSetup->reload();
-    m_parts.push_back({kPageSetup, m_pageSetup, nullptr});
-    m_tabs->addTab(m_pageSetup, tr("Page Setup"));
-    if (job().session())
+    m_header->showJobSettings(!m_savedJob);
+    if (!m_savedJob) {
+        m_parts.push_back({kPageSetup, m_pageSetup, nullptr});
+        m_tabs->addTab(m_pageSetup, tr("Page Setup"));
+    }
+    if (job().session() && !m_savedJob)
         for (const HostPanel &panel : job().session()->panels()) {
             if (!hasKeywords(panel))
                 continue;
@@ -58,14 +63,16 @@ void DialogWindow::buildParts()
             m_parts.push_back({panel.name, pane, &panel});
             m_tabs->addTab(pane, tabTitle(panel.panel->panelName()));
         }
-    if (!featuresOf(job()).isEmpty()) {
+    if (!m_savedJob && !featuresOf(job()).isEmpty()) {
         m_parts.push_back({kFeatures, m_features, nullptr});
         m_tabs->addTab(m_features, tr("Printer Features"));
     }
     m_parts.push_back({kSummary, m_summary, nullptr});
     giveAccessibleName(m_summary, tr("Summary"));
     m_tabs->addTab(m_summary, tr("Summary"));
-    m_tabs->setCurrentIndex(m_parts[1].panel ? 1 : 0);
+    setTitleWithMnemonic(*m_print, printTitle());
+    giveMnemonics(*m_tabs);
+    m_tabs->setCurrentIndex(m_parts.size() > 1 && m_parts[1].panel ? 1 : 0);
     changePart();
     setHeight(std::max(height(), layout()->totalSizeHint().height()));
 }
@@ -183,6 +190,8 @@ void DialogWindow::setHeight(int height)
 
 QList<SummarySection> DialogWindow::summarySections()
 {
+    if (m_savedJob)
+        return savedJobSections();
     QList<SummarySection> sections;
     QList<PanelSummary> told;
     for (const Part &part : m_parts) {

@@ -22,6 +22,8 @@ constexpr int kCancel = 1;
 /// The job as it is now. None when it must not go out: the user has been told why, or has said so.
 std::optional<JobRequest> DialogWindow::finishedJob()
 {
+    if (m_savedJob)
+        return savedJobToSend();
     const Result<FinishedJob> finished = m_controller.finish();
     if (m_isEnding) // dismissed, not answered
         return std::nullopt;
@@ -144,7 +146,7 @@ void DialogWindow::endSending(const Result<> &outcome, const QString &note)
     if (outcome || m_mayHavePrinted)
         m_outcome = outcome;
     m_progress->end();
-    if (outcome)
+    if (outcome && !m_savedJob)
         rememberLastUsed(job().source().server, job().source().queue.queue,
                          lastingOptions(job(), job().options().options));
     setState(outcome ? State::Done : State::Ready);

@@ -3,6 +3,7 @@
 #include "dialog/window/JobHeader.h"
 #include "dialog/window/PageSetupPane.h"
 #include "dialog/window/PrinterPopUp.h"
+#include "dialog/work/Sentences.h"
 #include "platform/ppd/PPDText.h"
 
 #include <QtCore/QFileInfo>
@@ -148,7 +149,8 @@ DialogWindow::Notice DialogWindow::standing() const
     if (!m_choice || missing.kind != NoticeBar::Kind::Information)
         return missing;
     const QString chosen = choiceSentence(*m_choice);
-    missing.sentence = missing.sentence.isNull() ? chosen : chosen + u' ' + missing.sentence;
+    missing.sentence =
+        missing.sentence.isNull() ? chosen : joinedSentences({chosen, missing.sentence});
     return missing;
 }
 
@@ -161,6 +163,8 @@ DialogWindow::Notice DialogWindow::whatIsMissing() const
         return {Kind::Warning, tr("The printer %1 is no longer on the print server. Choose another "
                                   "one; the settings of this job stay.")
                                    .arg(job().source().queue.queue)};
+    if (m_savedJob)
+        return savedJobNotice();
     if (!job().session())
         return {Kind::Information, tr("%1 It prints with the settings of this dialog alone.")
                                        .arg(missingPPD(job().source().queue.queue))};

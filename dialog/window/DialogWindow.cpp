@@ -4,6 +4,7 @@
 #include "dialog/window/FeaturesPane.h"
 #include "dialog/window/HostHelp.h"
 #include "dialog/window/JobHeader.h"
+#include "dialog/window/Mnemonics.h"
 #include "dialog/window/PageSetupPane.h"
 #include "dialog/window/PrinterPopUp.h"
 #include "dialog/window/ProgressStrip.h"
@@ -13,6 +14,7 @@
 
 #include <QtCore/QThread>
 #include <QtCore/QTimer>
+#include <QtGui/QShortcut>
 #include <QtWidgets/QApplication>
 #include <QtWidgets/QHBoxLayout>
 #include <QtWidgets/QPushButton>
@@ -50,6 +52,8 @@ DialogWindow::DialogWindow(const DialogWishes &wishes, QWidget *parent)
         return Result<>();
     });
     setObjectName(u"dialogWindow"_s);
+    setAcceptDrops(true);
+    takeSavedJob();
     setWindowTitle(tr("Print"));
     buildLayout();
     resize(kFirstSize);
@@ -80,6 +84,8 @@ void DialogWindow::buildLayout()
     layout->addWidget(m_tabs, 1);
     layout->addWidget(newButtons());
     buildParts();
+    addPartShortcut(QKeySequence::NextChild, 1);
+    addPartShortcut(QKeySequence::PreviousChild, -1);
     connect(m_tabs, &QTabWidget::currentChanged, this, &DialogWindow::changePart);
     connect(m_notice, &NoticeBar::retryWanted, this, &DialogWindow::retry);
     connect(&m_watch, &PrinterWatch::listed, this, &DialogWindow::takeList);
@@ -106,6 +112,18 @@ void DialogWindow::buildLayout()
     });
 }
 
+/// From everywhere in the window: the tabs themselves hear of it only where no pop-up has the
+/// focus.
+void DialogWindow::addPartShortcut(QKeySequence::StandardKey keys, int step)
+{
+    auto *shortcut = new QShortcut(keys, this);
+    connect(shortcut, &QShortcut::activated, this, [this, step] {
+        if (m_tabs->isEnabled())
+            m_tabs->setCurrentIndex((m_tabs->currentIndex() + step + m_tabs->count()) %
+                                    m_tabs->count());
+    });
+}
+
 QWidget *DialogWindow::newButtons()
 {
     auto *row = new QWidget(this);
@@ -113,7 +131,7 @@ QWidget *DialogWindow::newButtons()
     m_help->setShortcut(QKeySequence::HelpContents);
     m_save = newButton(u"saveButton"_s, tr("Save to &File…"), row);
     m_cancel = newButton(u"cancelButton"_s, tr("Cancel"), row);
-    m_print = newButton(u"printButton"_s, printTitle(), row);
+    m_print = newButton(u"printButton"_s, {}, row);
     m_print->setAutoDefault(true);
     m_print->setDefault(true);
     m_save->setVisible(m_wishes.output.isNull());
@@ -143,10 +161,11 @@ void DialogWindow::start()
     setKeyWindow(this);
     if (!m_wishes.isPicture)
         readPipes();
-    if (m_controller.mayChoosePrinter())
+    const bool isNamed = m_savedJob && !m_savedJob->queue.isEmpty();
+    if (m_controller.mayChoosePrinter() && !isNamed)
         choosePrinter();
     else {
-        PrinterSource source = m_controller.wantedPrinter();
+        PrinterSource source = firstPrinter();
         source.start = usualStart();
         findPrinter(source);
     }
@@ -167,7 +186,7 @@ void DialogWindow::setState(State state)
     m_tabs->setEnabled(state == State::Ready);
     setButtonTitle(m_cancel, state == State::Done ? tr("Close") : tr("Cancel"));
     m_print->setVisible(state != State::Done);
-    setButtonTitle(m_print, printTitle());
+    setTitleWithMnemonic(*m_print, printTitle());
     m_print->setDefault(!m_mayHavePrinted); // not twice by mistake
     updateButtons();
     Q_EMIT stateChanged();
@@ -175,8 +194,9 @@ void DialogWindow::setState(State state)
 
 bool DialogWindow::mayPrint() const
 {
-    return m_state == State::Ready && !job().documents().empty() && !hasPipes(job().documents()) &&
-           m_header->isAcceptable() && m_pageSetup->isAcceptable() && m_features->isAcceptable();
+    return m_state == State::Ready && m_documentState && !job().documents().empty() &&
+           !hasPipes(job().documents()) && m_header->isAcceptable() &&
+           m_pageSetup->isAcceptable() && m_features->isAcceptable();
 }
 
 void DialogWindow::updateButtons()
@@ -184,6 +204,7 @@ void DialogWindow::updateButtons()
     const bool hasEnd = !m_wishes.output.isNull() || !job().source().queue.queue.isEmpty();
     m_print->setEnabled(mayPrint() && hasEnd);
     m_save->setEnabled(mayPrint());
+    m_save->setVisible(m_wishes.output.isNull() && !m_savedJob);
 }
 
 void DialogWindow::tell(NoticeBar::Kind kind, const QString &sentence, NoticeBar::Offer offer)

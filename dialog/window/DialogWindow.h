@@ -9,11 +9,14 @@
 #include "dialog/window/SummaryPane.h"
 #include "platform/toolkit/Alert.h"
 
+#include <QtGui/QKeySequence>
 #include <QtWidgets/QDialog>
 
+#include <optional>
 #include <vector>
 
 class FeaturesPane;
+struct AlertContent;
 class JobHeader;
 class PageSetupPane;
 class PanelPane;
@@ -82,6 +85,8 @@ Q_SIGNALS:
 
 protected:
     void resizeEvent(QResizeEvent *event) override;
+    void dragEnterEvent(QDragEnterEvent *event) override;
+    void dropEvent(QDropEvent *event) override;
 
 public Q_SLOTS:
     void done(int result) override;
@@ -104,6 +109,7 @@ private:
 
     // DialogWindow.cpp
     void buildLayout();
+    void addPartShortcut(QKeySequence::StandardKey keys, int step);
     QWidget *newButtons();
     QString printTitle() const;
     void setState(State state);
@@ -131,6 +137,15 @@ private:
     // DialogDocuments.cpp
     void readPipes();
     void chooseDocuments();
+    void openDocuments(const QStringList &paths);
+    void takeDocuments();
+
+    // DialogSavedJob.cpp
+    void takeSavedJob();
+    PrinterSource firstPrinter() const;
+    std::optional<JobRequest> savedJobToSend();
+    Notice savedJobNotice() const;
+    QList<SummarySection> savedJobSections() const;
 
     // DialogPrinter.cpp
     void choosePrinter();
@@ -186,6 +201,7 @@ private:
     const DialogWishes m_wishes;
     PrintController m_controller;
     Result<> m_documentState;
+    std::optional<JobRequest> m_savedJob; ///< the only document, where that is a saved job
     Result<> m_printerState;
     Result<> m_settingState;
     Result<> m_outcome;

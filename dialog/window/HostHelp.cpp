@@ -25,9 +25,9 @@ constexpr std::array kParagraphs{
                                   "was made for, and makes it larger or smaller to fill that."),
     QT_TRANSLATE_NOOP("HostHelp", "When the printer does not allow two settings together, the "
                                   "second one is not made, and a line above the tabs names both."),
-    QT_TRANSLATE_NOOP("HostHelp",
-                      "Summary lists everything that will be printed with. \"Save to File\" keeps "
-                      "the job with its documents; send it later with velkaro-print --no-dialog."),
+    QT_TRANSLATE_NOOP(
+        "HostHelp", "Summary lists everything that will be printed with. \"Save to File\" keeps "
+                    "the job with its documents; open it here later, as a document, to print it."),
 };
 
 } // namespace
@@ -45,7 +45,9 @@ void showHostHelp(QWidget *parent)
         label->setFixedWidth(kTextWidth);
         layout->addWidget(label);
     }
-    auto *buttons = new QDialogButtonBox(QDialogButtonBox::Close, window);
+    auto *buttons = new QDialogButtonBox(window);
+    buttons->addButton(QCoreApplication::translate("HostHelp", "Close"),
+                       QDialogButtonBox::RejectRole);
     QObject::connect(buttons, &QDialogButtonBox::rejected, window, &QDialog::reject);
     layout->addWidget(buttons);
     window->show();

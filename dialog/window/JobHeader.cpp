@@ -73,8 +73,8 @@ JobHeader::JobHeader(PrintJob &job, QWidget *parent)
     addLabelledRow(form, tr("Document:"), row({m_documents, m_choose}, 0));
     form->addRow(label(tr("Pri&nter:"), m_printers->popup()), m_printers);
     form->addRow(label(tr("Prese&t:"), m_presets->popup()), m_presets);
-    form->addRow(label(tr("&Copies:"), m_copies),
-                 row({m_copies, label(tr("Pa&ges:"), m_pages), m_pages, m_pagesValidation}, 3));
+    m_settingsRow = row({m_copies, label(tr("Pa&ges:"), m_pages), m_pages, m_pagesValidation}, 3);
+    form->addRow(label(tr("&Copies:"), m_copies), m_settingsRow);
     setTabOrder(m_choose, m_printers->popup());
     setTabOrder(m_printers->popup(), m_presets->popup());
     setTabOrder(m_presets->popup(), m_presets->menuButton());
@@ -96,6 +96,12 @@ void JobHeader::reload()
     m_copies->setDoubleValue(m_job.settings().copies);
     m_pages->setText(m_job.settings().pageRanges);
     m_pagesValidation->clear();
+}
+
+void JobHeader::showJobSettings(bool shown)
+{
+    for (QWidget *field : {static_cast<QWidget *>(m_presets), m_settingsRow})
+        static_cast<QFormLayout *>(layout())->setRowVisible(field, shown);
 }
 
 void JobHeader::takePages()

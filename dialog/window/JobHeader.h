@@ -25,6 +25,9 @@ public:
     /// Shows the job's documents and settings.
     void reload();
 
+    /// Whether copies and pages are shown: a saved job has its own.
+    void showJobSettings(bool shown);
+
     /// Whether the pages that were typed are a list of pages.
     bool isAcceptable() const;
 
@@ -43,5 +46,6 @@ private:
     PresetsRow *m_presets;
     NumberField *m_copies;
     QLineEdit *m_pages;
+    QWidget *m_settingsRow = nullptr;
     QLabel *m_pagesValidation;
 };

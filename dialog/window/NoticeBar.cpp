@@ -3,6 +3,7 @@
 #include "dialog/window/NoticeLabel.h"
 #include "dialog/window/NoticeSign.h"
 #include "platform/toolkit/AccessibleName.h"
+#include "platform/toolkit/AccessibleRole.h"
 #include "platform/toolkit/PlainLabel.h"
 #include "platform/toolkit/PlainText.h"
 
@@ -50,6 +51,7 @@ NoticeBar::NoticeBar(QWidget *parent)
       m_retry(new QPushButton(tr("&Retry"), this))
 {
     setObjectName(QStringLiteral("noticeBar"));
+    giveAccessibleRole("NoticeBar", QAccessible::AlertMessage);
     m_label->setObjectName(QStringLiteral("noticeLabel"));
     m_retry->setObjectName(QStringLiteral("retryButton"));
     m_retry->setAutoDefault(false);
@@ -70,6 +72,7 @@ void NoticeBar::tell(Kind kind, const QString &sentence, Offer offer)
     m_sign->setSign(lookOf(kind).mark, QColor::fromRgb(lookOf(kind).accent));
     applyColors();
     showSentence(m_sentence, offer);
+    announce(this);
 }
 
 void NoticeBar::clear()

@@ -128,7 +128,7 @@ void PageSetupPane::addPaper(QFormLayout *form)
         items.push_back({tr("Custom Size"), kCustom});
     m_paper = newPopUp(u"paperPopup"_s);
     m_paper->setItems(items);
-    addLabelledRow(form, tr("&Paper:"), m_paper);
+    addLabelledRow(form, tr("P&aper:"), m_paper);
     connect(m_paper, &QComboBox::activated, this, [this, popup = m_paper] {
         const QString title = popup->currentText();
         choosePaper();
@@ -246,8 +246,8 @@ void PageSetupPane::chooseOption(const QString &keyword, PopUpButton *popup)
 void PageSetupPane::addColorMatching(QFormLayout *form)
 {
     const std::array<std::pair<QString, QString>, 2> titles{
-        {{u"matchByPrinterButton"_s, tr("By the P&rinter")},
-         {u"matchByApplicationButton"_s, tr("By the Appl&ication")}}};
+        {{u"matchByPrinterButton"_s, tr("B&y the Printer")},
+         {u"matchByApplicationButton"_s, tr("&By the Application")}}};
     const bool byApplication = m_job.colorMatching() == PrintJob::ColorMatching::Application;
     addLabelledRow(form, tr("Color Management:"),
                    newRadioPair(titles, byApplication ? 1 : 0, [this](int id) {

@@ -1,6 +1,7 @@
 #include "dialog/window/SummaryPane.h"
 
 #include "platform/pde/PDESummary.h"
+#include "platform/toolkit/AccessibleName.h"
 #include "platform/toolkit/PlainLabel.h"
 #include "platform/toolkit/PlainText.h"
 
@@ -31,6 +32,21 @@ QLabel *heading(const QString &text, QWidget *parent)
 }
 
 } // namespace
+
+/// The whole summary as people would read it out.
+QString SummaryPane::textOf(const QList<SummarySection> &sections)
+{
+    QStringList texts;
+    for (const SummarySection &section : sections) {
+        if (section.lines.isEmpty())
+            continue;
+        QStringList lines{displayText(section.heading)};
+        for (const SummarySection::Line &line : section.lines)
+            lines += tr("%1: %2").arg(displayText(line.title), displayText(line.value));
+        texts += lines.join(u'\n');
+    }
+    return texts.join(QStringLiteral("\n\n"));
+}
 
 SummarySection sectionOf(const QString &heading, const QVariantMap &summaryInfo)
 {
@@ -65,6 +81,7 @@ void SummaryPane::setSections(const QList<SummarySection> &sections)
         addSection(grid, section);
     grid->setRowStretch(grid->rowCount(), 1);
     setWidget(page); // the former page goes
+    giveAccessibleText(this, textOf(sections));
     page->setAutoFillBackground(false);
 }
 

@@ -34,5 +34,6 @@ public:
     void setSections(const QList<SummarySection> &sections);
 
 private:
+    static QString textOf(const QList<SummarySection> &sections);
     void addSection(QGridLayout *grid, const SummarySection &section);
 };

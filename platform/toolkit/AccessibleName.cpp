@@ -9,3 +9,13 @@ void giveAccessibleName(QWidget *control, const QString &name)
     if (qobject_cast<QComboBox *>(control))
         control->setAccessibleDescription(name);
 }
+
+void giveAccessibleText(QWidget *widget, const QString &text)
+{
+    widget->setAccessibleDescription(text);
+}
+
+void nameDisclosure(QWidget *button, const QString &pattern, const QString &title)
+{
+    giveAccessibleName(button, QString(pattern).replace(QStringLiteral("%1"), title));
+}

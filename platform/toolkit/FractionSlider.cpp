@@ -1,5 +1,7 @@
 #include "platform/toolkit/FractionSlider.h"
 
+#include "platform/toolkit/AccessibleSlider.h"
+
 #include <QtCore/QSignalBlocker>
 #include <QtGui/QWheelEvent>
 
@@ -12,6 +14,7 @@ constexpr int kUnit = 100; // steps of the underlying slider for a whole number
 
 FractionSlider::FractionSlider(QWidget *parent) : QSlider(Qt::Horizontal, parent)
 {
+    AccessibleSlider::install();
     setFocusPolicy(Qt::StrongFocus);
     connect(this, &QSlider::actionTriggered, this, [this] {
         m_value = double(sliderPosition()) / kUnit;

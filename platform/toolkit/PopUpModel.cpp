@@ -2,6 +2,7 @@
 
 #include "platform/imaging/PictureReader.h"
 
+#include <QtCore/QCoreApplication>
 #include <QtGui/QPixmap>
 
 #include <algorithm>
@@ -117,6 +118,10 @@ QVariant PopUpModel::data(const QModelIndex &index, int role) const
         return iconOf(*row);
     case Qt::UserRole:
         return row->item.representedObject;
+    // The toolkit tells assistive technology nothing of an item that is disabled.
+    case Qt::AccessibleDescriptionRole:
+        return row->enabled ? QVariant()
+                            : QCoreApplication::translate("PopUpButton", "Not available");
     case PopUpButton::kDetailRole:
         return detailOf(*row);
     case Qt::AccessibleTextRole: {
@@ -131,6 +136,6 @@ QVariant PopUpModel::data(const QModelIndex &index, int role) const
 
 Qt::ItemFlags PopUpModel::flags(const QModelIndex &index) const
 {
-    const Qt::ItemFlags selectable = Qt::ItemIsSelectable | Qt::ItemNeverHasChildren;
-    return isEnabled(index.row()) ? selectable | Qt::ItemIsEnabled : selectable;
+    const Qt::ItemFlags item = Qt::ItemNeverHasChildren;
+    return isEnabled(index.row()) ? item | Qt::ItemIsEnabled | Qt::ItemIsSelectable : item;
 }

@@ -1,5 +1,6 @@
 #include "platform/toolkit/RadioMatrix.h"
 
+#include "platform/toolkit/AccessibleRole.h"
 #include "platform/toolkit/PlainText.h"
 
 #include <QtWidgets/QButtonGroup>
@@ -11,6 +12,7 @@
 RadioMatrix::RadioMatrix(QWidget *parent)
     : QWidget(parent), m_layout(new QVBoxLayout(this)), m_group(new QButtonGroup(this))
 {
+    giveAccessibleRole("RadioMatrix", QAccessible::Grouping);
     m_layout->setContentsMargins(0, 0, 0, 0);
     m_layout->setSpacing(2);
 }

@@ -132,7 +132,7 @@
         <translation>Zu groß: höchstens %1.</translation>
     </message>
     <message>
-        <source>Heigh&amp;t:</source>
+        <source>H&amp;eight:</source>
         <translation>Höh&amp;e:</translation>
     </message>
 </context>
@@ -297,8 +297,8 @@
         <translation>Dokumente auswählen</translation>
     </message>
     <message>
-        <source>Documents (*.pdf *.ps *.txt *.png *.jpg *.jpeg);;All files (*)</source>
-        <translation>Dokumente (*.pdf *.ps *.txt *.png *.jpg *.jpeg);;Alle Dateien (*)</translation>
+        <source>Documents (%1);;All files (*)</source>
+        <translation>Dokumente (%1);;Alle Dateien (*)</translation>
     </message>
     <message>
         <source>Print Again</source>
@@ -331,6 +331,34 @@
     <message>
         <source>Go On</source>
         <translation>Fortfahren</translation>
+    </message>
+    <message>
+        <source>Choose the printer for this saved job.</source>
+        <translation>Wählen Sie den Drucker für diesen gespeicherten Auftrag.</translation>
+    </message>
+    <message>
+        <source>This job is printed with the settings that it was saved with.</source>
+        <translation>Dieser Auftrag wird mit den Einstellungen gedruckt, mit denen er gespeichert wurde.</translation>
+    </message>
+    <message>
+        <source>This job sets %1, which Velkaro Print does not write. Print it all the same?</source>
+        <translation>Dieser Auftrag setzt %1, was Velkaro Print nicht schreibt. Trotzdem drucken?</translation>
+    </message>
+    <message>
+        <source>Saved Job</source>
+        <translation>Gespeicherter Auftrag</translation>
+    </message>
+    <message>
+        <source>Title</source>
+        <translation>Titel</translation>
+    </message>
+    <message>
+        <source>Document</source>
+        <translation>Dokument</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>Einstellungen</translation>
     </message>
     <message>
         <source>Printer Features</source>
@@ -525,8 +553,8 @@
         <translation>Lässt der Drucker zwei Einstellungen nicht zusammen zu, wird die zweite nicht übernommen, und eine Zeile über den Registern nennt beide.</translation>
     </message>
     <message>
-        <source>Summary lists everything that will be printed with. &quot;Save to File&quot; keeps the job with its documents; send it later with velkaro-print --no-dialog.</source>
-        <translation>„Zusammenfassung“ zeigt alles, womit gedruckt wird. „In Datei speichern“ bewahrt den Auftrag mit seinen Dokumenten auf; senden Sie ihn später mit velkaro-print --no-dialog.</translation>
+        <source>Summary lists everything that will be printed with. &quot;Save to File&quot; keeps the job with its documents; open it here later, as a document, to print it.</source>
+        <translation>„Zusammenfassung“ zeigt alles, womit gedruckt wird. „In Datei speichern“ bewahrt den Auftrag mit seinen Dokumenten auf; öffnen Sie ihn später hier als Dokument, um ihn zu drucken.</translation>
     </message>
     <message>
         <source>Print Help</source>
@@ -535,6 +563,10 @@
     <message>
         <source>&quot;Scale to Fit&quot; prints the document on another paper than it was made for, and makes it larger or smaller to fill that.</source>
         <translation>„Skalieren auf“ druckt das Dokument auf ein anderes Papier als das, für das es erstellt wurde, und vergrößert oder verkleinert es entsprechend.</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Schließen</translation>
     </message>
 </context>
 <context>
@@ -741,7 +773,7 @@
     <name>NoticeBar</name>
     <message>
         <source>&amp;Retry</source>
-        <translation>E&amp;rneut versuchen</translation>
+        <translation>Erneut &amp;versuchen</translation>
     </message>
 </context>
 <context>
@@ -852,7 +884,7 @@
         <translation>Eigenes Format</translation>
     </message>
     <message>
-        <source>&amp;Paper:</source>
+        <source>P&amp;aper:</source>
         <translation>&amp;Papier:</translation>
     </message>
     <message>
@@ -880,16 +912,16 @@
         <translation>&amp;Skalieren auf:</translation>
     </message>
     <message>
-        <source>By the P&amp;rinter</source>
+        <source>Color Management:</source>
+        <translation>Farbverwaltung:</translation>
+    </message>
+    <message>
+        <source>B&amp;y the Printer</source>
         <translation>Durch den D&amp;rucker</translation>
     </message>
     <message>
-        <source>By the Appl&amp;ication</source>
+        <source>&amp;By the Application</source>
         <translation>Durch die &amp;Anwendung</translation>
-    </message>
-    <message>
-        <source>Color Management:</source>
-        <translation>Farbverwaltung:</translation>
     </message>
 </context>
 <context>
@@ -951,6 +983,13 @@
     <message>
         <source>The plug-in %1 cannot be used with this print dialog.</source>
         <translation>Das Plug-in %1 kann mit diesem Druckdialog nicht verwendet werden.</translation>
+    </message>
+</context>
+<context>
+    <name>PopUpButton</name>
+    <message>
+        <source>Not available</source>
+        <translation>Nicht verfügbar</translation>
     </message>
 </context>
 <context>
@@ -1637,8 +1676,8 @@
         <translation>%1 ist ein gespeicherter Auftrag: Er wird so gesendet, wie er gespeichert wurde, ohne -o, --paper und --output.</translation>
     </message>
     <message>
-        <source>%1 is a saved job: it is sent with --no-dialog, and with no other document beside it.</source>
-        <translation>%1 ist ein gespeicherter Auftrag: Er wird mit --no-dialog und ohne weitere Dokumente gesendet.</translation>
+        <source>%1 is a saved job: it is sent alone, with no other document beside it.</source>
+        <translation>%1 ist ein gespeicherter Auftrag: Er wird allein gesendet, ohne weitere Dokumente.</translation>
     </message>
     <message>
         <source>%1 is not sent: it sets %2, which no saved job may.</source>
@@ -1811,6 +1850,13 @@
     <message>
         <source>A paper of a size of your own needs that size, such as Custom.100x150mm.</source>
         <translation>Ein Papier mit eigenem Format braucht dessen Maße, etwa Custom.100x150mm.</translation>
+    </message>
+</context>
+<context>
+    <name>SummaryPane</name>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
     </message>
 </context>
 </TS>

@@ -132,7 +132,7 @@
         <translation>Trop grand : au plus %1.</translation>
     </message>
     <message>
-        <source>Heigh&amp;t:</source>
+        <source>H&amp;eight:</source>
         <translation>Ha&amp;uteur :</translation>
     </message>
 </context>
@@ -297,8 +297,8 @@
         <translation>Choisir des documents</translation>
     </message>
     <message>
-        <source>Documents (*.pdf *.ps *.txt *.png *.jpg *.jpeg);;All files (*)</source>
-        <translation>Documents (*.pdf *.ps *.txt *.png *.jpg *.jpeg);;Tous les fichiers (*)</translation>
+        <source>Documents (%1);;All files (*)</source>
+        <translation>Documents (%1);;Tous les fichiers (*)</translation>
     </message>
     <message>
         <source>Print Again</source>
@@ -331,6 +331,34 @@
     <message>
         <source>Go On</source>
         <translation>Poursuivre</translation>
+    </message>
+    <message>
+        <source>Choose the printer for this saved job.</source>
+        <translation>Choisissez l’imprimante de ce travail enregistré.</translation>
+    </message>
+    <message>
+        <source>This job is printed with the settings that it was saved with.</source>
+        <translation>Ce travail est imprimé avec les réglages enregistrés avec lui.</translation>
+    </message>
+    <message>
+        <source>This job sets %1, which Velkaro Print does not write. Print it all the same?</source>
+        <translation>Ce travail définit %1, que Velkaro Print n’écrit pas. L’imprimer malgré tout ?</translation>
+    </message>
+    <message>
+        <source>Saved Job</source>
+        <translation>Travail enregistré</translation>
+    </message>
+    <message>
+        <source>Title</source>
+        <translation>Titre</translation>
+    </message>
+    <message>
+        <source>Document</source>
+        <translation>Document</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>Réglages</translation>
     </message>
     <message>
         <source>Printer Features</source>
@@ -525,8 +553,8 @@
         <translation>Lorsque l’imprimante n’accepte pas deux réglages ensemble, le second n’est pas appliqué et une ligne au-dessus des onglets les nomme tous deux.</translation>
     </message>
     <message>
-        <source>Summary lists everything that will be printed with. &quot;Save to File&quot; keeps the job with its documents; send it later with velkaro-print --no-dialog.</source>
-        <translation>« Récapitulatif » indique tout ce avec quoi l’impression se fera. « Enregistrer dans un fichier » conserve le travail avec ses documents ; envoyez-le plus tard avec velkaro-print --no-dialog.</translation>
+        <source>Summary lists everything that will be printed with. &quot;Save to File&quot; keeps the job with its documents; open it here later, as a document, to print it.</source>
+        <translation>« Récapitulatif » indique tout ce avec quoi l’impression se fera. « Enregistrer dans un fichier » conserve le travail avec ses documents ; ouvrez-le ici plus tard, comme un document, pour l’imprimer.</translation>
     </message>
     <message>
         <source>Print Help</source>
@@ -535,6 +563,10 @@
     <message>
         <source>&quot;Scale to Fit&quot; prints the document on another paper than it was made for, and makes it larger or smaller to fill that.</source>
         <translation>« Ajuster à » imprime le document sur un autre papier que celui pour lequel il a été créé, en l’agrandissant ou en le réduisant en conséquence.</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Fermer</translation>
     </message>
 </context>
 <context>
@@ -852,7 +884,7 @@
         <translation>Format personnalisé</translation>
     </message>
     <message>
-        <source>&amp;Paper:</source>
+        <source>P&amp;aper:</source>
         <translation>&amp;Papier :</translation>
     </message>
     <message>
@@ -877,19 +909,19 @@
     </message>
     <message>
         <source>&amp;Scale to Fit:</source>
-        <translation>&amp;Ajuster à :</translation>
-    </message>
-    <message>
-        <source>By the P&amp;rinter</source>
-        <translation>Par l’imp&amp;rimante</translation>
-    </message>
-    <message>
-        <source>By the Appl&amp;ication</source>
-        <translation>Par l’appl&amp;ication</translation>
+        <translation>A&amp;juster à :</translation>
     </message>
     <message>
         <source>Color Management:</source>
         <translation>Gestion des couleurs :</translation>
+    </message>
+    <message>
+        <source>B&amp;y the Printer</source>
+        <translation>Par l’imprima&amp;nte</translation>
+    </message>
+    <message>
+        <source>&amp;By the Application</source>
+        <translation>Par l’appl&amp;ication</translation>
     </message>
 </context>
 <context>
@@ -951,6 +983,13 @@
     <message>
         <source>The plug-in %1 cannot be used with this print dialog.</source>
         <translation>Le module %1 ne peut pas être utilisé avec cette boîte de dialogue d’impression.</translation>
+    </message>
+</context>
+<context>
+    <name>PopUpButton</name>
+    <message>
+        <source>Not available</source>
+        <translation>Non disponible</translation>
     </message>
 </context>
 <context>
@@ -1637,8 +1676,8 @@
         <translation>%1 est un travail enregistré : il est envoyé tel qu’il a été enregistré, sans -o, --paper ni --output.</translation>
     </message>
     <message>
-        <source>%1 is a saved job: it is sent with --no-dialog, and with no other document beside it.</source>
-        <translation>%1 est un travail enregistré : il s’envoie avec --no-dialog et sans autre document.</translation>
+        <source>%1 is a saved job: it is sent alone, with no other document beside it.</source>
+        <translation>%1 est un travail enregistré : il s’envoie seul, sans autre document.</translation>
     </message>
     <message>
         <source>%1 is not sent: it sets %2, which no saved job may.</source>
@@ -1811,6 +1850,13 @@
     <message>
         <source>A paper of a size of your own needs that size, such as Custom.100x150mm.</source>
         <translation>Un papier de format personnalisé doit avoir ses dimensions, par exemple Custom.100x150mm.</translation>
+    </message>
+</context>
+<context>
+    <name>SummaryPane</name>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1 : %2</translation>
     </message>
 </context>
 </TS>

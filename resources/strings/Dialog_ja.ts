@@ -132,8 +132,8 @@
         <translation>大きすぎます（%1 以下）。</translation>
     </message>
     <message>
-        <source>Heigh&amp;t:</source>
-        <translation>高さ(&amp;T):</translation>
+        <source>H&amp;eight:</source>
+        <translation>高さ(&amp;E):</translation>
     </message>
 </context>
 <context>
@@ -297,8 +297,8 @@
         <translation>文書の選択</translation>
     </message>
     <message>
-        <source>Documents (*.pdf *.ps *.txt *.png *.jpg *.jpeg);;All files (*)</source>
-        <translation>文書 (*.pdf *.ps *.txt *.png *.jpg *.jpeg);;すべてのファイル (*)</translation>
+        <source>Documents (%1);;All files (*)</source>
+        <translation>文書 (%1);;すべてのファイル (*)</translation>
     </message>
     <message>
         <source>Print Again</source>
@@ -331,6 +331,34 @@
     <message>
         <source>Go On</source>
         <translation>続ける</translation>
+    </message>
+    <message>
+        <source>Choose the printer for this saved job.</source>
+        <translation>この保存されたジョブを印刷するプリンターを選んでください。</translation>
+    </message>
+    <message>
+        <source>This job is printed with the settings that it was saved with.</source>
+        <translation>このジョブは、保存したときの設定で印刷されます。</translation>
+    </message>
+    <message>
+        <source>This job sets %1, which Velkaro Print does not write. Print it all the same?</source>
+        <translation>このジョブには、Velkaro Print が書き込まない設定 %1 が含まれています。それでも印刷しますか？</translation>
+    </message>
+    <message>
+        <source>Saved Job</source>
+        <translation>保存されたジョブ</translation>
+    </message>
+    <message>
+        <source>Title</source>
+        <translation>タイトル</translation>
+    </message>
+    <message>
+        <source>Document</source>
+        <translation>文書</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>設定</translation>
     </message>
     <message>
         <source>Printer Features</source>
@@ -525,8 +553,8 @@
         <translation>同時に使えない設定を選んだときは、後から選んだ設定は反映されず、両方の名前がタブの上に表示されます。</translation>
     </message>
     <message>
-        <source>Summary lists everything that will be printed with. &quot;Save to File&quot; keeps the job with its documents; send it later with velkaro-print --no-dialog.</source>
-        <translation>「設定一覧」には、印刷に使われるすべての設定が表示されます。「ファイルに保存」を選ぶと、ジョブを文書と一緒に保存します。保存したジョブは velkaro-print --no-dialog で後から送信できます。</translation>
+        <source>Summary lists everything that will be printed with. &quot;Save to File&quot; keeps the job with its documents; open it here later, as a document, to print it.</source>
+        <translation>「設定一覧」には、印刷に使われるすべての設定が表示されます。「ファイルに保存」を選ぶと、ジョブを文書と一緒に保存します。保存したジョブは、後から文書としてここで開いて印刷できます。</translation>
     </message>
     <message>
         <source>Print Help</source>
@@ -535,6 +563,10 @@
     <message>
         <source>&quot;Scale to Fit&quot; prints the document on another paper than it was made for, and makes it larger or smaller to fill that.</source>
         <translation>「用紙に合わせる」を選ぶと、文書を別の用紙に合わせて拡大または縮小して印刷します。</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>閉じる</translation>
     </message>
 </context>
 <context>
@@ -852,8 +884,8 @@
         <translation>カスタムサイズ</translation>
     </message>
     <message>
-        <source>&amp;Paper:</source>
-        <translation>用紙(&amp;P):</translation>
+        <source>P&amp;aper:</source>
+        <translation>用紙(&amp;A):</translation>
     </message>
     <message>
         <source>P&amp;ortrait</source>
@@ -880,16 +912,16 @@
         <translation>用紙に合わせる(&amp;S):</translation>
     </message>
     <message>
-        <source>By the P&amp;rinter</source>
-        <translation>プリンター(&amp;R)</translation>
-    </message>
-    <message>
-        <source>By the Appl&amp;ication</source>
-        <translation>アプリケーション(&amp;I)</translation>
-    </message>
-    <message>
         <source>Color Management:</source>
         <translation>カラーマネージメント:</translation>
+    </message>
+    <message>
+        <source>B&amp;y the Printer</source>
+        <translation>プリンター(&amp;Y)</translation>
+    </message>
+    <message>
+        <source>&amp;By the Application</source>
+        <translation>アプリケーション(&amp;B)</translation>
     </message>
 </context>
 <context>
@@ -951,6 +983,13 @@
     <message>
         <source>The plug-in %1 cannot be used with this print dialog.</source>
         <translation>プラグイン %1 はこの印刷画面では使用できません。</translation>
+    </message>
+</context>
+<context>
+    <name>PopUpButton</name>
+    <message>
+        <source>Not available</source>
+        <translation>選択できません</translation>
     </message>
 </context>
 <context>
@@ -1637,8 +1676,8 @@
         <translation>%1 は保存されたジョブです。保存したときの設定で送信するため、-o、--paper、--output は使えません。</translation>
     </message>
     <message>
-        <source>%1 is a saved job: it is sent with --no-dialog, and with no other document beside it.</source>
-        <translation>%1 は保存されたジョブです。--no-dialog を付け、ほかの文書とは別に送信してください。</translation>
+        <source>%1 is a saved job: it is sent alone, with no other document beside it.</source>
+        <translation>%1 は保存されたジョブです。ほかの文書とは別に送信してください。</translation>
     </message>
     <message>
         <source>%1 is not sent: it sets %2, which no saved job may.</source>
@@ -1811,6 +1850,13 @@
     <message>
         <source>The printer takes no paper of %1 × %2 mm: sizes of your own go from %3 × %4 mm to %5 × %6 mm.</source>
         <translation>このプリンターでは %1 × %2 mm の用紙を使用できません。指定できるサイズは %3 × %4 mm から %5 × %6 mm までです。</translation>
+    </message>
+</context>
+<context>
+    <name>SummaryPane</name>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
     </message>
 </context>
 </TS>

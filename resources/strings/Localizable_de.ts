@@ -48,6 +48,10 @@
         <translation>Farbkorrektur</translation>
     </message>
     <message>
+        <source>Section</source>
+        <translation>Abschnitt: %1</translation>
+    </message>
+    <message>
         <source>Revert</source>
         <translation>Zurücksetzen</translation>
     </message>

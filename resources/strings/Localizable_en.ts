@@ -48,6 +48,10 @@
         <translation>Color Enhancement</translation>
     </message>
     <message>
+        <source>Section</source>
+        <translation>Section: %1</translation>
+    </message>
+    <message>
         <source>Revert</source>
         <translation>Revert</translation>
     </message>

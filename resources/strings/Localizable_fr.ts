@@ -48,6 +48,10 @@
         <translation>Correction des couleurs</translation>
     </message>
     <message>
+        <source>Section</source>
+        <translation>Section : %1</translation>
+    </message>
+    <message>
         <source>Revert</source>
         <translation>Rétablir</translation>
     </message>

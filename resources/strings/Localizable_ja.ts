@@ -48,6 +48,10 @@
         <translation>カラー調整</translation>
     </message>
     <message>
+        <source>Section</source>
+        <translation>「%1」のセクション</translation>
+    </message>
+    <message>
         <source>Revert</source>
         <translation>元に戻す</translation>
     </message>

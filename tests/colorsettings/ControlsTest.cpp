@@ -148,7 +148,8 @@ TEST_F(ControlsTest, HaveNamesForScreenReaders)
         EXPECT_EQ(dialog.part<QWidget>(name).accessibleName(), u"Red"_s);
     EXPECT_EQ(dialog.part<QWidget>("ditherPopup").accessibleName(), u"Halftone Pattern"_s);
     EXPECT_EQ(dialog.part<QWidget>("colorMatchingMatrix").accessibleName(), u"Color Matching"_s);
-    EXPECT_EQ(dialog.part<QWidget>("optionButton").accessibleName(), u"Color Enhancement"_s);
+    EXPECT_EQ(dialog.part<QWidget>("optionButton").accessibleName(),
+              u"Section: Color Enhancement"_s);
     EXPECT_EQ(dialog.part<QWidget>("effectImageView").accessibleName(), u"Preview"_s);
 }
 

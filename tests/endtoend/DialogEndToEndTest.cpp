@@ -13,6 +13,7 @@
 #include "tests/support/TrapFolder.h"
 
 #include <QtCore/QScopeGuard>
+#include <QtCore/QTemporaryDir>
 #include <QtCore/QTimer>
 #include <QtNetwork/QTcpServer>
 #include <QtTest/QTest>
@@ -111,6 +112,36 @@ TEST_F(Dialog, APickThatIsPrintedArrivesInTheJobAndInThePrinter)
     EXPECT_EQ(job.value(u"com.velkaro.print.PrintSettings.advancedItem"_s), u"false"_s);
     EXPECT_EQ(server().waitForJob(u"photo"_s, newJobs()[0]), IPP_JSTATE_COMPLETED);
     EXPECT_TRUE(printed().contains("%% VKMediaType=Glossy"));
+}
+
+TEST_F(Dialog, ASavedJobIsSentAsItWasSavedToTheQueueThatItWasMadeFor)
+{
+    const QTemporaryDir folder;
+    DialogWishes line = lineFor(server().address(), u"photo"_s);
+    line.output = folder.filePath(u"the.velkaro-job"_s);
+    line.choices = {{u"VKMediaType"_s, u"Glossy"_s}, {u"copies"_s, u"2"_s}};
+    auto window = open(line);
+    click(*window, "printButton");
+    waitWhile(*window, DialogWindow::State::Sending);
+    ASSERT_TRUE(window->outcome()) << window->notice().sentence().toStdString();
+    ASSERT_EQ(newJobs().size(), 0);
+
+    DialogWishes later;
+    later.server = line.server;
+    later.plugIn = line.plugIn;
+    later.files = {line.output};
+    window = open(later);
+    EXPECT_EQ(window->job().source().queue.queue, u"photo"_s);
+    EXPECT_EQ(window->notice().sentence(),
+              u"This job is printed with the settings that it was saved with."_s);
+    click(*window, "printButton");
+    waitWhile(*window, DialogWindow::State::Sending);
+    EXPECT_TRUE(window->outcome()) << window->notice().sentence().toStdString();
+    ASSERT_EQ(newJobs().size(), 1);
+    const QMap<QString, QString> job = server().jobAttributes(u"photo"_s, newJobs()[0]);
+    EXPECT_EQ(job.value(u"VKMediaType"_s), u"Glossy"_s);
+    EXPECT_EQ(job.value(u"copies"_s), u"2"_s);
+    EXPECT_EQ(server().waitForJob(u"photo"_s, newJobs()[0]), IPP_JSTATE_COMPLETED);
 }
 
 TEST_F(Dialog, APaperThatIsPickedReachesThePanelsAndTheJob)

@@ -21,6 +21,7 @@ const QStringList KEYS{
     u"Model"_s,
     u"advancedItem"_s,
     u"advancedcolorItem"_s,
+    u"Section"_s,
     u"Layout"_s,
     u"OtherOption"_s,
     u"A4"_s,

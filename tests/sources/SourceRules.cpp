@@ -41,6 +41,7 @@ const QList<SourceRule> &plainTextRules()
          {u"platform/toolkit/PlainLabel.cpp"_s, u"platform/toolkit/PlainText.cpp"_s,
           u"platform/toolkit/Alert.cpp: box->setText(content.text);"_s,
           u"dialog/window/PresetNameDialog.cpp: m_name->setText(name);"_s,
+          u"dialog/window/Mnemonics.cpp: button.setText(withMnemonic(title, taken));"_s,
           u"dialog/window/JobHeader.cpp: m_pages->setText(m_job.settings().pageRanges);"_s}},
         {"TextFormat",
          uR"( \b setTextFormat \s* \( | Qt::(?:RichText|AutoText|MarkdownText) )"_s,

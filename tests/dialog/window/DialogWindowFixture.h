@@ -101,7 +101,7 @@ protected:
         QStringList titles;
         const auto *bar = part<QTabWidget>("parts");
         for (int index = 0; index < bar->count(); ++index)
-            titles += bar->tabText(index);
+            titles += bar->tabText(index).remove(u'&');
         return titles;
     }
 

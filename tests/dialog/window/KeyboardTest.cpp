@@ -54,6 +54,22 @@ TEST_F(Keyboard, OpensTheHelpOfThePartInFront)
     EXPECT_TRUE(QTest::qWaitFor([this] { return m_window->findChild<QDialog *>(u"hostHelp"_s); }));
 }
 
+TEST_F(Keyboard, GoesFromPartToPartFromEveryControl)
+{
+    show(1);
+    for (const char *name : {"chooseButton", "mediaTypePopup", "helpButton"}) {
+        part<QWidget>(name)->setFocus();
+        const int before = part<QTabWidget>("parts")->currentIndex();
+        QTest::keyClick(part<QWidget>(name), Qt::Key_Tab, Qt::ControlModifier);
+        EXPECT_EQ(part<QTabWidget>("parts")->currentIndex(), before + 1) << name;
+        part<QTabWidget>("parts")->setCurrentIndex(before);
+    }
+    part<QTabWidget>("parts")->setCurrentIndex(0);
+    QTest::keyClick(part<QWidget>("paperPopup"), Qt::Key_Backtab,
+                    Qt::ControlModifier | Qt::ShiftModifier);
+    EXPECT_EQ(part<QTabWidget>("parts")->currentIndex(), part<QTabWidget>("parts")->count() - 1);
+}
+
 // What every part has before and after its own controls.
 const QStringList kBefore{u"Choose…"_s, u"Printer:"_s, u"Preset:"_s,
                           u"Presets"_s, u"Copies:"_s,  u"Pages:"_s};
@@ -81,11 +97,11 @@ INSTANTIATE_TEST_SUITE_P(
                           u"Two-Sided Printing:"_s, u"Output:"_s, u"By the Printer"_s}},
                     Walk{1,
                          {u"Print Settings"_s, u"Media Type"_s, u"Print Quality"_s, u"Color Mode"_s,
-                          u"Paper Thickness"_s, u"Paper Source"_s, u"Advanced Settings"_s,
+                          u"Paper Thickness"_s, u"Paper Source"_s, u"Section: Advanced Settings"_s,
                           u"Advanced Settings"_s, u"Mirror Image"_s, u"Rotate by 180 Degrees"_s}},
                     Walk{2,
                          {u"Color Settings"_s, u"Natural"_s, u"Halftone Pattern"_s,
-                          u"Color Enhancement"_s, u"Color Enhancement"_s}},
+                          u"Section: Color Enhancement"_s, u"Color Enhancement"_s}},
                     Walk{3, {u"Summary"_s, u"Summary"_s}}));
 
 } // namespace
