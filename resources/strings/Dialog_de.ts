@@ -650,8 +650,8 @@
         <translation>Seiten werden so angegeben: 1-3, 5</translation>
     </message>
     <message>
-        <source>Prese&amp;t:</source>
-        <translation>&amp;Voreinstellung:</translation>
+        <source>Preset:</source>
+        <translation>Voreinstellung:</translation>
     </message>
 </context>
 <context>

@@ -650,8 +650,8 @@
         <translation>Les pages s’indiquent ainsi : 1-3, 5</translation>
     </message>
     <message>
-        <source>Prese&amp;t:</source>
-        <translation>&amp;Préréglage :</translation>
+        <source>Preset:</source>
+        <translation>Préréglage :</translation>
     </message>
 </context>
 <context>

@@ -650,8 +650,8 @@
         <translation>「1-3, 5」のように入力してください</translation>
     </message>
     <message>
-        <source>Prese&amp;t:</source>
-        <translation>プリセット(&amp;T):</translation>
+        <source>Preset:</source>
+        <translation>プリセット:</translation>
     </message>
 </context>
 <context>

@@ -91,8 +91,8 @@ protected:
         QStringList titles;
         const auto *bar = part<QTabWidget>(u"parts"_s);
         for (int index = 0; index < bar->count(); ++index)
-            titles += bar->tabText(index);
-        return titles;
+            titles += bar->tabText(index).remove(QLatin1Char('&'));
+        '); return titles;
     }
 
     const LpoptionsFolder m_lpoptions;

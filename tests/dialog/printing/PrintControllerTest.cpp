@@ -105,7 +105,7 @@ TEST_F(Controller, StopsAtASavedJobAmongTheDocuments)
     ASSERT_TRUE(find());
     const Result<FinishedJob> job = controller().finish();
     EXPECT_EQ(job.faultKind(), FaultKind::Request);
-    EXPECT_EQ(job.sentence(), saved + u" is a saved job: it is sent with --no-dialog, and with no "
+    EXPECT_EQ(job.sentence(), saved + u" is a saved job: it is sent alone, with no "
                                       "other document beside it."_s);
 }
 
