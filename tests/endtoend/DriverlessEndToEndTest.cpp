@@ -92,7 +92,7 @@ protected:
         const auto *bar = part<QTabWidget>(u"parts"_s);
         for (int index = 0; index < bar->count(); ++index)
             titles += bar->tabText(index).remove(QLatin1Char('&'));
-        '); return titles;
+        return titles;
     }
 
     const LpoptionsFolder m_lpoptions;
