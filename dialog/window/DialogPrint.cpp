@@ -150,7 +150,7 @@ void DialogWindow::endSending(const Result<> &outcome, const QString &note)
     if (outcome || m_mayHavePrinted)
         m_outcome = outcome;
     m_progress->end();
-    if (outcome)
+    if (outcome && !m_savedJob)
         rememberLastUsed(job().source().server, job().source().queue.queue,
                          lastingOptions(job(), job().options().options));
     setState(outcome ? State::Done : State::Ready);

@@ -72,7 +72,7 @@ JobHeader::JobHeader(PrintJob &job, QWidget *parent)
     form->setFieldGrowthPolicy(QFormLayout::AllNonFixedFieldsGrow);
     addLabelledRow(form, tr("Document:"), row({m_documents, m_choose}, 0));
     form->addRow(label(tr("Pri&nter:"), m_printers->popup()), m_printers);
-    form->addRow(label(tr("Prese&t:"), m_presets->popup()), m_presets);
+    form->addRow(label(tr("Preset:"), m_presets->popup()), m_presets);
     m_settingsRow = row({m_copies, label(tr("Pa&ges:"), m_pages), m_pages, m_pagesValidation}, 3);
     form->addRow(label(tr("&Copies:"), m_copies), m_settingsRow);
     setTabOrder(m_choose, m_printers->popup());

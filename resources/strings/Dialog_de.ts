@@ -677,6 +677,10 @@
         <translation>Seiten werden so angegeben: 1-3, 5</translation>
     </message>
     <message>
+        <source>Preset:</source>
+        <translation>Voreinstellung:</translation>
+    </message>
+    <message>
         <source>%1 is beyond page %2</source>
         <translation>%1 liegt hinter Seite %2</translation>
     </message>
@@ -687,10 +691,6 @@
     <message>
         <source>How many there are is not known</source>
         <translation>Wie viele es gibt, ist nicht bekannt</translation>
-    </message>
-    <message>
-        <source>Prese&amp;t:</source>
-        <translation>&amp;Voreinstellung:</translation>
     </message>
 </context>
 <context>

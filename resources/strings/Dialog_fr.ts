@@ -677,6 +677,10 @@
         <translation>Les pages s’indiquent ainsi : 1-3, 5</translation>
     </message>
     <message>
+        <source>Preset:</source>
+        <translation>Préréglage :</translation>
+    </message>
+    <message>
         <source>%1 is beyond page %2</source>
         <translation>%1 dépasse la page %2</translation>
     </message>
@@ -687,10 +691,6 @@
     <message>
         <source>How many there are is not known</source>
         <translation>Leur nombre n’est pas connu</translation>
-    </message>
-    <message>
-        <source>Prese&amp;t:</source>
-        <translation>&amp;Préréglage :</translation>
     </message>
 </context>
 <context>
@@ -1195,9 +1195,6 @@
         <source>The PPD file %1 is incomplete: it ends too early. Get it again.</source>
         <translation>Le fichier PPD %1 est incomplet : il se termine trop tôt. Procurez-vous-le à nouveau.</translation>
     </message>
-</context>
-<context>
-    <name>PageSetupPane</name>
 </context>
 <context>
     <name>PanelVeto</name>

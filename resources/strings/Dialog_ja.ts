@@ -677,6 +677,10 @@
         <translation>「1-3, 5」のように入力してください</translation>
     </message>
     <message>
+        <source>Preset:</source>
+        <translation>プリセット:</translation>
+    </message>
+    <message>
         <source>%1 is beyond page %2</source>
         <translation>%1 は最終ページ (%2) を超えています</translation>
     </message>
@@ -687,10 +691,6 @@
     <message>
         <source>How many there are is not known</source>
         <translation>全ページ数は不明です</translation>
-    </message>
-    <message>
-        <source>Prese&amp;t:</source>
-        <translation>プリセット(&amp;T):</translation>
     </message>
 </context>
 <context>

@@ -91,7 +91,7 @@ protected:
         QStringList titles;
         const auto *bar = part<QTabWidget>(u"parts"_s);
         for (int index = 0; index < bar->count(); ++index)
-            titles += bar->tabText(index);
+            titles += bar->tabText(index).remove(QLatin1Char('&'));
         return titles;
     }
 

@@ -257,15 +257,15 @@ class FeaturesIn : public FeaturesOf, public testing::WithParamInterface<Languag
 {
 protected:
     // libcups asks the environment where the process has no locale of its own.
-    FeaturesIn() : m_before(qgetenv("LANG")), m_locale(std::setlocale(LC_MESSAGES, nullptr))
+    FeaturesIn() : m_before(qgetenv("LC_ALL")), m_locale(std::setlocale(LC_MESSAGES, nullptr))
     {
         std::setlocale(LC_MESSAGES, "C");
-        qputenv("LANG", GetParam().locale);
+        qputenv("LC_ALL", GetParam().locale);
     }
     ~FeaturesIn() override
     {
         std::setlocale(LC_MESSAGES, m_locale.constData());
-        qputenv("LANG", m_before);
+        qputenv("LC_ALL", m_before);
     }
 
     const QByteArray m_before;
