@@ -16,7 +16,7 @@ constexpr std::array kSettings{
     // The dialog's own.
     "copies"_L1, "fit-to-page"_L1, "orientation-requested"_L1, "page-ranges"_L1,
     "print-color-mode"_L1, "print-quality"_L1, "print-scaling"_L1, "booklet"_L1,
-    "notify-recipient-uri"_L1,
+    "notify-recipient-uri"_L1, "pdfAutoRotate"_L1,
     // What the manual of CUPS lists for lpoptions.
     "brightness"_L1, "columns"_L1, "cpi"_L1, "finishings"_L1, "gamma"_L1, "hue"_L1,
     "job-hold-until"_L1, "job-priority"_L1, "job-sheets"_L1, "landscape"_L1, "lpi"_L1, "mirror"_L1,

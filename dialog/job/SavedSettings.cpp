@@ -116,5 +116,10 @@ SavedSettings applySavedOptions(ppd_file_t *ppd, const QList<JobOption> &saved)
         if (ppd && isForeignKeyword(option))
             settings.missing += option;
     }
+    // A landscape job says it by itself, where its documents need it. Left among the others it
+    // would stay when the job is turned upright.
+    if (settings.orientation == PMOrientation::Landscape)
+        settings.others.removeIf(
+            [](const JobOption &option) { return option.name == "pdfAutoRotate"_L1; });
     return settings;
 }

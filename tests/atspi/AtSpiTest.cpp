@@ -49,7 +49,7 @@ TEST(AssistiveTechnology, FindsTheDialogOverTheBus)
         }
     EXPECT_THAT(namesOf(told, u"page tab"_s),
                 testing::ElementsAre(u"Page Setup"_s, u"Print Settings"_s, u"Color Settings"_s,
-                                     u"Summary"_s));
+                                     u"Layout & Job"_s, u"Summary"_s));
     EXPECT_THAT(namesOf(told, u"push button"_s),
                 testing::IsSupersetOf({u"Help"_s, u"Cancel"_s, u"Print"_s}));
     program.terminate();

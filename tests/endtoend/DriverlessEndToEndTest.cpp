@@ -4,6 +4,7 @@
 #include "platform/ppd/PPDText.h"
 #include "platform/toolkit/PopUpButton.h"
 #include "tests/built/BuiltFiles.h"
+#include "tests/endtoend/ShownTitle.h"
 #include "tests/printserver/DriverlessPrinter.h"
 #include "tests/printserver/PrintServer.h"
 #include "tests/support/LpoptionsFolder.h"
@@ -91,7 +92,7 @@ protected:
         QStringList titles;
         const auto *bar = part<QTabWidget>(u"parts"_s);
         for (int index = 0; index < bar->count(); ++index)
-            titles += bar->tabText(index).remove(QLatin1Char('&'));
+            titles += shownTitle(bar->tabText(index));
         return titles;
     }
 
@@ -107,7 +108,8 @@ TEST_F(OtherQueues, ADriverlessPrinterPrintsWithAllThatItCanDo)
 {
     addDriverlessQueue();
     open(u"driverless"_s);
-    EXPECT_EQ(tabs(), (QStringList{u"Page Setup"_s, u"Printer Features"_s, u"Summary"_s}));
+    EXPECT_EQ(tabs(), (QStringList{u"Page Setup"_s, u"Printer Features"_s, u"Layout & Job"_s,
+                                   u"Summary"_s}));
     pick(u"paperPopup"_s, u"A5"_s);
     pick(u"DuplexPopup"_s, u"DuplexNoTumble"_s);
     ASSERT_TRUE(m_window->showPart(u"features"_s));

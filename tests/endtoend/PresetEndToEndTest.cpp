@@ -198,6 +198,21 @@ TEST_P(PresetJobs, AreTheSameFromLpAndFromTheDialog)
     }
 }
 
+// The program says that pages are not turned for a job that lies, and takes it back with that.
+TEST_P(PresetJobs, TurnPagesByThemselvesAgainWhenTheyAreMadeUpright)
+{
+    m_lpoptions.writeUser("Dest photo/wide orientation-requested=4 pdfAutoRotate=false\n"
+                          "Dest photo/own pdfAutoRotate=false\n");
+    const auto autoRotate = [](const PrintController &controller) {
+        return optionValue(controller.job().options().options, u"pdfAutoRotate"_s);
+    };
+    const auto wide = open(u"wide"_s);
+    EXPECT_EQ(autoRotate(*wide), u"false"_s);
+    wide->job().setOrientation(PMOrientation::Portrait);
+    EXPECT_EQ(autoRotate(*wide), QString());
+    EXPECT_EQ(autoRotate(*open(u"own"_s)), u"false"_s);
+}
+
 INSTANTIATE_TEST_SUITE_P(SamplePrinters, PresetJobs,
                          testing::Values("velkaro-px-t900", "velkaro-px-330c", "velkaro-mx-j710dw",
                                          "velkaro-strange"));

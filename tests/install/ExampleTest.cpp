@@ -98,7 +98,7 @@ TEST_F(InstalledExample, PutsItsSettingsIntoTheJob)
     EXPECT_EQ(jobOptions(examplePPD(), {u"PageSize=A7"_s, u"ExMedium=Card"_s, u"ExSaveToner=Yes"_s,
                                         u"ExDarkness=2"_s}),
               (QByteArrayList{"PageSize=A7", "ExMedium=Card", "ExSaveToner=Yes", "ExDarkness=0",
-                              "com.example.print.Darkness=2"}));
+                              "print-scaling=auto", "com.example.print.Darkness=2"}));
 }
 
 TEST_F(InstalledExample, IsNotUsedForAPrinterOfOurs)
@@ -126,7 +126,8 @@ TEST_F(InstalledExample, LeavesAPrinterOfAnotherMakerWithoutPanels)
     const QString ppd = m_folder.filePath(u"other.ppd"_s);
     writeFile(ppd, readFile(examplePPD()).replace("\"Example", "\"Other"));
     EXPECT_EQ(jobOptions(ppd, {u"ExMedium=Labels"_s}),
-              (QByteArrayList{"PageSize=A4", "ExMedium=Labels", "ExSaveToner=No", "ExDarkness=0"}));
+              (QByteArrayList{"PageSize=A4", "ExMedium=Labels", "ExSaveToner=No", "ExDarkness=0",
+                              "print-scaling=auto"}));
 }
 
 TEST_F(InstalledExample, IsRefusedWhereOthersMayChangeIt)

@@ -1,6 +1,7 @@
 #include "dialog/cups/JobSubmission.h"
 #include "dialog/cups/Destinations.h"
 #include "dialog/work/BackgroundCall.h"
+#include "tests/built/BuiltFiles.h"
 #include "tests/dialog/cups/ServerFixture.h"
 #include "tests/support/Documents.h"
 #include "tests/support/QStringPrinting.h"
@@ -77,15 +78,28 @@ TEST_F(Server, GetsNoJobWhoseDocumentHasChanged)
     EXPECT_EQ(s_server->jobs(u"photo"_s), before);
 }
 
-TEST_F(Server, HoldsAJobAndItIsSaid)
+TEST_F(Server, HoldsAJobThatAskedForItAndNothingIsSaid)
 {
     JobRequest request = job(u"photo"_s);
     request.options = {{u"job-hold-until"_s, u"indefinite"_s}};
     const auto receipt = submitJob(request, m_guard);
     ASSERT_TRUE(receipt.isGood());
+    EXPECT_EQ(receipt->notes, QStringList());
+    EXPECT_EQ(s_server->jobAttributes(u"photo"_s, receipt->id).value(u"job-state-reasons"_s),
+              u"job-hold-until-specified"_s);
+}
+
+TEST_F(Server, HoldsEveryJobOfAQueueAndItIsSaid)
+{
+    ASSERT_TRUE(s_server->addQueue(u"held"_s, samplePPD(u"velkaro-px-t900"_s)));
+    ASSERT_TRUE(
+        s_server->lpadmin({u"-p"_s, u"held"_s, u"-o"_s, u"job-hold-until-default=indefinite"_s}));
+    const auto receipt = submitJob(job(u"held"_s), m_guard);
+    ASSERT_TRUE(receipt.isGood());
     EXPECT_EQ(
         receipt->notes,
         QStringList{u"The server holds job %1 (job-hold-until-specified)."_s.arg(receipt->id)});
+    ASSERT_TRUE(s_server->lpadmin({u"-x"_s, u"held"_s}));
 }
 
 TEST_F(Server, CancelsAJobThatTheUserStoppedSending)
