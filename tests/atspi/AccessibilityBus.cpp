@@ -47,8 +47,9 @@ AccessibilityBus::AccessibilityBus()
 {
     qDBusRegisterMetaType<AccessiblePlace>();
     qDBusRegisterMetaType<QList<AccessiblePlace>>();
-    const QByteArray display =
-        start(m_display, u"Xvfb"_s, {u"-displayfd"_s, u"1"_s, u"-nolisten"_s, u"tcp"_s});
+    // A server that begins anew when the launcher leaves it turns away whoever comes just then.
+    const QByteArray display = start(
+        m_display, u"Xvfb"_s, {u"-displayfd"_s, u"1"_s, u"-nolisten"_s, u"tcp"_s, u"-noreset"_s});
     m_environment.insert(u"DISPLAY"_s, u':' + QString::fromLatin1(display));
     const QByteArray session =
         start(m_session, u"dbus-daemon"_s, {u"--session"_s, u"--nofork"_s, u"--print-address"_s});
