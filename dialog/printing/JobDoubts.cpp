@@ -48,8 +48,8 @@ QString oneSidedPaper(const PrintJob &job)
 
 bool wasMadeOrShown(const PrintJob &job, const SettingState &before, const SettingChange &change)
 {
-    return !job.session()->defaultMarks().contains(PPDMark{change.keyword, change.from}) ||
-           before.shown.contains(PPDMark{change.keyword, change.from});
+    const PPDMark former{change.keyword, change.from};
+    return job.isChosen(former) || before.shown.contains(former);
 }
 
 } // namespace

@@ -37,6 +37,10 @@ void PrintJob::setPrinter(const PrinterSource &source, OpenedPrinter printer)
     else
         m_printer = PMPageFormat{{}, printer.saved.orientation};
     m_saved = printer.saved.others;
+    m_chosen.clear();
+    if (session())
+        for (const PPDMark &mark : changedMarks(ppd(), session()->defaultMarks()))
+            noteChoice(mark);
     m_settled = printer.saved.settled;
     if (m_settings == m_savedSettings)
         m_settings = printer.saved.settings;

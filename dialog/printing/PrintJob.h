@@ -6,6 +6,7 @@
 #include "dialog/job/ScalingSentences.h"
 #include "dialog/printing/PrinterSource.h"
 
+#include <QtCore/QHash>
 #include <QtCore/QString>
 #include <QtCore/QStringList>
 
@@ -81,6 +82,14 @@ public:
     /// Marks a choice of the dialog's own. False without such a choice.
     bool mark(const QString &keyword, const QString &choice);
 
+    /// Notes a choice as somebody's own: one that was picked, or asked for by name. Those that were
+    /// saved for the printer are. What rules mark in turn is nobody's.
+    void noteChoice(const PPDMark &choice) { m_chosen.insert(choice.keyword, choice.choice); }
+    bool isChosen(const PPDMark &choice) const
+    {
+        return m_chosen.value(choice.keyword) == choice.choice;
+    }
+
     /// Options that no panel shows but the dialog: the PPD's `Duplex`, and what the plug-in wants
     /// watched. Those that the PPD has.
     QStringList ownKeywords() const;
@@ -101,7 +110,8 @@ private:
     HostSettings m_settings;
     HostSettings m_savedSettings; // to tell whether the user has settled anything since
     QList<JobOption> m_saved;
-    QStringList m_settled; ///< JobValues::settled
+    QHash<QString, QString> m_chosen; // keyword to choice
+    QStringList m_settled;            ///< JobValues::settled
     /// The panels' session, which has the page format, or that format alone.
     std::variant<PMPageFormat, std::unique_ptr<HostSession>> m_printer;
 };

@@ -143,6 +143,8 @@ Result<> makeSettings(PrintJob &job, const QList<RequestedChoice> &wanted,
 {
     auto [settings, state] = knownSettings(job, wanted);
     const Result<> single = withoutContradictions(job, settings);
+    for (const RequestedChoice &setting : std::as_const(settings))
+        job.noteChoice({setting.keyword, setting.choice});
     QStringList losses;
     for (const RequestedChoice &missing : makeInRounds(job, settings, madeOne))
         losses += lossSentence(job, missing);

@@ -35,7 +35,7 @@ QString shownByBox(const QAbstractButton &box, const PDEPanelControls &panel,
 QString shownChoice(const PDEPanelControls &panel, const QString &keyword, ppd_file_t *ppd)
 {
     const QWidget *control = panel.controlOf(keyword);
-    if (!control || isHiddenItself(control))
+    if (!control || isHiddenItself(control) || !control->isEnabled())
         return {};
     if (const auto *popup = qobject_cast<const PopUpButton *>(control))
         return popup->selectedObject();

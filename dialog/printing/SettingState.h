@@ -13,7 +13,8 @@ struct SettingState
 {
     /// What is marked, in the order of the PPD; `PageSize` as it would be sent.
     QList<PPDMark> marks;
-    /// What the panels' controls show, of those that are filled and not hidden.
+    /// What the panels' controls show, of those that are filled, not hidden and not switched off:
+    /// what cannot be chosen promises nothing.
     QList<PPDMark> shown;
 };
 

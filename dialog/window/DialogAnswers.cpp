@@ -116,6 +116,8 @@ DialogWindow::Notice DialogWindow::standingNotice() const
 QList<SettingChange> DialogWindow::takeChanges()
 {
     const PPDMark pick = std::exchange(m_pick, PPDMark());
+    if (!pick.keyword.isEmpty() && !pick.choice.isNull())
+        job().noteChoice(pick);
     const SettingState now = ::settingState(job());
     const SettingState former = std::exchange(m_toldState, now);
     return job().session() ? changesBeside(pick, former, now, job().session()->choiceForms())

@@ -144,6 +144,23 @@ TEST_F(EventNotice, SaysAfterTheBorderlessAlertWhatBecameWhat)
         << notice().toStdString();
 }
 
+// The box is off and cannot be chosen for this paper; the printer goes on as it is marked.
+TEST_F(EventNotice, SaysNothingOfABoxThatIsSwitchedOff)
+{
+    open();
+    showTab(0);
+    part<QAbstractButton>("borderlessButton")->click();
+    pick("paperPopup", u"A3"_s);
+    ASSERT_EQ(marked(u"PageSize"_s), u"A3.Fullbleed"_s);
+    ASSERT_FALSE(part<QAbstractButton>("biDirButton")->isEnabled());
+    ASSERT_FALSE(part<QAbstractButton>("biDirButton")->isChecked());
+    ASSERT_EQ(marked(u"VKBiDir"_s), u"ON"_s);
+    EXPECT_EQ(notice(), u"Print Quality is now Best (was Normal)."_s);
+    const auto finished = m_window->controller().finish();
+    ASSERT_TRUE(finished);
+    EXPECT_EQ(finished->doubts, QStringList());
+}
+
 TEST_F(EventNotice, IsAskedAboutBeforeTheJobLeaves)
 {
     open();
