@@ -18,6 +18,7 @@
 #include <QtGui/QScreen>
 #include <QtWidgets/QLayout>
 #include <QtWidgets/QPushButton>
+#include <QtWidgets/QTabBar>
 #include <QtWidgets/QTabWidget>
 
 #include <algorithm>
@@ -80,6 +81,7 @@ void DialogWindow::buildParts()
     m_tabs->addTab(m_summary, tr("Summary"));
     setTitleWithMnemonic(*m_print, printTitle());
     giveMnemonics(*m_tabs);
+    fitToTabs();
     m_tabs->setCurrentIndex(m_parts.size() > 1 && m_parts[1].panel ? 1 : 0);
     changePart();
     setHeight(std::max(height(), layout()->totalSizeHint().height()));
@@ -194,6 +196,15 @@ void DialogWindow::followView()
     else if (wanted > part->page->height())
         setHeight(height() + wanted - part->page->height());
     job().session()->windowDidResize();
+}
+
+/// The titles of all tabs are there to be read, as far as the screen allows it.
+void DialogWindow::fitToTabs()
+{
+    const QMargins margins = layout()->contentsMargins();
+    const int wanted = m_tabs->tabBar()->sizeHint().width() + margins.left() + margins.right();
+    const int most = screen()->availableGeometry().width();
+    resize(std::max(width(), std::min(wanted, most)), height());
 }
 
 void DialogWindow::setHeight(int height)

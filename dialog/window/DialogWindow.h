@@ -173,6 +173,7 @@ private:
     void hideShownPanel();
     void fitToPart();
     void followView();
+    void fitToTabs();
     void setHeight(int height);
     QList<SummarySection> summarySections();
     SummarySection ownSection() const;

@@ -5,6 +5,7 @@
 #include "tests/support/CaseName.h"
 
 #include <QtCore/QTranslator>
+#include <QtWidgets/QTabBar>
 
 using namespace Qt::StringLiterals;
 
@@ -80,6 +81,13 @@ TEST_P(MnemonicsOfTheDialog, AreEachForOneThing)
     }
     const QString print = part<QAbstractButton>("printButton")->text();
     EXPECT_FALSE(QKeySequence::mnemonic(print).isEmpty()) << print.toStdString();
+}
+
+TEST_P(MnemonicsOfTheDialog, StandInTabsThatAreAllInSight)
+{
+    open();
+    const QTabBar *bar = part<QTabWidget>("parts")->tabBar();
+    EXPECT_LE(bar->sizeHint().width(), bar->width());
 }
 
 INSTANTIATE_TEST_SUITE_P(Languages, MnemonicsOfTheDialog, testing::Values("de", "en", "fr", "ja"),
