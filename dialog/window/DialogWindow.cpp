@@ -73,10 +73,12 @@ void DialogWindow::buildLayout()
     m_progress = new ProgressStrip(this);
     m_tabs = new QTabWidget(this);
     m_tabs->setObjectName(u"parts"_s);
-    m_pageSetup = new PageSetupPane(job());
+    m_pageSetup = new PageSetupPane(job(), this);
     m_features = new FeaturesPane(job(), this);
-    m_features->hide(); // a tab only where there is something to show
-    m_layout = new LayoutPane(job());
+    m_layout = new LayoutPane(job(), this);
+    for (QWidget *pane : {static_cast<QWidget *>(m_pageSetup), static_cast<QWidget *>(m_features),
+                          static_cast<QWidget *>(m_layout)})
+        pane->hide(); // a tab only where there is something to show
     m_summary = new SummaryPane;
     auto *layout = new QVBoxLayout(this);
     layout->setContentsMargins(kWindowMargin, kWindowMargin, kWindowMargin, kWindowMargin);
