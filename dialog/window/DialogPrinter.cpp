@@ -1,4 +1,5 @@
 #include "dialog/job/PipeDocuments.h"
+#include "dialog/window/DialogTabs.h"
 #include "dialog/window/DialogWindow.h"
 #include "dialog/window/JobHeader.h"
 #include "dialog/window/LayoutPane.h"
@@ -135,9 +136,9 @@ void DialogWindow::makeRequestedSettings()
         return;
     }
     if (!m_wishes.paper.isNull() || !m_wishes.choices.empty()) {
-        m_pageSetup->reload();
+        m_tabs->pageSetup()->reload();
         moveButtonsLast();
-        m_layout->reload();
+        m_tabs->layoutPane()->reload();
         m_header->reload();
     }
     // After what the picks among them have told.

@@ -15,14 +15,10 @@
 #include <optional>
 #include <vector>
 
-class FeaturesPane;
+class DialogTabs;
 class JobHeader;
-class LayoutPane;
-class PageSetupPane;
-class PanelPane;
 class ProgressStrip;
 class QPushButton;
-class QTabWidget;
 
 /// The print dialog: printer, page setup, the plug-in's panels, the summary, and Print.
 ///
@@ -99,14 +95,6 @@ private:
         QList<NoticeOffer> offers = {};
     };
 
-    /// A tab of the dialog.
-    struct Part
-    {
-        QString name;
-        QWidget *page = nullptr;
-        const HostPanel *panel = nullptr; // of the session; null for the dialog's own parts
-    };
-
     // DialogWindow.cpp
     void buildLayout();
     void addPartShortcut(QKeySequence::StandardKey keys, int step);
@@ -167,17 +155,13 @@ private:
     // DialogParts.cpp
     void buildParts();
     void removeParts();
-    const Part *currentPart() const;
     void changePart();
     void moveButtonsLast();
-    void hideShownPanel();
     void fitToPart();
     void followView();
     void fitToTabs();
     void setHeight(int height);
     QList<SummarySection> summarySections();
-    SummarySection ownSection() const;
-    SummarySection layoutSection() const;
     void listCoverPages();
 
     // DialogPresets.cpp
@@ -230,17 +214,10 @@ private:
     JobHeader *m_header;
     NoticeBar *m_notice;
     ProgressStrip *m_progress;
-    QTabWidget *m_tabs;
-    PageSetupPane *m_pageSetup;
-    FeaturesPane *m_features;
-    LayoutPane *m_layout;
-    SummaryPane *m_summary;
+    DialogTabs *m_tabs;
     QPushButton *m_help = nullptr;
     QPushButton *m_save = nullptr;
     QPushButton *m_cancel = nullptr;
     QPushButton *m_print = nullptr;
-    std::vector<Part> m_parts;
-    const HostPanel *m_shownPanel = nullptr;
-    bool m_viewIsMissing = false; ///< of the panel in m_shownPanel
     int m_partHeight = 0;
 };

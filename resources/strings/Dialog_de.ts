@@ -173,72 +173,12 @@
         <translation>Velkaro Print</translation>
     </message>
     <message>
-        <source>Page Setup</source>
-        <translation>Seite einrichten</translation>
-    </message>
-    <message>
-        <source>Summary</source>
-        <translation>Zusammenfassung</translation>
-    </message>
-    <message>
-        <source>Also Sent</source>
-        <translation>Wird auch gesendet</translation>
-    </message>
-    <message>
         <source>The settings of this panel cannot be shown: a part of the plug-in is missing. Install Velkaro Print again.</source>
         <translation>Die Einstellungen dieses Bereichs können nicht angezeigt werden: Ein Teil des Plug-ins fehlt. Installieren Sie Velkaro Print neu.</translation>
     </message>
     <message>
-        <source>Paper in the Printer</source>
-        <translation>Papier im Drucker</translation>
-    </message>
-    <message>
         <source>The printer cannot take the paper size in Page Setup. Correct it there to print.</source>
         <translation>Der Drucker kann das Papierformat unter „Seite einrichten“ nicht verarbeiten. Ändern Sie es dort, um zu drucken.</translation>
-    </message>
-    <message>
-        <source>Color Management</source>
-        <translation>Farbverwaltung</translation>
-    </message>
-    <message>
-        <source>By the Printer</source>
-        <translation>Durch den Drucker</translation>
-    </message>
-    <message>
-        <source>By the Application</source>
-        <translation>Durch die Anwendung</translation>
-    </message>
-    <message>
-        <source>Document Page</source>
-        <translation>Seite des Dokuments</translation>
-    </message>
-    <message>
-        <source>Scaling</source>
-        <translation>Skalierung</translation>
-    </message>
-    <message>
-        <source>Orientation</source>
-        <translation>Ausrichtung</translation>
-    </message>
-    <message>
-        <source>Landscape</source>
-        <translation>Querformat</translation>
-    </message>
-    <message>
-        <source>Portrait</source>
-        <translation>Hochformat</translation>
-    </message>
-    <message>
-        <source>Copies</source>
-        <translation>Exemplare</translation>
-    </message>
-    <message>
-        <source>Pages</source>
-        <translation>Seiten</translation>
-    </message>
-    <message>
-        <source>All</source>
-        <translation>Alle</translation>
     </message>
     <message>
         <source>Save Job</source>
@@ -349,18 +289,6 @@
         <translation>Fortfahren</translation>
     </message>
     <message>
-        <source>Layout &amp; Job</source>
-        <translation>Layout &amp; Auftrag</translation>
-    </message>
-    <message>
-        <source>Job Title</source>
-        <translation>Auftragstitel</translation>
-    </message>
-    <message>
-        <source>Printer Features</source>
-        <translation>Druckerfunktionen</translation>
-    </message>
-    <message>
         <source>A value in Printer Features cannot be used. Correct it there to print.</source>
         <translation>Ein Wert in „Druckerfunktionen“ kann nicht verwendet werden. Berichtigen Sie ihn dort, um zu drucken.</translation>
     </message>
@@ -419,6 +347,25 @@
     <message>
         <source>Settings</source>
         <translation>Einstellungen</translation>
+    </message>
+</context>
+<context>
+    <name>DialogTabs</name>
+    <message>
+        <source>Page Setup</source>
+        <translation>Seite einrichten</translation>
+    </message>
+    <message>
+        <source>Printer Features</source>
+        <translation>Druckerfunktionen</translation>
+    </message>
+    <message>
+        <source>Layout &amp; Job</source>
+        <translation>Layout &amp; Auftrag</translation>
+    </message>
+    <message>
+        <source>Summary</source>
+        <translation>Zusammenfassung</translation>
     </message>
 </context>
 <context>
@@ -971,6 +918,73 @@
     <message>
         <source>The print server %1 did not say whether it took the job: it may have been printed as job %2.</source>
         <translation>Der Druckserver %1 hat nicht mitgeteilt, ob er den Auftrag angenommen hat: Er wurde möglicherweise als Auftrag %2 gedruckt.</translation>
+    </message>
+</context>
+<context>
+    <name>JobSummary</name>
+    <message>
+        <source>Page Setup</source>
+        <translation>Seite einrichten</translation>
+    </message>
+    <message>
+        <source>Paper in the Printer</source>
+        <translation>Papier im Drucker</translation>
+    </message>
+    <message>
+        <source>Document Page</source>
+        <translation>Seite des Dokuments</translation>
+    </message>
+    <message>
+        <source>Scaling</source>
+        <translation>Skalierung</translation>
+    </message>
+    <message>
+        <source>Orientation</source>
+        <translation>Ausrichtung</translation>
+    </message>
+    <message>
+        <source>Landscape</source>
+        <translation>Querformat</translation>
+    </message>
+    <message>
+        <source>Portrait</source>
+        <translation>Hochformat</translation>
+    </message>
+    <message>
+        <source>Copies</source>
+        <translation>Exemplare</translation>
+    </message>
+    <message>
+        <source>Pages</source>
+        <translation>Seiten</translation>
+    </message>
+    <message>
+        <source>All</source>
+        <translation>Alle</translation>
+    </message>
+    <message>
+        <source>Color Management</source>
+        <translation>Farbverwaltung</translation>
+    </message>
+    <message>
+        <source>By the Printer</source>
+        <translation>Durch den Drucker</translation>
+    </message>
+    <message>
+        <source>By the Application</source>
+        <translation>Durch die Anwendung</translation>
+    </message>
+    <message>
+        <source>Layout &amp; Job</source>
+        <translation>Layout &amp; Auftrag</translation>
+    </message>
+    <message>
+        <source>Job Title</source>
+        <translation>Auftragstitel</translation>
+    </message>
+    <message>
+        <source>Also Sent</source>
+        <translation>Wird auch gesendet</translation>
     </message>
 </context>
 <context>

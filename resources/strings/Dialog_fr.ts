@@ -173,72 +173,12 @@
         <translation>Velkaro Print</translation>
     </message>
     <message>
-        <source>Page Setup</source>
-        <translation>Mise en page</translation>
-    </message>
-    <message>
-        <source>Summary</source>
-        <translation>Récapitulatif</translation>
-    </message>
-    <message>
-        <source>Also Sent</source>
-        <translation>Également envoyé</translation>
-    </message>
-    <message>
         <source>The settings of this panel cannot be shown: a part of the plug-in is missing. Install Velkaro Print again.</source>
         <translation>Les réglages de ce volet ne peuvent pas être affichés : une partie du module est absente. Réinstallez Velkaro Print.</translation>
     </message>
     <message>
-        <source>Paper in the Printer</source>
-        <translation>Papier dans l’imprimante</translation>
-    </message>
-    <message>
         <source>The printer cannot take the paper size in Page Setup. Correct it there to print.</source>
         <translation>L’imprimante n’accepte pas le format de papier indiqué dans « Mise en page ». Corrigez-le pour imprimer.</translation>
-    </message>
-    <message>
-        <source>Color Management</source>
-        <translation>Gestion des couleurs</translation>
-    </message>
-    <message>
-        <source>By the Printer</source>
-        <translation>Par l’imprimante</translation>
-    </message>
-    <message>
-        <source>By the Application</source>
-        <translation>Par l’application</translation>
-    </message>
-    <message>
-        <source>Document Page</source>
-        <translation>Page du document</translation>
-    </message>
-    <message>
-        <source>Scaling</source>
-        <translation>Mise à l’échelle</translation>
-    </message>
-    <message>
-        <source>Orientation</source>
-        <translation>Orientation</translation>
-    </message>
-    <message>
-        <source>Landscape</source>
-        <translation>Paysage</translation>
-    </message>
-    <message>
-        <source>Portrait</source>
-        <translation>Portrait</translation>
-    </message>
-    <message>
-        <source>Copies</source>
-        <translation>Copies</translation>
-    </message>
-    <message>
-        <source>Pages</source>
-        <translation>Pages</translation>
-    </message>
-    <message>
-        <source>All</source>
-        <translation>Toutes</translation>
     </message>
     <message>
         <source>Save Job</source>
@@ -349,18 +289,6 @@
         <translation>Poursuivre</translation>
     </message>
     <message>
-        <source>Layout &amp; Job</source>
-        <translation>Mise en page &amp; travail</translation>
-    </message>
-    <message>
-        <source>Job Title</source>
-        <translation>Titre du travail</translation>
-    </message>
-    <message>
-        <source>Printer Features</source>
-        <translation>Fonctions de l’imprimante</translation>
-    </message>
-    <message>
         <source>A value in Printer Features cannot be used. Correct it there to print.</source>
         <translation>Une valeur dans « Fonctions de l’imprimante » ne peut pas être utilisée. Corrigez-la pour imprimer.</translation>
     </message>
@@ -419,6 +347,25 @@
     <message>
         <source>Settings</source>
         <translation>Réglages</translation>
+    </message>
+</context>
+<context>
+    <name>DialogTabs</name>
+    <message>
+        <source>Page Setup</source>
+        <translation>Mise en page</translation>
+    </message>
+    <message>
+        <source>Printer Features</source>
+        <translation>Fonctions de l’imprimante</translation>
+    </message>
+    <message>
+        <source>Layout &amp; Job</source>
+        <translation>Mise en page &amp; travail</translation>
+    </message>
+    <message>
+        <source>Summary</source>
+        <translation>Récapitulatif</translation>
     </message>
 </context>
 <context>
@@ -971,6 +918,73 @@
     <message>
         <source>The print server %1 did not say whether it took the job: it may have been printed as job %2.</source>
         <translation>Le serveur d’impression %1 n’a pas indiqué s’il acceptait le travail : celui-ci a peut-être été imprimé comme travail %2.</translation>
+    </message>
+</context>
+<context>
+    <name>JobSummary</name>
+    <message>
+        <source>Page Setup</source>
+        <translation>Mise en page</translation>
+    </message>
+    <message>
+        <source>Paper in the Printer</source>
+        <translation>Papier dans l’imprimante</translation>
+    </message>
+    <message>
+        <source>Document Page</source>
+        <translation>Page du document</translation>
+    </message>
+    <message>
+        <source>Scaling</source>
+        <translation>Mise à l’échelle</translation>
+    </message>
+    <message>
+        <source>Orientation</source>
+        <translation>Orientation</translation>
+    </message>
+    <message>
+        <source>Landscape</source>
+        <translation>Paysage</translation>
+    </message>
+    <message>
+        <source>Portrait</source>
+        <translation>Portrait</translation>
+    </message>
+    <message>
+        <source>Copies</source>
+        <translation>Copies</translation>
+    </message>
+    <message>
+        <source>Pages</source>
+        <translation>Pages</translation>
+    </message>
+    <message>
+        <source>All</source>
+        <translation>Toutes</translation>
+    </message>
+    <message>
+        <source>Color Management</source>
+        <translation>Gestion des couleurs</translation>
+    </message>
+    <message>
+        <source>By the Printer</source>
+        <translation>Par l’imprimante</translation>
+    </message>
+    <message>
+        <source>By the Application</source>
+        <translation>Par l’application</translation>
+    </message>
+    <message>
+        <source>Layout &amp; Job</source>
+        <translation>Mise en page &amp; travail</translation>
+    </message>
+    <message>
+        <source>Job Title</source>
+        <translation>Titre du travail</translation>
+    </message>
+    <message>
+        <source>Also Sent</source>
+        <translation>Également envoyé</translation>
     </message>
 </context>
 <context>

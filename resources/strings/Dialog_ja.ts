@@ -173,72 +173,12 @@
         <translation>Velkaro Print</translation>
     </message>
     <message>
-        <source>Page Setup</source>
-        <translation>ページ設定</translation>
-    </message>
-    <message>
-        <source>Summary</source>
-        <translation>設定一覧</translation>
-    </message>
-    <message>
-        <source>Also Sent</source>
-        <translation>あわせて送られる設定</translation>
-    </message>
-    <message>
         <source>The settings of this panel cannot be shown: a part of the plug-in is missing. Install Velkaro Print again.</source>
         <translation>プラグインの一部が見つからないため、この設定画面を表示できません。Velkaro Print をインストールし直してください。</translation>
     </message>
     <message>
-        <source>Paper in the Printer</source>
-        <translation>プリンターの用紙</translation>
-    </message>
-    <message>
         <source>The printer cannot take the paper size in Page Setup. Correct it there to print.</source>
         <translation>「ページ設定」の用紙サイズは、このプリンターでは使用できません。印刷するには、サイズを直してください。</translation>
-    </message>
-    <message>
-        <source>Color Management</source>
-        <translation>カラーマネージメント</translation>
-    </message>
-    <message>
-        <source>By the Printer</source>
-        <translation>プリンター</translation>
-    </message>
-    <message>
-        <source>By the Application</source>
-        <translation>アプリケーション</translation>
-    </message>
-    <message>
-        <source>Document Page</source>
-        <translation>文書のページ</translation>
-    </message>
-    <message>
-        <source>Scaling</source>
-        <translation>拡大縮小</translation>
-    </message>
-    <message>
-        <source>Orientation</source>
-        <translation>向き</translation>
-    </message>
-    <message>
-        <source>Landscape</source>
-        <translation>横</translation>
-    </message>
-    <message>
-        <source>Portrait</source>
-        <translation>縦</translation>
-    </message>
-    <message>
-        <source>Copies</source>
-        <translation>部数</translation>
-    </message>
-    <message>
-        <source>Pages</source>
-        <translation>ページ</translation>
-    </message>
-    <message>
-        <source>All</source>
-        <translation>すべて</translation>
     </message>
     <message>
         <source>Save Job</source>
@@ -349,18 +289,6 @@
         <translation>続ける</translation>
     </message>
     <message>
-        <source>Layout &amp; Job</source>
-        <translation>レイアウト &amp; ジョブ</translation>
-    </message>
-    <message>
-        <source>Job Title</source>
-        <translation>ジョブのタイトル</translation>
-    </message>
-    <message>
-        <source>Printer Features</source>
-        <translation>プリンターの機能</translation>
-    </message>
-    <message>
         <source>A value in Printer Features cannot be used. Correct it there to print.</source>
         <translation>「プリンターの機能」に使えない値があります。印刷するには直してください。</translation>
     </message>
@@ -419,6 +347,25 @@
     <message>
         <source>Settings</source>
         <translation>設定</translation>
+    </message>
+</context>
+<context>
+    <name>DialogTabs</name>
+    <message>
+        <source>Page Setup</source>
+        <translation>ページ設定</translation>
+    </message>
+    <message>
+        <source>Printer Features</source>
+        <translation>プリンターの機能</translation>
+    </message>
+    <message>
+        <source>Layout &amp; Job</source>
+        <translation>レイアウト &amp; ジョブ</translation>
+    </message>
+    <message>
+        <source>Summary</source>
+        <translation>設定一覧</translation>
     </message>
 </context>
 <context>
@@ -971,6 +918,73 @@
     <message>
         <source>The print server %1 did not say whether it took the job: it may have been printed as job %2.</source>
         <translation>プリントサーバー %1 から、ジョブを受け付けたかどうかの応答がありません。ジョブ %2 として印刷された可能性があります。</translation>
+    </message>
+</context>
+<context>
+    <name>JobSummary</name>
+    <message>
+        <source>Page Setup</source>
+        <translation>ページ設定</translation>
+    </message>
+    <message>
+        <source>Paper in the Printer</source>
+        <translation>プリンターの用紙</translation>
+    </message>
+    <message>
+        <source>Document Page</source>
+        <translation>文書のページ</translation>
+    </message>
+    <message>
+        <source>Scaling</source>
+        <translation>拡大縮小</translation>
+    </message>
+    <message>
+        <source>Orientation</source>
+        <translation>向き</translation>
+    </message>
+    <message>
+        <source>Landscape</source>
+        <translation>横</translation>
+    </message>
+    <message>
+        <source>Portrait</source>
+        <translation>縦</translation>
+    </message>
+    <message>
+        <source>Copies</source>
+        <translation>部数</translation>
+    </message>
+    <message>
+        <source>Pages</source>
+        <translation>ページ</translation>
+    </message>
+    <message>
+        <source>All</source>
+        <translation>すべて</translation>
+    </message>
+    <message>
+        <source>Color Management</source>
+        <translation>カラーマネージメント</translation>
+    </message>
+    <message>
+        <source>By the Printer</source>
+        <translation>プリンター</translation>
+    </message>
+    <message>
+        <source>By the Application</source>
+        <translation>アプリケーション</translation>
+    </message>
+    <message>
+        <source>Layout &amp; Job</source>
+        <translation>レイアウト &amp; ジョブ</translation>
+    </message>
+    <message>
+        <source>Job Title</source>
+        <translation>ジョブのタイトル</translation>
+    </message>
+    <message>
+        <source>Also Sent</source>
+        <translation>あわせて送られる設定</translation>
     </message>
 </context>
 <context>
