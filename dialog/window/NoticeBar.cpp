@@ -96,7 +96,7 @@ void NoticeBar::showOffers(const QList<NoticeOffer> &offers)
     for (QPushButton *button : std::exchange(m_buttons, {})) {
         button->hide();
         button->setObjectName(QString());
-        button->setText(QString());
+        setButtonTitle(button, QString());
         button->deleteLater();
     }
     for (const NoticeOffer &offer : offers) {
