@@ -19,14 +19,12 @@ namespace {
 /// The paper in the printer, by the name that a plug-in reads.
 QString sheetOf(const PrintJob &job)
 {
-    const QString mapped = job.mappedPaper();
-    return mapped.isEmpty() ? job.paper().value_or(PMPaper()).name : mapped;
+    return job.sheet().value_or(PMPaper()).name;
 }
 
 QString sheetText(const PrintJob &job)
 {
-    const std::optional<PMPaper> mapped = paperOfChoice(job.ppd(), job.mappedPaper());
-    return displayText(paperText(job.ppd(), mapped ? *mapped : job.paper().value_or(PMPaper())));
+    return displayText(paperText(job.ppd(), job.sheet().value_or(PMPaper())));
 }
 
 /// As PPDs name the choices: DuplexNoTumble, DuplexTumble; None and SimplexTumble are one-sided.
@@ -85,19 +83,20 @@ QStringList replacedBySaving(const PrintJob &job, const SettingState &before)
     return replaced;
 }
 
-QStringList adviceFor(const PrintJob &job)
+QList<JobAdvice> adviceFor(const PrintJob &job)
 {
-    QStringList sentences;
+    QList<JobAdvice> found;
     if (!job.session())
-        return sentences;
+        return found;
     const QList<PaperAdvice> all = job.session()->paperAdvice();
     for (const PaperAdvice &advice : all) {
         const bool isKnown = findChoice(findOption(job.ppd(), advice.keyword), advice.choice);
         if (isKnown && advice.isFor(sheetOf(job)) &&
             !isSameName(markedChoice(job.ppd(), advice.keyword), advice.choice))
-            sentences +=
-                QCoreApplication::translate("JobDoubts", "For %1 there is \"%2\".")
-                    .arg(sheetText(job), choiceText(job.ppd(), advice.keyword, advice.choice));
+            found +=
+                {{advice.keyword, advice.choice},
+                 QCoreApplication::translate("JobDoubts", "For %1 there is \"%2\".")
+                     .arg(sheetText(job), choiceText(job.ppd(), advice.keyword, advice.choice))};
     }
-    return sentences;
+    return found;
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "dialog/printing/PrintWishes.h"
 #include "dialog/printing/SettingState.h"
 
 #include <QtCore/QStringList>
@@ -19,5 +20,14 @@ QStringList doubtsOf(const PrintJob &job);
 /// `before` is the state before it.
 QStringList replacedBySaving(const PrintJob &job, const SettingState &before);
 
-/// What the plug-in advises for the job's paper, one sentence each.
-QStringList adviceFor(const PrintJob &job);
+/// A choice that goes better with the job's paper than the present one.
+struct JobAdvice
+{
+    RequestedChoice choice; ///< of the printer
+    QString sentence;
+
+    bool operator==(const JobAdvice &) const = default;
+};
+
+/// What the plug-in advises for the job's paper.
+QList<JobAdvice> adviceFor(const PrintJob &job);

@@ -161,6 +161,14 @@
 <context>
     <name>DialogWindow</name>
     <message>
+        <source>Retry</source>
+        <translation>Réessayer</translation>
+    </message>
+    <message>
+        <source>Use It</source>
+        <translation>Utiliser</translation>
+    </message>
+    <message>
         <source>Velkaro Print</source>
         <translation>Velkaro Print</translation>
     </message>
@@ -1062,13 +1070,6 @@
     <message>
         <source>Page %1 is beyond the document's last page, %2.</source>
         <translation>La page %1 dépasse la dernière page du document, %2.</translation>
-    </message>
-</context>
-<context>
-    <name>NoticeBar</name>
-    <message>
-        <source>&amp;Retry</source>
-        <translation>&amp;Réessayer</translation>
     </message>
 </context>
 <context>

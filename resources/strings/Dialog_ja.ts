@@ -161,6 +161,14 @@
 <context>
     <name>DialogWindow</name>
     <message>
+        <source>Retry</source>
+        <translation>再試行</translation>
+    </message>
+    <message>
+        <source>Use It</source>
+        <translation>これを使う</translation>
+    </message>
+    <message>
         <source>Velkaro Print</source>
         <translation>Velkaro Print</translation>
     </message>
@@ -1062,13 +1070,6 @@
     <message>
         <source>Page %1 is beyond the document's last page, %2.</source>
         <translation>%1 ページは、文書の最終ページ (%2) を超えています。</translation>
-    </message>
-</context>
-<context>
-    <name>NoticeBar</name>
-    <message>
-        <source>&amp;Retry</source>
-        <translation>再試行(&amp;R)</translation>
     </message>
 </context>
 <context>
