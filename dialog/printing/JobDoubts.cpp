@@ -36,8 +36,7 @@ bool isTwoSided(const PrintJob &job)
 /// Null when the paper may be printed on both sides, or is not to be.
 QString oneSidedPaper(const PrintJob &job)
 {
-    const auto papers = job.session()->twoSidedPapers();
-    if (!papers || !isTwoSided(job) || sheetOf(job).isNull() || papers->contains(sheetOf(job)))
+    if (!isOnOneSidedPaper(job))
         return {};
     return QCoreApplication::translate("JobDoubts",
                                        "The printer cannot print on both sides of this paper: %1.")
@@ -51,6 +50,12 @@ bool wasMadeOrShown(const PrintJob &job, const SettingState &before, const Setti
 }
 
 } // namespace
+
+bool isOnOneSidedPaper(const PrintJob &job)
+{
+    const auto papers = job.session()->twoSidedPapers();
+    return papers && isTwoSided(job) && !sheetOf(job).isNull() && !papers->contains(sheetOf(job));
+}
 
 QStringList doubtsOf(const PrintJob &job)
 {

@@ -7,6 +7,10 @@
 
 class PrintJob;
 
+/// Whether the job prints on both sides of a paper that the printer does not take for that, as the
+/// plug-in says.
+bool isOnOneSidedPaper(const PrintJob &job);
+
 /// What a person should know of a job before it leaves, one sentence each: what would be printed
 /// otherwise than it is shown, and a paper that the printer does not take for printing on both
 /// sides.

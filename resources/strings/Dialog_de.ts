@@ -2034,6 +2034,53 @@
     </message>
 </context>
 <context>
+    <name>RemedyWords</name>
+    <message>
+        <source>%1, %2</source>
+        <translation>%1, %2</translation>
+    </message>
+    <message>
+        <source>%1 and %2</source>
+        <translation>%1 und %2</translation>
+    </message>
+    <message>
+        <source>, </source>
+        <translation>, </translation>
+    </message>
+    <message>
+        <source>%1 and %2 more</source>
+        <translation>%1 und %2 weitere</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>%1 is there for %2.</source>
+        <translation>%1 ist bei %2 verfügbar.</translation>
+    </message>
+    <message>
+        <source>%1 is not there for %2. It is there for %3.</source>
+        <translation>%1 ist bei %2 nicht verfügbar. Verfügbar ist es bei %3.</translation>
+    </message>
+    <message>
+        <source>%1 is not there for %2. It is there with %3.</source>
+        <translation>%1 ist bei %2 nicht verfügbar. Verfügbar ist es mit %3.</translation>
+    </message>
+    <message>
+        <source>%1 can be chosen.</source>
+        <translation>%1 kann gewählt werden.</translation>
+    </message>
+    <message>
+        <source>No setting of this printer gives %1.</source>
+        <translation>Keine Einstellung dieses Druckers ermöglicht %1.</translation>
+    </message>
+    <message>
+        <source>There are too many conditions to explain why %1 is not there.</source>
+        <translation>Es sind zu viele Bedingungen, um zu erklären, warum %1 nicht verfügbar ist.</translation>
+    </message>
+</context>
+<context>
     <name>RequestedSettings</name>
     <message>
         <source>%1=%2 and %1=%3 cannot both be had: ask for one of them.</source>

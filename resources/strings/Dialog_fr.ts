@@ -2034,6 +2034,53 @@
     </message>
 </context>
 <context>
+    <name>RemedyWords</name>
+    <message>
+        <source>%1, %2</source>
+        <translation>%1, %2</translation>
+    </message>
+    <message>
+        <source>%1 and %2</source>
+        <translation>%1 et %2</translation>
+    </message>
+    <message>
+        <source>, </source>
+        <translation>, </translation>
+    </message>
+    <message>
+        <source>%1 and %2 more</source>
+        <translation>%1 et %2 autres</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1 : %2</translation>
+    </message>
+    <message>
+        <source>%1 is there for %2.</source>
+        <translation>%1 est possible avec %2.</translation>
+    </message>
+    <message>
+        <source>%1 is not there for %2. It is there for %3.</source>
+        <translation>%1 n'est pas possible avec %2, mais avec %3.</translation>
+    </message>
+    <message>
+        <source>%1 is not there for %2. It is there with %3.</source>
+        <translation>%1 n'est pas possible avec %2. Il faut pour cela %3.</translation>
+    </message>
+    <message>
+        <source>%1 can be chosen.</source>
+        <translation>%1 peut être choisi.</translation>
+    </message>
+    <message>
+        <source>No setting of this printer gives %1.</source>
+        <translation>Aucun réglage de cette imprimante ne permet %1.</translation>
+    </message>
+    <message>
+        <source>There are too many conditions to explain why %1 is not there.</source>
+        <translation>Il y a trop de conditions pour expliquer pourquoi %1 n'est pas possible.</translation>
+    </message>
+</context>
+<context>
     <name>RequestedSettings</name>
     <message>
         <source>%1=%2 and %1=%3 cannot both be had: ask for one of them.</source>

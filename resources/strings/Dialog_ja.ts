@@ -2034,6 +2034,53 @@
     </message>
 </context>
 <context>
+    <name>RemedyWords</name>
+    <message>
+        <source>%1, %2</source>
+        <translation>%1、%2</translation>
+    </message>
+    <message>
+        <source>%1 and %2</source>
+        <translation>%1 と %2</translation>
+    </message>
+    <message>
+        <source>, </source>
+        <translation>、</translation>
+    </message>
+    <message>
+        <source>%1 and %2 more</source>
+        <translation>%1 ほか %2 件</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1：%2</translation>
+    </message>
+    <message>
+        <source>%1 is there for %2.</source>
+        <translation>%2 なら %1 を選べます。</translation>
+    </message>
+    <message>
+        <source>%1 is not there for %2. It is there for %3.</source>
+        <translation>%2 では %1 は選べません。%3 なら選べます。</translation>
+    </message>
+    <message>
+        <source>%1 is not there for %2. It is there with %3.</source>
+        <translation>%2 では %1 は選べません。%3 にすると選べます。</translation>
+    </message>
+    <message>
+        <source>%1 can be chosen.</source>
+        <translation>%1 は選べます。</translation>
+    </message>
+    <message>
+        <source>No setting of this printer gives %1.</source>
+        <translation>このプリンターには %1 を選べる設定がありません。</translation>
+    </message>
+    <message>
+        <source>There are too many conditions to explain why %1 is not there.</source>
+        <translation>条件が多すぎるため、%1 を選べない理由を説明できません。</translation>
+    </message>
+</context>
+<context>
     <name>RequestedSettings</name>
     <message>
         <source>%1=%2 and %1=%3 cannot both be had: ask for one of them.</source>
