@@ -5,6 +5,7 @@
 #include <QtCore/QSet>
 
 #include <algorithm>
+#include <functional>
 #include <utility>
 
 namespace {
@@ -44,7 +45,7 @@ private:
             if (m_isWhole)
                 tryOn(ground, next);
         // What has come nearer to the choice is the likelier beginning of a remedy.
-        std::ranges::stable_partition(next, &Ground::isNearer);
+        std::ranges::stable_sort(next, std::greater(), &Ground::isNearer);
         return next;
     }
 
