@@ -58,7 +58,8 @@ void addInspection(QDataStream &out, const PDEPanelInspection &panel, const QStr
     }
 }
 
-/// The mapped paper is told with the paper; what is folded in a view is nothing that a printer does.
+/// The mapped paper is told with the paper; what is folded in a view is nothing that a printer
+/// does.
 QVariantMap ticketWithoutSurroundings(const HostSession &session)
 {
     QVariantMap ticket = session.ticket().values();
