@@ -2,19 +2,9 @@
 
 #include "dialog/files/OutputFile.h"
 #include "dialog/replay/JsonText.h"
+#include "dialog/replay/SessionFollower.h"
 
 #include <deque>
-#include <memory>
-#include <vector>
-
-/// The answer that an alert was given, filled in when it is given.
-struct RecordedAnswer
-{
-    int button = 0;
-    bool suppression = false; ///< whether the alert has the box at all
-    bool suppressed = false;
-    bool given = false;
-};
 
 /// A script that is being written. An event's line is written once the alerts that it raised have
 /// been answered: a sheet's answer comes after the event.
@@ -24,11 +14,8 @@ public:
     /// A fault when the file may not or cannot be written.
     Result<> open(const QString &path, const OutputTerms &terms);
 
-    /// The alert has been raised by the event that is noted next.
-    void addAnswer(const std::shared_ptr<RecordedAnswer> &answer);
-
-    /// Notes an event, without its answers.
-    void note(const OrderedMembers &event);
+    /// Notes an event. Its answers may still be to come.
+    void note(const OrderedMembers &event, const FollowedAnswers &answers);
 
     /// Writes every event whose alerts have been answered.
     void writeAnswered();
@@ -45,18 +32,15 @@ public:
     bool isStream() const { return m_file.verdict() == OutputVerdict::Append; }
 
 private:
-    using Answers = std::vector<std::shared_ptr<RecordedAnswer>>;
-
     struct Event
     {
         OrderedMembers members;
-        Answers answers;
+        FollowedAnswers answers;
     };
 
     void write(const Event &event);
 
     QString m_path;
     OutputFile m_file;
-    Answers m_answers;
     std::deque<Event> m_events;
 };
