@@ -68,6 +68,15 @@ int memoryFile(const QByteArray &text)
     return -1;
 }
 
+OpenedPPD withDefaults(PPDHandle ppd, const QByteArray &text, PPDTexts texts)
+{
+    if (texts == PPDTexts::InUserLanguage)
+        localize(*ppd);
+    ppdMarkDefaults(ppd.get());
+    const QList<PPDMark> defaults = marksOf(ppd.get());
+    return {std::move(ppd), defaults, text};
+}
+
 } // namespace
 
 Result<OpenedPPD> openPPD(const QString &path, PPDTexts texts)
@@ -80,9 +89,13 @@ Result<OpenedPPD> openPPD(const QString &path, PPDTexts texts)
         return parserError(path);
     if (saysNothing(*ppd) || isCutOff(*text))
         return incompletePPD(path);
-    if (texts == PPDTexts::InUserLanguage)
-        localize(*ppd);
-    ppdMarkDefaults(ppd.get());
-    const QList<PPDMark> defaults = marksOf(ppd.get());
-    return OpenedPPD{std::move(ppd), defaults};
+    return withDefaults(std::move(ppd), *text, texts);
+}
+
+Result<OpenedPPD> reopenPPD(const QByteArray &text, PPDTexts texts)
+{
+    PPDHandle ppd(ppdOpenFd(memoryFile(text)));
+    if (!ppd) // there was memory for it before
+        return parserError(QString());
+    return withDefaults(std::move(ppd), text, texts);
 }

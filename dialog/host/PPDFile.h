@@ -4,6 +4,7 @@
 #include "dialog/work/Result.h"
 #include "platform/ppd/CupsPPD.h"
 
+#include <QtCore/QByteArray>
 #include <QtCore/QString>
 
 #include <memory>
@@ -23,6 +24,7 @@ struct OpenedPPD
     /// What is marked by default, before anybody has picked anything. It need not be what an option
     /// says of itself: a keyword may stand in two groups, and libcups reads over the case of names.
     QList<PPDMark> defaults;
+    QByteArray text; ///< which libcups was given, to open it once more
 };
 
 /// In which language the PPD's texts are.
@@ -34,3 +36,6 @@ enum class PPDTexts {
 /// Reads and checks the PPD file (readPPD), has libcups open what was read, and marks the defaults.
 /// On any thread: the PPD may be handed on to another one.
 Result<OpenedPPD> openPPD(const QString &path, PPDTexts texts = PPDTexts::AsWritten);
+
+/// Opens a PPD's text once more that was opened before. On any thread.
+Result<OpenedPPD> reopenPPD(const QByteArray &text, PPDTexts texts);

@@ -32,6 +32,9 @@ public:
     /// sheet has been answered.
     QJsonArray takeReports();
 
+    /// The same, where nobody wants to know.
+    void forgetReports() { m_raised.clear(); }
+
     void alertShown(const ShownAlert &alert) override;
     bool keepsAlertsUnseen() const override { return m_alerts == Alerts::Unseen; }
 

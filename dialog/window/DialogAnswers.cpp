@@ -3,6 +3,7 @@
 #include "dialog/printing/ChangeWords.h"
 #include "dialog/printing/JobDoubts.h"
 #include "dialog/window/DialogWindow.h"
+#include "dialog/window/SessionUndo.h"
 #include "dialog/work/Sentences.h"
 
 #include <QtCore/QThread>
@@ -80,16 +81,23 @@ void DialogWindow::tellEvent()
     }
     m_eventIsNoted = false;
     const QString refusal = std::exchange(m_refusalToTell, QString());
+    const bool isNobodys = m_pick == PPDMark{u""_s, QString()} && !m_pick.keyword.isNull();
     const QString changes = changeSentence(job().ppd(), takeChanges());
     if (m_state != State::Ready)
         return;
+    if (isNobodys)
+        m_undo->noteOwn();
+    else
+        m_undo->noteUser();
     tellStanding();
     const Notice doubts = doubtsToTell();
     if (refusal.isNull() && changes.isNull())
         return;
     QStringList news{refusal, changes, doubts.sentence};
     news.removeAll(QString());
-    tell(refusal.isNull() ? doubts.kind : NoticeBar::Kind::Warning, joinedSentences(news));
+    const bool canUndo = !isNobodys && !changes.isNull() && m_undo->canUndo();
+    tell(refusal.isNull() ? doubts.kind : NoticeBar::Kind::Warning, joinedSentences(news),
+         canUndo ? NoticeBar::Offer::Undo : NoticeBar::Offer::Nothing);
 }
 
 /// What is not as it is shown, or goes with nothing else, and what the plug-in advises.

@@ -48,21 +48,32 @@ NoticeBar::NoticeBar(QWidget *parent)
     : QFrame(parent),
       m_sign(new NoticeSign(this)),
       m_label(new NoticeLabel(this)),
-      m_retry(new QPushButton(tr("&Retry"), this))
+      m_retry(newOffer(QStringLiteral("retryButton"), tr("&Retry"))),
+      m_undo(newOffer(QStringLiteral("undoButton"), tr("&Undo"))),
+      m_redo(newOffer(QStringLiteral("redoButton"), tr("Re&do")))
 {
     setObjectName(QStringLiteral("noticeBar"));
     giveAccessibleRole("NoticeBar", QAccessible::AlertMessage);
     m_label->setObjectName(QStringLiteral("noticeLabel"));
-    m_retry->setObjectName(QStringLiteral("retryButton"));
-    m_retry->setAutoDefault(false);
     auto *layout = new QHBoxLayout(this);
     layout->setContentsMargins(10, 6, 10, 6);
     layout->setSpacing(10);
     layout->addWidget(m_sign);
     layout->addWidget(m_label, 1);
-    layout->addWidget(m_retry);
+    for (QPushButton *button : {m_retry, m_undo, m_redo})
+        layout->addWidget(button);
     connect(m_retry, &QPushButton::clicked, this, &NoticeBar::retryWanted);
+    connect(m_undo, &QPushButton::clicked, this, &NoticeBar::undoWanted);
+    connect(m_redo, &QPushButton::clicked, this, &NoticeBar::redoWanted);
     clear();
+}
+
+QPushButton *NoticeBar::newOffer(const QString &name, const QString &title)
+{
+    auto *button = new QPushButton(title, this);
+    button->setObjectName(name);
+    button->setAutoDefault(false);
+    return button;
 }
 
 void NoticeBar::tell(Kind kind, const QString &sentence, Offer offer)
@@ -89,6 +100,8 @@ void NoticeBar::showSentence(const QString &sentence, Offer offer)
     setAutoFillBackground(!sentence.isEmpty());
     m_sign->setVisible(!sentence.isEmpty());
     m_retry->setVisible(offer == Offer::Retry);
+    m_undo->setVisible(offer == Offer::Undo);
+    m_redo->setVisible(offer == Offer::Redo);
     update();
 }
 

@@ -16,7 +16,7 @@ class NoticeBar : public QFrame
 
 public:
     enum class Kind { Information, Warning, Error };
-    enum class Offer { Nothing, Retry };
+    enum class Offer { Nothing, Retry, Undo, Redo };
 
     explicit NoticeBar(QWidget *parent = nullptr);
 
@@ -30,17 +30,22 @@ public:
 Q_SIGNALS:
     /// The user takes up the offer.
     void retryWanted();
+    void undoWanted();
+    void redoWanted();
 
 protected:
     void changeEvent(QEvent *event) override;
 
 private:
+    QPushButton *newOffer(const QString &name, const QString &title);
     void showSentence(const QString &sentence, Offer offer);
     void applyColors();
 
     NoticeSign *m_sign;
     NoticeLabel *m_label;
     QPushButton *m_retry;
+    QPushButton *m_undo;
+    QPushButton *m_redo;
     Kind m_kind = Kind::Information;
     QString m_sentence;
 };

@@ -340,6 +340,14 @@
         <source>Settings</source>
         <translation>Einstellungen</translation>
     </message>
+    <message>
+        <source>Undone.</source>
+        <translation>Rückgängig gemacht.</translation>
+    </message>
+    <message>
+        <source>Done again.</source>
+        <translation>Wiederhergestellt.</translation>
+    </message>
 </context>
 <context>
     <name>DialogTabs</name>
@@ -1069,6 +1077,14 @@
     <message>
         <source>&amp;Retry</source>
         <translation>Erneut &amp;versuchen</translation>
+    </message>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>&amp;Rückgängig</translation>
+    </message>
+    <message>
+        <source>Re&amp;do</source>
+        <translation>Wieder&amp;herstellen</translation>
     </message>
 </context>
 <context>

@@ -340,6 +340,14 @@
         <source>Settings</source>
         <translation>Réglages</translation>
     </message>
+    <message>
+        <source>Undone.</source>
+        <translation>Action annulée.</translation>
+    </message>
+    <message>
+        <source>Done again.</source>
+        <translation>Action rétablie.</translation>
+    </message>
 </context>
 <context>
     <name>DialogTabs</name>
@@ -1069,6 +1077,14 @@
     <message>
         <source>&amp;Retry</source>
         <translation>&amp;Réessayer</translation>
+    </message>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>&amp;Annuler l’action</translation>
+    </message>
+    <message>
+        <source>Re&amp;do</source>
+        <translation>Ré&amp;tablir</translation>
     </message>
 </context>
 <context>

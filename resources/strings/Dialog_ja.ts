@@ -340,6 +340,14 @@
         <source>Settings</source>
         <translation>設定</translation>
     </message>
+    <message>
+        <source>Undone.</source>
+        <translation>元に戻しました。</translation>
+    </message>
+    <message>
+        <source>Done again.</source>
+        <translation>やり直しました。</translation>
+    </message>
 </context>
 <context>
     <name>DialogTabs</name>
@@ -1069,6 +1077,14 @@
     <message>
         <source>&amp;Retry</source>
         <translation>再試行(&amp;R)</translation>
+    </message>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>元に戻す(&amp;U)</translation>
+    </message>
+    <message>
+        <source>Re&amp;do</source>
+        <translation>やり直す(&amp;D)</translation>
     </message>
 </context>
 <context>
