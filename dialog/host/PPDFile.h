@@ -1,10 +1,10 @@
 #pragma once
 
+#include "dialog/files/FileDescriptor.h"
 #include "dialog/host/PPDMarks.h"
 #include "dialog/work/Result.h"
 #include "platform/ppd/CupsPPD.h"
 
-#include <QtCore/QByteArray>
 #include <QtCore/QString>
 
 #include <memory>
@@ -24,7 +24,9 @@ struct OpenedPPD
     /// What is marked by default, before anybody has picked anything. It need not be what an option
     /// says of itself: a keyword may stand in two groups, and libcups reads over the case of names.
     QList<PPDMark> defaults;
-    QByteArray text; ///< which libcups was given, to open it once more
+    /// The text that was checked and opened, in a file of memory: whoever opens it once more gets
+    /// the same, whatever stands at the path by then.
+    std::shared_ptr<const FileDescriptor> text;
 };
 
 /// In which language the PPD's texts are.
@@ -37,5 +39,8 @@ enum class PPDTexts {
 /// On any thread: the PPD may be handed on to another one.
 Result<OpenedPPD> openPPD(const QString &path, PPDTexts texts = PPDTexts::AsWritten);
 
-/// Opens a PPD's text once more that was opened before. On any thread.
-Result<OpenedPPD> reopenPPD(const QByteArray &text, PPDTexts texts);
+/// Whether the texts of two PPDs (OpenedPPD::text) are the same.
+bool isSameText(const FileDescriptor &one, const FileDescriptor &other);
+
+/// Opens a PPD's text (OpenedPPD::text) once more. On any thread, on one at a time for a text.
+Result<OpenedPPD> reopenPPD(const std::shared_ptr<const FileDescriptor> &text, PPDTexts texts);

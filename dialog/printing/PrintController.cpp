@@ -146,7 +146,7 @@ Result<FoundPrinter> PrintController::takePrinter(const PrinterSource &source,
     SessionOptions options;
     options.ppdPath = fetched.ppdPath;
     options.bundlePath = m_wishes.plugIn;
-    const QByteArray text = *fetched.opened ? (*fetched.opened)->text : QByteArray();
+    const auto text = *fetched.opened ? (*fetched.opened)->text : nullptr;
     OpenedPrinter opened =
         open(options, *std::move(fetched.opened), starting, printer.shortcomings);
     if (opened.session) {

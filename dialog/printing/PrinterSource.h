@@ -58,7 +58,7 @@ struct PrinterOrigin
     PrinterSource source;
     SessionOptions options; ///< with the alerts that the user had suppressed then
     QueuePPD kept;          ///< keeps the file of a queue there
-    QByteArray ppd;         ///< OpenedPPD::text
+    std::shared_ptr<const FileDescriptor> ppd; ///< OpenedPPD::text
     QList<JobOption> starting;
 };
 

@@ -87,9 +87,14 @@ Result<> Recorder::attach(HostSession &session)
         m_state = ppd.fault();
         return m_state;
     }
-    follow(session);
-    m_script.note(openEvent(session, *ppd), {});
+    attach(session, *ppd);
     return m_state;
+}
+
+void Recorder::attach(HostSession &session, const QString &ppd)
+{
+    follow(session);
+    m_script.note(openEvent(session, ppd), {});
 }
 
 /// Copies the PPD beside the script, and gives the copy's name as the script has it. A file that is

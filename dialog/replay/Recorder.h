@@ -5,7 +5,9 @@
 
 #include <QtCore/QString>
 
+#include <functional>
 #include <memory>
+#include <utility>
 #include <vector>
 
 /// Notes real sessions as a replay script. Running the script leads to the same state.
@@ -18,6 +20,12 @@ class Recorder : public SessionFollower
 public:
     /// A fault when the script may not or cannot be written.
     Result<> open(const QString &path, const OutputTerms &terms);
+
+    /// Tells every line to somebody (RecordedScript::open()) instead. Then no finish() is needed.
+    void open(std::function<void(const QByteArray &line)> tell) { m_script.open(std::move(tell)); }
+
+    /// Notes the session from its beginning, under that path of its PPD, which is not copied.
+    void attach(HostSession &session, const QString &ppd);
 
     /// Notes the session from its beginning. A fault when its PPD cannot be copied: then nothing
     /// more is noted. The session must close before finish().

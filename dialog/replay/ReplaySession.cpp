@@ -34,8 +34,11 @@ QImage shownPicture(const HostSession &session)
 
 } // namespace
 
-ReplaySession::ReplaySession(const QString &bundlePath, const OutputTerms &terms)
-    : m_bundlePath(bundlePath.isNull() ? ownBundlePath() : bundlePath), m_pictures(terms)
+ReplaySession::ReplaySession(const QString &bundlePath, const OutputTerms &terms, Likeness likeness)
+    : m_likeness(likeness),
+      m_bundlePath(bundlePath.isNull() && likeness == Likeness::Everywhere ? ownBundlePath()
+                                                                           : bundlePath),
+      m_pictures(terms)
 {
     UserDefaults::standardUserDefaults().setFolder(QString());
 }
@@ -82,8 +85,10 @@ ReplayWork ReplaySession::perform(const ReplayOpen &event)
 {
     SessionOptions options = event.options;
     options.bundlePath = m_bundlePath;
-    options.ppdTexts = PPDTexts::AsWritten; // a script gives the same on every machine
-    options.replayLanguagesOnly = true;     // and in every version
+    if (m_likeness == Likeness::Everywhere) {
+        options.ppdTexts = PPDTexts::AsWritten; // a script gives the same on every machine
+        options.replayLanguagesOnly = true;     // and in every version
+    }
     m_pictures.addInput(options.ppdPath);
     Result<std::unique_ptr<HostSession>> opened = HostSession::open(options);
     if (!opened)
@@ -129,6 +134,16 @@ ReplayWork ReplaySession::perform(const ReplayPicture &event)
         return {QJsonValue(), u"no picture is shown"_s, QString()};
     return {QJsonValue(), m_pictures.write(picture, event.folder, event.file).sentence(),
             QString()};
+}
+
+ReplayWork ReplaySession::perform(const ReplayWhy &event)
+{
+    if (!m_explainer)
+        return {QJsonValue(), u"nothing is explained here"_s, QString()};
+    const Result<QJsonObject> answer = m_explainer(*m_session, event.keyword, event.choice);
+    if (!answer)
+        return {QJsonValue(), answer.sentence(), QString()};
+    return {*answer, QString(), QString()};
 }
 
 ReplayWork ReplaySession::perform(const ReplayState &)

@@ -15,6 +15,8 @@
 #include <QtWidgets/QAbstractSpinBox>
 #include <QtWidgets/QLineEdit>
 
+using namespace Qt::StringLiterals;
+
 /// Fields for text take the same keys for what was typed into them.
 void DialogWindow::connectUndo()
 {
@@ -22,8 +24,6 @@ void DialogWindow::connectUndo()
             &DialogWindow::undo);
     connect(new QShortcut(QKeySequence::Redo, this), &QShortcut::activated, this,
             &DialogWindow::redo);
-    connect(m_notice, &NoticeBar::undoWanted, this, &DialogWindow::undo);
-    connect(m_notice, &NoticeBar::redoWanted, this, &DialogWindow::redo);
     connect(m_undo.get(), &SessionUndo::acted, this, &DialogWindow::noteEvent);
     connect(m_header, &JobHeader::changed, this, &DialogWindow::noteSettled);
     connect(m_tabs->pageSetup(), &PageSetupPane::changed, this, &DialogWindow::noteSettled);
@@ -40,22 +40,28 @@ void DialogWindow::noteSettled()
     m_undo->noteUser();
 }
 
+NoticeOffer DialogWindow::undoOffer()
+{
+    return {u"undoButton"_s, tr("Undo"), [this] { undo(); }};
+}
+
 void DialogWindow::undo()
 {
     tellEvent(); // what was before
     if (m_state == State::Ready && !m_savedJob && m_undo->canUndo())
-        goBackOrOn(&SessionUndo::undo, tr("Undone."), NoticeBar::Offer::Redo);
+        goBackOrOn(&SessionUndo::undo, tr("Undone."),
+                   {u"redoButton"_s, tr("Redo"), [this] { redo(); }});
 }
 
 void DialogWindow::redo()
 {
     tellEvent();
     if (m_state == State::Ready && !m_savedJob && m_undo->canRedo())
-        goBackOrOn(&SessionUndo::redo, tr("Done again."), NoticeBar::Offer::Undo);
+        goBackOrOn(&SessionUndo::redo, tr("Done again."), undoOffer());
 }
 
 void DialogWindow::goBackOrOn(Result<> (SessionUndo::*way)(), const QString &words,
-                              NoticeBar::Offer offer)
+                              const NoticeOffer &offer)
 {
     const QList<PPDMark> before = m_toldState.marks;
     const Result<> gone = exchangeSession(way);
@@ -72,7 +78,7 @@ void DialogWindow::goBackOrOn(Result<> (SessionUndo::*way)(), const QString &wor
                      changeSentence(job().ppd(), changesBetween(before, m_toldState.marks, forms)),
                      doubts.sentence};
     told.removeAll(QString());
-    tell(doubts.kind, joinedSentences(told), offer);
+    tell(doubts.kind, joinedSentences(told), doubts.offers + QList{offer});
 }
 
 /// Goes the way to another state out of sight, and shows that.

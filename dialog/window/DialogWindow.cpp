@@ -87,7 +87,6 @@ void DialogWindow::buildLayout()
     connect(m_tabs, &QTabWidget::currentChanged, this, &DialogWindow::changePart);
     connect(m_tabs, &DialogTabs::viewResized, this,
             [this] { QTimer::singleShot(0, this, &DialogWindow::followView); });
-    connect(m_notice, &NoticeBar::retryWanted, this, &DialogWindow::retry);
     connect(&m_watch, &PrinterWatch::listed, this, &DialogWindow::takeList);
     connect(m_header, &JobHeader::documentsWanted, this, &DialogWindow::chooseDocuments);
     connect(m_header, &JobHeader::changed, this, &DialogWindow::tellStanding);
@@ -210,9 +209,10 @@ void DialogWindow::updateButtons()
     m_save->setVisible(m_wishes.output.isNull() && !m_savedJob);
 }
 
-void DialogWindow::tell(NoticeBar::Kind kind, const QString &sentence, NoticeBar::Offer offer)
+void DialogWindow::tell(NoticeBar::Kind kind, const QString &sentence,
+                        const QList<NoticeOffer> &offers)
 {
-    m_notice->tell(kind, sentence, offer);
+    m_notice->tell(kind, sentence, offers);
 }
 
 /// Shows what is still true, in place of what was news.
@@ -235,7 +235,7 @@ void DialogWindow::tellStanding()
     else if (const Notice standing = standingNotice(); standing.sentence.isEmpty())
         m_notice->clear();
     else
-        tell(standing.kind, standing.sentence, standing.offer);
+        tell(standing.kind, standing.sentence, standing.offers);
     updateButtons();
 }
 

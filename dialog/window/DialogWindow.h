@@ -93,7 +93,7 @@ private:
     {
         NoticeBar::Kind kind = NoticeBar::Kind::Information;
         QString sentence; ///< null: nothing to tell
-        NoticeBar::Offer offer = NoticeBar::Offer::Nothing;
+        QList<NoticeOffer> offers = {};
     };
 
     // DialogWindow.cpp
@@ -103,8 +103,7 @@ private:
     QString printTitle() const;
     void setState(State state);
     void updateButtons();
-    void tell(NoticeBar::Kind kind, const QString &sentence,
-              NoticeBar::Offer offer = NoticeBar::Offer::Nothing);
+    void tell(NoticeBar::Kind kind, const QString &sentence, const QList<NoticeOffer> &offers = {});
     void tellStanding();
     bool mayPrint() const;
     void showHelp();
@@ -119,8 +118,9 @@ private:
     void noteEvent();
     void noteOwnEvent();
     void tellEvent();
-    Notice doubtsToTell() const;
-    Notice standingNotice() const;
+    Notice doubtsToTell();
+    Notice standingNotice();
+    void choose(const RequestedChoice &choice);
     QList<SettingChange> takeChanges();
 
     // DialogDocuments.cpp
@@ -142,14 +142,14 @@ private:
     void findPrinter(const PrinterSource &source);
     void beginSearch(const PrinterSource &source);
     void retry();
-    static NoticeBar::Offer offerAfter(FaultKind fault);
+    QList<NoticeOffer> offersAfter(FaultKind fault);
     static QString waitFor(const PrinterSource &source);
     void takePrinter(const Result<FoundPrinter> &found);
     void showPrinter();
     void makeRequestedSettings();
     void endWithoutPanel();
-    Notice standing() const;
-    Notice whatIsMissing() const;
+    Notice standing();
+    Notice whatIsMissing();
     void watchPrinters();
     void takeList(const Result<QList<Destination>> &list);
 
@@ -181,7 +181,8 @@ private:
     void noteSettled();
     void undo();
     void redo();
-    void goBackOrOn(Result<> (SessionUndo::*way)(), const QString &words, NoticeBar::Offer offer);
+    void goBackOrOn(Result<> (SessionUndo::*way)(), const QString &words, const NoticeOffer &offer);
+    NoticeOffer undoOffer();
     Result<> exchangeSession(Result<> (SessionUndo::*way)());
     void showSettled();
     void forgetEvent();

@@ -92,9 +92,10 @@ bool SessionUndo::areAlike(const Moment &left, const Moment &right)
 
 bool SessionUndo::isSamePrinter(const Moment &left, const Moment &right)
 {
-    return left.printer && right.printer && left.printer->ppd == right.printer->ppd &&
+    return left.printer && right.printer &&
            left.printer->source.server == right.printer->source.server &&
-           left.printer->source.queue.queue == right.printer->source.queue.queue;
+           left.printer->source.queue.queue == right.printer->source.queue.queue &&
+           isSameText(*left.printer->ppd, *right.printer->ppd);
 }
 
 void SessionUndo::begin()

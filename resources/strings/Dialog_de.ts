@@ -161,6 +161,14 @@
 <context>
     <name>DialogWindow</name>
     <message>
+        <source>Retry</source>
+        <translation>Erneut versuchen</translation>
+    </message>
+    <message>
+        <source>Use It</source>
+        <translation>Verwenden</translation>
+    </message>
+    <message>
         <source>Velkaro Print</source>
         <translation>Velkaro Print</translation>
     </message>
@@ -347,6 +355,14 @@
     <message>
         <source>Done again.</source>
         <translation>Wiederhergestellt.</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>Rückgängig</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation>Wiederherstellen</translation>
     </message>
 </context>
 <context>
@@ -1070,21 +1086,6 @@
     <message>
         <source>Page %1 is beyond the document's last page, %2.</source>
         <translation>Seite %1 liegt hinter der letzten Seite des Dokuments, %2.</translation>
-    </message>
-</context>
-<context>
-    <name>NoticeBar</name>
-    <message>
-        <source>&amp;Retry</source>
-        <translation>Erneut &amp;versuchen</translation>
-    </message>
-    <message>
-        <source>&amp;Undo</source>
-        <translation>&amp;Rückgängig</translation>
-    </message>
-    <message>
-        <source>Re&amp;do</source>
-        <translation>Wieder&amp;herstellen</translation>
     </message>
 </context>
 <context>
@@ -2046,6 +2047,53 @@
     <message>
         <source>no name is free</source>
         <translation>kein Name ist frei</translation>
+    </message>
+</context>
+<context>
+    <name>RemedyWords</name>
+    <message>
+        <source>%1, %2</source>
+        <translation>%1, %2</translation>
+    </message>
+    <message>
+        <source>%1 and %2</source>
+        <translation>%1 und %2</translation>
+    </message>
+    <message>
+        <source>, </source>
+        <translation>, </translation>
+    </message>
+    <message>
+        <source>%1 and %2 more</source>
+        <translation>%1 und %2 weitere</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>%1 is there for %2.</source>
+        <translation>%1 ist bei %2 verfügbar.</translation>
+    </message>
+    <message>
+        <source>%1 is not there for %2. It is there for %3.</source>
+        <translation>%1 ist bei %2 nicht verfügbar. Verfügbar ist es bei %3.</translation>
+    </message>
+    <message>
+        <source>%1 is not there for %2. It is there with %3.</source>
+        <translation>%1 ist bei %2 nicht verfügbar. Verfügbar ist es mit %3.</translation>
+    </message>
+    <message>
+        <source>%1 can be chosen.</source>
+        <translation>%1 kann gewählt werden.</translation>
+    </message>
+    <message>
+        <source>No setting of this printer gives %1.</source>
+        <translation>Keine Einstellung dieses Druckers ermöglicht %1.</translation>
+    </message>
+    <message>
+        <source>There are too many conditions to explain why %1 is not there.</source>
+        <translation>Es sind zu viele Bedingungen, um zu erklären, warum %1 nicht verfügbar ist.</translation>
     </message>
 </context>
 <context>

@@ -161,6 +161,14 @@
 <context>
     <name>DialogWindow</name>
     <message>
+        <source>Retry</source>
+        <translation>Réessayer</translation>
+    </message>
+    <message>
+        <source>Use It</source>
+        <translation>Utiliser</translation>
+    </message>
+    <message>
         <source>Velkaro Print</source>
         <translation>Velkaro Print</translation>
     </message>
@@ -347,6 +355,14 @@
     <message>
         <source>Done again.</source>
         <translation>Action rétablie.</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>Annuler l’action</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation>Rétablir</translation>
     </message>
 </context>
 <context>
@@ -1070,21 +1086,6 @@
     <message>
         <source>Page %1 is beyond the document's last page, %2.</source>
         <translation>La page %1 dépasse la dernière page du document, %2.</translation>
-    </message>
-</context>
-<context>
-    <name>NoticeBar</name>
-    <message>
-        <source>&amp;Retry</source>
-        <translation>&amp;Réessayer</translation>
-    </message>
-    <message>
-        <source>&amp;Undo</source>
-        <translation>&amp;Annuler l’action</translation>
-    </message>
-    <message>
-        <source>Re&amp;do</source>
-        <translation>Ré&amp;tablir</translation>
     </message>
 </context>
 <context>
@@ -2046,6 +2047,53 @@
     <message>
         <source>no name is free</source>
         <translation>aucun nom n’est libre</translation>
+    </message>
+</context>
+<context>
+    <name>RemedyWords</name>
+    <message>
+        <source>%1, %2</source>
+        <translation>%1, %2</translation>
+    </message>
+    <message>
+        <source>%1 and %2</source>
+        <translation>%1 et %2</translation>
+    </message>
+    <message>
+        <source>, </source>
+        <translation>, </translation>
+    </message>
+    <message>
+        <source>%1 and %2 more</source>
+        <translation>%1 et %2 autres</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1 : %2</translation>
+    </message>
+    <message>
+        <source>%1 is there for %2.</source>
+        <translation>%1 est possible avec %2.</translation>
+    </message>
+    <message>
+        <source>%1 is not there for %2. It is there for %3.</source>
+        <translation>%1 n'est pas possible avec %2, mais avec %3.</translation>
+    </message>
+    <message>
+        <source>%1 is not there for %2. It is there with %3.</source>
+        <translation>%1 n'est pas possible avec %2. Il faut pour cela %3.</translation>
+    </message>
+    <message>
+        <source>%1 can be chosen.</source>
+        <translation>%1 peut être choisi.</translation>
+    </message>
+    <message>
+        <source>No setting of this printer gives %1.</source>
+        <translation>Aucun réglage de cette imprimante ne permet %1.</translation>
+    </message>
+    <message>
+        <source>There are too many conditions to explain why %1 is not there.</source>
+        <translation>Il y a trop de conditions pour expliquer pourquoi %1 n'est pas possible.</translation>
     </message>
 </context>
 <context>

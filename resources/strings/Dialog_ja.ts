@@ -161,6 +161,14 @@
 <context>
     <name>DialogWindow</name>
     <message>
+        <source>Retry</source>
+        <translation>再試行</translation>
+    </message>
+    <message>
+        <source>Use It</source>
+        <translation>これを使う</translation>
+    </message>
+    <message>
         <source>Velkaro Print</source>
         <translation>Velkaro Print</translation>
     </message>
@@ -347,6 +355,14 @@
     <message>
         <source>Done again.</source>
         <translation>やり直しました。</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>元に戻す</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation>やり直す</translation>
     </message>
 </context>
 <context>
@@ -1070,21 +1086,6 @@
     <message>
         <source>Page %1 is beyond the document's last page, %2.</source>
         <translation>%1 ページは、文書の最終ページ (%2) を超えています。</translation>
-    </message>
-</context>
-<context>
-    <name>NoticeBar</name>
-    <message>
-        <source>&amp;Retry</source>
-        <translation>再試行(&amp;R)</translation>
-    </message>
-    <message>
-        <source>&amp;Undo</source>
-        <translation>元に戻す(&amp;U)</translation>
-    </message>
-    <message>
-        <source>Re&amp;do</source>
-        <translation>やり直す(&amp;D)</translation>
     </message>
 </context>
 <context>
@@ -2046,6 +2047,53 @@
     <message>
         <source>no name is free</source>
         <translation>使用できる名前がありません</translation>
+    </message>
+</context>
+<context>
+    <name>RemedyWords</name>
+    <message>
+        <source>%1, %2</source>
+        <translation>%1、%2</translation>
+    </message>
+    <message>
+        <source>%1 and %2</source>
+        <translation>%1 と %2</translation>
+    </message>
+    <message>
+        <source>, </source>
+        <translation>、</translation>
+    </message>
+    <message>
+        <source>%1 and %2 more</source>
+        <translation>%1 ほか %2 件</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1：%2</translation>
+    </message>
+    <message>
+        <source>%1 is there for %2.</source>
+        <translation>%2 なら %1 を選べます。</translation>
+    </message>
+    <message>
+        <source>%1 is not there for %2. It is there for %3.</source>
+        <translation>%2 では %1 は選べません。%3 なら選べます。</translation>
+    </message>
+    <message>
+        <source>%1 is not there for %2. It is there with %3.</source>
+        <translation>%2 では %1 は選べません。%3 にすると選べます。</translation>
+    </message>
+    <message>
+        <source>%1 can be chosen.</source>
+        <translation>%1 は選べます。</translation>
+    </message>
+    <message>
+        <source>No setting of this printer gives %1.</source>
+        <translation>このプリンターには %1 を選べる設定がありません。</translation>
+    </message>
+    <message>
+        <source>There are too many conditions to explain why %1 is not there.</source>
+        <translation>条件が多すぎるため、%1 を選べない理由を説明できません。</translation>
     </message>
 </context>
 <context>
