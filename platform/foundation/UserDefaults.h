@@ -39,8 +39,8 @@ private:
     bool m_failed = false;
 };
 
-/// While it lives, the user's defaults are in memory alone and empty at first: nothing of the user's
-/// is read or written. Afterwards they are as they were.
+/// While it lives, the user's defaults are in memory alone and empty at first: nothing of the
+/// user's is read or written. Afterwards they are as they were.
 class VELKARO_PLATFORM_EXPORT TransientDefaults
 {
 public:
