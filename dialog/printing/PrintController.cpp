@@ -210,16 +210,27 @@ void PrintController::listCoverPages(Then<QStringList> then)
         std::move(then), [source] { return Result<QStringList>(silentServer(source.server)); });
 }
 
-Result<> PrintController::makeRequestedSettings(const std::function<void()> &madeOne)
+NamedWishes PrintController::namedWishes() const
 {
     QList<RequestedChoice> wanted = m_wishes.choices;
     if (m_wishes.mail)
         wanted += RequestedChoice{QStringLiteral("notify-recipient-uri"), ownAddress()};
     if (!m_wishes.paper.isNull())
         wanted += RequestedChoice{QStringLiteral("PageSize"), m_wishes.paper};
-    const NamedWishes named = inPrintersNames(m_job.ppd(), wanted);
+    return inPrintersNames(m_job.ppd(), wanted);
+}
+
+Result<>
+PrintController::makeRequestedSettings(const std::function<void(const RequestedChoice &)> &madeOne)
+{
+    const NamedWishes named = namedWishes();
     const Result<> made = makeSettings(m_job, named.wanted, madeOne);
     return named.state ? made : named.state;
+}
+
+QList<RequestedChoice> PrintController::lostSettings() const
+{
+    return ::lostSettings(m_job, namedWishes().wanted);
 }
 
 Result<FinishedJob> PrintController::finish()

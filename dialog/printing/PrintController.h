@@ -17,6 +17,7 @@
 #include <memory>
 
 class BackgroundCall;
+struct NamedWishes;
 
 /// A printer that was found, and opened where it has a PPD: PrintController::job() has it.
 struct FoundPrinter
@@ -106,7 +107,11 @@ public:
     void listCoverPages(Then<QStringList> then);
 
     /// Makes the wished settings (makeSettings()).
-    Result<> makeRequestedSettings(const std::function<void()> &madeOne = {});
+    Result<>
+    makeRequestedSettings(const std::function<void(const RequestedChoice &)> &madeOne = {});
+
+    /// Those of the wished settings that the job has not, though the printer has them.
+    QList<RequestedChoice> lostSettings() const;
 
     /// Asks the panels whether the job may be printed, and makes the job as it is to go out. After
     /// a veto the sentence is null when the panel has told the user why by itself.
@@ -132,6 +137,7 @@ public:
     void closePrinter() { m_job.closePrinter(); }
 
 private:
+    NamedWishes namedWishes() const;
     template <typename Value>
     void begin(QPointer<BackgroundCall> &call, std::chrono::milliseconds timeout,
                std::function<Value(CallGuard &)> work, std::function<void(Value)> take,
