@@ -83,14 +83,15 @@ void DialogWindow::tellEvent()
     }
     m_eventIsNoted = false;
     const QString refusal = std::exchange(m_refusalToTell, QString());
-    const bool isNobodys = m_pick.keyword.isEmpty() && !m_pick.keyword.isNull();
+    const QString picked = m_pick.keyword;
+    const bool isNobodys = picked.isEmpty() && !picked.isNull();
     const QString changes = changeSentence(job().ppd(), takeChanges());
     if (m_state != State::Ready)
         return;
     if (isNobodys)
         m_undo->noteOwn();
     else
-        m_undo->noteUser();
+        m_undo->noteUser(picked);
     tellStanding();
     const Notice doubts = doubtsToTell();
     if (refusal.isNull() && changes.isNull())

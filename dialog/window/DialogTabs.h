@@ -9,7 +9,7 @@ class FeaturesPane;
 class LayoutPane;
 class PageSetupPane;
 class PrintJob;
-class SummaryPane;
+class SummaryPart;
 
 /// The tabs of the dialog: its own panes, which live as long as it does and are tabs where there is
 /// something to show, and a pane for each panel of the job's printer.
@@ -32,7 +32,7 @@ public:
     PageSetupPane *pageSetup() const { return m_pageSetup; }
     FeaturesPane *features() const { return m_features; }
     LayoutPane *layoutPane() const { return m_layout; }
-    SummaryPane *summary() const { return m_summary; }
+    SummaryPart *summary() const { return m_summary; }
 
     /// The tabs for the printer that is open now, the first panel in front; for a job that was
     /// saved the summary alone. Says nothing of it, and shows no panel yet.
@@ -80,7 +80,7 @@ private:
     PageSetupPane *m_pageSetup;
     FeaturesPane *m_features;
     LayoutPane *m_layout;
-    SummaryPane *m_summary;
+    SummaryPart *m_summary;
     std::vector<Part> m_parts;
     const HostPanel *m_shownPanel = nullptr;
     bool m_viewIsMissing = false; // of m_shownPanel

@@ -1151,6 +1151,45 @@
     </message>
 </context>
 <context>
+    <name>OriginWords</name>
+    <message>
+        <source>Because you chose %1: %2</source>
+        <translation>Weil Sie %1: %2 gewählt haben</translation>
+    </message>
+    <message>
+        <source>Goes with your choices</source>
+        <translation>Passend zu Ihrer Auswahl</translation>
+    </message>
+    <message>
+        <source>Saved with the printer</source>
+        <translation>Für den Drucker gespeichert</translation>
+    </message>
+    <message>
+        <source>From the preset %1</source>
+        <translation>Aus der Voreinstellung %1</translation>
+    </message>
+    <message>
+        <source>Last used</source>
+        <translation>Zuletzt verwendet</translation>
+    </message>
+    <message>
+        <source>From the command line</source>
+        <translation>Von der Befehlszeile</translation>
+    </message>
+    <message>
+        <source>Your choice</source>
+        <translation>Ihre Auswahl</translation>
+    </message>
+    <message>
+        <source>Goes with the other settings</source>
+        <translation>Passend zu den anderen Einstellungen</translation>
+    </message>
+    <message>
+        <source>The printer's default</source>
+        <translation>Standard des Druckers</translation>
+    </message>
+</context>
+<context>
     <name>OutputFile</name>
     <message>
         <source>The file %1 cannot be written: %2.</source>
@@ -2140,6 +2179,17 @@
     </message>
 </context>
 <context>
+    <name>SummaryPart</name>
+    <message>
+        <source>Only What Differs from the Printer's Defaults</source>
+        <translation>Nur Abweichungen vom Standard des Druckers</translation>
+    </message>
+    <message>
+        <source>Copy as Text</source>
+        <translation>Als Text kopieren</translation>
+    </message>
+</context>
+<context>
     <name>WhyCommand</name>
     <message>
         <source>This cannot be explained.</source>
@@ -2400,6 +2450,10 @@
     <message>
         <source>%1: %2</source>
         <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>%1: %2 (%3)</source>
+        <translation>%1: %2 (%3)</translation>
     </message>
 </context>
 </TS>

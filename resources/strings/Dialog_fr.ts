@@ -1151,6 +1151,45 @@
     </message>
 </context>
 <context>
+    <name>OriginWords</name>
+    <message>
+        <source>Because you chose %1: %2</source>
+        <translation>Parce que vous avez choisi %1 : %2</translation>
+    </message>
+    <message>
+        <source>Goes with your choices</source>
+        <translation>En accord avec vos choix</translation>
+    </message>
+    <message>
+        <source>Saved with the printer</source>
+        <translation>Enregistré pour l’imprimante</translation>
+    </message>
+    <message>
+        <source>From the preset %1</source>
+        <translation>Du préréglage %1</translation>
+    </message>
+    <message>
+        <source>Last used</source>
+        <translation>Dernier réglage utilisé</translation>
+    </message>
+    <message>
+        <source>From the command line</source>
+        <translation>De la ligne de commande</translation>
+    </message>
+    <message>
+        <source>Your choice</source>
+        <translation>Votre choix</translation>
+    </message>
+    <message>
+        <source>Goes with the other settings</source>
+        <translation>En accord avec les autres réglages</translation>
+    </message>
+    <message>
+        <source>The printer's default</source>
+        <translation>Valeur par défaut de l’imprimante</translation>
+    </message>
+</context>
+<context>
     <name>OutputFile</name>
     <message>
         <source>The file %1 cannot be written: %2.</source>
@@ -2140,6 +2179,17 @@
     </message>
 </context>
 <context>
+    <name>SummaryPart</name>
+    <message>
+        <source>Only What Differs from the Printer's Defaults</source>
+        <translation>Seulement ce qui diffère des valeurs par défaut de l’imprimante</translation>
+    </message>
+    <message>
+        <source>Copy as Text</source>
+        <translation>Copier comme texte</translation>
+    </message>
+</context>
+<context>
     <name>WhyCommand</name>
     <message>
         <source>This cannot be explained.</source>
@@ -2400,6 +2450,10 @@
     <message>
         <source>%1: %2</source>
         <translation>%1 : %2</translation>
+    </message>
+    <message>
+        <source>%1: %2 (%3)</source>
+        <translation>%1 : %2 (%3)</translation>
     </message>
 </context>
 </TS>

@@ -1151,6 +1151,45 @@
     </message>
 </context>
 <context>
+    <name>OriginWords</name>
+    <message>
+        <source>Because you chose %1: %2</source>
+        <translation>%1 に「%2」を選んだため</translation>
+    </message>
+    <message>
+        <source>Goes with your choices</source>
+        <translation>選んだ設定に合わせたもの</translation>
+    </message>
+    <message>
+        <source>Saved with the printer</source>
+        <translation>プリンターに保存された設定</translation>
+    </message>
+    <message>
+        <source>From the preset %1</source>
+        <translation>プリセット「%1」</translation>
+    </message>
+    <message>
+        <source>Last used</source>
+        <translation>前回の設定</translation>
+    </message>
+    <message>
+        <source>From the command line</source>
+        <translation>コマンドラインの指定</translation>
+    </message>
+    <message>
+        <source>Your choice</source>
+        <translation>あなたの選択</translation>
+    </message>
+    <message>
+        <source>Goes with the other settings</source>
+        <translation>ほかの設定に合わせたもの</translation>
+    </message>
+    <message>
+        <source>The printer's default</source>
+        <translation>プリンターの既定値</translation>
+    </message>
+</context>
+<context>
     <name>OutputFile</name>
     <message>
         <source>The file %1 cannot be written: %2.</source>
@@ -2140,6 +2179,17 @@
     </message>
 </context>
 <context>
+    <name>SummaryPart</name>
+    <message>
+        <source>Only What Differs from the Printer's Defaults</source>
+        <translation>プリンターの既定値と異なるものだけ</translation>
+    </message>
+    <message>
+        <source>Copy as Text</source>
+        <translation>テキストとしてコピー</translation>
+    </message>
+</context>
+<context>
     <name>WhyCommand</name>
     <message>
         <source>This cannot be explained.</source>
@@ -2400,6 +2450,10 @@
     <message>
         <source>%1: %2</source>
         <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>%1: %2 (%3)</source>
+        <translation>%1: %2 (%3)</translation>
     </message>
 </context>
 </TS>
