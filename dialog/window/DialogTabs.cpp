@@ -81,6 +81,7 @@ void DialogTabs::addPanels()
             continue;
         auto *pane = new PanelPane(this);
         connect(pane, &PanelPane::viewResized, this, &DialogTabs::viewResized);
+        connect(pane, &PanelPane::explanationWanted, this, &DialogTabs::explanationWanted);
         addPart(panel.name, pane, panel.panel->panelName(), &panel);
     }
 }

@@ -118,6 +118,7 @@ void DialogWindow::forgetEvent()
 {
     m_eventIsNoted = false;
     m_refusalToTell = QString();
+    m_refused = PPDMark();
     m_pick = PPDMark();
     m_toldState = ::settingState(job());
 }

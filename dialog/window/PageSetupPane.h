@@ -1,5 +1,7 @@
 #pragma once
 
+#include "dialog/host/PPDMarks.h"
+
 #include <QtWidgets/QWidget>
 
 class PaperRows;
@@ -30,8 +32,8 @@ Q_SIGNALS:
     /// The user has changed something, and the job has it where it can be used.
     void changed();
 
-    /// What the user chose cannot be; one sentence. The job is as it was.
-    void refused(const QString &sentence);
+    /// What the user chose cannot be; one sentence, and the choice. The job is as it was.
+    void refused(const QString &sentence, const PPDMark &choice);
 
 private:
     PrintJob &m_job;

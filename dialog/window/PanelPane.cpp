@@ -1,6 +1,7 @@
 #include "dialog/window/PanelPane.h"
 
-#include <QtCore/QEvent>
+#include <QtGui/QContextMenuEvent>
+#include <QtWidgets/QLineEdit>
 #include <QtWidgets/QScrollBar>
 
 namespace {
@@ -38,6 +39,8 @@ void PanelPane::setView(QWidget *view)
     view->setAutoFillBackground(false);
     view->show();
     view->installEventFilter(this);
+    for (QWidget *part : view->findChildren<QWidget *>())
+        part->installEventFilter(this);
     updateGeometry();
 }
 
@@ -46,6 +49,8 @@ void PanelPane::releaseView()
     if (!m_view)
         return;
     m_view->removeEventFilter(this);
+    for (QWidget *part : m_view->findChildren<QWidget *>())
+        part->removeEventFilter(this);
     m_view->hide();
     takeWidget()->setParent(nullptr);
     m_view = nullptr;
@@ -67,6 +72,12 @@ bool PanelPane::eventFilter(QObject *watched, QEvent *event)
     if (watched == m_view && event->type() == QEvent::Resize) {
         updateGeometry();
         Q_EMIT viewResized();
+    }
+    // Of what is switched off, too; fields for text have a menu of their own.
+    if (event->type() == QEvent::ContextMenu && !qobject_cast<QLineEdit *>(watched)) {
+        Q_EMIT explanationWanted(static_cast<QWidget *>(watched),
+                                 static_cast<QContextMenuEvent *>(event)->globalPos());
+        return true;
     }
     return QScrollArea::eventFilter(watched, event);
 }

@@ -388,6 +388,38 @@
         <source>Redo</source>
         <translation>Wiederherstellen</translation>
     </message>
+    <message>
+        <source>Why is there no &quot;%1&quot;?</source>
+        <translation>Warum gibt es „%1“ nicht?</translation>
+    </message>
+    <message>
+        <source>Everything here can be chosen.</source>
+        <translation>Hier kann alles gewählt werden.</translation>
+    </message>
+    <message>
+        <source>Finding out…</source>
+        <translation>Wird ermittelt…</translation>
+    </message>
+    <message>
+        <source>This cannot be explained.</source>
+        <translation>Das lässt sich nicht erklären.</translation>
+    </message>
+    <message>
+        <source>With that: %1</source>
+        <translation>Damit: %1</translation>
+    </message>
+    <message>
+        <source>Get It</source>
+        <translation>Ermöglichen</translation>
+    </message>
+    <message>
+        <source>Use %1</source>
+        <translation>%1 verwenden</translation>
+    </message>
+    <message>
+        <source>Leave It</source>
+        <translation>So lassen</translation>
+    </message>
 </context>
 <context>
     <name>DialogTabs</name>

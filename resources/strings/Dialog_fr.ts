@@ -388,6 +388,38 @@
         <source>Redo</source>
         <translation>Rétablir</translation>
     </message>
+    <message>
+        <source>Why is there no &quot;%1&quot;?</source>
+        <translation>Pourquoi « %1 » n’est-il pas proposé ?</translation>
+    </message>
+    <message>
+        <source>Everything here can be chosen.</source>
+        <translation>Tout peut être choisi ici.</translation>
+    </message>
+    <message>
+        <source>Finding out…</source>
+        <translation>Recherche en cours…</translation>
+    </message>
+    <message>
+        <source>This cannot be explained.</source>
+        <translation>Cela ne peut pas être expliqué.</translation>
+    </message>
+    <message>
+        <source>With that: %1</source>
+        <translation>Avec cela : %1</translation>
+    </message>
+    <message>
+        <source>Get It</source>
+        <translation>L’obtenir</translation>
+    </message>
+    <message>
+        <source>Use %1</source>
+        <translation>Utiliser %1</translation>
+    </message>
+    <message>
+        <source>Leave It</source>
+        <translation>Laisser ainsi</translation>
+    </message>
 </context>
 <context>
     <name>DialogTabs</name>

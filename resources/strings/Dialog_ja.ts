@@ -388,6 +388,38 @@
         <source>Redo</source>
         <translation>やり直す</translation>
     </message>
+    <message>
+        <source>Why is there no &quot;%1&quot;?</source>
+        <translation>「%1」がないのはなぜですか?</translation>
+    </message>
+    <message>
+        <source>Everything here can be chosen.</source>
+        <translation>ここにあるものはすべて選べます。</translation>
+    </message>
+    <message>
+        <source>Finding out…</source>
+        <translation>調べています…</translation>
+    </message>
+    <message>
+        <source>This cannot be explained.</source>
+        <translation>理由を説明できません。</translation>
+    </message>
+    <message>
+        <source>With that: %1</source>
+        <translation>これに伴う変更: %1</translation>
+    </message>
+    <message>
+        <source>Get It</source>
+        <translation>使えるようにする</translation>
+    </message>
+    <message>
+        <source>Use %1</source>
+        <translation>%1 を使う</translation>
+    </message>
+    <message>
+        <source>Leave It</source>
+        <translation>このままにする</translation>
+    </message>
 </context>
 <context>
     <name>DialogTabs</name>
