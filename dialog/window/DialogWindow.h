@@ -21,6 +21,7 @@ class LayoutPane;
 class PageSetupPane;
 class PanelPane;
 class ProgressStrip;
+class ScrolledBody;
 class QPushButton;
 class QTabWidget;
 
@@ -110,6 +111,7 @@ private:
     // DialogWindow.cpp
     void buildLayout();
     void addPartShortcut(QKeySequence::StandardKey keys, int step);
+    ScrolledBody *newBody();
     QWidget *newButtons();
     QString printTitle() const;
     void setState(State state);
@@ -173,7 +175,8 @@ private:
     void hideShownPanel();
     void fitToPart();
     void followView();
-    void fitToTabs();
+    void fitToTexts();
+    void setWidth(int width);
     void setHeight(int height);
     QList<SummarySection> summarySections();
     SummarySection ownSection() const;
@@ -231,6 +234,8 @@ private:
     NoticeBar *m_notice;
     ProgressStrip *m_progress;
     QTabWidget *m_tabs;
+    ScrolledBody *m_body = nullptr; ///< all but the buttons
+    QWidget *m_buttons = nullptr;
     PageSetupPane *m_pageSetup;
     FeaturesPane *m_features;
     LayoutPane *m_layout;

@@ -1,11 +1,13 @@
 #include "dialog/window/PanelPane.h"
 
+#include "dialog/window/ViewWidth.h"
+
 #include <QtCore/QEvent>
 #include <QtWidgets/QScrollBar>
 
 namespace {
 
-constexpr int kLeastHeight = 80; // of a pane on a very small screen
+constexpr QSize kLeastPaneSize(300, 80); // of a pane on a very small screen
 constexpr int kTopMargin = 8;
 
 } // namespace
@@ -15,7 +17,6 @@ PanelPane::PanelPane(QWidget *parent) : QScrollArea(parent)
     setFrameShape(QFrame::NoFrame);
     setFocusPolicy(Qt::NoFocus); // it scrolls to the control that has it
     setAlignment(Qt::AlignHCenter | Qt::AlignTop);
-    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setViewportMargins(0, kTopMargin, 0, 0);
     // The tab's own background lies behind the view.
     viewport()->setAutoFillBackground(false);
@@ -28,8 +29,15 @@ PanelPane::~PanelPane()
 
 void PanelPane::setView(QWidget *view)
 {
-    if (view == m_view)
-        return;
+    if (view != m_view)
+        takeView(view);
+    if (view)
+        fitWidth(*view);
+    updateGeometry();
+}
+
+void PanelPane::takeView(QWidget *view)
+{
     releaseView();
     m_view = view;
     if (!view)
@@ -38,7 +46,6 @@ void PanelPane::setView(QWidget *view)
     view->setAutoFillBackground(false);
     view->show();
     view->installEventFilter(this);
-    updateGeometry();
 }
 
 void PanelPane::releaseView()
@@ -59,7 +66,7 @@ QSize PanelPane::sizeHint() const
 
 QSize PanelPane::minimumSizeHint() const
 {
-    return {sizeHint().width(), std::min(sizeHint().height(), kLeastHeight)};
+    return sizeHint().boundedTo(kLeastPaneSize);
 }
 
 bool PanelPane::eventFilter(QObject *watched, QEvent *event)

@@ -1,5 +1,7 @@
 #include "platform/toolkit/PlainLabel.h"
 
+#include "platform/toolkit/CaptionLabel.h"
+
 #include <QtGui/QTextDocument>
 #include <QtWidgets/QFormLayout>
 #include <QtWidgets/QLabel>
@@ -15,7 +17,10 @@ QLabel *newPlainLabel(const QString &text, QWidget *parent)
 void setLabelText(QLabel *label, const QString &text)
 {
     label->setTextFormat(Qt::PlainText);
-    label->setText(text);
+    if (auto *caption = qobject_cast<CaptionLabel *>(label))
+        caption->setCaption(text);
+    else
+        label->setText(text);
 }
 
 void addLabelledRow(QFormLayout *form, const QString &text, QWidget *field)
