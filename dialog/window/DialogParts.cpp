@@ -134,6 +134,8 @@ void DialogWindow::changePart()
     if (part->panel) {
         m_shownPanel = part->panel;
         QWidget *view = job().session()->show(*part->panel);
+        if (view)
+            giveCaptionMnemonics(*view, mnemonicsIn(*this));
         static_cast<PanelPane *>(part->page)->setView(view);
         m_viewIsMissing = !view;
     }
