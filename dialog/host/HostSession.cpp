@@ -36,6 +36,7 @@ std::unique_ptr<HostSession> HostSession::open(const SessionOptions &options, Op
     std::unique_ptr<HostSession> session(new HostSession(options));
     session->m_ppd = std::move(ppd.ppd);
     session->m_defaultMarks = ppd.defaults;
+    session->m_ppdText = std::move(ppd.text);
     session->m_plugIn = options.bundlePath.isNull() ? loadPlugInFor(session->ppd(), options.info)
                                                     : loadPlugIn(options.bundlePath, options.info);
     session->prepareCallback();

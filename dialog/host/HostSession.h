@@ -92,6 +92,9 @@ public:
     ppd_file_t *ppd() const { return m_ppd.get(); }
     /// The marks of the PPD before anybody has made any: OpenedPPD::defaults.
     const QList<PPDMark> &defaultMarks() const { return m_defaultMarks; }
+    /// The text of the PPD as it was opened (OpenedPPD::text), while the session lives.
+    int ppdText() const { return m_ppdText->get(); }
+
     PMPrintSettings &ticket() { return m_callback->ticket(); }
     PMPageFormat &pageFormat() { return m_callback->format(); }
     const PMPrintSettings &ticket() const { return m_callback->ticket(); }
@@ -203,6 +206,7 @@ private:
 
     SessionOptions m_options;
     QList<PPDMark> m_defaultMarks;
+    std::shared_ptr<const FileDescriptor> m_ppdText;
     PPDHandle m_ppd; // outlives the panels, which read it
     PlugInLoad m_plugIn;
     std::shared_ptr<HostCallback> m_callback;

@@ -5,6 +5,7 @@
 #include "dialog/host/PPDSentence.h"
 
 #include <cstring>
+#include <fcntl.h>
 #include <span>
 #include <sys/mman.h>
 #include <unistd.h>
@@ -54,18 +55,22 @@ void localize(ppd_file_t &ppd)
         nameWhatHasNoText(group);
 }
 
-// libcups opens nothing but files, and closes this one; -1 when there is no memory for it. The file
-// at the PPD's path may be another one by now.
-int memoryFile(const QByteArray &text)
+// libcups opens nothing but files; none when there is no memory for it. The file at the PPD's path
+// may be another one by now.
+FileDescriptor memoryFile(const QByteArray &text)
 {
-    const int descriptor = memfd_create("ppd", MFD_CLOEXEC);
-    if (descriptor < 0)
-        return -1;
-    if (write(descriptor, text.constData(), static_cast<std::size_t>(text.size())) == text.size() &&
-        lseek(descriptor, 0, SEEK_SET) == 0)
-        return descriptor;
-    close(descriptor);
-    return -1;
+    FileDescriptor file(memfd_create("ppd", MFD_CLOEXEC));
+    if (file.isOpen() &&
+        write(file.get(), text.constData(), static_cast<std::size_t>(text.size())) == text.size() &&
+        lseek(file.get(), 0, SEEK_SET) == 0)
+        return file;
+    return FileDescriptor();
+}
+
+// libcups closes what it is given.
+int duplicate(const FileDescriptor &file)
+{
+    return fcntl(file.get(), F_DUPFD_CLOEXEC, 0);
 }
 
 } // namespace
@@ -75,7 +80,8 @@ Result<OpenedPPD> openPPD(const QString &path, PPDTexts texts)
     const Result<QByteArray> text = readPPD(path);
     if (!text)
         return text.fault();
-    PPDHandle ppd(ppdOpenFd(memoryFile(*text)));
+    auto file = std::make_shared<const FileDescriptor>(memoryFile(*text));
+    PPDHandle ppd(ppdOpenFd(duplicate(*file)));
     if (!ppd)
         return parserError(path);
     if (saysNothing(*ppd) || isCutOff(*text))
@@ -84,5 +90,5 @@ Result<OpenedPPD> openPPD(const QString &path, PPDTexts texts)
         localize(*ppd);
     ppdMarkDefaults(ppd.get());
     const QList<PPDMark> defaults = marksOf(ppd.get());
-    return OpenedPPD{std::move(ppd), defaults};
+    return OpenedPPD{std::move(ppd), defaults, std::move(file)};
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "dialog/files/FileDescriptor.h"
 #include "dialog/host/PPDMarks.h"
 #include "dialog/work/Result.h"
 #include "platform/ppd/CupsPPD.h"
@@ -23,6 +24,9 @@ struct OpenedPPD
     /// What is marked by default, before anybody has picked anything. It need not be what an option
     /// says of itself: a keyword may stand in two groups, and libcups reads over the case of names.
     QList<PPDMark> defaults;
+    /// The text that was checked and opened, in a file of memory: whoever opens it once more gets
+    /// the same, whatever stands at the path by then.
+    std::shared_ptr<const FileDescriptor> text;
 };
 
 /// In which language the PPD's texts are.

@@ -71,7 +71,7 @@ public:
 
     QList<FeatureGroup> take()
     {
-        std::ranges::stable_partition(m_groups, std::logical_not(), &FeatureGroup::isInstalled);
+        std::ranges::stable_sort(m_groups, {}, &FeatureGroup::isInstalled);
         return std::move(m_groups);
     }
 

@@ -62,10 +62,24 @@ bool takeLayout(JobLayout &layout, const JobOption &option)
     return !value.isNull();
 }
 
-/// True when the option is one of the dialog's own settings, which then has it.
+/// Whether a setting of the dialog's own can have the value.
+bool isUsable(const JobOption &option)
+{
+    bool isNumber = false;
+    option.value.toInt(&isNumber);
+    if (option.name == "copies"_L1 || option.name == "orientation-requested"_L1)
+        return isNumber;
+    if (option.name == "page-ranges"_L1)
+        return !normalizedPageRanges(option.value).isNull();
+    return !isScalingOption(option.name) || scalingOf(option);
+}
+
+/// True when the option is one of the dialog's own settings, which then has it, or its usual value.
 bool takeSetting(SavedSettings &settings, const JobOption &option)
 {
     const int number = option.value.toInt();
+    if (!isUsable(option))
+        settings.missing += option;
     if (option.name == "copies"_L1)
         settings.settings.copies = qBound(1, number, kMostCopies);
     else if (option.name == "page-ranges"_L1)

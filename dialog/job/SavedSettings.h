@@ -17,7 +17,8 @@ struct SavedSettings
     QList<JobOption> others; ///< what is neither the PPD's nor the dialog's: JobValues::saved
     QStringList settled;     ///< keywords of the PPD that were named: JobValues::settled
     /// What was meant for another printer, or another state of this one: choices that the PPD does
-    /// not have, and keywords that nobody knows (these are among the others all the same).
+    /// not have, keywords that nobody knows (these are among the others all the same), and values
+    /// that no setting of the dialog's own can have.
     QList<JobOption> missing;
 };
 

@@ -2,11 +2,9 @@
 // process of its own: a PDF comes from anybody, and may be made to take all memory and all time of
 // whoever reads it.
 
-#include <qpdf/QPDF.hh>
+#include <qpdf/qpdf-c.h>
 
-#include <cstddef>
 #include <cstdio>
-#include <exception>
 #include <sys/resource.h>
 
 namespace {
@@ -29,16 +27,14 @@ int main()
 #endif
     limit(RLIMIT_CPU, kMostSeconds);
     limit(RLIMIT_CORE, 0);
-    try {
-        QPDF pdf;
-        pdf.setSuppressWarnings(true);
-        pdf.processFile("/proc/self/fd/0");
-        const std::size_t pages = pdf.getAllPages().size();
-        if (pages == 0)
-            return 1;
-        std::printf("%zu\n", pages);
-        return 0;
-    } catch (const std::exception &) {
-        return 1; // no PDF, one that is damaged, or one that wants a password
-    }
+    qpdf_data pdf = qpdf_init();
+    qpdf_silence_errors(pdf);
+    qpdf_set_suppress_warnings(pdf, QPDF_TRUE);
+    // Without a page: no PDF, one that is damaged, or one that wants a password.
+    const bool isRead = (qpdf_read(pdf, "/proc/self/fd/0", nullptr) & QPDF_ERRORS) == 0;
+    const int pages = isRead ? qpdf_get_num_pages(pdf) : 0;
+    qpdf_cleanup(&pdf);
+    if (pages > 0)
+        std::printf("%d\n", pages);
+    return pages > 0 ? 0 : 1;
 }

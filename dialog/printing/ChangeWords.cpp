@@ -10,13 +10,24 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-QString titleOf(ppd_file_t *ppd, const QString &keyword)
+QString changeWords(ppd_file_t *ppd, const SettingChange &change)
+{
+    const QString title = settingTitle(ppd, change.keyword);
+    const QString now = choiceWords(ppd, change.keyword, change.to);
+    if (change.from.isNull())
+        return QCoreApplication::translate("ChangeWords", "%1 is now %2").arg(title, now);
+    return QCoreApplication::translate("ChangeWords", "%1 is now %2 (was %3)")
+        .arg(title, now, choiceWords(ppd, change.keyword, change.from));
+}
+
+} // namespace
+
+QString settingTitle(ppd_file_t *ppd, const QString &keyword)
 {
     const ppd_option_t *option = findOption(ppd, keyword);
     return displayText(option ? ppdText(option->text) : keyword);
 }
 
-/// The choice's text; with its name where the PPD has the text twice.
 QString choiceWords(ppd_file_t *ppd, const QString &keyword, const QString &choice)
 {
     if (const std::optional<PMPaper> custom = parseCustomPaper(choice))
@@ -31,18 +42,6 @@ QString choiceWords(ppd_file_t *ppd, const QString &keyword, const QString &choi
     const QString text = displayText(ppdText(found->text));
     return uses > 1 ? text + u" ["_s + displayText(choice) + u']' : text;
 }
-
-QString changeWords(ppd_file_t *ppd, const SettingChange &change)
-{
-    const QString title = titleOf(ppd, change.keyword);
-    const QString now = choiceWords(ppd, change.keyword, change.to);
-    if (change.from.isNull())
-        return QCoreApplication::translate("ChangeWords", "%1 is now %2").arg(title, now);
-    return QCoreApplication::translate("ChangeWords", "%1 is now %2 (was %3)")
-        .arg(title, now, choiceWords(ppd, change.keyword, change.from));
-}
-
-} // namespace
 
 QString changeSentence(ppd_file_t *ppd, const QList<SettingChange> &changes)
 {
@@ -61,6 +60,6 @@ QString replacementSentence(ppd_file_t *ppd, const SettingChange &change)
 {
     return QCoreApplication::translate("ChangeWords",
                                        "%1: \"%2\" would be printed in place of \"%3\".")
-        .arg(titleOf(ppd, change.keyword), choiceWords(ppd, change.keyword, change.to),
+        .arg(settingTitle(ppd, change.keyword), choiceWords(ppd, change.keyword, change.to),
              choiceWords(ppd, change.keyword, change.from));
 }

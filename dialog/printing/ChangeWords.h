@@ -5,6 +5,12 @@
 
 /// Changes of settings in the printer's words, plain text.
 
+/// The setting's title.
+QString settingTitle(ppd_file_t *ppd, const QString &keyword);
+
+/// The choice's text; with its name where the setting has the text twice.
+QString choiceWords(ppd_file_t *ppd, const QString &keyword, const QString &choice);
+
 /// One sentence on what became what; null without a change.
 QString changeSentence(ppd_file_t *ppd, const QList<SettingChange> &changes);
 

@@ -19,14 +19,12 @@ namespace {
 /// The paper in the printer, by the name that a plug-in reads.
 QString sheetOf(const PrintJob &job)
 {
-    const QString mapped = job.mappedPaper();
-    return mapped.isEmpty() ? job.paper().value_or(PMPaper()).name : mapped;
+    return job.sheet().value_or(PMPaper()).name;
 }
 
 QString sheetText(const PrintJob &job)
 {
-    const std::optional<PMPaper> mapped = paperOfChoice(job.ppd(), job.mappedPaper());
-    return displayText(paperText(job.ppd(), mapped ? *mapped : job.paper().value_or(PMPaper())));
+    return displayText(paperText(job.ppd(), job.sheet().value_or(PMPaper())));
 }
 
 /// As PPDs name the choices: DuplexNoTumble, DuplexTumble; None and SimplexTumble are one-sided.
@@ -38,8 +36,7 @@ bool isTwoSided(const PrintJob &job)
 /// Null when the paper may be printed on both sides, or is not to be.
 QString oneSidedPaper(const PrintJob &job)
 {
-    const auto papers = job.session()->twoSidedPapers();
-    if (!papers || !isTwoSided(job) || sheetOf(job).isNull() || papers->contains(sheetOf(job)))
+    if (!isOnOneSidedPaper(job))
         return {};
     return QCoreApplication::translate("JobDoubts",
                                        "The printer cannot print on both sides of this paper: %1.")
@@ -53,6 +50,12 @@ bool wasMadeOrShown(const PrintJob &job, const SettingState &before, const Setti
 }
 
 } // namespace
+
+bool isOnOneSidedPaper(const PrintJob &job)
+{
+    const auto papers = job.session()->twoSidedPapers();
+    return papers && isTwoSided(job) && !sheetOf(job).isNull() && !papers->contains(sheetOf(job));
+}
 
 QStringList doubtsOf(const PrintJob &job)
 {
@@ -80,19 +83,20 @@ QStringList replacedBySaving(const PrintJob &job, const SettingState &before)
     return replaced;
 }
 
-QStringList adviceFor(const PrintJob &job)
+QList<JobAdvice> adviceFor(const PrintJob &job)
 {
-    QStringList sentences;
+    QList<JobAdvice> found;
     if (!job.session())
-        return sentences;
+        return found;
     const QList<PaperAdvice> all = job.session()->paperAdvice();
     for (const PaperAdvice &advice : all) {
         const bool isKnown = findChoice(findOption(job.ppd(), advice.keyword), advice.choice);
         if (isKnown && advice.isFor(sheetOf(job)) &&
             !isSameName(markedChoice(job.ppd(), advice.keyword), advice.choice))
-            sentences +=
-                QCoreApplication::translate("JobDoubts", "For %1 there is \"%2\".")
-                    .arg(sheetText(job), choiceText(job.ppd(), advice.keyword, advice.choice));
+            found +=
+                {{advice.keyword, advice.choice},
+                 QCoreApplication::translate("JobDoubts", "For %1 there is \"%2\".")
+                     .arg(sheetText(job), choiceText(job.ppd(), advice.keyword, advice.choice))};
     }
-    return sentences;
+    return found;
 }

@@ -105,10 +105,10 @@ void makeInTurn(PrintJob &job, const QList<RequestedChoice> &settings,
                 const std::function<void()> &madeOne)
 {
     QList<RequestedChoice> turns = settings;
-    const auto later = std::ranges::stable_partition(turns, isOfThePage);
-    if (!later.empty()) {
+    const auto later = std::stable_partition(turns.begin(), turns.end(), isOfThePage);
+    if (later != turns.end()) {
         prepareControls(*job.session());
-        std::ranges::sort(later, {}, [&](const RequestedChoice &setting) {
+        std::ranges::sort(later, turns.end(), {}, [&](const RequestedChoice &setting) {
             return turnOf(*job.session(), setting);
         });
     }

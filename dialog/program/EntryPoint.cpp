@@ -1,4 +1,5 @@
 #include "dialog/files/PathBytes.h"
+#include "dialog/program/AdviseCommand.h"
 #include "dialog/program/CheckCommand.h"
 #include "dialog/program/CommandLine.h"
 #include "dialog/program/CommandOutput.h"
@@ -12,6 +13,8 @@
 #include "dialog/program/Translations.h"
 
 #include <QtCore/QCoreApplication>
+
+#include <string_view>
 
 namespace {
 
@@ -37,6 +40,8 @@ int refuse(int argc, char **argv, const QStringList &arguments)
 /// What the launcher calls: the whole program.
 extern "C" Q_DECL_EXPORT int velkaroPrintMain(int argc, char **argv)
 {
+    if (argc > 1 && std::string_view(argv[1]) == kAdviseOption)
+        return runAdviseCommand(argc, argv);
     const QStringList arguments = argumentsOf(argc, argv);
     const Result<CommandLine> parsed = parseCommandLine(arguments);
     if (!parsed)

@@ -6,6 +6,7 @@
 #include "dialog/job/JobFileReader.h"
 #include "dialog/job/OutgoingText.h"
 #include "dialog/job/PageRanges.h"
+#include "dialog/printing/JobDoubts.h"
 #include "dialog/printing/PrintController.h"
 #include "dialog/printing/SavedJob.h"
 #include "dialog/printing/ScriptedAnswers.h"
@@ -207,6 +208,8 @@ void Run::decide(const FinishedJob &finished)
     }
     for (const QString &doubt : finished.doubts)
         warn(doubt);
+    for (const JobAdvice &advice : adviceFor(m_controller.job()))
+        warn(advice.sentence);
     deliver(finished.request);
 }
 

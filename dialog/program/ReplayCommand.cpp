@@ -1,5 +1,6 @@
 #include "dialog/program/ReplayCommand.h"
 
+#include "dialog/advice/Advising.h"
 #include "dialog/files/DescriptorPath.h"
 #include "dialog/program/ExitStatus.h"
 #include "dialog/replay/ReplayScript.h"
@@ -99,6 +100,18 @@ ExitStatus runLines(QFile &file, const QString &name, const QDir &folder, Replay
     }
 }
 
+Result<QJsonObject> explainChoice(HostSession &session, const QString &keyword,
+                                  const QString &choice)
+{
+    const Result<PPDMark> wanted = choiceOfPPD(session, keyword, choice);
+    if (!wanted)
+        return wanted.fault();
+    const std::optional<Advice> advice = adviceOn(session, *wanted);
+    if (!advice)
+        return Fault{FaultKind::Vetoed, u"the choice cannot be explained"_s};
+    return adviceReport(*advice);
+}
+
 } // namespace
 
 int runReplay(const QString &script, const QString &bundlePath, bool force)
@@ -112,6 +125,7 @@ int runReplay(const QString &script, const QString &bundlePath, bool force)
     terms.addInput(script);
     terms.mayReplace = force;
     ReplaySession session(bundlePath, terms);
+    session.setExplainer(explainChoice);
     return exitCode(runLines(file, name, folderOf(script), session));
 }
 

@@ -88,10 +88,16 @@ Result<> Recorder::attach(HostSession &session)
         m_state = ppd.fault();
         return m_state;
     }
+    attach(session, *ppd);
+    return m_state;
+}
+
+void Recorder::attach(HostSession &session, const QString &ppd)
+{
+    m_session = &session;
     session.addObserver(this);
     m_notedHeight = keyWindowHeight().value_or(-1);
-    note("open", openEvent(*ppd));
-    return m_state;
+    note("open", openEvent(ppd));
 }
 
 /// Copies the PPD beside the script, and gives the copy's name as the script has it. A file that is

@@ -65,7 +65,10 @@ void RecordedScript::write(const Event &event)
         answers << answerReport(*answer);
     if (!answers.isEmpty())
         members << std::pair(u"answers"_s, QJsonValue(answers));
-    static_cast<void>(m_file.write(jsonLine(members) + '\n')); // told by finish() when it fails
+    if (m_tell)
+        m_tell(jsonLine(members));
+    else
+        static_cast<void>(m_file.write(jsonLine(members) + '\n')); // told by finish() when it fails
 }
 
 Result<> RecordedScript::finish()

@@ -4,7 +4,9 @@
 #include "dialog/replay/JsonText.h"
 
 #include <deque>
+#include <functional>
 #include <memory>
+#include <utility>
 #include <vector>
 
 /// The answer that an alert was given, filled in when it is given.
@@ -23,6 +25,10 @@ class RecordedScript
 public:
     /// A fault when the file may not or cannot be written.
     Result<> open(const QString &path, const OutputTerms &terms);
+
+    /// Tells every line, without its end, to whom it is given, in the place of a file. Where an
+    /// event's alerts have not been answered the line comes later.
+    void open(std::function<void(const QByteArray &line)> tell) { m_tell = std::move(tell); }
 
     /// The alert has been raised by the event that is noted next.
     void addAnswer(const std::shared_ptr<RecordedAnswer> &answer);
@@ -57,6 +63,7 @@ private:
 
     QString m_path;
     OutputFile m_file;
+    std::function<void(const QByteArray &)> m_tell; ///< null: the file is written
     Answers m_answers;
     std::deque<Event> m_events;
 };

@@ -8,7 +8,9 @@
 #include <QtCore/QSet>
 #include <QtCore/QString>
 
+#include <functional>
 #include <memory>
+#include <utility>
 #include <vector>
 
 class HostSession;
@@ -32,6 +34,12 @@ public:
 
     /// A fault when the script may not or cannot be written.
     Result<> open(const QString &path, const OutputTerms &terms);
+
+    /// Tells every line to somebody (RecordedScript::open()) instead. Then no finish() is needed.
+    void open(std::function<void(const QByteArray &line)> tell) { m_script.open(std::move(tell)); }
+
+    /// Notes the session from its beginning, under that path of its PPD, which is not copied.
+    void attach(HostSession &session, const QString &ppd);
 
     /// Notes the session from its beginning. A fault when its PPD cannot be copied: then nothing
     /// more is noted. The session must close before finish().

@@ -95,6 +95,13 @@ struct ReplayPost
     std::optional<QVariantMap> userInfo;
 };
 
+/// A question: why the choice is not to be had, and how it is.
+struct ReplayWhy
+{
+    QString keyword;
+    QString choice;
+};
+
 struct ReplayPrint
 {};
 
@@ -107,7 +114,7 @@ struct ReplayClose
 using ReplayAction =
     std::variant<ReplayOpen, ReplayShow, ReplayPanelCall, ReplayPick, ReplaySlide, ReplayRevert,
                  ReplayFold, ReplayPaper, ReplayMark, ReplayTicket, ReplayWindow, ReplayWatch,
-                 ReplayPicture, ReplayPost, ReplayPrint, ReplayState, ReplayClose>;
+                 ReplayPicture, ReplayPost, ReplayWhy, ReplayPrint, ReplayState, ReplayClose>;
 
 /// How an alert is answered. None of a value: the first button, the box as it is.
 struct ReplayAnswer

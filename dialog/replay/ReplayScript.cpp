@@ -159,6 +159,11 @@ ReplayAction postOf(const QJsonObject &line, const QDir &)
     return post;
 }
 
+ReplayAction whyOf(const QJsonObject &line, const QDir &)
+{
+    return ReplayWhy{text(line, "keyword"), text(line, "choice")};
+}
+
 template <typename Action> ReplayAction bare(const QJsonObject &, const QDir &)
 {
     return Action{};
@@ -216,6 +221,7 @@ const std::vector<EventRule> &eventRules()
         {"help", panelCallOf<PanelOperation::Help>, {kPanel}},
         {"picture", pictureOf, {{"file", Text}}},
         {"post", postOf, {{"name", Text}, {"userInfo", Object, kOptional}}},
+        {"why", whyOf, {{"keyword", Text}, {"choice", Text}}},
         {"print", bare<ReplayPrint>, {}},
         {"state", bare<ReplayState>, {}},
         {"close", bare<ReplayClose>, {}},

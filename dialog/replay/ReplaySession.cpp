@@ -21,8 +21,11 @@ bool needsSession(const ReplayAction &action)
 
 } // namespace
 
-ReplaySession::ReplaySession(const QString &bundlePath, const OutputTerms &terms)
-    : m_bundlePath(bundlePath.isNull() ? ownBundlePath() : bundlePath), m_pictures(terms)
+ReplaySession::ReplaySession(const QString &bundlePath, const OutputTerms &terms, Likeness likeness)
+    : m_likeness(likeness),
+      m_bundlePath(bundlePath.isNull() && likeness == Likeness::Everywhere ? ownBundlePath()
+                                                                           : bundlePath),
+      m_pictures(terms)
 {
     UserDefaults::standardUserDefaults().setFolder(QString());
 }
@@ -62,8 +65,10 @@ ReplaySession::Work ReplaySession::perform(const ReplayOpen &event)
 {
     SessionOptions options = event.options;
     options.bundlePath = m_bundlePath;
-    options.ppdTexts = PPDTexts::AsWritten; // a script gives the same on every machine
-    options.replayLanguagesOnly = true;     // and in every version
+    if (m_likeness == Likeness::Everywhere) {
+        options.ppdTexts = PPDTexts::AsWritten; // a script gives the same on every machine
+        options.replayLanguagesOnly = true;     // and in every version
+    }
     m_pictures.addInput(options.ppdPath);
     Result<std::unique_ptr<HostSession>> opened = HostSession::open(options);
     if (!opened)

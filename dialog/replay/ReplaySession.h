@@ -9,10 +9,13 @@
 
 #include <QtCore/QByteArray>
 #include <QtCore/QJsonArray>
+#include <QtCore/QJsonObject>
 #include <QtWidgets/QWidget>
 
+#include <functional>
 #include <memory>
 #include <optional>
+#include <utility>
 
 /// Runs the events of a replay script on a real session: the plug-in, its real widgets, real
 /// alerts. The dialog's window is a plain one that is never shown.
@@ -21,13 +24,28 @@
 class ReplaySession : private SessionObserver
 {
 public:
+    /// What a session is opened with.
+    enum class Likeness {
+        Everywhere, ///< the same texts on every machine
+        ToDialog,   ///< texts in the user's language, and the plug-in that is for the printer
+    };
+
     /// `bundlePath` names the plug-in; null: the program's own. It is used whatever printer a
     /// PPD is of. Pictures are written on these terms, and never over a PPD that the script has
     /// opened.
-    explicit ReplaySession(const QString &bundlePath = QString(), const OutputTerms &terms = {});
+    explicit ReplaySession(const QString &bundlePath = QString(), const OutputTerms &terms = {},
+                           Likeness likeness = Likeness::Everywhere);
     ~ReplaySession() override;
     ReplaySession(const ReplaySession &) = delete;
     ReplaySession &operator=(const ReplaySession &) = delete;
+
+    /// Answers why a choice is not to be had, without changing the session; a fault says why it
+    /// cannot.
+    using Explainer = std::function<Result<QJsonObject>(HostSession &, const QString &keyword,
+                                                        const QString &choice)>;
+
+    /// Who answers the event that asks; without one it cannot be carried out.
+    void setExplainer(Explainer explainer) { m_explainer = std::move(explainer); }
 
     /// Runs the event: its line of output, or why the script cannot go on.
     Result<QByteArray> run(const ReplayEvent &event);
@@ -59,6 +77,7 @@ private:
     Work perform(const ReplayWatch &event);
     Work perform(const ReplayPicture &event);
     Work perform(const ReplayPost &event);
+    Work perform(const ReplayWhy &event);
     Work perform(const ReplayPrint &event);
     Work perform(const ReplayState &event);
     Work perform(const ReplayClose &event);
@@ -68,7 +87,9 @@ private:
     void closeSession();
     void didAnswer(const HostCallback::Call &call) override;
 
-    QString m_bundlePath;
+    Likeness m_likeness;
+    QString m_bundlePath; ///< null: the plug-in that is for the printer
+    Explainer m_explainer;
     ReplayPictures m_pictures;
     NotificationLog m_notifications; // registered before any panel
     AlertAnswerer m_answerer;

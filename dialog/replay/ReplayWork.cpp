@@ -144,6 +144,16 @@ ReplaySession::Work ReplaySession::perform(const ReplayPost &event)
     return {};
 }
 
+ReplaySession::Work ReplaySession::perform(const ReplayWhy &event)
+{
+    if (!m_explainer)
+        return {QJsonValue(), u"nothing is explained here"_s, QString()};
+    const Result<QJsonObject> answer = m_explainer(*m_session, event.keyword, event.choice);
+    if (!answer)
+        return {QJsonValue(), answer.sentence(), QString()};
+    return {*answer, QString(), QString()};
+}
+
 ReplaySession::Work ReplaySession::perform(const ReplayPrint &)
 {
     const PrintAnswer answer = m_session->askShouldPrint();

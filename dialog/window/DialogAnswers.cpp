@@ -2,6 +2,8 @@
 #include "dialog/job/Conflicts.h"
 #include "dialog/printing/ChangeWords.h"
 #include "dialog/printing/JobDoubts.h"
+#include "dialog/printing/PanelPicks.h"
+#include "dialog/printing/SettingRequests.h"
 #include "dialog/window/DialogWindow.h"
 #include "dialog/work/Sentences.h"
 
@@ -89,19 +91,36 @@ void DialogWindow::tellEvent()
         return;
     QStringList news{refusal, changes, doubts.sentence};
     news.removeAll(QString());
-    tell(refusal.isNull() ? doubts.kind : NoticeBar::Kind::Warning, joinedSentences(news));
+    tell(refusal.isNull() ? doubts.kind : NoticeBar::Kind::Warning, joinedSentences(news),
+         doubts.offers);
 }
 
 /// What is not as it is shown, or goes with nothing else, and what the plug-in advises.
-DialogWindow::Notice DialogWindow::doubtsToTell() const
+DialogWindow::Notice DialogWindow::doubtsToTell()
 {
     const QStringList doubts = doubtsOf(job());
-    return {doubts.isEmpty() ? NoticeBar::Kind::Information : NoticeBar::Kind::Warning,
-            joinedSentences(doubts + adviceFor(job()))};
+    Notice notice{doubts.isEmpty() ? NoticeBar::Kind::Information : NoticeBar::Kind::Warning, {}};
+    QStringList sentences = doubts;
+    for (const JobAdvice &advice : adviceFor(job())) {
+        sentences += advice.sentence;
+        notice.offers +=
+            {u"adviceButton"_s, tr("Use It"), [this, choice = advice.choice] { choose(choice); }};
+    }
+    notice.sentence = joinedSentences(sentences);
+    return notice;
+}
+
+/// As if the user had picked it in the part that has it, which need not be in front.
+void DialogWindow::choose(const RequestedChoice &choice)
+{
+    m_pick = {choice.keyword, choice.choice};
+    prepareControls(*job().session());
+    makeSetting(job(), choice);
+    noteEvent();
 }
 
 /// What the printer or the documents lack, and the doubts about the settings.
-DialogWindow::Notice DialogWindow::standingNotice() const
+DialogWindow::Notice DialogWindow::standingNotice()
 {
     const Notice doubts = doubtsToTell();
     if (doubts.sentence.isEmpty())
@@ -109,7 +128,7 @@ DialogWindow::Notice DialogWindow::standingNotice() const
     if (m_standing.kind == NoticeBar::Kind::Information)
         return doubts;
     return {m_standing.kind, joinedSentences({m_standing.sentence, doubts.sentence}),
-            m_standing.offer};
+            m_standing.offers + doubts.offers};
 }
 
 /// What has changed since the last look, but for the user's pick.

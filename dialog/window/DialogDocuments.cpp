@@ -1,5 +1,6 @@
 #include "dialog/job/DocumentPatterns.h"
 #include "dialog/job/PipeDocuments.h"
+#include "dialog/window/DialogTabs.h"
 #include "dialog/window/DialogWindow.h"
 #include "dialog/window/JobHeader.h"
 #include "dialog/window/PageSetupPane.h"
@@ -76,7 +77,7 @@ void DialogWindow::takeDocuments()
     const bool hadSavedJob = m_savedJob.has_value();
     takeSavedJob();
     m_header->reload();
-    m_pageSetup->refresh();
+    m_tabs->pageSetup()->refresh();
     if (m_savedJob || hadSavedJob) {
         closePrinter();
         findPrinter(m_savedJob ? firstPrinter() : job().source());

@@ -1,89 +1,30 @@
-#include "dialog/job/JobLayout.h"
-#include "dialog/job/Papers.h"
-#include "dialog/printing/FeaturePicks.h"
+#include "dialog/window/DialogTabs.h"
 #include "dialog/window/DialogWindow.h"
 #include "dialog/window/FeaturesPane.h"
 #include "dialog/window/JobHeader.h"
+#include "dialog/window/JobSummary.h"
 #include "dialog/window/LayoutPane.h"
 #include "dialog/window/Mnemonics.h"
 #include "dialog/window/PageSetupPane.h"
-#include "dialog/window/PanelPane.h"
 #include "dialog/window/ScrolledBody.h"
-#include "dialog/window/SentSettings.h"
-#include "platform/ppd/PPDText.h"
-#include "platform/toolkit/AccessibleName.h"
-#include "platform/toolkit/PlainText.h"
 
-#include <QtCore/QSignalBlocker>
-#include <QtCore/QTimer>
 #include <QtGui/QScreen>
 #include <QtWidgets/QLayout>
 #include <QtWidgets/QPushButton>
 #include <QtWidgets/QTabBar>
-#include <QtWidgets/QTabWidget>
 
 #include <algorithm>
 #include <utility>
-
-using namespace Qt::StringLiterals;
-
-namespace {
-
-constexpr auto kPageSetup = "setup"_L1;
-constexpr auto kFeatures = "features"_L1;
-constexpr auto kLayout = "layout"_L1;
-constexpr auto kSummary = "summary"_L1;
-
-/// Whether the panel has anything to show for this PPD.
-bool hasKeywords(const HostPanel &panel)
-{
-    return !panel.panel->supportedPPDOptionKeys().value_or(QStringList()).isEmpty();
-}
-
-QString tabTitle(const QString &text)
-{
-    return withoutMnemonic(displayText(text));
-}
-
-} // namespace
 
 /// The tabs for the printer that is open now, the first panel in front.
 void DialogWindow::buildParts()
 {
     removeParts();
-    const QSignalBlocker quiet(m_tabs);
-    m_pageSetup->reload();
+    m_tabs->build(m_savedJob.has_value());
     m_header->showJobSettings(!m_savedJob);
-    if (!m_savedJob) {
-        m_parts.push_back({kPageSetup, m_pageSetup, nullptr});
-        m_tabs->addTab(m_pageSetup, tr("Page Setup"));
-    }
-    if (job().session() && !m_savedJob)
-        for (const HostPanel &panel : job().session()->panels()) {
-            if (!hasKeywords(panel))
-                continue;
-            auto *pane = new PanelPane(m_tabs);
-            connect(pane, &PanelPane::viewResized, this,
-                    [this] { QTimer::singleShot(0, this, &DialogWindow::followView); });
-            m_parts.push_back({panel.name, pane, &panel});
-            m_tabs->addTab(pane, tabTitle(panel.panel->panelName()));
-        }
-    if (!m_savedJob && !featuresOf(job()).isEmpty()) {
-        m_parts.push_back({kFeatures, m_features, nullptr});
-        m_tabs->addTab(m_features, tr("Printer Features"));
-    }
-    if (!m_savedJob) {
-        m_layout->reload();
-        m_parts.push_back({kLayout, m_layout, nullptr});
-        m_tabs->addTab(m_layout, tabTitle(tr("Layout & Job")));
-    }
-    m_parts.push_back({kSummary, m_summary, nullptr});
-    giveAccessibleName(m_summary, tr("Summary"));
-    m_tabs->addTab(m_summary, tr("Summary"));
     setTitleWithMnemonic(*m_print, printTitle());
     giveMnemonics(*m_tabs);
     fitToTexts();
-    m_tabs->setCurrentIndex(m_parts.size() > 1 && m_parts[1].panel ? 1 : 0);
     changePart();
     setHeight(std::max(height(), layout()->totalSizeHint().height()));
 }
@@ -91,65 +32,29 @@ void DialogWindow::buildParts()
 void DialogWindow::removeParts()
 {
     m_coversAreListed = false;
-    m_layout->setCoverPages({});
-    const QSignalBlocker quiet(m_tabs);
-    m_shownPanel = nullptr;
-    m_tabs->clear();     // the pages themselves stay
-    m_features->clear(); // before its PPD goes
-    for (const Part &part : m_parts)
-        if (part.panel)
-            delete part.page; // gives the view back to its panel
-    m_parts.clear();
-}
-
-const DialogWindow::Part *DialogWindow::currentPart() const
-{
-    const auto found = std::ranges::find(m_parts, m_tabs->currentWidget(), &Part::page);
-    return found == m_parts.end() ? nullptr : &*found;
-}
-
-bool DialogWindow::showPart(const QString &name)
-{
-    const auto found = std::ranges::find(m_parts, name, &Part::name);
-    if (name.isEmpty() || found == m_parts.end())
-        return false;
-    m_tabs->setCurrentWidget(found->page);
-    return true;
-}
-
-QWidget *DialogWindow::shownPart() const
-{
-    const auto *pane = qobject_cast<PanelPane *>(m_tabs->currentWidget());
-    return pane && pane->view() ? pane->view() : m_tabs->currentWidget();
+    m_tabs->removeParts();
 }
 
 void DialogWindow::changePart()
 {
-    const Part *part = currentPart();
+    const DialogTabs::Part *part = m_tabs->currentPart();
     if (!part)
         return;
     tellEvent(); // what the user has done before
-    hideShownPanel();
-    const bool wasMissing = std::exchange(m_viewIsMissing, false);
-    if (part->panel) {
-        m_shownPanel = part->panel;
-        QWidget *view = job().session()->show(*part->panel);
-        if (view)
-            giveCaptionMnemonics(*view, mnemonicsIn(*this));
-        static_cast<PanelPane *>(part->page)->setView(view);
-        m_viewIsMissing = !view;
-    }
-    if (part->page == m_features)
-        m_features->reload();
-    if (part->page == m_layout)
+    const bool wasMissing = m_tabs->isViewMissing();
+    m_tabs->hidePanel();
+    m_tabs->showPanel();
+    if (part->page == m_tabs->features())
+        m_tabs->features()->reload();
+    if (part->page == m_tabs->layoutPane())
         listCoverPages();
-    if (part->page == m_summary)
-        m_summary->setSections(summarySections());
+    if (part->page == m_tabs->summary())
+        m_tabs->summary()->setSections(summarySections());
     if (!part->panel)
         settleMnemonics(*part->page, mnemonicsIn(*this));
     moveButtonsLast();
-    if (m_viewIsMissing || wasMissing || !m_pageSetup->isAcceptable() ||
-        !m_features->isAcceptable())
+    if (m_tabs->isViewMissing() || wasMissing || !m_tabs->pageSetup()->isAcceptable() ||
+        !m_tabs->features()->isAcceptable())
         tellStanding();
     fitToPart();
     noteOwnEvent();
@@ -163,20 +68,10 @@ void DialogWindow::moveButtonsLast()
             setTabOrder(last, button);
 }
 
-void DialogWindow::hideShownPanel()
-{
-    if (m_shownPanel) {
-        // A panel may read the ticket again behind its user's back: for the summary, say.
-        job().session()->save(*m_shownPanel);
-        job().session()->hide(*m_shownPanel);
-    }
-    m_shownPanel = nullptr;
-}
-
 /// The part that has come in front gets the height that it needs.
 void DialogWindow::fitToPart()
 {
-    const Part *part = currentPart();
+    const DialogTabs::Part *part = m_tabs->currentPart();
     m_partHeight = part ? part->page->sizeHint().height() : 0;
     layout()->activate();
     if (!part || !part->panel)
@@ -190,7 +85,7 @@ void DialogWindow::fitToPart()
 /// hear that the window has come to its size.
 void DialogWindow::followView()
 {
-    const Part *part = currentPart();
+    const DialogTabs::Part *part = m_tabs->currentPart();
     if (!part || !part->panel || !job().session() || !job().session()->isRunning())
         return;
     const int wanted = part->page->sizeHint().height();
@@ -229,59 +124,11 @@ QList<SummarySection> DialogWindow::summarySections()
 {
     if (m_savedJob)
         return savedJobSections();
-    QList<SummarySection> sections;
-    QList<PanelSummary> told;
-    for (const Part &part : m_parts) {
-        if (!part.panel)
-            continue;
-        PDEPanel &panel = *part.panel->panel;
-        const QVariantMap info = job().session()->summary(*part.panel);
-        told += {panel.supportedPPDOptionKeys().value_or(QStringList()), info};
-        sections += sectionOf(panel.panelName(), info);
-    }
-    // Panels may change what is sent while they sum it up.
-    sections.prepend(ownSection());
-    sections += layoutSection();
-    sections += SummarySection{tr("Also Sent"), linesOfTheRest(job(), told)};
-    return sections;
-}
-
-SummarySection DialogWindow::ownSection() const
-{
-    const HostSettings &settings = job().settings();
-    SummarySection own{tr("Page Setup"), {}};
-    if (const std::optional<PMPaper> sheet = job().sheet())
-        own.lines += {tr("Paper in the Printer"), paperText(job().ppd(), *sheet)};
-    if (const std::optional<PMPaper> page = job().documentPage())
-        own.lines += {tr("Document Page"), paperText(job().ppd(), *page)};
-    own.lines += {tr("Scaling"), scalingTitle(settings.scaling, job().scalingCase())};
-    const bool isLandscape = job().orientation() == PMOrientation::Landscape;
-    own.lines += {tr("Orientation"), isLandscape ? tr("Landscape") : tr("Portrait")};
-    own.lines += {tr("Copies"), QString::number(settings.copies)};
-    own.lines += {tr("Pages"), settings.pageRanges.isEmpty() ? tr("All") : settings.pageRanges};
-    for (const QString &keyword : job().ownKeywords()) {
-        ppd_option_t *option = findOption(job().ppd(), keyword);
-        const ppd_choice_t *choice = findChoice(option, markedChoice(job().ppd(), keyword));
-        if (choice)
-            own.lines += {ppdText(option->text), ppdText(choice->text)};
-    }
-    if (job().offersColorMatching()) {
-        const bool byPrinter = job().colorMatching() == PrintJob::ColorMatching::Printer;
-        own.lines +=
-            {tr("Color Management"), byPrinter ? tr("By the Printer") : tr("By the Application")};
-    }
-    return own;
-}
-
-SummarySection DialogWindow::layoutSection() const
-{
-    SummarySection section{tr("Layout & Job"), {}};
-    if (!job().ownTitle().isEmpty())
-        section.lines += {tr("Job Title"), job().ownTitle()};
-    for (const LayoutSetting &setting : layoutSettings())
-        if (const QString &value = job().settings().layout.*setting.value; !value.isEmpty())
-            section.lines += {layoutTitle(setting), layoutText(setting, value)};
-    return section;
+    std::vector<const HostPanel *> panels;
+    for (const DialogTabs::Part &part : m_tabs->parts())
+        if (part.panel)
+            panels.push_back(part.panel);
+    return summaryOf(job(), panels);
 }
 
 /// Once for a printer, when the cover pages can be seen.
@@ -291,6 +138,6 @@ void DialogWindow::listCoverPages()
         return;
     m_controller.listCoverPages([this](const Result<QStringList> &covers) {
         if (covers)
-            m_layout->setCoverPages(*covers);
+            m_tabs->layoutPane()->setCoverPages(*covers);
     });
 }

@@ -159,7 +159,7 @@ void DialogWindow::endSending(const Result<> &outcome, const QString &note)
     if (!outcome)
         tell(outcome.faultKind() == FaultKind::Cancelled ? NoticeBar::Kind::Information
                                                          : NoticeBar::Kind::Error,
-             outcome.sentence(), offerAfter(outcome.fault().kind));
+             outcome.sentence(), offersAfter(outcome.fault().kind));
     else if (note.isNull())
         accept();
     else

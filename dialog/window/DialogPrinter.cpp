@@ -1,4 +1,5 @@
 #include "dialog/job/PipeDocuments.h"
+#include "dialog/window/DialogTabs.h"
 #include "dialog/window/DialogWindow.h"
 #include "dialog/window/JobHeader.h"
 #include "dialog/window/LayoutPane.h"
@@ -16,7 +17,7 @@
 using namespace Qt::StringLiterals;
 
 /// What is offered after a fault: to do the same again, where it may come to another end.
-NoticeBar::Offer DialogWindow::offerAfter(FaultKind fault)
+QList<NoticeOffer> DialogWindow::offersAfter(FaultKind fault)
 {
     switch (fault) {
     case FaultKind::NoPrinter:
@@ -25,9 +26,9 @@ NoticeBar::Offer DialogWindow::offerAfter(FaultKind fault)
     case FaultKind::NotFound:
     case FaultKind::Refused:
     case FaultKind::NeedsPassword:
-        return NoticeBar::Offer::Retry;
+        return {{u"retryButton"_s, tr("Retry"), [this] { retry(); }}};
     default:
-        return NoticeBar::Offer::Nothing;
+        return {};
     }
 }
 
@@ -135,9 +136,9 @@ void DialogWindow::makeRequestedSettings()
         return;
     }
     if (!m_wishes.paper.isNull() || !m_wishes.choices.empty()) {
-        m_pageSetup->reload();
+        m_tabs->pageSetup()->reload();
         moveButtonsLast();
-        m_layout->reload();
+        m_tabs->layoutPane()->reload();
         m_header->reload();
     }
     // After what the picks among them have told.
@@ -156,7 +157,7 @@ void DialogWindow::endWithoutPanel()
 }
 
 /// What is told as long as it is true and nothing newer is to be told.
-DialogWindow::Notice DialogWindow::standing() const
+DialogWindow::Notice DialogWindow::standing()
 {
     Notice missing = whatIsMissing();
     if (!m_choice || missing.kind != NoticeBar::Kind::Information)
@@ -167,11 +168,11 @@ DialogWindow::Notice DialogWindow::standing() const
     return missing;
 }
 
-DialogWindow::Notice DialogWindow::whatIsMissing() const
+DialogWindow::Notice DialogWindow::whatIsMissing()
 {
     using Kind = NoticeBar::Kind;
     if (!m_printerState)
-        return {Kind::Error, m_printerState.sentence(), offerAfter(m_printerState.fault().kind)};
+        return {Kind::Error, m_printerState.sentence(), offersAfter(m_printerState.fault().kind)};
     if (m_header->printers()->isCurrentGone())
         return {Kind::Warning, tr("The printer %1 is no longer on the print server. Choose another "
                                   "one; the settings of this job stay.")

@@ -2,6 +2,7 @@
 
 #include "dialog/job/PipeDocuments.h"
 #include "dialog/window/ButtonRow.h"
+#include "dialog/window/DialogTabs.h"
 #include "dialog/window/FeaturesPane.h"
 #include "dialog/window/HostHelp.h"
 #include "dialog/window/JobHeader.h"
@@ -21,7 +22,6 @@
 #include <QtGui/QShortcut>
 #include <QtWidgets/QApplication>
 #include <QtWidgets/QPushButton>
-#include <QtWidgets/QTabWidget>
 #include <QtWidgets/QVBoxLayout>
 
 using namespace Qt::StringLiterals;
@@ -74,16 +74,8 @@ void DialogWindow::buildLayout()
     m_header = new JobHeader(job(), this);
     m_notice = new NoticeBar(this);
     m_progress = new ProgressStrip(this);
-    m_tabs = new QTabWidget(this);
-    m_tabs->setObjectName(u"parts"_s);
+    m_tabs = new DialogTabs(job(), this);
     m_body = newBody();
-    m_pageSetup = new PageSetupPane(job(), this);
-    m_features = new FeaturesPane(job(), this);
-    m_layout = new LayoutPane(job(), this);
-    for (QWidget *pane : {static_cast<QWidget *>(m_pageSetup), static_cast<QWidget *>(m_features),
-                          static_cast<QWidget *>(m_layout)})
-        pane->hide(); // a tab only where there is something to show
-    m_summary = new SummaryPane;
     auto *layout = new QVBoxLayout(this);
     layout->setContentsMargins(kWindowMargin, kWindowMargin, kWindowMargin, kWindowMargin);
     layout->setSpacing(kWindowMargin);
@@ -94,18 +86,19 @@ void DialogWindow::buildLayout()
     addPartShortcut(QKeySequence::NextChild, 1);
     addPartShortcut(QKeySequence::PreviousChild, -1);
     connect(m_tabs, &QTabWidget::currentChanged, this, &DialogWindow::changePart);
-    connect(m_notice, &NoticeBar::retryWanted, this, &DialogWindow::retry);
+    connect(m_tabs, &DialogTabs::viewResized, this,
+            [this] { QTimer::singleShot(0, this, &DialogWindow::followView); });
     connect(&m_watch, &PrinterWatch::listed, this, &DialogWindow::takeList);
     connect(m_header, &JobHeader::documentsWanted, this, &DialogWindow::chooseDocuments);
     connect(m_header, &JobHeader::changed, this, &DialogWindow::tellStanding);
-    connect(m_pageSetup, &PageSetupPane::changed, this, &DialogWindow::tellStanding);
-    connect(m_layout, &LayoutPane::changed, this, &DialogWindow::tellStanding);
-    connect(m_pageSetup, &PageSetupPane::refused, this, [this](const QString &sentence) {
+    connect(m_tabs->pageSetup(), &PageSetupPane::changed, this, &DialogWindow::tellStanding);
+    connect(m_tabs->layoutPane(), &LayoutPane::changed, this, &DialogWindow::tellStanding);
+    connect(m_tabs->pageSetup(), &PageSetupPane::refused, this, [this](const QString &sentence) {
         tellEvent(); // what was before
         tell(NoticeBar::Kind::Warning, sentence);
     });
-    connect(m_features, &FeaturesPane::changed, this, &DialogWindow::tellStanding);
-    connect(m_features, &FeaturesPane::refused, this, [this](const QString &sentence) {
+    connect(m_tabs->features(), &FeaturesPane::changed, this, &DialogWindow::tellStanding);
+    connect(m_tabs->features(), &FeaturesPane::refused, this, [this](const QString &sentence) {
         tellEvent(); // what was before
         tell(NoticeBar::Kind::Warning, sentence);
     });
@@ -216,7 +209,8 @@ bool DialogWindow::mayPrint() const
 {
     return m_state == State::Ready && m_documentState && !job().documents().empty() &&
            !hasPipes(job().documents()) && m_header->isAcceptable() &&
-           m_pageSetup->isAcceptable() && m_features->isAcceptable() && m_layout->isAcceptable();
+           m_tabs->pageSetup()->isAcceptable() && m_tabs->features()->isAcceptable() &&
+           m_tabs->layoutPane()->isAcceptable();
 }
 
 void DialogWindow::updateButtons()
@@ -227,18 +221,19 @@ void DialogWindow::updateButtons()
     m_save->setVisible(m_wishes.output.isNull() && !m_savedJob);
 }
 
-void DialogWindow::tell(NoticeBar::Kind kind, const QString &sentence, NoticeBar::Offer offer)
+void DialogWindow::tell(NoticeBar::Kind kind, const QString &sentence,
+                        const QList<NoticeOffer> &offers)
 {
-    m_notice->tell(kind, sentence, offer);
+    m_notice->tell(kind, sentence, offers);
 }
 
 /// Shows what is still true, in place of what was news.
 void DialogWindow::tellStanding()
 {
     const QWidget *shown = m_tabs->currentWidget();
-    const bool hidesFault = !m_pageSetup->isAcceptable() && shown != m_pageSetup;
-    const bool hidesFeature = !m_features->isAcceptable() && shown != m_features;
-    if (m_viewIsMissing)
+    const bool hidesFault = !m_tabs->pageSetup()->isAcceptable() && shown != m_tabs->pageSetup();
+    const bool hidesFeature = !m_tabs->features()->isAcceptable() && shown != m_tabs->features();
+    if (m_tabs->isViewMissing())
         tell(NoticeBar::Kind::Error,
              tr("The settings of this panel cannot be shown: a part of the plug-in is "
                 "missing. Install Velkaro Print again."));
@@ -252,13 +247,23 @@ void DialogWindow::tellStanding()
     else if (const Notice standing = standingNotice(); standing.sentence.isEmpty())
         m_notice->clear();
     else
-        tell(standing.kind, standing.sentence, standing.offer);
+        tell(standing.kind, standing.sentence, standing.offers);
     updateButtons();
+}
+
+bool DialogWindow::showPart(const QString &name)
+{
+    return m_tabs->showPart(name);
+}
+
+QWidget *DialogWindow::shownPart() const
+{
+    return m_tabs->shownPart();
 }
 
 void DialogWindow::showHelp()
 {
-    const Part *part = currentPart();
+    const DialogTabs::Part *part = m_tabs->currentPart();
     const bool ownHelp = !part || !part->panel || job().session()->help(*part->panel);
     if (ownHelp)
         showHostHelp(this);

@@ -15,15 +15,11 @@
 #include <optional>
 #include <vector>
 
-class FeaturesPane;
+class DialogTabs;
 class JobHeader;
-class LayoutPane;
-class PageSetupPane;
-class PanelPane;
 class ProgressStrip;
 class ScrolledBody;
 class QPushButton;
-class QTabWidget;
 
 /// The print dialog: printer, page setup, the plug-in's panels, the summary, and Print.
 ///
@@ -97,15 +93,7 @@ private:
     {
         NoticeBar::Kind kind = NoticeBar::Kind::Information;
         QString sentence; ///< null: nothing to tell
-        NoticeBar::Offer offer = NoticeBar::Offer::Nothing;
-    };
-
-    /// A tab of the dialog.
-    struct Part
-    {
-        QString name;
-        QWidget *page = nullptr;
-        const HostPanel *panel = nullptr; // of the session; null for the dialog's own parts
+        QList<NoticeOffer> offers = {};
     };
 
     // DialogWindow.cpp
@@ -116,8 +104,7 @@ private:
     QString printTitle() const;
     void setState(State state);
     void updateButtons();
-    void tell(NoticeBar::Kind kind, const QString &sentence,
-              NoticeBar::Offer offer = NoticeBar::Offer::Nothing);
+    void tell(NoticeBar::Kind kind, const QString &sentence, const QList<NoticeOffer> &offers = {});
     void tellStanding();
     bool mayPrint() const;
     void showHelp();
@@ -132,8 +119,9 @@ private:
     void noteEvent();
     void noteOwnEvent();
     void tellEvent();
-    Notice doubtsToTell() const;
-    Notice standingNotice() const;
+    Notice doubtsToTell();
+    Notice standingNotice();
+    void choose(const RequestedChoice &choice);
     QList<SettingChange> takeChanges();
 
     // DialogDocuments.cpp
@@ -155,32 +143,28 @@ private:
     void findPrinter(const PrinterSource &source);
     void beginSearch(const PrinterSource &source);
     void retry();
-    static NoticeBar::Offer offerAfter(FaultKind fault);
+    QList<NoticeOffer> offersAfter(FaultKind fault);
     static QString waitFor(const PrinterSource &source);
     void takePrinter(const Result<FoundPrinter> &found);
     void showPrinter();
     void makeRequestedSettings();
     void endWithoutPanel();
-    Notice standing() const;
-    Notice whatIsMissing() const;
+    Notice standing();
+    Notice whatIsMissing();
     void watchPrinters();
     void takeList(const Result<QList<Destination>> &list);
 
     // DialogParts.cpp
     void buildParts();
     void removeParts();
-    const Part *currentPart() const;
     void changePart();
     void moveButtonsLast();
-    void hideShownPanel();
     void fitToPart();
     void followView();
     void fitToTexts();
     void setWidth(int width);
     void setHeight(int height);
     QList<SummarySection> summarySections();
-    SummarySection ownSection() const;
-    SummarySection layoutSection() const;
     void listCoverPages();
 
     // DialogPresets.cpp
@@ -233,19 +217,12 @@ private:
     JobHeader *m_header;
     NoticeBar *m_notice;
     ProgressStrip *m_progress;
-    QTabWidget *m_tabs;
+    DialogTabs *m_tabs;
     ScrolledBody *m_body = nullptr; ///< all but the buttons
     QWidget *m_buttons = nullptr;
-    PageSetupPane *m_pageSetup;
-    FeaturesPane *m_features;
-    LayoutPane *m_layout;
-    SummaryPane *m_summary;
     QPushButton *m_help = nullptr;
     QPushButton *m_save = nullptr;
     QPushButton *m_cancel = nullptr;
     QPushButton *m_print = nullptr;
-    std::vector<Part> m_parts;
-    const HostPanel *m_shownPanel = nullptr;
-    bool m_viewIsMissing = false; ///< of the panel in m_shownPanel
     int m_partHeight = 0;
 };

@@ -1,5 +1,6 @@
 #include "dialog/window/NoticeBar.h"
 
+#include "dialog/window/Mnemonics.h"
 #include "dialog/window/NoticeLabel.h"
 #include "dialog/window/NoticeSign.h"
 #include "platform/toolkit/AccessibleName.h"
@@ -12,6 +13,7 @@
 #include <QtWidgets/QPushButton>
 
 #include <array>
+#include <utility>
 
 namespace {
 
@@ -48,48 +50,65 @@ NoticeBar::NoticeBar(QWidget *parent)
     : QFrame(parent),
       m_sign(new NoticeSign(this)),
       m_label(new NoticeLabel(this)),
-      m_retry(new QPushButton(tr("&Retry"), this))
+      m_layout(new QHBoxLayout(this))
 {
     setObjectName(QStringLiteral("noticeBar"));
     giveAccessibleRole("NoticeBar", QAccessible::AlertMessage);
     m_label->setObjectName(QStringLiteral("noticeLabel"));
-    m_retry->setObjectName(QStringLiteral("retryButton"));
-    m_retry->setAutoDefault(false);
-    auto *layout = new QHBoxLayout(this);
-    layout->setContentsMargins(10, 6, 10, 6);
-    layout->setSpacing(10);
-    layout->addWidget(m_sign);
-    layout->addWidget(m_label, 1);
-    layout->addWidget(m_retry);
-    connect(m_retry, &QPushButton::clicked, this, &NoticeBar::retryWanted);
+    m_layout->setContentsMargins(10, 6, 10, 6);
+    m_layout->setSpacing(10);
+    m_layout->addWidget(m_sign);
+    m_layout->addWidget(m_label, 1);
     clear();
 }
 
-void NoticeBar::tell(Kind kind, const QString &sentence, Offer offer)
+void NoticeBar::tell(Kind kind, const QString &sentence, const QList<NoticeOffer> &offers)
 {
     m_kind = kind;
     m_sentence = displayText(sentence);
     m_sign->setSign(lookOf(kind).mark, QColor::fromRgb(lookOf(kind).accent));
     applyColors();
-    showSentence(m_sentence, offer);
+    showSentence(m_sentence);
+    showOffers(offers);
     announce(this);
 }
 
 void NoticeBar::clear()
 {
     m_sentence = QString();
-    showSentence(QString(), Offer::Nothing);
+    showSentence(QString());
+    showOffers({});
 }
 
 /// The room stays when there is nothing to show in it.
-void NoticeBar::showSentence(const QString &sentence, Offer offer)
+void NoticeBar::showSentence(const QString &sentence)
 {
     setLabelText(m_label, sentence);
     giveAccessibleName(this, sentence);
     setAutoFillBackground(!sentence.isEmpty());
     m_sign->setVisible(!sentence.isEmpty());
-    m_retry->setVisible(offer == Offer::Retry);
     update();
+}
+
+/// One of the former buttons may be in the midst of its click: until it goes it is nobody.
+void NoticeBar::showOffers(const QList<NoticeOffer> &offers)
+{
+    for (QPushButton *button : std::exchange(m_buttons, {})) {
+        button->hide();
+        button->setObjectName(QString());
+        setButtonTitle(button, QString());
+        button->deleteLater();
+    }
+    for (const NoticeOffer &offer : offers) {
+        auto *button = new QPushButton(this);
+        button->setObjectName(offer.name);
+        setTitleWithMnemonic(*button, withoutMnemonic(displayText(offer.title)));
+        button->setAutoDefault(false);
+        connect(button, &QPushButton::clicked, this, offer.take);
+        m_layout->addWidget(button);
+        button->show();
+        m_buttons += button;
+    }
 }
 
 void NoticeBar::changeEvent(QEvent *event)

@@ -1,10 +1,22 @@
 #pragma once
 
+#include <QtCore/QList>
 #include <QtWidgets/QFrame>
+
+#include <functional>
 
 class NoticeLabel;
 class NoticeSign;
+class QHBoxLayout;
 class QPushButton;
+
+/// What a person can do about what is told, as a button beside it.
+struct NoticeOffer
+{
+    QString name;  ///< of the button
+    QString title; ///< plain text, without a mnemonic
+    std::function<void()> take;
+};
 
 /// A strip that tells one thing at a time, in plain text: what the dialog waits for, why a choice
 /// was refused, what went wrong. It has the room of an ordinary sentence whether or not there is
@@ -16,31 +28,28 @@ class NoticeBar : public QFrame
 
 public:
     enum class Kind { Information, Warning, Error };
-    enum class Offer { Nothing, Retry };
 
     explicit NoticeBar(QWidget *parent = nullptr);
 
-    void tell(Kind kind, const QString &sentence, Offer offer = Offer::Nothing);
+    void tell(Kind kind, const QString &sentence, const QList<NoticeOffer> &offers = {});
     void clear();
 
     /// Null while there is nothing to tell.
     QString sentence() const { return m_sentence; }
     Kind kind() const { return m_kind; }
 
-Q_SIGNALS:
-    /// The user takes up the offer.
-    void retryWanted();
-
 protected:
     void changeEvent(QEvent *event) override;
 
 private:
-    void showSentence(const QString &sentence, Offer offer);
+    void showSentence(const QString &sentence);
+    void showOffers(const QList<NoticeOffer> &offers);
     void applyColors();
 
     NoticeSign *m_sign;
     NoticeLabel *m_label;
-    QPushButton *m_retry;
+    QHBoxLayout *m_layout;
+    QList<QPushButton *> m_buttons; ///< one for each offer
     Kind m_kind = Kind::Information;
     QString m_sentence;
 };

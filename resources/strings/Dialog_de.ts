@@ -161,76 +161,24 @@
 <context>
     <name>DialogWindow</name>
     <message>
+        <source>Retry</source>
+        <translation>Erneut versuchen</translation>
+    </message>
+    <message>
+        <source>Use It</source>
+        <translation>Verwenden</translation>
+    </message>
+    <message>
         <source>Velkaro Print</source>
         <translation>Velkaro Print</translation>
-    </message>
-    <message>
-        <source>Page Setup</source>
-        <translation>Seite einrichten</translation>
-    </message>
-    <message>
-        <source>Summary</source>
-        <translation>Zusammenfassung</translation>
-    </message>
-    <message>
-        <source>Also Sent</source>
-        <translation>Wird auch gesendet</translation>
     </message>
     <message>
         <source>The settings of this panel cannot be shown: a part of the plug-in is missing. Install Velkaro Print again.</source>
         <translation>Die Einstellungen dieses Bereichs können nicht angezeigt werden: Ein Teil des Plug-ins fehlt. Installieren Sie Velkaro Print neu.</translation>
     </message>
     <message>
-        <source>Paper in the Printer</source>
-        <translation>Papier im Drucker</translation>
-    </message>
-    <message>
         <source>The printer cannot take the paper size in Page Setup. Correct it there to print.</source>
         <translation>Der Drucker kann das Papierformat unter „Seite einrichten“ nicht verarbeiten. Ändern Sie es dort, um zu drucken.</translation>
-    </message>
-    <message>
-        <source>Color Management</source>
-        <translation>Farbverwaltung</translation>
-    </message>
-    <message>
-        <source>By the Printer</source>
-        <translation>Durch den Drucker</translation>
-    </message>
-    <message>
-        <source>By the Application</source>
-        <translation>Durch die Anwendung</translation>
-    </message>
-    <message>
-        <source>Document Page</source>
-        <translation>Seite des Dokuments</translation>
-    </message>
-    <message>
-        <source>Scaling</source>
-        <translation>Skalierung</translation>
-    </message>
-    <message>
-        <source>Orientation</source>
-        <translation>Ausrichtung</translation>
-    </message>
-    <message>
-        <source>Landscape</source>
-        <translation>Querformat</translation>
-    </message>
-    <message>
-        <source>Portrait</source>
-        <translation>Hochformat</translation>
-    </message>
-    <message>
-        <source>Copies</source>
-        <translation>Exemplare</translation>
-    </message>
-    <message>
-        <source>Pages</source>
-        <translation>Seiten</translation>
-    </message>
-    <message>
-        <source>All</source>
-        <translation>Alle</translation>
     </message>
     <message>
         <source>Save Job</source>
@@ -341,18 +289,6 @@
         <translation>Fortfahren</translation>
     </message>
     <message>
-        <source>Layout &amp; Job</source>
-        <translation>Layout &amp; Auftrag</translation>
-    </message>
-    <message>
-        <source>Job Title</source>
-        <translation>Auftragstitel</translation>
-    </message>
-    <message>
-        <source>Printer Features</source>
-        <translation>Druckerfunktionen</translation>
-    </message>
-    <message>
         <source>A value in Printer Features cannot be used. Correct it there to print.</source>
         <translation>Ein Wert in „Druckerfunktionen“ kann nicht verwendet werden. Berichtigen Sie ihn dort, um zu drucken.</translation>
     </message>
@@ -411,6 +347,25 @@
     <message>
         <source>Settings</source>
         <translation>Einstellungen</translation>
+    </message>
+</context>
+<context>
+    <name>DialogTabs</name>
+    <message>
+        <source>Page Setup</source>
+        <translation>Seite einrichten</translation>
+    </message>
+    <message>
+        <source>Printer Features</source>
+        <translation>Druckerfunktionen</translation>
+    </message>
+    <message>
+        <source>Layout &amp; Job</source>
+        <translation>Layout &amp; Auftrag</translation>
+    </message>
+    <message>
+        <source>Summary</source>
+        <translation>Zusammenfassung</translation>
     </message>
 </context>
 <context>
@@ -966,6 +921,73 @@
     </message>
 </context>
 <context>
+    <name>JobSummary</name>
+    <message>
+        <source>Page Setup</source>
+        <translation>Seite einrichten</translation>
+    </message>
+    <message>
+        <source>Paper in the Printer</source>
+        <translation>Papier im Drucker</translation>
+    </message>
+    <message>
+        <source>Document Page</source>
+        <translation>Seite des Dokuments</translation>
+    </message>
+    <message>
+        <source>Scaling</source>
+        <translation>Skalierung</translation>
+    </message>
+    <message>
+        <source>Orientation</source>
+        <translation>Ausrichtung</translation>
+    </message>
+    <message>
+        <source>Landscape</source>
+        <translation>Querformat</translation>
+    </message>
+    <message>
+        <source>Portrait</source>
+        <translation>Hochformat</translation>
+    </message>
+    <message>
+        <source>Copies</source>
+        <translation>Exemplare</translation>
+    </message>
+    <message>
+        <source>Pages</source>
+        <translation>Seiten</translation>
+    </message>
+    <message>
+        <source>All</source>
+        <translation>Alle</translation>
+    </message>
+    <message>
+        <source>Color Management</source>
+        <translation>Farbverwaltung</translation>
+    </message>
+    <message>
+        <source>By the Printer</source>
+        <translation>Durch den Drucker</translation>
+    </message>
+    <message>
+        <source>By the Application</source>
+        <translation>Durch die Anwendung</translation>
+    </message>
+    <message>
+        <source>Layout &amp; Job</source>
+        <translation>Layout &amp; Auftrag</translation>
+    </message>
+    <message>
+        <source>Job Title</source>
+        <translation>Auftragstitel</translation>
+    </message>
+    <message>
+        <source>Also Sent</source>
+        <translation>Wird auch gesendet</translation>
+    </message>
+</context>
+<context>
     <name>LayoutPane</name>
     <message>
         <source>%1:</source>
@@ -1048,13 +1070,6 @@
     <message>
         <source>Page %1 is beyond the document's last page, %2.</source>
         <translation>Seite %1 liegt hinter der letzten Seite des Dokuments, %2.</translation>
-    </message>
-</context>
-<context>
-    <name>NoticeBar</name>
-    <message>
-        <source>&amp;Retry</source>
-        <translation>Erneut &amp;versuchen</translation>
     </message>
 </context>
 <context>
@@ -2016,6 +2031,53 @@
     <message>
         <source>no name is free</source>
         <translation>kein Name ist frei</translation>
+    </message>
+</context>
+<context>
+    <name>RemedyWords</name>
+    <message>
+        <source>%1, %2</source>
+        <translation>%1, %2</translation>
+    </message>
+    <message>
+        <source>%1 and %2</source>
+        <translation>%1 und %2</translation>
+    </message>
+    <message>
+        <source>, </source>
+        <translation>, </translation>
+    </message>
+    <message>
+        <source>%1 and %2 more</source>
+        <translation>%1 und %2 weitere</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>%1 is there for %2.</source>
+        <translation>%1 ist bei %2 verfügbar.</translation>
+    </message>
+    <message>
+        <source>%1 is not there for %2. It is there for %3.</source>
+        <translation>%1 ist bei %2 nicht verfügbar. Verfügbar ist es bei %3.</translation>
+    </message>
+    <message>
+        <source>%1 is not there for %2. It is there with %3.</source>
+        <translation>%1 ist bei %2 nicht verfügbar. Verfügbar ist es mit %3.</translation>
+    </message>
+    <message>
+        <source>%1 can be chosen.</source>
+        <translation>%1 kann gewählt werden.</translation>
+    </message>
+    <message>
+        <source>No setting of this printer gives %1.</source>
+        <translation>Keine Einstellung dieses Druckers ermöglicht %1.</translation>
+    </message>
+    <message>
+        <source>There are too many conditions to explain why %1 is not there.</source>
+        <translation>Es sind zu viele Bedingungen, um zu erklären, warum %1 nicht verfügbar ist.</translation>
     </message>
 </context>
 <context>

@@ -161,76 +161,24 @@
 <context>
     <name>DialogWindow</name>
     <message>
+        <source>Retry</source>
+        <translation>Réessayer</translation>
+    </message>
+    <message>
+        <source>Use It</source>
+        <translation>Utiliser</translation>
+    </message>
+    <message>
         <source>Velkaro Print</source>
         <translation>Velkaro Print</translation>
-    </message>
-    <message>
-        <source>Page Setup</source>
-        <translation>Mise en page</translation>
-    </message>
-    <message>
-        <source>Summary</source>
-        <translation>Récapitulatif</translation>
-    </message>
-    <message>
-        <source>Also Sent</source>
-        <translation>Également envoyé</translation>
     </message>
     <message>
         <source>The settings of this panel cannot be shown: a part of the plug-in is missing. Install Velkaro Print again.</source>
         <translation>Les réglages de ce volet ne peuvent pas être affichés : une partie du module est absente. Réinstallez Velkaro Print.</translation>
     </message>
     <message>
-        <source>Paper in the Printer</source>
-        <translation>Papier dans l’imprimante</translation>
-    </message>
-    <message>
         <source>The printer cannot take the paper size in Page Setup. Correct it there to print.</source>
         <translation>L’imprimante n’accepte pas le format de papier indiqué dans « Mise en page ». Corrigez-le pour imprimer.</translation>
-    </message>
-    <message>
-        <source>Color Management</source>
-        <translation>Gestion des couleurs</translation>
-    </message>
-    <message>
-        <source>By the Printer</source>
-        <translation>Par l’imprimante</translation>
-    </message>
-    <message>
-        <source>By the Application</source>
-        <translation>Par l’application</translation>
-    </message>
-    <message>
-        <source>Document Page</source>
-        <translation>Page du document</translation>
-    </message>
-    <message>
-        <source>Scaling</source>
-        <translation>Mise à l’échelle</translation>
-    </message>
-    <message>
-        <source>Orientation</source>
-        <translation>Orientation</translation>
-    </message>
-    <message>
-        <source>Landscape</source>
-        <translation>Paysage</translation>
-    </message>
-    <message>
-        <source>Portrait</source>
-        <translation>Portrait</translation>
-    </message>
-    <message>
-        <source>Copies</source>
-        <translation>Copies</translation>
-    </message>
-    <message>
-        <source>Pages</source>
-        <translation>Pages</translation>
-    </message>
-    <message>
-        <source>All</source>
-        <translation>Toutes</translation>
     </message>
     <message>
         <source>Save Job</source>
@@ -341,18 +289,6 @@
         <translation>Poursuivre</translation>
     </message>
     <message>
-        <source>Layout &amp; Job</source>
-        <translation>Mise en page &amp; travail</translation>
-    </message>
-    <message>
-        <source>Job Title</source>
-        <translation>Titre du travail</translation>
-    </message>
-    <message>
-        <source>Printer Features</source>
-        <translation>Fonctions de l’imprimante</translation>
-    </message>
-    <message>
         <source>A value in Printer Features cannot be used. Correct it there to print.</source>
         <translation>Une valeur dans « Fonctions de l’imprimante » ne peut pas être utilisée. Corrigez-la pour imprimer.</translation>
     </message>
@@ -411,6 +347,25 @@
     <message>
         <source>Settings</source>
         <translation>Réglages</translation>
+    </message>
+</context>
+<context>
+    <name>DialogTabs</name>
+    <message>
+        <source>Page Setup</source>
+        <translation>Mise en page</translation>
+    </message>
+    <message>
+        <source>Printer Features</source>
+        <translation>Fonctions de l’imprimante</translation>
+    </message>
+    <message>
+        <source>Layout &amp; Job</source>
+        <translation>Mise en page &amp; travail</translation>
+    </message>
+    <message>
+        <source>Summary</source>
+        <translation>Récapitulatif</translation>
     </message>
 </context>
 <context>
@@ -966,6 +921,73 @@
     </message>
 </context>
 <context>
+    <name>JobSummary</name>
+    <message>
+        <source>Page Setup</source>
+        <translation>Mise en page</translation>
+    </message>
+    <message>
+        <source>Paper in the Printer</source>
+        <translation>Papier dans l’imprimante</translation>
+    </message>
+    <message>
+        <source>Document Page</source>
+        <translation>Page du document</translation>
+    </message>
+    <message>
+        <source>Scaling</source>
+        <translation>Mise à l’échelle</translation>
+    </message>
+    <message>
+        <source>Orientation</source>
+        <translation>Orientation</translation>
+    </message>
+    <message>
+        <source>Landscape</source>
+        <translation>Paysage</translation>
+    </message>
+    <message>
+        <source>Portrait</source>
+        <translation>Portrait</translation>
+    </message>
+    <message>
+        <source>Copies</source>
+        <translation>Copies</translation>
+    </message>
+    <message>
+        <source>Pages</source>
+        <translation>Pages</translation>
+    </message>
+    <message>
+        <source>All</source>
+        <translation>Toutes</translation>
+    </message>
+    <message>
+        <source>Color Management</source>
+        <translation>Gestion des couleurs</translation>
+    </message>
+    <message>
+        <source>By the Printer</source>
+        <translation>Par l’imprimante</translation>
+    </message>
+    <message>
+        <source>By the Application</source>
+        <translation>Par l’application</translation>
+    </message>
+    <message>
+        <source>Layout &amp; Job</source>
+        <translation>Mise en page &amp; travail</translation>
+    </message>
+    <message>
+        <source>Job Title</source>
+        <translation>Titre du travail</translation>
+    </message>
+    <message>
+        <source>Also Sent</source>
+        <translation>Également envoyé</translation>
+    </message>
+</context>
+<context>
     <name>LayoutPane</name>
     <message>
         <source>%1:</source>
@@ -1048,13 +1070,6 @@
     <message>
         <source>Page %1 is beyond the document's last page, %2.</source>
         <translation>La page %1 dépasse la dernière page du document, %2.</translation>
-    </message>
-</context>
-<context>
-    <name>NoticeBar</name>
-    <message>
-        <source>&amp;Retry</source>
-        <translation>&amp;Réessayer</translation>
     </message>
 </context>
 <context>
@@ -2016,6 +2031,53 @@
     <message>
         <source>no name is free</source>
         <translation>aucun nom n’est libre</translation>
+    </message>
+</context>
+<context>
+    <name>RemedyWords</name>
+    <message>
+        <source>%1, %2</source>
+        <translation>%1, %2</translation>
+    </message>
+    <message>
+        <source>%1 and %2</source>
+        <translation>%1 et %2</translation>
+    </message>
+    <message>
+        <source>, </source>
+        <translation>, </translation>
+    </message>
+    <message>
+        <source>%1 and %2 more</source>
+        <translation>%1 et %2 autres</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1 : %2</translation>
+    </message>
+    <message>
+        <source>%1 is there for %2.</source>
+        <translation>%1 est possible avec %2.</translation>
+    </message>
+    <message>
+        <source>%1 is not there for %2. It is there for %3.</source>
+        <translation>%1 n'est pas possible avec %2, mais avec %3.</translation>
+    </message>
+    <message>
+        <source>%1 is not there for %2. It is there with %3.</source>
+        <translation>%1 n'est pas possible avec %2. Il faut pour cela %3.</translation>
+    </message>
+    <message>
+        <source>%1 can be chosen.</source>
+        <translation>%1 peut être choisi.</translation>
+    </message>
+    <message>
+        <source>No setting of this printer gives %1.</source>
+        <translation>Aucun réglage de cette imprimante ne permet %1.</translation>
+    </message>
+    <message>
+        <source>There are too many conditions to explain why %1 is not there.</source>
+        <translation>Il y a trop de conditions pour expliquer pourquoi %1 n'est pas possible.</translation>
     </message>
 </context>
 <context>

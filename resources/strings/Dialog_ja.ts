@@ -161,76 +161,24 @@
 <context>
     <name>DialogWindow</name>
     <message>
+        <source>Retry</source>
+        <translation>再試行</translation>
+    </message>
+    <message>
+        <source>Use It</source>
+        <translation>これを使う</translation>
+    </message>
+    <message>
         <source>Velkaro Print</source>
         <translation>Velkaro Print</translation>
-    </message>
-    <message>
-        <source>Page Setup</source>
-        <translation>ページ設定</translation>
-    </message>
-    <message>
-        <source>Summary</source>
-        <translation>設定一覧</translation>
-    </message>
-    <message>
-        <source>Also Sent</source>
-        <translation>あわせて送られる設定</translation>
     </message>
     <message>
         <source>The settings of this panel cannot be shown: a part of the plug-in is missing. Install Velkaro Print again.</source>
         <translation>プラグインの一部が見つからないため、この設定画面を表示できません。Velkaro Print をインストールし直してください。</translation>
     </message>
     <message>
-        <source>Paper in the Printer</source>
-        <translation>プリンターの用紙</translation>
-    </message>
-    <message>
         <source>The printer cannot take the paper size in Page Setup. Correct it there to print.</source>
         <translation>「ページ設定」の用紙サイズは、このプリンターでは使用できません。印刷するには、サイズを直してください。</translation>
-    </message>
-    <message>
-        <source>Color Management</source>
-        <translation>カラーマネージメント</translation>
-    </message>
-    <message>
-        <source>By the Printer</source>
-        <translation>プリンター</translation>
-    </message>
-    <message>
-        <source>By the Application</source>
-        <translation>アプリケーション</translation>
-    </message>
-    <message>
-        <source>Document Page</source>
-        <translation>文書のページ</translation>
-    </message>
-    <message>
-        <source>Scaling</source>
-        <translation>拡大縮小</translation>
-    </message>
-    <message>
-        <source>Orientation</source>
-        <translation>向き</translation>
-    </message>
-    <message>
-        <source>Landscape</source>
-        <translation>横</translation>
-    </message>
-    <message>
-        <source>Portrait</source>
-        <translation>縦</translation>
-    </message>
-    <message>
-        <source>Copies</source>
-        <translation>部数</translation>
-    </message>
-    <message>
-        <source>Pages</source>
-        <translation>ページ</translation>
-    </message>
-    <message>
-        <source>All</source>
-        <translation>すべて</translation>
     </message>
     <message>
         <source>Save Job</source>
@@ -341,18 +289,6 @@
         <translation>続ける</translation>
     </message>
     <message>
-        <source>Layout &amp; Job</source>
-        <translation>レイアウト &amp; ジョブ</translation>
-    </message>
-    <message>
-        <source>Job Title</source>
-        <translation>ジョブのタイトル</translation>
-    </message>
-    <message>
-        <source>Printer Features</source>
-        <translation>プリンターの機能</translation>
-    </message>
-    <message>
         <source>A value in Printer Features cannot be used. Correct it there to print.</source>
         <translation>「プリンターの機能」に使えない値があります。印刷するには直してください。</translation>
     </message>
@@ -411,6 +347,25 @@
     <message>
         <source>Settings</source>
         <translation>設定</translation>
+    </message>
+</context>
+<context>
+    <name>DialogTabs</name>
+    <message>
+        <source>Page Setup</source>
+        <translation>ページ設定</translation>
+    </message>
+    <message>
+        <source>Printer Features</source>
+        <translation>プリンターの機能</translation>
+    </message>
+    <message>
+        <source>Layout &amp; Job</source>
+        <translation>レイアウト &amp; ジョブ</translation>
+    </message>
+    <message>
+        <source>Summary</source>
+        <translation>設定一覧</translation>
     </message>
 </context>
 <context>
@@ -966,6 +921,73 @@
     </message>
 </context>
 <context>
+    <name>JobSummary</name>
+    <message>
+        <source>Page Setup</source>
+        <translation>ページ設定</translation>
+    </message>
+    <message>
+        <source>Paper in the Printer</source>
+        <translation>プリンターの用紙</translation>
+    </message>
+    <message>
+        <source>Document Page</source>
+        <translation>文書のページ</translation>
+    </message>
+    <message>
+        <source>Scaling</source>
+        <translation>拡大縮小</translation>
+    </message>
+    <message>
+        <source>Orientation</source>
+        <translation>向き</translation>
+    </message>
+    <message>
+        <source>Landscape</source>
+        <translation>横</translation>
+    </message>
+    <message>
+        <source>Portrait</source>
+        <translation>縦</translation>
+    </message>
+    <message>
+        <source>Copies</source>
+        <translation>部数</translation>
+    </message>
+    <message>
+        <source>Pages</source>
+        <translation>ページ</translation>
+    </message>
+    <message>
+        <source>All</source>
+        <translation>すべて</translation>
+    </message>
+    <message>
+        <source>Color Management</source>
+        <translation>カラーマネージメント</translation>
+    </message>
+    <message>
+        <source>By the Printer</source>
+        <translation>プリンター</translation>
+    </message>
+    <message>
+        <source>By the Application</source>
+        <translation>アプリケーション</translation>
+    </message>
+    <message>
+        <source>Layout &amp; Job</source>
+        <translation>レイアウト &amp; ジョブ</translation>
+    </message>
+    <message>
+        <source>Job Title</source>
+        <translation>ジョブのタイトル</translation>
+    </message>
+    <message>
+        <source>Also Sent</source>
+        <translation>あわせて送られる設定</translation>
+    </message>
+</context>
+<context>
     <name>LayoutPane</name>
     <message>
         <source>%1:</source>
@@ -1048,13 +1070,6 @@
     <message>
         <source>Page %1 is beyond the document's last page, %2.</source>
         <translation>%1 ページは、文書の最終ページ (%2) を超えています。</translation>
-    </message>
-</context>
-<context>
-    <name>NoticeBar</name>
-    <message>
-        <source>&amp;Retry</source>
-        <translation>再試行(&amp;R)</translation>
     </message>
 </context>
 <context>
@@ -2016,6 +2031,53 @@
     <message>
         <source>no name is free</source>
         <translation>使用できる名前がありません</translation>
+    </message>
+</context>
+<context>
+    <name>RemedyWords</name>
+    <message>
+        <source>%1, %2</source>
+        <translation>%1、%2</translation>
+    </message>
+    <message>
+        <source>%1 and %2</source>
+        <translation>%1 と %2</translation>
+    </message>
+    <message>
+        <source>, </source>
+        <translation>、</translation>
+    </message>
+    <message>
+        <source>%1 and %2 more</source>
+        <translation>%1 ほか %2 件</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1：%2</translation>
+    </message>
+    <message>
+        <source>%1 is there for %2.</source>
+        <translation>%2 なら %1 を選べます。</translation>
+    </message>
+    <message>
+        <source>%1 is not there for %2. It is there for %3.</source>
+        <translation>%2 では %1 は選べません。%3 なら選べます。</translation>
+    </message>
+    <message>
+        <source>%1 is not there for %2. It is there with %3.</source>
+        <translation>%2 では %1 は選べません。%3 にすると選べます。</translation>
+    </message>
+    <message>
+        <source>%1 can be chosen.</source>
+        <translation>%1 は選べます。</translation>
+    </message>
+    <message>
+        <source>No setting of this printer gives %1.</source>
+        <translation>このプリンターには %1 を選べる設定がありません。</translation>
+    </message>
+    <message>
+        <source>There are too many conditions to explain why %1 is not there.</source>
+        <translation>条件が多すぎるため、%1 を選べない理由を説明できません。</translation>
     </message>
 </context>
 <context>

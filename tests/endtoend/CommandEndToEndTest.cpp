@@ -150,6 +150,18 @@ TEST_F(Command, TwoSidedPlainPaperArrivesAsTheTwoSidedMedium)
     EXPECT_EQ(settingsOf(newJobs()[0]), expected);
 }
 
+TEST_F(Command, AnEnvelopeIsPrintedWithAWordAboutItsTray)
+{
+    const ProgramRun run = print({u"--paper"_s, u"EnvDL"_s});
+    ASSERT_EQ(run.status, 0) << run.errors.toStdString();
+    EXPECT_TRUE(
+        run.errors.contains(u"For Envelope DL there is \"Paper Source: Multi-Purpose Tray\"."_s))
+        << run.errors.toStdString();
+    const ProgramRun advised = print({u"--paper"_s, u"EnvDL"_s, u"-o"_s, u"VKInputSlot=MPTray"_s});
+    EXPECT_EQ(advised.errors, QString());
+    EXPECT_EQ(newJobs().size(), 2);
+}
+
 TEST_F(Command, ABorderlessPhotoJobArrivesAsPicked)
 {
     const ProgramRun run =

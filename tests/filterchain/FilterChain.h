@@ -4,37 +4,17 @@
 
 #include <QtCore/QByteArray>
 #include <QtCore/QList>
-#include <QtCore/QPointF>
-#include <QtCore/QRectF>
-#include <QtCore/QSizeF>
+#include <QtCore/QMap>
 #include <QtCore/QString>
+#include <QtCore/QStringList>
 
-#include <optional>
+/// Runs a program, with further environment variables, and writes what it says into a file. Fails
+/// the test, and is false, when the program fails.
+bool runTool(const QString &program, const QStringList &arguments, const QString &output,
+             const QMap<QString, QString> &variables = {});
 
-/// What the print server's own filters make of a job, measured on the paper. All lengths are in
-/// points, from the lower left corner of the upright sheet, upwards.
-
-/// Two marks on a grey ground that covers the page: where they lie from the page's middle.
-struct TestMarks
-{
-    QPointF red;
-    QPointF blue;
-};
-
-/// A PDF of one such page.
-QByteArray markedPage(QSizeF page, const TestMarks &marks);
-
-/// What is on a sheet.
-struct PrintedSheet
-{
-    QSizeF size;
-    QRectF ground;               ///< all that is not white; upwards as said above
-    std::optional<QPointF> red;  ///< the middle of what is to be seen of the mark
-    std::optional<QPointF> blue; ///< likewise
-};
-
-/// Runs the document through the server's filters for its type ("application/pdf" or "image/png")
-/// with the options of a job on the printer of that PPD, and gives its sheets. Fails the test, and
-/// gives none, when a filter fails.
-QList<PrintedSheet> printedSheets(const QString &ppdPath, const QString &documentPath,
-                                  const QByteArray &type, const QList<JobOption> &options);
+/// Runs the document through the print server's own filters for its type ("application/pdf" or
+/// "image/png") with the options of a job on the printer of that PPD, and writes the pages as they
+/// are printed into a PDF. Fails the test, and is false, when a filter fails.
+bool printPages(const QString &ppdPath, const QString &documentPath, const QByteArray &type,
+                const QList<JobOption> &options, const QString &output);

@@ -5,7 +5,7 @@
 #include "dialog/printing/RequestedSettings.h"
 #include "tests/built/BuiltFiles.h"
 #include "tests/endtoend/JobPrinting.h"
-#include "tests/filterchain/FilterChain.h"
+#include "tests/filterchain/PrintedSheets.h"
 #include "tests/support/CaseName.h"
 #include "tests/support/Files.h"
 #include "tests/support/PPDSource.h"

@@ -4,6 +4,7 @@
 #include "platform/ppd/PPDText.h"
 #include "tests/built/BuiltFiles.h"
 #include "tests/endtoend/JobPrinting.h"
+#include "tests/support/CaseName.h"
 #include "tests/support/Files.h"
 
 #include <QtCore/QDir>
@@ -125,6 +126,35 @@ TEST(SavedSettings, BecomeMarksSettingsAndTheRest)
     EXPECT_EQ(settings.others,
               (QList<JobOption>{{u"number-up-layout"_s, u"zigzag"_s}, {u"mirror"_s, u"true"_s}}));
 }
+
+struct UnusableValue
+{
+    const char *behaviour;
+    JobOption saved;
+};
+
+class UnusableSavedValue : public testing::TestWithParam<UnusableValue>
+{};
+
+TEST_P(UnusableSavedValue, IsNamedAndLeavesTheUsualOne)
+{
+    const SavedSettings settings = applySavedOptions(nullptr, {GetParam().saved});
+    EXPECT_EQ(settings.missing, QList<JobOption>{GetParam().saved});
+    EXPECT_EQ(settings.settings.copies, 1);
+    EXPECT_EQ(settings.settings.pageRanges, QString());
+    EXPECT_EQ(settings.settings.scaling, PrintScaling::Automatic);
+    EXPECT_EQ(settings.orientation, PMOrientation::Portrait);
+    EXPECT_EQ(settings.others, QList<JobOption>());
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Table, UnusableSavedValue,
+    testing::Values(UnusableValue{"NoNumberOfCopies", {u"copies"_s, u"many"_s}},
+                    UnusableValue{"NoPages", {u"page-ranges"_s, u"7-x"_s}},
+                    UnusableValue{"NoOrientation", {u"orientation-requested"_s, u"upright"_s}},
+                    UnusableValue{"NoScaling", {u"print-scaling"_s, u"zoom"_s}},
+                    UnusableValue{"ANeitherTrueNorFalseFit", {u"fitplot"_s, u"80"_s}}),
+    CaseName());
 
 TEST(SavedSettings, WithoutAPPDKeepEverythingElse)
 {

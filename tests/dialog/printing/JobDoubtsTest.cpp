@@ -22,7 +22,7 @@ struct DoubtfulJob
     QList<RequestedChoice> wanted;
     QStringList doubts = {};
     QStringList replaced = {};
-    QStringList advice = {};
+    QList<JobAdvice> advice = {};
 };
 
 class DoubtfulJobs : public testing::TestWithParam<DoubtfulJob>
@@ -80,7 +80,8 @@ INSTANTIATE_TEST_SUITE_P(
                     {{u"PageSize"_s, u"EnvDL"_s}},
                     {},
                     {},
-                    {u"For Envelope DL there is \"Paper Source: Multi-Purpose Tray\"."_s}},
+                    {{{u"VKInputSlot"_s, u"MPTray"_s},
+                      u"For Envelope DL there is \"Paper Source: Multi-Purpose Tray\"."_s}}},
         DoubtfulJob{"AnEnvelopeFromTheTrayForIt",
                     {},
                     {{u"PageSize"_s, u"EnvDL"_s}, {u"VKInputSlot"_s, u"MPTray"_s}}}),

@@ -125,9 +125,16 @@ TEST_F(EventNotice, OffersTheTrayOfAnEnvelope)
     EXPECT_TRUE(
         notice().endsWith(u"For Envelope DL there is \"Paper Source: Multi-Purpose Tray\"."_s))
         << notice().toStdString();
-    showTab(1);
-    pick("paperFeedPopup", u"MPTray"_s);
+    click("adviceButton");
+    QCoreApplication::processEvents();
+    EXPECT_EQ(marked(u"VKInputSlot"_s), u"MPTray"_s);
     EXPECT_EQ(notice(), QString());
+    showTab(1);
+    auto *trays = part<PopUpButton>("paperFeedPopup");
+    EXPECT_EQ(trays->currentText(), u"Multi-Purpose Tray"_s);
+    showTab(0);
+    pick("paperPopup", u"A4"_s);
+    EXPECT_EQ(m_window->findChild<QAbstractButton *>(u"adviceButton"_s), nullptr);
 }
 
 TEST_F(EventNotice, SaysAfterTheBorderlessAlertWhatBecameWhat)

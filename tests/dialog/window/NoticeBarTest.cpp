@@ -41,7 +41,7 @@ TEST(NoticeBar, HasItsRoomWhetherOrNotThereIsAnythingToTell)
     const int room = bar.sizeHint().height();
     const int lines = 2 * bar.fontMetrics().lineSpacing();
     EXPECT_GE(room, lines);
-    bar.tell(NoticeBar::Kind::Error, QString(5000, u'x'), NoticeBar::Offer::Retry);
+    bar.tell(NoticeBar::Kind::Error, QString(5000, u'x'), {{u"retryButton"_s, u"Retry"_s, [] {}}});
     EXPECT_EQ(bar.sizeHint().height(), room);
     EXPECT_EQ(bar.minimumSizeHint().height(), room);
     bar.clear();
@@ -73,21 +73,25 @@ TEST(NoticeBar, ShowsTwoLinesAndTellsTheWholeSentence)
     EXPECT_EQ(label->shownLines(), QStringList{u"Short."_s});
 }
 
-TEST(NoticeBar, OffersToTryAgainWhereThatMayHelp)
+TEST(NoticeBar, OffersWhatMayHelpAsAButton)
 {
     NoticeBar bar;
     bar.show();
     int wanted = 0;
-    QObject::connect(&bar, &NoticeBar::retryWanted, &bar, [&] { ++wanted; });
-    auto *retry = bar.findChild<QPushButton *>(u"retryButton"_s);
-    bar.tell(NoticeBar::Kind::Error, u"Away."_s);
-    EXPECT_FALSE(retry->isVisible());
-    bar.tell(NoticeBar::Kind::Error, u"Away."_s, NoticeBar::Offer::Retry);
-    ASSERT_TRUE(retry->isVisible());
-    QTest::mouseClick(retry, Qt::LeftButton);
+    const NoticeOffer retry{u"retryButton"_s, u"A & B"_s, [&] {
+                                ++wanted;
+                                bar.tell(NoticeBar::Kind::Information, u"Asking."_s);
+                            }};
+    const auto button = [&] { return bar.findChild<QPushButton *>(u"retryButton"_s); };
+    bar.tell(NoticeBar::Kind::Error, u"Away."_s, {retry});
+    ASSERT_TRUE(button()->isVisible());
+    EXPECT_EQ(button()->text(), u"&A && B"_s);
+    QTest::mouseClick(button(), Qt::LeftButton);
     EXPECT_EQ(wanted, 1);
+    EXPECT_EQ(button(), nullptr) << "it goes with what was told, in the midst of its own click";
+    bar.tell(NoticeBar::Kind::Error, u"Away."_s, {retry});
     bar.clear();
-    EXPECT_FALSE(retry->isVisible());
+    EXPECT_EQ(button(), nullptr);
 }
 
 TEST(NoticeSign, IsAMarkInACircleOfItsColor)

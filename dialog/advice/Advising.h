@@ -1,0 +1,22 @@
+#pragma once
+
+#include "dialog/advice/Remedy.h"
+#include "dialog/host/PPDMarks.h"
+#include "dialog/work/Result.h"
+
+#include <functional>
+#include <optional>
+
+class HostSession;
+
+/// The choice of the session's PPD, as that spells it; a fault of kind Request when there is no
+/// such setting, or not the choice.
+Result<PPDMark> choiceOfPPD(const HostSession &session, const QString &keyword,
+                            const QString &choice);
+
+/// What can be said of the choice (choiceOfPPD()) as the session's settings are now. All of it is
+/// tried out in a copy of this process, in which the caller's is the only thread: the session stays
+/// as it is, alerts and user defaults too. None when it was given up (`isGivenUp`, null: never), or
+/// the copy came to a bad end.
+std::optional<Advice> adviceOn(HostSession &session, const PPDMark &wanted,
+                               const std::function<bool()> &isGivenUp = {});

@@ -1,0 +1,23 @@
+#pragma once
+
+#include "dialog/advice/Remedy.h"
+
+class Scratch;
+
+/// The most settings that a remedy changes.
+inline constexpr int kMostChanges = 3;
+
+/// What a search has found.
+struct FoundRemedies
+{
+    Advice::Outcome outcome = Advice::Outcome::Unknown;
+    QList<Remedy> remedies; ///< as Advice has them
+};
+
+/// Looks for the smallest sets of changes that give the scratch's wanted choice: first all of one
+/// setting, then, when there are none, of two, then of three.
+///
+/// All single changes are tried. Of two and three settings each change is tried on top of those
+/// that made a difference to other settings before; of the choices of one setting that made the
+/// same difference, on top of the first.
+FoundRemedies findRemedies(Scratch &scratch);

@@ -1,0 +1,141 @@
+#include "dialog/advice/RemedyWords.h"
+
+#include "dialog/printing/ChangeWords.h"
+#include "platform/ppd/PPDText.h"
+
+#include <QtCore/QCoreApplication>
+
+#include <span>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr qsizetype kLongestList = 4;
+constexpr qsizetype kNamedOfMore = 2; // of a longer list
+
+std::span<ppd_choice_t> choicesIn(const ppd_option_t &option)
+{
+    return {option.choices, static_cast<std::size_t>(std::max(0, option.num_choices))};
+}
+
+/// Every PPD has the papers twice.
+bool isOfPapers(const ppd_option_t &option)
+{
+    return qstricmp(option.keyword, "PageRegion") == 0;
+}
+
+/// Whether no other setting has a choice of this text.
+bool isUnmistakable(ppd_file_t *ppd, const ppd_option_t &own, const char *text)
+{
+    for (const ppd_option_t *option = ppdFirstOption(ppd); option; option = ppdNextOption(ppd))
+        if (option != &own && !isOfPapers(*option))
+            for (const ppd_choice_t &choice : choicesIn(*option))
+                if (qstricmp(choice.text, text) == 0)
+                    return false;
+    return true;
+}
+
+QString joined(const QStringList &names)
+{
+    QString words = names.value(0);
+    for (qsizetype index = 1; index < names.size(); ++index)
+        words = (index + 1 < names.size() ? QCoreApplication::translate("RemedyWords", "%1, %2")
+                                          : QCoreApplication::translate("RemedyWords", "%1 and %2"))
+                    .arg(words, names[index]);
+    return words;
+}
+
+/// The list as a sentence has it: a long one is cut.
+QString shortList(const QStringList &names)
+{
+    if (names.size() <= kLongestList)
+        return joined(names);
+    const QString named =
+        names.first(kNamedOfMore).join(QCoreApplication::translate("RemedyWords", ", "));
+    return QCoreApplication::translate("RemedyWords", "%1 and %2 more")
+        .arg(named, QString::number(names.size() - kNamedOfMore));
+}
+
+QStringList namesOf(ppd_file_t *ppd, const Remedy &remedy, QString SettingChange::*choice)
+{
+    QStringList names;
+    for (const SettingChange &change : remedy.changes)
+        if (!(change.*choice).isNull())
+            names += nameOfChoice(ppd, change.keyword, change.*choice);
+    return names;
+}
+
+QString possibleSentence(ppd_file_t *ppd, const Advice &advice, const QString &wanted)
+{
+    const Remedy &best = advice.remedies.constFirst();
+    const QStringList givers = choicesThatGive(ppd, advice);
+    const QString obstacles = joined(namesOf(ppd, best, &SettingChange::from));
+    if (obstacles.isEmpty())
+        return QCoreApplication::translate("RemedyWords", "%1 is there for %2.")
+            .arg(wanted, givers.isEmpty() ? remedyWords(ppd, best) : shortList(givers));
+    if (givers.isEmpty())
+        return QCoreApplication::translate("RemedyWords",
+                                           "%1 is not there for %2. It is there with %3.")
+            .arg(wanted, obstacles, remedyWords(ppd, best));
+    return QCoreApplication::translate("RemedyWords", "%1 is not there for %2. It is there for %3.")
+        .arg(wanted, obstacles, shortList(givers));
+}
+
+} // namespace
+
+QString nameOfChoice(ppd_file_t *ppd, const QString &keyword, const QString &choice)
+{
+    const QString words = choiceWords(ppd, keyword, choice);
+    ppd_option_t *option = findOption(ppd, keyword);
+    const ppd_choice_t *found = findChoice(option, choice);
+    if (!option || (found && option->num_choices > 2 && isUnmistakable(ppd, *option, found->text)))
+        return words;
+    return QCoreApplication::translate("RemedyWords", "%1: %2")
+        .arg(settingTitle(ppd, keyword), words);
+}
+
+QString adviceSentence(ppd_file_t *ppd, const Advice &advice)
+{
+    const QString wanted = nameOfChoice(ppd, advice.keyword, advice.choice);
+    switch (advice.outcome) {
+    case Advice::Outcome::Available:
+        return QCoreApplication::translate("RemedyWords", "%1 can be chosen.").arg(wanted);
+    case Advice::Outcome::Possible:
+        return possibleSentence(ppd, advice, wanted);
+    case Advice::Outcome::Impossible:
+        return QCoreApplication::translate("RemedyWords", "No setting of this printer gives %1.")
+            .arg(wanted);
+    case Advice::Outcome::Unknown:
+        break;
+    }
+    return QCoreApplication::translate("RemedyWords",
+                                       "There are too many conditions to explain why %1 is not "
+                                       "there.")
+        .arg(wanted);
+}
+
+QStringList choicesThatGive(ppd_file_t *ppd, const Advice &advice)
+{
+    QStringList names;
+    const Remedy best = advice.remedies.value(0);
+    if (best.changes.size() != 1)
+        return names;
+    const SettingChange &first = best.changes.constFirst();
+    names += nameOfChoice(ppd, first.keyword, first.to);
+    QStringList givers;
+    for (const Remedy &remedy : advice.remedies)
+        if (remedy.changes.constFirst().keyword == first.keyword)
+            givers += remedy.changes.constFirst().to;
+    const ppd_option_t *option = findOption(ppd, first.keyword);
+    for (int index = 0; option && index < option->num_choices; ++index)
+        if (const QString choice = ppdName(option->choices[index].choice);
+            choice != first.to && givers.contains(choice))
+            names += nameOfChoice(ppd, first.keyword, choice);
+    return names;
+}
+
+QString remedyWords(ppd_file_t *ppd, const Remedy &remedy)
+{
+    return joined(namesOf(ppd, remedy, &SettingChange::to));
+}

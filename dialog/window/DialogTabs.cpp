@@ -1,0 +1,143 @@
+#include "dialog/window/DialogTabs.h"
+
+#include "dialog/printing/FeaturePicks.h"
+#include "dialog/printing/PrintJob.h"
+#include "dialog/window/FeaturesPane.h"
+#include "dialog/window/LayoutPane.h"
+#include "dialog/window/Mnemonics.h"
+#include "dialog/window/PageSetupPane.h"
+#include "dialog/window/PanelPane.h"
+#include "dialog/window/SummaryPane.h"
+#include "platform/toolkit/AccessibleName.h"
+#include "platform/toolkit/PlainText.h"
+
+#include <QtCore/QSignalBlocker>
+
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr auto kPageSetup = "setup"_L1;
+constexpr auto kFeatures = "features"_L1;
+constexpr auto kLayout = "layout"_L1;
+constexpr auto kSummary = "summary"_L1;
+
+/// Whether the panel has anything to show for this PPD.
+bool hasKeywords(const HostPanel &panel)
+{
+    return !panel.panel->supportedPPDOptionKeys().value_or(QStringList()).isEmpty();
+}
+
+} // namespace
+
+DialogTabs::DialogTabs(PrintJob &job, QWidget *parent)
+    : QTabWidget(parent),
+      m_job(job),
+      m_pageSetup(new PageSetupPane(job, this)),
+      m_features(new FeaturesPane(job, this)),
+      m_layout(new LayoutPane(job, this)),
+      m_summary(new SummaryPane(this))
+{
+    setObjectName(u"parts"_s);
+    for (QWidget *pane : {static_cast<QWidget *>(m_pageSetup), static_cast<QWidget *>(m_features),
+                          static_cast<QWidget *>(m_layout), static_cast<QWidget *>(m_summary)})
+        pane->hide(); // a tab only where there is something to show
+}
+
+void DialogTabs::addPart(const QString &name, QWidget *page, const QString &title,
+                         const HostPanel *panel)
+{
+    m_parts.push_back({name, page, panel});
+    addTab(page, withoutMnemonic(displayText(title)));
+}
+
+void DialogTabs::build(bool isSavedJob)
+{
+    removeParts();
+    const QSignalBlocker quiet(this);
+    m_pageSetup->reload();
+    if (!isSavedJob) {
+        addPart(kPageSetup, m_pageSetup, tr("Page Setup"));
+        addPanels();
+        if (!featuresOf(m_job).isEmpty())
+            addPart(kFeatures, m_features, tr("Printer Features"));
+        m_layout->reload();
+        addPart(kLayout, m_layout, tr("Layout & Job"));
+    }
+    addPart(kSummary, m_summary, tr("Summary"));
+    giveAccessibleName(m_summary, tr("Summary"));
+    setCurrentIndex(m_parts.size() > 1 && m_parts[1].panel ? 1 : 0);
+}
+
+void DialogTabs::addPanels()
+{
+    if (!m_job.session())
+        return;
+    for (const HostPanel &panel : m_job.session()->panels()) {
+        if (!hasKeywords(panel))
+            continue;
+        auto *pane = new PanelPane(this);
+        connect(pane, &PanelPane::viewResized, this, &DialogTabs::viewResized);
+        addPart(panel.name, pane, panel.panel->panelName(), &panel);
+    }
+}
+
+void DialogTabs::removeParts()
+{
+    m_layout->setCoverPages({});
+    const QSignalBlocker quiet(this);
+    m_shownPanel = nullptr;
+    clear();             // the pages themselves stay
+    m_features->clear(); // before its PPD goes
+    for (const Part &part : m_parts)
+        if (part.panel)
+            delete part.page; // gives the view back to its panel
+    m_parts.clear();
+}
+
+const DialogTabs::Part *DialogTabs::currentPart() const
+{
+    const auto found = std::ranges::find(m_parts, currentWidget(), &Part::page);
+    return found == m_parts.end() ? nullptr : &*found;
+}
+
+bool DialogTabs::showPart(const QString &name)
+{
+    const auto found = std::ranges::find(m_parts, name, &Part::name);
+    if (name.isEmpty() || found == m_parts.end())
+        return false;
+    setCurrentWidget(found->page);
+    return true;
+}
+
+QWidget *DialogTabs::shownPart() const
+{
+    const auto *pane = qobject_cast<PanelPane *>(currentWidget());
+    return pane && pane->view() ? pane->view() : currentWidget();
+}
+
+void DialogTabs::showPanel()
+{
+    m_viewIsMissing = false;
+    const Part *part = currentPart();
+    if (!part || !part->panel)
+        return;
+    m_shownPanel = part->panel;
+    QWidget *view = m_job.session()->show(*part->panel);
+    if (view)
+        giveCaptionMnemonics(*view, mnemonicsIn(*window()));
+    static_cast<PanelPane *>(part->page)->setView(view);
+    m_viewIsMissing = !view;
+}
+
+void DialogTabs::hidePanel()
+{
+    if (m_shownPanel) {
+        // A panel may read the ticket again behind its user's back: for the summary, say.
+        m_job.session()->save(*m_shownPanel);
+        m_job.session()->hide(*m_shownPanel);
+    }
+    m_shownPanel = nullptr;
+}

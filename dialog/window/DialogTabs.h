@@ -1,0 +1,80 @@
+#pragma once
+
+#include <QtWidgets/QTabWidget>
+
+#include <vector>
+
+struct HostPanel;
+class FeaturesPane;
+class LayoutPane;
+class PageSetupPane;
+class PrintJob;
+class SummaryPane;
+
+/// The tabs of the dialog: its own panes, which live as long as it does and are tabs where there is
+/// something to show, and a pane for each panel of the job's printer.
+class DialogTabs : public QTabWidget
+{
+    Q_OBJECT
+
+public:
+    /// A tab.
+    struct Part
+    {
+        QString name;
+        QWidget *page = nullptr;
+        const HostPanel *panel = nullptr; ///< of the session; null for the dialog's own panes
+    };
+
+    /// The job must outlive the tabs.
+    explicit DialogTabs(PrintJob &job, QWidget *parent = nullptr);
+
+    PageSetupPane *pageSetup() const { return m_pageSetup; }
+    FeaturesPane *features() const { return m_features; }
+    LayoutPane *layoutPane() const { return m_layout; }
+    SummaryPane *summary() const { return m_summary; }
+
+    /// The tabs for the printer that is open now, the first panel in front; for a job that was
+    /// saved the summary alone. Says nothing of it, and shows no panel yet.
+    void build(bool isSavedJob);
+
+    /// Takes all tabs away, and gives the panels' views back; before their session closes.
+    void removeParts();
+
+    const std::vector<Part> &parts() const { return m_parts; }
+    /// What is in front; null without tabs.
+    const Part *currentPart() const;
+
+    /// Shows the part of the name ("summary", or a panel's). False without such a part.
+    bool showPart(const QString &name);
+
+    /// What is in front: a panel's view, or one of the dialog's own panes.
+    QWidget *shownPart() const;
+
+    /// Has the panel in front come on screen, where it is one's tab.
+    void showPanel();
+
+    /// Has the panel that was shown last save and leave the screen.
+    void hidePanel();
+
+    /// Whether the panel in front has no view.
+    bool isViewMissing() const { return m_viewIsMissing; }
+
+Q_SIGNALS:
+    /// The view of a panel has come to another size by itself.
+    void viewResized();
+
+private:
+    void addPart(const QString &name, QWidget *page, const QString &title,
+                 const HostPanel *panel = nullptr);
+    void addPanels();
+
+    PrintJob &m_job;
+    PageSetupPane *m_pageSetup;
+    FeaturesPane *m_features;
+    LayoutPane *m_layout;
+    SummaryPane *m_summary;
+    std::vector<Part> m_parts;
+    const HostPanel *m_shownPanel = nullptr;
+    bool m_viewIsMissing = false; // of m_shownPanel
+};

@@ -1,0 +1,176 @@
+#include "dialog/advice/Advising.h"
+
+#include "dialog/host/HostSession.h"
+#include "dialog/printing/PanelPicks.h"
+#include "dialog/printing/PrintJob.h"
+#include "dialog/printing/RequestedSettings.h"
+#include "dialog/printing/SettingRequests.h"
+#include "tests/built/BuiltFiles.h"
+#include "tests/support/CaseName.h"
+#include "tests/support/Files.h"
+#include "tests/support/PPDSource.h"
+#include "tests/support/QStringPrinting.h"
+
+#include <QtCore/QTemporaryDir>
+#include <gtest/gtest.h>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+void openOn(PrintJob &job, const QString &ppd, const QList<RequestedChoice> &settings)
+{
+    SessionOptions options;
+    options.ppdPath = ppd;
+    options.bundlePath = builtBundle();
+    job.setPrinter({}, openPrinter(options, *openPPD(ppd), {}));
+    EXPECT_TRUE(makeSettings(job, settings));
+}
+
+struct Question
+{
+    std::string behaviour;
+    QString printer;
+    QList<RequestedChoice> settings;
+    RequestedChoice wanted;
+    Advice::Outcome outcome;
+    QList<RequestedChoice> changes; ///< of the first remedy
+    QString sentence;
+};
+
+class AdviceOn : public testing::TestWithParam<Question>
+{
+protected:
+    void SetUp() override
+    {
+        openOn(m_job, samplePPD(GetParam().printer), GetParam().settings);
+        const Result<PPDMark> wanted =
+            choiceOfPPD(*m_job.session(), GetParam().wanted.keyword, GetParam().wanted.choice);
+        ASSERT_TRUE(wanted);
+        m_wanted = *wanted;
+    }
+
+    PrintJob m_job;
+    PPDMark m_wanted;
+};
+
+QList<RequestedChoice> changesOf(const Advice &advice)
+{
+    QList<RequestedChoice> changes;
+    for (const SettingChange &change : advice.remedies.value(0).changes)
+        changes += RequestedChoice{change.keyword, change.to};
+    return changes;
+}
+
+TEST_P(AdviceOn, AChoice)
+{
+    const std::optional<Advice> advice = adviceOn(*m_job.session(), m_wanted);
+    ASSERT_TRUE(advice);
+    EXPECT_EQ(advice->outcome, GetParam().outcome);
+    EXPECT_EQ(changesOf(*advice), GetParam().changes);
+    EXPECT_EQ(advice->sentence, GetParam().sentence);
+}
+
+TEST_P(AdviceOn, AChoiceHoldsInAnotherSession)
+{
+    const std::optional<Advice> advice = adviceOn(*m_job.session(), m_wanted);
+    ASSERT_TRUE(advice);
+    m_job.closePrinter();
+    openOn(m_job, samplePPD(GetParam().printer), GetParam().settings);
+    prepareControls(*m_job.session());
+    for (const RequestedChoice &change : changesOf(*advice))
+        makeSetting(m_job, change);
+    makeSetting(m_job, {m_wanted.keyword, m_wanted.choice});
+    savePreparedPanels(*m_job.session());
+    EXPECT_EQ(hasSetting(m_job, {m_wanted.keyword, m_wanted.choice}),
+              advice->outcome != Advice::Outcome::Impossible);
+}
+
+TEST_P(AdviceOn, AChoiceLeavesTheSessionAlone)
+{
+    const SettingState before = settingState(m_job);
+    const QVariantMap ticket = m_job.session()->ticket().values();
+    ASSERT_TRUE(adviceOn(*m_job.session(), m_wanted));
+    EXPECT_EQ(settingState(m_job).marks, before.marks);
+    EXPECT_EQ(settingState(m_job).shown, before.shown);
+    EXPECT_EQ(m_job.session()->ticket().values(), ticket);
+}
+
+using enum Advice::Outcome;
+
+const Question kQuestions[] = {
+    {"WhatIsThereAlready",
+     u"velkaro-px-t900"_s,
+     {},
+     {u"VKResolution"_s, u"High"_s},
+     Available,
+     {},
+     u"High can be chosen."_s},
+    {"AQualityThatNeedsAnotherMedium",
+     u"velkaro-px-t900"_s,
+     {},
+     {u"vkresolution"_s, u"photo"_s},
+     Possible,
+     {{u"VKMediaType"_s, u"Inkjet"_s}},
+     u"Photo is not there for Plain Paper. It is there for Inkjet Paper, Velkaro Photo Paper, "
+     u"Glossy and 4 more."_s},
+    {"AMediumThatNeedsAnotherPaper",
+     u"velkaro-px-t900"_s,
+     {},
+     {u"VKMediaType"_s, u"PrintableDisc"_s},
+     Possible,
+     {{u"PageSize"_s, u"120x120mm"_s}},
+     u"Printable Disc is not there for A4. It is there for Disc 120 mm and Disc 120 mm (Wide "
+     u"Label)."_s},
+    {"AMediumThatIsShownButNotPrinted",
+     u"velkaro-px-t900"_s,
+     {{u"Duplex"_s, u"DuplexTumble"_s}},
+     {u"VKMediaType"_s, u"Glossy"_s},
+     Possible,
+     {{u"Duplex"_s, u"None"_s}},
+     u"Other Glossy Paper is not there for Short-Edge Binding. It is there for Two-Sided "
+     u"Printing: Off."_s},
+};
+
+INSTANTIATE_TEST_SUITE_P(, AdviceOn, testing::ValuesIn(kQuestions), CaseName());
+
+TEST(AdviceOnAForeignPrinter, NamesBothSidesOfAConstraint)
+{
+    const QTemporaryDir folder;
+    const QString path = folder.filePath(u"foreign.ppd"_s);
+    writeFile(path, PPDSource()
+                        .papers({{"A4", 595, 842}})
+                        .option("Tray/Tray", {"Upper/Upper", "Lower/Lower", "Side/Side"})
+                        .option("Staple/Staples", {"None/Off", "Left/Left", "Two/Two"})
+                        .constraint("Tray Upper", "Staple Left")
+                        .constraint("Staple Left", "Tray Upper")
+                        .text());
+    PrintJob job;
+    openOn(job, path, {});
+    const std::optional<Advice> advice = adviceOn(*job.session(), {u"Staple"_s, u"Left"_s});
+    ASSERT_TRUE(advice);
+    EXPECT_EQ(advice->sentence, u"Left is not there for Upper. It is there for Lower and Side."_s);
+    EXPECT_EQ(advice->remedies.size(), 2);
+}
+
+TEST(AdviceOnAChoice, IsRefusedForWhatThePPDLacks)
+{
+    PrintJob job;
+    openOn(job, samplePPD(u"velkaro-px-t900"_s), {});
+    EXPECT_EQ(choiceOfPPD(*job.session(), u"Nothing"_s, u"ON"_s).sentence(),
+              u"The printer has no setting Nothing."_s);
+    EXPECT_EQ(choiceOfPPD(*job.session(), u"VKBiDir"_s, u"Maybe"_s).sentence(),
+              u"Maybe is no value for VKBiDir."_s);
+    EXPECT_EQ(*choiceOfPPD(*job.session(), u"pageregion"_s, u"a4"_s),
+              (PPDMark{u"PageSize"_s, u"A4"_s}));
+}
+
+TEST(AdviceOnAChoice, IsGivenUpWhenNobodyWaitsForIt)
+{
+    PrintJob job;
+    openOn(job, samplePPD(u"velkaro-px-t900"_s), {});
+    EXPECT_EQ(adviceOn(*job.session(), {u"VKResolution"_s, u"Photo"_s}, [] { return true; }),
+              std::nullopt);
+}
+
+} // namespace
