@@ -1,13 +1,16 @@
 #include "dialog/window/PanelPane.h"
 
 #include "dialog/window/ViewWidth.h"
+#include "platform/toolkit/PanelPoint.h"
 
 #include <QtCore/QEvent>
 #include <QtWidgets/QScrollBar>
 
 namespace {
 
-constexpr QSize kLeastPaneSize(300, 80); // of a pane on a very small screen
+// On a very small screen. Points.
+constexpr int kLeastViewWidth = 300;
+constexpr int kLeastViewHeight = 80;
 constexpr int kTopMargin = 8;
 
 } // namespace
@@ -61,12 +64,13 @@ void PanelPane::releaseView()
 QSize PanelPane::sizeHint() const
 {
     const QSize view = m_view ? m_view->size() : QSize(0, 0);
-    return view + QSize(0, 2 * kTopMargin);
+    // Beside a bar that scrolls it up and down nothing is to be scrolled to the side.
+    return view + QSize(verticalScrollBar()->sizeHint().width(), 2 * kTopMargin);
 }
 
 QSize PanelPane::minimumSizeHint() const
 {
-    return sizeHint().boundedTo(kLeastPaneSize);
+    return sizeHint().boundedTo({toPixels(kLeastViewWidth), toPixels(kLeastViewHeight)});
 }
 
 bool PanelPane::eventFilter(QObject *watched, QEvent *event)

@@ -1,5 +1,6 @@
 #include "platform/toolkit/CaptionLabel.h"
 
+#include "platform/toolkit/AccessibleName.h"
 #include "platform/toolkit/PlainLabel.h"
 
 #include <QtGui/QHelpEvent>
@@ -51,7 +52,7 @@ CaptionLabel::CaptionLabel(QWidget *parent) : QLabel(parent)
     setAlignment(Qt::AlignRight | Qt::AlignVCenter);
 }
 
-void CaptionLabel::setCaption(const QString &text)
+void CaptionLabel::prepareFor(const QString &text)
 {
     if (text == this->text())
         return;
@@ -59,8 +60,7 @@ void CaptionLabel::setCaption(const QString &text)
     // The toolkit would take the ampersand of a label with a buddy for a mnemonic.
     if (text.contains(u'&'))
         setBuddy(nullptr);
-    setText(text);
-    setAccessibleName(nameOf(text));
+    giveAccessibleName(this, nameOf(text));
 }
 
 void CaptionLabel::setMnemonic(const QString &titled)

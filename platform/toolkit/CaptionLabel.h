@@ -16,8 +16,9 @@ class VELKARO_PLATFORM_EXPORT CaptionLabel : public QLabel
 public:
     explicit CaptionLabel(QWidget *parent = nullptr);
 
-    /// Shows the text as it stands, without a mnemonic.
-    void setCaption(const QString &text);
+    /// Makes ready for another text, which setLabelText() sets: it has no mnemonic yet, and names
+    /// what the caption is for to assistive technology.
+    void prepareFor(const QString &text);
 
     /// Has the buddy get the focus by Alt and a letter, which is underlined where `titled` has an
     /// ampersand before it: the text, or one that says the same. Null takes that back. text()

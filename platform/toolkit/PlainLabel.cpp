@@ -18,9 +18,8 @@ void setLabelText(QLabel *label, const QString &text)
 {
     label->setTextFormat(Qt::PlainText);
     if (auto *caption = qobject_cast<CaptionLabel *>(label))
-        caption->setCaption(text);
-    else
-        label->setText(text);
+        caption->prepareFor(text);
+    label->setText(text);
 }
 
 void addLabelledRow(QFormLayout *form, const QString &text, QWidget *field)

@@ -32,6 +32,7 @@ int main(int argc, char **argv)
     QAccessible::installUpdateHandler(printAlert);
     bar.tell(NoticeBar::Kind::Information, u"The job waits."_s);
     bar.clear();
-    bar.tell(NoticeBar::Kind::Error, u"The printer is away."_s, NoticeBar::Offer::Retry);
+    bar.tell(NoticeBar::Kind::Error, u"The printer is away."_s,
+             {{u"retryButton"_s, u"Retry"_s, [] {}}});
     return 0;
 }

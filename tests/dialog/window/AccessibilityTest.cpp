@@ -175,8 +175,8 @@ const Shown kShown[] = {
     {"PrintSettings", u"print"_s, true, 5},
     {"PrintSettingsUnfolded", u"print"_s, false, 5},
     {"ColorSettings", u"color"_s, true, 1},
-    {"ColorSettingsUnfolded", u"color"_s, false, 11},
-    {"LayoutAndJob", u"layout"_s, true, 9},
+    {"ColorSettingsUnfolded", u"color"_s, false, 6},
+    {"LayoutAndJob", u"layout"_s, true, 8},
     {"Summary", u"summary"_s, true, 0},
 };
 
