@@ -19,6 +19,7 @@ class Adviser;
 class DialogTabs;
 class JobHeader;
 class ProgressStrip;
+class ScrolledBody;
 class QPushButton;
 class SessionUndo;
 struct Remedy;
@@ -101,6 +102,7 @@ private:
     // DialogWindow.cpp
     void buildLayout();
     void addPartShortcut(QKeySequence::StandardKey keys, int step);
+    ScrolledBody *newBody();
     QWidget *newButtons();
     QString printTitle() const;
     void setState(State state);
@@ -163,7 +165,8 @@ private:
     void moveButtonsLast();
     void fitToPart();
     void followView();
-    void fitToTabs();
+    void fitToTexts();
+    void setWidth(int width);
     void setHeight(int height);
     QList<SummarySection> summarySections();
     void listCoverPages();
@@ -240,6 +243,8 @@ private:
     NoticeBar *m_notice;
     ProgressStrip *m_progress;
     DialogTabs *m_tabs;
+    ScrolledBody *m_body = nullptr; ///< all but the buttons
+    QWidget *m_buttons = nullptr;
     QPushButton *m_help = nullptr;
     QPushButton *m_save = nullptr;
     QPushButton *m_cancel = nullptr;
