@@ -8,6 +8,7 @@
 #include "dialog/printing/PrintJob.h"
 #include "dialog/printing/PrintWishes.h"
 #include "dialog/printing/PrinterChoice.h"
+#include "dialog/printing/StandardSettings.h"
 #include "dialog/work/Result.h"
 
 #include <QtCore/QObject>
@@ -89,6 +90,14 @@ public:
     /// any more. Even after a fault the job knows the queue, as far as there is one.
     void findPrinter(const PrinterSource &source, Then<FoundPrinter> then);
 
+    /// How the printer was opened that is open now; null: there is none, or it has no PPD.
+    const std::shared_ptr<const PrinterOrigin> &origin() const { return m_origin; }
+
+    /// Opens the printer once more, at once, as it was opened then, in place of the present one,
+    /// whose panels must not be on screen any more. Alerts may be suppressed as they were then:
+    /// not for the user to keep (TransientDefaults).
+    Result<> reopen(const std::shared_ptr<const PrinterOrigin> &origin);
+
     /// Lists the printers of the wished server.
     void listPrinters(Then<QList<Destination>> then);
 
@@ -97,6 +106,9 @@ public:
 
     /// Asks for the cover pages that the job's queue offers.
     void listCoverPages(Then<QStringList> then);
+
+    /// The wished settings by the names of the printer.
+    NamedWishes namedWishes() const;
 
     /// Makes the wished settings (makeSettings()).
     Result<>
@@ -129,19 +141,19 @@ public:
     void closePrinter() { m_job.closePrinter(); }
 
 private:
-    NamedWishes namedWishes() const;
     template <typename Value>
     void begin(QPointer<BackgroundCall> &call, std::chrono::milliseconds timeout,
                std::function<Value(CallGuard &)> work, std::function<void(Value)> take,
                std::function<Value()> givenUp = {});
     Result<FoundPrinter> takePrinter(const PrinterSource &source, FetchedPrinter &fetched);
-    OpenedPrinter open(FetchedPrinter &fetched, const QList<JobOption> &starting,
-                       QList<Fault> &shortcomings);
+    OpenedPrinter open(const SessionOptions &options, std::optional<OpenedPPD> ppd,
+                       const QList<JobOption> &starting, QList<Fault> &shortcomings);
 
     const PrintWishes m_wishes;
     UnsavedPanels m_unsaved; // outlives the session that it follows
     PrintJob m_job;
     QList<SessionHook> m_hooks;
+    std::shared_ptr<const PrinterOrigin> m_origin;
     QPointer<BackgroundCall> m_call;    ///< finding, sending or writing
     QPointer<BackgroundCall> m_reading; ///< of documents that are pipes
     QPointer<BackgroundCall> m_listing;

@@ -7,13 +7,14 @@
 #include "dialog/window/Mnemonics.h"
 #include "dialog/window/PageSetupPane.h"
 #include "dialog/window/PanelPane.h"
-#include "dialog/window/SummaryPane.h"
+#include "dialog/window/SummaryPart.h"
 #include "platform/toolkit/AccessibleName.h"
 #include "platform/toolkit/PlainText.h"
 
 #include <QtCore/QSignalBlocker>
 
 #include <algorithm>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -38,7 +39,7 @@ DialogTabs::DialogTabs(PrintJob &job, QWidget *parent)
       m_pageSetup(new PageSetupPane(job, this)),
       m_features(new FeaturesPane(job, this)),
       m_layout(new LayoutPane(job, this)),
-      m_summary(new SummaryPane(this))
+      m_summary(new SummaryPart(this))
 {
     setObjectName(u"parts"_s);
     for (QWidget *pane : {static_cast<QWidget *>(m_pageSetup), static_cast<QWidget *>(m_features),
@@ -67,7 +68,7 @@ void DialogTabs::build(bool isSavedJob)
         addPart(kLayout, m_layout, tr("Layout & Job"));
     }
     addPart(kSummary, m_summary, tr("Summary"));
-    giveAccessibleName(m_summary, tr("Summary"));
+    giveAccessibleName(m_summary->pane(), tr("Summary"));
     setCurrentIndex(m_parts.size() > 1 && m_parts[1].panel ? 1 : 0);
 }
 
@@ -80,6 +81,7 @@ void DialogTabs::addPanels()
             continue;
         auto *pane = new PanelPane(this);
         connect(pane, &PanelPane::viewResized, this, &DialogTabs::viewResized);
+        connect(pane, &PanelPane::explanationWanted, this, &DialogTabs::explanationWanted);
         addPart(panel.name, pane, panel.panel->panelName(), &panel);
     }
 }
@@ -126,8 +128,15 @@ void DialogTabs::showPanel()
         return;
     m_shownPanel = part->panel;
     QWidget *view = m_job.session()->show(*part->panel);
-    static_cast<PanelPane *>(part->page)->setView(view);
+    putView(static_cast<PanelPane &>(*part->page), view);
     m_viewIsMissing = !view;
+}
+
+void DialogTabs::putView(PanelPane &pane, QWidget *view)
+{
+    if (view)
+        giveCaptionMnemonics(*view, mnemonicsIn(*window()));
+    pane.setView(view);
 }
 
 void DialogTabs::hidePanel()
@@ -138,4 +147,30 @@ void DialogTabs::hidePanel()
         m_job.session()->hide(*m_shownPanel);
     }
     m_shownPanel = nullptr;
+}
+
+void DialogTabs::releaseViews()
+{
+    m_shownPanel = nullptr;
+    m_features->clear();
+    for (Part &part : m_parts)
+        if (std::exchange(part.panel, nullptr))
+            static_cast<PanelPane *>(part.page)->releaseView();
+}
+
+void DialogTabs::exchangePanels(const QString &shown)
+{
+    const HostSession *session = m_job.session();
+    for (Part &part : m_parts) {
+        auto *pane = qobject_cast<PanelPane *>(part.page);
+        part.panel = pane ? session->panelNamed(part.name) : nullptr;
+        if (part.panel)
+            putView(*pane, session->loadedView(*part.panel));
+        if (part.panel && part.name == shown)
+            m_shownPanel = part.panel;
+    }
+    if (m_shownPanel && m_shownPanel == currentPart()->panel)
+        return;
+    hidePanel();
+    showPanel();
 }

@@ -8,8 +8,9 @@ struct HostPanel;
 class FeaturesPane;
 class LayoutPane;
 class PageSetupPane;
+class PanelPane;
 class PrintJob;
-class SummaryPane;
+class SummaryPart;
 
 /// The tabs of the dialog: its own panes, which live as long as it does and are tabs where there is
 /// something to show, and a pane for each panel of the job's printer.
@@ -32,7 +33,7 @@ public:
     PageSetupPane *pageSetup() const { return m_pageSetup; }
     FeaturesPane *features() const { return m_features; }
     LayoutPane *layoutPane() const { return m_layout; }
-    SummaryPane *summary() const { return m_summary; }
+    SummaryPart *summary() const { return m_summary; }
 
     /// The tabs for the printer that is open now, the first panel in front; for a job that was
     /// saved the summary alone. Says nothing of it, and shows no panel yet.
@@ -57,6 +58,13 @@ public:
     /// Has the panel that was shown last save and leave the screen.
     void hidePanel();
 
+    /// Gives the panels' views back, before their session closes and another one takes its place.
+    void releaseViews();
+
+    /// Takes the panels of the session in place of the former one's; the panel of the name has been
+    /// shown (null: none). The one in front comes on screen.
+    void exchangePanels(const QString &shown);
+
     /// Whether the panel in front has no view.
     bool isViewMissing() const { return m_viewIsMissing; }
 
@@ -64,16 +72,20 @@ Q_SIGNALS:
     /// The view of a panel has come to another size by itself.
     void viewResized();
 
+    /// PanelPane::explanationWanted() of a panel's pane.
+    void explanationWanted(const QWidget *part, const QPoint &place);
+
 private:
     void addPart(const QString &name, QWidget *page, const QString &title,
                  const HostPanel *panel = nullptr);
     void addPanels();
+    void putView(PanelPane &pane, QWidget *view);
 
     PrintJob &m_job;
     PageSetupPane *m_pageSetup;
     FeaturesPane *m_features;
     LayoutPane *m_layout;
-    SummaryPane *m_summary;
+    SummaryPart *m_summary;
     std::vector<Part> m_parts;
     const HostPanel *m_shownPanel = nullptr;
     bool m_viewIsMissing = false; // of m_shownPanel

@@ -12,13 +12,17 @@
 #include <QtGui/QKeySequence>
 #include <QtWidgets/QDialog>
 
+#include <memory>
 #include <optional>
-#include <vector>
 
+class Adviser;
 class DialogTabs;
 class JobHeader;
 class ProgressStrip;
+class ScrolledBody;
 class QPushButton;
+class SessionUndo;
+struct Remedy;
 
 /// The print dialog: printer, page setup, the plug-in's panels, the summary, and Print.
 ///
@@ -98,6 +102,7 @@ private:
     // DialogWindow.cpp
     void buildLayout();
     void addPartShortcut(QKeySequence::StandardKey keys, int step);
+    ScrolledBody *newBody();
     QWidget *newButtons();
     QString printTitle() const;
     void setState(State state);
@@ -117,6 +122,7 @@ private:
     void noteEvent();
     void noteOwnEvent();
     void tellEvent();
+    void tellRefusal(const QString &sentence, const PPDMark &choice);
     Notice doubtsToTell();
     Notice standingNotice();
     void choose(const RequestedChoice &choice);
@@ -159,7 +165,8 @@ private:
     void moveButtonsLast();
     void fitToPart();
     void followView();
-    void fitToTabs();
+    void fitToTexts();
+    void setWidth(int width);
     void setHeight(int height);
     QList<SummarySection> summarySections();
     void listCoverPages();
@@ -175,6 +182,24 @@ private:
     void deletePreset();
     void showHiddenAlerts();
 
+    // DialogUndo.cpp
+    void connectUndo();
+    void noteSettled();
+    void undo();
+    void redo();
+    void goBackOrOn(Result<> (SessionUndo::*way)(), const QString &words, const NoticeOffer &offer);
+    NoticeOffer undoOffer();
+    Result<> exchangeSession(Result<> (SessionUndo::*way)());
+    void showSettled();
+    void forgetEvent();
+
+    // DialogAdvice.cpp
+    void connectAdvice();
+    void offerQuestions(const QWidget *part, const QPoint &place);
+    void explain(const PPDMark &wanted);
+    void offerRemedies(const PPDMark &refused, const QString &sentence);
+    void take(const Remedy &remedy, const PPDMark &wanted);
+
     // DialogPrint.cpp
     std::optional<JobRequest> finishedJob();
     bool isAgreed(const QStringList &doubts);
@@ -189,6 +214,8 @@ private:
 
     const DialogWishes m_wishes;
     PrintController m_controller;
+    const std::unique_ptr<SessionUndo> m_undo;
+    const std::unique_ptr<Adviser> m_adviser;
     Result<> m_documentState;
     std::optional<JobRequest> m_savedJob; ///< the only document, where that is a saved job
     Result<> m_printerState;
@@ -199,10 +226,11 @@ private:
     QList<Fault> m_shortcomings;           ///< of the printer
     QStringList m_startNotes;              ///< on the settings that it starts from
     Notice m_standing;                     ///< shown while there is nothing newer to tell
-    QString m_refusalToTell;               ///< of the pick that is going on
-    bool m_coversAreListed = false;        ///< of the printer
-    PPDMark m_pick;           ///< of the user, in the event that is going on; null: none yet
-    SettingState m_toldState; ///< to tell what an event has changed
+    PPDMark m_refused;              ///< of the pick that is going on; a null keyword: nothing
+    QString m_refusalToTell;        ///< of the pick that is going on
+    bool m_coversAreListed = false; ///< of the printer
+    PPDMark m_pick;                 ///< of the user, in the event that is going on; null: none yet
+    SettingState m_toldState;       ///< to tell what an event has changed
     bool m_eventIsNoted = false;
     int m_eventLevel = 0; ///< of the event loop in which it was noted
     bool m_requestedSettingsAreMade = false;
@@ -215,6 +243,8 @@ private:
     NoticeBar *m_notice;
     ProgressStrip *m_progress;
     DialogTabs *m_tabs;
+    ScrolledBody *m_body = nullptr; ///< all but the buttons
+    QWidget *m_buttons = nullptr;
     QPushButton *m_help = nullptr;
     QPushButton *m_save = nullptr;
     QPushButton *m_cancel = nullptr;

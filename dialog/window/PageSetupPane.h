@@ -1,6 +1,7 @@
 #pragma once
 
-#include <QtWidgets/QWidget>
+#include "dialog/host/PPDMarks.h"
+#include "dialog/window/ScrolledBody.h"
 
 class PaperRows;
 class PlacementRows;
@@ -9,7 +10,7 @@ class PrintJob;
 /// The page setup: the paper in the printer, how the pages lie on it, two-sided printing, colour
 /// matching, and the options that the plug-in leaves to the dialog. Shows what the job has, and
 /// changes the job alone.
-class PageSetupPane : public QWidget
+class PageSetupPane : public ScrolledBody
 {
     Q_OBJECT
 
@@ -30,12 +31,11 @@ Q_SIGNALS:
     /// The user has changed something, and the job has it where it can be used.
     void changed();
 
-    /// What the user chose cannot be; one sentence. The job is as it was.
-    void refused(const QString &sentence);
+    /// What the user chose cannot be; one sentence, and the choice. The job is as it was.
+    void refused(const QString &sentence, const PPDMark &choice);
 
 private:
     PrintJob &m_job;
-    QWidget *m_page = nullptr;
     PaperRows *m_paper = nullptr;
     PlacementRows *m_placement = nullptr;
 };

@@ -1,12 +1,14 @@
 #include "platform/toolkit/ModalSession.h"
 
 #include "platform/toolkit/AlertObserver.h"
+#include "platform/toolkit/ImageView.h"
 #include "platform/toolkit/PlainText.h"
 
 #include <QtCore/QEvent>
 #include <QtCore/QEventLoop>
 #include <QtCore/QTimer>
 #include <QtGui/QKeyEvent>
+#include <QtGui/QScreen>
 #include <QtWidgets/QCheckBox>
 #include <QtWidgets/QLabel>
 #include <QtWidgets/QPushButton>
@@ -53,6 +55,23 @@ private:
     Session &m_session;
 };
 
+/// On a small screen pictures give way, so that the buttons are in reach.
+void fitToScreen(QWidget &window)
+{
+    const QSize most = window.screen()->availableSize();
+    const bool hasSize = window.testAttribute(Qt::WA_Resized);
+    const QSize wanted = window.sizeHint().expandedTo(hasSize ? window.size() : QSize());
+    const QSize lacking = (wanted - most).expandedTo(QSize(0, 0));
+    if (lacking.isNull())
+        return;
+    for (auto *picture : window.findChildren<ImageView *>()) {
+        QSize smaller = picture->maximumSize();
+        smaller.scale((smaller - lacking).expandedTo(QSize(0, 0)), Qt::KeepAspectRatio);
+        picture->setFixedSize(smaller);
+    }
+    window.resize(wanted.boundedTo(most));
+}
+
 ShownAlert describe(QWidget *window)
 {
     ShownAlert alert;
@@ -85,12 +104,18 @@ int runModalForWindow(QWidget *window)
     window->installEventFilter(&closing);
     QObject::connect(window, &QObject::destroyed, &session.loop, &QEventLoop::quit);
     window->setWindowModality(Qt::ApplicationModal);
-    window->show();
-    if (AlertObserver *observer = AlertObserver::alertObserver())
-        QTimer::singleShot(0, &session.loop,
-                           [observer, window] { observer->alertShown(describe(window)); });
     sessions().push_back(&session);
-    session.loop.exec();
+    const AlertObserver *observer = AlertObserver::alertObserver();
+    if (observer && observer->keepsAlertsUnseen()) {
+        ShownAlert alert = describe(window);
+        alert.isUnseen = true;
+        AlertObserver::tell(alert);
+    } else {
+        fitToScreen(*window);
+        window->show();
+        QTimer::singleShot(0, &session.loop, [window] { AlertObserver::tell(describe(window)); });
+        session.loop.exec();
+    }
     std::erase(sessions(), &session);
     return session.code;
 }
