@@ -7,6 +7,8 @@
 
 namespace {
 
+constexpr int kMostSeconds = 1'000'000; // milliseconds of them are still a number
+
 /// One option: it has a flag, or takes a value.
 struct Option
 {
@@ -79,6 +81,19 @@ QString takeHold(CommandLine &line, const QString &value)
                                  : value);
 }
 
+QString takeTimeout(CommandLine &line, const QString &value)
+{
+    bool isNumber = false;
+    const int seconds = value.toInt(&isNumber);
+    if (!isNumber || seconds < 0 || seconds > kMostSeconds)
+        return QCoreApplication::translate("CommandLine",
+                                           "--timeout needs a number of seconds from 0 to %1, not "
+                                           "\"%2\".")
+            .arg(QString::number(kMostSeconds), value);
+    line.timeout = seconds;
+    return {};
+}
+
 /// Standard output has two names; the files know the one that is a path.
 QString takeOutput(CommandLine &line, const QString &value)
 {
@@ -102,6 +117,8 @@ constexpr std::array kOptions{
     Option{"force", '\0', nullptr, &CommandLine::force},
     Option{"no-dialog", '\0', nullptr, &CommandLine::noDialog},
     Option{"yes", '\0', nullptr, &CommandLine::yes},
+    Option{"wait", '\0', nullptr, &CommandLine::wait},
+    Option{"timeout", '\0', nullptr, nullptr, takeTimeout},
     Option{"screenshot", '\0', &CommandLine::screenshot},
     Option{"panel", '\0', &CommandLine::panel},
     Option{"record", '\0', &CommandLine::record},
@@ -201,6 +218,11 @@ QString contradiction(const CommandLine &line)
         return QCoreApplication::translate("CommandLine", "--no-dialog needs a document to print.");
     if (line.yes && !line.noDialog)
         return QCoreApplication::translate("CommandLine", "--yes is for --no-dialog.");
+    if (line.wait && (!line.noDialog || !line.output.isNull()))
+        return QCoreApplication::translate(
+            "CommandLine", "--wait is for --no-dialog, where the job is sent to a printer.");
+    if (line.timeout && !line.wait)
+        return QCoreApplication::translate("CommandLine", "--timeout is for --wait.");
     return {};
 }
 

@@ -6,6 +6,8 @@
 #include <QtCore/QString>
 #include <QtCore/QStringList>
 
+#include <optional>
+
 /// What velkaro-print was asked to do. A null string: the option was not given.
 struct CommandLine : DialogWishes
 {
@@ -15,6 +17,8 @@ struct CommandLine : DialogWishes
     bool noDialog = false;
     bool forgetAlerts = false; ///< --forget-alerts
     bool yes = false;
+    bool wait = false;          ///< for the job's end
+    std::optional<int> timeout; ///< in seconds: how long a job may be stopped or held then
     bool version = false;
     bool help = false;
 };
