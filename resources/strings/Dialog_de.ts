@@ -1098,6 +1098,37 @@
     </message>
 </context>
 <context>
+    <name>JobWindow</name>
+    <message>
+        <source>Job %1 on %2</source>
+        <translation>Auftrag %1 auf %2</translation>
+    </message>
+    <message>
+        <source>Pages</source>
+        <translation>Seiten</translation>
+    </message>
+    <message>
+        <source>Hold</source>
+        <translation>Zurückhalten</translation>
+    </message>
+    <message>
+        <source>Release</source>
+        <translation>Freigeben</translation>
+    </message>
+    <message>
+        <source>Print Again</source>
+        <translation>Erneut drucken</translation>
+    </message>
+    <message>
+        <source>Cancel Job</source>
+        <translation>Auftrag abbrechen</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Schließen</translation>
+    </message>
+</context>
+<context>
     <name>LayoutPane</name>
     <message>
         <source>%1:</source>
@@ -1553,6 +1584,10 @@
     <message>
         <source>%1 (from the printer&apos;s maker)</source>
         <translation>%1 (vom Druckerhersteller)</translation>
+    </message>
+    <message>
+        <source>Follow the Job After Printing</source>
+        <translation>Auftrag nach dem Drucken verfolgen</translation>
     </message>
 </context>
 <context>

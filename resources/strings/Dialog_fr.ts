@@ -1098,6 +1098,37 @@
     </message>
 </context>
 <context>
+    <name>JobWindow</name>
+    <message>
+        <source>Job %1 on %2</source>
+        <translation>Travail %1 sur %2</translation>
+    </message>
+    <message>
+        <source>Pages</source>
+        <translation>Pages</translation>
+    </message>
+    <message>
+        <source>Hold</source>
+        <translation>Retenir</translation>
+    </message>
+    <message>
+        <source>Release</source>
+        <translation>Libérer</translation>
+    </message>
+    <message>
+        <source>Print Again</source>
+        <translation>Imprimer à nouveau</translation>
+    </message>
+    <message>
+        <source>Cancel Job</source>
+        <translation>Annuler le travail</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Fermer</translation>
+    </message>
+</context>
+<context>
     <name>LayoutPane</name>
     <message>
         <source>%1:</source>
@@ -1553,6 +1584,10 @@
     <message>
         <source>%1 (from the printer&apos;s maker)</source>
         <translation>%1 (du fabricant de l’imprimante)</translation>
+    </message>
+    <message>
+        <source>Follow the Job After Printing</source>
+        <translation>Suivre le travail après l’impression</translation>
     </message>
 </context>
 <context>

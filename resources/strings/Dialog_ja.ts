@@ -1098,6 +1098,37 @@
     </message>
 </context>
 <context>
+    <name>JobWindow</name>
+    <message>
+        <source>Job %1 on %2</source>
+        <translation>%2 のジョブ %1</translation>
+    </message>
+    <message>
+        <source>Pages</source>
+        <translation>ページ</translation>
+    </message>
+    <message>
+        <source>Hold</source>
+        <translation>保留</translation>
+    </message>
+    <message>
+        <source>Release</source>
+        <translation>保留を解除</translation>
+    </message>
+    <message>
+        <source>Print Again</source>
+        <translation>もう一度印刷</translation>
+    </message>
+    <message>
+        <source>Cancel Job</source>
+        <translation>ジョブを取り消す</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>閉じる</translation>
+    </message>
+</context>
+<context>
     <name>LayoutPane</name>
     <message>
         <source>%1:</source>
@@ -1553,6 +1584,10 @@
     <message>
         <source>%1 (from the printer&apos;s maker)</source>
         <translation>%1（プリンターメーカー提供）</translation>
+    </message>
+    <message>
+        <source>Follow the Job After Printing</source>
+        <translation>印刷後のジョブを見守る</translation>
     </message>
 </context>
 <context>
