@@ -89,7 +89,7 @@ void Adviser::abandon()
 
 void Adviser::start()
 {
-    m_process = std::make_unique<QProcess>();
+    m_process = std::make_unique<QProcess>(this);
     m_process->setStandardErrorFile(QProcess::nullDevice());
     m_process->setChildProcessModifier(
         [ppd = m_session->ppdText()] { fcntl(ppd, F_SETFD, 0); }); // stays open in the program

@@ -1,9 +1,9 @@
 #include "dialog/advice/SettingScratch.h"
 
 #include "dialog/advice/PossibleChanges.h"
-#include "dialog/advice/SettingsPrint.h"
 #include "dialog/advice/TrialLine.h"
 #include "dialog/host/HostSession.h"
+#include "dialog/job/Conflicts.h"
 #include "dialog/printing/JobDoubts.h"
 #include "dialog/printing/PanelPicks.h"
 #include "dialog/printing/PrintJob.h"
@@ -12,6 +12,7 @@
 #include "platform/ppd/PPDText.h"
 
 #include <algorithm>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -23,26 +24,9 @@ constexpr QByteArrayView kAllTried = "all";
 
 QString currentChoice(const PrintJob &job, const QString &keyword)
 {
-    for (const PPDMark &mark : settingState(job).marks)
-        if (mark.keyword == keyword)
-            return mark.choice;
-    return {};
-}
-
-/// The keywords of which the PPD's constraints speak, in lower case.
-QSet<QString> constrainedKeywords(ppd_file_t *ppd)
-{
-    QSet<QString> keywords;
-    for (int index = 0; index < ppd->num_consts; ++index) {
-        keywords.insert(ppdName(ppd->consts[index].option1).toLower());
-        keywords.insert(ppdName(ppd->consts[index].option2).toLower());
-    }
-    for (const ppd_attr_t *all = ppdFindAttr(ppd, "cupsUIConstraints", nullptr); all;
-         all = ppdFindNextAttr(ppd, "cupsUIConstraints", nullptr))
-        for (const QString &word : QString::fromUtf8(all->value).split(u' ', Qt::SkipEmptyParts))
-            if (word.startsWith(u'*'))
-                keywords.insert(word.mid(1).toLower());
-    return keywords;
+    if (keyword == "PageSize"_L1)
+        return job.paper().value_or(PMPaper()).name;
+    return markedValue(job.ppd(), keyword);
 }
 
 /// What does not go together, and what is printed otherwise than it is shown: names that tell one
@@ -73,6 +57,7 @@ SettingScratch::SettingScratch(PrintJob &job, const PPDMark &wanted, int mostTri
 {
     prepareControls(*m_job.session());
     m_answers.answerSheets();
+    m_image = std::make_unique<SettingsImage>(m_job, m_wanted);
     m_base = settingState(m_job);
     m_troubles = troublesOf(m_job);
 }
@@ -117,43 +102,102 @@ bool SettingScratch::tryEach(const QList<SettingChange> &made,
 /// Tries on what has been made in this process.
 void SettingScratch::tryEachHere(const QList<SettingChange> &made,
                                  const std::function<bool(const SettingChange &)> &filter,
-                                 const Take &take)
+                                 const Tell &tell)
 {
-    int left = m_left;
-    QHash<QString, QByteArray> before;
-    for (const PPDMark &next : possibleChanges(m_job)) {
+    QList<SettingChange> changes;
+    const QList<PPDMark> possible = possibleChanges(m_job);
+    for (const PPDMark &next : possible) {
         const SettingChange change{next.keyword, currentChoice(m_job, next.keyword), next.choice};
         const bool isOther =
             next.keyword != m_wanted.keyword &&
             std::ranges::find(made, next.keyword, &SettingChange::keyword) == made.end();
-        if (!isOther || !filter(change))
-            continue;
-        if (left-- <= 0)
-            return;
-        if (!before.contains(next.keyword))
-            before.insert(next.keyword, printOfSettings(m_job, m_wanted, next.keyword));
-        ProcessCopy copy(kLongestTrial, [&](const ProcessCopy::Tell &tell) {
-            tell(lineOfTrial(tryOut(made, change, before.value(next.keyword))));
-        });
-        take(copy.nextLine().value_or(QByteArray()));
+        if (isOther && filter(change))
+            changes += change;
     }
-    take(kAllTried.toByteArray());
+    const bool isWhole = changes.size() <= m_left;
+    changes.resize(std::min<qsizetype>(changes.size(), m_left));
+    for (qsizetype next = 0; next < changes.size();)
+        next = tryFrom(next, made, changes, tell);
+    if (isWhole)
+        tell(kAllTried.toByteArray());
 }
 
-Trial SettingScratch::tryOut(const QList<SettingChange> &made, const SettingChange &change,
-                             const QByteArray &effectOfNone)
+/// Tries the changes from the first one on, up to one that cannot be taken back. Gives where to go
+/// on.
+qsizetype SettingScratch::tryFrom(qsizetype first, const QList<SettingChange> &made,
+                                  const QList<SettingChange> &changes, const Tell &tell)
+{
+    ProcessCopy glances(kLongestGround, [&](const ProcessCopy::Tell &tellGlance) {
+        glanceFrom(first, changes, tellGlance);
+    });
+    qsizetype next = first;
+    while (const std::optional<QByteArray> line = glances.nextLine()) {
+        ++next;
+        const std::optional<Trial> glance = trialOfLine(*line);
+        if (!glance || !glance->isHad) {
+            tell(*line);
+            continue;
+        }
+        ProcessCopy copy(kLongestTrial, [&](const ProcessCopy::Tell &tellTrial) {
+            tellTrial(lineOfTrial(tryOut(made, *glance)));
+        });
+        tell(copy.nextLine().value_or(QByteArray()));
+    }
+    if (next > first)
+        return next;
+    tell(QByteArray()); // the first one was the copy's end
+    return first + 1;
+}
+
+/// Glances at the changes from the first one on, up to one that cannot be taken back.
+void SettingScratch::glanceFrom(qsizetype first, const QList<SettingChange> &changes,
+                                const Tell &tell)
+{
+    const QByteArray before = m_image->text();
+    QString keyword;
+    QByteArray effectOfNone;
+    for (qsizetype index = first; index < changes.size(); ++index) {
+        const SettingChange &change = changes[index];
+        if (std::exchange(keyword, change.keyword) != change.keyword)
+            effectOfNone = m_image->text(keyword);
+        tell(lineOfTrial(glanceAt(change, effectOfNone)));
+        if (!takeBack(change, before))
+            return;
+    }
+}
+
+/// What the change comes to by itself. Whether the choice is had is not found out, but whether it
+/// may be.
+Trial SettingScratch::glanceAt(const SettingChange &change, const QByteArray &effectOfNone)
 {
     Trial trial{change, false, false, {}, {}, {}};
     if (!make({change.keyword, change.to}))
         return trial;
-    trial.state = printOfSettings(m_job, m_wanted, QString());
+    trial.state = m_image->text();
     const bool isConstrained = m_constrained.contains(change.keyword.toLower());
-    const QByteArray effect = printOfSettings(m_job, m_wanted, change.keyword);
-    if (isConstrained || effect != effectOfNone)
-        trial.effect = isConstrained ? trial.state : effect;
+    const QByteArray effect = isConstrained ? trial.state : m_image->text(change.keyword);
+    if (effect != effectOfNone)
+        trial.effect = effect;
     trial.isNearer = canBePicked(m_job, m_wanted);
-    const QList<SettingChange> changes = made + QList{change};
-    trial.isHad = isHadAfterSave() && isSound(changes);
+    trial.isHad = trial.isNearer || currentChoice(m_job, m_wanted.keyword) == m_wanted.choice;
+    return trial;
+}
+
+/// Whether everything is as it was again.
+bool SettingScratch::takeBack(const SettingChange &change, const QByteArray &before)
+{
+    if (!m_image->isWhole() || change.from.isNull())
+        return false;
+    make({change.keyword, change.from});
+    return m_image->text() == before;
+}
+
+/// Whether the choice is had with the change that was glanced at.
+Trial SettingScratch::tryOut(const QList<SettingChange> &made, Trial trial)
+{
+    const QList<SettingChange> changes = made + QList{trial.change};
+    trial.isHad =
+        make({trial.change.keyword, trial.change.to}) && isHadAfterSave() && isSound(changes);
     if (trial.isHad)
         trial.beside = changedBeside(changes);
     return trial;

@@ -1,9 +1,9 @@
 #pragma once
 
 #include "dialog/advice/Scratch.h"
+#include "dialog/advice/SettingsImage.h"
 #include "dialog/printing/ScriptedAnswers.h"
 
-#include <QtCore/QHash>
 #include <QtCore/QSet>
 
 #include <memory>
@@ -13,6 +13,10 @@ class PrintJob;
 /// Tries settings out on copies of this process: each trial runs the real panels, from the state
 /// that the job has now. The job itself is changed by nothing but the preparation: its panels'
 /// controls are filled. Use it in a ProcessCopy.
+///
+/// A copy takes its time, so one glances at change after change for as long as each can be taken
+/// back to exactly what was before. A change with which the choice may be had is then tried out in
+/// a copy of its own.
 class SettingScratch : public Scratch
 {
 public:
@@ -25,12 +29,16 @@ public:
                  const std::function<void(const Trial &)> &take) override;
 
 private:
-    using Take = std::function<void(const QByteArray &trial)>;
+    using Tell = std::function<void(const QByteArray &line)>;
 
     void tryEachHere(const QList<SettingChange> &made,
-                     const std::function<bool(const SettingChange &)> &filter, const Take &take);
-    Trial tryOut(const QList<SettingChange> &made, const SettingChange &change,
-                 const QByteArray &effectOfNone);
+                     const std::function<bool(const SettingChange &)> &filter, const Tell &tell);
+    qsizetype tryFrom(qsizetype first, const QList<SettingChange> &made,
+                      const QList<SettingChange> &changes, const Tell &tell);
+    void glanceFrom(qsizetype first, const QList<SettingChange> &changes, const Tell &tell);
+    Trial glanceAt(const SettingChange &change, const QByteArray &effectOfNone);
+    bool takeBack(const SettingChange &change, const QByteArray &before);
+    Trial tryOut(const QList<SettingChange> &made, Trial trial);
     bool make(const PPDMark &choice);
     bool isHadAfterSave();
     bool isSound(const QList<SettingChange> &changes) const;
@@ -41,6 +49,7 @@ private:
     int m_left; ///< trials
     ScriptedAnswers m_answers;
     QSet<QString> m_constrained; ///< keywords of which the PPD's constraints speak
+    std::unique_ptr<SettingsImage> m_image;
     SettingState m_base;
     QSet<QString> m_troubles; ///< of the base
 };

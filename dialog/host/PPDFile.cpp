@@ -73,7 +73,29 @@ int duplicate(const FileDescriptor &file)
     return fcntl(file.get(), F_DUPFD_CLOEXEC, 0);
 }
 
+OpenedPPD withDefaults(PPDHandle ppd, std::shared_ptr<const FileDescriptor> text, PPDTexts texts)
+{
+    if (texts == PPDTexts::InUserLanguage)
+        localize(*ppd);
+    ppdMarkDefaults(ppd.get());
+    const QList<PPDMark> defaults = marksOf(ppd.get());
+    return {std::move(ppd), defaults, std::move(text)};
+}
+
+QByteArray contentOf(const FileDescriptor &file)
+{
+    QByteArray content(lseek(file.get(), 0, SEEK_END), '\0');
+    const ssize_t got =
+        pread(file.get(), content.data(), static_cast<std::size_t>(content.size()), 0);
+    return content.left(got);
+}
+
 } // namespace
+
+bool isSameText(const FileDescriptor &one, const FileDescriptor &other)
+{
+    return contentOf(one) == contentOf(other);
+}
 
 Result<OpenedPPD> openPPD(const QString &path, PPDTexts texts)
 {
@@ -86,9 +108,15 @@ Result<OpenedPPD> openPPD(const QString &path, PPDTexts texts)
         return parserError(path);
     if (saysNothing(*ppd) || isCutOff(*text))
         return incompletePPD(path);
-    if (texts == PPDTexts::InUserLanguage)
-        localize(*ppd);
-    ppdMarkDefaults(ppd.get());
-    const QList<PPDMark> defaults = marksOf(ppd.get());
-    return OpenedPPD{std::move(ppd), defaults, std::move(file)};
+    return withDefaults(std::move(ppd), std::move(file), texts);
+}
+
+Result<OpenedPPD> reopenPPD(const std::shared_ptr<const FileDescriptor> &text, PPDTexts texts)
+{
+    // Both descriptors go on in the file together.
+    lseek(text->get(), 0, SEEK_SET);
+    PPDHandle ppd(ppdOpenFd(duplicate(*text)));
+    if (!ppd) // there was memory for it before
+        return parserError(QString());
+    return withDefaults(std::move(ppd), text, texts);
 }

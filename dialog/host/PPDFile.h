@@ -38,3 +38,9 @@ enum class PPDTexts {
 /// Reads and checks the PPD file (readPPD), has libcups open what was read, and marks the defaults.
 /// On any thread: the PPD may be handed on to another one.
 Result<OpenedPPD> openPPD(const QString &path, PPDTexts texts = PPDTexts::AsWritten);
+
+/// Whether the texts of two PPDs (OpenedPPD::text) are the same.
+bool isSameText(const FileDescriptor &one, const FileDescriptor &other);
+
+/// Opens a PPD's text (OpenedPPD::text) once more. On any thread, on one at a time for a text.
+Result<OpenedPPD> reopenPPD(const std::shared_ptr<const FileDescriptor> &text, PPDTexts texts);

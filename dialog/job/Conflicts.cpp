@@ -67,6 +67,21 @@ QStringList clashesWith(ppd_file_t *ppd, const QString &keyword, const QString &
     return clashes;
 }
 
+QSet<QString> constrainedKeywords(ppd_file_t *ppd)
+{
+    QSet<QString> keywords;
+    for (int index = 0; index < ppd->num_consts; ++index) {
+        keywords.insert(ppdName(ppd->consts[index].option1).toLower());
+        keywords.insert(ppdName(ppd->consts[index].option2).toLower());
+    }
+    for (const ppd_attr_t *all = ppdFindAttr(ppd, "cupsUIConstraints", nullptr); all;
+         all = ppdFindNextAttr(ppd, "cupsUIConstraints", nullptr))
+        for (const QString &word : QString::fromUtf8(all->value).split(u' ', Qt::SkipEmptyParts))
+            if (word.startsWith(u'*'))
+                keywords.insert(word.mid(1).toLower());
+    return keywords;
+}
+
 QString refusalSentence(ppd_file_t *ppd, const QString &keyword, const QString &choice)
 {
     const QStringList clashes = clashesWith(ppd, keyword, choice);

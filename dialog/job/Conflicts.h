@@ -2,6 +2,7 @@
 
 #include "platform/ppd/CupsPPD.h"
 
+#include <QtCore/QSet>
 #include <QtCore/QString>
 #include <QtCore/QStringList>
 
@@ -13,6 +14,9 @@ QString choiceText(ppd_file_t *ppd, const QString &keyword, const QString &choic
 /// The marked choices that the choice would not go together with, as choiceText() gives them; none
 /// when the PPD's constraints allow it. Marks nothing.
 QStringList clashesWith(ppd_file_t *ppd, const QString &keyword, const QString &choice);
+
+/// The keywords of which the PPD's constraints speak, in lower case.
+QSet<QString> constrainedKeywords(ppd_file_t *ppd);
 
 /// One sentence on why the choice was refused; null when the PPD's constraints allow it.
 QString refusalSentence(ppd_file_t *ppd, const QString &keyword, const QString &choice);

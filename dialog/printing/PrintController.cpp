@@ -133,6 +133,7 @@ Result<FoundPrinter> PrintController::takePrinter(const PrinterSource &source,
                                                   FetchedPrinter &fetched)
 {
     m_job.closePrinter(); // two sessions at once would hear of each other
+    m_origin.reset();
     PrinterSource found = source;
     found.queue = fetched.queue;
     const QList<JobOption> starting = startingOptions(
@@ -142,7 +143,17 @@ Result<FoundPrinter> PrintController::takePrinter(const PrinterSource &source,
         return fetched.opened.fault();
     }
     FoundPrinter printer;
-    OpenedPrinter opened = open(fetched, starting, printer.shortcomings);
+    SessionOptions options;
+    options.ppdPath = fetched.ppdPath;
+    options.bundlePath = m_wishes.plugIn;
+    const auto text = *fetched.opened ? (*fetched.opened)->text : nullptr;
+    OpenedPrinter opened =
+        open(options, *std::move(fetched.opened), starting, printer.shortcomings);
+    if (opened.session) {
+        options.alertMemory = opened.session->alertMemory();
+        m_origin = std::make_shared<PrinterOrigin>(
+            PrinterOrigin{found, options, fetched.kept, text, starting});
+    }
     printer.notes = notesOnStart(found, opened.saved.missing);
     m_job.setPrinter(found, std::move(opened));
     if (m_job.session() && m_job.session()->plugInFault())
@@ -156,19 +167,29 @@ Result<FoundPrinter> PrintController::takePrinter(const PrinterSource &source,
     return printer;
 }
 
-OpenedPrinter PrintController::open(FetchedPrinter &fetched, const QList<JobOption> &starting,
-                                    QList<Fault> &shortcomings)
+OpenedPrinter PrintController::open(const SessionOptions &options, std::optional<OpenedPPD> ppd,
+                                    const QList<JobOption> &starting, QList<Fault> &shortcomings)
 {
-    SessionOptions options;
-    options.ppdPath = fetched.ppdPath;
-    options.bundlePath = m_wishes.plugIn;
-    return openPrinter(options, *std::move(fetched.opened), starting,
+    return openPrinter(options, std::move(ppd), starting,
                        [this, &shortcomings](HostSession &session) {
                            session.addObserver(&m_unsaved);
                            for (const SessionHook &hook : std::as_const(m_hooks))
                                if (const Result<> hooked = hook(session); !hooked)
                                    shortcomings += hooked.fault();
                        });
+}
+
+Result<> PrintController::reopen(const std::shared_ptr<const PrinterOrigin> &origin)
+{
+    Result<OpenedPPD> ppd = reopenPPD(origin->ppd, PPDTexts::InUserLanguage);
+    if (!ppd)
+        return ppd.fault();
+    m_job.closePrinter();      // two sessions at once would hear of each other
+    QList<Fault> shortcomings; // were told when it was opened first
+    m_job.setPrinter(origin->source,
+                     open(origin->options, *std::move(ppd), origin->starting, shortcomings));
+    m_origin = origin;
+    return {};
 }
 
 void PrintController::listPrinters(Then<QList<Destination>> then)
@@ -189,16 +210,27 @@ void PrintController::listCoverPages(Then<QStringList> then)
         std::move(then), [source] { return Result<QStringList>(silentServer(source.server)); });
 }
 
-Result<> PrintController::makeRequestedSettings(const std::function<void()> &madeOne)
+NamedWishes PrintController::namedWishes() const
 {
     QList<RequestedChoice> wanted = m_wishes.choices;
     if (m_wishes.mail)
         wanted += RequestedChoice{QStringLiteral("notify-recipient-uri"), ownAddress()};
     if (!m_wishes.paper.isNull())
         wanted += RequestedChoice{QStringLiteral("PageSize"), m_wishes.paper};
-    const NamedWishes named = inPrintersNames(m_job.ppd(), wanted);
+    return inPrintersNames(m_job.ppd(), wanted);
+}
+
+Result<>
+PrintController::makeRequestedSettings(const std::function<void(const RequestedChoice &)> &madeOne)
+{
+    const NamedWishes named = namedWishes();
     const Result<> made = makeSettings(m_job, named.wanted, madeOne);
     return named.state ? made : named.state;
+}
+
+QList<RequestedChoice> PrintController::lostSettings() const
+{
+    return ::lostSettings(m_job, namedWishes().wanted);
 }
 
 Result<FinishedJob> PrintController::finish()

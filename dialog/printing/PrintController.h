@@ -17,6 +17,7 @@
 #include <memory>
 
 class BackgroundCall;
+struct NamedWishes;
 
 /// A printer that was found, and opened where it has a PPD: PrintController::job() has it.
 struct FoundPrinter
@@ -88,6 +89,14 @@ public:
     /// any more. Even after a fault the job knows the queue, as far as there is one.
     void findPrinter(const PrinterSource &source, Then<FoundPrinter> then);
 
+    /// How the printer was opened that is open now; null: there is none, or it has no PPD.
+    const std::shared_ptr<const PrinterOrigin> &origin() const { return m_origin; }
+
+    /// Opens the printer once more, at once, as it was opened then, in place of the present one,
+    /// whose panels must not be on screen any more. Alerts may be suppressed as they were then:
+    /// not for the user to keep (TransientDefaults).
+    Result<> reopen(const std::shared_ptr<const PrinterOrigin> &origin);
+
     /// Lists the printers of the wished server.
     void listPrinters(Then<QList<Destination>> then);
 
@@ -98,7 +107,11 @@ public:
     void listCoverPages(Then<QStringList> then);
 
     /// Makes the wished settings (makeSettings()).
-    Result<> makeRequestedSettings(const std::function<void()> &madeOne = {});
+    Result<>
+    makeRequestedSettings(const std::function<void(const RequestedChoice &)> &madeOne = {});
+
+    /// Those of the wished settings that the job has not, though the printer has them.
+    QList<RequestedChoice> lostSettings() const;
 
     /// Asks the panels whether the job may be printed, and makes the job as it is to go out. After
     /// a veto the sentence is null when the panel has told the user why by itself.
@@ -124,18 +137,20 @@ public:
     void closePrinter() { m_job.closePrinter(); }
 
 private:
+    NamedWishes namedWishes() const;
     template <typename Value>
     void begin(QPointer<BackgroundCall> &call, std::chrono::milliseconds timeout,
                std::function<Value(CallGuard &)> work, std::function<void(Value)> take,
                std::function<Value()> givenUp = {});
     Result<FoundPrinter> takePrinter(const PrinterSource &source, FetchedPrinter &fetched);
-    OpenedPrinter open(FetchedPrinter &fetched, const QList<JobOption> &starting,
-                       QList<Fault> &shortcomings);
+    OpenedPrinter open(const SessionOptions &options, std::optional<OpenedPPD> ppd,
+                       const QList<JobOption> &starting, QList<Fault> &shortcomings);
 
     const PrintWishes m_wishes;
     UnsavedPanels m_unsaved; // outlives the session that it follows
     PrintJob m_job;
     QList<SessionHook> m_hooks;
+    std::shared_ptr<const PrinterOrigin> m_origin;
     QPointer<BackgroundCall> m_call;    ///< finding, sending or writing
     QPointer<BackgroundCall> m_reading; ///< of documents that are pipes
     QPointer<BackgroundCall> m_listing;

@@ -47,6 +47,14 @@ void PrintJob::setPrinter(const PrinterSource &source, OpenedPrinter printer)
     m_savedSettings = printer.saved.settings;
 }
 
+void PrintJob::setSettled(const SettledState &state)
+{
+    m_settings = state.settings;
+    m_ownTitle = state.ownTitle;
+    m_chosen = state.chosen;
+    setOrientation(state.orientation);
+}
+
 void PrintJob::closePrinter()
 {
     // Whoever is told of it finds no session any more.

@@ -14,6 +14,17 @@
 #include <optional>
 #include <variant>
 
+/// What the user has settled of a job beside the panels' session.
+struct SettledState
+{
+    HostSettings settings;
+    QString ownTitle;
+    PMOrientation orientation = PMOrientation::Portrait;
+    QHash<QString, QString> chosen; ///< keyword to choice, of the user's own
+
+    bool operator==(const SettledState &) const = default;
+};
+
 /// A job while it is being prepared: a printer with its panels, what the user settles, and the
 /// documents. Every change goes through the host session, so that the panels hear of it.
 ///
@@ -48,6 +59,9 @@ public:
     QString printerKey() const;
 
     ppd_file_t *ppd() const { return session() ? session()->ppd() : nullptr; }
+
+    SettledState settled() const { return {m_settings, m_ownTitle, orientation(), m_chosen}; }
+    void setSettled(const SettledState &state);
 
     HostSettings &settings() { return m_settings; }
     const HostSettings &settings() const { return m_settings; }

@@ -52,6 +52,16 @@ QList<JobOption> startingOptions(PrinterSource &source, ppd_file_t *ppd);
 /// when it has them all.
 QStringList notesOnStart(const PrinterSource &source, const QList<JobOption> &missing);
 
+/// A printer as it was opened, to open it once more in the same way without asking for it again.
+struct PrinterOrigin
+{
+    PrinterSource source;
+    SessionOptions options; ///< with the alerts that the user had suppressed then
+    QueuePPD kept;          ///< keeps the file of a queue there
+    std::shared_ptr<const FileDescriptor> ppd; ///< OpenedPPD::text
+    QList<JobOption> starting;
+};
+
 /// A printer whose panels run.
 struct OpenedPrinter
 {

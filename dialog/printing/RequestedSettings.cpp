@@ -102,7 +102,7 @@ QList<RequestedChoice> missingIn(const PrintJob &job, const QList<RequestedChoic
 
 /// The page first: panels whose controls are filled afterwards know it from the beginning.
 void makeInTurn(PrintJob &job, const QList<RequestedChoice> &settings,
-                const std::function<void()> &madeOne)
+                const std::function<void(const RequestedChoice &)> &madeOne)
 {
     QList<RequestedChoice> turns = settings;
     const auto later = std::stable_partition(turns.begin(), turns.end(), isOfThePage);
@@ -115,14 +115,14 @@ void makeInTurn(PrintJob &job, const QList<RequestedChoice> &settings,
     for (const RequestedChoice &setting : std::as_const(turns)) {
         makeSetting(job, setting);
         if (madeOne)
-            madeOne();
+            madeOne(setting);
     }
 }
 
 /// Makes the settings in rounds, each those that the round before has not given or has taken away,
 /// until all are there or nothing is won any more. Gives those that are missing in the end.
 QList<RequestedChoice> makeInRounds(PrintJob &job, const QList<RequestedChoice> &settings,
-                                    const std::function<void()> &madeOne)
+                                    const std::function<void(const RequestedChoice &)> &madeOne)
 {
     QList<RequestedChoice> missing = settings;
     for (int round = 0; round < kMostRounds && !missing.isEmpty(); ++round) {
@@ -139,7 +139,7 @@ QList<RequestedChoice> makeInRounds(PrintJob &job, const QList<RequestedChoice> 
 } // namespace
 
 Result<> makeSettings(PrintJob &job, const QList<RequestedChoice> &wanted,
-                      const std::function<void()> &madeOne)
+                      const std::function<void(const RequestedChoice &)> &madeOne)
 {
     auto [settings, state] = knownSettings(job, wanted);
     const Result<> single = withoutContradictions(job, settings);
@@ -151,4 +151,9 @@ Result<> makeSettings(PrintJob &job, const QList<RequestedChoice> &wanted,
     if (!state || !single)
         return state ? single : state;
     return losses.isEmpty() ? Result<>() : Fault{FaultKind::Vetoed, joinedSentences(losses)};
+}
+
+QList<RequestedChoice> lostSettings(const PrintJob &job, const QList<RequestedChoice> &wanted)
+{
+    return missingIn(job, knownSettings(job, wanted).first);
 }

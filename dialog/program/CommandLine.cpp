@@ -48,6 +48,19 @@ QString takeChoice(CommandLine &line, const QString &value)
     return {};
 }
 
+QString takeWhy(CommandLine &line, const QString &value)
+{
+    const qsizetype equals = value.indexOf(u'=');
+    if (equals <= 0 || equals == value.size() - 1)
+        return QCoreApplication::translate("CommandLine", "--why needs KEY=VALUE, not \"%1\".")
+            .arg(value);
+    if (line.why)
+        return QCoreApplication::translate("CommandLine", "%1 may be given only once.")
+            .arg(QStringLiteral("--why"));
+    line.why = {value.left(equals), value.mid(equals + 1)};
+    return {};
+}
+
 // What `lp` has options of its own for.
 
 QString takeNamed(CommandLine &line, const char *keyword, const QString &value)
@@ -116,6 +129,8 @@ constexpr std::array kOptions{
     Option{"output", '\0', &CommandLine::output, nullptr, takeOutput},
     Option{"force", '\0', nullptr, &CommandLine::force},
     Option{"no-dialog", '\0', nullptr, &CommandLine::noDialog},
+    Option{"dry-run", '\0', nullptr, &CommandLine::dryRun},
+    Option{"explain", '\0', nullptr, &CommandLine::explain},
     Option{"yes", '\0', nullptr, &CommandLine::yes},
     Option{"wait", '\0', nullptr, &CommandLine::wait},
     Option{"timeout", '\0', nullptr, nullptr, takeTimeout},
@@ -123,6 +138,8 @@ constexpr std::array kOptions{
     Option{"panel", '\0', &CommandLine::panel},
     Option{"record", '\0', &CommandLine::record},
     Option{"replay", '\0', &CommandLine::replay},
+    Option{"why", '\0', nullptr, nullptr, takeWhy},
+    Option{"json", '\0', nullptr, &CommandLine::json},
     Option{"check-ppd", '\0', &CommandLine::checkPPD},
     Option{"forget-alerts", '\0', nullptr, &CommandLine::forgetAlerts},
     Option{"plug-in", '\0', &CommandLine::plugIn},
@@ -193,37 +210,56 @@ QString takeOption(CommandLine &line, Argument argument, QStringList &rest)
     return takeValue(line, argument);
 }
 
+struct Contradiction
+{
+    bool isThere;
+    const char *sentence;
+};
+
 /// Options that do not go together, or need another one.
 QString contradiction(const CommandLine &line)
 {
-    if (!line.replay.isNull() && !line.record.isNull())
-        return QCoreApplication::translate("CommandLine",
-                                           "--replay and --record do not go together.");
-    const bool asksForWork = line.noDialog || !line.files.isEmpty() || !line.replay.isNull() ||
-                             !line.record.isNull() || !line.screenshot.isNull() ||
-                             !line.output.isNull();
-    if (!line.checkPPD.isNull() && asksForWork)
-        return QCoreApplication::translate(
-            "CommandLine", "--check-ppd only looks at a PPD: it prints and replays nothing.");
-    if (line.forgetAlerts && (asksForWork || !line.checkPPD.isNull()))
-        return QCoreApplication::translate(
-            "CommandLine", "--forget-alerts only has the warnings shown again: it prints nothing.");
-    if (line.noDialog && !line.screenshot.isNull())
-        return QCoreApplication::translate("CommandLine",
-                                           "--no-dialog and --screenshot do not go together.");
-    if (line.noDialog && !line.panel.isNull())
-        return QCoreApplication::translate("CommandLine",
-                                           "--no-dialog and --panel do not go together.");
-    if (line.noDialog && line.files.isEmpty())
-        return QCoreApplication::translate("CommandLine", "--no-dialog needs a document to print.");
-    if (line.yes && !line.noDialog)
-        return QCoreApplication::translate("CommandLine", "--yes is for --no-dialog.");
-    if (line.wait && (!line.noDialog || !line.output.isNull()))
-        return QCoreApplication::translate(
-            "CommandLine", "--wait is for --no-dialog, where the job is sent to a printer.");
-    if (line.timeout && !line.wait)
-        return QCoreApplication::translate("CommandLine", "--timeout is for --wait.");
-    return {};
+    const bool records = !line.record.isNull();
+    const bool replays = !line.replay.isNull();
+    const bool paints = !line.screenshot.isNull();
+    const bool checks = !line.checkPPD.isNull();
+    const bool asksForWork = line.noDialog || !line.files.isEmpty() || replays || records ||
+                             paints || !line.output.isNull();
+    const Contradiction all[] = {
+        {replays && records,
+         QT_TRANSLATE_NOOP("CommandLine", "--replay and --record do not go together.")},
+        {checks && asksForWork,
+         QT_TRANSLATE_NOOP("CommandLine",
+                           "--check-ppd only looks at a PPD: it prints and replays nothing.")},
+        {line.forgetAlerts && (asksForWork || checks),
+         QT_TRANSLATE_NOOP(
+             "CommandLine",
+             "--forget-alerts only has the warnings shown again: it prints nothing.")},
+        {line.why && (asksForWork || checks || line.forgetAlerts),
+         QT_TRANSLATE_NOOP("CommandLine",
+                           "--why only tells of a setting: it prints and replays nothing.")},
+        {line.json && !line.why, QT_TRANSLATE_NOOP("CommandLine", "--json is for --why.")},
+        {line.noDialog && paints,
+         QT_TRANSLATE_NOOP("CommandLine", "--no-dialog and --screenshot do not go together.")},
+        {line.noDialog && !line.panel.isNull(),
+         QT_TRANSLATE_NOOP("CommandLine", "--no-dialog and --panel do not go together.")},
+        {line.noDialog && line.files.isEmpty(),
+         QT_TRANSLATE_NOOP("CommandLine", "--no-dialog needs a document to print.")},
+        {line.yes && !line.noDialog, QT_TRANSLATE_NOOP("CommandLine", "--yes is for --no-dialog.")},
+        {line.wait && (!line.noDialog || line.dryRun || !line.output.isNull()),
+         QT_TRANSLATE_NOOP("CommandLine",
+                           "--wait is for --no-dialog, where the job is sent to a printer.")},
+        {line.timeout && !line.wait, QT_TRANSLATE_NOOP("CommandLine", "--timeout is for --wait.")},
+        {line.explain && !line.noDialog,
+         QT_TRANSLATE_NOOP("CommandLine", "--explain is for --no-dialog.")},
+        {line.dryRun && !line.noDialog,
+         QT_TRANSLATE_NOOP("CommandLine", "--dry-run is for --no-dialog.")},
+        {line.dryRun && records,
+         QT_TRANSLATE_NOOP("CommandLine", "--dry-run and --record do not go together.")},
+    };
+    const auto first = std::ranges::find_if(all, &Contradiction::isThere);
+    return first == std::end(all) ? QString()
+                                  : QCoreApplication::translate("CommandLine", first->sentence);
 }
 
 } // namespace

@@ -12,8 +12,12 @@
 struct CommandLine : DialogWishes
 {
     QString screenshot;
-    QString replay;   ///< "-": standard input
-    QString checkPPD; ///< --check-ppd
+    QString replay;                     ///< "-": standard input
+    QString checkPPD;                   ///< --check-ppd
+    std::optional<RequestedChoice> why; ///< --why: what it asks of
+    bool json = false;                  ///< --json: the answer for programs
+    bool explain = false;               ///< --explain: what was changed by what is told
+    bool dryRun = false;                ///< --dry-run: nothing is sent or written
     bool noDialog = false;
     bool forgetAlerts = false; ///< --forget-alerts
     bool yes = false;

@@ -9,6 +9,7 @@
 #include "dialog/program/SessionRecording.h"
 #include "dialog/program/ToolkitMessages.h"
 #include "dialog/program/Translations.h"
+#include "dialog/program/WhyCommand.h"
 #include "dialog/window/DialogWindow.h"
 #include "dialog/window/JobWindow.h"
 #include "dialog/work/BackgroundCall.h"
@@ -85,6 +86,8 @@ QIcon windowIcon()
 
 ExitStatus run(const CommandLine &line)
 {
+    if (line.why)
+        return runWhyCommand(line);
     if (line.noDialog)
         return runNoDialogCommand(line);
     return line.screenshot.isNull() ? runDialog(line) : takeScreenshot(line);
@@ -94,7 +97,7 @@ ExitStatus run(const CommandLine &line)
 
 int runDialogCommand(int &argc, char **argv, const CommandLine &line)
 {
-    const bool showsWindow = !line.noDialog && line.screenshot.isNull();
+    const bool showsWindow = !line.noDialog && !line.why && line.screenshot.isNull();
     // Whatever a desktop's session names: its display may be out of reach.
     if (!showsWindow)
         qputenv("QT_QPA_PLATFORM", "offscreen");

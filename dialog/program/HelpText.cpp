@@ -38,6 +38,9 @@ Job
       --force             replace files that exist already: those of --output,
                           --screenshot, --record and of a script's pictures
       --no-dialog         print without showing the dialog; every check is made
+      --dry-run           make every check, and send and write nothing
+      --explain           tell what each setting has changed besides, and how
+                          one that was lost is to be had
       --yes               answer yes to what a check asks, instead of no, and
                           print without the settings that cannot be had
       --wait              with --no-dialog: wait until the job is printed, and
@@ -54,6 +57,9 @@ Looking and testing
       --record SCRIPT     note the session in a script
       --replay SCRIPT     run a session from a script (-: standard input)
                           and print what happens, a line of JSON an event
+      --why KEY=VALUE     tell why this setting is not to be had with the other
+                          ones, and how it is
+      --json              tell it as one object of JSON
       --check-ppd FILE    print what the plug-in will not understand in a PPD
                           file, a line a finding
       --plug-in FOLDER    load the plug-in from this bundle

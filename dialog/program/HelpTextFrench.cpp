@@ -43,6 +43,9 @@ Travail
                           --screenshot, --record et les images d’un script
       --no-dialog         imprimer sans boîte de dialogue ; toutes les
                           vérifications sont faites
+      --dry-run           tout vérifier, sans rien envoyer ni écrire
+      --explain           dire ce que chaque réglage a changé d’autre, et
+                          comment obtenir un réglage impossible
       --yes               répondre oui, et non pas non, à ce que demande une
                           vérification, et imprimer sans les réglages
                           impossibles
@@ -62,6 +65,9 @@ Examen et essais
       --replay SCRIPT     exécuter une session depuis un script (- : entrée
                           standard) et afficher ce qui se passe, une ligne
                           JSON par événement
+      --why KEY=VALUE     dire pourquoi ce réglage n’est pas possible avec les
+                          autres, et comment l’obtenir
+      --json              le dire sous forme d’un objet JSON
       --check-ppd FILE    afficher ce que le module ne comprendra pas dans un
                           fichier PPD, une ligne par constat
       --plug-in FOLDER    charger le module depuis ce paquet

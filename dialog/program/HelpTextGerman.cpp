@@ -42,6 +42,9 @@ Auftrag
       --force             vorhandene Dateien ersetzen: die von --output,
                           --screenshot, --record und die Bilder eines Skripts
       --no-dialog         ohne Dialog drucken; alle Prüfungen finden statt
+      --dry-run           alles prüfen, aber nichts senden und nichts schreiben
+      --explain           sagen, was jede Einstellung sonst noch geändert hat
+                          und wie eine nicht mögliche möglich wird
       --yes               was eine Prüfung fragt, mit Ja beantworten statt mit
                           Nein, und ohne die Einstellungen drucken, die nicht
                           möglich sind
@@ -61,6 +64,9 @@ Ansehen und prüfen
       --replay SCRIPT     eine Sitzung aus einem Skript ausführen (-:
                           Standardeingabe) und ausgeben, was geschieht, eine
                           JSON-Zeile je Ereignis
+      --why KEY=VALUE     sagen, warum diese Einstellung mit den übrigen nicht
+                          möglich ist und wie sie möglich wird
+      --json              es als ein JSON-Objekt sagen
       --check-ppd FILE    ausgeben, was das Plug-in in einer PPD-Datei nicht
                           verstehen wird, eine Zeile je Befund
       --plug-in FOLDER    das Plug-in aus diesem Bündel laden

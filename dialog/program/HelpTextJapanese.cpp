@@ -37,6 +37,9 @@ const LauncherTexts kJapaneseTexts{
       --force             既にあるファイルを置き換える（--output、--record、
                           --screenshot、スクリプトの画像）
       --no-dialog         画面を表示せずに印刷する（確認はすべて行います）
+      --dry-run           すべて確認するが、送信も保存もしない
+      --explain           それぞれの設定がほかに何を変えたか、選べなかった設定
+                          をどうすれば選べるかを表示する
       --yes               確認の質問に「いいえ」ではなく「はい」で答え、選べな
                           かった設定なしで印刷する
       --wait              --no-dialog と使う: 印刷が終わるまで待ち、標準エラー
@@ -52,6 +55,9 @@ const LauncherTexts kJapaneseTexts{
       --record SCRIPT     操作をスクリプトに記録する
       --replay SCRIPT     スクリプト（-: 標準入力）を実行し、結果をイベント
                           ごとに 1 行の JSON で出力する
+      --why KEY=VALUE     この設定がほかの設定と同時に選べない理由と、選べる
+                          ようにする方法を表示する
+      --json              それを 1 つの JSON オブジェクトで出力する
       --check-ppd FILE    PPD ファイルのうちプラグインが認識できない部分を
                           1 件 1 行で出力する
       --plug-in FOLDER    このバンドルのプラグインを読み込む

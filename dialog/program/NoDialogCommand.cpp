@@ -12,6 +12,7 @@
 #include "dialog/printing/ScriptedAnswers.h"
 #include "dialog/printing/SettingRequests.h"
 #include "dialog/program/CommandOutput.h"
+#include "dialog/program/Explanation.h"
 #include "dialog/program/JobWait.h"
 #include "dialog/program/SessionRecording.h"
 #include "dialog/work/EndSignals.h"
@@ -77,6 +78,7 @@ private:
     void send(const JobRequest &request);
     void waitFor(const QString &queue, int id);
     void write(const JobRequest &request);
+    void endDryRun(const QString &sentence);
 
     bool goOn(const Result<> &done);
     void end(ExitStatus status) { m_loop.exit(exitCode(status)); }
@@ -169,7 +171,14 @@ void Run::takePrinter(const FoundPrinter &printer)
 
 void Run::makeSettings()
 {
-    const Result<> made = m_controller.makeRequestedSettings([this] { m_answers.answerSheets(); });
+    Explanation explanation(m_controller.job(), m_line.explain);
+    explanation.begin();
+    const Result<> made = m_controller.makeRequestedSettings([&](const RequestedChoice &setting) {
+        m_answers.answerSheets();
+        explanation.tellMade(setting);
+    });
+    if (made.faultKind() == FaultKind::Vetoed)
+        explanation.tellLost(m_controller.lostSettings());
     const bool isAgreed = m_line.yes && made.faultKind() == FaultKind::Vetoed;
     if (!goOn(isAgreed ? Result<>() : made))
         return;
@@ -245,6 +254,11 @@ void Run::send(const JobRequest &request)
                                                "one, --output FILE keeps the job.")});
         return;
     }
+    if (m_line.dryRun) {
+        endDryRun(QCoreApplication::translate("NoDialogCommand", "%1 would get the job.")
+                      .arg(request.queue));
+        return;
+    }
     m_controller.send(request, [this, queue = request.queue](const Result<JobReceipt> &receipt) {
         if (!receipt) {
             goOn(receipt.fault());
@@ -273,6 +287,15 @@ void Run::waitFor(const QString &queue, int id)
 
 void Run::write(const JobRequest &request)
 {
+    if (m_line.dryRun) {
+        const OutputVerdict verdict = verdictAt(m_line.output, m_controller.outputTerms());
+        const QString refusal = outputRefusal(verdict, m_line.output);
+        if (goOn(refusal.isNull() ? Result<>() : Fault{FaultKind::Output, refusal}))
+            endDryRun(
+                QCoreApplication::translate("NoDialogCommand", "The job would be written to %1.")
+                    .arg(shownPath(m_line.output)));
+        return;
+    }
     m_controller.write(m_line.output, request, m_controller.outputTerms(),
                        [this](const Result<QStringList> &notes) {
                            if (!notes) {
@@ -286,6 +309,13 @@ void Run::write(const JobRequest &request)
                                warn(note);
                            end(ExitStatus::Done);
                        });
+}
+
+/// Everything was looked at, and nothing is done.
+void Run::endDryRun(const QString &sentence)
+{
+    report(m_line, sentence);
+    end(ExitStatus::Done);
 }
 
 ExitStatus Run::print()

@@ -44,7 +44,8 @@ QString styleName(AlertStyle style)
 
 } // namespace
 
-AlertAnswerer::AlertAnswerer() : m_former(AlertObserver::alertObserver())
+AlertAnswerer::AlertAnswerer(Alerts alerts)
+    : m_alerts(alerts), m_former(AlertObserver::alertObserver())
 {
     AlertObserver::setAlertObserver(this);
 }

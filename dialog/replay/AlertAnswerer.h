@@ -11,11 +11,13 @@
 /// While it lives it is the process's alert observer.
 ///
 /// Alerts that block are answered as soon as they are on screen; a sheet waits for answerSheets(),
-/// as a person gets to it when the pick that raised it is done.
+/// as a person gets to it when the pick that raised it is done. Either may be kept from the screen.
 class AlertAnswerer : public AlertObserver
 {
 public:
-    AlertAnswerer();
+    enum class Alerts { OnScreen, Unseen };
+
+    explicit AlertAnswerer(Alerts alerts = Alerts::OnScreen);
     ~AlertAnswerer() override;
     AlertAnswerer(const AlertAnswerer &) = delete;
     AlertAnswerer &operator=(const AlertAnswerer &) = delete;
@@ -30,7 +32,11 @@ public:
     /// sheet has been answered.
     QJsonArray takeReports();
 
+    /// The same, where nobody wants to know.
+    void forgetReports() { m_raised.clear(); }
+
     void alertShown(const ShownAlert &alert) override;
+    bool keepsAlertsUnseen() const override { return m_alerts == Alerts::Unseen; }
 
 private:
     struct Raised
@@ -47,6 +53,7 @@ private:
     static int buttonFor(const Raised &raised);
     static QJsonObject report(const Raised &raised);
 
+    const Alerts m_alerts;
     QList<ReplayAnswer> m_answers;
     std::vector<Raised> m_raised;
     AlertObserver *m_former;

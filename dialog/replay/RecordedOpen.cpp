@@ -82,8 +82,7 @@ Result<> Recorder::attach(HostSession &session)
 {
     if (!m_state)
         return m_state;
-    m_session = &session;
-    const Result<QString> ppd = copyPPD();
+    const Result<QString> ppd = copyPPD(session);
     if (!ppd) {
         m_state = ppd.fault();
         return m_state;
@@ -94,17 +93,15 @@ Result<> Recorder::attach(HostSession &session)
 
 void Recorder::attach(HostSession &session, const QString &ppd)
 {
-    m_session = &session;
-    session.addObserver(this);
-    m_notedHeight = keyWindowHeight().value_or(-1);
-    note("open", openEvent(ppd));
+    follow(session);
+    m_script.note(openEvent(session, ppd), {});
 }
 
 /// Copies the PPD beside the script, and gives the copy's name as the script has it. A file that is
 /// there already is used when it has the same content, and left alone otherwise.
-Result<QString> Recorder::copyPPD()
+Result<QString> Recorder::copyPPD(const HostSession &session)
 {
-    QFile original(m_session->options().ppdPath);
+    QFile original(session.options().ppdPath);
     const bool isOpen = original.open(QIODevice::ReadOnly);
     const QByteArray ppd = original.readAll();
     const auto [folder, base] = placeOfCopies(m_script);
@@ -126,19 +123,19 @@ Result<QString> Recorder::copyPPD()
                                  : original.errorString())};
 }
 
-OrderedMembers Recorder::openEvent(const QString &ppd) const
+OrderedMembers Recorder::openEvent(const HostSession &session, const QString &ppd)
 {
-    const SessionOptions &options = m_session->options();
+    const SessionOptions &options = session.options();
     const OrderedMembers optional{
-        {u"marks"_s, marksBesideDefaults(*m_session)},
-        {u"ticket"_s, jsonObject(m_session->ticket().values())},
-        {u"paper"_s, paperValue(m_session->pageFormat().paper)},
-        {u"alerts"_s, jsonObject(options.alertMemory.value_or(m_session->alertMemory()))},
+        {u"marks"_s, marksBesideDefaults(session)},
+        {u"ticket"_s, jsonObject(session.ticket().values())},
+        {u"paper"_s, paperValue(session.pageFormat().paper)},
+        {u"alerts"_s, jsonObject(options.alertMemory.value_or(session.alertMemory()))},
         {u"refuse"_s, QJsonArray::fromStringList(options.refused)},
         {u"lacks"_s, lackingValue(options.lacking)},
         {u"info"_s, jsonObject(options.info)},
     };
-    OrderedMembers event{{u"ppd"_s, ppd}, {u"type"_s, options.dialogType}};
+    OrderedMembers event{{u"do"_s, u"open"_s}, {u"ppd"_s, ppd}, {u"type"_s, options.dialogType}};
     for (const auto &member : optional) {
         if (!isEmpty(member.second))
             event << member;
@@ -147,8 +144,8 @@ OrderedMembers Recorder::openEvent(const QString &ppd) const
     event << std::pair(u"languages"_s, QJsonValue(QJsonArray::fromStringList(languages)));
     if (options.strings == Bundle::Strings::Keys)
         event << std::pair(u"strings"_s, QJsonValue(u"keys"_s));
-    event << std::pair(u"windowHeight"_s,
-                       m_notedHeight < 0 ? QJsonValue() : QJsonValue(m_notedHeight));
+    const std::optional<double> height = keyWindowHeight();
+    event << std::pair(u"windowHeight"_s, height ? QJsonValue(*height) : QJsonValue());
     if (!options.restore)
         event << std::pair(u"restore"_s, QJsonValue(false));
     return event;

@@ -10,7 +10,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-QJsonObject answerReport(const RecordedAnswer &answer)
+QJsonObject answerReport(const FollowedAnswer &answer)
 {
     QJsonObject report{{u"button"_s, answer.button}};
     if (answer.suppression)
@@ -27,14 +27,9 @@ Result<> RecordedScript::open(const QString &path, const OutputTerms &terms)
     return m_file.open(path, terms, OutputFile::Appears::AtOnce);
 }
 
-void RecordedScript::addAnswer(const std::shared_ptr<RecordedAnswer> &answer)
+void RecordedScript::note(const OrderedMembers &event, const FollowedAnswers &answers)
 {
-    m_answers.push_back(answer);
-}
-
-void RecordedScript::note(const OrderedMembers &event)
-{
-    m_events.push_back({event, std::exchange(m_answers, {})});
+    m_events.push_back({event, answers});
     writeAnswered();
 }
 
@@ -42,8 +37,8 @@ void RecordedScript::writeAnswered()
 {
     const auto isAnswered = [](const Event &event) {
         return std::ranges::all_of(
-            event.answers, &RecordedAnswer::given,
-            [](const auto &answer) -> const RecordedAnswer & { return *answer; });
+            event.answers, &FollowedAnswer::given,
+            [](const auto &answer) -> const FollowedAnswer & { return *answer; });
     };
     while (!m_events.empty() && isAnswered(m_events.front())) {
         write(m_events.front());

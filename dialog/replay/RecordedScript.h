@@ -2,21 +2,11 @@
 
 #include "dialog/files/OutputFile.h"
 #include "dialog/replay/JsonText.h"
+#include "dialog/replay/SessionFollower.h"
 
 #include <deque>
 #include <functional>
-#include <memory>
 #include <utility>
-#include <vector>
-
-/// The answer that an alert was given, filled in when it is given.
-struct RecordedAnswer
-{
-    int button = 0;
-    bool suppression = false; ///< whether the alert has the box at all
-    bool suppressed = false;
-    bool given = false;
-};
 
 /// A script that is being written. An event's line is written once the alerts that it raised have
 /// been answered: a sheet's answer comes after the event.
@@ -30,11 +20,8 @@ public:
     /// event's alerts have not been answered the line comes later.
     void open(std::function<void(const QByteArray &line)> tell) { m_tell = std::move(tell); }
 
-    /// The alert has been raised by the event that is noted next.
-    void addAnswer(const std::shared_ptr<RecordedAnswer> &answer);
-
-    /// Notes an event, without its answers.
-    void note(const OrderedMembers &event);
+    /// Notes an event. Its answers may still be to come.
+    void note(const OrderedMembers &event, const FollowedAnswers &answers);
 
     /// Writes every event whose alerts have been answered.
     void writeAnswered();
@@ -51,12 +38,10 @@ public:
     bool isStream() const { return m_file.verdict() == OutputVerdict::Append; }
 
 private:
-    using Answers = std::vector<std::shared_ptr<RecordedAnswer>>;
-
     struct Event
     {
         OrderedMembers members;
-        Answers answers;
+        FollowedAnswers answers;
     };
 
     void write(const Event &event);
@@ -64,6 +49,5 @@ private:
     QString m_path;
     OutputFile m_file;
     std::function<void(const QByteArray &)> m_tell; ///< null: the file is written
-    Answers m_answers;
     std::deque<Event> m_events;
 };

@@ -5,7 +5,10 @@
 #include "platform/foundation/NotificationCenter.h"
 #include "platform/foundation/UserDefaults.h"
 #include "platform/pde/PDEPanelInspection.h"
+#include "platform/toolkit/ImageView.h"
 #include "platform/toolkit/KeyWindow.h"
+
+#include <QtGui/QImage>
 
 #include <utility>
 
@@ -17,6 +20,16 @@ bool needsSession(const ReplayAction &action)
 {
     return !std::holds_alternative<ReplayOpen>(action) &&
            !std::holds_alternative<ReplayState>(action);
+}
+
+QImage shownPicture(const HostSession &session)
+{
+    for (const HostPanel &panel : session.panels()) {
+        const ImageView *view = panel.inspection ? panel.inspection->inspectedPicture() : nullptr;
+        if (view)
+            return view->image();
+    }
+    return {};
 }
 
 } // namespace
@@ -38,7 +51,7 @@ ReplaySession::~ReplaySession()
 Result<QByteArray> ReplaySession::run(const ReplayEvent &event)
 {
     m_answerer.setAnswers(event.answers);
-    const Work work = this->work(event.action);
+    const ReplayWork work = this->work(event.action);
     if (!work.fatal.isNull())
         return Fault{FaultKind::PPD, work.fatal};
     m_answerer.answerSheets();
@@ -54,14 +67,21 @@ Result<QByteArray> ReplaySession::run(const ReplayEvent &event)
     return jsonLine(line);
 }
 
-ReplaySession::Work ReplaySession::work(const ReplayAction &action)
+ReplayWork ReplaySession::work(const ReplayAction &action)
 {
     if (needsSession(action) && !(m_session && m_session->isRunning()))
         return {QJsonValue(), u"no dialog is open"_s, QString()};
-    return std::visit([this](const auto &event) { return perform(event); }, action);
+    return std::visit(
+        [this](const auto &event) {
+            if constexpr (requires { this->perform(event); })
+                return this->perform(event);
+            else
+                return ::perform(*m_session, event);
+        },
+        action);
 }
 
-ReplaySession::Work ReplaySession::perform(const ReplayOpen &event)
+ReplayWork ReplaySession::perform(const ReplayOpen &event)
 {
     SessionOptions options = event.options;
     options.bundlePath = m_bundlePath;
@@ -99,7 +119,7 @@ void ReplaySession::setWindowHeight(std::optional<double> height)
     setKeyWindow(height ? m_window.get() : nullptr, height);
 }
 
-ReplaySession::Work ReplaySession::perform(const ReplayWindow &event)
+ReplayWork ReplaySession::perform(const ReplayWindow &event)
 {
     setWindowHeight(event.height);
     if (event.height)
@@ -107,7 +127,31 @@ ReplaySession::Work ReplaySession::perform(const ReplayWindow &event)
     return {};
 }
 
-ReplaySession::Work ReplaySession::perform(const ReplayClose &)
+ReplayWork ReplaySession::perform(const ReplayPicture &event)
+{
+    const QImage picture = shownPicture(*m_session);
+    if (picture.isNull())
+        return {QJsonValue(), u"no picture is shown"_s, QString()};
+    return {QJsonValue(), m_pictures.write(picture, event.folder, event.file).sentence(),
+            QString()};
+}
+
+ReplayWork ReplaySession::perform(const ReplayWhy &event)
+{
+    if (!m_explainer)
+        return {QJsonValue(), u"nothing is explained here"_s, QString()};
+    const Result<QJsonObject> answer = m_explainer(*m_session, event.keyword, event.choice);
+    if (!answer)
+        return {QJsonValue(), answer.sentence(), QString()};
+    return {*answer, QString(), QString()};
+}
+
+ReplayWork ReplaySession::perform(const ReplayState &)
+{
+    return {};
+}
+
+ReplayWork ReplaySession::perform(const ReplayClose &)
 {
     closeSession();
     return {};

@@ -6,6 +6,7 @@
 #include "dialog/replay/NotificationLog.h"
 #include "dialog/replay/ReplayEvent.h"
 #include "dialog/replay/ReplayPictures.h"
+#include "dialog/replay/ReplayWork.h"
 
 #include <QtCore/QByteArray>
 #include <QtCore/QJsonArray>
@@ -54,33 +55,13 @@ public:
     HostSession *session() const { return m_session.get(); }
 
 private:
-    /// What an event's own work came to. With an error nothing has changed.
-    struct Work
-    {
-        QJsonValue result;
-        QString error;
-        QString fatal;
-    };
-
-    Work work(const ReplayAction &action);
-    Work perform(const ReplayOpen &event);
-    Work perform(const ReplayShow &event);
-    Work perform(const ReplayPanelCall &event);
-    Work perform(const ReplayPick &event);
-    Work perform(const ReplaySlide &event);
-    Work perform(const ReplayRevert &event);
-    Work perform(const ReplayFold &event);
-    Work perform(const ReplayPaper &event);
-    Work perform(const ReplayMark &event);
-    Work perform(const ReplayTicket &event);
-    Work perform(const ReplayWindow &event);
-    Work perform(const ReplayWatch &event);
-    Work perform(const ReplayPicture &event);
-    Work perform(const ReplayPost &event);
-    Work perform(const ReplayWhy &event);
-    Work perform(const ReplayPrint &event);
-    Work perform(const ReplayState &event);
-    Work perform(const ReplayClose &event);
+    ReplayWork work(const ReplayAction &action);
+    ReplayWork perform(const ReplayOpen &event);
+    ReplayWork perform(const ReplayWindow &event);
+    ReplayWork perform(const ReplayPicture &event);
+    ReplayWork perform(const ReplayWhy &event);
+    ReplayWork perform(const ReplayState &event);
+    ReplayWork perform(const ReplayClose &event);
 
     void openWindow(std::optional<double> height);
     void setWindowHeight(std::optional<double> height);

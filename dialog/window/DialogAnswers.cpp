@@ -5,6 +5,7 @@
 #include "dialog/printing/PanelPicks.h"
 #include "dialog/printing/SettingRequests.h"
 #include "dialog/window/DialogWindow.h"
+#include "dialog/window/SessionUndo.h"
 #include "dialog/work/Sentences.h"
 
 #include <QtCore/QThread>
@@ -82,17 +83,24 @@ void DialogWindow::tellEvent()
     }
     m_eventIsNoted = false;
     const QString refusal = std::exchange(m_refusalToTell, QString());
+    const bool isNobodys = m_pick.keyword.isEmpty() && !m_pick.keyword.isNull();
     const QString changes = changeSentence(job().ppd(), takeChanges());
     if (m_state != State::Ready)
         return;
+    if (isNobodys)
+        m_undo->noteOwn();
+    else
+        m_undo->noteUser();
     tellStanding();
     const Notice doubts = doubtsToTell();
     if (refusal.isNull() && changes.isNull())
         return;
     QStringList news{refusal, changes, doubts.sentence};
     news.removeAll(QString());
-    tell(refusal.isNull() ? doubts.kind : NoticeBar::Kind::Warning, joinedSentences(news),
-         doubts.offers);
+    QList<NoticeOffer> offers = doubts.offers;
+    if (!isNobodys && !changes.isNull() && m_undo->canUndo())
+        offers += undoOffer();
+    tell(refusal.isNull() ? doubts.kind : NoticeBar::Kind::Warning, joinedSentences(news), offers);
 }
 
 /// What is not as it is shown, or goes with nothing else, and what the plug-in advises.

@@ -54,11 +54,8 @@ bool DialogWindow::isAgreed(const QStringList &doubts)
 int DialogWindow::ask(const AlertContent &question)
 {
     // No alert of a panel: a recording has nothing to do with it.
-    AlertObserver *const observer = AlertObserver::alertObserver();
-    AlertObserver::setAlertObserver(nullptr);
-    const int button = runAlert(question).button;
-    AlertObserver::setAlertObserver(observer);
-    return button;
+    const UnobservedAlerts own;
+    return runAlert(question).button;
 }
 
 void DialogWindow::print()

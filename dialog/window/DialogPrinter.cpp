@@ -5,6 +5,7 @@
 #include "dialog/window/LayoutPane.h"
 #include "dialog/window/PageSetupPane.h"
 #include "dialog/window/PrinterPopUp.h"
+#include "dialog/window/SessionUndo.h"
 #include "dialog/work/Sentences.h"
 #include "platform/ppd/PPDText.h"
 
@@ -103,6 +104,10 @@ void DialogWindow::takePrinter(const Result<FoundPrinter> &found)
         makeRequestedSettings();
     confirmPreset();
     static_cast<void>(takeChanges()); // nothing of this has the user done in the window
+    if (m_state == State::Ready && !m_savedJob)
+        m_undo->begin();
+    else if (m_state == State::NoPrinter || m_savedJob)
+        m_undo->clear();
     watchPrinters();
 }
 

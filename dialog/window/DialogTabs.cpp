@@ -14,6 +14,7 @@
 #include <QtCore/QSignalBlocker>
 
 #include <algorithm>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -138,4 +139,30 @@ void DialogTabs::hidePanel()
         m_job.session()->hide(*m_shownPanel);
     }
     m_shownPanel = nullptr;
+}
+
+void DialogTabs::releaseViews()
+{
+    m_shownPanel = nullptr;
+    m_features->clear();
+    for (Part &part : m_parts)
+        if (std::exchange(part.panel, nullptr))
+            static_cast<PanelPane *>(part.page)->releaseView();
+}
+
+void DialogTabs::exchangePanels(const QString &shown)
+{
+    const HostSession *session = m_job.session();
+    for (Part &part : m_parts) {
+        auto *pane = qobject_cast<PanelPane *>(part.page);
+        part.panel = pane ? session->panelNamed(part.name) : nullptr;
+        if (part.panel)
+            pane->setView(session->loadedView(*part.panel));
+        if (part.panel && part.name == shown)
+            m_shownPanel = part.panel;
+    }
+    if (m_shownPanel && m_shownPanel == currentPart()->panel)
+        return;
+    hidePanel();
+    showPanel();
 }

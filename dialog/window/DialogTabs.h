@@ -57,6 +57,13 @@ public:
     /// Has the panel that was shown last save and leave the screen.
     void hidePanel();
 
+    /// Gives the panels' views back, before their session closes and another one takes its place.
+    void releaseViews();
+
+    /// Takes the panels of the session in place of the former one's; the panel of the name has been
+    /// shown (null: none). The one in front comes on screen.
+    void exchangePanels(const QString &shown);
+
     /// Whether the panel in front has no view.
     bool isViewMissing() const { return m_viewIsMissing; }
 

@@ -10,6 +10,7 @@
 #include "dialog/window/PageSetupPane.h"
 #include "dialog/window/PrinterPopUp.h"
 #include "dialog/window/ProgressStrip.h"
+#include "dialog/window/SessionUndo.h"
 #include "platform/foundation/NotificationCenter.h"
 #include "platform/toolkit/KeyWindow.h"
 #include "platform/toolkit/PlainText.h"
@@ -44,6 +45,7 @@ DialogWindow::DialogWindow(const DialogWishes &wishes, QWidget *parent)
     : QDialog(parent),
       m_wishes(wishes),
       m_controller(wishes),
+      m_undo(std::make_unique<SessionUndo>(m_controller)),
       m_documentState(m_controller.openDocuments(wishes.files)),
       m_outcome(Fault{FaultKind::Cancelled, {}}),
       m_watch(m_controller, *this)
@@ -100,6 +102,7 @@ void DialogWindow::buildLayout()
         tell(NoticeBar::Kind::Warning, sentence);
     });
     connectPresets();
+    connectUndo();
     connect(m_header->printers(), &PrinterPopUp::picked, this, [this](const QueueName &queue) {
         // One that could not be reached may be tried again.
         if (m_state == State::Ready && queue == job().source().queue)

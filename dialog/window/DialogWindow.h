@@ -13,13 +13,14 @@
 #include <QtGui/QKeySequence>
 #include <QtWidgets/QDialog>
 
+#include <memory>
 #include <optional>
-#include <vector>
 
 class DialogTabs;
 class JobHeader;
 class ProgressStrip;
 class QPushButton;
+class SessionUndo;
 
 /// The print dialog: printer, page setup, the plug-in's panels, the summary, and Print.
 ///
@@ -179,6 +180,17 @@ private:
     void deletePreset();
     void showHiddenAlerts();
 
+    // DialogUndo.cpp
+    void connectUndo();
+    void noteSettled();
+    void undo();
+    void redo();
+    void goBackOrOn(Result<> (SessionUndo::*way)(), const QString &words, const NoticeOffer &offer);
+    NoticeOffer undoOffer();
+    Result<> exchangeSession(Result<> (SessionUndo::*way)());
+    void showSettled();
+    void forgetEvent();
+
     // DialogPrint.cpp
     std::optional<JobRequest> finishedJob();
     bool isAgreed(const QStringList &doubts);
@@ -193,6 +205,7 @@ private:
 
     const DialogWishes m_wishes;
     PrintController m_controller;
+    const std::unique_ptr<SessionUndo> m_undo;
     Result<> m_documentState;
     std::optional<JobRequest> m_savedJob; ///< the only document, where that is a saved job
     Result<> m_printerState;

@@ -57,3 +57,13 @@ bool UserDefaults::synchronize()
     m_failed = false;
     return written;
 }
+
+TransientDefaults::TransientDefaults() : m_former(UserDefaults::standardUserDefaults())
+{
+    UserDefaults::standardUserDefaults().setFolder(QString());
+}
+
+TransientDefaults::~TransientDefaults()
+{
+    UserDefaults::standardUserDefaults() = m_former;
+}

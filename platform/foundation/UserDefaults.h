@@ -30,10 +30,25 @@ public:
     bool synchronize();
 
 private:
+    friend class TransientDefaults;
     UserDefaults();
     QString fileOf(const QString &name) const;
 
     QString m_folder;
     QHash<QString, QVariantMap> m_memory;
     bool m_failed = false;
+};
+
+/// While it lives, the user's defaults are in memory alone and empty at first: nothing of the
+/// user's is read or written. Afterwards they are as they were.
+class VELKARO_PLATFORM_EXPORT TransientDefaults
+{
+public:
+    TransientDefaults();
+    ~TransientDefaults();
+    TransientDefaults(const TransientDefaults &) = delete;
+    TransientDefaults &operator=(const TransientDefaults &) = delete;
+
+private:
+    const UserDefaults m_former;
 };

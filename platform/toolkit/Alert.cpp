@@ -86,9 +86,15 @@ QList<QPointer<QAbstractButton>> buttonsOf(const QMessageBox &box, const AlertCo
     return buttons;
 }
 
+bool areUnseen()
+{
+    const AlertObserver *observer = AlertObserver::alertObserver();
+    return observer && observer->keepsAlertsUnseen();
+}
+
 ShownAlert describe(QMessageBox &box, const AlertContent &content, ShownAlert::Kind kind)
 {
-    return {kind, content, &box, buttonsOf(box, content), box.checkBox()};
+    return {kind, content, &box, buttonsOf(box, content), box.checkBox(), areUnseen()};
 }
 
 int answerOfDismissal(const AlertContent &content)
@@ -116,12 +122,15 @@ AlertResult runAlert(const AlertContent &content)
     // The box dies with the key window, which may go while the alert is up.
     const QPointer<QMessageBox> box = newBox(content).release();
     box->setWindowModality(Qt::ApplicationModal);
-    if (AlertObserver *observer = AlertObserver::alertObserver()) {
-        QTimer::singleShot(0, box, [observer, box, &content] {
-            observer->alertShown(describe(*box, content, ShownAlert::Kind::Modal));
-        });
+    const auto tell = [box, &content] {
+        AlertObserver::tell(describe(*box, content, ShownAlert::Kind::Modal));
+    };
+    if (areUnseen()) {
+        tell();
+    } else {
+        QTimer::singleShot(0, box, tell);
+        box->exec();
     }
-    box->exec();
     if (!box)
         return {answerOfDismissal(content), false};
     AlertResult result = resultOf(*box, content);
@@ -138,7 +147,7 @@ void beginAlertSheet(const AlertContent &content, QObject *context,
         box, &QMessageBox::finished, context,
         [box, content, didEnd = std::move(didEnd)] { didEnd(resultOf(*box, content)); });
     QObject::connect(box, &QMessageBox::finished, box, &QObject::deleteLater);
-    box->show();
-    if (AlertObserver *observer = AlertObserver::alertObserver())
-        observer->alertShown(describe(*box, content, ShownAlert::Kind::Sheet));
+    if (!areUnseen())
+        box->show();
+    AlertObserver::tell(describe(*box, content, ShownAlert::Kind::Sheet));
 }

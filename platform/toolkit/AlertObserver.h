@@ -3,6 +3,7 @@
 #include "platform/Export.h"
 #include "platform/toolkit/Alert.h"
 
+#include <QtCore/QList>
 #include <QtCore/QPointer>
 #include <QtWidgets/QWidget>
 
@@ -22,6 +23,8 @@ public:
     QList<QPointer<QAbstractButton>> buttons; ///< in the order of the content's titles
     QPointer<QCheckBox> suppressionBox;       ///< null without one
 
+    bool isUnseen = false; ///< it was kept from the screen
+
     /// Presses the real button; the alert closes. Nothing when the alert has gone, or has no such
     /// button.
     void press(int button) const;
@@ -39,8 +42,35 @@ public:
     /// The alert is on screen, and waits for an answer.
     virtual void alertShown(const ShownAlert &alert) = 0;
 
-    /// Registers the observer of the process, not owned; null: alerts wait for a person.
+    /// Whether alerts are kept from the screen and from assistive technology: alertShown() then
+    /// answers at once the ones that block, and the others whenever it likes.
+    virtual bool keepsAlertsUnseen() const { return false; }
+
+    /// Registers the observer of the process, which may answer alerts, not owned; null: they wait
+    /// for a person.
     static void setAlertObserver(AlertObserver *observer);
     /// The observer that is registered; null without one.
     static AlertObserver *alertObserver();
+
+    /// From now on the witness is told of every alert, before the observer is, and answers none.
+    /// Not owned: it is removed before it is destroyed.
+    static void addWitness(AlertObserver *witness);
+    static void removeWitness(AlertObserver *witness);
+
+    /// Tells witnesses and observer of the alert, for those who show one.
+    static void tell(const ShownAlert &alert);
+};
+
+/// While it lives, nobody is told of alerts, and people answer them.
+class VELKARO_PLATFORM_EXPORT UnobservedAlerts
+{
+public:
+    UnobservedAlerts();
+    ~UnobservedAlerts();
+    UnobservedAlerts(const UnobservedAlerts &) = delete;
+    UnobservedAlerts &operator=(const UnobservedAlerts &) = delete;
+
+private:
+    AlertObserver *m_observer;
+    QList<AlertObserver *> m_witnesses;
 };

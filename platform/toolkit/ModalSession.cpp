@@ -85,12 +85,17 @@ int runModalForWindow(QWidget *window)
     window->installEventFilter(&closing);
     QObject::connect(window, &QObject::destroyed, &session.loop, &QEventLoop::quit);
     window->setWindowModality(Qt::ApplicationModal);
-    window->show();
-    if (AlertObserver *observer = AlertObserver::alertObserver())
-        QTimer::singleShot(0, &session.loop,
-                           [observer, window] { observer->alertShown(describe(window)); });
     sessions().push_back(&session);
-    session.loop.exec();
+    const AlertObserver *observer = AlertObserver::alertObserver();
+    if (observer && observer->keepsAlertsUnseen()) {
+        ShownAlert alert = describe(window);
+        alert.isUnseen = true;
+        AlertObserver::tell(alert);
+    } else {
+        window->show();
+        QTimer::singleShot(0, &session.loop, [window] { AlertObserver::tell(describe(window)); });
+        session.loop.exec();
+    }
     std::erase(sessions(), &session);
     return session.code;
 }

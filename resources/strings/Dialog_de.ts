@@ -90,6 +90,30 @@
         <translation>--forget-alerts lässt nur die Warnungen wieder anzeigen; es druckt nichts.</translation>
     </message>
     <message>
+        <source>--why needs KEY=VALUE, not &quot;%1&quot;.</source>
+        <translation>--why braucht KEY=VALUE, nicht „%1“.</translation>
+    </message>
+    <message>
+        <source>--why only tells of a setting: it prints and replays nothing.</source>
+        <translation>--why sagt nur etwas über eine Einstellung: es druckt nichts und führt kein Skript aus.</translation>
+    </message>
+    <message>
+        <source>--json is for --why.</source>
+        <translation>--json gehört zu --why.</translation>
+    </message>
+    <message>
+        <source>--explain is for --no-dialog.</source>
+        <translation>--explain gehört zu --no-dialog.</translation>
+    </message>
+    <message>
+        <source>--dry-run is for --no-dialog.</source>
+        <translation>--dry-run gehört zu --no-dialog.</translation>
+    </message>
+    <message>
+        <source>--dry-run and --record do not go together.</source>
+        <translation>--dry-run und --record gehen nicht zusammen.</translation>
+    </message>
+    <message>
         <source>--timeout needs a number of seconds from 0 to %1, not &quot;%2&quot;.</source>
         <translation>--timeout braucht eine Anzahl von Sekunden von 0 bis %1, nicht „%2“.</translation>
     </message>
@@ -360,6 +384,22 @@
         <source>Settings</source>
         <translation>Einstellungen</translation>
     </message>
+    <message>
+        <source>Undone.</source>
+        <translation>Rückgängig gemacht.</translation>
+    </message>
+    <message>
+        <source>Done again.</source>
+        <translation>Wiederhergestellt.</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>Rückgängig</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation>Wiederherstellen</translation>
+    </message>
 </context>
 <context>
     <name>DialogTabs</name>
@@ -435,6 +475,17 @@
     <message>
         <source>Time of day</source>
         <translation>Uhrzeit</translation>
+    </message>
+</context>
+<context>
+    <name>Explanation</name>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>It can be had with: %1</source>
+        <translation>Möglich wird es mit: %1</translation>
     </message>
 </context>
 <context>
@@ -1207,6 +1258,14 @@
     <message>
         <source>Page %1 is beyond the document's last page, %2.</source>
         <translation>Seite %1 liegt hinter der letzten Seite des Dokuments, %2.</translation>
+    </message>
+    <message>
+        <source>%1 would get the job.</source>
+        <translation>%1 würde den Auftrag bekommen.</translation>
+    </message>
+    <message>
+        <source>The job would be written to %1.</source>
+        <translation>Der Auftrag würde nach %1 geschrieben.</translation>
     </message>
 </context>
 <context>
@@ -2219,6 +2278,13 @@
     <message>
         <source>There are too many conditions to explain why %1 is not there.</source>
         <translation>Es sind zu viele Bedingungen, um zu erklären, warum %1 nicht verfügbar ist.</translation>
+    </message>
+</context>
+<context>
+    <name>WhyCommand</name>
+    <message>
+        <source>This cannot be explained.</source>
+        <translation>Das lässt sich nicht erklären.</translation>
     </message>
 </context>
 <context>

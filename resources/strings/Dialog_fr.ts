@@ -90,6 +90,30 @@
         <translation>--forget-alerts fait seulement réafficher les avertissements ; il n’imprime rien.</translation>
     </message>
     <message>
+        <source>--why needs KEY=VALUE, not &quot;%1&quot;.</source>
+        <translation>--why attend KEY=VALUE, et non « %1 ».</translation>
+    </message>
+    <message>
+        <source>--why only tells of a setting: it prints and replays nothing.</source>
+        <translation>--why ne fait que renseigner sur un réglage : il n’imprime et n’exécute rien.</translation>
+    </message>
+    <message>
+        <source>--json is for --why.</source>
+        <translation>--json va avec --why.</translation>
+    </message>
+    <message>
+        <source>--explain is for --no-dialog.</source>
+        <translation>--explain va avec --no-dialog.</translation>
+    </message>
+    <message>
+        <source>--dry-run is for --no-dialog.</source>
+        <translation>--dry-run va avec --no-dialog.</translation>
+    </message>
+    <message>
+        <source>--dry-run and --record do not go together.</source>
+        <translation>--dry-run et --record ne vont pas ensemble.</translation>
+    </message>
+    <message>
         <source>--timeout needs a number of seconds from 0 to %1, not &quot;%2&quot;.</source>
         <translation>--timeout demande un nombre de secondes de 0 à %1, et non « %2 ».</translation>
     </message>
@@ -360,6 +384,22 @@
         <source>Settings</source>
         <translation>Réglages</translation>
     </message>
+    <message>
+        <source>Undone.</source>
+        <translation>Action annulée.</translation>
+    </message>
+    <message>
+        <source>Done again.</source>
+        <translation>Action rétablie.</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>Annuler l’action</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation>Rétablir</translation>
+    </message>
 </context>
 <context>
     <name>DialogTabs</name>
@@ -435,6 +475,17 @@
     <message>
         <source>Time of day</source>
         <translation>Heure</translation>
+    </message>
+</context>
+<context>
+    <name>Explanation</name>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1 : %2</translation>
+    </message>
+    <message>
+        <source>It can be had with: %1</source>
+        <translation>C’est possible avec : %1</translation>
     </message>
 </context>
 <context>
@@ -1207,6 +1258,14 @@
     <message>
         <source>Page %1 is beyond the document's last page, %2.</source>
         <translation>La page %1 dépasse la dernière page du document, %2.</translation>
+    </message>
+    <message>
+        <source>%1 would get the job.</source>
+        <translation>%1 recevrait le travail.</translation>
+    </message>
+    <message>
+        <source>The job would be written to %1.</source>
+        <translation>Le travail serait écrit dans %1.</translation>
     </message>
 </context>
 <context>
@@ -2219,6 +2278,13 @@
     <message>
         <source>There are too many conditions to explain why %1 is not there.</source>
         <translation>Il y a trop de conditions pour expliquer pourquoi %1 n'est pas possible.</translation>
+    </message>
+</context>
+<context>
+    <name>WhyCommand</name>
+    <message>
+        <source>This cannot be explained.</source>
+        <translation>Cela ne peut pas être expliqué.</translation>
     </message>
 </context>
 <context>

@@ -90,6 +90,30 @@
         <translation>--forget-alerts は警告を再び表示させるだけで、印刷は行いません。</translation>
     </message>
     <message>
+        <source>--why needs KEY=VALUE, not &quot;%1&quot;.</source>
+        <translation>--why には「%1」ではなく KEY=VALUE を指定してください。</translation>
+    </message>
+    <message>
+        <source>--why only tells of a setting: it prints and replays nothing.</source>
+        <translation>--why は設定について調べるだけで、印刷やスクリプトの実行は行いません。</translation>
+    </message>
+    <message>
+        <source>--json is for --why.</source>
+        <translation>--json は --why と一緒に使います。</translation>
+    </message>
+    <message>
+        <source>--explain is for --no-dialog.</source>
+        <translation>--explain は --no-dialog と一緒に使います。</translation>
+    </message>
+    <message>
+        <source>--dry-run is for --no-dialog.</source>
+        <translation>--dry-run は --no-dialog と一緒に使います。</translation>
+    </message>
+    <message>
+        <source>--dry-run and --record do not go together.</source>
+        <translation>--dry-run と --record は同時に使えません。</translation>
+    </message>
+    <message>
         <source>--timeout needs a number of seconds from 0 to %1, not &quot;%2&quot;.</source>
         <translation>--timeout には 0 から %1 までの秒数が必要です。「%2」は使えません。</translation>
     </message>
@@ -360,6 +384,22 @@
         <source>Settings</source>
         <translation>設定</translation>
     </message>
+    <message>
+        <source>Undone.</source>
+        <translation>元に戻しました。</translation>
+    </message>
+    <message>
+        <source>Done again.</source>
+        <translation>やり直しました。</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>元に戻す</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation>やり直す</translation>
+    </message>
 </context>
 <context>
     <name>DialogTabs</name>
@@ -435,6 +475,17 @@
     <message>
         <source>Time of day</source>
         <translation>時刻</translation>
+    </message>
+</context>
+<context>
+    <name>Explanation</name>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1：%2</translation>
+    </message>
+    <message>
+        <source>It can be had with: %1</source>
+        <translation>次の指定で選べます: %1</translation>
     </message>
 </context>
 <context>
@@ -1207,6 +1258,14 @@
     <message>
         <source>Page %1 is beyond the document's last page, %2.</source>
         <translation>%1 ページは、文書の最終ページ (%2) を超えています。</translation>
+    </message>
+    <message>
+        <source>%1 would get the job.</source>
+        <translation>ジョブは %1 に送信されます（今回は送信していません）。</translation>
+    </message>
+    <message>
+        <source>The job would be written to %1.</source>
+        <translation>ジョブは %1 に保存されます（今回は保存していません）。</translation>
     </message>
 </context>
 <context>
@@ -2219,6 +2278,13 @@
     <message>
         <source>There are too many conditions to explain why %1 is not there.</source>
         <translation>条件が多すぎるため、%1 を選べない理由を説明できません。</translation>
+    </message>
+</context>
+<context>
+    <name>WhyCommand</name>
+    <message>
+        <source>This cannot be explained.</source>
+        <translation>理由を説明できません。</translation>
     </message>
 </context>
 <context>

@@ -92,8 +92,9 @@ TEST_F(Controller, MakesAllSettingsAndTellsTheFirstFault)
         {u"Finish"_s, u"Velvet"_s}, {u"copies"_s, u"0"_s}, {u"Finish"_s, u"Shiny"_s}};
     ASSERT_TRUE(find());
     int made = 0;
-    EXPECT_EQ(controller().makeRequestedSettings([&] { ++made; }).sentence(),
-              u"Velvet is no value for Finish."_s);
+    EXPECT_EQ(
+        controller().makeRequestedSettings([&](const RequestedChoice &) { ++made; }).sentence(),
+        u"Velvet is no value for Finish."_s);
     EXPECT_EQ(made, 1);
     EXPECT_EQ(markedChoice(controller().job().ppd(), u"Finish"_s), u"Shiny"_s);
 }

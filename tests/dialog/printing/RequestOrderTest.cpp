@@ -84,8 +84,9 @@ protected:
         m_job.setOrientation(PMOrientation::Portrait);
         ScriptedAnswers answers(true);
         Outcome outcome;
-        outcome.sentence =
-            makeSettings(m_job, settings, [&] { answers.answerSheets(); }).sentence();
+        outcome.sentence = makeSettings(m_job, settings, [&](const RequestedChoice &) {
+                               answers.answerSheets();
+                           }).sentence();
         for (const JobOption &option : m_job.options().options)
             outcome.options += option.name + u'=' + option.value;
         return outcome;

@@ -45,7 +45,8 @@ protected:
         for (const QString &setting : settings)
             wanted += requested(setting);
         ScriptedAnswers answers(true);
-        return makeSettings(m_job, wanted, [&] { answers.answerSheets(); });
+        return makeSettings(m_job, wanted,
+                            [&](const RequestedChoice &) { answers.answerSheets(); });
     }
 
     PrintJob m_job;

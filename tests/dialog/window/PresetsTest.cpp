@@ -127,6 +127,30 @@ TEST_F(Presets, AreSavedChosenRenamedAndDeleted)
     EXPECT_EQ(notice(), QString());
 }
 
+TEST_F(Presets, AreStepsThatCanBeUndone)
+{
+    m_lpoptions.writeUser("Dest photo/warm VKMediaType=Glossy VKColorMatching=Vivid\n");
+    open();
+    pick("resolutionPopup", u"PlainFast"_s);
+    choose(u"warm"_s);
+    pick("mediaTypePopup", u"Inkjet"_s);
+    const auto press = [this](Qt::KeyboardModifiers modifiers) {
+        QTest::keyClick(m_window.get(), Qt::Key_Z, modifiers);
+        QCoreApplication::processEvents();
+        return QStringList{current(), marked(u"VKMediaType"_s), marked(u"VKResolution"_s)};
+    };
+    constexpr auto kUndo = Qt::ControlModifier;
+    constexpr auto kRedo = Qt::ControlModifier | Qt::ShiftModifier;
+    const QStringList glossy{u"warm"_s, u"Glossy"_s, u"Photo"_s};
+    const QStringList fast{u"Printer's Defaults"_s, u"Plain"_s, u"PlainFast"_s};
+    EXPECT_EQ(press(kUndo), glossy);
+    EXPECT_EQ(press(kUndo), fast);
+    EXPECT_EQ(press(kUndo), (QStringList{u"Printer's Defaults"_s, u"Plain"_s, u"PlainNormal"_s}));
+    EXPECT_EQ(press(kRedo), fast);
+    EXPECT_EQ(press(kRedo), glossy);
+    EXPECT_EQ(part<PopUpButton>("mediaTypePopup")->selectedObject(), u"Glossy"_s);
+}
+
 TEST_F(Presets, HaveTheColoursOfTheTicketToo)
 {
     m_lpoptions.writeUser("Dest photo/warm VKColorMatching=Vivid "

@@ -1,5 +1,5 @@
 #include "dialog/host/controls/PanelParts.h"
-#include "dialog/replay/Recorder.h"
+#include "dialog/replay/SessionFollower.h"
 #include "platform/toolkit/FractionSlider.h"
 #include "platform/toolkit/NumberField.h"
 #include "platform/toolkit/PopUpButton.h"
@@ -9,23 +9,11 @@
 
 #include <QtWidgets/QRadioButton>
 
-using namespace Qt::StringLiterals;
-
 // The panel connected its actions first, so it has acted on a pick by the time it is noted here.
 // What was picked is taken from the signal: the control may show another choice again (the host
 // refused).
 
-namespace {
-
-OrderedMembers pick(const QString &panel, const QString &control, const QString &field,
-                    const QJsonValue &value)
-{
-    return {{u"panel"_s, panel}, {u"control"_s, control}, {field, value}};
-}
-
-} // namespace
-
-void Recorder::followControls(const HostPanel &panel)
+void SessionFollower::followControls(const HostPanel &panel)
 {
     const auto parts = outletsInView(*panel.controls);
     for (auto part = parts.cbegin(); part != parts.cend(); ++part) {
@@ -36,12 +24,12 @@ void Recorder::followControls(const HostPanel &panel)
     followPanelButtons(panel);
 }
 
-void Recorder::followControl(const HostPanel &of, const QString &name, QWidget *control)
+void SessionFollower::followControl(const HostPanel &of, const QString &name, QWidget *control)
 {
     const QString panel = of.name;
     if (auto *popup = qobject_cast<PopUpButton *>(control)) {
         connect(popup, &PopUpButton::activated, this, [this, panel, name, popup](int index) {
-            note("pick", pick(panel, name, u"choice"_s, popup->representedObject(index)));
+            noteAction(ReplayPick{panel, name, popup->representedObject(index), std::nullopt});
         });
     } else if (auto *matrix = qobject_cast<RadioMatrix *>(control)) {
         followMatrix(panel, name, matrix);
@@ -50,38 +38,38 @@ void Recorder::followControl(const HostPanel &of, const QString &name, QWidget *
         connect(button, &QAbstractButton::clicked, this,
                 [this, panel, name, disclosure](bool checked) {
                     if (disclosure)
-                        note("fold", {{u"panel"_s, panel}, {u"open"_s, checked}});
+                        noteAction(ReplayFold{panel, checked});
                     else
-                        note("pick", pick(panel, name, u"checked"_s, checked));
+                        noteAction(ReplayPick{panel, name, std::nullopt, checked});
                 });
     }
 }
 
-void Recorder::followMatrix(const QString &panel, const QString &name, RadioMatrix *matrix)
+void SessionFollower::followMatrix(const QString &panel, const QString &name, RadioMatrix *matrix)
 {
     const auto cells = matrix->findChildren<QRadioButton *>();
     for (qsizetype row = 0; row < cells.size(); ++row) {
         connect(cells[row], &QRadioButton::clicked, this, [this, panel, name, matrix, row] {
             const QString choice = matrix->representedObject(static_cast<int>(row));
-            note("pick", pick(panel, name, u"choice"_s, choice));
+            noteAction(ReplayPick{panel, name, choice, std::nullopt});
         });
     }
 }
 
-void Recorder::followPanelButtons(const HostPanel &panel)
+void SessionFollower::followPanelButtons(const HostPanel &panel)
 {
     if (const QAbstractButton *revert = panel.controls->revertButton())
-        connect(revert, &QAbstractButton::clicked, this, [this] { note("revert"); });
+        connect(revert, &QAbstractButton::clicked, this, [this] { noteAction(ReplayRevert{}); });
     if (const QAbstractButton *help = panel.controls->helpButton())
         connect(help, &QAbstractButton::clicked, this, [this, name = panel.name] {
-            note("help", {{u"panel"_s, name}});
+            noteAction(ReplayPanelCall{PanelOperation::Help, name});
         });
 }
 
-void Recorder::followOtherParts(const QWidget &view)
+void SessionFollower::followOtherParts(const QWidget &view)
 {
     const auto slide = [this](const QString &keyword, double value) {
-        note("slide", {{u"keyword"_s, keyword}, {u"value"_s, value}});
+        noteAction(ReplaySlide{keyword, value});
     };
     for (auto *slider : view.findChildren<FractionSlider *>()) {
         connect(slider, &FractionSlider::movedByUser, this,

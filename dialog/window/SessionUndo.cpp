@@ -1,0 +1,165 @@
+#include "dialog/window/SessionUndo.h"
+
+#include "dialog/host/HostSession.h"
+#include "dialog/host/controls/PanelParts.h"
+#include "dialog/replay/AlertAnswerer.h"
+#include "platform/foundation/UserDefaults.h"
+#include "platform/toolkit/FractionSlider.h"
+#include "platform/toolkit/ViewLoader.h"
+
+#include <utility>
+
+namespace {
+
+QVariantMap settingsOfTicket(const HostSession &session)
+{
+    QVariantMap ticket = session.ticket().values();
+    for (const QString &key : session.foldStateKeys())
+        ticket.remove(key);
+    return ticket;
+}
+
+QList<double> valuesOfSliders(const HostSession &session)
+{
+    QList<double> values;
+    for (const FractionSlider *slider : partsOfViews<FractionSlider>(session))
+        values += slider->doubleValue();
+    return values;
+}
+
+} // namespace
+
+SessionUndo::SessionUndo(PrintController &controller, QObject *parent)
+    : QObject(parent),
+      m_controller(controller),
+      m_journal([this](const ReplayAction &action) { follow(action); })
+{
+    controller.addSessionHook([this](HostSession &session) {
+        m_journal.attach(session);
+        return Result<>();
+    });
+}
+
+void SessionUndo::follow(const ReplayAction &action)
+{
+    const auto *slide = std::get_if<ReplaySlide>(&action);
+    if (slide)
+        followDrag(slide->keyword);
+    if (slide || std::holds_alternative<ReplayPick>(action) ||
+        std::holds_alternative<ReplayRevert>(action))
+        Q_EMIT acted();
+}
+
+/// As long as somebody holds the slider, its way is one step.
+void SessionUndo::followDrag(const QString &keyword)
+{
+    for (FractionSlider *slider : partsOfViews<FractionSlider>(*m_controller.job().session()))
+        if (slider->isSliderDown() && boundKeyOf(slider) == keyword) {
+            m_subject = keyword;
+            connect(
+                slider, &QSlider::sliderReleased, this,
+                [this] {
+                    if (!m_history.isEmpty())
+                        noteUser();
+                    m_history.endSubject();
+                },
+                static_cast<Qt::ConnectionType>(Qt::AutoConnection | Qt::SingleShotConnection));
+        }
+}
+
+SessionUndo::Moment SessionUndo::now() const
+{
+    const PrintJob &job = m_controller.job();
+    Moment moment{
+        m_controller.origin(), m_journal.place(), job.settled(), settingState(job), {}, {}};
+    if (const HostSession *session = job.session()) {
+        moment.ticket = settingsOfTicket(*session);
+        moment.sliders = valuesOfSliders(*session);
+    }
+    return moment;
+}
+
+/// Whether no setting of them differs. Which choices are the user's own is no setting, nor is what
+/// they started from.
+bool SessionUndo::areAlike(const Moment &left, const Moment &right)
+{
+    SettledState settled = left.settled;
+    settled.chosen = right.settled.chosen;
+    return settled == right.settled && left.settings.marks == right.settings.marks &&
+           left.settings.shown == right.settings.shown && left.ticket == right.ticket &&
+           left.sliders == right.sliders;
+}
+
+bool SessionUndo::isSamePrinter(const Moment &left, const Moment &right)
+{
+    return left.printer && right.printer &&
+           left.printer->source.server == right.printer->source.server &&
+           left.printer->source.queue.queue == right.printer->source.queue.queue &&
+           isSameText(*left.printer->ppd, *right.printer->ppd);
+}
+
+void SessionUndo::begin()
+{
+    Moment moment = now();
+    if (m_history.isEmpty() || !isSamePrinter(m_history.current(), moment))
+        m_history.begin(std::move(moment));
+    else if (areAlike(m_history.current(), moment))
+        m_history.amend(std::move(moment));
+    else
+        m_history.note(std::move(moment));
+}
+
+void SessionUndo::noteUser()
+{
+    const QString subject = std::exchange(m_subject, QString());
+    if (m_history.isEmpty())
+        return;
+    Moment moment = now();
+    if (areAlike(m_history.current(), moment))
+        m_history.amend(std::move(moment));
+    else
+        m_history.note(std::move(moment), subject);
+}
+
+void SessionUndo::noteOwn()
+{
+    if (!m_history.isEmpty())
+        m_history.amend(now());
+}
+
+Result<> SessionUndo::undo()
+{
+    const Result<> gone = goTo(m_history.undo());
+    if (!gone)
+        m_history.redo();
+    return gone;
+}
+
+Result<> SessionUndo::redo()
+{
+    const Result<> gone = goTo(m_history.redo());
+    if (!gone)
+        m_history.undo();
+    return gone;
+}
+
+Result<> SessionUndo::goTo(const Moment &moment)
+{
+    PrintJob &job = m_controller.job();
+    JournalPlace from = m_journal.place();
+    const TransientDefaults memoryOfThen;
+    if (moment.printer &&
+        (moment.printer != m_controller.origin() || !isAfter(from, moment.place))) {
+        const AlertAnswerer unseen(AlertAnswerer::Alerts::Unseen);
+        const Result<> opened = m_controller.reopen(moment.printer);
+        if (!opened)
+            return opened;
+        from.reset();
+    }
+    if (job.session()) {
+        bring(*job.session(), from, moment.place);
+        m_journal.setPlace(moment.place);
+    }
+    job.setSettled(moment.settled);
+    return {};
+}
