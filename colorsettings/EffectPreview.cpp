@@ -8,6 +8,7 @@
 #include "platform/imaging/CIImage.h"
 #include "platform/toolkit/ImageView.h"
 #include "platform/toolkit/KeyWindow.h"
+#include "platform/toolkit/PanelPoint.h"
 #include "platform/toolkit/ViewLoader.h"
 
 using namespace Qt::StringLiterals;
@@ -187,7 +188,7 @@ void VKInkColorSettingPDE::updateImage(QWidget *)
         return;
     setContent(u"frameHeight"_s, height);
     const QWidget *view = loadedView();
-    const double limit = (view ? view->height() : 0) + kWindowMargin;
+    const double limit = (view ? sizeInPoints(*view).height() : 0) + kWindowMargin;
     if (height <= limit)
         return;
     if (effectImageView)

@@ -6,6 +6,7 @@
 #include "platform/toolkit/AccessibleName.h"
 #include "platform/toolkit/ImageView.h"
 #include "platform/toolkit/NumberField.h"
+#include "platform/toolkit/PanelPoint.h"
 #include "platform/toolkit/PlainLabel.h"
 #include "platform/toolkit/PlainText.h"
 #include "platform/toolkit/RadioMatrix.h"
@@ -65,7 +66,7 @@ void VKInkColorSettingPDE::initializePopup()
     fitMatrix();
     titleSection();
     if (QWidget *view = loadedView())
-        view->setFixedSize(view->width(), kFoldedHeight);
+        view->setFixedSize(view->width(), toPixels(kFoldedHeight));
     titleEffects();
     nameControls();
     restoreOptionState();
@@ -78,15 +79,17 @@ void VKInkColorSettingPDE::initializePopup()
 void VKInkColorSettingPDE::fitMatrix()
 {
     auto *matrix = qobject_cast<RadioMatrix *>(determineUI(u"VKColorMatching"_s));
-    const int needed = matrix ? matrix->numberOfRows() * kLeastRowHeight : 0;
+    const int rowHeight = toPixels(kLeastRowHeight);
+    const int needed = matrix ? matrix->numberOfRows() * rowHeight : 0;
     if (!matrix || !optionLabel || needed <= matrix->height())
         return;
-    const int bottom = std::min(needed, kFoldedHeight - optionLabel->height());
+    const int bottom = std::min(needed, toPixels(kFoldedHeight) - optionLabel->height());
     const int top = std::clamp(bottom - needed, 0, matrix->y());
-    adjustUIPosition(std::min(optionLabel->y() - bottom, 0), {optionButton, optionLabel});
+    adjustUIPosition(std::min(optionLabel->y() - bottom, 0) / pixelsPerPoint(),
+                     {optionButton, optionLabel});
     matrix->setGeometry(matrix->x(), top, matrix->width(), bottom - top);
     if (QWidget *label = determineLabel(u"VKColorMatching"_s))
-        label->setGeometry(label->x(), top, label->width(), kLeastRowHeight);
+        label->setGeometry(label->x(), top, label->width(), rowHeight);
 }
 
 void VKInkColorSettingPDE::titleSection()

@@ -8,6 +8,7 @@
 #include "platform/ppd/PPDText.h"
 #include "platform/toolkit/ImageView.h"
 #include "platform/toolkit/KeyWindow.h"
+#include "platform/toolkit/PanelPoint.h"
 
 #include <QtWidgets/QAbstractButton>
 
@@ -122,7 +123,7 @@ void VKPrintQualityPDE::setViewFrameSize(const QSizeF &size)
     if (!pdePluginCallbackObject->respondsTo(HostOperation::PanelViewDidResize))
         return;
     if (m_panelView)
-        m_panelView->setFixedSize(size.toSize());
+        m_panelView->setFixedSize(toPixels(size.width()), toPixels(size.height()));
     const std::optional<double> windowHeight = keyWindowHeight();
     if (!hasFlag(PanelOnScreen) || !windowHeight)
         return;
@@ -141,7 +142,7 @@ void VKPrintQualityPDE::toggleShowOption(QWidget *sender)
         return;
     const auto *button = qobject_cast<QAbstractButton *>(sender);
     const bool unfolded = button && button->isChecked();
-    QSizeF size = m_panelView ? QSizeF(m_panelView->size()) : QSizeF(0, 0);
+    QSizeF size = m_panelView ? sizeInPoints(*m_panelView) : QSizeF(0, 0);
     size.rheight() += unfolded ? advancedHeight() : -advancedHeight();
     setViewFrameSize(size);
 }
@@ -158,6 +159,6 @@ void VKPrintQualityPDE::adjustUIPosition(double offset, const QList<QWidget *> &
     for (QWidget *part : parts) {
         // Up on the screen is a smaller vertical coordinate.
         if (part)
-            part->move(part->x(), part->y() - qRound(offset));
+            part->move(part->x(), part->y() - toPixels(offset));
     }
 }

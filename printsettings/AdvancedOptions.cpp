@@ -2,6 +2,7 @@
 
 #include "platform/ppd/PPDText.h"
 #include "platform/toolkit/AccessibleName.h"
+#include "platform/toolkit/PanelPoint.h"
 #include "printsettings/rules/AdvancedGroups.h"
 
 #include <QtWidgets/QAbstractButton>
@@ -29,7 +30,8 @@ void VKInkPrintSetting14PDE::initializePopup()
     if (!feed)
         adjustUIPosition(kFeedRowHeight, parts);
     if (QWidget *view = loadedView())
-        view->setFixedSize(view->width(), feed ? kCollapsedHeight : kCollapsedHeightWithoutFeed);
+        view->setFixedSize(view->width(),
+                           toPixels(feed ? kCollapsedHeight : kCollapsedHeightWithoutFeed));
     restoreOptionState();
 }
 

@@ -5,6 +5,7 @@
 #include "platform/foundation/ObservableDictionary.h"
 #include "platform/pde/PDEPanelInspection.h"
 #include "platform/toolkit/ImageView.h"
+#include "platform/toolkit/PanelPoint.h"
 
 #include <QtCore/QJsonArray>
 
@@ -53,7 +54,7 @@ QJsonObject panelReport(const HostPanel &panel, const QWidget *view)
     const auto keys = panel.panel->supportedPPDOptionKeys();
     QJsonObject report{
         {u"keys"_s, keys ? QJsonValue(QJsonArray::fromStringList(*keys)) : QJsonValue()},
-        {u"height"_s, view ? QJsonValue(view->height()) : QJsonValue()},
+        {u"height"_s, view ? QJsonValue(toPoints(view->height())) : QJsonValue()},
     };
     if (panel.controls)
         report.insert("labels"_L1, labelReports(*panel.controls));

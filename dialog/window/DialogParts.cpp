@@ -6,6 +6,7 @@
 #include "dialog/window/LayoutPane.h"
 #include "dialog/window/Mnemonics.h"
 #include "dialog/window/PageSetupPane.h"
+#include "dialog/window/ScrolledBody.h"
 
 #include <QtGui/QScreen>
 #include <QtWidgets/QLayout>
@@ -23,7 +24,7 @@ void DialogWindow::buildParts()
     m_header->showJobSettings(!m_savedJob);
     setTitleWithMnemonic(*m_print, printTitle());
     giveMnemonics(*m_tabs);
-    fitToTabs();
+    fitToTexts();
     changePart();
     setHeight(std::max(height(), layout()->totalSizeHint().height()));
 }
@@ -73,7 +74,10 @@ void DialogWindow::fitToPart()
     const DialogTabs::Part *part = m_tabs->currentPart();
     m_partHeight = part ? part->page->sizeHint().height() : 0;
     layout()->activate();
-    if (part && part->panel && isVisible())
+    if (!part || !part->panel)
+        return;
+    setWidth(width() + std::max(0, part->page->sizeHint().width() - part->page->width()));
+    if (isVisible())
         setHeight(height() + std::max(0, m_partHeight - part->page->height()));
 }
 
@@ -89,19 +93,25 @@ void DialogWindow::followView()
     m_partHeight = wanted;
     layout()->activate();
     if (change < 0)
-        setHeight(std::max(height() + change, minimumSizeHint().height()));
+        setHeight(height() + std::max(change, m_body->lackingSize().height()));
     else if (wanted > part->page->height())
         setHeight(height() + wanted - part->page->height());
     job().session()->windowDidResize();
 }
 
-/// The titles of all tabs are there to be read, as far as the screen allows it.
-void DialogWindow::fitToTabs()
+/// All there is, the titles of the tabs too, is there to be read, as far as the screen allows it.
+void DialogWindow::fitToTexts()
 {
-    const QMargins margins = layout()->contentsMargins();
-    const int wanted = m_tabs->tabBar()->sizeHint().width() + margins.left() + margins.right();
+    layout()->activate();
+    const int tabs = m_tabs->tabBar()->sizeHint().width() - m_tabs->width();
+    const int buttons = m_buttons->sizeHint().width() - m_body->width();
+    setWidth(width() + std::max({0, tabs, buttons, m_body->lackingSize().width()}));
+}
+
+void DialogWindow::setWidth(int width)
+{
     const int most = screen()->availableGeometry().width();
-    resize(std::max(width(), std::min(wanted, most)), height());
+    resize(std::max(this->width(), std::min(width, most)), height());
 }
 
 void DialogWindow::setHeight(int height)

@@ -10,7 +10,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int kCancel = 1; // of the question whether to send what this program does not write
+constexpr int kDoNotSend = 1; // of the question whether to send what this program does not write
 
 QStringList foreignSettings(const JobRequest &saved)
 {
@@ -76,8 +76,8 @@ std::optional<JobRequest> DialogWindow::savedJobToSend()
         tr("This job sets %1, which Velkaro Print does not write. Print it all the same?")
             .arg(foreign.join(u", "_s));
     question.buttons = {tr("Print"), tr("Cancel")};
-    question.defaultButton = kCancel;
-    if (ask(question) == kCancel || m_isEnding)
+    question.defaultButton = kDoNotSend;
+    if (ask(question) == kDoNotSend || m_isEnding)
         return std::nullopt;
     return request;
 }

@@ -127,8 +127,15 @@ void DialogTabs::showPanel()
         return;
     m_shownPanel = part->panel;
     QWidget *view = m_job.session()->show(*part->panel);
-    static_cast<PanelPane *>(part->page)->setView(view);
+    putView(static_cast<PanelPane &>(*part->page), view);
     m_viewIsMissing = !view;
+}
+
+void DialogTabs::putView(PanelPane &pane, QWidget *view)
+{
+    if (view)
+        giveCaptionMnemonics(*view, mnemonicsIn(*window()));
+    pane.setView(view);
 }
 
 void DialogTabs::hidePanel()
@@ -157,7 +164,7 @@ void DialogTabs::exchangePanels(const QString &shown)
         auto *pane = qobject_cast<PanelPane *>(part.page);
         part.panel = pane ? session->panelNamed(part.name) : nullptr;
         if (part.panel)
-            pane->setView(session->loadedView(*part.panel));
+            putView(*pane, session->loadedView(*part.panel));
         if (part.panel && part.name == shown)
             m_shownPanel = part.panel;
     }

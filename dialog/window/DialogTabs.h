@@ -8,6 +8,7 @@ struct HostPanel;
 class FeaturesPane;
 class LayoutPane;
 class PageSetupPane;
+class PanelPane;
 class PrintJob;
 class SummaryPane;
 
@@ -75,6 +76,7 @@ private:
     void addPart(const QString &name, QWidget *page, const QString &title,
                  const HostPanel *panel = nullptr);
     void addPanels();
+    void putView(PanelPane &pane, QWidget *view);
 
     PrintJob &m_job;
     PageSetupPane *m_pageSetup;

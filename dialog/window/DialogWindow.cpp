@@ -1,6 +1,7 @@
 #include "dialog/window/DialogWindow.h"
 
 #include "dialog/job/PipeDocuments.h"
+#include "dialog/window/ButtonRow.h"
 #include "dialog/window/DialogTabs.h"
 #include "dialog/window/FeaturesPane.h"
 #include "dialog/window/HostHelp.h"
@@ -10,16 +11,17 @@
 #include "dialog/window/PageSetupPane.h"
 #include "dialog/window/PrinterPopUp.h"
 #include "dialog/window/ProgressStrip.h"
+#include "dialog/window/ScrolledBody.h"
 #include "dialog/window/SessionUndo.h"
 #include "platform/foundation/NotificationCenter.h"
 #include "platform/toolkit/KeyWindow.h"
+#include "platform/toolkit/PanelPoint.h"
 #include "platform/toolkit/PlainText.h"
 
 #include <QtCore/QThread>
 #include <QtCore/QTimer>
 #include <QtGui/QShortcut>
 #include <QtWidgets/QApplication>
-#include <QtWidgets/QHBoxLayout>
 #include <QtWidgets/QPushButton>
 #include <QtWidgets/QVBoxLayout>
 
@@ -58,6 +60,7 @@ DialogWindow::DialogWindow(const DialogWishes &wishes, QWidget *parent)
     setAcceptDrops(true);
     takeSavedJob();
     setWindowTitle(tr("Print"));
+    setPixelsPerPoint(pixelsPerPoint(fontMetrics().height()));
     buildLayout();
     resize(kFirstSize);
     setState(State::Searching);
@@ -74,13 +77,13 @@ void DialogWindow::buildLayout()
     m_notice = new NoticeBar(this);
     m_progress = new ProgressStrip(this);
     m_tabs = new DialogTabs(job(), this);
+    m_body = newBody();
     auto *layout = new QVBoxLayout(this);
     layout->setContentsMargins(kWindowMargin, kWindowMargin, kWindowMargin, kWindowMargin);
     layout->setSpacing(kWindowMargin);
-    layout->addWidget(m_header);
-    layout->addWidget(m_notice);
-    layout->addWidget(m_tabs, 1);
-    layout->addWidget(newButtons());
+    layout->addWidget(m_body, 1);
+    m_buttons = newButtons();
+    layout->addWidget(m_buttons);
     buildParts();
     addPartShortcut(QKeySequence::NextChild, 1);
     addPartShortcut(QKeySequence::PreviousChild, -1);
@@ -125,9 +128,23 @@ void DialogWindow::addPartShortcut(QKeySequence::StandardKey keys, int step)
     });
 }
 
+ScrolledBody *DialogWindow::newBody()
+{
+    auto *content = new QWidget;
+    auto *column = new QVBoxLayout(content);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->setSpacing(kWindowMargin);
+    column->addWidget(m_header);
+    column->addWidget(m_notice);
+    column->addWidget(m_tabs, 1);
+    auto *body = new ScrolledBody(this);
+    body->setContent(content);
+    return body;
+}
+
 QWidget *DialogWindow::newButtons()
 {
-    auto *row = new QWidget(this);
+    auto *row = new ButtonRow(this);
     m_help = newButton(u"helpButton"_s, tr("Help"), row);
     m_help->setShortcut(QKeySequence::HelpContents);
     m_save = newButton(u"saveButton"_s, tr("Save to &File…"), row);
@@ -136,13 +153,11 @@ QWidget *DialogWindow::newButtons()
     m_print->setAutoDefault(true);
     m_print->setDefault(true);
     m_save->setVisible(m_wishes.output.isNull());
-    auto *layout = new QHBoxLayout(row);
-    layout->setContentsMargins(0, 0, 0, 0);
-    layout->addWidget(m_help);
-    layout->addWidget(m_progress, 1);
-    layout->addWidget(m_save);
-    layout->addWidget(m_cancel);
-    layout->addWidget(m_print);
+    row->add(ButtonRow::Group::Left, m_help);
+    row->add(ButtonRow::Group::Left, m_progress, true);
+    row->add(ButtonRow::Group::Middle, m_save);
+    row->add(ButtonRow::Group::Right, m_cancel);
+    row->add(ButtonRow::Group::Right, m_print);
     connect(m_help, &QPushButton::clicked, this, &DialogWindow::showHelp);
     connect(m_save, &QPushButton::clicked, this, &DialogWindow::saveToFile);
     connect(m_cancel, &QPushButton::clicked, this, &DialogWindow::reject);

@@ -19,6 +19,7 @@
 class DialogTabs;
 class JobHeader;
 class ProgressStrip;
+class ScrolledBody;
 class QPushButton;
 class SessionUndo;
 
@@ -103,6 +104,7 @@ private:
     // DialogWindow.cpp
     void buildLayout();
     void addPartShortcut(QKeySequence::StandardKey keys, int step);
+    ScrolledBody *newBody();
     QWidget *newButtons();
     QString printTitle() const;
     void setState(State state);
@@ -164,7 +166,8 @@ private:
     void moveButtonsLast();
     void fitToPart();
     void followView();
-    void fitToTabs();
+    void fitToTexts();
+    void setWidth(int width);
     void setHeight(int height);
     QList<SummarySection> summarySections();
     void listCoverPages();
@@ -234,6 +237,8 @@ private:
     NoticeBar *m_notice;
     ProgressStrip *m_progress;
     DialogTabs *m_tabs;
+    ScrolledBody *m_body = nullptr; ///< all but the buttons
+    QWidget *m_buttons = nullptr;
     QPushButton *m_help = nullptr;
     QPushButton *m_save = nullptr;
     QPushButton *m_cancel = nullptr;

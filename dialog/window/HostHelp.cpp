@@ -1,8 +1,10 @@
 #include "dialog/window/HostHelp.h"
 
+#include "dialog/window/ScrolledBody.h"
 #include "platform/toolkit/PlainLabel.h"
 
 #include <QtCore/QCoreApplication>
+#include <QtGui/QScreen>
 #include <QtWidgets/QDialog>
 #include <QtWidgets/QDialogButtonBox>
 #include <QtWidgets/QLabel>
@@ -31,6 +33,20 @@ constexpr std::array kParagraphs{
                     "the job with its documents; open it here later, as a document, to print it."),
 };
 
+QWidget *newText()
+{
+    auto *text = new QWidget;
+    auto *column = new QVBoxLayout(text);
+    column->setContentsMargins(0, 0, 0, 0);
+    for (const char *paragraph : kParagraphs) {
+        QLabel *label = newPlainLabel(QCoreApplication::translate("HostHelp", paragraph));
+        label->setWordWrap(true);
+        label->setFixedWidth(kTextWidth);
+        column->addWidget(label);
+    }
+    return text;
+}
+
 } // namespace
 
 void showHostHelp(QWidget *parent)
@@ -40,16 +56,14 @@ void showHostHelp(QWidget *parent)
     window->setAttribute(Qt::WA_DeleteOnClose);
     window->setWindowTitle(QCoreApplication::translate("HostHelp", "Print Help"));
     auto *layout = new QVBoxLayout(window);
-    for (const char *paragraph : kParagraphs) {
-        QLabel *label = newPlainLabel(QCoreApplication::translate("HostHelp", paragraph), window);
-        label->setWordWrap(true);
-        label->setFixedWidth(kTextWidth);
-        layout->addWidget(label);
-    }
+    auto *body = new ScrolledBody(window);
+    body->setContent(newText());
+    layout->addWidget(body);
     auto *buttons = new QDialogButtonBox(window);
     buttons->addButton(QCoreApplication::translate("HostHelp", "Close"),
                        QDialogButtonBox::RejectRole);
     QObject::connect(buttons, &QDialogButtonBox::rejected, window, &QDialog::reject);
     layout->addWidget(buttons);
+    window->resize(window->sizeHint().boundedTo(window->screen()->availableSize()));
     window->show();
 }

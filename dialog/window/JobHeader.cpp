@@ -2,9 +2,11 @@
 
 #include "dialog/job/PageRanges.h"
 #include "dialog/printing/PrintJob.h"
+#include "dialog/window/FieldWidth.h"
 #include "dialog/window/PresetsRow.h"
 #include "dialog/window/PrinterPopUp.h"
 #include "platform/toolkit/AccessibleName.h"
+#include "platform/toolkit/CaptionLabel.h"
 #include "platform/toolkit/NumberField.h"
 #include "platform/toolkit/PlainLabel.h"
 #include "platform/toolkit/PopUpButton.h"
@@ -15,6 +17,8 @@
 #include <QtWidgets/QLabel>
 #include <QtWidgets/QLineEdit>
 #include <QtWidgets/QPushButton>
+
+#include <algorithm>
 
 using namespace Qt::StringLiterals;
 
@@ -48,7 +52,7 @@ QLabel *label(const QString &text, QWidget *buddy)
 JobHeader::JobHeader(PrintJob &job, QWidget *parent)
     : QWidget(parent),
       m_job(job),
-      m_documents(newPlainLabel(QString(), this)),
+      m_documents(new CaptionLabel(this)),
       m_choose(new QPushButton(tr("C&hoose…"), this)),
       m_printers(new PrinterPopUp(this)),
       m_presets(new PresetsRow(this)),
@@ -57,6 +61,7 @@ JobHeader::JobHeader(PrintJob &job, QWidget *parent)
       m_pagesValidation(newPlainLabel(QString(), this))
 {
     m_documents->setObjectName(u"documentsLabel"_s);
+    m_documents->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     m_documents->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     m_choose->setObjectName(u"chooseButton"_s);
     m_choose->setAutoDefault(false);
@@ -64,7 +69,7 @@ JobHeader::JobHeader(PrintJob &job, QWidget *parent)
     m_copies->setRange(1, kMostCopies);
     m_pages->setObjectName(u"pagesField"_s);
     m_pages->setPlaceholderText(tr("All, or 1-3, 5"));
-    m_pages->setFixedWidth(kPagesWidth);
+    m_pages->setFixedWidth(std::max(kPagesWidth, widthForPlaceholder(*m_pages)));
     m_pagesValidation->setObjectName(u"pagesValidation"_s);
     auto *form = new QFormLayout(this);
     form->setContentsMargins(0, 0, 0, 0);

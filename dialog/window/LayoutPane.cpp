@@ -2,6 +2,7 @@
 
 #include "dialog/job/JobLayout.h"
 #include "dialog/printing/PrintJob.h"
+#include "dialog/window/FieldWidth.h"
 #include "dialog/window/HoldField.h"
 #include "platform/toolkit/AccessibleName.h"
 #include "platform/toolkit/NumberField.h"
@@ -13,6 +14,8 @@
 #include <QtWidgets/QHBoxLayout>
 #include <QtWidgets/QLabel>
 #include <QtWidgets/QLineEdit>
+
+#include <algorithm>
 
 using namespace Qt::StringLiterals;
 
@@ -54,13 +57,9 @@ bool isChosenInPopUp(const LayoutSetting &setting)
 
 } // namespace
 
-LayoutPane::LayoutPane(PrintJob &job, QWidget *parent) : QScrollArea(parent), m_job(job)
+LayoutPane::LayoutPane(PrintJob &job, QWidget *parent) : ScrolledBody(parent), m_job(job)
 {
     setObjectName(u"layoutPane"_s);
-    setFrameShape(QFrame::NoFrame);
-    setFocusPolicy(Qt::NoFocus); // it scrolls to the control that has it
-    setWidgetResizable(true);
-    viewport()->setAutoFillBackground(false);
     auto *page = new QWidget;
     auto *form = new QFormLayout(page);
     form->setContentsMargins(kLayoutMargin, kLayoutMargin, kLayoutMargin, kLayoutMargin);
@@ -74,8 +73,7 @@ LayoutPane::LayoutPane(PrintJob &job, QWidget *parent) : QScrollArea(parent), m_
     addPriority(form);
     addCovers(form);
     addNotification(form);
-    setWidget(page);
-    page->setAutoFillBackground(false);
+    setContent(page);
     reload();
 }
 
@@ -146,18 +144,14 @@ void LayoutPane::addNotification(QFormLayout *form)
     m_notification = new QLineEdit;
     m_notification->setObjectName(u"notificationField"_s);
     m_notification->setPlaceholderText(tr("Mail address, or nothing"));
-    m_notification->setMinimumWidth(kChoiceLength * fontMetrics().averageCharWidth());
+    m_notification->setMinimumWidth(std::max(kChoiceLength * fontMetrics().averageCharWidth(),
+                                             widthForPlaceholder(*m_notification)));
     m_notificationValidation = newPlainLabel(QString());
     m_notificationValidation->setObjectName(u"notificationValidation"_s);
     const LayoutSetting &setting = *layoutSetting(u"notify-recipient-uri"_s);
     addLabelledRow(form, rowTitle(setting), rowOf({m_notification, m_notificationValidation}));
     giveAccessibleName(m_notification, layoutTitle(setting));
     connect(m_notification, &QLineEdit::textEdited, this, &LayoutPane::takeNotification);
-}
-
-QSize LayoutPane::sizeHint() const
-{
-    return widget()->sizeHint();
 }
 
 void LayoutPane::reload()

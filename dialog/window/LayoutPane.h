@@ -1,7 +1,8 @@
 #pragma once
 
+#include "dialog/window/ScrolledBody.h"
+
 #include <QtCore/QStringList>
-#include <QtWidgets/QScrollArea>
 
 class HoldField;
 class NumberField;
@@ -15,7 +16,7 @@ struct LayoutSetting;
 /// How the pages are laid out, and what the server is to do with the job: what every printer can,
 /// whatever its PPD. Shows what the job has, and changes the job alone. What nobody has touched is
 /// not sent.
-class LayoutPane : public QScrollArea
+class LayoutPane : public ScrolledBody
 {
     Q_OBJECT
 
@@ -31,9 +32,6 @@ public:
 
     /// Whether all that stands in the fields can be used.
     bool isAcceptable() const;
-
-    /// All rows without scrolling.
-    QSize sizeHint() const override;
 
 Q_SIGNALS:
     /// The user has changed something, and the job has it where it can be used.

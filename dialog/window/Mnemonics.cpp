@@ -1,5 +1,7 @@
 #include "dialog/window/Mnemonics.h"
 
+#include "platform/toolkit/CaptionLabel.h"
+
 #include <QtCore/QRegularExpression>
 #include <QtGui/QKeySequence>
 #include <QtWidgets/QAbstractButton>
@@ -41,6 +43,15 @@ QString freeLetters(const QString &title, const QString &taken)
     return letters;
 }
 
+/// Where a letter goes that the title does not have: before a colon at the end.
+qsizetype placeBehind(const QString &title)
+{
+    qsizetype place = title.size();
+    while (place > 0 && (title[place - 1].isSpace() || title[place - 1] == u':'))
+        --place;
+    return place;
+}
+
 /// The title with its mnemonic on the letter: where that begins a word, else on the first one.
 QString marked(const QString &title, QChar letter)
 {
@@ -51,7 +62,7 @@ QString marked(const QString &title, QChar letter)
     if (!place && title.contains(letter, Qt::CaseInsensitive))
         place = title.indexOf(letter, 0, Qt::CaseInsensitive);
     return place ? QString(title).insert(*place, u'&')
-                 : title + QStringLiteral("(&%1)").arg(letter);
+                 : QString(title).insert(placeBehind(title), QStringLiteral("(&%1)").arg(letter));
 }
 
 /// Which title has which letter. A title that finds its letters given away takes one from another
@@ -90,6 +101,13 @@ private:
     QList<QChar> m_given;
     QString m_asked; // for the title that letters are being looked for
 };
+
+/// As it is drawn, with an ampersand before its mnemonic.
+QString titleOf(const QLabel &label)
+{
+    const auto *caption = qobject_cast<const CaptionLabel *>(&label);
+    return caption ? caption->mnemonicText() : label.text();
+}
 
 bool isOnAPageOf(const QWidget &window, const QWidget *widget)
 {
@@ -132,7 +150,7 @@ QString mnemonicsIn(const QWidget &window, const QWidget *except)
             letters += mnemonicOf(button->text());
     for (const auto *label : window.findChildren<QLabel *>())
         if (counts(label) && label->buddy())
-            letters += mnemonicOf(label->text());
+            letters += mnemonicOf(titleOf(*label));
     for (const auto *tabs : window.findChildren<QTabBar *>())
         for (int index = 0; index < tabs->count(); ++index)
             letters += mnemonicOf(tabs->tabText(index));
@@ -161,6 +179,23 @@ void giveMnemonics(QTabWidget &tabs)
     for (int index = 0; index < tabs.count(); ++index)
         if (!letters.of(index).isNull())
             tabs.setTabText(index, marked(tabs.tabText(index), letters.of(index)));
+}
+
+void giveCaptionMnemonics(QWidget &view, const QString &taken)
+{
+    QList<CaptionLabel *> captions;
+    QStringList choices;
+    for (auto *caption : view.findChildren<CaptionLabel *>())
+        if (caption->buddy() && !caption->isHidden() && !caption->text().isEmpty()) {
+            captions += caption;
+            choices += freeLetters(caption->text(), taken);
+        }
+    const Letters letters(choices);
+    for (qsizetype index = 0; index < captions.size(); ++index) {
+        const QChar letter = letters.of(index);
+        captions[index]->setMnemonic(letter.isNull() ? QString()
+                                                     : marked(captions[index]->text(), letter));
+    }
 }
 
 void settleMnemonics(QWidget &page, const QString &taken)

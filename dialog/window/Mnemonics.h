@@ -22,6 +22,10 @@ void setTitleWithMnemonic(QAbstractButton &button, const QString &title);
 /// Gives every tab a mnemonic that nothing in the tabs' window answers yet. Their titles have none.
 void giveMnemonics(QTabWidget &tabs);
 
+/// Gives the captions of a panel's view mnemonics for their controls, which are not taken. Their
+/// texts stay as the panel has set them.
+void giveCaptionMnemonics(QWidget &view, const QString &taken);
+
 /// Has the buttons and labels of a page that have mnemonics answer letters of their own, which are
 /// not taken: they keep theirs as far as possible.
 void settleMnemonics(QWidget &page, const QString &taken);

@@ -19,9 +19,9 @@ struct NoticeOffer
 };
 
 /// A strip that tells one thing at a time, in plain text: what the dialog waits for, why a choice
-/// was refused, what went wrong. It has the room of two lines whether or not there is anything to
-/// tell, so that nothing moves when there is. What is longer is cut off there, and whole in its
-/// tool tip and its accessible name.
+/// was refused, what went wrong. It has the room of an ordinary sentence whether or not there is
+/// anything to tell, so that nothing moves when there is. What is longer is cut off there, and
+/// whole in its tool tip and its accessible name.
 class NoticeBar : public QFrame
 {
     Q_OBJECT

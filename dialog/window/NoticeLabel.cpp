@@ -6,10 +6,21 @@
 #include <QtGui/QTextLayout>
 #include <QtWidgets/QStylePainter>
 
+#include <algorithm>
+
 namespace {
 
-constexpr int kLines = 2;
+constexpr int kFewestLines = 2;
+constexpr int kOrdinaryLength = 150; // characters
+constexpr int kOrdinaryWidth = 550;  // pixels: of a window that nobody has resized
 constexpr int kLeastWidth = 200;
+
+/// How many lines there is room for: the same whatever there is to tell.
+int linesOf(const QFontMetrics &metrics)
+{
+    const int length = kOrdinaryLength * metrics.averageCharWidth();
+    return std::max(kFewestLines, (length + kOrdinaryWidth - 1) / kOrdinaryWidth);
+}
 
 /// The length of the line of the text that begins at `start` and is no wider than `width`.
 int lineLength(const QString &text, qsizetype start, const QFont &font, int width)
@@ -35,7 +46,7 @@ NoticeLabel::NoticeLabel(QWidget *parent) : QLabel(parent)
 
 QSize NoticeLabel::sizeHint() const
 {
-    return {kLeastWidth, kLines * fontMetrics().lineSpacing()};
+    return {kLeastWidth, linesOf(fontMetrics()) * fontMetrics().lineSpacing()};
 }
 
 QSize NoticeLabel::minimumSizeHint() const
@@ -47,9 +58,10 @@ QStringList NoticeLabel::shownLines() const
 {
     const QString whole = text();
     const int width = contentsRect().width();
+    const int room = linesOf(fontMetrics());
     QStringList lines;
     qsizetype start = 0;
-    while (start < whole.size() && lines.size() < kLines - 1) {
+    while (start < whole.size() && lines.size() < room - 1) {
         const int length = lineLength(whole, start, font(), width);
         lines += whole.mid(start, length).trimmed();
         start += std::max(1, length);

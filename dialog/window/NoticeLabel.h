@@ -2,8 +2,8 @@
 
 #include <QtWidgets/QLabel>
 
-/// A label with the room of two lines, for plain text. What does not fit ends in an ellipsis and is
-/// whole in the tool tip.
+/// A label with the room of two lines, for plain text, or of so many that a sentence of ordinary
+/// length can be read. What does not fit ends in an ellipsis and is whole in the tool tip.
 class NoticeLabel : public QLabel
 {
     Q_OBJECT

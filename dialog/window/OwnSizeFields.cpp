@@ -1,6 +1,7 @@
 #include "dialog/window/OwnSizeFields.h"
 
 #include "dialog/job/PaperMemory.h"
+#include "dialog/window/FieldWidth.h"
 #include "platform/toolkit/AccessibleName.h"
 
 #include <QtGui/QKeyEvent>
@@ -19,6 +20,7 @@ OwnSizeFields::OwnSizeFields(QWidget *parent)
 {
     m_name->setObjectName(u"sizeNameField"_s);
     m_name->setPlaceholderText(tr("Name of this size"));
+    m_name->setMinimumWidth(widthForPlaceholder(*m_name));
     giveAccessibleName(m_name, tr("Name of this size"));
     auto *row = new QHBoxLayout(this);
     row->setContentsMargins(0, 0, 0, 0);

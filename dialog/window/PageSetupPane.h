@@ -1,6 +1,6 @@
 #pragma once
 
-#include <QtWidgets/QWidget>
+#include "dialog/window/ScrolledBody.h"
 
 class PaperRows;
 class PlacementRows;
@@ -9,7 +9,7 @@ class PrintJob;
 /// The page setup: the paper in the printer, how the pages lie on it, two-sided printing, colour
 /// matching, and the options that the plug-in leaves to the dialog. Shows what the job has, and
 /// changes the job alone.
-class PageSetupPane : public QWidget
+class PageSetupPane : public ScrolledBody
 {
     Q_OBJECT
 
@@ -35,7 +35,6 @@ Q_SIGNALS:
 
 private:
     PrintJob &m_job;
-    QWidget *m_page = nullptr;
     PaperRows *m_paper = nullptr;
     PlacementRows *m_placement = nullptr;
 };

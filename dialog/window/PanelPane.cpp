@@ -1,11 +1,16 @@
 #include "dialog/window/PanelPane.h"
 
+#include "dialog/window/ViewWidth.h"
+#include "platform/toolkit/PanelPoint.h"
+
 #include <QtCore/QEvent>
 #include <QtWidgets/QScrollBar>
 
 namespace {
 
-constexpr int kLeastHeight = 80; // of a pane on a very small screen
+// On a very small screen. Points.
+constexpr int kLeastViewWidth = 300;
+constexpr int kLeastViewHeight = 80;
 constexpr int kTopMargin = 8;
 
 } // namespace
@@ -15,7 +20,6 @@ PanelPane::PanelPane(QWidget *parent) : QScrollArea(parent)
     setFrameShape(QFrame::NoFrame);
     setFocusPolicy(Qt::NoFocus); // it scrolls to the control that has it
     setAlignment(Qt::AlignHCenter | Qt::AlignTop);
-    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setViewportMargins(0, kTopMargin, 0, 0);
     // The tab's own background lies behind the view.
     viewport()->setAutoFillBackground(false);
@@ -28,8 +32,15 @@ PanelPane::~PanelPane()
 
 void PanelPane::setView(QWidget *view)
 {
-    if (view == m_view)
-        return;
+    if (view != m_view)
+        takeView(view);
+    if (view)
+        fitWidth(*view);
+    updateGeometry();
+}
+
+void PanelPane::takeView(QWidget *view)
+{
     releaseView();
     m_view = view;
     if (!view)
@@ -38,7 +49,6 @@ void PanelPane::setView(QWidget *view)
     view->setAutoFillBackground(false);
     view->show();
     view->installEventFilter(this);
-    updateGeometry();
 }
 
 void PanelPane::releaseView()
@@ -54,12 +64,13 @@ void PanelPane::releaseView()
 QSize PanelPane::sizeHint() const
 {
     const QSize view = m_view ? m_view->size() : QSize(0, 0);
-    return view + QSize(0, 2 * kTopMargin);
+    // Beside a bar that scrolls it up and down nothing is to be scrolled to the side.
+    return view + QSize(verticalScrollBar()->sizeHint().width(), 2 * kTopMargin);
 }
 
 QSize PanelPane::minimumSizeHint() const
 {
-    return {sizeHint().width(), std::min(sizeHint().height(), kLeastHeight)};
+    return sizeHint().boundedTo({toPixels(kLeastViewWidth), toPixels(kLeastViewHeight)});
 }
 
 bool PanelPane::eventFilter(QObject *watched, QEvent *event)

@@ -3,8 +3,8 @@
 #include <QtCore/QPointer>
 #include <QtWidgets/QScrollArea>
 
-/// Holds the view of a panel, which the panel owns: the pane never destroys it. A view that is
-/// taller than the pane can be scrolled.
+/// Holds the view of a panel, which the panel owns: the pane never destroys it. It makes the view
+/// as wide as its texts need it. A view that is larger than the pane can be scrolled.
 class PanelPane : public QScrollArea
 {
     Q_OBJECT
@@ -13,7 +13,7 @@ public:
     explicit PanelPane(QWidget *parent = nullptr);
     ~PanelPane() override;
 
-    /// The view comes to lie in the pane. Null: none.
+    /// The view comes to lie in the pane; again when its texts may be others. Null: none.
     void setView(QWidget *view);
     QWidget *view() const { return m_view; }
 
@@ -31,5 +31,7 @@ protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
+    void takeView(QWidget *view);
+
     QPointer<QWidget> m_view;
 };

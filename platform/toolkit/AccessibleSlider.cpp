@@ -1,6 +1,9 @@
 #include "platform/toolkit/AccessibleSlider.h"
 
 #include "platform/toolkit/FractionSlider.h"
+#include "platform/toolkit/ViewLoader.h"
+
+#include <QtWidgets/QLabel>
 
 namespace {
 
@@ -43,6 +46,19 @@ QString AccessibleSlider::text(QAccessible::Text text) const
 {
     return text == QAccessible::Value ? QString::number(slider()->doubleValue())
                                       : QAccessibleWidget::text(text);
+}
+
+/// A label has one control; a slider and its field, which are bound to the same value, share one.
+QList<AccessibleSlider::Relation> AccessibleSlider::relations(QAccessible::Relation match) const
+{
+    QList<Relation> relations = QAccessibleWidget::relations(match);
+    const QString key = boundKeyOf(slider());
+    if (key.isEmpty() || !match.testFlag(QAccessible::Label) || !slider()->parentWidget())
+        return relations;
+    for (auto *label : slider()->parentWidget()->findChildren<QLabel *>())
+        if (label->buddy() && label->buddy() != slider() && boundKeyOf(label->buddy()) == key)
+            relations.append({QAccessible::queryAccessibleInterface(label), QAccessible::Label});
+    return relations;
 }
 
 QVariant AccessibleSlider::currentValue() const

@@ -16,6 +16,9 @@ public:
     void *interface_cast(QAccessible::InterfaceType type) override;
     QString text(QAccessible::Text text) const override;
 
+    using Relation = std::pair<QAccessibleInterface *, QAccessible::Relation>;
+    QList<Relation> relations(QAccessible::Relation match) const override;
+
     QVariant currentValue() const override;
     QVariant minimumValue() const override;
     QVariant maximumValue() const override;

@@ -1,6 +1,7 @@
 #include "platform/toolkit/DisclosureButton.h"
 
 #include <QtCore/QEvent>
+#include <QtWidgets/QStyle>
 #include <QtWidgets/QStyleOptionToolButton>
 #include <QtWidgets/QStylePainter>
 
@@ -17,6 +18,12 @@ void DisclosureButton::turnArrow()
 {
     const auto folded = layoutDirection() == Qt::RightToLeft ? Qt::LeftArrow : Qt::RightArrow;
     setArrowType(isChecked() ? Qt::DownArrow : folded);
+}
+
+QSize DisclosureButton::minimumSizeHint() const
+{
+    const int side = style()->pixelMetric(QStyle::PM_SmallIconSize);
+    return {side, side};
 }
 
 void DisclosureButton::changeEvent(QEvent *event)

@@ -13,6 +13,9 @@ class VELKARO_PLATFORM_EXPORT DisclosureButton : public QToolButton
 public:
     explicit DisclosureButton(QWidget *parent = nullptr);
 
+    /// As large as the arrow.
+    QSize minimumSizeHint() const override;
+
 protected:
     void changeEvent(QEvent *event) override;
     void paintEvent(QPaintEvent *event) override;

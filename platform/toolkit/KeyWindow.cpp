@@ -1,5 +1,7 @@
 #include "platform/toolkit/KeyWindow.h"
 
+#include "platform/toolkit/PanelPoint.h"
+
 #include <QtCore/QPointer>
 #include <QtWidgets/QWidget>
 
@@ -35,5 +37,5 @@ std::optional<double> keyWindowHeight()
         return std::nullopt;
     if (registeredWindow().height)
         return registeredWindow().height;
-    return keyWindow()->frameGeometry().height();
+    return keyWindow()->frameGeometry().height() / pixelsPerPoint();
 }

@@ -15,7 +15,7 @@ VELKARO_PLATFORM_EXPORT QWidget *keyWindow();
 VELKARO_PLATFORM_EXPORT void setKeyWindow(QWidget *window,
                                           std::optional<double> height = std::nullopt);
 
-/// The height of the key window's frame in points; none without a key window.
+/// The height of the key window's frame in points (PanelPoint.h); none without a key window.
 VELKARO_PLATFORM_EXPORT std::optional<double> keyWindowHeight();
 
 /// Posted by the toolkit when a window is about to close; its object is the window (a QWidget).

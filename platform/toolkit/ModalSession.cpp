@@ -1,12 +1,14 @@
 #include "platform/toolkit/ModalSession.h"
 
 #include "platform/toolkit/AlertObserver.h"
+#include "platform/toolkit/ImageView.h"
 #include "platform/toolkit/PlainText.h"
 
 #include <QtCore/QEvent>
 #include <QtCore/QEventLoop>
 #include <QtCore/QTimer>
 #include <QtGui/QKeyEvent>
+#include <QtGui/QScreen>
 #include <QtWidgets/QCheckBox>
 #include <QtWidgets/QLabel>
 #include <QtWidgets/QPushButton>
@@ -53,6 +55,23 @@ private:
     Session &m_session;
 };
 
+/// On a small screen pictures give way, so that the buttons are in reach.
+void fitToScreen(QWidget &window)
+{
+    const QSize most = window.screen()->availableSize();
+    const bool hasSize = window.testAttribute(Qt::WA_Resized);
+    const QSize wanted = window.sizeHint().expandedTo(hasSize ? window.size() : QSize());
+    const QSize lacking = (wanted - most).expandedTo(QSize(0, 0));
+    if (lacking.isNull())
+        return;
+    for (auto *picture : window.findChildren<ImageView *>()) {
+        QSize smaller = picture->maximumSize();
+        smaller.scale((smaller - lacking).expandedTo(QSize(0, 0)), Qt::KeepAspectRatio);
+        picture->setFixedSize(smaller);
+    }
+    window.resize(wanted.boundedTo(most));
+}
+
 ShownAlert describe(QWidget *window)
 {
     ShownAlert alert;
@@ -92,6 +111,7 @@ int runModalForWindow(QWidget *window)
         alert.isUnseen = true;
         AlertObserver::tell(alert);
     } else {
+        fitToScreen(*window);
         window->show();
         QTimer::singleShot(0, &session.loop, [window] { AlertObserver::tell(describe(window)); });
         session.loop.exec();

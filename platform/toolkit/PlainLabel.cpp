@@ -1,5 +1,7 @@
 #include "platform/toolkit/PlainLabel.h"
 
+#include "platform/toolkit/CaptionLabel.h"
+
 #include <QtGui/QTextDocument>
 #include <QtWidgets/QFormLayout>
 #include <QtWidgets/QLabel>
@@ -15,6 +17,8 @@ QLabel *newPlainLabel(const QString &text, QWidget *parent)
 void setLabelText(QLabel *label, const QString &text)
 {
     label->setTextFormat(Qt::PlainText);
+    if (auto *caption = qobject_cast<CaptionLabel *>(label))
+        caption->prepareFor(text);
     label->setText(text);
 }
 

@@ -1,16 +1,22 @@
 #include "platform/toolkit/PopUpButton.h"
 
+#include "platform/toolkit/PlainLabel.h"
 #include "platform/toolkit/PopUpModel.h"
 
+#include <QtGui/QHelpEvent>
 #include <QtGui/QWheelEvent>
 #include <QtWidgets/QStyle>
 #include <QtWidgets/QStyleOptionComboBox>
 
+#include <algorithm>
 #include <utility>
 
 namespace {
 
-constexpr int kContentsLength = 12; // characters: wide enough for an ordinary choice
+constexpr int kContentsLength = 12;     // characters: wide enough for an ordinary choice
+constexpr int kMostLength = 60;         // what is longer is cut
+constexpr std::size_t kMostTitles = 16; // that are measured
+constexpr int kPictureSpacing = 4;      // pixels, as the toolkit has them
 
 } // namespace
 
@@ -21,13 +27,15 @@ PopUpButton::PopUpButton(QWidget *parent) : QComboBox(parent), m_items(new PopUp
 }
 
 // A combo box measures the text of every item, which would be most of the time that a panel with
-// many choices takes to show. With its own policy for a fixed length it creates the drop-down list
-// at once.
+// many choices takes to show: here it is those that look longest. With its own policy for a fixed
+// length it creates the drop-down list at once.
 QSize PopUpButton::sizeHint() const
 {
     const QFontMetrics metrics = fontMetrics();
     const int length = minimumContentsLength() > 0 ? minimumContentsLength() : kContentsLength;
-    const QSize contents(length * metrics.horizontalAdvance(u'X'), metrics.height() + 2);
+    const int letter = metrics.horizontalAdvance(u'X');
+    const int titles = std::min(widthOfTitles(), kMostLength * letter);
+    const QSize contents(std::max(length * letter, titles), metrics.height() + 2);
     QStyleOptionComboBox option;
     initStyleOption(&option);
     return style()->sizeFromContents(QStyle::CT_ComboBox, &option, contents, this);
@@ -38,15 +46,32 @@ QSize PopUpButton::minimumSizeHint() const
     return sizeHint();
 }
 
+int PopUpButton::widthOfTitles() const
+{
+    if (m_widthOfTitles >= 0)
+        return m_widthOfTitles;
+    m_widthOfTitles = 0;
+    for (const QString &title : m_items->longestTitles(kMostTitles))
+        m_widthOfTitles = std::max(m_widthOfTitles, fontMetrics().horizontalAdvance(title));
+    if (m_hasPictures)
+        m_widthOfTitles += iconSize().width() + kPictureSpacing;
+    return m_widthOfTitles;
+}
+
 void PopUpButton::setItems(const std::vector<Item> &items)
 {
     m_items->setItems(items);
     setCurrentIndex(items.empty() ? -1 : 0);
+    const int before = std::exchange(m_widthOfTitles, -1);
+    if (before >= 0 && widthOfTitles() != before)
+        updateGeometry();
 }
 
 void PopUpButton::setPictures(PictureOf pictureOf)
 {
     m_items->setPictures(std::move(pictureOf));
+    m_hasPictures = true;
+    m_widthOfTitles = -1;
 }
 
 void PopUpButton::setDetails(TextOf detailOf)
@@ -102,6 +127,31 @@ void PopUpButton::pick(int index)
 {
     setCurrentIndex(index);
     Q_EMIT activated(index);
+}
+
+bool PopUpButton::isChoiceCut() const
+{
+    QStyleOptionComboBox option;
+    initStyleOption(&option);
+    const QRect room =
+        style()->subControlRect(QStyle::CC_ComboBox, &option, QStyle::SC_ComboBoxEditField, this);
+    const int picture = m_hasPictures ? iconSize().width() + kPictureSpacing : 0;
+    return fontMetrics().horizontalAdvance(currentText()) + picture > room.width();
+}
+
+bool PopUpButton::event(QEvent *event)
+{
+    if (event->type() != QEvent::ToolTip || !isChoiceCut())
+        return QComboBox::event(event);
+    showToolTip(static_cast<QHelpEvent *>(event)->globalPos(), currentText(), this);
+    return true;
+}
+
+void PopUpButton::changeEvent(QEvent *event)
+{
+    if (event->type() == QEvent::FontChange)
+        m_widthOfTitles = -1;
+    QComboBox::changeEvent(event);
 }
 
 void PopUpButton::wheelEvent(QWheelEvent *event)

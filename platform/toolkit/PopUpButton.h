@@ -85,16 +85,23 @@ public:
     /// already. The item must be there.
     void pick(int index);
 
-    /// Wide enough for minimumContentsLength() characters, or an ordinary choice without it,
-    /// whatever the items are.
+    /// Wide enough for every title of ordinary length, and for minimumContentsLength() characters,
+    /// or an ordinary choice without it. A choice that is cut is told in the tool tip.
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
 
 protected:
+    bool event(QEvent *event) override;
+    void changeEvent(QEvent *event) override;
     /// A wheel that passes over the button by chance must not change a setting.
     void wheelEvent(QWheelEvent *event) override;
 
 private:
+    int widthOfTitles() const;
+    bool isChoiceCut() const;
+
     PopUpModel *m_items;
+    bool m_hasPictures = false;
+    mutable int m_widthOfTitles = -1; ///< pixels; -1 until it is measured
     int m_tag = 0;
 };

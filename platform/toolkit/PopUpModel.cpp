@@ -8,6 +8,18 @@
 #include <algorithm>
 #include <utility>
 
+namespace {
+
+constexpr char16_t kFirstWide = 0x1100; // from here on, letters are mostly as wide as two others
+
+qsizetype guessedLength(const QString &title)
+{
+    return title.size() +
+           std::ranges::count_if(title, [](QChar letter) { return letter >= kFirstWide; });
+}
+
+} // namespace
+
 void PopUpModel::setItems(const std::vector<PopUpButton::Item> &items)
 {
     beginResetModel();
@@ -44,6 +56,20 @@ void PopUpModel::refreshDetails()
 bool PopUpModel::hasItems(const std::vector<PopUpButton::Item> &items) const
 {
     return std::ranges::equal(m_rows, items, {}, &Row::item);
+}
+
+QStringList PopUpModel::longestTitles(std::size_t most) const
+{
+    std::vector<std::pair<qsizetype, const Row *>> rows;
+    rows.reserve(m_rows.size());
+    for (const Row &row : m_rows)
+        rows.emplace_back(guessedLength(row.item.title), &row);
+    const auto end = rows.begin() + static_cast<std::ptrdiff_t>(std::min(most, rows.size()));
+    std::ranges::partial_sort(rows, end, std::ranges::greater());
+    QStringList titles;
+    for (auto row = rows.begin(); row != end; ++row)
+        titles += row->second->item.title;
+    return titles;
 }
 
 QString PopUpModel::detailOf(const Row &row) const

@@ -27,6 +27,10 @@ public:
     void refreshDetails();
     bool hasItems(const std::vector<PopUpButton::Item> &items) const;
 
+    /// The titles that take the most room, as far as can be told without measuring them: no more
+    /// than `most`.
+    QStringList longestTitles(std::size_t most) const;
+
     /// The row of the first item with the represented object; -1 without one. No item is found by a
     /// null object.
     int rowOfObject(const QString &object) const;

@@ -5,6 +5,7 @@
 #include "platform/toolkit/FractionSlider.h"
 #include "platform/toolkit/ImageView.h"
 #include "platform/toolkit/NumberField.h"
+#include "platform/toolkit/PanelPoint.h"
 #include "platform/toolkit/PlainLabel.h"
 #include "platform/toolkit/PopUpButton.h"
 #include "platform/toolkit/RadioMatrix.h"
@@ -170,6 +171,7 @@ std::unique_ptr<LoadedView> loadView(const QString &path, const ViewConnections 
             *error = file.isOpen() ? loader->errorString() : file.errorString();
         return nullptr;
     }
+    scaleFrames(*root);
     auto content = std::make_unique<ObservableDictionary>();
     QHash<QString, QWidget *> outlets;
     QList<QWidget *> widgets = root->findChildren<QWidget *>();

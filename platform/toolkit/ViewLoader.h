@@ -50,6 +50,8 @@ private:
 ///   - the dynamic properties `bind.*` bind controls to the view's dictionary (ViewBindings.h);
 ///   - the dynamic property `tag` is the control's tag (tagOf()).
 ///
+/// Heights in it are points (PanelPoint.h).
+///
 /// Null when the file cannot be read or is no view; `error`, which may be null, then says why.
 VELKARO_PLATFORM_EXPORT std::unique_ptr<LoadedView>
 loadView(const QString &path, const ViewConnections &owner, QString *error = nullptr);

@@ -57,4 +57,16 @@ TEST(AssistiveTechnology, FindsTheDialogOverTheBus)
     EXPECT_EQ(program.exitCode(), 1) << "cancelled by a signal";
 }
 
+TEST(AssistiveTechnology, IsAlertedByEachNotice)
+{
+    const AccessibilityBus bus;
+    ASSERT_EQ(bus.fault(), QString());
+    QProcess program;
+    program.setProcessEnvironment(bus.environment());
+    program.start(QStringLiteral(NOTICES), QStringList());
+    EXPECT_TRUE(program.waitForFinished(kTimeout));
+    EXPECT_EQ(program.exitCode(), 0) << "nobody listens to it";
+    EXPECT_EQ(program.readAllStandardOutput(), "The job waits.\nThe printer is away.\n");
+}
+
 } // namespace

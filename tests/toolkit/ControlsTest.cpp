@@ -2,6 +2,8 @@
 #include "platform/toolkit/ControlColor.h"
 #include "platform/toolkit/DisclosureButton.h"
 #include "platform/toolkit/KeyWindow.h"
+#include "platform/toolkit/PlainLabel.h"
+#include "platform/toolkit/RadioMatrix.h"
 #include "platform/toolkit/SizeWatch.h"
 
 #include "tests/support/CaseName.h"
@@ -12,7 +14,10 @@
 #include <QtGui/QPalette>
 #include <QtTest/QSignalSpy>
 #include <QtTest/QTest>
+#include <QtWidgets/QApplication>
 #include <QtWidgets/QLabel>
+#include <QtWidgets/QPushButton>
+#include <QtWidgets/QRadioButton>
 
 #include <memory>
 
@@ -118,14 +123,85 @@ TEST_P(Elided, ShowsWhatFits)
 
 INSTANTIATE_TEST_SUITE_P(Cases, Elided, testing::ValuesIn(kElideCases), CaseName());
 
-TEST(CaptionLabelTest, AsksForTheWidthOfItsTextUntilTheControlNeedsTheRoom)
+TEST(CaptionLabelTest, AsksForTheWidthOfATextOfOrdinaryLength)
 {
     CaptionLabel label;
     label.setText(u"Tray:"_s);
     EXPECT_EQ(label.sizeHint().width(), label.fontMetrics().horizontalAdvance(u"Tray:"_s));
     label.setText(QString(500, u'n'));
-    EXPECT_EQ(label.sizeHint().width(), 130);
+    EXPECT_EQ(label.sizeHint().width(), 40 * label.fontMetrics().averageCharWidth());
     EXPECT_EQ(label.minimumSizeHint(), label.sizeHint());
+}
+
+TEST(CaptionLabelTest, GivesItsControlTheFocusByItsMnemonic)
+{
+    QWidget window;
+    auto *caption = new CaptionLabel(&window);
+    auto *other = new QPushButton(&window);
+    auto *control = new QPushButton(&window);
+    caption->setBuddy(control);
+    setLabelText(caption, u"Media Type: "_s);
+    caption->setMnemonic(u"Media &Type: "_s);
+    EXPECT_EQ(caption->text(), u"Media Type: "_s);
+    EXPECT_EQ(caption->sizeHint().width(),
+              caption->fontMetrics().horizontalAdvance(u"Media Type: "_s));
+    window.show();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
+    other->setFocus();
+    QTest::keyClick(&window, Qt::Key_T, Qt::AltModifier);
+    EXPECT_TRUE(control->hasFocus());
+    other->setFocus();
+    setLabelText(caption, u"Paper: "_s);
+    QTest::keyClick(&window, Qt::Key_T, Qt::AltModifier);
+    EXPECT_TRUE(other->hasFocus()) << "another text has no mnemonic yet";
+}
+
+TEST(CaptionLabelTest, HasRoomForALetterBehindItsText)
+{
+    CaptionLabel caption;
+    setLabelText(&caption, u"用紙種類: "_s);
+    const int before = caption.sizeHint().width();
+    caption.setMnemonic(u"用紙種類(&M): "_s);
+    EXPECT_EQ(caption.sizeHint().width(),
+              before + caption.fontMetrics().horizontalAdvance(u"(M)"_s));
+    EXPECT_EQ(caption.text(), u"用紙種類: "_s);
+}
+
+TEST(CaptionLabelTest, GivesTheSelectedCellOfAGroupTheFocus)
+{
+    QWidget window;
+    auto *caption = new CaptionLabel(&window);
+    auto *other = new QPushButton(&window);
+    auto *matrix = new RadioMatrix(&window);
+    matrix->setNumberOfRows(3);
+    for (int row = 0; row < 3; ++row)
+        matrix->setCell(row, QString::number(row), QString::number(row));
+    matrix->selectObject(u"1"_s);
+    caption->setBuddy(matrix);
+    setLabelText(caption, u"Matching: "_s);
+    caption->setMnemonic(u"&Matching: "_s);
+    window.show();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
+    other->setFocus();
+    QTest::keyClick(&window, Qt::Key_M, Qt::AltModifier);
+    EXPECT_EQ(QApplication::focusWidget(), matrix->findChildren<QRadioButton *>()[1]);
+}
+
+TEST(CaptionLabelTest, TakesAnAmpersandForWhatItIs)
+{
+    QWidget window;
+    auto *caption = new CaptionLabel(&window);
+    auto *other = new QPushButton(&window);
+    auto *control = new QPushButton(&window);
+    caption->setBuddy(control);
+    setLabelText(caption, u"Fast &Fine: "_s);
+    EXPECT_EQ(caption->text(), u"Fast &Fine: "_s);
+    EXPECT_EQ(caption->shownText(), u"Fast &Fine: "_s);
+    window.show();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
+    other->setFocus();
+    QTest::keyClick(&window, Qt::Key_F, Qt::AltModifier);
+    EXPECT_TRUE(other->hasFocus());
 }
 
 TEST(CaptionLabelTest, PaintsWithTheTextColourItIsGiven)

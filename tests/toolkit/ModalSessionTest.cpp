@@ -1,5 +1,6 @@
 #include "platform/toolkit/ModalSession.h"
 
+#include "platform/toolkit/ImageView.h"
 #include "tests/support/AlertAnswers.h"
 #include "tests/support/CaseName.h"
 #include "tests/support/QStringPrinting.h"
@@ -7,6 +8,7 @@
 #include <gtest/gtest.h>
 
 #include <QtCore/QTimer>
+#include <QtGui/QScreen>
 #include <QtTest/QTest>
 #include <QtWidgets/QApplication>
 #include <QtWidgets/QCheckBox>
@@ -164,6 +166,29 @@ TEST(ModalSessionTest, HasNothingToStopWhenNoneRuns)
     AlertWindow window;
     const AlertAnswers answers({AlertAnswers::button(1)});
     EXPECT_EQ(runModalForWindow(&window), kModalCancel);
+}
+
+TEST(ModalSessionTest, LetsPicturesGiveWayOnAScreenThatIsTooSmall)
+{
+    AlertWindow window;
+    const QSize screen = window.screen()->availableSize();
+    auto *picture = new ImageView(&window);
+    picture->setFixedSize(278, 243);
+    auto *column = static_cast<QVBoxLayout *>(window.layout());
+    column->insertWidget(0, picture);
+    auto *text = new QWidget(&window);
+    text->setFixedSize(200, screen.height() - 243);
+    column->insertWidget(1, text);
+    ASSERT_GT(window.sizeHint().height(), screen.height());
+    const AlertAnswers answers({[&](const ShownAlert &alert) {
+        EXPECT_LE(window.height(), screen.height());
+        const QRect button(alert.buttons[1]->mapTo(&window, QPoint()), alert.buttons[1]->size());
+        EXPECT_TRUE(window.rect().contains(button));
+        EXPECT_LT(picture->height(), 243);
+        EXPECT_NEAR(double(picture->width()) / picture->height(), 278.0 / 243, 0.05);
+        alert.press(0);
+    }});
+    EXPECT_EQ(runModalForWindow(&window), kModalOK);
 }
 
 } // namespace

@@ -1,13 +1,16 @@
 #include "platform/toolkit/PopUpButton.h"
 
+#include "platform/toolkit/PlainLabel.h"
 #include "tests/support/CaseName.h"
 #include "tests/support/QStringPrinting.h"
 
 #include <gtest/gtest.h>
 
+#include <QtGui/QHelpEvent>
 #include <QtTest/QSignalSpy>
 #include <QtTest/QTest>
 #include <QtWidgets/QAbstractItemView>
+#include <QtWidgets/QToolTip>
 #include <QtWidgets/QVBoxLayout>
 
 using namespace Qt::StringLiterals;
@@ -30,6 +33,17 @@ protected:
         popup.activateWindow();
         popup.setFocus();
         ASSERT_TRUE(QTest::qWaitForWindowActive(&popup));
+    }
+
+    /// What the button tells under the pointer; null for nothing.
+    static QString toolTipOf(QWidget &widget)
+    {
+        const QPoint at = widget.mapToGlobal(QPoint(2, 2));
+        const QString none = u"none"_s;
+        QToolTip::showText(at, none); // one that is there goes late
+        QHelpEvent event(QEvent::ToolTip, QPoint(2, 2), at);
+        QApplication::sendEvent(&widget, &event);
+        return QToolTip::text() == none ? QString() : QToolTip::text();
     }
 
     PopUpButton popup;
@@ -176,15 +190,40 @@ TEST_F(PopUpButtonTest, TakesTheWheelOnlyWhileItHasTheFocus)
     EXPECT_EQ(popup.selectedObject(), u"Mono"_s);
 }
 
-TEST_F(PopUpButtonTest, IsAsWideForManyLongChoicesAsForFew)
+TEST_F(PopUpButtonTest, IsAsWideAsItsWidestChoice)
 {
-    const QSize before = popup.sizeHint();
-    std::vector<PopUpButton::Item> items;
-    items.reserve(500);
+    const QString widest = u"A medium that takes more room than others"_s;
+    popup.setItems({{u"Plain"_s, u"Plain"_s}});
+    const int narrow = popup.sizeHint().width();
+    std::vector<PopUpButton::Item> items{{widest, u"Wide"_s}};
     for (int number = 0; number < 500; ++number)
-        items.push_back({QString(200, u'W'), QString::number(number)});
+        items.push_back({QString::number(number), QString::number(number)});
     popup.setItems(items);
-    EXPECT_EQ(popup.sizeHint().width(), before.width());
+    EXPECT_GT(popup.sizeHint().width(), narrow);
+    popup.resize(popup.sizeHint());
+    EXPECT_EQ(toolTipOf(popup), QString());
+    popup.resize(popup.width() - 30, popup.height());
+    EXPECT_EQ(toolTipOf(popup), toolTipMarkup(widest));
+    popup.selectObject(u"7"_s);
+    EXPECT_EQ(toolTipOf(popup), QString());
+}
+
+TEST_F(PopUpButtonTest, CutsAChoiceOfNoOrdinaryLength)
+{
+    popup.setItems({{QString(2000, u'W'), u"Long"_s}});
+    const int letter = popup.fontMetrics().horizontalAdvance(u'X');
+    EXPECT_GE(popup.sizeHint().width(), 60 * letter);
+    EXPECT_LE(popup.sizeHint().width(), 66 * letter);
+}
+
+TEST_F(PopUpButtonTest, HasRoomForItsChoicesInALargerFont)
+{
+    popup.setItems({{u"A medium that takes more room than others"_s, u"Wide"_s}});
+    const int before = popup.sizeHint().width();
+    QFont font = popup.font();
+    font.setPixelSize(36);
+    popup.setFont(font);
+    EXPECT_GT(popup.sizeHint().width(), 2 * before);
 }
 
 } // namespace

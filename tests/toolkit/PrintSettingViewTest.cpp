@@ -1,4 +1,5 @@
 #include "platform/toolkit/DisclosureButton.h"
+#include "platform/toolkit/PlainLabel.h"
 #include "platform/toolkit/PopUpButton.h"
 #include "platform/toolkit/ViewLoader.h"
 #include "tests/built/BuiltFiles.h"
@@ -85,9 +86,14 @@ TEST_F(PrintSettingViewTest, HidesWhatBelongsToAKeywordUntilThePrinterHasIt)
 TEST_F(PrintSettingViewTest, ShowsTextsOfThePrinterAsTheyAre)
 {
     for (const char *name : kLabels) {
-        EXPECT_EQ(find<QLabel>(name)->textFormat(), Qt::PlainText) << name;
+        auto *label = find<QLabel>(name);
+        EXPECT_EQ(label->textFormat(), Qt::PlainText) << name;
+        const QString control = QLatin1String(name).chopped(5) + u"Popup"_s;
+        EXPECT_EQ(label->buddy(), find<QWidget>(control.toLatin1().constData())) << name;
         // A buddy makes a mnemonic of an ampersand.
-        EXPECT_EQ(find<QLabel>(name)->buddy(), nullptr) << name;
+        setLabelText(label, u"Fast & Fine: "_s);
+        EXPECT_EQ(label->text(), u"Fast & Fine: "_s) << name;
+        EXPECT_EQ(label->buddy(), nullptr) << name;
     }
     EXPECT_EQ(find<QLabel>("optionLabel")->textFormat(), Qt::PlainText);
 }

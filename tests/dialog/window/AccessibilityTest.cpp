@@ -76,6 +76,7 @@ struct Shown
     const char *behaviour;
     QString part;
     bool folded;
+    int labelled; ///< controls that have a label beside them
 };
 
 class AccessiblePart : public Accessibility, public testing::WithParamInterface<Shown>
@@ -111,13 +112,72 @@ TEST_P(AccessiblePart, CallsNoTwoButtonsTheSame)
         EXPECT_EQ(names.count(name), 1u) << name.toStdString();
 }
 
+/// The label that a person reads beside the control; null for none.
+QLabel *labelBeside(const QWidget &control)
+{
+    if (!control.parentWidget())
+        return nullptr;
+    for (auto *label : control.parentWidget()->findChildren<QLabel *>(Qt::FindDirectChildrenOnly)) {
+        const bool isInLine = std::abs(label->geometry().center().y() -
+                                       control.geometry().center().y()) < label->height();
+        const int gap = control.x() - label->geometry().right();
+        if (label->isVisible() && !label->text().isEmpty() && isInLine && gap > 0 && gap < 20)
+            return label;
+    }
+    return nullptr;
+}
+
+TEST_P(AccessiblePart, RelatesEveryLabelToTheControlBesideIt)
+{
+    open();
+    show(GetParam().part, GetParam().folded);
+    int labelled = 0;
+    walk(*QAccessible::queryAccessibleInterface(m_window->shownPart()), [&](auto &one) {
+        const auto *control = isControl(one) ? qobject_cast<QWidget *>(one.object()) : nullptr;
+        const QLabel *label = control ? labelBeside(*control) : nullptr;
+        if (!label || control->objectName() == u"optionButton"_s)
+            return; // the disclosure and the box in its section would have one name
+        ++labelled;
+        const auto related = one.relations(QAccessible::Label);
+        ASSERT_FALSE(related.isEmpty()) << control->objectName().toStdString() << " has the label "
+                                        << label->text().toStdString();
+        EXPECT_EQ(related[0].first->object(), label) << control->objectName().toStdString();
+        const auto back = related[0].first->relations(QAccessible::Labelled);
+        ASSERT_FALSE(back.isEmpty()) << label->text().toStdString();
+    });
+    EXPECT_EQ(labelled, GetParam().labelled);
+}
+
+/// What can be told of the values of controls is told.
+TEST_P(AccessiblePart, TellsTheValuesOfControls)
+{
+    open();
+    show(GetParam().part, GetParam().folded);
+    walk(root(), [&](QAccessibleInterface &one) {
+        const auto *control = isControl(one) ? qobject_cast<QWidget *>(one.object()) : nullptr;
+        if (!control)
+            return;
+        const std::string name = control->objectName().toStdString();
+        if (one.role() == QAccessible::Slider || one.role() == QAccessible::SpinBox) {
+            EXPECT_NE(one.valueInterface(), nullptr) << name;
+        }
+        if (one.role() == QAccessible::CheckBox || one.role() == QAccessible::RadioButton) {
+            EXPECT_TRUE(one.state().checkable) << name;
+        }
+        if (const auto *popup = qobject_cast<const PopUpButton *>(control)) {
+            EXPECT_EQ(one.text(QAccessible::Value), popup->currentText()) << name;
+        }
+    });
+}
+
 const Shown kShown[] = {
-    {"PageSetup", u"setup"_s, true},
-    {"PrintSettings", u"print"_s, true},
-    {"PrintSettingsUnfolded", u"print"_s, false},
-    {"ColorSettings", u"color"_s, true},
-    {"ColorSettingsUnfolded", u"color"_s, false},
-    {"Summary", u"summary"_s, true},
+    {"PageSetup", u"setup"_s, true, 4},
+    {"PrintSettings", u"print"_s, true, 5},
+    {"PrintSettingsUnfolded", u"print"_s, false, 5},
+    {"ColorSettings", u"color"_s, true, 1},
+    {"ColorSettingsUnfolded", u"color"_s, false, 6},
+    {"LayoutAndJob", u"layout"_s, true, 8},
+    {"Summary", u"summary"_s, true, 0},
 };
 
 INSTANTIATE_TEST_SUITE_P(Parts, AccessiblePart, testing::ValuesIn(kShown),

@@ -124,8 +124,8 @@ TEST_P(ForeignText, IsPlainInEveryTab)
     ASSERT_EQ(m_window->state(), DialogWindow::State::Ready) << notice().toStdString();
     lookAtAllTabs();
     for (const char *place :
-         {"QLabel documentsLabel", "SearchablePopUp printerPopup", "SearchablePopUp paperPopup",
-          "PopUpButton DuplexPopup", "PopUpButton VKOutputPopup",
+         {"CaptionLabel documentsLabel", "SearchablePopUp printerPopup",
+          "SearchablePopUp paperPopup", "PopUpButton DuplexPopup", "PopUpButton VKOutputPopup",
           "QLabel ", // of a row of Page Setup or of the summary
           "CaptionLabel mediaTypeLabel", "PopUpButton mediaTypePopup",
           "QListWidget advancedTableView", "tip of CaptionLabel mediaTypeLabel",

@@ -1,11 +1,14 @@
 #include "dialog/window/Mnemonics.h"
 
 #include "platform/foundation/PreferredLanguages.h"
+#include "platform/toolkit/CaptionLabel.h"
 #include "tests/dialog/window/DialogWindowFixture.h"
 #include "tests/support/CaseName.h"
 
 #include <QtCore/QTranslator>
+#include <QtWidgets/QApplication>
 #include <QtWidgets/QTabBar>
+#include <QtWidgets/QToolButton>
 
 using namespace Qt::StringLiterals;
 
@@ -35,6 +38,7 @@ const Title kTitles[] = {
     {"NoLetterOfAnAccent", u"Éa"_s, {}, u"É&a"_s},
     {"NoneFree", u"Ab"_s, u"BA"_s, u"Ab"_s},
     {"BehindATitleWithoutLetters", u"印刷設定"_s, u"AC"_s, u"印刷設定(&B)"_s},
+    {"BeforeTheColonOfACaption", u"用紙種類: "_s, {}, u"用紙種類(&A): "_s},
 };
 
 INSTANTIATE_TEST_SUITE_P(Table, MnemonicOf, testing::ValuesIn(kTitles), CaseName());
@@ -81,6 +85,32 @@ TEST_P(MnemonicsOfTheDialog, AreEachForOneThing)
     }
     const QString print = part<QAbstractButton>("printButton")->text();
     EXPECT_FALSE(QKeySequence::mnemonic(print).isEmpty()) << print.toStdString();
+}
+
+TEST_P(MnemonicsOfTheDialog, LeadToTheControlsOfPanels)
+{
+    open();
+    int captions = 0;
+    for (const QString &name : {u"print"_s, u"color"_s}) {
+        ASSERT_TRUE(m_window->showPart(name));
+        for (auto *fold : m_window->shownPart()->findChildren<QToolButton *>(u"optionButton"_s))
+            fold->click();
+        for (const auto *caption : m_window->shownPart()->findChildren<CaptionLabel *>()) {
+            const QKeySequence keys = QKeySequence::mnemonic(caption->mnemonicText());
+            if (!caption->isVisible() || !caption->buddy()->isEnabled())
+                continue;
+            ++captions;
+            ASSERT_FALSE(keys.isEmpty()) << caption->text().toStdString();
+            EXPECT_FALSE(caption->text().contains(u'&')) << "it stays as the panel has set it";
+            part<QWidget>("chooseButton")->setFocus();
+            QTest::keyClick(m_window.get(), keys[0].key(), Qt::AltModifier);
+            const QWidget *control = caption->buddy();
+            const QWidget *focused = QApplication::focusWidget();
+            EXPECT_TRUE(focused == control || control->isAncestorOf(focused))
+                << caption->mnemonicText().toStdString();
+        }
+    }
+    EXPECT_GE(captions, 7);
 }
 
 TEST_P(MnemonicsOfTheDialog, StandInTabsThatAreAllInSight)
