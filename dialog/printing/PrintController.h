@@ -8,6 +8,7 @@
 #include "dialog/printing/PrintJob.h"
 #include "dialog/printing/PrintWishes.h"
 #include "dialog/printing/PrinterChoice.h"
+#include "dialog/printing/StandardSettings.h"
 #include "dialog/work/Result.h"
 
 #include <QtCore/QObject>
@@ -106,6 +107,9 @@ public:
     /// Asks for the cover pages that the job's queue offers.
     void listCoverPages(Then<QStringList> then);
 
+    /// The wished settings by the names of the printer.
+    NamedWishes namedWishes() const;
+
     /// Makes the wished settings (makeSettings()).
     Result<>
     makeRequestedSettings(const std::function<void(const RequestedChoice &)> &madeOne = {});
@@ -137,7 +141,6 @@ public:
     void closePrinter() { m_job.closePrinter(); }
 
 private:
-    NamedWishes namedWishes() const;
     template <typename Value>
     void begin(QPointer<BackgroundCall> &call, std::chrono::milliseconds timeout,
                std::function<Value(CallGuard &)> work, std::function<void(Value)> take,

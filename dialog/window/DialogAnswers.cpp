@@ -29,6 +29,8 @@ void DialogWindow::didAnswer(const HostCallback::Call &call)
         QTimer::singleShot(0, this, &DialogWindow::followView);
         return;
     }
+    if (!call.accepted && m_refusalToTell.isNull() && m_pick.keyword.isNull())
+        m_refused = {call.keyword, call.choice};
     if (!call.accepted && m_refusalToTell.isNull())
         m_refusalToTell = refusalSentence(job().ppd(), call.keyword, call.choice);
     if (m_pick.keyword.isNull())
@@ -72,6 +74,14 @@ void DialogWindow::noteOwnEvent()
     noteEvent();
 }
 
+/// The dialog itself has refused the user's choice.
+void DialogWindow::tellRefusal(const QString &sentence, const PPDMark &choice)
+{
+    tellEvent(); // what was before
+    tell(NoticeBar::Kind::Warning, sentence);
+    offerRemedies(choice, sentence);
+}
+
 void DialogWindow::tellEvent()
 {
     if (!m_eventIsNoted)
@@ -83,14 +93,16 @@ void DialogWindow::tellEvent()
     }
     m_eventIsNoted = false;
     const QString refusal = std::exchange(m_refusalToTell, QString());
-    const bool isNobodys = m_pick.keyword.isEmpty() && !m_pick.keyword.isNull();
+    const PPDMark refused = std::exchange(m_refused, PPDMark());
+    const QString picked = m_pick.keyword;
+    const bool isNobodys = picked.isEmpty() && !picked.isNull();
     const QString changes = changeSentence(job().ppd(), takeChanges());
     if (m_state != State::Ready)
         return;
     if (isNobodys)
         m_undo->noteOwn();
     else
-        m_undo->noteUser();
+        m_undo->noteUser(picked);
     tellStanding();
     const Notice doubts = doubtsToTell();
     if (refusal.isNull() && changes.isNull())
@@ -101,6 +113,8 @@ void DialogWindow::tellEvent()
     if (!isNobodys && !changes.isNull() && m_undo->canUndo())
         offers += undoOffer();
     tell(refusal.isNull() ? doubts.kind : NoticeBar::Kind::Warning, joinedSentences(news), offers);
+    if (!refused.keyword.isNull())
+        offerRemedies(refused, joinedSentences(news));
 }
 
 /// What is not as it is shown, or goes with nothing else, and what the plug-in advises.

@@ -7,6 +7,8 @@
 #include "dialog/window/Mnemonics.h"
 #include "dialog/window/PageSetupPane.h"
 #include "dialog/window/ScrolledBody.h"
+#include "dialog/window/SessionUndo.h"
+#include "dialog/window/SummaryPart.h"
 
 #include <QtGui/QScreen>
 #include <QtWidgets/QLayout>
@@ -128,7 +130,10 @@ QList<SummarySection> DialogWindow::summarySections()
     for (const DialogTabs::Part &part : m_tabs->parts())
         if (part.panel)
             panels.push_back(part.panel);
-    return summaryOf(job(), panels);
+    QList<SummarySection> sections = summaryOf(job(), panels);
+    m_undo->noteOwn(); // the panels may have changed what is sent
+    addOrigins(sections, job(), m_undo->origins());
+    return sections;
 }
 
 /// Once for a printer, when the cover pages can be seen.

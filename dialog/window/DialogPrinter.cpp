@@ -100,12 +100,13 @@ void DialogWindow::takePrinter(const Result<FoundPrinter> &found)
     setState(found ? State::Ready : State::NoPrinter);
     showPresets();
     tellStanding();
+    const bool isFirst = !m_requestedSettingsAreMade;
     if (found)
         makeRequestedSettings();
     confirmPreset();
     static_cast<void>(takeChanges()); // nothing of this has the user done in the window
     if (m_state == State::Ready && !m_savedJob)
-        m_undo->begin();
+        m_undo->begin(isFirst ? m_controller.namedWishes().wanted : QList<RequestedChoice>());
     else if (m_state == State::NoPrinter || m_savedJob)
         m_undo->clear();
     watchPrinters();

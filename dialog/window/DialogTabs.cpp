@@ -7,7 +7,7 @@
 #include "dialog/window/Mnemonics.h"
 #include "dialog/window/PageSetupPane.h"
 #include "dialog/window/PanelPane.h"
-#include "dialog/window/SummaryPane.h"
+#include "dialog/window/SummaryPart.h"
 #include "platform/toolkit/AccessibleName.h"
 #include "platform/toolkit/PlainText.h"
 
@@ -39,7 +39,7 @@ DialogTabs::DialogTabs(PrintJob &job, QWidget *parent)
       m_pageSetup(new PageSetupPane(job, this)),
       m_features(new FeaturesPane(job, this)),
       m_layout(new LayoutPane(job, this)),
-      m_summary(new SummaryPane(this))
+      m_summary(new SummaryPart(this))
 {
     setObjectName(u"parts"_s);
     for (QWidget *pane : {static_cast<QWidget *>(m_pageSetup), static_cast<QWidget *>(m_features),
@@ -68,7 +68,7 @@ void DialogTabs::build(bool isSavedJob)
         addPart(kLayout, m_layout, tr("Layout & Job"));
     }
     addPart(kSummary, m_summary, tr("Summary"));
-    giveAccessibleName(m_summary, tr("Summary"));
+    giveAccessibleName(m_summary->pane(), tr("Summary"));
     setCurrentIndex(m_parts.size() > 1 && m_parts[1].panel ? 1 : 0);
 }
 
@@ -81,6 +81,7 @@ void DialogTabs::addPanels()
             continue;
         auto *pane = new PanelPane(this);
         connect(pane, &PanelPane::viewResized, this, &DialogTabs::viewResized);
+        connect(pane, &PanelPane::explanationWanted, this, &DialogTabs::explanationWanted);
         addPart(panel.name, pane, panel.panel->panelName(), &panel);
     }
 }

@@ -10,7 +10,7 @@ class LayoutPane;
 class PageSetupPane;
 class PanelPane;
 class PrintJob;
-class SummaryPane;
+class SummaryPart;
 
 /// The tabs of the dialog: its own panes, which live as long as it does and are tabs where there is
 /// something to show, and a pane for each panel of the job's printer.
@@ -33,7 +33,7 @@ public:
     PageSetupPane *pageSetup() const { return m_pageSetup; }
     FeaturesPane *features() const { return m_features; }
     LayoutPane *layoutPane() const { return m_layout; }
-    SummaryPane *summary() const { return m_summary; }
+    SummaryPart *summary() const { return m_summary; }
 
     /// The tabs for the printer that is open now, the first panel in front; for a job that was
     /// saved the summary alone. Says nothing of it, and shows no panel yet.
@@ -72,6 +72,9 @@ Q_SIGNALS:
     /// The view of a panel has come to another size by itself.
     void viewResized();
 
+    /// PanelPane::explanationWanted() of a panel's pane.
+    void explanationWanted(const QWidget *part, const QPoint &place);
+
 private:
     void addPart(const QString &name, QWidget *page, const QString &title,
                  const HostPanel *panel = nullptr);
@@ -82,7 +85,7 @@ private:
     PageSetupPane *m_pageSetup;
     FeaturesPane *m_features;
     LayoutPane *m_layout;
-    SummaryPane *m_summary;
+    SummaryPart *m_summary;
     std::vector<Part> m_parts;
     const HostPanel *m_shownPanel = nullptr;
     bool m_viewIsMissing = false; // of m_shownPanel

@@ -9,6 +9,7 @@
 #include "dialog/window/Mnemonics.h"
 #include "dialog/window/PageSetupPane.h"
 #include "dialog/window/SessionUndo.h"
+#include "dialog/window/SummaryPart.h"
 #include "dialog/work/Sentences.h"
 
 #include <QtGui/QShortcut>
@@ -37,7 +38,7 @@ void DialogWindow::noteSettled()
     const auto *field = qobject_cast<const QLineEdit *>(focusWidget());
     const auto *number = qobject_cast<const QAbstractSpinBox *>(focusWidget());
     m_undo->setField(field || number ? focusWidget()->objectName() : QString());
-    m_undo->noteUser();
+    m_undo->noteUser(m_eventIsNoted ? m_pick.keyword : QString());
 }
 
 NoticeOffer DialogWindow::undoOffer()
@@ -117,6 +118,7 @@ void DialogWindow::forgetEvent()
 {
     m_eventIsNoted = false;
     m_refusalToTell = QString();
+    m_refused = PPDMark();
     m_pick = PPDMark();
     m_toldState = ::settingState(job());
 }

@@ -1,5 +1,6 @@
 #include "dialog/window/DialogWindow.h"
 
+#include "dialog/advice/Adviser.h"
 #include "dialog/job/PipeDocuments.h"
 #include "dialog/window/ButtonRow.h"
 #include "dialog/window/DialogTabs.h"
@@ -48,6 +49,7 @@ DialogWindow::DialogWindow(const DialogWishes &wishes, QWidget *parent)
       m_wishes(wishes),
       m_controller(wishes),
       m_undo(std::make_unique<SessionUndo>(m_controller)),
+      m_adviser(std::make_unique<Adviser>()),
       m_documentState(m_controller.openDocuments(wishes.files)),
       m_outcome(Fault{FaultKind::Cancelled, {}}),
       m_watch(m_controller, *this)
@@ -95,17 +97,12 @@ void DialogWindow::buildLayout()
     connect(m_header, &JobHeader::changed, this, &DialogWindow::tellStanding);
     connect(m_tabs->pageSetup(), &PageSetupPane::changed, this, &DialogWindow::tellStanding);
     connect(m_tabs->layoutPane(), &LayoutPane::changed, this, &DialogWindow::tellStanding);
-    connect(m_tabs->pageSetup(), &PageSetupPane::refused, this, [this](const QString &sentence) {
-        tellEvent(); // what was before
-        tell(NoticeBar::Kind::Warning, sentence);
-    });
+    connect(m_tabs->pageSetup(), &PageSetupPane::refused, this, &DialogWindow::tellRefusal);
     connect(m_tabs->features(), &FeaturesPane::changed, this, &DialogWindow::tellStanding);
-    connect(m_tabs->features(), &FeaturesPane::refused, this, [this](const QString &sentence) {
-        tellEvent(); // what was before
-        tell(NoticeBar::Kind::Warning, sentence);
-    });
+    connect(m_tabs->features(), &FeaturesPane::refused, this, &DialogWindow::tellRefusal);
     connectPresets();
     connectUndo();
+    connectAdvice();
     connect(m_header->printers(), &PrinterPopUp::picked, this, [this](const QueueName &queue) {
         // One that could not be reached may be tried again.
         if (m_state == State::Ready && queue == job().source().queue)

@@ -16,12 +16,14 @@
 #include <memory>
 #include <optional>
 
+class Adviser;
 class DialogTabs;
 class JobHeader;
 class ProgressStrip;
 class ScrolledBody;
 class QPushButton;
 class SessionUndo;
+struct Remedy;
 
 /// The print dialog: printer, page setup, the plug-in's panels, the summary, and Print.
 ///
@@ -124,6 +126,7 @@ private:
     void noteEvent();
     void noteOwnEvent();
     void tellEvent();
+    void tellRefusal(const QString &sentence, const PPDMark &choice);
     Notice doubtsToTell();
     Notice standingNotice();
     void choose(const RequestedChoice &choice);
@@ -194,6 +197,13 @@ private:
     void showSettled();
     void forgetEvent();
 
+    // DialogAdvice.cpp
+    void connectAdvice();
+    void offerQuestions(const QWidget *part, const QPoint &place);
+    void explain(const PPDMark &wanted);
+    void offerRemedies(const PPDMark &refused, const QString &sentence);
+    void take(const Remedy &remedy, const PPDMark &wanted);
+
     // DialogPrint.cpp
     std::optional<JobRequest> finishedJob();
     bool isAgreed(const QStringList &doubts);
@@ -209,6 +219,7 @@ private:
     const DialogWishes m_wishes;
     PrintController m_controller;
     const std::unique_ptr<SessionUndo> m_undo;
+    const std::unique_ptr<Adviser> m_adviser;
     Result<> m_documentState;
     std::optional<JobRequest> m_savedJob; ///< the only document, where that is a saved job
     Result<> m_printerState;
@@ -219,10 +230,11 @@ private:
     QList<Fault> m_shortcomings;           ///< of the printer
     QStringList m_startNotes;              ///< on the settings that it starts from
     Notice m_standing;                     ///< shown while there is nothing newer to tell
-    QString m_refusalToTell;               ///< of the pick that is going on
-    bool m_coversAreListed = false;        ///< of the printer
-    PPDMark m_pick;           ///< of the user, in the event that is going on; null: none yet
-    SettingState m_toldState; ///< to tell what an event has changed
+    PPDMark m_refused;              ///< of the pick that is going on; a null keyword: nothing
+    QString m_refusalToTell;        ///< of the pick that is going on
+    bool m_coversAreListed = false; ///< of the printer
+    PPDMark m_pick;                 ///< of the user, in the event that is going on; null: none yet
+    SettingState m_toldState;       ///< to tell what an event has changed
     bool m_eventIsNoted = false;
     int m_eventLevel = 0; ///< of the event loop in which it was noted
     bool m_requestedSettingsAreMade = false;

@@ -118,7 +118,7 @@ void FeaturesPane::choose(const PrinterFeature &feature, const QString &value)
     if (chosen)
         Q_EMIT changed();
     else
-        Q_EMIT refused(chosen.sentence());
+        Q_EMIT refused(chosen.sentence(), {feature.keyword, value});
 }
 
 bool FeaturesPane::isAcceptable() const

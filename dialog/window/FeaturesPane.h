@@ -1,5 +1,6 @@
 #pragma once
 
+#include "dialog/host/PPDMarks.h"
 #include "dialog/job/PrinterFeatures.h"
 
 #include <QtWidgets/QScrollArea>
@@ -35,8 +36,8 @@ Q_SIGNALS:
     /// The user has changed something, and the job has it where it can be used.
     void changed();
 
-    /// What the user chose cannot be; one sentence. The job is as it was.
-    void refused(const QString &sentence);
+    /// What the user chose cannot be; one sentence, and the choice. The job is as it was.
+    void refused(const QString &sentence, const PPDMark &choice);
 
 private:
     void addGroup(QVBoxLayout *page, const FeatureGroup &group);

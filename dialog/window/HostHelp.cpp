@@ -41,7 +41,7 @@ QWidget *newText()
     for (const char *paragraph : kParagraphs) {
         QLabel *label = newPlainLabel(QCoreApplication::translate("HostHelp", paragraph));
         label->setWordWrap(true);
-        label->setFixedWidth(kTextWidth);
+        label->setMinimumWidth(kTextWidth);
         column->addWidget(label);
     }
     return text;

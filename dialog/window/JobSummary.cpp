@@ -2,9 +2,12 @@
 
 #include "dialog/job/JobLayout.h"
 #include "dialog/job/Papers.h"
+#include "dialog/printing/OriginWords.h"
 #include "dialog/printing/PrintJob.h"
+#include "dialog/printing/SettingValues.h"
 #include "dialog/window/SentSettings.h"
 #include "platform/ppd/PPDText.h"
+#include "platform/printmanager/PMTicketKeys.h"
 
 #include <QtCore/QCoreApplication>
 
@@ -22,27 +25,33 @@ SummarySection ownSection(const PrintJob &job)
     const HostSettings &settings = job.settings();
     SummarySection own{JobSummary::tr("Page Setup"), {}};
     if (const std::optional<PMPaper> sheet = job.sheet())
-        own.lines += {JobSummary::tr("Paper in the Printer"), paperText(job.ppd(), *sheet)};
+        own.lines +=
+            {JobSummary::tr("Paper in the Printer"), paperText(job.ppd(), *sheet), u"PageSize"_s};
     if (const std::optional<PMPaper> page = job.documentPage())
-        own.lines += {JobSummary::tr("Document Page"), paperText(job.ppd(), *page)};
-    own.lines += {JobSummary::tr("Scaling"), scalingTitle(settings.scaling, job.scalingCase())};
+        own.lines += {JobSummary::tr("Document Page"), paperText(job.ppd(), *page),
+                      QString(kPMMappedPaperKey)};
+    own.lines += {JobSummary::tr("Scaling"), scalingTitle(settings.scaling, job.scalingCase()),
+                  u"print-scaling"_s};
     const bool isLandscape = job.orientation() == PMOrientation::Landscape;
     own.lines += {JobSummary::tr("Orientation"),
-                  isLandscape ? JobSummary::tr("Landscape") : JobSummary::tr("Portrait")};
-    own.lines += {JobSummary::tr("Copies"), QString::number(settings.copies)};
+                  isLandscape ? JobSummary::tr("Landscape") : JobSummary::tr("Portrait"),
+                  u"orientation-requested"_s};
+    own.lines += {JobSummary::tr("Copies"), QString::number(settings.copies), u"copies"_s};
     own.lines += {JobSummary::tr("Pages"),
-                  settings.pageRanges.isEmpty() ? JobSummary::tr("All") : settings.pageRanges};
+                  settings.pageRanges.isEmpty() ? JobSummary::tr("All") : settings.pageRanges,
+                  u"page-ranges"_s};
     for (const QString &keyword : job.ownKeywords()) {
         ppd_option_t *option = findOption(job.ppd(), keyword);
         const ppd_choice_t *choice = findChoice(option, markedChoice(job.ppd(), keyword));
         if (choice)
-            own.lines += {ppdText(option->text), ppdText(choice->text)};
+            own.lines += {ppdText(option->text), ppdText(choice->text), keyword};
     }
     if (job.offersColorMatching()) {
         const bool byPrinter = job.colorMatching() == PrintJob::ColorMatching::Printer;
         own.lines +=
             {JobSummary::tr("Color Management"),
-             byPrinter ? JobSummary::tr("By the Printer") : JobSummary::tr("By the Application")};
+             byPrinter ? JobSummary::tr("By the Printer") : JobSummary::tr("By the Application"),
+             QString(kPMColorMatchingModeKey)};
     }
     return own;
 }
@@ -51,10 +60,32 @@ SummarySection layoutSection(const PrintJob &job)
 {
     SummarySection section{JobSummary::tr("Layout & Job"), {}};
     if (!job.ownTitle().isEmpty())
-        section.lines += {JobSummary::tr("Job Title"), job.ownTitle()};
+        section.lines += {JobSummary::tr("Job Title"), job.ownTitle(), u"job-name"_s};
     for (const LayoutSetting &setting : layoutSettings())
         if (const QString &value = job.settings().layout.*setting.value; !value.isEmpty())
-            section.lines += {layoutTitle(setting), layoutText(setting, value)};
+            section.lines += {layoutTitle(setting), layoutText(setting, value), setting.option};
+    return section;
+}
+
+/// A panel tells titles alone: the keyword whose title it is, where that is of one only.
+QString keywordOf(const PrintJob &job, const QString &title, const QStringList &keywords)
+{
+    QString found;
+    for (const QString &keyword : keywords) {
+        const ppd_option_t *option = findOption(job.ppd(), keyword);
+        if (!option || ppdText(option->text) != title || keyword == found)
+            continue;
+        if (!found.isNull())
+            return {};
+        found = keyword;
+    }
+    return found;
+}
+
+SummarySection named(SummarySection section, const PrintJob &job, const QStringList &keywords)
+{
+    for (SummarySection::Line &line : section.lines)
+        line.name = keywordOf(job, line.title, keywords);
     return section;
 }
 
@@ -68,11 +99,25 @@ QList<SummarySection> summaryOf(PrintJob &job, const std::vector<const HostPanel
         PDEPanel &panel = *shown->panel;
         const QVariantMap info = job.session()->summary(*shown);
         told += {panel.supportedPPDOptionKeys().value_or(QStringList()), info};
-        sections += sectionOf(panel.panelName(), info);
+        sections += named(sectionOf(panel.panelName(), info), job,
+                          told.constLast().keywords + job.session()->titledKeywords());
     }
     // Panels may change what is sent while they sum it up.
     sections.prepend(ownSection(job));
     sections += layoutSection(job);
     sections += SummarySection{JobSummary::tr("Also Sent"), linesOfTheRest(job, told)};
     return sections;
+}
+
+void addOrigins(QList<SummarySection> &sections, const PrintJob &job, const SettingOrigins &origins)
+{
+    const SettingValues values = settingValues(job);
+    const SettingValues defaults = defaultValues(job);
+    for (SummarySection &section : sections)
+        for (SummarySection::Line &line : section.lines) {
+            if (line.name.isNull())
+                continue;
+            line.isDefault = values.value(line.name) == defaults.value(line.name);
+            line.origin = originWords(job.ppd(), origins.originOf(line.name));
+        }
 }

@@ -13,9 +13,13 @@
 
 namespace {
 
-const QScrollBar *scrollBarOf(const DialogTabs &tabs)
+/// Of the part in front, which is scrolled itself or has something in it that is; null without one.
+QScrollBar *scrollBarOf(const DialogTabs &tabs)
 {
-    const auto *area = qobject_cast<const QScrollArea *>(tabs.currentWidget());
+    const QWidget *part = tabs.currentWidget();
+    const auto *area = qobject_cast<const QScrollArea *>(part);
+    if (!area && part)
+        area = part->findChild<QScrollArea *>();
     return area ? area->verticalScrollBar() : nullptr;
 }
 
@@ -66,7 +70,7 @@ KeptView::~KeptView()
         focus = part->findChild<QWidget *>(m_focusInPart);
     if (focus)
         focus->setFocus();
-    if (auto *area = qobject_cast<QScrollArea *>(part))
-        area->verticalScrollBar()->setValue(m_scrolled);
+    if (QScrollBar *bar = scrollBarOf(m_tabs))
+        bar->setValue(m_scrolled);
     m_window.setUpdatesEnabled(true);
 }

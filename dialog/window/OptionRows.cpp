@@ -42,7 +42,7 @@ void OptionRows::chooseOption(const QString &keyword, PopUpButton *popup)
         return;
     }
     showChoice(popup, markedChoice(m_job.ppd(), keyword));
-    Q_EMIT refused(clash);
+    Q_EMIT refused(clash, {keyword, choice});
 }
 
 void OptionRows::addColorMatching(QFormLayout *form)

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "dialog/host/PPDMarks.h"
+
 #include <QtCore/QObject>
 
 class PopUpButton;
@@ -20,8 +22,8 @@ Q_SIGNALS:
     /// The user has changed something, and the job has it.
     void changed();
 
-    /// What the user chose cannot be; one sentence. The job is as it was.
-    void refused(const QString &sentence);
+    /// What the user chose cannot be; one sentence, and the choice. The job is as it was.
+    void refused(const QString &sentence, const PPDMark &choice);
 
 private:
     void addOption(QFormLayout *form, const QString &keyword);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "dialog/host/PPDMarks.h"
 #include "dialog/window/ScrolledBody.h"
 
 class PaperRows;
@@ -30,8 +31,8 @@ Q_SIGNALS:
     /// The user has changed something, and the job has it where it can be used.
     void changed();
 
-    /// What the user chose cannot be; one sentence. The job is as it was.
-    void refused(const QString &sentence);
+    /// What the user chose cannot be; one sentence, and the choice. The job is as it was.
+    void refused(const QString &sentence, const PPDMark &choice);
 
 private:
     PrintJob &m_job;

@@ -3,7 +3,8 @@
 #include "dialog/window/ViewWidth.h"
 #include "platform/toolkit/PanelPoint.h"
 
-#include <QtCore/QEvent>
+#include <QtGui/QContextMenuEvent>
+#include <QtWidgets/QLineEdit>
 #include <QtWidgets/QScrollBar>
 
 namespace {
@@ -49,6 +50,8 @@ void PanelPane::takeView(QWidget *view)
     view->setAutoFillBackground(false);
     view->show();
     view->installEventFilter(this);
+    for (QWidget *part : view->findChildren<QWidget *>())
+        part->installEventFilter(this);
 }
 
 void PanelPane::releaseView()
@@ -56,6 +59,8 @@ void PanelPane::releaseView()
     if (!m_view)
         return;
     m_view->removeEventFilter(this);
+    for (QWidget *part : m_view->findChildren<QWidget *>())
+        part->removeEventFilter(this);
     m_view->hide();
     takeWidget()->setParent(nullptr);
     m_view = nullptr;
@@ -78,6 +83,12 @@ bool PanelPane::eventFilter(QObject *watched, QEvent *event)
     if (watched == m_view && event->type() == QEvent::Resize) {
         updateGeometry();
         Q_EMIT viewResized();
+    }
+    // Of what is switched off, too; fields for text have a menu of their own.
+    if (event->type() == QEvent::ContextMenu && !qobject_cast<QLineEdit *>(watched)) {
+        Q_EMIT explanationWanted(static_cast<QWidget *>(watched),
+                                 static_cast<QContextMenuEvent *>(event)->globalPos());
+        return true;
     }
     return QScrollArea::eventFilter(watched, event);
 }

@@ -27,6 +27,9 @@ Q_SIGNALS:
     /// The view has come to another size by itself.
     void viewResized();
 
+    /// Somebody asks about a part of the view, at a place on the screen; null: about all of it.
+    void explanationWanted(const QWidget *part, const QPoint &place);
+
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
 

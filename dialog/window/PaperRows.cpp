@@ -164,7 +164,7 @@ void PaperRows::takeChoice(const QString &choice)
     if (clash.isNull())
         Q_EMIT changed();
     else
-        Q_EMIT refused(clash);
+        Q_EMIT refused(clash, {kPageSize, choice});
 }
 
 /// The fields are there also for a size that the printer does not take: the word beside them says

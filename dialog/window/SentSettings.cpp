@@ -84,7 +84,8 @@ SummarySection::Line lineOf(const PrintJob &job, const JobOption &option)
     ppd_option_t *named = optionOf(job, option.name);
     const QString title = named ? ppdText(named->text) : QString();
     const QString keyword = named ? ppdName(named->keyword) : QString();
-    return {title.isEmpty() ? option.name : title, valueText(job.ppd(), keyword, option.value)};
+    return {title.isEmpty() ? option.name : title, valueText(job.ppd(), keyword, option.value),
+            keyword.isEmpty() ? option.name : keyword};
 }
 
 } // namespace

@@ -2,6 +2,7 @@
 
 #include "dialog/host/HostSession.h"
 #include "dialog/host/controls/PanelParts.h"
+#include "dialog/printing/SettingState.h"
 #include "dialog/replay/AlertAnswerer.h"
 #include "platform/foundation/UserDefaults.h"
 #include "platform/toolkit/FractionSlider.h"
@@ -10,14 +11,6 @@
 #include <utility>
 
 namespace {
-
-QVariantMap settingsOfTicket(const HostSession &session)
-{
-    QVariantMap ticket = session.ticket().values();
-    for (const QString &key : session.foldStateKeys())
-        ticket.remove(key);
-    return ticket;
-}
 
 QList<double> valuesOfSliders(const HostSession &session)
 {
@@ -59,8 +52,7 @@ void SessionUndo::followDrag(const QString &keyword)
             connect(
                 slider, &QSlider::sliderReleased, this,
                 [this] {
-                    if (!m_history.isEmpty())
-                        noteUser();
+                    noteUser(QString());
                     m_history.endSubject();
                 },
                 static_cast<Qt::ConnectionType>(Qt::AutoConnection | Qt::SingleShotConnection));
@@ -70,12 +62,15 @@ void SessionUndo::followDrag(const QString &keyword)
 SessionUndo::Moment SessionUndo::now() const
 {
     const PrintJob &job = m_controller.job();
-    Moment moment{
-        m_controller.origin(), m_journal.place(), job.settled(), settingState(job), {}, {}};
-    if (const HostSession *session = job.session()) {
-        moment.ticket = settingsOfTicket(*session);
+    Moment moment{m_controller.origin(),
+                  m_journal.place(),
+                  job.settled(),
+                  settingValues(job),
+                  settingState(job).shown,
+                  {},
+                  origins()};
+    if (const HostSession *session = job.session())
         moment.sliders = valuesOfSliders(*session);
-    }
     return moment;
 }
 
@@ -85,8 +80,7 @@ bool SessionUndo::areAlike(const Moment &left, const Moment &right)
 {
     SettledState settled = left.settled;
     settled.chosen = right.settled.chosen;
-    return settled == right.settled && left.settings.marks == right.settings.marks &&
-           left.settings.shown == right.settings.shown && left.ticket == right.ticket &&
+    return settled == right.settled && left.values == right.values && left.shown == right.shown &&
            left.sliders == right.sliders;
 }
 
@@ -98,9 +92,15 @@ bool SessionUndo::isSamePrinter(const Moment &left, const Moment &right)
            isSameText(*left.printer->ppd, *right.printer->ppd);
 }
 
-void SessionUndo::begin()
+void SessionUndo::begin(const QList<RequestedChoice> &asked)
 {
+    const PrintJob &job = m_controller.job();
     Moment moment = now();
+    QHash<QString, SettingOrigin> named =
+        startingOrigins(job, moment.printer ? moment.printer->starting : QList<JobOption>());
+    for (const RequestedChoice &choice : asked)
+        named.insert(choice.keyword, {SettingOrigin::Kind::CommandLine, {}, {}});
+    moment.origins.begin(defaultValues(job), moment.values, named);
     if (m_history.isEmpty() || !isSamePrinter(m_history.current(), moment))
         m_history.begin(std::move(moment));
     else if (areAlike(m_history.current(), moment))
@@ -109,12 +109,13 @@ void SessionUndo::begin()
         m_history.note(std::move(moment));
 }
 
-void SessionUndo::noteUser()
+void SessionUndo::noteUser(const QString &name)
 {
     const QString subject = std::exchange(m_subject, QString());
     if (m_history.isEmpty())
         return;
     Moment moment = now();
+    moment.origins.takePick(name, m_history.current().values, moment.values);
     if (areAlike(m_history.current(), moment))
         m_history.amend(std::move(moment));
     else
@@ -123,8 +124,11 @@ void SessionUndo::noteUser()
 
 void SessionUndo::noteOwn()
 {
-    if (!m_history.isEmpty())
-        m_history.amend(now());
+    if (m_history.isEmpty())
+        return;
+    Moment moment = now();
+    moment.origins.takeRules(m_history.current().values, moment.values);
+    m_history.amend(std::move(moment));
 }
 
 Result<> SessionUndo::undo()

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "dialog/printing/PrintController.h"
-#include "dialog/printing/SettingState.h"
+#include "dialog/printing/SettingValues.h"
 #include "dialog/printing/UndoHistory.h"
 #include "dialog/replay/SessionJournal.h"
 
@@ -25,8 +25,9 @@ public:
     explicit SessionUndo(PrintController &controller, QObject *parent = nullptr);
 
     /// A printer was opened, and the settings of the command line are made. Where it is the one
-    /// that was open before, started from other settings, that is a step.
-    void begin();
+    /// that was open before, started from other settings, that is a step. `asked`
+    /// are settings that were asked for by name, in the printer's own names.
+    void begin(const QList<RequestedChoice> &asked);
 
     /// There is nothing to undo any more.
     void clear() { m_history.clear(); }
@@ -36,9 +37,16 @@ public:
     void setField(const QString &name) { m_subject = name; }
 
     /// What was going on is over. Where a person did it, and a setting is another one since, it is
-    /// a step; else it belongs to the last one.
-    void noteUser();
+    /// a step; else it belongs to the last one. What the person picked is the setting of the name
+    /// (SettingValues); null: whatever has changed.
+    void noteUser(const QString &name);
     void noteOwn();
+
+    /// Why the settings have their values, as of what was noted last.
+    SettingOrigins origins() const
+    {
+        return m_history.isEmpty() ? SettingOrigins() : m_history.current().origins;
+    }
 
     bool canUndo() const { return m_history.canUndo(); }
     bool canRedo() const { return m_history.canRedo(); }
@@ -62,9 +70,10 @@ private:
         std::shared_ptr<const PrinterOrigin> printer; ///< null: one without a PPD
         JournalPlace place;
         SettledState settled;
-        SettingState settings;
-        QVariantMap ticket; ///< without states of folding
+        SettingValues values;
+        QList<PPDMark> shown; ///< SettingState::shown
         QList<double> sliders;
+        SettingOrigins origins;
     };
 
     static bool areAlike(const Moment &left, const Moment &right);

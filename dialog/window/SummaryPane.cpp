@@ -31,9 +31,26 @@ QLabel *heading(const QString &text, QWidget *parent)
     return made;
 }
 
+QString lineText(const SummarySection::Line &line)
+{
+    const QString title = displayText(line.title);
+    const QString value = displayText(line.value);
+    return line.origin.isEmpty() ? SummaryPane::tr("%1: %2").arg(title, value)
+                                 : SummaryPane::tr("%1: %2 (%3)").arg(title, value, line.origin);
+}
+
+/// In a quieter colour.
+QLabel *originLabel(const QString &text, QWidget *parent)
+{
+    QLabel *made = summaryLabel(text, parent);
+    made->setObjectName(QStringLiteral("summaryOrigin"));
+    made->setForegroundRole(QPalette::PlaceholderText);
+    made->setAlignment(Qt::AlignLeft | Qt::AlignTop);
+    return made;
+}
+
 } // namespace
 
-/// The whole summary as people would read it out.
 QString SummaryPane::textOf(const QList<SummarySection> &sections)
 {
     QStringList texts;
@@ -42,7 +59,7 @@ QString SummaryPane::textOf(const QList<SummarySection> &sections)
             continue;
         QStringList lines{displayText(section.heading)};
         for (const SummarySection::Line &line : section.lines)
-            lines += tr("%1: %2").arg(displayText(line.title), displayText(line.value));
+            lines += lineText(line);
         texts += lines.join(u'\n');
     }
     return texts.join(QStringLiteral("\n\n"));
@@ -77,6 +94,7 @@ void SummaryPane::setSections(const QList<SummarySection> &sections)
     grid->setVerticalSpacing(kLineSpacing);
     grid->setColumnStretch(0, 2);
     grid->setColumnStretch(1, 3);
+    grid->setColumnStretch(2, 3);
     for (const SummarySection &section : sections)
         addSection(grid, section);
     grid->setRowStretch(grid->rowCount(), 1);
@@ -93,13 +111,16 @@ void SummaryPane::addSection(QGridLayout *grid, const SummarySection &section)
     int row = grid->rowCount();
     if (row > 1)
         grid->setRowMinimumHeight(row++, kSectionSpacing);
-    grid->addWidget(heading(section.heading, page), row++, 0, 1, 2);
+    grid->addWidget(heading(section.heading, page), row++, 0, 1, 3);
     for (const SummarySection::Line &line : section.lines) {
         QLabel *title = summaryLabel(line.title, page);
         title->setAlignment(Qt::AlignRight | Qt::AlignTop);
         grid->addWidget(title, row, 0);
         QLabel *value = summaryLabel(line.value, page);
         value->setAlignment(Qt::AlignLeft | Qt::AlignTop);
-        grid->addWidget(value, row++, 1);
+        grid->addWidget(value, row, 1);
+        if (!line.origin.isEmpty())
+            grid->addWidget(originLabel(line.origin, page), row, 2);
+        ++row;
     }
 }

@@ -14,6 +14,9 @@ struct SummarySection
     {
         QString title;
         QString value;
+        QString name = {};      ///< of the setting (SettingValues); null: of none
+        QString origin = {};    ///< why it has its value, for people; null: nothing is told
+        bool isDefault = false; ///< it is what the printer has by itself
     };
 
     QString heading;
@@ -33,7 +36,9 @@ public:
     explicit SummaryPane(QWidget *parent = nullptr);
     void setSections(const QList<SummarySection> &sections);
 
-private:
+    /// The whole summary as people would read it out.
     static QString textOf(const QList<SummarySection> &sections);
+
+private:
     void addSection(QGridLayout *grid, const SummarySection &section);
 };

@@ -41,7 +41,7 @@ int fitParts(QWidget &container)
 int neededWidth(QWidget &part)
 {
     if (const auto *list = qobject_cast<const QListView *>(&part))
-        return list->sizeHintForColumn(0) + 2 * list->frameWidth();
+        return list->sizeHintForColumn(0) + 2 * (list->frameWidth() + list->spacing());
     return hasPlacedParts(part) ? fitParts(part) : part.minimumSizeHint().width();
 }
 

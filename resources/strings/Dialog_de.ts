@@ -400,6 +400,38 @@
         <source>Redo</source>
         <translation>Wiederherstellen</translation>
     </message>
+    <message>
+        <source>Why is there no &quot;%1&quot;?</source>
+        <translation>Warum gibt es „%1“ nicht?</translation>
+    </message>
+    <message>
+        <source>Everything here can be chosen.</source>
+        <translation>Hier kann alles gewählt werden.</translation>
+    </message>
+    <message>
+        <source>Finding out…</source>
+        <translation>Wird ermittelt…</translation>
+    </message>
+    <message>
+        <source>This cannot be explained.</source>
+        <translation>Das lässt sich nicht erklären.</translation>
+    </message>
+    <message>
+        <source>With that: %1</source>
+        <translation>Damit: %1</translation>
+    </message>
+    <message>
+        <source>Get It</source>
+        <translation>Ermöglichen</translation>
+    </message>
+    <message>
+        <source>Use %1</source>
+        <translation>%1 verwenden</translation>
+    </message>
+    <message>
+        <source>Leave It</source>
+        <translation>So lassen</translation>
+    </message>
 </context>
 <context>
     <name>DialogTabs</name>
@@ -1285,6 +1317,45 @@
     <message>
         <source>Color Management:</source>
         <translation>Farbverwaltung:</translation>
+    </message>
+</context>
+<context>
+    <name>OriginWords</name>
+    <message>
+        <source>Because you chose %1: %2</source>
+        <translation>Weil Sie %1: %2 gewählt haben</translation>
+    </message>
+    <message>
+        <source>Goes with your choices</source>
+        <translation>Passend zu Ihrer Auswahl</translation>
+    </message>
+    <message>
+        <source>Saved with the printer</source>
+        <translation>Für den Drucker gespeichert</translation>
+    </message>
+    <message>
+        <source>From the preset %1</source>
+        <translation>Aus der Voreinstellung %1</translation>
+    </message>
+    <message>
+        <source>Last used</source>
+        <translation>Zuletzt verwendet</translation>
+    </message>
+    <message>
+        <source>From the command line</source>
+        <translation>Von der Befehlszeile</translation>
+    </message>
+    <message>
+        <source>Your choice</source>
+        <translation>Ihre Auswahl</translation>
+    </message>
+    <message>
+        <source>Goes with the other settings</source>
+        <translation>Passend zu den anderen Einstellungen</translation>
+    </message>
+    <message>
+        <source>The printer's default</source>
+        <translation>Standard des Druckers</translation>
     </message>
 </context>
 <context>
@@ -2281,6 +2352,17 @@
     </message>
 </context>
 <context>
+    <name>SummaryPart</name>
+    <message>
+        <source>Only What Differs from the Printer's Defaults</source>
+        <translation>Nur Abweichungen vom Standard des Druckers</translation>
+    </message>
+    <message>
+        <source>Copy as Text</source>
+        <translation>Als Text kopieren</translation>
+    </message>
+</context>
+<context>
     <name>WhyCommand</name>
     <message>
         <source>This cannot be explained.</source>
@@ -2541,6 +2623,10 @@
     <message>
         <source>%1: %2</source>
         <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>%1: %2 (%3)</source>
+        <translation>%1: %2 (%3)</translation>
     </message>
 </context>
 </TS>

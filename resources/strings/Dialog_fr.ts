@@ -400,6 +400,38 @@
         <source>Redo</source>
         <translation>Rétablir</translation>
     </message>
+    <message>
+        <source>Why is there no &quot;%1&quot;?</source>
+        <translation>Pourquoi « %1 » n’est-il pas proposé ?</translation>
+    </message>
+    <message>
+        <source>Everything here can be chosen.</source>
+        <translation>Tout peut être choisi ici.</translation>
+    </message>
+    <message>
+        <source>Finding out…</source>
+        <translation>Recherche en cours…</translation>
+    </message>
+    <message>
+        <source>This cannot be explained.</source>
+        <translation>Cela ne peut pas être expliqué.</translation>
+    </message>
+    <message>
+        <source>With that: %1</source>
+        <translation>Avec cela : %1</translation>
+    </message>
+    <message>
+        <source>Get It</source>
+        <translation>L’obtenir</translation>
+    </message>
+    <message>
+        <source>Use %1</source>
+        <translation>Utiliser %1</translation>
+    </message>
+    <message>
+        <source>Leave It</source>
+        <translation>Laisser ainsi</translation>
+    </message>
 </context>
 <context>
     <name>DialogTabs</name>
@@ -1285,6 +1317,45 @@
     <message>
         <source>Color Management:</source>
         <translation>Gestion des couleurs :</translation>
+    </message>
+</context>
+<context>
+    <name>OriginWords</name>
+    <message>
+        <source>Because you chose %1: %2</source>
+        <translation>Parce que vous avez choisi %1 : %2</translation>
+    </message>
+    <message>
+        <source>Goes with your choices</source>
+        <translation>En accord avec vos choix</translation>
+    </message>
+    <message>
+        <source>Saved with the printer</source>
+        <translation>Enregistré pour l’imprimante</translation>
+    </message>
+    <message>
+        <source>From the preset %1</source>
+        <translation>Du préréglage %1</translation>
+    </message>
+    <message>
+        <source>Last used</source>
+        <translation>Dernier réglage utilisé</translation>
+    </message>
+    <message>
+        <source>From the command line</source>
+        <translation>De la ligne de commande</translation>
+    </message>
+    <message>
+        <source>Your choice</source>
+        <translation>Votre choix</translation>
+    </message>
+    <message>
+        <source>Goes with the other settings</source>
+        <translation>En accord avec les autres réglages</translation>
+    </message>
+    <message>
+        <source>The printer's default</source>
+        <translation>Valeur par défaut de l’imprimante</translation>
     </message>
 </context>
 <context>
@@ -2281,6 +2352,17 @@
     </message>
 </context>
 <context>
+    <name>SummaryPart</name>
+    <message>
+        <source>Only What Differs from the Printer's Defaults</source>
+        <translation>Seulement ce qui diffère des valeurs par défaut de l’imprimante</translation>
+    </message>
+    <message>
+        <source>Copy as Text</source>
+        <translation>Copier comme texte</translation>
+    </message>
+</context>
+<context>
     <name>WhyCommand</name>
     <message>
         <source>This cannot be explained.</source>
@@ -2541,6 +2623,10 @@
     <message>
         <source>%1: %2</source>
         <translation>%1 : %2</translation>
+    </message>
+    <message>
+        <source>%1: %2 (%3)</source>
+        <translation>%1 : %2 (%3)</translation>
     </message>
 </context>
 </TS>

@@ -400,6 +400,38 @@
         <source>Redo</source>
         <translation>やり直す</translation>
     </message>
+    <message>
+        <source>Why is there no &quot;%1&quot;?</source>
+        <translation>「%1」がないのはなぜですか?</translation>
+    </message>
+    <message>
+        <source>Everything here can be chosen.</source>
+        <translation>ここにあるものはすべて選べます。</translation>
+    </message>
+    <message>
+        <source>Finding out…</source>
+        <translation>調べています…</translation>
+    </message>
+    <message>
+        <source>This cannot be explained.</source>
+        <translation>理由を説明できません。</translation>
+    </message>
+    <message>
+        <source>With that: %1</source>
+        <translation>これに伴う変更: %1</translation>
+    </message>
+    <message>
+        <source>Get It</source>
+        <translation>使えるようにする</translation>
+    </message>
+    <message>
+        <source>Use %1</source>
+        <translation>%1 を使う</translation>
+    </message>
+    <message>
+        <source>Leave It</source>
+        <translation>このままにする</translation>
+    </message>
 </context>
 <context>
     <name>DialogTabs</name>
@@ -1285,6 +1317,45 @@
     <message>
         <source>Color Management:</source>
         <translation>カラーマネージメント:</translation>
+    </message>
+</context>
+<context>
+    <name>OriginWords</name>
+    <message>
+        <source>Because you chose %1: %2</source>
+        <translation>%1 に「%2」を選んだため</translation>
+    </message>
+    <message>
+        <source>Goes with your choices</source>
+        <translation>選んだ設定に合わせたもの</translation>
+    </message>
+    <message>
+        <source>Saved with the printer</source>
+        <translation>プリンターに保存された設定</translation>
+    </message>
+    <message>
+        <source>From the preset %1</source>
+        <translation>プリセット「%1」</translation>
+    </message>
+    <message>
+        <source>Last used</source>
+        <translation>前回の設定</translation>
+    </message>
+    <message>
+        <source>From the command line</source>
+        <translation>コマンドラインの指定</translation>
+    </message>
+    <message>
+        <source>Your choice</source>
+        <translation>あなたの選択</translation>
+    </message>
+    <message>
+        <source>Goes with the other settings</source>
+        <translation>ほかの設定に合わせたもの</translation>
+    </message>
+    <message>
+        <source>The printer's default</source>
+        <translation>プリンターの既定値</translation>
     </message>
 </context>
 <context>
@@ -2281,6 +2352,17 @@
     </message>
 </context>
 <context>
+    <name>SummaryPart</name>
+    <message>
+        <source>Only What Differs from the Printer's Defaults</source>
+        <translation>プリンターの既定値と異なるものだけ</translation>
+    </message>
+    <message>
+        <source>Copy as Text</source>
+        <translation>テキストとしてコピー</translation>
+    </message>
+</context>
+<context>
     <name>WhyCommand</name>
     <message>
         <source>This cannot be explained.</source>
@@ -2541,6 +2623,10 @@
     <message>
         <source>%1: %2</source>
         <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>%1: %2 (%3)</source>
+        <translation>%1: %2 (%3)</translation>
     </message>
 </context>
 </TS>

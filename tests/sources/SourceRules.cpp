@@ -44,6 +44,7 @@ const QList<SourceRule> &plainTextRules()
           u"dialog/window/Mnemonics.cpp: button.setText(withMnemonic(title, taken));"_s,
           u"dialog/window/Mnemonics.cpp: titled.setText(withMnemonic(stripped(titled.text()), taken));"_s,
           u"dialog/window/JobHeader.cpp: m_pages->setText(m_job.settings().pageRanges);"_s,
+          u"dialog/window/SummaryPart.cpp: QGuiApplication::clipboard()->setText(SummaryPane::textOf(shownSections()));"_s,
           u"dialog/window/LayoutPane.cpp: m_title->setText(title);"_s,
           u"dialog/window/LayoutPane.cpp: m_notification->setText(address);"_s}},
         {"TextFormat",

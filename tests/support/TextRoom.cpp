@@ -10,6 +10,7 @@
 #include <QtWidgets/QLineEdit>
 #include <QtWidgets/QListView>
 #include <QtWidgets/QScrollArea>
+#include <QtWidgets/QScrollBar>
 #include <QtWidgets/QStyleOptionComboBox>
 #include <QtWidgets/QTabBar>
 
@@ -98,7 +99,7 @@ Shown shownBy(const QTabBar &bar)
 Shown shownBy(const QListView &list)
 {
     return {list.objectName(),
-            {list.sizeHintForColumn(0) - list.viewport()->width(),
+            {list.horizontalScrollBar()->maximum(),
              list.fontMetrics().height() - list.viewport()->height()}};
 }
 

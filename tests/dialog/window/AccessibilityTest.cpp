@@ -250,7 +250,9 @@ TEST_F(Accessibility, TellsTheSummaryAsOneText)
     open();
     show(u"summary"_s, true);
     const QString text = accessible("summaryPane").text(QAccessible::Description);
-    EXPECT_TRUE(text.startsWith(u"Page Setup\nPaper in the Printer: A4\n"_s)) << text.toStdString();
+    EXPECT_TRUE(
+        text.startsWith(u"Page Setup\nPaper in the Printer: A4 (The printer's default)\n"_s))
+        << text.toStdString();
     EXPECT_TRUE(text.contains(u"\n\nPrint Settings\nPrinter Model: Velkaro PX-T900\n"_s))
         << text.toStdString();
 }

@@ -108,6 +108,8 @@ INSTANTIATE_TEST_SUITE_P(
               u"Page Order:"_s, u"Several Copies:"_s, u"Job Title:"_s, u"Print It"_s,
               u"Priority:"_s, u"Cover page before the job"_s, u"Cover page after the job"_s,
               u"Notification"_s}},
-        Walk{4, {u"Summary"_s, u"Summary"_s}}));
+        Walk{4,
+             {u"Summary"_s, u"Only What Differs from the Printer's Defaults"_s, u"Copy as Text"_s,
+              u"Summary"_s}}));
 
 } // namespace

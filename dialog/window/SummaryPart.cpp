@@ -1,0 +1,61 @@
+#include "dialog/window/SummaryPart.h"
+
+#include <QtGui/QClipboard>
+#include <QtGui/QGuiApplication>
+#include <QtWidgets/QCheckBox>
+#include <QtWidgets/QHBoxLayout>
+#include <QtWidgets/QPushButton>
+#include <QtWidgets/QVBoxLayout>
+
+namespace {
+
+constexpr int kRowMargin = 8;
+
+} // namespace
+
+SummaryPart::SummaryPart(QWidget *parent)
+    : QWidget(parent),
+      m_onlyDifferent(new QCheckBox(tr("Only What Differs from the Printer's Defaults"), this)),
+      m_copy(new QPushButton(tr("Copy as Text"), this)),
+      m_pane(new SummaryPane(this))
+{
+    setObjectName(QStringLiteral("summaryPart"));
+    m_onlyDifferent->setObjectName(QStringLiteral("onlyDifferentButton"));
+    m_copy->setObjectName(QStringLiteral("copySummaryButton"));
+    m_copy->setAutoDefault(false);
+    auto *row = new QHBoxLayout;
+    row->setContentsMargins(2 * kRowMargin, kRowMargin, 2 * kRowMargin, 0);
+    row->addWidget(m_onlyDifferent, 1);
+    row->addWidget(m_copy);
+    auto *layout = new QVBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addLayout(row);
+    layout->addWidget(m_pane, 1);
+    connect(m_onlyDifferent, &QCheckBox::toggled, this, &SummaryPart::showSections);
+    connect(m_copy, &QPushButton::clicked, this, &SummaryPart::copy);
+}
+
+void SummaryPart::setSections(const QList<SummarySection> &sections)
+{
+    m_sections = sections;
+    showSections();
+}
+
+QList<SummarySection> SummaryPart::shownSections() const
+{
+    QList<SummarySection> shown = m_sections;
+    if (m_onlyDifferent->isChecked())
+        for (SummarySection &section : shown)
+            section.lines.removeIf([](const auto &line) { return line.isDefault; });
+    return shown;
+}
+
+void SummaryPart::showSections()
+{
+    m_pane->setSections(shownSections());
+}
+
+void SummaryPart::copy()
+{
+    QGuiApplication::clipboard()->setText(SummaryPane::textOf(shownSections()));
+}

@@ -1,0 +1,148 @@
+// Why a choice is not to be had, asked in the dialog, and the ways to it.
+#include "tests/dialog/window/UndoFixture.h"
+#include "tests/support/ClashingPPD.h"
+
+#include <QtGui/QContextMenuEvent>
+#include <QtWidgets/QMenu>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+class WindowAdvice : public UndoFixture
+{
+protected:
+    /// The questions of the menu that is open; asks the one of the text.
+    QStringList questions(const QString &asked = {})
+    {
+        auto *menu = m_window->findChild<QMenu *>(u"questionMenu"_s);
+        if (!menu)
+            return {};
+        QStringList texts;
+        QAction *chosen = nullptr;
+        for (QAction *action : menu->actions()) {
+            texts += action->text();
+            if (action->text() == asked)
+                chosen = action;
+        }
+        menu->close();
+        if (chosen)
+            chosen->trigger();
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        return texts;
+    }
+
+    void openMenu(QWidget *at)
+    {
+        const QPoint middle = at->rect().center();
+        QContextMenuEvent event(QContextMenuEvent::Mouse, middle, at->mapToGlobal(middle));
+        QCoreApplication::sendEvent(at, &event);
+    }
+
+    QStringList offers()
+    {
+        QStringList titles;
+        for (const auto *button : part<QWidget>("noticeBar")->findChildren<QAbstractButton *>())
+            if (button->isVisible())
+                titles += plainTitle(button->text());
+        return titles;
+    }
+
+    bool waitForOffer(const char *name)
+    {
+        return QTest::qWaitFor(
+            [&] { return m_window->findChild<QWidget *>(QLatin1String(name)) != nullptr; },
+            kTimeout);
+    }
+};
+
+TEST_F(WindowAdvice, TellsWhyAChoiceIsNotThereAndGetsItInOneStep)
+{
+    open();
+    const std::string before = state();
+    openMenu(part<QWidget>("resolutionPopup"));
+    const QString question = u"Why is there no \"Photo\"?"_s;
+    EXPECT_TRUE(questions(question).contains(question));
+    ASSERT_TRUE(waitForOffer("getItButton"));
+    EXPECT_TRUE(notice().startsWith(u"Photo is not there for Plain Paper. It is there for"_s))
+        << notice().toStdString();
+    EXPECT_EQ(state(), before);
+    click("getItButton");
+    QCoreApplication::processEvents();
+    EXPECT_EQ(marked(u"VKResolution"_s), u"Photo"_s);
+    EXPECT_EQ(part<PopUpButton>("resolutionPopup")->selectedObject(), u"Photo"_s);
+    EXPECT_NE(marked(u"VKMediaType"_s), u"Plain"_s);
+    EXPECT_TRUE(offers().contains(u"Undo"_s));
+    undo();
+    EXPECT_EQ(state(), before);
+}
+
+TEST_F(WindowAdvice, CanBeAskedOfAControlThatIsSwitchedOff)
+{
+    open();
+    pick("mediaTypePopup", u"Glossy"_s);
+    auto *box = part<QWidget>("biDirButton");
+    ASSERT_FALSE(box->isEnabled());
+    openMenu(box);
+    EXPECT_EQ(questions(), QStringList{u"Why is there no \"Bi-Directional Printing: On\"?"_s});
+}
+
+TEST_F(WindowAdvice, IsAskedByTheKeyboardToo)
+{
+    open();
+    part<QWidget>("resolutionPopup")->setFocus();
+    QTest::keyClick(part<QWidget>("resolutionPopup"), Qt::Key_F1, Qt::ShiftModifier);
+    EXPECT_TRUE(questions().contains(u"Why is there no \"Photo\"?"_s));
+    part<QWidget>("helpButton")->setFocus();
+    QTest::keyClick(m_window.get(), Qt::Key_F1, Qt::ShiftModifier);
+    EXPECT_TRUE(questions().contains(u"Why is there no \"Photo\"?"_s));
+}
+
+TEST_F(WindowAdvice, SaysWhereEverythingCanBeChosen)
+{
+    open();
+    openMenu(part<QWidget>("monoColorPopup"));
+    EXPECT_EQ(questions(), QStringList{u"Everything here can be chosen."_s});
+}
+
+TEST_F(WindowAdvice, OffersTheWaysToARefusedChoice)
+{
+    const ClashingPPD ppd;
+    m_line.ppd = ppd.path();
+    open();
+    showTab(u"setup"_s);
+    pick("DuplexPopup", u"DuplexTumble"_s);
+    showTab(u"print"_s);
+    pick("mediaTypePopup", u"Transparencies"_s);
+    const QString refusal = notice();
+    ASSERT_EQ(marked(u"VKMediaType"_s), u"PlainDuplex"_s);
+    ASSERT_TRUE(waitForOffer("remedyButton"));
+    EXPECT_EQ(notice(), refusal);
+    EXPECT_EQ(offers().first(), u"Use Two-Sided Printing: Off"_s);
+    EXPECT_EQ(offers().last(), u"Leave It"_s);
+    const std::string before = state();
+    click("remedyButton");
+    QCoreApplication::processEvents();
+    EXPECT_EQ(marked(u"VKMediaType"_s), u"Transparencies"_s);
+    EXPECT_EQ(marked(u"Duplex"_s), u"None"_s);
+    undo();
+    EXPECT_EQ(state(), before);
+}
+
+TEST_F(WindowAdvice, LeavesARefusedChoiceWhereItIs)
+{
+    const ClashingPPD ppd;
+    m_line.ppd = ppd.path();
+    open();
+    pick("mediaTypePopup", u"Transparencies"_s);
+    showTab(u"setup"_s);
+    pick("DuplexPopup", u"DuplexTumble"_s);
+    ASSERT_TRUE(waitForOffer("leaveButton"));
+    const std::string before = state();
+    click("leaveButton");
+    QCoreApplication::processEvents();
+    EXPECT_EQ(state(), before);
+    EXPECT_EQ(offers(), QStringList());
+}
+
+} // namespace
