@@ -69,10 +69,10 @@ Result<> writeDocument(const Writing &writing, const Document &document)
 
 Result<> writeJob(const Writing &writing, const JobRequest &job)
 {
-    if (const Result<> written = writing.write(header(job)); !written)
+    if (Result<> written = writing.write(header(job)); !written)
         return written;
     for (const Document &document : job.documents)
-        if (const Result<> written = writeDocument(writing, document); !written)
+        if (Result<> written = writeDocument(writing, document); !written)
             return written;
     return writing.take([&] { return writing.file.commit(); });
 }

@@ -16,7 +16,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr qsizetype kLongestLine = 8000; // bytes: libcups reads 8,191 of a line
-constexpr qint64 kLargestFile = 16 * 1024 * 1024;
+constexpr qint64 kLargestFile = 16LL * 1024 * 1024;
 constexpr int kLockTimeout = 5000; // ms
 
 /// The value as cupsParseOptions() reads it from a line of a file, in which a # begins a comment.

@@ -144,7 +144,7 @@ void DialogWindow::choose(const RequestedChoice &choice)
 /// What the printer or the documents lack, and the doubts about the settings.
 DialogWindow::Notice DialogWindow::standingNotice()
 {
-    const Notice doubts = doubtsToTell();
+    Notice doubts = doubtsToTell();
     if (doubts.sentence.isEmpty())
         return m_standing;
     if (m_standing.kind == NoticeBar::Kind::Information)

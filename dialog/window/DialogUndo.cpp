@@ -87,7 +87,7 @@ Result<> DialogWindow::exchangeSession(Result<> (SessionUndo::*way)())
 {
     KeptView view(*this, *m_tabs, job());
     m_tabs->releaseViews();
-    const Result<> gone = ((*m_undo).*way)();
+    Result<> gone = ((*m_undo).*way)();
     if (job().session()) {
         m_tabs->exchangePanels(m_undo->shownPanel());
         view.unfold(*job().session());

@@ -133,7 +133,7 @@ void SessionUndo::noteOwn()
 
 Result<> SessionUndo::undo()
 {
-    const Result<> gone = goTo(m_history.undo());
+    Result<> gone = goTo(m_history.undo());
     if (!gone)
         m_history.redo();
     return gone;
@@ -141,7 +141,7 @@ Result<> SessionUndo::undo()
 
 Result<> SessionUndo::redo()
 {
-    const Result<> gone = goTo(m_history.redo());
+    Result<> gone = goTo(m_history.redo());
     if (!gone)
         m_history.undo();
     return gone;
@@ -155,7 +155,7 @@ Result<> SessionUndo::goTo(const Moment &moment)
     if (moment.printer &&
         (moment.printer != m_controller.origin() || !isAfter(from, moment.place))) {
         const AlertAnswerer unseen(AlertAnswerer::Alerts::Unseen);
-        const Result<> opened = m_controller.reopen(moment.printer);
+        Result<> opened = m_controller.reopen(moment.printer);
         if (!opened)
             return opened;
         from.reset();
