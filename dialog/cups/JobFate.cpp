@@ -1,15 +1,6 @@
 #include "dialog/cups/JobFate.h"
 
-#include <array>
-
 namespace {
-
-IppHandle jobRequest(ipp_op_t operation, const QString &queue, int jobId)
-{
-    IppHandle request = queueRequest(operation, queue);
-    ippAddInteger(request.get(), IPP_TAG_OPERATION, IPP_TAG_INTEGER, "job-id", jobId);
-    return request;
-}
 
 bool hasReason(ipp_t *job, const char *reason)
 {
@@ -46,9 +37,7 @@ JobFate askFate(ServerConnection &connection, const QString &queue, int jobId)
     if (!connection.isConnected())
         return JobFate::Unknown;
     IppHandle request = jobRequest(IPP_OP_GET_JOB_ATTRIBUTES, queue, jobId);
-    constexpr std::array wanted{"job-state", "job-state-reasons"};
-    ippAddStrings(request.get(), IPP_TAG_OPERATION, IPP_TAG_KEYWORD, "requested-attributes",
-                  static_cast<int>(wanted.size()), nullptr, wanted.data());
+    askFor(request.get(), {"job-state", "job-state-reasons"});
     const IppHandle job = connection.request(std::move(request), queueResource(queue));
     return job && connection.succeeded() ? fateOf(job.get()) : JobFate::Unknown;
 }

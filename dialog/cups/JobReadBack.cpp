@@ -4,8 +4,6 @@
 
 #include <QtCore/QCoreApplication>
 
-#include <vector>
-
 namespace {
 
 ipp_attribute_t *find(ipp_t *job, const QByteArray &name)
@@ -57,18 +55,13 @@ QString difference(ipp_t *job, const JobOption &option)
         .arg(option.name, option.value, shownServerText(kept));
 }
 
-IppHandle jobRequest(const QString &queue, int jobId, const QList<JobOption> &sent)
+IppHandle readBackRequest(const QString &queue, int jobId, const QList<JobOption> &sent)
 {
-    IppHandle request = queueRequest(IPP_OP_GET_JOB_ATTRIBUTES, queue);
-    ippAddInteger(request.get(), IPP_TAG_OPERATION, IPP_TAG_INTEGER, "job-id", jobId);
+    IppHandle request = jobRequest(IPP_OP_GET_JOB_ATTRIBUTES, queue, jobId);
     QList<QByteArray> names{"job-state", "job-state-reasons"};
     for (const JobOption &option : sent)
         names += option.name.toUtf8();
-    std::vector<const char *> wanted;
-    for (const QByteArray &name : names)
-        wanted.push_back(name.constData());
-    ippAddStrings(request.get(), IPP_TAG_OPERATION, IPP_TAG_KEYWORD, "requested-attributes",
-                  static_cast<int>(wanted.size()), nullptr, wanted.data());
+    askFor(request.get(), names);
     return request;
 }
 
@@ -94,8 +87,8 @@ QStringList differences(ipp_t *job, int jobId, const QList<JobOption> &sent)
 QStringList readJobBack(ServerConnection &connection, const QString &queue, int jobId,
                         const QList<JobOption> &sent)
 {
-    const IppHandle job = connection.request(jobRequest(queue, jobId, sent), queueResource(queue),
-                                             kTimeoutsPerReadBack);
+    const IppHandle job = connection.request(readBackRequest(queue, jobId, sent),
+                                             queueResource(queue), kTimeoutsPerReadBack);
     if (job)
         return connection.succeeded() ? differences(job.get(), jobId, sent) : QStringList();
     return {QCoreApplication::translate("JobReadBack",

@@ -7,6 +7,7 @@
 #include <QtCore/QUrl>
 
 #include <cerrno>
+#include <vector>
 
 namespace {
 
@@ -332,6 +333,22 @@ IppHandle queueRequest(ipp_op_t operation, const QString &queue)
     ippAddString(request.get(), IPP_TAG_OPERATION, IPP_TAG_NAME, "requesting-user-name", nullptr,
                  requestingUser().constData());
     return request;
+}
+
+IppHandle jobRequest(ipp_op_t operation, const QString &queue, int jobId)
+{
+    IppHandle request = queueRequest(operation, queue);
+    ippAddInteger(request.get(), IPP_TAG_OPERATION, IPP_TAG_INTEGER, "job-id", jobId);
+    return request;
+}
+
+void askFor(ipp_t *request, const QList<QByteArray> &names)
+{
+    std::vector<const char *> wanted;
+    for (const QByteArray &name : names)
+        wanted.push_back(name.constData());
+    ippAddStrings(request, IPP_TAG_OPERATION, IPP_TAG_KEYWORD, "requested-attributes",
+                  static_cast<int>(wanted.size()), nullptr, wanted.data());
 }
 
 QByteArray queueResource(const QString &queue)

@@ -1,5 +1,7 @@
 #include "dialog/printing/PageCounter.h"
 
+#include "dialog/job/JobOptions.h"
+
 #include <QtCore/QCoreApplication>
 #include <QtCore/QDir>
 #include <QtCore/QProcess>
@@ -28,6 +30,14 @@ bool isPDF(const Document &document)
 }
 
 } // namespace
+
+int printedPages(const HostSettings &settings, const PageCount &documents)
+{
+    const JobLayout &layout = settings.layout;
+    const bool isPlain = settings.pageRanges.isEmpty() && layout.pagesPerSheet.isEmpty() &&
+                         layout.pageSet.isEmpty() && layout.booklet.isEmpty();
+    return isPlain ? documents.all.value_or(0) * settings.copies : 0;
+}
 
 PageCounter::PageCounter(QObject *parent) : QObject(parent) {}
 

@@ -19,6 +19,12 @@ struct PageCount
     bool operator==(const PageCount &) const = default;
 };
 
+struct HostSettings;
+
+/// How many pages the job's printer prints of so many, all copies counted; 0 where that cannot be
+/// known: where pages are chosen, or several come on a sheet.
+int printedPages(const HostSettings &settings, const PageCount &documents);
+
 /// Counts the pages of documents in a process beside this one: a PDF may come from anybody. One
 /// that takes too much memory or time is one whose pages are not known.
 class PageCounter : public QObject

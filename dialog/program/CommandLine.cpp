@@ -7,6 +7,8 @@
 
 namespace {
 
+constexpr int kMostSeconds = 1'000'000; // milliseconds of them are still a number
+
 /// One option: it has a flag, or takes a value.
 struct Option
 {
@@ -92,6 +94,19 @@ QString takeHold(CommandLine &line, const QString &value)
                                  : value);
 }
 
+QString takeTimeout(CommandLine &line, const QString &value)
+{
+    bool isNumber = false;
+    const int seconds = value.toInt(&isNumber);
+    if (!isNumber || seconds < 0 || seconds > kMostSeconds)
+        return QCoreApplication::translate("CommandLine",
+                                           "--timeout needs a number of seconds from 0 to %1, not "
+                                           "\"%2\".")
+            .arg(QString::number(kMostSeconds), value);
+    line.timeout = seconds;
+    return {};
+}
+
 /// Standard output has two names; the files know the one that is a path.
 QString takeOutput(CommandLine &line, const QString &value)
 {
@@ -117,6 +132,8 @@ constexpr std::array kOptions{
     Option{"dry-run", '\0', nullptr, &CommandLine::dryRun},
     Option{"explain", '\0', nullptr, &CommandLine::explain},
     Option{"yes", '\0', nullptr, &CommandLine::yes},
+    Option{"wait", '\0', nullptr, &CommandLine::wait},
+    Option{"timeout", '\0', nullptr, nullptr, takeTimeout},
     Option{"screenshot", '\0', &CommandLine::screenshot},
     Option{"panel", '\0', &CommandLine::panel},
     Option{"record", '\0', &CommandLine::record},
@@ -229,6 +246,10 @@ QString contradiction(const CommandLine &line)
         {line.noDialog && line.files.isEmpty(),
          QT_TRANSLATE_NOOP("CommandLine", "--no-dialog needs a document to print.")},
         {line.yes && !line.noDialog, QT_TRANSLATE_NOOP("CommandLine", "--yes is for --no-dialog.")},
+        {line.wait && (!line.noDialog || line.dryRun || !line.output.isNull()),
+         QT_TRANSLATE_NOOP("CommandLine",
+                           "--wait is for --no-dialog, where the job is sent to a printer.")},
+        {line.timeout && !line.wait, QT_TRANSLATE_NOOP("CommandLine", "--timeout is for --wait.")},
         {line.explain && !line.noDialog,
          QT_TRANSLATE_NOOP("CommandLine", "--explain is for --no-dialog.")},
         {line.dryRun && !line.noDialog,

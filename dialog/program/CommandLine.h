@@ -21,6 +21,8 @@ struct CommandLine : DialogWishes
     bool noDialog = false;
     bool forgetAlerts = false; ///< --forget-alerts
     bool yes = false;
+    bool wait = false;          ///< for the job's end
+    std::optional<int> timeout; ///< in seconds: how long a job may be stopped or held then
     bool version = false;
     bool help = false;
 };

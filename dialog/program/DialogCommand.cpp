@@ -1,5 +1,6 @@
 #include "dialog/program/DialogCommand.h"
 
+#include "dialog/printing/FollowPreference.h"
 #include "dialog/printing/SettingRequests.h"
 #include "dialog/program/CommandOutput.h"
 #include "dialog/program/ExitStatus.h"
@@ -10,6 +11,7 @@
 #include "dialog/program/Translations.h"
 #include "dialog/program/WhyCommand.h"
 #include "dialog/window/DialogWindow.h"
+#include "dialog/window/JobWindow.h"
 #include "dialog/work/BackgroundCall.h"
 #include "dialog/work/EndSignals.h"
 
@@ -18,6 +20,7 @@
 #include <QtWidgets/QApplication>
 
 #include <cstdlib>
+#include <memory>
 
 namespace {
 
@@ -36,7 +39,19 @@ ExitStatus runDialog(const CommandLine &line)
         return failWith(known.fault());
     if (const Result<> begun = recording.begin(line, window.controller()); !begun)
         return failWith(begun.fault());
-    const EndSignals signals([&window] { window.end(); }); // a server may be asked from here on
+    std::unique_ptr<JobWindow> follower;
+    QObject::connect(&window, &DialogWindow::jobSent, &window,
+                     [&follower](const QString &server, const JobName &job) {
+                         if (!followsJobs())
+                             return;
+                         follower = std::make_unique<JobWindow>(server, job);
+                         follower->show();
+                     });
+    const EndSignals signals([&] { // a server may be asked from here on
+        window.end();
+        if (follower)
+            follower->reject();
+    });
     window.start();
     window.show();
     QApplication::exec();

@@ -12,6 +12,7 @@ enum class ExitStatus {
     Server = 6,    ///< the server or the queue cannot be reached, the job was refused, or its fate
                    ///< is not known
     PlugIn = 7,    ///< the plug-in cannot be used, or cannot check a PPD
+    Waiting = 8,   ///< with --wait and --timeout: the job was stopped or held for too long
 };
 
 constexpr int exitCode(ExitStatus status)

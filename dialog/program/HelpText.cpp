@@ -43,6 +43,10 @@ Job
                           one that was lost is to be had
       --yes               answer yes to what a check asks, instead of no, and
                           print without the settings that cannot be had
+      --wait              with --no-dialog: wait until the job is printed, and
+                          tell on standard error where it stands
+      --timeout SECONDS   with --wait: for so long at most while the job is
+                          stopped or held
 
 Looking and testing
       --screenshot FILE.png
@@ -66,7 +70,7 @@ Looking and testing
 Exit status
   0  printed, written, checked, or the script ran to its end
   1  cancelled in the dialog, or by a signal before the server had the
-     whole job
+     whole job or while it was waited for
   2  a wrong option, setting or script, a PPD that cannot be opened, or no
      display for the dialog
   3  a check stopped the job, or a setting could not be had together
@@ -74,8 +78,10 @@ Exit status
   4  a document cannot be read
   5  an output file cannot be written, or exists already
   6  the server or the queue cannot be reached, the job was refused, or it
-     is not known whether it was taken
+     is not known whether it was taken; with --wait: the job was cancelled
+     elsewhere, or ended with errors
   7  the plug-in cannot be used, or cannot check a PPD
+  8  with --wait and --timeout: the job was stopped or held for too long
 )",
     "The installation is incomplete: %s",
     "the program's own place is unknown",

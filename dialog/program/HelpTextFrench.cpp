@@ -49,6 +49,10 @@ Travail
       --yes               répondre oui, et non pas non, à ce que demande une
                           vérification, et imprimer sans les réglages
                           impossibles
+      --wait              avec --no-dialog : attendre que le travail soit
+                          imprimé, et dire sur l’erreur standard où il en est
+      --timeout SECONDS   avec --wait : aussi longtemps au plus tant que le
+                          travail est arrêté ou retenu
 
 Examen et essais
       --screenshot FILE.png
@@ -75,7 +79,7 @@ Examen et essais
 Code de retour
   0  imprimé, écrit, vérifié, ou le script est allé jusqu’à la fin
   1  annulé dans la boîte de dialogue, ou par un signal avant que le serveur
-     n’ait tout le travail
+     n’ait tout le travail ou pendant l’attente
   2  option, réglage ou script incorrect, fichier PPD impossible à ouvrir, ou
      aucun écran pour la boîte de dialogue
   3  une vérification a arrêté le travail, ou un réglage n’était pas possible
@@ -83,8 +87,11 @@ Code de retour
   4  un document ne peut pas être lu
   5  un fichier de sortie ne peut pas être écrit ou existe déjà
   6  le serveur ou la file d’attente est injoignable, le travail a été refusé,
-     ou l’on ignore s’il a été accepté
+     ou l’on ignore s’il a été accepté ; avec --wait : il a été annulé
+     ailleurs, ou s’est terminé avec des erreurs
   7  le module ne peut pas être utilisé, ou ne peut pas vérifier de fichier PPD
+  8  avec --wait et --timeout : le travail est resté trop longtemps arrêté ou
+     retenu
 )",
     "L’installation est incomplète : %s",
     "l’emplacement du programme est inconnu",

@@ -48,6 +48,11 @@ Auftrag
       --yes               was eine Prüfung fragt, mit Ja beantworten statt mit
                           Nein, und ohne die Einstellungen drucken, die nicht
                           möglich sind
+      --wait              mit --no-dialog: warten, bis der Auftrag gedruckt
+                          ist, und auf der Standardfehlerausgabe sagen, wie es
+                          um ihn steht
+      --timeout SECONDS   mit --wait: höchstens so lange, wie der Auftrag
+                          angehalten ist oder zurückgehalten wird
 
 Ansehen und prüfen
       --screenshot FILE.png
@@ -73,7 +78,7 @@ Ansehen und prüfen
 Exit-Status
   0  gedruckt, geschrieben, geprüft, oder das Skript lief bis zum Ende
   1  im Dialog abgebrochen, oder durch ein Signal, bevor der Server den
-     ganzen Auftrag hatte
+     ganzen Auftrag hatte oder während auf ihn gewartet wurde
   2  falsche Option, Einstellung oder falsches Skript, eine PPD-Datei, die
      sich nicht öffnen lässt, oder kein Bildschirm für den Dialog
   3  eine Prüfung hat den Auftrag angehalten, oder eine Einstellung war
@@ -81,8 +86,11 @@ Exit-Status
   4  ein Dokument kann nicht gelesen werden
   5  eine Ausgabedatei kann nicht geschrieben werden oder ist bereits vorhanden
   6  der Server oder die Warteschlange ist nicht erreichbar, der Auftrag wurde
-     abgelehnt, oder es ist nicht bekannt, ob er angenommen wurde
+     abgelehnt, oder es ist nicht bekannt, ob er angenommen wurde; mit
+     --wait: er wurde anderswo abgebrochen oder endete mit Fehlern
   7  das Plug-in kann nicht verwendet werden oder keine PPD-Datei prüfen
+  8  mit --wait und --timeout: der Auftrag war zu lange angehalten oder
+     zurückgehalten
 )",
     "Die Installation ist unvollständig: %s",
     "der Ort des Programms ist unbekannt",

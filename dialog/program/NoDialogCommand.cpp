@@ -13,12 +13,15 @@
 #include "dialog/printing/SettingRequests.h"
 #include "dialog/program/CommandOutput.h"
 #include "dialog/program/Explanation.h"
+#include "dialog/program/JobWait.h"
 #include "dialog/program/SessionRecording.h"
 #include "dialog/work/EndSignals.h"
 #include "dialog/work/Sentences.h"
 
 #include <QtCore/QCoreApplication>
 #include <QtCore/QEventLoop>
+
+#include <optional>
 
 namespace {
 
@@ -33,6 +36,12 @@ void list(const JobRequest &job)
     for (const JobOption &option : job.options)
         warn(QCoreApplication::translate("NoDialogCommand", "Setting: %1=%2")
                  .arg(option.name, option.value));
+}
+
+/// For scripts, which read it as what `lp` says: the same in every language.
+QString receiptLine(const QString &queue, int id, std::size_t files)
+{
+    return QStringLiteral("request id is %1-%2 (%3 file(s))").arg(queue).arg(id).arg(files);
 }
 
 QString beyondSentence(int page, int last)
@@ -67,6 +76,7 @@ private:
     void decide(const FinishedJob &finished);
     void deliver(const JobRequest &request);
     void send(const JobRequest &request);
+    void waitFor(const QString &queue, int id);
     void write(const JobRequest &request);
     void endDryRun(const QString &sentence);
 
@@ -83,6 +93,8 @@ private:
     SessionRecording m_recording; // hands alerts on to the answers; outlives the session
     PrintController m_controller;
     EndSignals m_signals;
+    std::optional<JobWait> m_wait;
+    int m_pages = 0; ///< that the job prints; 0: not known
     QEventLoop m_loop;
     QString m_told; ///< the sentence of the fault that ended the run
 };
@@ -181,13 +193,14 @@ void Run::makeSettings()
 void Run::countPages()
 {
     const QString ranges = m_controller.job().settings().pageRanges;
-    if (ranges.isEmpty()) {
+    if (ranges.isEmpty() && !m_line.wait) {
         finish();
         return;
     }
     m_controller.countPages([this, ranges](const PageCount &count) {
+        m_pages = printedPages(m_controller.job().settings(), count);
         const std::optional<int> beyond =
-            count.fewest ? pageBeyond(ranges, *count.fewest) : std::nullopt;
+            count.fewest && !ranges.isEmpty() ? pageBeyond(ranges, *count.fewest) : std::nullopt;
         if (goOn(beyond
                      ? Result<>(Fault{FaultKind::Request, beyondSentence(*beyond, *count.fewest)})
                      : Result<>()))
@@ -251,12 +264,25 @@ void Run::send(const JobRequest &request)
             goOn(receipt.fault());
             return;
         }
-        report(m_line, QCoreApplication::translate("NoDialogCommand", "%1 accepted job %2.")
-                           .arg(queue, QString::number(receipt->id)));
+        report(m_line, receiptLine(queue, receipt->id, m_controller.job().documents().size()));
         for (const QString &note : receipt->notes)
             warn(note);
-        end(ExitStatus::Done);
+        if (m_line.wait)
+            waitFor(queue, receipt->id);
+        else
+            end(ExitStatus::Done);
     });
+}
+
+/// The job is at the server: from here on a signal is a matter of the wait.
+void Run::waitFor(const QString &queue, int id)
+{
+    const std::optional<std::chrono::seconds> timeout =
+        m_line.timeout ? std::optional<std::chrono::seconds>(*m_line.timeout) : std::nullopt;
+    m_wait.emplace(m_line.server, JobName{queue, id, m_pages}, timeout,
+                   [this](ExitStatus status) { end(status); });
+    m_signals.setAction([this] { m_wait->end(EndSignals::first()); });
+    m_wait->start();
 }
 
 void Run::write(const JobRequest &request)

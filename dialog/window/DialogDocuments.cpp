@@ -45,6 +45,7 @@ void DialogWindow::readPipes()
 void DialogWindow::countPages()
 {
     m_controller.countPages([this](const PageCount &count) {
+        m_pageCount = count;
         m_header->setPageCount(count);
         updateButtons();
     });

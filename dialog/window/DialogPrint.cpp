@@ -116,8 +116,11 @@ void DialogWindow::send(const JobRequest &request)
     beginSending(tr("Sending the job to %1…").arg(request.queue),
                  m_controller.send(request, [this, queue = job().source().queue](
                                                 const Result<JobReceipt> &receipt) {
-                     if (receipt)
+                     if (receipt) {
                          rememberPrinter(m_wishes.server, queue);
+                         m_sent = {queue.queue, receipt->id,
+                                   m_savedJob ? 0 : printedPages(job().settings(), m_pageCount)};
+                     }
                      const bool hasNote = receipt && !receipt->notes.isEmpty();
                      endSending(receipt ? Result<>() : receipt.fault(),
                                 hasNote ? tr("Job %1 was accepted. %2")

@@ -287,6 +287,8 @@ void DialogWindow::done(int result)
                                              static_cast<QWidget *>(this));
     closePrinter();
     setKeyWindow(nullptr);
+    if (m_sent)
+        Q_EMIT jobSent(m_wishes.server, *m_sent);
     QDialog::done(result);
 }
 

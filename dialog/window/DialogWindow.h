@@ -1,5 +1,6 @@
 #pragma once
 
+#include "dialog/cups/JobSentence.h"
 #include "dialog/host/SessionObserver.h"
 #include "dialog/printing/PrintController.h"
 #include "dialog/printing/SettingState.h"
@@ -82,6 +83,9 @@ public:
 
 Q_SIGNALS:
     void stateChanged();
+
+    /// The dialog closes, and leaves a job behind that a server has accepted.
+    void jobSent(const QString &server, const JobName &job);
 
 protected:
     void resizeEvent(QResizeEvent *event) override;
@@ -238,6 +242,8 @@ private:
     bool m_presetIsNew = false; ///< the one that is being opened
     bool m_isEnding = false;
     bool m_mayHavePrinted = false; ///< what Print did last
+    PageCount m_pageCount;         ///< of the documents
+    std::optional<JobName> m_sent; ///< the job that the server has accepted
 
     PrinterWatch m_watch;
     JobHeader *m_header;

@@ -1,5 +1,6 @@
 #include "dialog/window/PresetsRow.h"
 
+#include "dialog/printing/FollowPreference.h"
 #include "dialog/printing/LastUsed.h"
 #include "platform/toolkit/PlainText.h"
 #include "platform/toolkit/PopUpButton.h"
@@ -56,7 +57,9 @@ PresetsRow::PresetsRow(QWidget *parent)
     m_menu->menu()->addSeparator();
     m_defaults = addAction(u"printerDefaults"_s, tr("Back to the Printer's Defaults"));
     m_remember = addAction(u"rememberLastUsed"_s, tr("Start with the Settings Used Last"));
-    m_remember->setCheckable(true);
+    m_follow = addAction(u"followJobs"_s, tr("Follow the Job After Printing"));
+    for (QAction *action : {m_remember, m_follow})
+        action->setCheckable(true);
     m_menu->menu()->addSeparator();
     m_alerts = addAction(u"hiddenAlerts"_s, tr("Hidden Warnings…"));
     auto *layout = new QHBoxLayout(this);
@@ -71,9 +74,12 @@ PresetsRow::PresetsRow(QWidget *parent)
     connect(m_defaults, &QAction::triggered, this, [this] { pick(kPrinterItem); });
     connect(m_remember, &QAction::triggered, this, setRemembersLastUsed);
     connect(m_alerts, &QAction::triggered, this, &PresetsRow::hiddenAlertsWanted);
-    // Another dialog may have changed it.
-    connect(m_menu->menu(), &QMenu::aboutToShow, this,
-            [this] { m_remember->setChecked(remembersLastUsed()); });
+    connect(m_follow, &QAction::triggered, this, setFollowsJobs);
+    // Another dialog may have changed them.
+    connect(m_menu->menu(), &QMenu::aboutToShow, this, [this] {
+        m_remember->setChecked(remembersLastUsed());
+        m_follow->setChecked(followsJobs());
+    });
     showChoices({});
 }
 

@@ -55,5 +55,6 @@ private:
     QAction *m_delete;
     QAction *m_defaults;
     QAction *m_remember;
+    QAction *m_follow;
     QAction *m_alerts;
 };

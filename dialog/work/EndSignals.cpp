@@ -12,13 +12,14 @@ namespace {
 
 // What a handler may touch.
 std::atomic<int> g_event = -1;
-std::atomic<bool> g_haveCome = false;
+std::atomic<int> g_first = 0; // the number of a signal
 
-static_assert(std::atomic<int>::is_always_lock_free && std::atomic<bool>::is_always_lock_free);
+static_assert(std::atomic<int>::is_always_lock_free);
 
 void handle(int number)
 {
-    if (g_haveCome.exchange(true)) {
+    int none = 0;
+    if (!g_first.compare_exchange_strong(none, number)) {
         std::signal(number, SIG_DFL);
         std::raise(number); // held back until this handler has returned
         return;
@@ -32,7 +33,7 @@ void handle(int number)
 
 EndSignals::EndSignals(std::function<void()> action) : m_action(std::move(action))
 {
-    g_haveCome = false;
+    g_first = 0;
     g_event = eventfd(0, EFD_CLOEXEC | EFD_NONBLOCK);
     m_notifier = std::make_unique<QSocketNotifier>(g_event, QSocketNotifier::Read);
     connect(m_notifier.get(), &QSocketNotifier::activated, this, [this] {
@@ -64,9 +65,9 @@ void EndSignals::setAction(std::function<void()> action)
         act();
 }
 
-bool EndSignals::haveCome()
+int EndSignals::first()
 {
-    return g_haveCome;
+    return g_first;
 }
 
 void EndSignals::act()

@@ -23,7 +23,10 @@ public:
     void setAction(std::function<void()> action);
 
     /// Whether a signal has come, told before any event is.
-    static bool haveCome();
+    static bool haveCome() { return first() != 0; }
+
+    /// The number of the first signal that has come; 0: none.
+    static int first();
 
 private:
     void act();

@@ -113,6 +113,18 @@
         <source>--dry-run and --record do not go together.</source>
         <translation>--dry-run und --record gehen nicht zusammen.</translation>
     </message>
+    <message>
+        <source>--timeout needs a number of seconds from 0 to %1, not &quot;%2&quot;.</source>
+        <translation>--timeout braucht eine Anzahl von Sekunden von 0 bis %1, nicht „%2“.</translation>
+    </message>
+    <message>
+        <source>--wait is for --no-dialog, where the job is sent to a printer.</source>
+        <translation>--wait gilt für --no-dialog, wenn der Auftrag an einen Drucker geht.</translation>
+    </message>
+    <message>
+        <source>--timeout is for --wait.</source>
+        <translation>--timeout gilt für --wait.</translation>
+    </message>
 </context>
 <context>
     <name>Conflicts</name>
@@ -999,6 +1011,93 @@ Umschalt+F1 oder das Kontextmenü sagt, warum.</translation>
     </message>
 </context>
 <context>
+    <name>JobSentence</name>
+    <message>
+        <source>Job %1 on %2 is waiting for its turn.</source>
+        <translation>Auftrag %1 auf %2 wartet, bis er an der Reihe ist.</translation>
+    </message>
+    <message>
+        <source>Job %1 on %2 is held.</source>
+        <translation>Auftrag %1 auf %2 wird zurückgehalten.</translation>
+    </message>
+    <message>
+        <source>Job %1 on %2 is held: %3.</source>
+        <translation>Auftrag %1 auf %2 wird zurückgehalten: %3.</translation>
+    </message>
+    <message>
+        <source>Job %1 on %2 is held: it will be tried again later.</source>
+        <translation>Auftrag %1 auf %2 wird zurückgehalten und später noch einmal versucht.</translation>
+    </message>
+    <message>
+        <source>Job %1 on %2 is held and will be tried again later: %3.</source>
+        <translation>Auftrag %1 auf %2 wird zurückgehalten und später noch einmal versucht: %3.</translation>
+    </message>
+    <message>
+        <source>Job %1 on %2 is held until its printer is given a user name and a password.</source>
+        <translation>Auftrag %1 auf %2 wird zurückgehalten, bis der Drucker einen Benutzernamen und ein Kennwort bekommt.</translation>
+    </message>
+    <message>
+        <source>Job %1 on %2 is printing.</source>
+        <translation>Auftrag %1 auf %2 wird gedruckt.</translation>
+    </message>
+    <message>
+        <source>Job %1 on %2: the printer needs somebody.</source>
+        <translation>Auftrag %1 auf %2: Der Drucker braucht jemanden.</translation>
+    </message>
+    <message>
+        <source>Job %1 on %2: the printer needs somebody: %3.</source>
+        <translation>Auftrag %1 auf %2: Der Drucker braucht jemanden: %3.</translation>
+    </message>
+    <message>
+        <source>Job %1 on %2 is waiting: the printer is stopped.</source>
+        <translation>Auftrag %1 auf %2 wartet: Der Drucker ist angehalten.</translation>
+    </message>
+    <message>
+        <source>Job %1 on %2 is waiting: the printer is stopped: %3.</source>
+        <translation>Auftrag %1 auf %2 wartet: Der Drucker ist angehalten: %3.</translation>
+    </message>
+    <message>
+        <source>Job %1 on %2 is printed.</source>
+        <translation>Auftrag %1 auf %2 ist gedruckt.</translation>
+    </message>
+    <message>
+        <source>Job %1 on %2 has ended with errors.</source>
+        <translation>Auftrag %1 auf %2 ist mit Fehlern zu Ende gegangen.</translation>
+    </message>
+    <message>
+        <source>Job %1 on %2 has ended with errors: %3.</source>
+        <translation>Auftrag %1 auf %2 ist mit Fehlern zu Ende gegangen: %3.</translation>
+    </message>
+    <message>
+        <source>Job %1 on %2 was cancelled.</source>
+        <translation>Auftrag %1 auf %2 wurde abgebrochen.</translation>
+    </message>
+    <message>
+        <source>The server has given job %1 on %2 up.</source>
+        <translation>Der Server hat Auftrag %1 auf %2 aufgegeben.</translation>
+    </message>
+    <message>
+        <source>The server has given job %1 on %2 up: %3.</source>
+        <translation>Der Server hat Auftrag %1 auf %2 aufgegeben: %3.</translation>
+    </message>
+    <message>
+        <source>The server has no record of job %1 on %2 any more: whether it was printed is not known.</source>
+        <translation>Der Server weiß nichts mehr von Auftrag %1 auf %2: Ob er gedruckt wurde, ist nicht bekannt.</translation>
+    </message>
+    <message>
+        <source>Job %1 on %2 is held until %3.</source>
+        <translation>Auftrag %1 auf %2 wird bis %3 zurückgehalten.</translation>
+    </message>
+    <message>
+        <source>Job %1 on %2 is printing, %3 sheets so far.</source>
+        <translation>Auftrag %1 auf %2 wird gedruckt, Blätter bisher: %3.</translation>
+    </message>
+    <message>
+        <source>Job %1 on %2 is printing page %3 of %4.</source>
+        <translation>Auftrag %1 auf %2: Seite %3 von %4 wird gedruckt.</translation>
+    </message>
+</context>
+<context>
     <name>JobSettlement</name>
     <message>
         <source>%1 Job %2 could not be cancelled at %3 and may be printed.</source>
@@ -1085,6 +1184,48 @@ Umschalt+F1 oder das Kontextmenü sagt, warum.</translation>
     </message>
 </context>
 <context>
+    <name>JobWait</name>
+    <message>
+        <source>Job %1 on %2 was not waited for any longer; it stays where it is.</source>
+        <translation>Auf Auftrag %1 auf %2 wurde nicht länger gewartet; er bleibt, wo er ist.</translation>
+    </message>
+    <message>
+        <source>Job %1 on %2 goes on without being waited for.</source>
+        <translation>Auftrag %1 auf %2 läuft weiter, ohne dass auf ihn gewartet wird.</translation>
+    </message>
+</context>
+<context>
+    <name>JobWindow</name>
+    <message>
+        <source>Job %1 on %2</source>
+        <translation>Auftrag %1 auf %2</translation>
+    </message>
+    <message>
+        <source>Pages</source>
+        <translation>Seiten</translation>
+    </message>
+    <message>
+        <source>Hold</source>
+        <translation>Zurückhalten</translation>
+    </message>
+    <message>
+        <source>Release</source>
+        <translation>Freigeben</translation>
+    </message>
+    <message>
+        <source>Print Again</source>
+        <translation>Erneut drucken</translation>
+    </message>
+    <message>
+        <source>Cancel Job</source>
+        <translation>Auftrag abbrechen</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Schließen</translation>
+    </message>
+</context>
+<context>
     <name>LayoutPane</name>
     <message>
         <source>%1:</source>
@@ -1143,10 +1284,6 @@ Umschalt+F1 oder das Kontextmenü sagt, warum.</translation>
     <message>
         <source>No queue was named to print to; -d QUEUE names one, --output FILE keeps the job.</source>
         <translation>Es ist keine Warteschlange angegeben; -d QUEUE gibt eine an, --output FILE bewahrt den Auftrag auf.</translation>
-    </message>
-    <message>
-        <source>%1 accepted job %2.</source>
-        <translation>%1 hat Auftrag %2 angenommen.</translation>
     </message>
     <message>
         <source>The job was written to %1.</source>
@@ -1591,6 +1728,10 @@ Umschalt+F1 oder das Kontextmenü sagt, warum.</translation>
     <message>
         <source>%1 (from the printer&apos;s maker)</source>
         <translation>%1 (vom Druckerhersteller)</translation>
+    </message>
+    <message>
+        <source>Follow the Job After Printing</source>
+        <translation>Auftrag nach dem Drucken verfolgen</translation>
     </message>
 </context>
 <context>

@@ -113,6 +113,18 @@
         <source>--dry-run and --record do not go together.</source>
         <translation>--dry-run et --record ne vont pas ensemble.</translation>
     </message>
+    <message>
+        <source>--timeout needs a number of seconds from 0 to %1, not &quot;%2&quot;.</source>
+        <translation>--timeout demande un nombre de secondes de 0 à %1, et non « %2 ».</translation>
+    </message>
+    <message>
+        <source>--wait is for --no-dialog, where the job is sent to a printer.</source>
+        <translation>--wait s’emploie avec --no-dialog, quand le travail est envoyé à une imprimante.</translation>
+    </message>
+    <message>
+        <source>--timeout is for --wait.</source>
+        <translation>--timeout s’emploie avec --wait.</translation>
+    </message>
 </context>
 <context>
     <name>Conflicts</name>
@@ -999,6 +1011,93 @@ Maj+F1 ou le menu contextuel dit pourquoi.</translation>
     </message>
 </context>
 <context>
+    <name>JobSentence</name>
+    <message>
+        <source>Job %1 on %2 is waiting for its turn.</source>
+        <translation>Le travail %1 sur %2 attend son tour.</translation>
+    </message>
+    <message>
+        <source>Job %1 on %2 is held.</source>
+        <translation>Le travail %1 sur %2 est retenu.</translation>
+    </message>
+    <message>
+        <source>Job %1 on %2 is held: %3.</source>
+        <translation>Le travail %1 sur %2 est retenu : %3.</translation>
+    </message>
+    <message>
+        <source>Job %1 on %2 is held: it will be tried again later.</source>
+        <translation>Le travail %1 sur %2 est retenu ; il sera réessayé plus tard.</translation>
+    </message>
+    <message>
+        <source>Job %1 on %2 is held and will be tried again later: %3.</source>
+        <translation>Le travail %1 sur %2 est retenu et sera réessayé plus tard : %3.</translation>
+    </message>
+    <message>
+        <source>Job %1 on %2 is held until its printer is given a user name and a password.</source>
+        <translation>Le travail %1 sur %2 est retenu jusqu’à ce que son imprimante reçoive un nom d’utilisateur et un mot de passe.</translation>
+    </message>
+    <message>
+        <source>Job %1 on %2 is printing.</source>
+        <translation>Le travail %1 sur %2 est en cours d’impression.</translation>
+    </message>
+    <message>
+        <source>Job %1 on %2: the printer needs somebody.</source>
+        <translation>Travail %1 sur %2 : l’imprimante a besoin de quelqu’un.</translation>
+    </message>
+    <message>
+        <source>Job %1 on %2: the printer needs somebody: %3.</source>
+        <translation>Travail %1 sur %2 : l’imprimante a besoin de quelqu’un : %3.</translation>
+    </message>
+    <message>
+        <source>Job %1 on %2 is waiting: the printer is stopped.</source>
+        <translation>Le travail %1 sur %2 attend : l’imprimante est arrêtée.</translation>
+    </message>
+    <message>
+        <source>Job %1 on %2 is waiting: the printer is stopped: %3.</source>
+        <translation>Le travail %1 sur %2 attend : l’imprimante est arrêtée : %3.</translation>
+    </message>
+    <message>
+        <source>Job %1 on %2 is printed.</source>
+        <translation>Le travail %1 sur %2 est imprimé.</translation>
+    </message>
+    <message>
+        <source>Job %1 on %2 has ended with errors.</source>
+        <translation>Le travail %1 sur %2 s’est terminé avec des erreurs.</translation>
+    </message>
+    <message>
+        <source>Job %1 on %2 has ended with errors: %3.</source>
+        <translation>Le travail %1 sur %2 s’est terminé avec des erreurs : %3.</translation>
+    </message>
+    <message>
+        <source>Job %1 on %2 was cancelled.</source>
+        <translation>Le travail %1 sur %2 a été annulé.</translation>
+    </message>
+    <message>
+        <source>The server has given job %1 on %2 up.</source>
+        <translation>Le serveur a abandonné le travail %1 sur %2.</translation>
+    </message>
+    <message>
+        <source>The server has given job %1 on %2 up: %3.</source>
+        <translation>Le serveur a abandonné le travail %1 sur %2 : %3.</translation>
+    </message>
+    <message>
+        <source>The server has no record of job %1 on %2 any more: whether it was printed is not known.</source>
+        <translation>Le serveur n’a plus trace du travail %1 sur %2 : on ne sait pas s’il a été imprimé.</translation>
+    </message>
+    <message>
+        <source>Job %1 on %2 is held until %3.</source>
+        <translation>Le travail %1 sur %2 est retenu jusqu’à %3.</translation>
+    </message>
+    <message>
+        <source>Job %1 on %2 is printing, %3 sheets so far.</source>
+        <translation>Le travail %1 sur %2 est en cours d’impression, feuilles jusqu’ici : %3.</translation>
+    </message>
+    <message>
+        <source>Job %1 on %2 is printing page %3 of %4.</source>
+        <translation>Travail %1 sur %2 : impression de la page %3 sur %4.</translation>
+    </message>
+</context>
+<context>
     <name>JobSettlement</name>
     <message>
         <source>%1 Job %2 could not be cancelled at %3 and may be printed.</source>
@@ -1085,6 +1184,48 @@ Maj+F1 ou le menu contextuel dit pourquoi.</translation>
     </message>
 </context>
 <context>
+    <name>JobWait</name>
+    <message>
+        <source>Job %1 on %2 was not waited for any longer; it stays where it is.</source>
+        <translation>Le travail %1 sur %2 n’a pas été attendu plus longtemps ; il reste où il est.</translation>
+    </message>
+    <message>
+        <source>Job %1 on %2 goes on without being waited for.</source>
+        <translation>Le travail %1 sur %2 continue sans être attendu.</translation>
+    </message>
+</context>
+<context>
+    <name>JobWindow</name>
+    <message>
+        <source>Job %1 on %2</source>
+        <translation>Travail %1 sur %2</translation>
+    </message>
+    <message>
+        <source>Pages</source>
+        <translation>Pages</translation>
+    </message>
+    <message>
+        <source>Hold</source>
+        <translation>Retenir</translation>
+    </message>
+    <message>
+        <source>Release</source>
+        <translation>Libérer</translation>
+    </message>
+    <message>
+        <source>Print Again</source>
+        <translation>Imprimer à nouveau</translation>
+    </message>
+    <message>
+        <source>Cancel Job</source>
+        <translation>Annuler le travail</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Fermer</translation>
+    </message>
+</context>
+<context>
     <name>LayoutPane</name>
     <message>
         <source>%1:</source>
@@ -1143,10 +1284,6 @@ Maj+F1 ou le menu contextuel dit pourquoi.</translation>
     <message>
         <source>No queue was named to print to; -d QUEUE names one, --output FILE keeps the job.</source>
         <translation>Aucune file d’attente n’est indiquée ; -d QUEUE en désigne une, --output FILE conserve le travail.</translation>
-    </message>
-    <message>
-        <source>%1 accepted job %2.</source>
-        <translation>%1 a accepté le travail %2.</translation>
     </message>
     <message>
         <source>The job was written to %1.</source>
@@ -1591,6 +1728,10 @@ Maj+F1 ou le menu contextuel dit pourquoi.</translation>
     <message>
         <source>%1 (from the printer&apos;s maker)</source>
         <translation>%1 (du fabricant de l’imprimante)</translation>
+    </message>
+    <message>
+        <source>Follow the Job After Printing</source>
+        <translation>Suivre le travail après l’impression</translation>
     </message>
 </context>
 <context>

@@ -113,6 +113,18 @@
         <source>--dry-run and --record do not go together.</source>
         <translation>--dry-run と --record は同時に使えません。</translation>
     </message>
+    <message>
+        <source>--timeout needs a number of seconds from 0 to %1, not &quot;%2&quot;.</source>
+        <translation>--timeout には 0 から %1 までの秒数が必要です。「%2」は使えません。</translation>
+    </message>
+    <message>
+        <source>--wait is for --no-dialog, where the job is sent to a printer.</source>
+        <translation>--wait は、--no-dialog でジョブをプリンターに送るときに使います。</translation>
+    </message>
+    <message>
+        <source>--timeout is for --wait.</source>
+        <translation>--timeout は --wait と一緒に使います。</translation>
+    </message>
 </context>
 <context>
     <name>Conflicts</name>
@@ -999,6 +1011,93 @@ Shift+F1 or the context menu tells why.</source>
     </message>
 </context>
 <context>
+    <name>JobSentence</name>
+    <message>
+        <source>Job %1 on %2 is waiting for its turn.</source>
+        <translation>%2 のジョブ %1 は順番を待っています。</translation>
+    </message>
+    <message>
+        <source>Job %1 on %2 is held.</source>
+        <translation>%2 のジョブ %1 は保留されています。</translation>
+    </message>
+    <message>
+        <source>Job %1 on %2 is held: %3.</source>
+        <translation>%2 のジョブ %1 は保留されています：%3。</translation>
+    </message>
+    <message>
+        <source>Job %1 on %2 is held: it will be tried again later.</source>
+        <translation>%2 のジョブ %1 は保留されています。後でもう一度試みます。</translation>
+    </message>
+    <message>
+        <source>Job %1 on %2 is held and will be tried again later: %3.</source>
+        <translation>%2 のジョブ %1 は保留されています。後でもう一度試みます：%3。</translation>
+    </message>
+    <message>
+        <source>Job %1 on %2 is held until its printer is given a user name and a password.</source>
+        <translation>%2 のジョブ %1 は、プリンターにユーザー名とパスワードが渡されるまで保留されています。</translation>
+    </message>
+    <message>
+        <source>Job %1 on %2 is printing.</source>
+        <translation>%2 のジョブ %1 を印刷しています。</translation>
+    </message>
+    <message>
+        <source>Job %1 on %2: the printer needs somebody.</source>
+        <translation>%2 のジョブ %1：プリンターの確認が必要です。</translation>
+    </message>
+    <message>
+        <source>Job %1 on %2: the printer needs somebody: %3.</source>
+        <translation>%2 のジョブ %1：プリンターの確認が必要です：%3。</translation>
+    </message>
+    <message>
+        <source>Job %1 on %2 is waiting: the printer is stopped.</source>
+        <translation>%2 のジョブ %1 は待っています：プリンターが停止しています。</translation>
+    </message>
+    <message>
+        <source>Job %1 on %2 is waiting: the printer is stopped: %3.</source>
+        <translation>%2 のジョブ %1 は待っています：プリンターが停止しています：%3。</translation>
+    </message>
+    <message>
+        <source>Job %1 on %2 is printed.</source>
+        <translation>%2 のジョブ %1 の印刷が終わりました。</translation>
+    </message>
+    <message>
+        <source>Job %1 on %2 has ended with errors.</source>
+        <translation>%2 のジョブ %1 はエラーで終わりました。</translation>
+    </message>
+    <message>
+        <source>Job %1 on %2 has ended with errors: %3.</source>
+        <translation>%2 のジョブ %1 はエラーで終わりました：%3。</translation>
+    </message>
+    <message>
+        <source>Job %1 on %2 was cancelled.</source>
+        <translation>%2 のジョブ %1 は取り消されました。</translation>
+    </message>
+    <message>
+        <source>The server has given job %1 on %2 up.</source>
+        <translation>サーバーは %2 のジョブ %1 を中止しました。</translation>
+    </message>
+    <message>
+        <source>The server has given job %1 on %2 up: %3.</source>
+        <translation>サーバーは %2 のジョブ %1 を中止しました：%3。</translation>
+    </message>
+    <message>
+        <source>The server has no record of job %1 on %2 any more: whether it was printed is not known.</source>
+        <translation>%2 のジョブ %1 の記録がサーバーにもうありません。印刷されたかどうかは分かりません。</translation>
+    </message>
+    <message>
+        <source>Job %1 on %2 is held until %3.</source>
+        <translation>%2 のジョブ %1 は %3 まで保留されています。</translation>
+    </message>
+    <message>
+        <source>Job %1 on %2 is printing, %3 sheets so far.</source>
+        <translation>%2 のジョブ %1 を印刷しています。これまでに %3 枚です。</translation>
+    </message>
+    <message>
+        <source>Job %1 on %2 is printing page %3 of %4.</source>
+        <translation>%2 のジョブ %1：%4 ページ中 %3 ページ目を印刷しています。</translation>
+    </message>
+</context>
+<context>
     <name>JobSettlement</name>
     <message>
         <source>%1 Job %2 could not be cancelled at %3 and may be printed.</source>
@@ -1085,6 +1184,48 @@ Shift+F1 or the context menu tells why.</source>
     </message>
 </context>
 <context>
+    <name>JobWait</name>
+    <message>
+        <source>Job %1 on %2 was not waited for any longer; it stays where it is.</source>
+        <translation>%2 のジョブ %1 をこれ以上は待ちません。ジョブはそのまま残ります。</translation>
+    </message>
+    <message>
+        <source>Job %1 on %2 goes on without being waited for.</source>
+        <translation>%2 のジョブ %1 は続きますが、待つのは終わります。</translation>
+    </message>
+</context>
+<context>
+    <name>JobWindow</name>
+    <message>
+        <source>Job %1 on %2</source>
+        <translation>%2 のジョブ %1</translation>
+    </message>
+    <message>
+        <source>Pages</source>
+        <translation>ページ</translation>
+    </message>
+    <message>
+        <source>Hold</source>
+        <translation>保留</translation>
+    </message>
+    <message>
+        <source>Release</source>
+        <translation>保留を解除</translation>
+    </message>
+    <message>
+        <source>Print Again</source>
+        <translation>もう一度印刷</translation>
+    </message>
+    <message>
+        <source>Cancel Job</source>
+        <translation>ジョブを取り消す</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>閉じる</translation>
+    </message>
+</context>
+<context>
     <name>LayoutPane</name>
     <message>
         <source>%1:</source>
@@ -1143,10 +1284,6 @@ Shift+F1 or the context menu tells why.</source>
     <message>
         <source>No queue was named to print to; -d QUEUE names one, --output FILE keeps the job.</source>
         <translation>印刷先のキューが指定されていません。-d QUEUE で指定するか、--output FILE でファイルに保存してください。</translation>
-    </message>
-    <message>
-        <source>%1 accepted job %2.</source>
-        <translation>%1 がジョブ %2 を受け付けました。</translation>
     </message>
     <message>
         <source>The job was written to %1.</source>
@@ -1591,6 +1728,10 @@ Shift+F1 or the context menu tells why.</source>
     <message>
         <source>%1 (from the printer&apos;s maker)</source>
         <translation>%1（プリンターメーカー提供）</translation>
+    </message>
+    <message>
+        <source>Follow the Job After Printing</source>
+        <translation>印刷後のジョブを見守る</translation>
     </message>
 </context>
 <context>

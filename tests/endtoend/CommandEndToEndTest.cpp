@@ -53,7 +53,7 @@ TEST_F(Command, AChoiceArrivesInTheJobAndInThePrinter)
     EXPECT_EQ(run.errors, u""_s);
     const QList<int> jobs = newJobs();
     ASSERT_EQ(jobs.size(), 1);
-    EXPECT_EQ(run.output, u"photo accepted job %1.\n"_s.arg(jobs[0]));
+    EXPECT_EQ(run.output, u"request id is photo-%1 (1 file(s))\n"_s.arg(jobs[0]));
 
     QMap<QString, QString> expected = plainTicket();
     expected.insert(u"com.velkaro.print.PrintSettings.advancedItem"_s, u"false"_s);

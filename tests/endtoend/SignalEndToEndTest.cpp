@@ -183,7 +183,7 @@ INSTANTIATE_TEST_SUITE_P(
                         "Get-Job-Attributes",
                         false,
                         0,
-                        "photo accepted job 7.\n",
+                        "request id is photo-7 (1 file(s))\n",
                         "velkaro-print: Whether the server keeps all settings of job 7 is not "
                         "known: its account of the job cannot be read.\n",
                         {kGetPPD, u"Create-Job"_s, u"Send-Document"_s, u"Get-Job-Attributes"_s}}),

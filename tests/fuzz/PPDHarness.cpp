@@ -1,3 +1,4 @@
+#include "dialog/host/CustomParameters.h"
 #include "dialog/job/JobOptions.h"
 #include "dialog/job/ReservedNames.h"
 #include "dialog/printing/PrintJob.h"
@@ -81,8 +82,11 @@ void checkOption(ppd_file_t *ppd, const JobOption &option)
     const bool isCustomPaper =
         option.name == "PageSize"_L1 && option.value.startsWith("Custom."_L1);
     const bool isChoiceOfPPD = findChoice(findOption(ppd, option.name), option.value) != nullptr;
-    require(isChoiceOfPPD || isCustomPaper || isKeyOfTicket(option.name),
-            "what is sent as a choice is an option of the PPD with that choice");
+    const bool isOwnValue =
+        !parametersOf(option.value, customParameters(ppd, option.name)).isEmpty();
+    require(isChoiceOfPPD || isCustomPaper || isOwnValue || isKeyOfTicket(option.name),
+            "what is sent as a choice is an option of the PPD with that choice, or a value that "
+            "the option takes beside its choices");
 }
 
 } // namespace

@@ -31,6 +31,21 @@ QString programNamed(const QString &name)
         name, {u"/usr/sbin"_s, u"/usr/bin"_s, u"/usr/local/sbin"_s, u"/sbin"_s});
 }
 
+/// The system's programs of the server, and room for backends of one's own.
+bool linkPrograms(const QString &folder)
+{
+    const QDir system(u"/usr/lib/cups"_s);
+    QDir own(folder);
+    bool linked = own.mkpath(u"backend"_s);
+    for (const QString &name : system.entryList(QDir::Dirs | QDir::NoDotAndDotDot))
+        if (name != "backend"_L1)
+            linked = QFile::link(system.filePath(name), own.filePath(name)) && linked;
+    const QDir backends(system.filePath(u"backend"_s));
+    for (const QString &name : backends.entryList(QDir::Files))
+        linked = QFile::link(backends.filePath(name), own.filePath(u"backend/"_s + name)) && linked;
+    return linked;
+}
+
 bool writeFile(const QString &path, const QString &text)
 {
     QFile file(path);
@@ -122,11 +137,12 @@ bool PrintServer::writeConfiguration()
                              lp->pw_uid, lp->pw_gid) != 0)
                 return false;
     }
-    const QString files = u"ServerRoot %1\nRequestRoot %1/spool\nTempDir %1/spool/tmp\n"
-                          "CacheDir %1/cache\nStateDir %1/run\nServerKeychain %1/run/certs\n"
-                          "AccessLog %1/log/access\nErrorLog %1/log/error\nPageLog %1/log/page\n"
-                          "FileDevice Yes\nUser %2\nGroup %3\nSystemGroup root %4\n"_s.arg(
-                              folder(), user, group, groupName());
+    const QString files =
+        u"ServerRoot %1\nServerBin %1/bin\nRequestRoot %1/spool\nTempDir %1/spool/tmp\n"
+        "CacheDir %1/cache\nStateDir %1/run\nServerKeychain %1/run/certs\n"
+        "AccessLog %1/log/access\nErrorLog %1/log/error\nPageLog %1/log/page\n"
+        "FileDevice Yes\nUser %2\nGroup %3\nSystemGroup root %4\n"_s.arg(folder(), user, group,
+                                                                         groupName());
     const QString rules = u"Listen 127.0.0.1:%1\nListen %2\nBrowsing Off\nWebInterface "
                           u"No\nLogLevel debug\n"
                           "DefaultAuthType None\nPreserveJobHistory Yes\nPreserveJobFiles Yes\n"
@@ -134,8 +150,17 @@ bool PrintServer::writeConfiguration()
                           "<Policy default>\nJobPrivateAccess all\nJobPrivateValues none\n"
                           "<Limit All>\nOrder allow,deny\nAllow all\n</Limit>\n</Policy>\n"_s.arg(
                               QString::number(m_port), socketPath(), m_access);
-    return writeFile(root.filePath(u"cups-files.conf"_s), files) &&
+    return linkPrograms(root.filePath(u"bin"_s)) &&
+           writeFile(root.filePath(u"cups-files.conf"_s), files) &&
            writeFile(root.filePath(u"cupsd.conf"_s), rules);
+}
+
+bool PrintServer::addBackend(const QString &name, const QByteArray &script)
+{
+    // The server runs none that somebody else might have written.
+    QFile file(folder() + u"/bin/backend/"_s + name);
+    return file.open(QIODevice::WriteOnly) && file.write(script) == script.size() &&
+           file.setPermissions(QFile::Permissions(0x5555));
 }
 
 bool PrintServer::start()
@@ -202,8 +227,7 @@ QMap<QString, QString> PrintServer::jobAttributes(const QString &queue, int job)
 {
     CallGuard guard;
     ServerConnection connection(address(), guard);
-    IppHandle request = queueRequest(IPP_OP_GET_JOB_ATTRIBUTES, queue);
-    ippAddInteger(request.get(), IPP_TAG_OPERATION, IPP_TAG_INTEGER, "job-id", job);
+    IppHandle request = jobRequest(IPP_OP_GET_JOB_ATTRIBUTES, queue, job);
     const IppHandle response = connection.request(std::move(request), queueResource(queue));
     QMap<QString, QString> attributes;
     for (ipp_attribute_t *one = ippFirstAttribute(response.get()); one;

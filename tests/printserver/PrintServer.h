@@ -29,6 +29,10 @@ public:
 
     /// Adds a queue whose jobs go to outputOf(queue), with the PPD (null: a raw queue).
     bool addQueue(const QString &queue, const QString &ppd);
+
+    /// Adds a backend of the test's own, a shell script: queues whose device is "NAME:/..." use it.
+    bool addBackend(const QString &name, const QByteArray &script);
+
     QString outputOf(const QString &queue) const;
 
     /// lpadmin with more options, such as {"-p", "queue", "-o", "..."}.

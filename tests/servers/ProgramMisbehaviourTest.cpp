@@ -55,7 +55,7 @@ INSTANTIATE_TEST_SUITE_P(
         ProgramCase{"PrintsOnAGoodServer",
                     {},
                     0,
-                    "photo accepted job 7.\n",
+                    "request id is photo-7 (1 file(s))\n",
                     "",
                     {kGet, u"Create-Job"_s, u"Send-Document"_s, u"Get-Job-Attributes"_s}},
         ProgramCase{"IsRedirected",
@@ -99,7 +99,7 @@ INSTANTIATE_TEST_SUITE_P(
                     {{"Get-Job-Attributes",
                       answerIpp(IppBytes().group(IPP_TAG_JOB).nested("x", 9000).ended())}},
                     0,
-                    "photo accepted job 7.\n",
+                    "request id is photo-7 (1 file(s))\n",
                     "velkaro-print: Whether the server keeps all settings of job 7 is not known: "
                     "its account of the job cannot be read.\n",
                     {kGet, u"Create-Job"_s, u"Send-Document"_s, u"Get-Job-Attributes"_s}}),

@@ -71,7 +71,8 @@ protected:
         for (const QString &keyword : std::as_const(keywords)) {
             const Settings choices = m_choices.value(keyword);
             if (!choices.isEmpty())
-                settings += choices[static_cast<qsizetype>(m_random() % choices.size())];
+                settings += choices[static_cast<qsizetype>(
+                    m_random() % static_cast<std::size_t>(choices.size()))];
         }
         return settings;
     }

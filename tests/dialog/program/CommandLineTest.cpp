@@ -100,7 +100,22 @@ INSTANTIATE_TEST_SUITE_P(
         Refused{"PictureOfNoDialog",
                 {u"--no-dialog"_s, u"--screenshot=a.png"_s, u"a.pdf"_s},
                 "--no-dialog and --screenshot do not go together."},
-        Refused{"YesInTheDialog", {u"--yes"_s, u"a.pdf"_s}, "--yes is for --no-dialog."}),
+        Refused{"YesInTheDialog", {u"--yes"_s, u"a.pdf"_s}, "--yes is for --no-dialog."},
+        Refused{"WaitInTheDialog",
+                {u"--wait"_s, u"a.pdf"_s},
+                "--wait is for --no-dialog, where the job is sent to a printer."},
+        Refused{"WaitForAFile",
+                {u"--no-dialog"_s, u"--wait"_s, u"--output=a.job"_s, u"a.pdf"_s},
+                "--wait is for --no-dialog, where the job is sent to a printer."},
+        Refused{"ATimeoutWithoutAWait",
+                {u"--no-dialog"_s, u"--timeout=5"_s, u"a.pdf"_s},
+                "--timeout is for --wait."},
+        Refused{"ATimeoutThatIsNoTime",
+                {u"--no-dialog"_s, u"--wait"_s, u"--timeout=soon"_s, u"a.pdf"_s},
+                "--timeout needs a number of seconds from 0 to 1000000, not \"soon\"."},
+        Refused{"ATimeoutBelowNothing",
+                {u"--no-dialog"_s, u"--wait"_s, u"--timeout=-1"_s, u"a.pdf"_s},
+                "--timeout needs a number of seconds from 0 to 1000000, not \"-1\"."}),
     [](const auto &row) { return std::string(row.param.name); });
 
 TEST(CommandLine, TakesEveryOption)

@@ -39,7 +39,7 @@ TEST(HelpText, HasItsOptionsAndStatusesOnTheLeft)
     EXPECT_EQ(heads.first(), u"-d, --destination QUEUE[/INSTANCE]"_s);
     EXPECT_TRUE(heads.contains(u"--screenshot FILE.png"_s));
     EXPECT_TRUE(heads.contains(u"--yes"_s));
-    EXPECT_EQ(heads.last(), u"7"_s);
+    EXPECT_EQ(heads.last(), u"8"_s);
 }
 
 class HelpTextOf : public testing::TestWithParam<ManualWords>

@@ -1,0 +1,85 @@
+#include "dialog/cups/JobControl.h"
+
+#include "dialog/cups/ServerConnection.h"
+
+#include <algorithm>
+#include <array>
+
+namespace {
+
+constexpr unsigned bit(JobPhase phase)
+{
+    return 1U << static_cast<unsigned>(phase);
+}
+
+constexpr unsigned kAtEnd = bit(JobPhase::Finished) | bit(JobPhase::FinishedWithErrors) |
+                            bit(JobPhase::Cancelled) | bit(JobPhase::Aborted);
+
+struct ActionRow
+{
+    JobAction action;
+    ipp_op_t operation;
+    unsigned phases; // in which it is offered
+};
+
+constexpr std::array kActions{
+    ActionRow{JobAction::Cancel, IPP_OP_CANCEL_JOB, ~(kAtEnd | bit(JobPhase::Unknown))},
+    ActionRow{JobAction::Hold, IPP_OP_HOLD_JOB, bit(JobPhase::Waiting) | bit(JobPhase::Stopped)},
+    ActionRow{JobAction::Release, IPP_OP_RELEASE_JOB,
+              bit(JobPhase::Held) | bit(JobPhase::HeldToRetry)},
+    ActionRow{JobAction::Restart, IPP_OP_RESTART_JOB, kAtEnd},
+};
+
+const ActionRow &rowOf(JobAction action)
+{
+    return *std::ranges::find(kActions, action, &ActionRow::action);
+}
+
+/// The status with what the job's printer adds to it; as it is where that cannot be asked.
+JobStatus askPrinter(ServerConnection &connection, const QString &queue, const JobStatus &status)
+{
+    IppHandle request = queueRequest(IPP_OP_GET_PRINTER_ATTRIBUTES, queue);
+    askFor(request.get(), printerStatusAttributes());
+    const IppHandle printer = connection.request(std::move(request), queueResource(queue));
+    return printer && connection.succeeded() ? withPrinter(status, printer.get()) : status;
+}
+
+bool isForgotten(const ServerConnection &connection)
+{
+    return connection.lastEnd().kind == ExchangeEnd::Kind::Answered &&
+           connection.lastEnd().status == IPP_STATUS_ERROR_NOT_FOUND;
+}
+
+} // namespace
+
+bool isOffered(JobAction action, JobPhase phase)
+{
+    return (rowOf(action).phases & bit(phase)) != 0;
+}
+
+Result<JobStatus> askStatus(const JobPlace &job, CallGuard &guard)
+{
+    ServerConnection connection(job.server, guard);
+    if (!connection.isConnected())
+        return connection.lastFault(job.queue);
+    IppHandle request = jobRequest(IPP_OP_GET_JOB_ATTRIBUTES, job.queue, job.id);
+    askFor(request.get(), statusAttributes());
+    const IppHandle answer = connection.request(std::move(request), queueResource(job.queue));
+    if (isForgotten(connection))
+        return JobStatus{JobPhase::Unknown, 0, {}, {}};
+    if (!answer || !connection.succeeded())
+        return connection.lastFault(job.queue);
+    const JobStatus status = statusOf(answer.get());
+    return status.phase == JobPhase::Waiting ? askPrinter(connection, job.queue, status) : status;
+}
+
+Result<> perform(JobAction action, const JobPlace &job, CallGuard &guard)
+{
+    ServerConnection connection(job.server, guard);
+    if (connection.isConnected())
+        connection.request(jobRequest(rowOf(action).operation, job.queue, job.id),
+                           queueResource(job.queue));
+    return connection.isConnected() && connection.succeeded()
+               ? Result<>()
+               : Result<>(connection.lastFault(job.queue));
+}

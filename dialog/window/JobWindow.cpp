@@ -1,0 +1,111 @@
+#include "dialog/window/JobWindow.h"
+
+#include "dialog/window/Mnemonics.h"
+#include "platform/toolkit/AccessibleName.h"
+#include "platform/toolkit/AccessibleRole.h"
+#include "platform/toolkit/PlainLabel.h"
+#include "platform/toolkit/PlainText.h"
+
+#include <QtWidgets/QHBoxLayout>
+#include <QtWidgets/QLabel>
+#include <QtWidgets/QProgressBar>
+#include <QtWidgets/QPushButton>
+#include <QtWidgets/QVBoxLayout>
+
+#include <algorithm>
+#include <utility>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int kSentenceWidth = 48; // of the font's average character: no line is shorter
+constexpr int kSentenceLines = 3;  // have their room from the start
+
+} // namespace
+
+JobWindow::JobWindow(const QString &server, JobName job, QWidget *parent)
+    : QDialog(parent),
+      m_job(std::move(job)),
+      m_sentence(newPlainLabel(QString(), this)),
+      m_progress(new QProgressBar(this)),
+      m_buttons(new QWidget(this)),
+      m_follower({server, m_job.queue, m_job.id},
+                 {[this](const JobStatus &status) { take(status); },
+                  [this](const QString &sentence) { tell(sentence); },
+                  [this](const QString &sentence) { tell(sentence); }})
+{
+    setObjectName(u"jobWindow"_s);
+    setWindowTitle(displayText(tr("Job %1 on %2").arg(QString::number(m_job.id), m_job.queue)));
+    giveAccessibleRole("JobWindow", QAccessible::Dialog);
+    m_sentence->setObjectName(u"jobSentence"_s);
+    m_sentence->setWordWrap(true);
+    m_sentence->setAlignment(Qt::AlignTop | Qt::AlignLeading);
+    m_sentence->setMinimumSize(kSentenceWidth * fontMetrics().averageCharWidth(),
+                               kSentenceLines * fontMetrics().lineSpacing());
+    m_progress->setObjectName(u"jobProgress"_s);
+    giveAccessibleName(m_progress, tr("Pages"));
+    auto *row = new QHBoxLayout(m_buttons);
+    row->setContentsMargins(0, 0, 0, 0);
+    addAction(JobAction::Hold, u"holdButton"_s, tr("Hold"));
+    addAction(JobAction::Release, u"releaseButton"_s, tr("Release"));
+    addAction(JobAction::Restart, u"restartButton"_s, tr("Print Again"));
+    addAction(JobAction::Cancel, u"cancelJobButton"_s, tr("Cancel Job"));
+    row->addStretch(1);
+    QPushButton *close = addButton(u"closeButton"_s, tr("Close"));
+    close->setDefault(true);
+    connect(close, &QPushButton::clicked, this, &QDialog::reject);
+    auto *layout = new QVBoxLayout(this);
+    layout->addWidget(m_sentence, 1);
+    layout->addWidget(m_progress);
+    layout->addWidget(m_buttons);
+    take({});
+    m_follower.start();
+}
+
+QPushButton *JobWindow::addButton(const QString &name, const QString &title)
+{
+    auto *button = new QPushButton(m_buttons);
+    button->setObjectName(name);
+    setTitleWithMnemonic(*button, title);
+    m_buttons->layout()->addWidget(button);
+    return button;
+}
+
+void JobWindow::addAction(JobAction action, const QString &name, const QString &title)
+{
+    QPushButton *button = addButton(name, title);
+    button->setAutoDefault(false);
+    connect(button, &QPushButton::clicked, this, [this, action] { m_follower.perform(action); });
+    m_actions[action] = button;
+}
+
+void JobWindow::take(const JobStatus &status)
+{
+    tell(sentenceOf(m_job, status));
+    showProgress(status);
+    for (const auto &[action, button] : m_actions)
+        button->setVisible(isOffered(action, status.phase));
+}
+
+void JobWindow::tell(const QString &sentence)
+{
+    setLabelText(m_sentence, displayText(sentence));
+    giveAccessibleName(this, displayText(sentence));
+    announce(this);
+}
+
+/// A job whose pages are not known shows that something goes on. The bar keeps its room.
+void JobWindow::showProgress(const JobStatus &status)
+{
+    const bool isPrinting = status.phase == JobPhase::Printing || status.phase == JobPhase::Waiting;
+    const bool isDone = status.phase == JobPhase::Finished;
+    m_progress->setRange(0, isPrinting ? m_job.pages : std::max(1, m_job.pages));
+    m_progress->setValue(isDone ? m_progress->maximum() : std::min(status.sheets, m_job.pages));
+    m_progress->setEnabled(!isEnd(status.phase));
+}
+
+QString JobWindow::sentence() const
+{
+    return m_sentence->text();
+}
