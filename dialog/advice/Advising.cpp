@@ -4,6 +4,7 @@
 #include "dialog/advice/RemedyWords.h"
 #include "dialog/advice/SettingScratch.h"
 #include "dialog/host/HostSession.h"
+#include "dialog/job/Conflicts.h"
 #include "dialog/printing/PrintJob.h"
 #include "dialog/printing/SettingRequests.h"
 #include "dialog/work/ProcessCopy.h"
@@ -21,6 +22,14 @@ namespace {
 
 constexpr std::chrono::seconds kLongestSearch{600}; // of CPU time, without its trials
 constexpr int kMostTrials = 20000;
+constexpr int kConditionsOfATrial = 100;   // that are looked through in the time of one
+constexpr QByteArrayView kWhole = "whole"; // ends the lines of a search
+
+/// Every trial looks through all constraints of the PPD, which may be made to take all time.
+int mostTrials(ppd_file_t *ppd)
+{
+    return kMostTrials / (1 + constraintsIn(ppd) / kConditionsOfATrial);
+}
 
 /// Nothing that the copy's alerts are told to remember is for anybody else.
 void keepDefaultsInMemory(const HostSession &session)
@@ -32,18 +41,27 @@ void keepDefaultsInMemory(const HostSession &session)
         defaults.setPersistentDomain(memory, session.bundle()->bundleIdentifier());
 }
 
+QByteArray lineOfAdvice(const HostSession &session, const PPDMark &wanted, Advice::Outcome outcome,
+                        const QList<Remedy> &remedies)
+{
+    Advice advice{wanted.keyword, wanted.choice, outcome, remedies, {}};
+    advice.sentence = adviceSentence(session.ppd(), advice);
+    return QJsonDocument(adviceMessage(advice)).toJson(QJsonDocument::Compact);
+}
+
 /// In a copy of the process, which ends without taking anything down: the session may have two
 /// owners there.
-Advice adviceInCopy(HostSession &session, const PPDMark &wanted)
+void adviseInCopy(HostSession &session, const PPDMark &wanted, const ProcessCopy::Tell &tell)
 {
     keepDefaultsInMemory(session);
     PrintJob &job = *new PrintJob;
     job.setPrinter({}, {std::unique_ptr<HostSession>(&session), {}});
-    SettingScratch scratch(job, wanted, kMostTrials);
-    const FoundRemedies found = findRemedies(scratch);
-    Advice advice{wanted.keyword, wanted.choice, found.outcome, found.remedies, {}};
-    advice.sentence = adviceSentence(session.ppd(), advice);
-    return advice;
+    SettingScratch scratch(job, wanted, mostTrials(session.ppd()));
+    const FoundRemedies found = findRemedies(scratch, [&](const Remedy &first) {
+        tell(lineOfAdvice(session, wanted, Advice::Outcome::Possible, {first}));
+    });
+    tell(lineOfAdvice(session, wanted, found.outcome, found.remedies));
+    tell(kWhole.toByteArray());
 }
 
 } // namespace
@@ -64,13 +82,26 @@ Result<PPDMark> choiceOfPPD(const HostSession &session, const QString &keyword,
     return spelled;
 }
 
-std::optional<Advice> adviceOn(HostSession &session, const PPDMark &wanted,
-                               const std::function<bool()> &isGivenUp)
+void applyRemedy(PrintJob &job, const Remedy &remedy, const PPDMark &wanted)
 {
-    ProcessCopy copy(kLongestSearch, [&](const ProcessCopy::Tell &tell) {
-        tell(QJsonDocument(adviceMessage(adviceInCopy(session, wanted)))
-                 .toJson(QJsonDocument::Compact));
-    });
-    const std::optional<QByteArray> line = copy.nextLine(isGivenUp);
-    return line ? adviceOfMessage(QJsonDocument::fromJson(*line).object()) : std::nullopt;
+    for (const SettingChange &change : remedy.changes)
+        makeSetting(job, {change.keyword, change.to});
+    makeSetting(job, {wanted.keyword, wanted.choice});
+}
+
+std::optional<Advice> adviceOn(HostSession &session, const PPDMark &wanted,
+                               const std::function<bool()> &isGivenUp,
+                               const std::function<void(const Advice &)> &tellFirst)
+{
+    ProcessCopy copy(kLongestSearch,
+                     [&](const ProcessCopy::Tell &tell) { adviseInCopy(session, wanted, tell); });
+    std::optional<Advice> last;
+    while (const std::optional<QByteArray> line = copy.nextLine(isGivenUp)) {
+        if (*line == kWhole)
+            return last;
+        last = adviceOfMessage(QJsonDocument::fromJson(*line).object());
+        if (tellFirst && last)
+            tellFirst(*last);
+    }
+    return std::nullopt;
 }

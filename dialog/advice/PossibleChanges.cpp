@@ -5,11 +5,14 @@
 #include "dialog/job/Conflicts.h"
 #include "dialog/job/Papers.h"
 #include "dialog/printing/FeaturePicks.h"
+#include "dialog/printing/PanelPicks.h"
 #include "dialog/printing/PrintJob.h"
 #include "platform/pde/PDEPanelControls.h"
 #include "platform/ppd/PPDText.h"
+#include "platform/toolkit/FractionSlider.h"
 #include "platform/toolkit/PopUpButton.h"
 #include "platform/toolkit/RadioMatrix.h"
+#include "platform/toolkit/ViewLoader.h"
 
 #include <QtWidgets/QAbstractButton>
 
@@ -92,6 +95,17 @@ const HostPanel *panelWithControl(const PrintJob &job, const QString &keyword)
     return nullptr;
 }
 
+/// Null for a setting that a panel lists, or that has no slider.
+const FractionSlider *sliderOfSetting(const HostSession &session, const QString &keyword)
+{
+    if (placeInPanels(session, keyword))
+        return nullptr;
+    for (const FractionSlider *slider : partsOfViews<FractionSlider>(session))
+        if (isSameName(boundKeyOf(slider), keyword))
+            return slider;
+    return nullptr;
+}
+
 /// What constraints of the PPD leave of the choices.
 QStringList allowed(ppd_file_t *ppd, const QString &keyword, QStringList choices)
 {
@@ -159,6 +173,8 @@ QList<PPDMark> possibleChanges(const PrintJob &job)
 
 bool canBePicked(const PrintJob &job, const PPDMark &choice)
 {
+    if (const FractionSlider *slider = sliderOfSetting(*job.session(), choice.keyword))
+        return slider->isEnabled();
     const HostPanel *panel = panelWithControl(job, choice.keyword);
     if (!panel)
         return !allowed(job.ppd(), choice.keyword, {choice.choice}).isEmpty();

@@ -20,15 +20,19 @@ struct Ground
 class Search
 {
 public:
-    explicit Search(Scratch &scratch) : m_scratch(scratch) {}
+    Search(Scratch &scratch, const std::function<void(const Remedy &)> &tellFirst)
+        : m_scratch(scratch), m_tellFirst(tellFirst)
+    {}
 
     FoundRemedies run()
     {
         if (m_scratch.isHad())
             return {Advice::Outcome::Available, {}};
+        // Most remedies take one change, and what the changes do besides takes time to look at.
+        tryOn({{}}, Look::ForChoice);
         QList<Ground> grounds{{}};
         for (int size = 1; size <= kMostChanges && m_remedies.isEmpty() && m_isWhole; ++size)
-            grounds = tryOn(grounds);
+            grounds = tryOn(grounds, size < kMostChanges ? Look::ForEffects : Look::ForChoice);
         std::ranges::stable_sort(m_remedies, {},
                                  [](const Remedy &remedy) { return remedy.beside.size(); });
         if (!m_remedies.isEmpty())
@@ -38,28 +42,29 @@ public:
 
 private:
     /// Tries every change on every ground, and gives the grounds for larger sets.
-    QList<Ground> tryOn(const QList<Ground> &grounds)
+    QList<Ground> tryOn(const QList<Ground> &grounds, Look look)
     {
         QList<Ground> next;
         for (const Ground &ground : grounds)
             if (m_isWhole)
-                tryOn(ground, next);
+                tryOn(ground, look, next);
         // What has come nearer to the choice is the likelier beginning of a remedy.
         std::ranges::stable_sort(next, std::greater(), &Ground::isNearer);
         return next;
     }
 
-    void tryOn(const Ground &ground, QList<Ground> &next)
+    void tryOn(const Ground &ground, Look look, QList<Ground> &next)
     {
         QSet<std::pair<QString, QByteArray>> effects;
         m_isWhole = m_scratch.tryEach(
-            ground.changes, [&](const SettingChange &change) { return isWorthIt(ground, change); },
+            ground.changes, look,
+            [&](const SettingChange &change) { return isWorthIt(ground, change); },
             [&](const Trial &trial) {
                 const QList<SettingChange> changes = ground.changes + QList{trial.change};
                 if (trial.isHad)
                     addRemedy({changes, trial.beside});
                 const std::pair effect(trial.change.keyword, trial.effect);
-                if (trial.effect.isEmpty() || effects.contains(effect))
+                if (look == Look::ForChoice || trial.effect.isEmpty() || effects.contains(effect))
                     return;
                 effects.insert(effect);
                 m_telling.insert({trial.change.keyword, trial.change.to});
@@ -82,11 +87,15 @@ private:
         const auto isSame = [&](const Remedy &other) {
             return std::ranges::is_permutation(other.changes, remedy.changes);
         };
-        if (std::ranges::none_of(m_remedies, isSame))
-            m_remedies += remedy;
+        if (std::ranges::any_of(m_remedies, isSame))
+            return;
+        m_remedies += remedy;
+        if (m_remedies.size() == 1 && m_tellFirst)
+            m_tellFirst(remedy);
     }
 
     Scratch &m_scratch;
+    const std::function<void(const Remedy &)> &m_tellFirst;
     QList<Remedy> m_remedies;
     QSet<QByteArray> m_states;                   ///< that were reached
     QSet<std::pair<QString, QString>> m_telling; ///< keywords and choices
@@ -95,7 +104,7 @@ private:
 
 } // namespace
 
-FoundRemedies findRemedies(Scratch &scratch)
+FoundRemedies findRemedies(Scratch &scratch, const std::function<void(const Remedy &)> &tellFirst)
 {
-    return Search(scratch).run();
+    return Search(scratch, tellFirst).run();
 }

@@ -2,6 +2,8 @@
 
 #include "dialog/advice/Remedy.h"
 
+#include <functional>
+
 class Scratch;
 
 /// The most settings that a remedy changes.
@@ -20,4 +22,6 @@ struct FoundRemedies
 /// All single changes are tried. Of two and three settings each change is tried on top of those
 /// that made a difference to other settings before; of the choices of one setting that made the
 /// same difference, on top of the first.
-FoundRemedies findRemedies(Scratch &scratch);
+/// `tellFirst` is told of the first remedy when it is found; there may be better ones.
+FoundRemedies findRemedies(Scratch &scratch,
+                           const std::function<void(const Remedy &)> &tellFirst = {});

@@ -46,6 +46,11 @@ QSet<QString> troublesOf(const PrintJob &job)
     return troubles;
 }
 
+bool isOfSlider(const HostSession &session, const QString &keyword)
+{
+    return !placeInPanels(session, keyword) && !sliderOf(session, keyword).isNull();
+}
+
 } // namespace
 
 SettingScratch::SettingScratch(PrintJob &job, const PPDMark &wanted, int mostTrials)
@@ -57,6 +62,7 @@ SettingScratch::SettingScratch(PrintJob &job, const PPDMark &wanted, int mostTri
 {
     prepareControls(*m_job.session());
     m_answers.answerSheets();
+    m_isSlider = isOfSlider(*m_job.session(), m_wanted.keyword);
     m_image = std::make_unique<SettingsImage>(m_job, m_wanted);
     m_base = settingState(m_job);
     m_troubles = troublesOf(m_job);
@@ -70,10 +76,11 @@ bool SettingScratch::isHad()
     return copy.nextLine() == "yes";
 }
 
-bool SettingScratch::tryEach(const QList<SettingChange> &made,
+bool SettingScratch::tryEach(const QList<SettingChange> &made, Look look,
                              const std::function<bool(const SettingChange &)> &filter,
                              const std::function<void(const Trial &)> &take)
 {
+    m_look = look;
     bool isWhole = false;
     const auto takeLine = [&](const QByteArray &line) {
         isWhole = line == kAllTried;
@@ -158,7 +165,7 @@ void SettingScratch::glanceFrom(qsizetype first, const QList<SettingChange> &cha
     QByteArray effectOfNone;
     for (qsizetype index = first; index < changes.size(); ++index) {
         const SettingChange &change = changes[index];
-        if (std::exchange(keyword, change.keyword) != change.keyword)
+        if (m_look == Look::ForEffects && std::exchange(keyword, change.keyword) != change.keyword)
             effectOfNone = m_image->text(keyword);
         tell(lineOfTrial(glanceAt(change, effectOfNone)));
         if (!takeBack(change, before))
@@ -173,13 +180,15 @@ Trial SettingScratch::glanceAt(const SettingChange &change, const QByteArray &ef
     Trial trial{change, false, false, {}, {}, {}};
     if (!make({change.keyword, change.to}))
         return trial;
-    trial.state = m_image->text();
-    const bool isConstrained = m_constrained.contains(change.keyword.toLower());
-    const QByteArray effect = isConstrained ? trial.state : m_image->text(change.keyword);
-    if (effect != effectOfNone)
-        trial.effect = effect;
+    if (m_look == Look::ForEffects) {
+        trial.state = m_image->text();
+        const bool isConstrained = m_constrained.contains(change.keyword.toLower());
+        const QByteArray effect = isConstrained ? trial.state : m_image->text(change.keyword);
+        if (effect != effectOfNone)
+            trial.effect = effect;
+    }
     trial.isNearer = canBePicked(m_job, m_wanted);
-    trial.isHad = trial.isNearer || currentChoice(m_job, m_wanted.keyword) == m_wanted.choice;
+    trial.isHad = trial.isNearer || isThere();
     return trial;
 }
 
@@ -215,16 +224,20 @@ bool SettingScratch::make(const PPDMark &choice)
 /// have saved their values.
 bool SettingScratch::isHadAfterSave()
 {
-    const auto isMarked = [this] {
-        return currentChoice(m_job, m_wanted.keyword) == m_wanted.choice;
-    };
     if (canBePicked(m_job, m_wanted))
         make(m_wanted);
-    else if (!isMarked())
+    else if (!isThere())
         return false;
     savePreparedPanels(*m_job.session());
     m_answers.answerSheets();
-    return isMarked();
+    return isThere();
+}
+
+/// Whether the wanted choice is the marked one, or what its slider sends.
+bool SettingScratch::isThere() const
+{
+    return m_isSlider ? hasSetting(m_job, {m_wanted.keyword, m_wanted.choice})
+                      : currentChoice(m_job, m_wanted.keyword) == m_wanted.choice;
 }
 
 /// Whether all changes stand, and nothing is wrong that was right.

@@ -24,7 +24,7 @@ public:
     SettingScratch(PrintJob &job, const PPDMark &wanted, int mostTrials);
 
     bool isHad() override;
-    bool tryEach(const QList<SettingChange> &made,
+    bool tryEach(const QList<SettingChange> &made, Look look,
                  const std::function<bool(const SettingChange &)> &filter,
                  const std::function<void(const Trial &)> &take) override;
 
@@ -41,15 +41,18 @@ private:
     Trial tryOut(const QList<SettingChange> &made, Trial trial);
     bool make(const PPDMark &choice);
     bool isHadAfterSave();
+    bool isThere() const;
     bool isSound(const QList<SettingChange> &changes) const;
     QList<SettingChange> changedBeside(const QList<SettingChange> &changes) const;
 
     PrintJob &m_job;
     const PPDMark m_wanted;
-    int m_left; ///< trials
+    int m_left;              ///< trials
+    bool m_isSlider = false; ///< whether the wanted choice is a value of a slider
     ScriptedAnswers m_answers;
     QSet<QString> m_constrained; ///< keywords of which the PPD's constraints speak
     std::unique_ptr<SettingsImage> m_image;
     SettingState m_base;
     QSet<QString> m_troubles; ///< of the base
+    Look m_look = Look::ForChoice;
 };

@@ -82,6 +82,15 @@ QSet<QString> constrainedKeywords(ppd_file_t *ppd)
     return keywords;
 }
 
+int constraintsIn(ppd_file_t *ppd)
+{
+    int count = ppd->num_consts;
+    for (const ppd_attr_t *one = ppdFindAttr(ppd, "cupsUIConstraints", nullptr); one;
+         one = ppdFindNextAttr(ppd, "cupsUIConstraints", nullptr))
+        ++count;
+    return count;
+}
+
 QString refusalSentence(ppd_file_t *ppd, const QString &keyword, const QString &choice)
 {
     const QStringList clashes = clashesWith(ppd, keyword, choice);

@@ -18,5 +18,8 @@ QStringList clashesWith(ppd_file_t *ppd, const QString &keyword, const QString &
 /// The keywords of which the PPD's constraints speak, in lower case.
 QSet<QString> constrainedKeywords(ppd_file_t *ppd);
 
+/// How many constraints the PPD has.
+int constraintsIn(ppd_file_t *ppd);
+
 /// One sentence on why the choice was refused; null when the PPD's constraints allow it.
 QString refusalSentence(ppd_file_t *ppd, const QString &keyword, const QString &choice);

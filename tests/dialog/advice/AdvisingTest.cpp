@@ -78,9 +78,7 @@ TEST_P(AdviceOn, AChoiceHoldsInAnotherSession)
     m_job.closePrinter();
     openOn(m_job, samplePPD(GetParam().printer), GetParam().settings);
     prepareControls(*m_job.session());
-    for (const RequestedChoice &change : changesOf(*advice))
-        makeSetting(m_job, change);
-    makeSetting(m_job, {m_wanted.keyword, m_wanted.choice});
+    applyRemedy(m_job, advice->remedies.value(0), m_wanted);
     savePreparedPanels(*m_job.session());
     EXPECT_EQ(hasSetting(m_job, {m_wanted.keyword, m_wanted.choice}),
               advice->outcome != Advice::Outcome::Impossible);
@@ -122,6 +120,14 @@ const Question kQuestions[] = {
      {{u"PageSize"_s, u"120x120mm"_s}},
      u"Printable Disc is not there for A4. It is there for Disc 120 mm and Disc 120 mm (Wide "
      u"Label)."_s},
+    {"AValueOfASliderThatIsSwitchedOff",
+     u"velkaro-px-t900"_s,
+     {},
+     {u"VKBrightness"_s, u"5"_s},
+     Possible,
+     {{u"VKColorEnhancement"_s, u"ON"_s}},
+     u"Brightness: +5 is not there for Color Enhancement: Off. It is there for Color Enhancement: "
+     u"On."_s},
     {"AMediumThatIsShownButNotPrinted",
      u"velkaro-px-t900"_s,
      {{u"Duplex"_s, u"DuplexTumble"_s}},
@@ -151,6 +157,41 @@ TEST(AdviceOnAForeignPrinter, NamesBothSidesOfAConstraint)
     ASSERT_TRUE(advice);
     EXPECT_EQ(advice->sentence, u"Left is not there for Upper. It is there for Lower and Side."_s);
     EXPECT_EQ(advice->remedies.size(), 2);
+}
+
+/// Ten settings of ten choices. The first one's second choice goes with no choice of the second
+/// setting.
+QByteArray printerOfManyConditions(int conditions)
+{
+    PPDSource source;
+    source.papers({{"A4", 595, 842}});
+    QByteArrayList choices;
+    for (int choice = 0; choice < 10; ++choice)
+        choices += "C" + QByteArray::number(choice);
+    for (int setting = 0; setting < 10; ++setting)
+        source.option("S" + QByteArray::number(setting), choices);
+    for (const QByteArray &choice : choices)
+        source.constraint("S0 C1", "S1 " + choice);
+    QByteArray text = source.text();
+    for (int count = 0; count < conditions; ++count)
+        text += "*UIConstraints: *S" + QByteArray::number(2 + count % 8) + " C" +
+                QByteArray::number(1 + count % 9) + " *S" + QByteArray::number(2 + count % 7) +
+                " C" + QByteArray::number(1 + count % 5) + '\n';
+    return text;
+}
+
+TEST(AdviceOnAForeignPrinter, EndsWhereThereAreTooManyConditions)
+{
+    const QTemporaryDir folder;
+    const QString path = folder.filePath(u"bomb.ppd"_s);
+    writeFile(path, printerOfManyConditions(4980));
+    PrintJob job;
+    openOn(job, path, {});
+    const std::optional<Advice> advice = adviceOn(*job.session(), {u"S0"_s, u"C1"_s});
+    ASSERT_TRUE(advice);
+    EXPECT_EQ(advice->outcome, Advice::Outcome::Unknown);
+    EXPECT_EQ(advice->sentence,
+              u"There are too many conditions to explain why S0: C1 is not there."_s);
 }
 
 TEST(AdviceOnAChoice, IsRefusedForWhatThePPDLacks)

@@ -46,7 +46,7 @@ public:
 
     bool isHad() override { return isGiven(m_base); }
 
-    bool tryEach(const QList<SettingChange> &made,
+    bool tryEach(const QList<SettingChange> &made, Look,
                  const std::function<bool(const SettingChange &)> &filter,
                  const std::function<void(const Trial &)> &take) override
     {
