@@ -12,6 +12,7 @@
 #include <QtCore/QFile>
 #include <QtCore/QTemporaryDir>
 #include <QtCore/QTimer>
+#include <QtGui/QShortcut>
 #include <QtWidgets/QApplication>
 #include <QtWidgets/QLineEdit>
 #include <QtWidgets/QTabWidget>
@@ -138,6 +139,25 @@ double pickInPageSetup(EventCosts &costs, DialogWindow &window)
     return pickEverywhere(costs, window);
 }
 
+/// Undoes a pick after as many of them.
+template <int picks> double undoAfter(EventCosts &costs, DialogWindow &window)
+{
+    window.showPart(u"print"_s);
+    auto *media = window.shownPart()->findChild<PopUpButton *>(u"mediaTypePopup"_s);
+    for (int count = 0; media && count < picks; ++count)
+        costs.of([=] { media->pick(count % 2 == 0 ? 1 : 0); });
+    for (auto *shortcut : window.findChildren<QShortcut *>())
+        if (shortcut->key() == QKeySequence(QKeySequence::Undo))
+            return costs.of([=] { Q_EMIT shortcut->activated(); });
+    endWith(u"There is no key to undo with."_s);
+}
+
+double undoInPageSetup(EventCosts &costs, DialogWindow &window)
+{
+    pickInPageSetup(costs, window);
+    return undoAfter<0>(costs, window);
+}
+
 double listPrinters(EventCosts &costs, DialogWindow &window)
 {
     QList<Destination> many(kManyPrinters);
@@ -168,6 +188,7 @@ void printLimits(EventCosts &costs)
         const QByteArray name(limit.name);
         printRow(costs, (name + ": a part is shown").constData(), path, showParts);
         printRow(costs, (name + ": a pick in Page Setup").constData(), path, pickInPageSetup);
+        printRow(costs, (name + ": undo").constData(), path, undoInPageSetup);
     }
 }
 
@@ -182,6 +203,8 @@ int main(int argc, char **argv)
     printRow(costs, "a part is shown", sample, showParts);
     printRow(costs, "a pick in Print Settings", sample, pickEverywhere);
     printRow(costs, "a pick in Page Setup", sample, pickInPageSetup);
+    printRow(costs, "undo after 1 pick", sample, undoAfter<1>);
+    printRow(costs, "undo after 100 picks", sample, undoAfter<100>);
     printRow(costs, "20,000 printers are listed", sample, listPrinters);
     printRow(costs, "20,000 printers are searched", sample, searchPrinters);
     printLimits(costs);

@@ -4,10 +4,12 @@
 #include "dialog/host/PPDReading.h"
 #include "dialog/host/PPDSentence.h"
 
+#include <algorithm>
 #include <cstring>
 #include <fcntl.h>
 #include <span>
 #include <sys/mman.h>
+#include <sys/stat.h>
 #include <unistd.h>
 #include <utility>
 
@@ -84,10 +86,20 @@ OpenedPPD withDefaults(PPDHandle ppd, std::shared_ptr<const FileDescriptor> text
 
 QByteArray contentOf(const FileDescriptor &file)
 {
-    QByteArray content(lseek(file.get(), 0, SEEK_END), '\0');
+    struct stat status
+    {};
+    fstat(file.get(), &status);
+    QByteArray content(status.st_size, '\0');
     const ssize_t got =
         pread(file.get(), content.data(), static_cast<std::size_t>(content.size()), 0);
-    return content.left(got);
+    return content.left(std::max<ssize_t>(got, 0));
+}
+
+// With a place of its own in the file, whoever else reads it.
+int reopened(const FileDescriptor &file)
+{
+    const QByteArray path = "/proc/self/fd/" + QByteArray::number(file.get());
+    return open(path.constData(), O_RDONLY | O_CLOEXEC);
 }
 
 } // namespace
@@ -113,9 +125,7 @@ Result<OpenedPPD> openPPD(const QString &path, PPDTexts texts)
 
 Result<OpenedPPD> reopenPPD(const std::shared_ptr<const FileDescriptor> &text, PPDTexts texts)
 {
-    // Both descriptors go on in the file together.
-    lseek(text->get(), 0, SEEK_SET);
-    PPDHandle ppd(ppdOpenFd(duplicate(*text)));
+    PPDHandle ppd(ppdOpenFd(reopened(*text)));
     if (!ppd) // there was memory for it before
         return parserError(QString());
     return withDefaults(std::move(ppd), text, texts);

@@ -42,5 +42,5 @@ Result<OpenedPPD> openPPD(const QString &path, PPDTexts texts = PPDTexts::AsWrit
 /// Whether the texts of two PPDs (OpenedPPD::text) are the same.
 bool isSameText(const FileDescriptor &one, const FileDescriptor &other);
 
-/// Opens a PPD's text (OpenedPPD::text) once more. On any thread, on one at a time for a text.
+/// Opens a PPD's text (OpenedPPD::text) once more. On any thread.
 Result<OpenedPPD> reopenPPD(const std::shared_ptr<const FileDescriptor> &text, PPDTexts texts);

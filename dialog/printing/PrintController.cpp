@@ -41,6 +41,7 @@ PrintController::~PrintController()
     delete m_call;
     delete m_reading;
     delete m_listing;
+    delete m_sparing;
     delete m_covers;
 }
 
@@ -179,9 +180,28 @@ OpenedPrinter PrintController::open(const SessionOptions &options, std::optional
                        });
 }
 
+void PrintController::prepareToReopen()
+{
+    if (!m_origin || m_sparing || (m_spare && m_spareOrigin == m_origin))
+        return;
+    m_spare.reset();
+    begin<Result<OpenedPPD>>(
+        m_sparing, kFileTimeout,
+        [text = m_origin->ppd](CallGuard &) { return reopenPPD(text, PPDTexts::InUserLanguage); },
+        [this, origin = m_origin](Result<OpenedPPD> opened) {
+            if (!opened)
+                return;
+            m_spare = *std::move(opened);
+            m_spareOrigin = origin;
+        });
+}
+
 Result<> PrintController::reopen(const std::shared_ptr<const PrinterOrigin> &origin)
 {
-    Result<OpenedPPD> ppd = reopenPPD(origin->ppd, PPDTexts::InUserLanguage);
+    std::optional<OpenedPPD> spare = std::exchange(m_spare, std::nullopt);
+    Result<OpenedPPD> ppd = spare && std::exchange(m_spareOrigin, nullptr) == origin
+                                ? Result<OpenedPPD>(*std::move(spare))
+                                : reopenPPD(origin->ppd, PPDTexts::InUserLanguage);
     if (!ppd)
         return ppd.fault();
     m_job.closePrinter();      // two sessions at once would hear of each other

@@ -93,6 +93,9 @@ public:
     /// How the printer was opened that is open now; null: there is none, or it has no PPD.
     const std::shared_ptr<const PrinterOrigin> &origin() const { return m_origin; }
 
+    /// Reads the PPD for reopen() in advance: on a thread, as it may be a large one.
+    void prepareToReopen();
+
     /// Opens the printer once more, at once, as it was opened then, in place of the present one,
     /// whose panels must not be on screen any more. Alerts may be suppressed as they were then:
     /// not for the user to keep (TransientDefaults).
@@ -154,9 +157,12 @@ private:
     PrintJob m_job;
     QList<SessionHook> m_hooks;
     std::shared_ptr<const PrinterOrigin> m_origin;
+    std::optional<OpenedPPD> m_spare; ///< to reopen m_spareOrigin with
+    std::shared_ptr<const PrinterOrigin> m_spareOrigin;
     QPointer<BackgroundCall> m_call;    ///< finding, sending or writing
     QPointer<BackgroundCall> m_reading; ///< of documents that are pipes
     QPointer<BackgroundCall> m_listing;
+    QPointer<BackgroundCall> m_sparing;
     QPointer<BackgroundCall> m_covers;
     PageCounter m_pages;
 };

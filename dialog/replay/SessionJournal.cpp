@@ -1,5 +1,6 @@
 #include "dialog/replay/SessionJournal.h"
 
+#include "dialog/host/HostSession.h"
 #include "dialog/replay/AlertAnswerer.h"
 #include "dialog/replay/ReplayWork.h"
 
@@ -53,6 +54,17 @@ void SessionJournal::attach(HostSession &session)
 {
     m_place.reset();
     follow(session);
+}
+
+void SessionJournal::didAnswer(const HostCallback::Call &call)
+{
+    const bool isMade =
+        call.accepted && call.kind == HostCallback::Call::Kind::WillChangePPDOptionKeyValue;
+    const bool isUnseen = std::ranges::any_of(
+        session()->panels(), [](const HostPanel &panel) { return !panel.controls; });
+    if (isMade && isUnseen)
+        m_place = std::make_shared<JournalEntry>(m_place, ReplayMark{call.keyword, call.choice},
+                                                 FollowedAnswers());
 }
 
 void SessionJournal::note(const ReplayAction &action, const FollowedAnswers &answers)

@@ -34,6 +34,10 @@ public:
     /// Begins anew with the session, which has not started yet.
     void attach(HostSession &session);
 
+    /// What people do in the controls of a panel that tells nothing of them is known by what the
+    /// panel asks for alone.
+    void didAnswer(const HostCallback::Call &call) override;
+
     /// The place where the session is now.
     const JournalPlace &place() const { return m_place; }
 

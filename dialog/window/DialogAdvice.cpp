@@ -9,6 +9,7 @@
 #include "dialog/window/MissingChoices.h"
 #include "dialog/window/PanelPane.h"
 #include "dialog/work/Sentences.h"
+#include "platform/toolkit/PlainLabel.h"
 #include "platform/toolkit/PlainText.h"
 
 #include <QtGui/QShortcut>
@@ -20,6 +21,7 @@ namespace {
 
 constexpr qsizetype kMostRemedies = 2;   // as buttons
 constexpr qsizetype kMostQuestions = 24; // in one menu
+constexpr qsizetype kMostNames = 5;      // in a tip
 constexpr qsizetype kLongestTitle = 40;  // characters, of a button
 
 QString shortTitle(const QString &title)
@@ -36,6 +38,7 @@ void DialogWindow::connectAdvice()
         return Result<>();
     });
     connect(m_tabs, &DialogTabs::explanationWanted, this, &DialogWindow::offerQuestions);
+    connect(m_tabs, &DialogTabs::tipWanted, this, &DialogWindow::showMissing);
     connect(new QShortcut(QKeySequence::WhatsThis, this), &QShortcut::activated, this, [this] {
         QWidget *focus = focusWidget();
         QWidget *shown = m_tabs->shownPart();
@@ -56,7 +59,8 @@ void DialogWindow::offerQuestions(const QWidget *part, const QPoint &place)
     auto *menu = new QMenu(this);
     menu->setObjectName(u"questionMenu"_s);
     menu->setAttribute(Qt::WA_DeleteOnClose);
-    const QList<PPDMark> missing = missingChoices(job(), *front->panel, part);
+    const QList<PPDMark> missing =
+        missingChoices(job(), *front->panel, settingOf(*front->panel, part));
     for (const PPDMark &choice : missing.first(std::min(missing.size(), kMostQuestions)))
         menu->addAction(
             withoutMnemonic(tr("Why is there no \"%1\"?")
@@ -65,6 +69,26 @@ void DialogWindow::offerQuestions(const QWidget *part, const QPoint &place)
     if (missing.isEmpty())
         menu->addAction(tr("Everything here can be chosen."))->setEnabled(false);
     menu->popup(place);
+}
+
+/// A tip that names what is not to be had of the setting whose control the part is.
+void DialogWindow::showMissing(QWidget *part, const QPoint &place)
+{
+    const DialogTabs::Part *front = m_tabs->currentPart();
+    const QString setting = front && front->panel ? settingOf(*front->panel, part) : QString();
+    if (setting.isNull())
+        return;
+    QStringList names;
+    for (const PPDMark &choice : missingChoices(job(), *front->panel, setting))
+        names += nameOfChoice(job().ppd(), choice.keyword, choice.choice);
+    if (names.isEmpty())
+        return;
+    if (names.size() > kMostNames)
+        names = names.first(kMostNames - 1) + QStringList{u"…"_s};
+    showToolTip(place,
+                tr("Not to be had now: %1\nShift+F1 or the context menu tells why.")
+                    .arg(names.join(tr(", "))),
+                part);
 }
 
 /// Tells why the choice is not to be had, and offers the way to it.

@@ -82,6 +82,7 @@ void DialogTabs::addPanels()
         auto *pane = new PanelPane(this);
         connect(pane, &PanelPane::viewResized, this, &DialogTabs::viewResized);
         connect(pane, &PanelPane::explanationWanted, this, &DialogTabs::explanationWanted);
+        connect(pane, &PanelPane::tipWanted, this, &DialogTabs::tipWanted);
         addPart(panel.name, pane, panel.panel->panelName(), &panel);
     }
 }

@@ -72,8 +72,9 @@ Q_SIGNALS:
     /// The view of a panel has come to another size by itself.
     void viewResized();
 
-    /// PanelPane::explanationWanted() of a panel's pane.
+    /// PanelPane::explanationWanted() and tipWanted() of a panel's pane.
     void explanationWanted(const QWidget *part, const QPoint &place);
+    void tipWanted(QWidget *part, const QPoint &place);
 
 private:
     void addPart(const QString &name, QWidget *page, const QString &title,

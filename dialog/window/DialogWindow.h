@@ -200,6 +200,7 @@ private:
     // DialogAdvice.cpp
     void connectAdvice();
     void offerQuestions(const QWidget *part, const QPoint &place);
+    void showMissing(QWidget *part, const QPoint &place);
     void explain(const PPDMark &wanted);
     void offerRemedies(const PPDMark &refused, const QString &sentence);
     void take(const Remedy &remedy, const PPDMark &wanted);

@@ -28,6 +28,10 @@ constexpr std::array kParagraphs{
                                   "below it."),
     QT_TRANSLATE_NOOP("HostHelp", "When the printer does not allow two settings together, the "
                                   "second one is not made, and a line above the tabs names both."),
+    QT_TRANSLATE_NOOP("HostHelp",
+                      "Ctrl+Z takes back what you have set, step by step, and Ctrl+Shift+Z does it "
+                      "again. Shift+F1 and the context menu of a setting tell why something cannot "
+                      "be chosen there, and how it can."),
     QT_TRANSLATE_NOOP(
         "HostHelp", "Summary lists everything that will be printed with. \"Save to File\" keeps "
                     "the job with its documents; open it here later, as a document, to print it."),

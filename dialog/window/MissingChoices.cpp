@@ -10,14 +10,15 @@
 
 namespace {
 
-/// The keyword whose control the part is or is in; null without one.
-QString keywordOf(const HostPanel &panel, const QStringList &keywords, const QWidget *part)
+/// Those that have a control which is shown.
+QStringList shownSettings(const HostPanel &panel)
 {
-    const auto found = std::ranges::find_if(keywords, [&](const QString &keyword) {
-        const QWidget *control = panel.controls->controlOf(keyword);
-        return control && part && (control == part || control->isAncestorOf(part));
+    QStringList keywords = panel.panel->supportedPPDOptionKeys().value_or(QStringList());
+    keywords.removeIf([&](const QString &keyword) {
+        const QWidget *control = panel.controls ? panel.controls->controlOf(keyword) : nullptr;
+        return !control || isHiddenItself(control);
     });
-    return found == keywords.end() ? QString() : *found;
+    return keywords;
 }
 
 QList<PPDMark> missingOf(const PrintJob &job, const QString &keyword)
@@ -35,19 +36,21 @@ QList<PPDMark> missingOf(const PrintJob &job, const QString &keyword)
 
 } // namespace
 
-QList<PPDMark> missingChoices(const PrintJob &job, const HostPanel &panel, const QWidget *part)
+QString settingOf(const HostPanel &panel, const QWidget *part)
 {
-    QStringList keywords = panel.panel->supportedPPDOptionKeys().value_or(QStringList());
-    if (!panel.controls)
-        return {};
-    keywords.removeIf([&](const QString &keyword) {
+    const QStringList keywords = shownSettings(panel);
+    const auto found = std::ranges::find_if(keywords, [&](const QString &keyword) {
         const QWidget *control = panel.controls->controlOf(keyword);
-        return !control || isHiddenItself(control);
+        return part && (control == part || control->isAncestorOf(part));
     });
-    if (const QString asked = keywordOf(panel, keywords, part); !asked.isNull())
-        keywords = {asked};
+    return found == keywords.end() ? QString() : *found;
+}
+
+QList<PPDMark> missingChoices(const PrintJob &job, const HostPanel &panel, const QString &keyword)
+{
     QList<PPDMark> missing;
-    for (const QString &keyword : keywords)
-        missing += missingOf(job, keyword);
+    for (const QString &shown : shownSettings(panel))
+        if (keyword.isNull() || shown == keyword)
+            missing += missingOf(job, shown);
     return missing;
 }

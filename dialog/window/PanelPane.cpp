@@ -4,6 +4,7 @@
 #include "platform/toolkit/PanelPoint.h"
 
 #include <QtGui/QContextMenuEvent>
+#include <QtGui/QHelpEvent>
 #include <QtWidgets/QLineEdit>
 #include <QtWidgets/QScrollBar>
 
@@ -90,5 +91,8 @@ bool PanelPane::eventFilter(QObject *watched, QEvent *event)
                                  static_cast<QContextMenuEvent *>(event)->globalPos());
         return true;
     }
+    if (event->type() == QEvent::ToolTip)
+        Q_EMIT tipWanted(static_cast<QWidget *>(watched),
+                         static_cast<QHelpEvent *>(event)->globalPos());
     return QScrollArea::eventFilter(watched, event);
 }

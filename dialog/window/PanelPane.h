@@ -30,6 +30,9 @@ Q_SIGNALS:
     /// Somebody asks about a part of the view, at a place on the screen; null: about all of it.
     void explanationWanted(const QWidget *part, const QPoint &place);
 
+    /// The pointer rests on a part of the view that has no tip of its own.
+    void tipWanted(QWidget *part, const QPoint &place);
+
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
 

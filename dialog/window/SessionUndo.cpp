@@ -120,6 +120,8 @@ void SessionUndo::noteUser(const QString &name)
         m_history.amend(std::move(moment));
     else
         m_history.note(std::move(moment), subject);
+    if (canUndo())
+        m_controller.prepareToReopen();
 }
 
 void SessionUndo::noteOwn()
@@ -165,5 +167,6 @@ Result<> SessionUndo::goTo(const Moment &moment)
         m_journal.setPlace(moment.place);
     }
     job.setSettled(moment.settled);
+    m_controller.prepareToReopen(); // the next one
     return {};
 }

@@ -432,6 +432,16 @@
         <source>Leave It</source>
         <translation>So lassen</translation>
     </message>
+    <message>
+        <source>Not to be had now: %1
+Shift+F1 or the context menu tells why.</source>
+        <translation>Zurzeit nicht wählbar: %1
+Umschalt+F1 oder das Kontextmenü sagt, warum.</translation>
+    </message>
+    <message>
+        <source>, </source>
+        <translation>, </translation>
+    </message>
 </context>
 <context>
     <name>DialogTabs</name>
@@ -644,6 +654,10 @@
     <message>
         <source>Close</source>
         <translation>Schließen</translation>
+    </message>
+    <message>
+        <source>Ctrl+Z takes back what you have set, step by step, and Ctrl+Shift+Z does it again. Shift+F1 and the context menu of a setting tell why something cannot be chosen there, and how it can.</source>
+        <translation>Strg+Z nimmt Ihre Einstellungen Schritt für Schritt zurück, Strg+Umschalt+Z stellt sie wieder her. Umschalt+F1 und das Kontextmenü einer Einstellung sagen, warum etwas dort nicht gewählt werden kann und wie es möglich wird.</translation>
     </message>
 </context>
 <context>

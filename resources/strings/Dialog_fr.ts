@@ -432,6 +432,16 @@
         <source>Leave It</source>
         <translation>Laisser ainsi</translation>
     </message>
+    <message>
+        <source>Not to be had now: %1
+Shift+F1 or the context menu tells why.</source>
+        <translation>Pas disponible actuellement : %1
+Maj+F1 ou le menu contextuel dit pourquoi.</translation>
+    </message>
+    <message>
+        <source>, </source>
+        <translation>, </translation>
+    </message>
 </context>
 <context>
     <name>DialogTabs</name>
@@ -644,6 +654,10 @@
     <message>
         <source>Close</source>
         <translation>Fermer</translation>
+    </message>
+    <message>
+        <source>Ctrl+Z takes back what you have set, step by step, and Ctrl+Shift+Z does it again. Shift+F1 and the context menu of a setting tell why something cannot be chosen there, and how it can.</source>
+        <translation>Ctrl+Z annule pas à pas ce que vous avez réglé, et Ctrl+Maj+Z le rétablit. Maj+F1 et le menu contextuel d’un réglage disent pourquoi une valeur n’y peut pas être choisie, et comment l’obtenir.</translation>
     </message>
 </context>
 <context>

@@ -432,6 +432,16 @@
         <source>Leave It</source>
         <translation>このままにする</translation>
     </message>
+    <message>
+        <source>Not to be had now: %1
+Shift+F1 or the context menu tells why.</source>
+        <translation>今は選べないもの: %1
+理由は Shift+F1 キーまたは右クリックで分かります。</translation>
+    </message>
+    <message>
+        <source>, </source>
+        <translation>、</translation>
+    </message>
 </context>
 <context>
     <name>DialogTabs</name>
@@ -644,6 +654,10 @@
     <message>
         <source>Close</source>
         <translation>閉じる</translation>
+    </message>
+    <message>
+        <source>Ctrl+Z takes back what you have set, step by step, and Ctrl+Shift+Z does it again. Shift+F1 and the context menu of a setting tell why something cannot be chosen there, and how it can.</source>
+        <translation>Ctrl+Z で設定を 1 つずつ元に戻し、Ctrl+Shift+Z でやり直します。Shift+F1 キーまたは設定を右クリックしたメニューで、選べない理由と選べるようにする方法が分かります。</translation>
     </message>
 </context>
 <context>

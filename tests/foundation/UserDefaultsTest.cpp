@@ -33,6 +33,19 @@ protected:
     UserDefaults &defaults = UserDefaults::standardUserDefaults();
 };
 
+TEST_F(UserDefaultsTest, AreAsTheyWereAfterTransientOnes)
+{
+    defaults.setPersistentDomain({{u"alert"_s, false}}, kDomain);
+    {
+        const TransientDefaults transient;
+        EXPECT_TRUE(read().isEmpty());
+        defaults.setPersistentDomain({{u"alert"_s, true}, {u"other"_s, 1}}, kDomain);
+        EXPECT_EQ(read().size(), 2);
+    }
+    EXPECT_EQ(read().value(u"alert"_s).toBool(), false);
+    EXPECT_EQ(read().size(), 1);
+}
+
 TEST_F(UserDefaultsTest, HasAnEmptyDomainBeforeTheFirstWrite)
 {
     EXPECT_TRUE(read().isEmpty());

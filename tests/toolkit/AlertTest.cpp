@@ -7,6 +7,7 @@
 
 #include <gtest/gtest.h>
 
+#include <QtCore/QTimer>
 #include <QtTest/QTest>
 #include <QtWidgets/QAbstractButton>
 #include <QtWidgets/QApplication>
@@ -258,6 +259,80 @@ TEST(AlertTest, CanRaiseAnotherFromItsAnswer)
                           AlertAnswers::button(1)});
     EXPECT_EQ(runAlert(question()).button, 0);
     EXPECT_EQ(answers.shown().size(), 2U);
+}
+
+/// Answers alerts that nobody is to see.
+class UnseenAnswers : public AlertAnswers
+{
+public:
+    using AlertAnswers::AlertAnswers;
+    bool keepsAlertsUnseen() const override { return true; }
+};
+
+TEST_P(Answered, AlertThatIsKeptFromTheScreen)
+{
+    const QByteArray behaviour = GetParam().behaviour;
+    if (!behaviour.contains("Button")) // nobody can press a key in what is not there
+        return;
+    UnseenAnswers answers({[](const ShownAlert &alert) {
+        EXPECT_TRUE(alert.isUnseen);
+        EXPECT_FALSE(alert.window->isVisible());
+        GetParam().answer(alert);
+    }});
+    const AlertResult result = runAlert(question());
+    EXPECT_EQ(result.button, GetParam().button);
+    EXPECT_EQ(result.suppressed, GetParam().suppressed);
+}
+
+TEST(AlertTest, AnUnseenSheetWaitsForItsAnswer)
+{
+    QObject context;
+    UnseenAnswers answers({AlertAnswers::button(1)});
+    int button = -1;
+    beginAlertSheet(question(), &context, [&](const AlertResult &end) { button = end.button; });
+    EXPECT_EQ(button, -1);
+    EXPECT_FALSE(answers.shown().at(0).window->isVisible());
+    answers.take();
+    EXPECT_EQ(button, 1);
+}
+
+/// Counts the alerts, and answers none.
+class CountingWitness : public AlertObserver
+{
+public:
+    CountingWitness() { addWitness(this); }
+    ~CountingWitness() override { removeWitness(this); }
+    CountingWitness(const CountingWitness &) = delete;
+    CountingWitness &operator=(const CountingWitness &) = delete;
+    void alertShown(const ShownAlert &) override { ++count; }
+
+    int count = 0;
+};
+
+TEST(AlertTest, IsToldToEveryWitnessBesideWhoAnswers)
+{
+    const CountingWitness older;
+    const AlertAnswers answers({AlertAnswers::button(0)});
+    const CountingWitness younger;
+    runAlert(question());
+    EXPECT_EQ(older.count, 1);
+    EXPECT_EQ(younger.count, 1);
+}
+
+TEST(AlertTest, IsToldToNobodyWhereItIsNotObserved)
+{
+    const CountingWitness witness;
+    const AlertAnswers nobody;
+    {
+        const UnobservedAlerts own;
+        QTimer::singleShot(0, qApp, [] {
+            ASSERT_NE(QApplication::activeModalWidget(), nullptr);
+            QTest::keyClick(QApplication::activeModalWidget(), Qt::Key_Escape);
+        });
+        EXPECT_EQ(runAlert(question()).button, 1);
+    }
+    EXPECT_EQ(witness.count, 0);
+    EXPECT_EQ(AlertObserver::alertObserver(), &nobody);
 }
 
 } // namespace

@@ -191,4 +191,21 @@ TEST(ModalSessionTest, LetsPicturesGiveWayOnAScreenThatIsTooSmall)
     EXPECT_EQ(runModalForWindow(&window), kModalOK);
 }
 
+TEST(ModalSessionTest, EndsByItsButtonWhereItIsKeptFromTheScreen)
+{
+    class Unseen : public AlertAnswers
+    {
+    public:
+        using AlertAnswers::AlertAnswers;
+        bool keepsAlertsUnseen() const override { return true; }
+    };
+    AlertWindow window;
+    const Unseen answers({[&](const ShownAlert &alert) {
+        EXPECT_FALSE(window.isVisible());
+        alert.press(0);
+    }});
+    EXPECT_EQ(runModalForWindow(&window), kModalOK);
+    EXPECT_FALSE(window.isVisible());
+}
+
 } // namespace

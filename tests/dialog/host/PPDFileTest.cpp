@@ -142,6 +142,34 @@ TEST(PPDFile, AGoodPPDIsOpenedWithItsDefaultsMarked)
     EXPECT_EQ(markedChoice(opened->ppd.get(), u"Finish"_s), u"Matt"_s);
 }
 
+TEST(PPDFile, AnOpenedPPDCanBeOpenedOnceMoreThoughItsFileHasGone)
+{
+    const QTemporaryDir folder;
+    const QString path = folder.filePath(u"the.ppd"_s);
+    writeFile(path, smallPrinter().text());
+    const auto opened = openPPD(path);
+    ASSERT_TRUE(opened);
+    forceChoice(opened->ppd.get(), u"Finish"_s, u"Shiny"_s);
+    ASSERT_TRUE(QFile::remove(path));
+    for (int times = 0; times < 2; ++times) {
+        const auto again = reopenPPD(opened->text, PPDTexts::AsWritten);
+        ASSERT_TRUE(again) << again.sentence().toStdString();
+        EXPECT_EQ(marksOf(again->ppd.get()), opened->defaults);
+        EXPECT_TRUE(isSameText(*again->text, *opened->text));
+    }
+}
+
+TEST(PPDFile, TextsAreComparedWhole)
+{
+    const QTemporaryDir folder;
+    const QString one = folder.filePath(u"one.ppd"_s);
+    const QString other = folder.filePath(u"other.ppd"_s);
+    writeFile(one, smallPrinter().text());
+    writeFile(other, smallPrinter().text() + "*% changed\n");
+    EXPECT_TRUE(isSameText(*openPPD(one)->text, *openPPD(one)->text));
+    EXPECT_FALSE(isSameText(*openPPD(one)->text, *openPPD(other)->text));
+}
+
 TEST(PPDFile, AMissingLineBreakAtTheEndIsNoCut)
 {
     const QTemporaryDir folder;

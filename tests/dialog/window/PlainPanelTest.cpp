@@ -63,6 +63,27 @@ TEST_F(PlainPanel, KeepsTheDialogFromNoSetting)
     EXPECT_NE(notice(), QString());
 }
 
+TEST_F(PlainPanel, HasItsPicksUndoneThoughNobodySeesThem)
+{
+    open();
+    const auto press = [this](Qt::KeyboardModifiers modifiers) {
+        QTest::keyClick(m_window.get(), Qt::Key_Z, modifiers);
+        QCoreApplication::processEvents();
+    };
+    click("shinyButton");
+    QCoreApplication::processEvents();
+    ASSERT_EQ(marked(u"Finish"_s), u"Shiny"_s);
+    EXPECT_TRUE(m_window->showPart(u"setup"_s));
+    pick("paperPopup", u"A5"_s);
+    press(Qt::ControlModifier);
+    EXPECT_EQ(marked(u"PageSize"_s), u"A4"_s);
+    EXPECT_EQ(marked(u"Finish"_s), u"Shiny"_s);
+    press(Qt::ControlModifier);
+    EXPECT_EQ(marked(u"Finish"_s), u"Matt"_s);
+    press(Qt::ControlModifier | Qt::ShiftModifier);
+    EXPECT_EQ(marked(u"Finish"_s), u"Shiny"_s);
+}
+
 TEST_F(PlainPanel, IsReplayedWithWhatIsKnownOfIt)
 {
     ReplaySession session(plainBundle());

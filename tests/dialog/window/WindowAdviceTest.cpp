@@ -3,7 +3,10 @@
 #include "tests/support/ClashingPPD.h"
 
 #include <QtGui/QContextMenuEvent>
+#include <QtGui/QHelpEvent>
+#include <QtGui/QTextDocumentFragment>
 #include <QtWidgets/QMenu>
+#include <QtWidgets/QToolTip>
 
 using namespace Qt::StringLiterals;
 
@@ -96,6 +99,23 @@ TEST_F(WindowAdvice, IsAskedByTheKeyboardToo)
     part<QWidget>("helpButton")->setFocus();
     QTest::keyClick(m_window.get(), Qt::Key_F1, Qt::ShiftModifier);
     EXPECT_TRUE(questions().contains(u"Why is there no \"Photo\"?"_s));
+}
+
+TEST_F(WindowAdvice, NamesWhatIsNotThereInATip)
+{
+    open();
+    const auto tipOver = [this](const char *name) {
+        auto *widget = part<QWidget>(name);
+        const QPoint middle = widget->rect().center();
+        QToolTip::hideText();
+        QHelpEvent event(QEvent::ToolTip, middle, widget->mapToGlobal(middle));
+        QCoreApplication::sendEvent(widget, &event);
+        return QTextDocumentFragment::fromHtml(QToolTip::text()).toPlainText();
+    };
+    const QString tip = tipOver("resolutionPopup");
+    EXPECT_TRUE(tip.startsWith(u"Not to be had now: "_s)) << tip.toStdString();
+    EXPECT_TRUE(tip.contains(u"Photo"_s)) << tip.toStdString();
+    EXPECT_TRUE(tip.endsWith(u"Shift+F1 or the context menu tells why."_s)) << tip.toStdString();
 }
 
 TEST_F(WindowAdvice, SaysWhereEverythingCanBeChosen)

@@ -1,0 +1,100 @@
+// A session is brought to the place of another one by the same events.
+#include "dialog/replay/SessionJournal.h"
+
+#include "dialog/host/HostSession.h"
+#include "dialog/host/controls/UserActions.h"
+#include "dialog/replay/StateReport.h"
+#include "platform/foundation/UserDefaults.h"
+#include "tests/built/BuiltFiles.h"
+#include "tests/support/AlertAnswers.h"
+
+#include <QtCore/QJsonDocument>
+
+#include <gtest/gtest.h>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+class Journal : public testing::Test
+{
+protected:
+    Journal()
+    {
+        UserDefaults::standardUserDefaults().setFolder(QString());
+        start();
+    }
+
+    void start()
+    {
+        m_session.reset(); // two at once would hear of each other
+        SessionOptions options;
+        options.ppdPath = samplePPD(u"velkaro-px-t900"_s);
+        options.bundlePath = builtBundle();
+        options.alertMemory = QVariantMap();
+        m_session = *HostSession::open(options);
+        m_journal.attach(*m_session);
+        m_session->start();
+    }
+
+    const HostPanel &print() { return *m_session->panelNamed(u"print"_s); }
+
+    std::string state() const
+    {
+        return QJsonDocument(panelReports(*m_session)).toJson().toStdString();
+    }
+
+    SessionJournal m_journal;
+    std::unique_ptr<HostSession> m_session;
+};
+
+TEST_F(Journal, BringsAnotherSessionToTheSamePlace)
+{
+    m_session->show(print());
+    pickChoice(*print().controls, u"mediaTypePopup"_s, u"Glossy"_s);
+    const JournalPlace glossy = m_journal.place();
+    const std::string atGlossy = state();
+    pickChoice(*print().controls, u"monoColorPopup"_s, u"Mono"_s);
+    const JournalPlace mono = m_journal.place();
+    const std::string atMono = state();
+    EXPECT_TRUE(isAfter(glossy, mono));
+    EXPECT_FALSE(isAfter(mono, glossy));
+    EXPECT_TRUE(isAfter(nullptr, glossy));
+    EXPECT_EQ(panelShownAt(mono), u"print"_s);
+
+    start();
+    EXPECT_EQ(m_journal.place(), nullptr);
+    EXPECT_EQ(panelShownAt(m_journal.place()), QString());
+    bring(*m_session, nullptr, glossy);
+    EXPECT_EQ(state(), atGlossy);
+    bring(*m_session, glossy, mono);
+    EXPECT_EQ(state(), atMono);
+}
+
+TEST_F(Journal, AnswersAlertsAsTheyWereAndShowsNone)
+{
+    m_session->show(print());
+    pickChoice(*print().controls, u"mediaTypePopup"_s, u"Glossy"_s);
+    {
+        AlertAnswers answers({AlertAnswers::button(1)});
+        pickChoice(*print().controls, u"resolutionPopup"_s, u"Best"_s);
+        answers.take();
+    }
+    const JournalPlace place = m_journal.place();
+    const std::string before = state();
+    start();
+    const AlertAnswers none;
+    bring(*m_session, nullptr, place);
+    EXPECT_EQ(state(), before);
+    EXPECT_EQ(none.shown().size(), 0U);
+}
+
+TEST_F(Journal, KeepsALongWayWithoutBeingDeep)
+{
+    JournalPlace place;
+    for (int event = 0; event < 1'000'000; ++event)
+        place = std::make_shared<JournalEntry>(place, ReplayRevert{}, FollowedAnswers());
+    place.reset();
+}
+
+} // namespace
