@@ -71,7 +71,7 @@ SettingScratch::SettingScratch(PrintJob &job, const PPDMark &wanted, int mostTri
 bool SettingScratch::isHad()
 {
     ProcessCopy copy(kLongestTrial, [this](const ProcessCopy::Tell &tell) {
-        tell(isHadAfterSave() && isSound({}) ? "yes" : "no");
+        tell(isHadAfterSave() ? "yes" : "no");
     });
     return copy.nextLine() == "yes";
 }
