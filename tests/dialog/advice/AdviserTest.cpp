@@ -63,7 +63,7 @@ TEST_F(AdviserOnASession, FollowsWhatHappensInTheSession)
     pickInPanels(*m_session, u"VKMediaType"_s, u"Glossy"_s);
     EXPECT_EQ(answerTo(kPhoto)->outcome, Advice::Outcome::Available);
     m_session->markElsewhere(u"Duplex"_s, u"DuplexTumble"_s);
-    const std::optional<Advice> advice = answerTo(kPhoto);
+    const std::optional<Advice> advice = answerTo({u"VKMediaType"_s, u"Glossy"_s});
     ASSERT_TRUE(advice);
     EXPECT_EQ(advice->remedies.value(0).changes,
               (QList<SettingChange>{{u"Duplex"_s, u"DuplexTumble"_s, u"None"_s}}));
