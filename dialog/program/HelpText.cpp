@@ -16,8 +16,9 @@ Printer
 Settings
   -o, --option KEY=VALUE  make a setting of the printer; may be given again,
                           in any order, once for each KEY;
-                          every printer has media, sides,
-                          print-quality, number-up, number-up-layout,
+                          media, sides, print-quality, print-color-mode and
+                          output-bin as far as the printer has them; with
+                          every printer number-up, number-up-layout,
                           page-border, page-set, outputorder, booklet,
                           multiple-document-handling, job-hold-until,
                           job-priority, job-sheets, notify-recipient-uri

@@ -18,8 +18,9 @@ Imprimante
 Réglages
   -o, --option KEY=VALUE  faire un réglage de l’imprimante ; peut être répété,
                           dans n’importe quel ordre, une fois par KEY ;
-                          chaque imprimante a media, sides,
-                          print-quality, number-up, number-up-layout,
+                          media, sides, print-quality, print-color-mode et
+                          output-bin si l’imprimante les a ; avec chaque
+                          imprimante number-up, number-up-layout,
                           page-border, page-set, outputorder, booklet,
                           multiple-document-handling, job-hold-until,
                           job-priority, job-sheets, notify-recipient-uri

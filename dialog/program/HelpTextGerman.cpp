@@ -17,8 +17,9 @@ Drucker
 Einstellungen
   -o, --option KEY=VALUE  den Drucker einstellen; mehrfach möglich, in jeder
                           Reihenfolge, einmal für jeden KEY;
-                          jeder Drucker hat media, sides,
-                          print-quality, number-up, number-up-layout,
+                          media, sides, print-quality, print-color-mode und
+                          output-bin, soweit der Drucker sie hat; mit jedem
+                          Drucker number-up, number-up-layout,
                           page-border, page-set, outputorder, booklet,
                           multiple-document-handling, job-hold-until,
                           job-priority, job-sheets, notify-recipient-uri

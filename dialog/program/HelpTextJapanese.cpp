@@ -14,9 +14,10 @@ const LauncherTexts kJapaneseTexts{
 
 設定
   -o, --option KEY=VALUE  プリンターの設定を選ぶ（KEY ごとに 1 回ずつ、順序に
-                          関係なく、繰り返し指定できます）。どのプリンターにも
-                          ある設定: media, sides,
-                          print-quality, number-up, number-up-layout,
+                          関係なく、繰り返し指定できます）。プリンターに
+                          あれば使える設定: media, sides, print-quality,
+                          print-color-mode, output-bin。どのプリンターでも
+                          使える設定: number-up, number-up-layout,
                           page-border, page-set, outputorder, booklet,
                           multiple-document-handling, job-hold-until,
                           job-priority, job-sheets, notify-recipient-uri

@@ -4,6 +4,7 @@
 #include "dialog/printing/PrintController.h"
 #include "dialog/printing/ScriptedAnswers.h"
 #include "dialog/printing/SettingRequests.h"
+#include "dialog/printing/StandardSettings.h"
 #include "dialog/program/CommandOutput.h"
 #include "dialog/program/Explanation.h"
 #include "dialog/program/LauncherOutput.h"
@@ -57,11 +58,16 @@ Result<> makeOthers(PrintController &controller)
     return {};
 }
 
+/// Asked for by the printer's name for the setting, or by the one that every printer has.
 Result<PPDMark> wantedChoice(const PrintJob &job, const RequestedChoice &asked)
 {
-    if (job.session())
-        return choiceOfPPD(*job.session(), asked.keyword, asked.choice);
-    return knownSetting(job, asked).fault(); // which says that there is no PPD
+    if (!job.session())
+        return knownSetting(job, asked).fault(); // which says that there is no PPD
+    const NamedWishes named = inPrintersNames(job.ppd(), {asked});
+    if (!named.state)
+        return named.state.fault();
+    const RequestedChoice &wanted = named.wanted.constFirst();
+    return choiceOfPPD(*job.session(), wanted.keyword, wanted.choice);
 }
 
 Result<Advice> findOut(PrintController &controller, const RequestedChoice &asked)

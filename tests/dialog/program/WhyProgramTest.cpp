@@ -87,6 +87,10 @@ const WhyCase kWhyCases[] = {
       u"Two-Sided Printing: Off and Inkjet Paper.\n"
       u"-o Duplex=None -o VKMediaType=Inkjet -o VKResolution=Photo\n"_s,
       {}}},
+    {"ByTheNameThatEveryPrinterHas",
+     {u"-o"_s, u"Duplex=DuplexTumble"_s, u"--why"_s, u"sides=two-sided-long-edge"_s},
+     u"en"_s,
+     {0, u"Long-Edge Binding can be chosen.\n"_s, {}}},
     {"ForAChoiceThatIsThere",
      {u"--why"_s, u"VKResolution=High"_s},
      u"en"_s,
