@@ -455,7 +455,7 @@ Maj+F1 ou le menu contextuel dit pourquoi.</translation>
     </message>
     <message>
         <source>Layout &amp; Job</source>
-        <translation>Mise en page &amp; travail</translation>
+        <translation>Disposition &amp; travail</translation>
     </message>
     <message>
         <source>Summary</source>
@@ -1172,7 +1172,7 @@ Maj+F1 ou le menu contextuel dit pourquoi.</translation>
     </message>
     <message>
         <source>Layout &amp; Job</source>
-        <translation>Mise en page &amp; travail</translation>
+        <translation>Disposition &amp; travail</translation>
     </message>
     <message>
         <source>Job Title</source>
