@@ -34,7 +34,8 @@ public:
     explicit Adviser(QObject *parent = nullptr);
     ~Adviser() override;
 
-    /// Follows the session from its beginning, in the place of the one before.
+    /// Follows the session from its beginning, in the place of the one before. It must have ended
+    /// before this does.
     void follow(HostSession &session);
 
     /// Asks of a choice of the PPD, as the session is now. `then` is told once, from the event

@@ -86,7 +86,7 @@ QString possibleSentence(ppd_file_t *ppd, const Advice &advice, const QString &w
 
 QString nameOfChoice(ppd_file_t *ppd, const QString &keyword, const QString &choice)
 {
-    const QString words = choiceWords(ppd, keyword, choice);
+    QString words = choiceWords(ppd, keyword, choice);
     ppd_option_t *option = findOption(ppd, keyword);
     const ppd_choice_t *found = findChoice(option, choice);
     if (!option || (found && option->num_choices > 2 && isUnmistakable(ppd, *option, found->text)))

@@ -147,7 +147,7 @@ Result<> OutputFile::openNew(const QByteArray &path)
     const int descriptor = ::open(path.constData(), kNew, kEverybodysMode);
     if (descriptor < 0 && errno == EEXIST)
         return refuse(OutputVerdict::Exists);
-    const Result<> taken = take(descriptor);
+    Result<> taken = take(descriptor);
     if (taken)
         m_created = identityOf(descriptor);
     return taken;

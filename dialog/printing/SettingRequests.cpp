@@ -185,7 +185,7 @@ bool hasSetting(const PrintJob &job, const RequestedChoice &known)
 
 QString lossSentence(const PrintJob &job, const RequestedChoice &known)
 {
-    const QString clash = refusalSentence(job.ppd(), known.keyword, known.choice);
+    QString clash = refusalSentence(job.ppd(), known.keyword, known.choice);
     if (!clash.isNull())
         return clash;
     const QString wanted =

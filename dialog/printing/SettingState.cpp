@@ -21,12 +21,12 @@ QString shownByBox(const QAbstractButton &box, const PDEPanelControls &panel,
     const auto isShown = [&](const QString &choice) {
         return panel.isTicked(keyword, choice) == box.isChecked();
     };
-    const QString marked = markedChoice(ppd, keyword);
+    QString marked = markedChoice(ppd, keyword);
     if (isShown(marked))
         return marked;
     const ppd_option_t *option = findOption(ppd, keyword);
     for (int index = 0; option && index < option->num_choices; ++index)
-        if (const QString choice = ppdName(option->choices[index].choice); isShown(choice))
+        if (QString choice = ppdName(option->choices[index].choice); isShown(choice))
             return choice;
     return {};
 }

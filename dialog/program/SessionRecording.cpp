@@ -13,7 +13,7 @@ Result<> SessionRecording::begin(const CommandLine &line, PrintController &contr
     if (line.record.isNull())
         return {};
     m_recorder = std::make_unique<Recorder>();
-    const Result<> opened = m_recorder->open(line.record, outputTerms(line));
+    Result<> opened = m_recorder->open(line.record, outputTerms(line));
     if (opened)
         controller.addSessionHook(
             [this](HostSession &session) { return m_recorder->attach(session); });

@@ -50,7 +50,7 @@ Result<FoundPrinter> findPrinter(PrintController &controller)
 Result<> makeOthers(PrintController &controller)
 {
     ScriptedAnswers answers(false);
-    const Result<> made =
+    Result<> made =
         controller.makeRequestedSettings([&](const RequestedChoice &) { answers.answerSheets(); });
     if (made.faultKind() != FaultKind::Vetoed)
         return made;

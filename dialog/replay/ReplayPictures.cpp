@@ -24,7 +24,7 @@ Result<> ReplayPictures::write(const QImage &picture, const QDir &folder, const 
     QBuffer png;
     picture.save(&png, "PNG");
     OutputFile file;
-    const Result<> written =
+    Result<> written =
         file.open(path, m_terms).andThen([&] { return file.write(png.data()); }).andThen([&] {
             return file.commit();
         });

@@ -67,6 +67,7 @@ void PlacementRows::refresh()
 {
     const ScalingCase on = m_job.scalingCase();
     std::vector<PopUpButton::Item> items;
+    items.reserve(kScalings.size());
     for (const PrintScaling scaling : kScalings)
         items.push_back({scalingTitle(scaling, on), scalingKeyword(scaling)});
     m_scaling->setItems(items);

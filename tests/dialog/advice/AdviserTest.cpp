@@ -45,8 +45,8 @@ protected:
         return m_answers.value(0);
     }
 
+    Adviser m_adviser; // follows the session to its end
     std::unique_ptr<HostSession> m_session;
-    Adviser m_adviser;
     QList<std::optional<Advice>> m_answers;
 };
 
