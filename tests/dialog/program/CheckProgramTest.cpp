@@ -1,11 +1,11 @@
 // The look at a PPD, by the program as it is installed.
 #include "tests/built/BuiltFiles.h"
+#include "tests/dialog/program/RunAlone.h"
 #include "tests/support/Files.h"
 #include "tests/support/PPDSource.h"
 #include "tests/support/QStringPrinting.h"
 #include "tests/support/SmallPrinter.h"
 
-#include <QtCore/QProcess>
 #include <QtCore/QTemporaryDir>
 
 #include <gtest/gtest.h>
@@ -23,21 +23,8 @@ struct Check
 
 Check check(const QStringList &arguments, const QString &language = u"en"_s)
 {
-    const QTemporaryDir home;
-    QProcess program;
-    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-    environment.remove(u"QT_QPA_PLATFORM"_s);
-    environment.remove(u"DISPLAY"_s);
-    environment.insert(u"HOME"_s, home.path());
-    environment.insert(u"XDG_CONFIG_HOME"_s, home.path());
-    environment.insert(u"LC_ALL"_s, u"C.UTF-8"_s);
-    environment.insert(u"LANGUAGE"_s, language);
-    program.setProcessEnvironment(environment);
-    program.start(QStringLiteral(PROGRAM), arguments);
-    EXPECT_TRUE(program.waitForFinished());
-    const QString output = QString::fromUtf8(program.readAllStandardOutput());
-    return {program.exitCode(), output.split(u'\n', Qt::SkipEmptyParts),
-            QString::fromUtf8(program.readAllStandardError())};
+    const ProgramEnd end = runAlone(arguments, {}, language);
+    return {end.status, end.output.split(u'\n', Qt::SkipEmptyParts), end.error};
 }
 
 /// A PPD, and what is found in it.

@@ -1,6 +1,7 @@
 // Why a setting is not to be had, what a run would do and what it has changed: by the program as it
 // is installed.
 #include "tests/built/BuiltFiles.h"
+#include "tests/dialog/program/RunAlone.h"
 #include "tests/support/CaseName.h"
 #include "tests/support/Files.h"
 #include "tests/support/QStringPrinting.h"
@@ -8,7 +9,6 @@
 #include <QtCore/QJsonArray>
 #include <QtCore/QJsonDocument>
 #include <QtCore/QJsonObject>
-#include <QtCore/QProcess>
 #include <QtCore/QTemporaryDir>
 
 #include <gtest/gtest.h>
@@ -16,36 +16,6 @@
 using namespace Qt::StringLiterals;
 
 namespace {
-
-struct ProgramEnd
-{
-    int status = -1;
-    QString output;
-    QString error;
-};
-
-/// In the place of a user who has no settings and no display.
-ProgramEnd runAlone(const QStringList &arguments, const QByteArray &input = {},
-                    const QString &language = u"en"_s)
-{
-    const QTemporaryDir home;
-    QProcess program;
-    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-    environment.remove(u"QT_QPA_PLATFORM"_s);
-    environment.remove(u"DISPLAY"_s);
-    environment.insert(u"HOME"_s, home.path());
-    environment.insert(u"XDG_CONFIG_HOME"_s, home.path());
-    environment.insert(u"XDG_RUNTIME_DIR"_s, home.path());
-    environment.insert(u"LC_ALL"_s, u"C.UTF-8"_s);
-    environment.insert(u"LANGUAGE"_s, language);
-    program.setProcessEnvironment(environment);
-    program.start(QStringLiteral(PROGRAM), arguments);
-    program.write(input);
-    program.closeWriteChannel();
-    EXPECT_TRUE(program.waitForFinished(120'000));
-    return {program.exitCode(), QString::fromUtf8(program.readAllStandardOutput()),
-            QString::fromUtf8(program.readAllStandardError())};
-}
 
 QStringList onSample(const QStringList &arguments)
 {
