@@ -120,7 +120,7 @@ void DialogWindow::tellEvent()
 /// What is not as it is shown, or goes with nothing else, and what the plug-in advises.
 DialogWindow::Notice DialogWindow::doubtsToTell()
 {
-    const QStringList doubts = doubtsOf(job());
+    const QStringList doubts = doubtsOf(job()) + printerDoubts();
     Notice notice{doubts.isEmpty() ? NoticeBar::Kind::Information : NoticeBar::Kind::Warning, {}};
     QStringList sentences = doubts;
     for (const JobAdvice &advice : adviceFor(job())) {
