@@ -114,6 +114,7 @@ private:
     void updateButtons();
     void tell(NoticeBar::Kind kind, const QString &sentence, const QList<NoticeOffer> &offers = {});
     void tellStanding();
+    void showStanding(const Notice &doubts);
     bool mayPrint() const;
     void showHelp();
 
@@ -128,8 +129,8 @@ private:
     void noteOwnEvent();
     void tellEvent();
     void tellRefusal(const QString &sentence, const PPDMark &choice);
-    Notice doubtsToTell();
-    Notice standingNotice();
+    Notice doubtsToTell(const SettingState &state);
+    Notice standingNotice(Notice doubts) const;
     void choose(const RequestedChoice &choice);
     QList<SettingChange> takeChanges();
 
