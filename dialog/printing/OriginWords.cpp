@@ -2,6 +2,7 @@
 
 #include "dialog/printing/ChangeWords.h"
 #include "dialog/printing/PrintJob.h"
+#include "dialog/printing/SettingState.h"
 #include "dialog/printing/SettingValues.h"
 #include "platform/ppd/PPDText.h"
 #include "platform/toolkit/PlainText.h"
@@ -53,6 +54,6 @@ QString originLine(const PrintJob &job, const SettingOrigins &origins, const QSt
     ppd_file_t *ppd = job.ppd();
     return OriginWords::tr("%1: %2 – %3")
         .arg(settingTitle(ppd, keyword),
-             choiceWords(ppd, keyword, settingValues(job).value(keyword)),
+             choiceWords(ppd, keyword, settingValues(job, settingState(job)).value(keyword)),
              originWords(ppd, origins.originOf(keyword)));
 }

@@ -122,13 +122,15 @@ void DialogWindow::tellEvent()
     if (m_state != State::Ready)
         return;
     if (isNobodys)
-        m_undo->noteOwn();
+        m_undo->noteOwn(m_toldState);
     else
-        m_undo->noteUser(picked);
-    tellStanding();
-    const Notice doubts = doubtsToTell();
-    if (refusal.isNull() && changes.isNull())
+        m_undo->noteUser(picked, m_toldState);
+    const Notice doubts = doubtsToTell(m_toldState);
+    if (refusal.isNull() && changes.isNull()) {
+        showStanding(doubts);
         return;
+    }
+    updateButtons();
     QStringList news{refusal, changes, doubts.sentence};
     news.removeAll(QString());
     QList<NoticeOffer> offers = doubts.offers;
@@ -140,9 +142,9 @@ void DialogWindow::tellEvent()
 }
 
 /// What is not as it is shown, or goes with nothing else, and what the plug-in advises.
-DialogWindow::Notice DialogWindow::doubtsToTell()
+DialogWindow::Notice DialogWindow::doubtsToTell(const SettingState &state)
 {
-    const QStringList doubts = doubtsOf(job());
+    const QStringList doubts = doubtsOf(job(), state);
     Notice notice{doubts.isEmpty() ? NoticeBar::Kind::Information : NoticeBar::Kind::Warning, {}};
     QStringList sentences = doubts;
     for (const JobAdvice &advice : adviceFor(job())) {
@@ -164,9 +166,8 @@ void DialogWindow::choose(const RequestedChoice &choice)
 }
 
 /// What the printer or the documents lack, and the doubts about the settings.
-DialogWindow::Notice DialogWindow::standingNotice()
+DialogWindow::Notice DialogWindow::standingNotice(Notice doubts) const
 {
-    Notice doubts = doubtsToTell();
     if (doubts.sentence.isEmpty())
         return m_standing;
     if (m_standing.kind == NoticeBar::Kind::Information)

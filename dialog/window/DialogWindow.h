@@ -113,6 +113,7 @@ private:
     void updateButtons();
     void tell(NoticeBar::Kind kind, const QString &sentence, const QList<NoticeOffer> &offers = {});
     void tellStanding();
+    void showStanding(const Notice &doubts);
     bool mayPrint() const;
     void showHelp();
 
@@ -129,8 +130,8 @@ private:
     void tellRefusal(const QString &sentence, const PPDMark &choice);
     void connectAdvice();
     void take(const Remedy &remedy, const PPDMark &wanted);
-    Notice doubtsToTell();
-    Notice standingNotice();
+    Notice doubtsToTell(const SettingState &state);
+    Notice standingNotice(Notice doubts) const;
     void choose(const RequestedChoice &choice);
     QList<SettingChange> takeChanges();
 
