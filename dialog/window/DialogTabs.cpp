@@ -13,6 +13,7 @@
 #include "dialog/window/SuppliesPane.h"
 #include "platform/toolkit/AccessibleName.h"
 #include "platform/toolkit/PlainText.h"
+#include "platform/toolkit/PopUpButton.h"
 
 #include <QtCore/QSignalBlocker>
 
