@@ -1,6 +1,5 @@
 #include "dialog/window/DialogWindow.h"
 
-#include "dialog/advice/Adviser.h"
 #include "dialog/job/PipeDocuments.h"
 #include "dialog/window/ButtonRow.h"
 #include "dialog/window/DialogTabs.h"
@@ -49,7 +48,6 @@ DialogWindow::DialogWindow(const DialogWishes &wishes, QWidget *parent)
       m_wishes(wishes),
       m_controller(wishes),
       m_undo(std::make_unique<SessionUndo>(m_controller)),
-      m_adviser(std::make_unique<Adviser>()),
       m_documentState(m_controller.openDocuments(wishes.files)),
       m_outcome(Fault{FaultKind::Cancelled, {}}),
       m_watch(m_controller, *this)

@@ -16,7 +16,7 @@
 #include <memory>
 #include <optional>
 
-class Adviser;
+class DialogAdvice;
 class DialogTabs;
 class JobHeader;
 class ProgressStrip;
@@ -128,6 +128,8 @@ private:
     void noteOwnEvent();
     void tellEvent();
     void tellRefusal(const QString &sentence, const PPDMark &choice);
+    void connectAdvice();
+    void take(const Remedy &remedy, const PPDMark &wanted);
     Notice doubtsToTell(const SettingState &state);
     Notice standingNotice(Notice doubts) const;
     void choose(const RequestedChoice &choice);
@@ -198,14 +200,6 @@ private:
     void showSettled();
     void forgetEvent();
 
-    // DialogAdvice.cpp
-    void connectAdvice();
-    void offerQuestions(const QWidget *part, const QPoint &place);
-    void showMissing(QWidget *part, const QPoint &place);
-    void explain(const PPDMark &wanted);
-    void offerRemedies(const PPDMark &refused, const QString &sentence);
-    void take(const Remedy &remedy, const PPDMark &wanted);
-
     // DialogPrint.cpp
     std::optional<JobRequest> finishedJob();
     bool isAgreed(const QStringList &doubts);
@@ -221,7 +215,6 @@ private:
     const DialogWishes m_wishes;
     PrintController m_controller;
     const std::unique_ptr<SessionUndo> m_undo;
-    const std::unique_ptr<Adviser> m_adviser;
     Result<> m_documentState;
     std::optional<JobRequest> m_savedJob; ///< the only document, where that is a saved job
     Result<> m_printerState;
@@ -251,6 +244,7 @@ private:
     NoticeBar *m_notice;
     ProgressStrip *m_progress;
     DialogTabs *m_tabs;
+    DialogAdvice *m_advice;
     ScrolledBody *m_body = nullptr; ///< all but the buttons
     QWidget *m_buttons = nullptr;
     QPushButton *m_help = nullptr;
