@@ -11,9 +11,11 @@ class PageSetupPane;
 class PanelPane;
 class PrintJob;
 class SummaryPart;
+class QToolButton;
 
 /// The tabs of the dialog: its own panes, which live as long as it does and are tabs where there is
-/// something to show, and a pane for each panel of the job's printer.
+/// something to show, and a pane for each panel of the job's printer. Where there is no room for
+/// all titles, a button beside them lists them all.
 class DialogTabs : public QTabWidget
 {
     Q_OBJECT
@@ -76,13 +78,19 @@ Q_SIGNALS:
     void explanationWanted(const QWidget *part, const QPoint &place);
     void tipWanted(QWidget *part, const QPoint &place);
 
+protected:
+    bool event(QEvent *event) override;
+
 private:
+    void showAllButton(bool isShown);
+    void listParts();
     void addPart(const QString &name, QWidget *page, const QString &title,
                  const HostPanel *panel = nullptr);
     void addPanels();
     void putView(PanelPane &pane, QWidget *view);
 
     PrintJob &m_job;
+    QToolButton *m_all; ///< lists the parts
     PageSetupPane *m_pageSetup;
     FeaturesPane *m_features;
     LayoutPane *m_layout;

@@ -7,7 +7,8 @@
 
 class NoticeLabel;
 class NoticeSign;
-class QHBoxLayout;
+class QBoxLayout;
+class QGridLayout;
 class QPushButton;
 
 /// What a person can do about what is told, as a button beside it.
@@ -19,9 +20,10 @@ struct NoticeOffer
 };
 
 /// A strip that tells one thing at a time, in plain text: what the dialog waits for, why a choice
-/// was refused, what went wrong. It has the room of an ordinary sentence whether or not there is
-/// anything to tell, so that nothing moves when there is. What is longer is cut off there, and
-/// whole in its tool tip and its accessible name.
+/// was refused, what went wrong. It has the room of two lines whether or not there is anything to
+/// tell, and becomes higher for a longer sentence, as far as it may. What is longer still is cut
+/// off there, and whole in its tool tip and its accessible name. Offers stand beside the sentence,
+/// or below it where that would leave it too little room.
 class NoticeBar : public QFrame
 {
     Q_OBJECT
@@ -34,21 +36,28 @@ public:
     void tell(Kind kind, const QString &sentence, const QList<NoticeOffer> &offers = {});
     void clear();
 
+    /// How high the sentence may become where two lines are not enough.
+    void setMostHeight(int pixels);
+
     /// Null while there is nothing to tell.
     QString sentence() const { return m_sentence; }
     Kind kind() const { return m_kind; }
 
 protected:
     void changeEvent(QEvent *event) override;
+    void resizeEvent(QResizeEvent *event) override;
 
 private:
     void showSentence(const QString &sentence);
     void showOffers(const QList<NoticeOffer> &offers);
+    void arrange();
     void applyColors();
 
     NoticeSign *m_sign;
     NoticeLabel *m_label;
-    QHBoxLayout *m_layout;
+    QGridLayout *m_grid;
+    QWidget *m_offers;
+    QBoxLayout *m_offerLine;
     QList<QPushButton *> m_buttons; ///< one for each offer
     Kind m_kind = Kind::Information;
     QString m_sentence;
