@@ -267,8 +267,9 @@ Result<FinishedJob> PrintController::finish()
     const JobOptions options = m_job.options();
     if (!options.faults.isEmpty())
         return Fault{FaultKind::Vetoed, options.faults.constFirst()};
+    const SettingState after = settingState(m_job);
     FinishedJob finished{m_job.request(options.options),
-                         replacedBySaving(m_job, before) + doubtsOf(m_job)};
+                         replacedBySaving(m_job, before, after) + doubtsOf(m_job, after)};
     finished.doubts.removeDuplicates();
     return finished;
 }

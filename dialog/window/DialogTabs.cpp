@@ -125,6 +125,8 @@ void DialogTabs::addPanels()
         connect(pane, &PanelPane::viewResized, this, &DialogTabs::viewResized);
         connect(pane, &PanelPane::explanationWanted, this, &DialogTabs::explanationWanted);
         connect(pane, &PanelPane::tipWanted, this, &DialogTabs::tipWanted);
+        connect(pane, &PanelPane::listOpened, this, &DialogTabs::listOpened);
+        connect(pane, &PanelPane::listClosed, this, &DialogTabs::listClosed);
         addPart(panel.name, pane, panel.panel->panelName(), &panel);
     }
 }

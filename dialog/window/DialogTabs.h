@@ -9,6 +9,7 @@ class FeaturesPane;
 class LayoutPane;
 class PageSetupPane;
 class PanelPane;
+class PopUpButton;
 class PrintJob;
 class SummaryPart;
 class QToolButton;
@@ -74,9 +75,11 @@ Q_SIGNALS:
     /// The view of a panel has come to another size by itself.
     void viewResized();
 
-    /// PanelPane::explanationWanted() and tipWanted() of a panel's pane.
+    /// The signals of a panel's pane.
     void explanationWanted(const QWidget *part, const QPoint &place);
     void tipWanted(QWidget *part, const QPoint &place);
+    void listOpened(PopUpButton *popup);
+    void listClosed();
 
 protected:
     bool event(QEvent *event) override;

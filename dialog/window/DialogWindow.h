@@ -16,7 +16,7 @@
 #include <memory>
 #include <optional>
 
-class Adviser;
+class DialogAdvice;
 class DialogTabs;
 class JobHeader;
 class ProgressStrip;
@@ -112,6 +112,7 @@ private:
     void updateButtons();
     void tell(NoticeBar::Kind kind, const QString &sentence, const QList<NoticeOffer> &offers = {});
     void tellStanding();
+    void showStanding(const Notice &doubts);
     bool mayPrint() const;
     void showHelp();
 
@@ -126,8 +127,10 @@ private:
     void noteOwnEvent();
     void tellEvent();
     void tellRefusal(const QString &sentence, const PPDMark &choice);
-    Notice doubtsToTell();
-    Notice standingNotice();
+    void connectAdvice();
+    void take(const Remedy &remedy, const PPDMark &wanted);
+    Notice doubtsToTell(const SettingState &state);
+    Notice standingNotice(Notice doubts) const;
     void choose(const RequestedChoice &choice);
     QList<SettingChange> takeChanges();
 
@@ -196,14 +199,6 @@ private:
     void showSettled();
     void forgetEvent();
 
-    // DialogAdvice.cpp
-    void connectAdvice();
-    void offerQuestions(const QWidget *part, const QPoint &place);
-    void showMissing(QWidget *part, const QPoint &place);
-    void explain(const PPDMark &wanted);
-    void offerRemedies(const PPDMark &refused, const QString &sentence);
-    void take(const Remedy &remedy, const PPDMark &wanted);
-
     // DialogPrint.cpp
     std::optional<JobRequest> finishedJob();
     bool isAgreed(const QStringList &doubts);
@@ -219,7 +214,6 @@ private:
     const DialogWishes m_wishes;
     PrintController m_controller;
     const std::unique_ptr<SessionUndo> m_undo;
-    const std::unique_ptr<Adviser> m_adviser;
     Result<> m_documentState;
     std::optional<JobRequest> m_savedJob; ///< the only document, where that is a saved job
     Result<> m_printerState;
@@ -250,6 +244,7 @@ private:
     NoticeBar *m_notice;
     ProgressStrip *m_progress;
     DialogTabs *m_tabs;
+    DialogAdvice *m_advice;
     QWidget *m_buttons = nullptr;
     QPushButton *m_help = nullptr;
     QPushButton *m_save = nullptr;

@@ -9,6 +9,7 @@ class NoticeLabel;
 class NoticeSign;
 class QBoxLayout;
 class QGridLayout;
+class QMenu;
 class QPushButton;
 
 /// What a person can do about what is told, as a button beside it.
@@ -17,13 +18,16 @@ struct NoticeOffer
     QString name;  ///< of the button
     QString title; ///< plain text, without a mnemonic
     std::function<void()> take;
+    /// Ways to choose from, in a menu that the button opens in place of being taken.
+    QList<NoticeOffer> menu = {};
 };
 
 /// A strip that tells one thing at a time, in plain text: what the dialog waits for, why a choice
 /// was refused, what went wrong. It has the room of two lines whether or not there is anything to
 /// tell, and becomes higher for a longer sentence, as far as it may. What is longer still is cut
 /// off there, and whole in its tool tip and its accessible name. Offers stand beside the sentence,
-/// or below it where that would leave it too little room.
+/// or below it where that would leave it too little room. The titles of offers
+/// are broken into lines.
 class NoticeBar : public QFrame
 {
     Q_OBJECT
@@ -51,6 +55,9 @@ private:
     void showSentence(const QString &sentence);
     void showOffers(const QList<NoticeOffer> &offers);
     void arrange();
+    int linesFor(const QString &title) const;
+    QPushButton *newButton(const NoticeOffer &offer);
+    QMenu *newMenu(const QList<NoticeOffer> &offers, QWidget *parent);
     void applyColors();
 
     NoticeSign *m_sign;

@@ -195,6 +195,51 @@
     </message>
 </context>
 <context>
+    <name>DialogAdvice</name>
+    <message>
+        <source>Why is there no &quot;%1&quot;?</source>
+        <translation>Warum gibt es „%1“ nicht?</translation>
+    </message>
+    <message>
+        <source>Everything here can be chosen.</source>
+        <translation>Hier kann alles gewählt werden.</translation>
+    </message>
+    <message>
+        <source>Not to be had now: %1
+Shift+F1 or the context menu tells why.</source>
+        <translation>Zurzeit nicht wählbar: %1
+Umschalt+F1 oder das Kontextmenü sagt, warum.</translation>
+    </message>
+    <message>
+        <source>, </source>
+        <translation>, </translation>
+    </message>
+    <message>
+        <source>Finding out…</source>
+        <translation>Wird ermittelt…</translation>
+    </message>
+    <message>
+        <source>This cannot be explained.</source>
+        <translation>Das lässt sich nicht erklären.</translation>
+    </message>
+    <message>
+        <source>With that: %1</source>
+        <translation>Damit: %1</translation>
+    </message>
+    <message>
+        <source>Get It</source>
+        <translation>Ermöglichen</translation>
+    </message>
+    <message>
+        <source>Leave It</source>
+        <translation>So lassen</translation>
+    </message>
+    <message>
+        <source>All %1</source>
+        <translation>Alle %1</translation>
+    </message>
+</context>
+<context>
     <name>DialogWindow</name>
     <message>
         <source>Retry</source>
@@ -399,48 +444,6 @@
     <message>
         <source>Redo</source>
         <translation>Wiederherstellen</translation>
-    </message>
-    <message>
-        <source>Why is there no &quot;%1&quot;?</source>
-        <translation>Warum gibt es „%1“ nicht?</translation>
-    </message>
-    <message>
-        <source>Everything here can be chosen.</source>
-        <translation>Hier kann alles gewählt werden.</translation>
-    </message>
-    <message>
-        <source>Finding out…</source>
-        <translation>Wird ermittelt…</translation>
-    </message>
-    <message>
-        <source>This cannot be explained.</source>
-        <translation>Das lässt sich nicht erklären.</translation>
-    </message>
-    <message>
-        <source>With that: %1</source>
-        <translation>Damit: %1</translation>
-    </message>
-    <message>
-        <source>Get It</source>
-        <translation>Ermöglichen</translation>
-    </message>
-    <message>
-        <source>Use %1</source>
-        <translation>%1 verwenden</translation>
-    </message>
-    <message>
-        <source>Leave It</source>
-        <translation>So lassen</translation>
-    </message>
-    <message>
-        <source>Not to be had now: %1
-Shift+F1 or the context menu tells why.</source>
-        <translation>Zurzeit nicht wählbar: %1
-Umschalt+F1 oder das Kontextmenü sagt, warum.</translation>
-    </message>
-    <message>
-        <source>, </source>
-        <translation>, </translation>
     </message>
 </context>
 <context>
@@ -1374,6 +1377,10 @@ Umschalt+F1 oder das Kontextmenü sagt, warum.</translation>
     <message>
         <source>The printer's default</source>
         <translation>Standard des Druckers</translation>
+    </message>
+    <message>
+        <source>%1: %2 – %3</source>
+        <translation>%1: %2 – %3</translation>
     </message>
 </context>
 <context>
@@ -2368,6 +2375,30 @@ Umschalt+F1 oder das Kontextmenü sagt, warum.</translation>
         <source>There are too many conditions to explain why %1 is not there.</source>
         <translation>Es sind zu viele Bedingungen, um zu erklären, warum %1 nicht verfügbar ist.</translation>
     </message>
+    <message>
+        <source>use %1</source>
+        <translation>%1 verwenden</translation>
+    </message>
+    <message>
+        <source>turn on %1</source>
+        <translation>%1 einschalten</translation>
+    </message>
+    <message>
+        <source>turn off %1</source>
+        <translation>%1 ausschalten</translation>
+    </message>
+    <message>
+        <source>use %1 and %2</source>
+        <translation>%1 verwenden und %2</translation>
+    </message>
+    <message>
+        <source>turn on %1 and %2</source>
+        <translation>%1 einschalten und %2</translation>
+    </message>
+    <message>
+        <source>turn off %1 and %2</source>
+        <translation>%1 ausschalten und %2</translation>
+    </message>
 </context>
 <context>
     <name>SummaryPart</name>
@@ -2645,6 +2676,13 @@ Umschalt+F1 oder das Kontextmenü sagt, warum.</translation>
     <message>
         <source>%1: %2 (%3)</source>
         <translation>%1: %2 (%3)</translation>
+    </message>
+</context>
+<context>
+    <name>ListAdvice</name>
+    <message>
+        <source>Not to be had now: %1</source>
+        <translation>Zurzeit nicht wählbar: %1</translation>
     </message>
 </context>
 </TS>

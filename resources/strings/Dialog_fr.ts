@@ -195,6 +195,51 @@
     </message>
 </context>
 <context>
+    <name>DialogAdvice</name>
+    <message>
+        <source>Why is there no &quot;%1&quot;?</source>
+        <translation>Pourquoi « %1 » n’est-il pas proposé ?</translation>
+    </message>
+    <message>
+        <source>Everything here can be chosen.</source>
+        <translation>Tout peut être choisi ici.</translation>
+    </message>
+    <message>
+        <source>Not to be had now: %1
+Shift+F1 or the context menu tells why.</source>
+        <translation>Pas disponible actuellement : %1
+Maj+F1 ou le menu contextuel dit pourquoi.</translation>
+    </message>
+    <message>
+        <source>, </source>
+        <translation>, </translation>
+    </message>
+    <message>
+        <source>Finding out…</source>
+        <translation>Recherche en cours…</translation>
+    </message>
+    <message>
+        <source>This cannot be explained.</source>
+        <translation>Cela ne peut pas être expliqué.</translation>
+    </message>
+    <message>
+        <source>With that: %1</source>
+        <translation>Avec cela : %1</translation>
+    </message>
+    <message>
+        <source>Get It</source>
+        <translation>L’obtenir</translation>
+    </message>
+    <message>
+        <source>Leave It</source>
+        <translation>Laisser ainsi</translation>
+    </message>
+    <message>
+        <source>All %1</source>
+        <translation>Les %1</translation>
+    </message>
+</context>
+<context>
     <name>DialogWindow</name>
     <message>
         <source>Retry</source>
@@ -399,48 +444,6 @@
     <message>
         <source>Redo</source>
         <translation>Rétablir</translation>
-    </message>
-    <message>
-        <source>Why is there no &quot;%1&quot;?</source>
-        <translation>Pourquoi « %1 » n’est-il pas proposé ?</translation>
-    </message>
-    <message>
-        <source>Everything here can be chosen.</source>
-        <translation>Tout peut être choisi ici.</translation>
-    </message>
-    <message>
-        <source>Finding out…</source>
-        <translation>Recherche en cours…</translation>
-    </message>
-    <message>
-        <source>This cannot be explained.</source>
-        <translation>Cela ne peut pas être expliqué.</translation>
-    </message>
-    <message>
-        <source>With that: %1</source>
-        <translation>Avec cela : %1</translation>
-    </message>
-    <message>
-        <source>Get It</source>
-        <translation>L’obtenir</translation>
-    </message>
-    <message>
-        <source>Use %1</source>
-        <translation>Utiliser %1</translation>
-    </message>
-    <message>
-        <source>Leave It</source>
-        <translation>Laisser ainsi</translation>
-    </message>
-    <message>
-        <source>Not to be had now: %1
-Shift+F1 or the context menu tells why.</source>
-        <translation>Pas disponible actuellement : %1
-Maj+F1 ou le menu contextuel dit pourquoi.</translation>
-    </message>
-    <message>
-        <source>, </source>
-        <translation>, </translation>
     </message>
 </context>
 <context>
@@ -1374,6 +1377,10 @@ Maj+F1 ou le menu contextuel dit pourquoi.</translation>
     <message>
         <source>The printer's default</source>
         <translation>Valeur par défaut de l’imprimante</translation>
+    </message>
+    <message>
+        <source>%1: %2 – %3</source>
+        <translation>%1 : %2 – %3</translation>
     </message>
 </context>
 <context>
@@ -2368,6 +2375,30 @@ Maj+F1 ou le menu contextuel dit pourquoi.</translation>
         <source>There are too many conditions to explain why %1 is not there.</source>
         <translation>Il y a trop de conditions pour expliquer pourquoi %1 n'est pas possible.</translation>
     </message>
+    <message>
+        <source>use %1</source>
+        <translation>utiliser %1</translation>
+    </message>
+    <message>
+        <source>turn on %1</source>
+        <translation>activer %1</translation>
+    </message>
+    <message>
+        <source>turn off %1</source>
+        <translation>désactiver %1</translation>
+    </message>
+    <message>
+        <source>use %1 and %2</source>
+        <translation>utiliser %1 et %2</translation>
+    </message>
+    <message>
+        <source>turn on %1 and %2</source>
+        <translation>activer %1 et %2</translation>
+    </message>
+    <message>
+        <source>turn off %1 and %2</source>
+        <translation>désactiver %1 et %2</translation>
+    </message>
 </context>
 <context>
     <name>SummaryPart</name>
@@ -2645,6 +2676,13 @@ Maj+F1 ou le menu contextuel dit pourquoi.</translation>
     <message>
         <source>%1: %2 (%3)</source>
         <translation>%1 : %2 (%3)</translation>
+    </message>
+</context>
+<context>
+    <name>ListAdvice</name>
+    <message>
+        <source>Not to be had now: %1</source>
+        <translation>Pas disponible actuellement : %1</translation>
     </message>
 </context>
 </TS>

@@ -195,6 +195,51 @@
     </message>
 </context>
 <context>
+    <name>DialogAdvice</name>
+    <message>
+        <source>Why is there no &quot;%1&quot;?</source>
+        <translation>「%1」がないのはなぜですか?</translation>
+    </message>
+    <message>
+        <source>Everything here can be chosen.</source>
+        <translation>ここにあるものはすべて選べます。</translation>
+    </message>
+    <message>
+        <source>Not to be had now: %1
+Shift+F1 or the context menu tells why.</source>
+        <translation>今は選べないもの: %1
+理由は Shift+F1 キーまたは右クリックで分かります。</translation>
+    </message>
+    <message>
+        <source>, </source>
+        <translation>、</translation>
+    </message>
+    <message>
+        <source>Finding out…</source>
+        <translation>調べています…</translation>
+    </message>
+    <message>
+        <source>This cannot be explained.</source>
+        <translation>理由を説明できません。</translation>
+    </message>
+    <message>
+        <source>With that: %1</source>
+        <translation>これに伴う変更: %1</translation>
+    </message>
+    <message>
+        <source>Get It</source>
+        <translation>使えるようにする</translation>
+    </message>
+    <message>
+        <source>Leave It</source>
+        <translation>このままにする</translation>
+    </message>
+    <message>
+        <source>All %1</source>
+        <translation>%1 通りすべて</translation>
+    </message>
+</context>
+<context>
     <name>DialogWindow</name>
     <message>
         <source>Retry</source>
@@ -399,48 +444,6 @@
     <message>
         <source>Redo</source>
         <translation>やり直す</translation>
-    </message>
-    <message>
-        <source>Why is there no &quot;%1&quot;?</source>
-        <translation>「%1」がないのはなぜですか?</translation>
-    </message>
-    <message>
-        <source>Everything here can be chosen.</source>
-        <translation>ここにあるものはすべて選べます。</translation>
-    </message>
-    <message>
-        <source>Finding out…</source>
-        <translation>調べています…</translation>
-    </message>
-    <message>
-        <source>This cannot be explained.</source>
-        <translation>理由を説明できません。</translation>
-    </message>
-    <message>
-        <source>With that: %1</source>
-        <translation>これに伴う変更: %1</translation>
-    </message>
-    <message>
-        <source>Get It</source>
-        <translation>使えるようにする</translation>
-    </message>
-    <message>
-        <source>Use %1</source>
-        <translation>%1 を使う</translation>
-    </message>
-    <message>
-        <source>Leave It</source>
-        <translation>このままにする</translation>
-    </message>
-    <message>
-        <source>Not to be had now: %1
-Shift+F1 or the context menu tells why.</source>
-        <translation>今は選べないもの: %1
-理由は Shift+F1 キーまたは右クリックで分かります。</translation>
-    </message>
-    <message>
-        <source>, </source>
-        <translation>、</translation>
     </message>
 </context>
 <context>
@@ -1374,6 +1377,10 @@ Shift+F1 or the context menu tells why.</source>
     <message>
         <source>The printer's default</source>
         <translation>プリンターの既定値</translation>
+    </message>
+    <message>
+        <source>%1: %2 – %3</source>
+        <translation>%1：%2 – %3</translation>
     </message>
 </context>
 <context>
@@ -2368,6 +2375,30 @@ Shift+F1 or the context menu tells why.</source>
         <source>There are too many conditions to explain why %1 is not there.</source>
         <translation>条件が多すぎるため、%1 を選べない理由を説明できません。</translation>
     </message>
+    <message>
+        <source>use %1</source>
+        <translation>%1 を使う</translation>
+    </message>
+    <message>
+        <source>turn on %1</source>
+        <translation>%1 をオンにする</translation>
+    </message>
+    <message>
+        <source>turn off %1</source>
+        <translation>%1 をオフにする</translation>
+    </message>
+    <message>
+        <source>use %1 and %2</source>
+        <translation>%1 にして %2</translation>
+    </message>
+    <message>
+        <source>turn on %1 and %2</source>
+        <translation>%1 をオンにして %2</translation>
+    </message>
+    <message>
+        <source>turn off %1 and %2</source>
+        <translation>%1 をオフにして %2</translation>
+    </message>
 </context>
 <context>
     <name>SummaryPart</name>
@@ -2645,6 +2676,13 @@ Shift+F1 or the context menu tells why.</source>
     <message>
         <source>%1: %2 (%3)</source>
         <translation>%1: %2 (%3)</translation>
+    </message>
+</context>
+<context>
+    <name>ListAdvice</name>
+    <message>
+        <source>Not to be had now: %1</source>
+        <translation>今は選べないもの: %1</translation>
     </message>
 </context>
 </TS>
