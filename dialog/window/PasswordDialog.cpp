@@ -44,6 +44,8 @@ PasswordDialog::PasswordDialog(const PasswordQuestion &question, bool canKeep, Q
     QLabel *text = newPlainLabel(displayedLines(question), this);
     text->setObjectName(u"passwordText"_s);
     text->setWordWrap(true);
+    // The form gives a text of several lines no more than one that is wider would need.
+    text->setMinimumHeight(text->heightForWidth(m_user->minimumWidth()));
     auto *buttons = new QDialogButtonBox(this);
     QPushButton *ok = buttons->addButton(tr("OK"), QDialogButtonBox::AcceptRole);
     ok->setObjectName(u"passwordOK"_s);

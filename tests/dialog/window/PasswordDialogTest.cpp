@@ -54,12 +54,12 @@ TEST_F(Sheet, GivesWhatWasTypedOnceAndKeepsNothing)
     PasswordDialog sheet(questionOfAll(), true, &m_window);
     sheet.show();
     QTest::keyClicks(part<QLineEdit>(sheet, "passwordDomain"), u"OFFICE"_s);
-    QTest::keyClicks(part<QLineEdit>(sheet, "passwordField"), u"öffne dich"_s);
+    QTest::keyClicks(part<QLineEdit>(sheet, "passwordField"), u"open sesame"_s);
     part<QCheckBox>(sheet, "keepPassword")->click();
     const Credentials answer = sheet.takeAnswer();
     EXPECT_EQ(answer.user, u"anna"_s);
     EXPECT_EQ(answer.domain, u"OFFICE"_s);
-    EXPECT_STREQ(answer.password.text(), "öffne dich");
+    EXPECT_STREQ(answer.password.text(), "open sesame");
     EXPECT_TRUE(answer.isToBeKept);
     EXPECT_EQ(part<QLineEdit>(sheet, "passwordField")->text(), QString());
 }
