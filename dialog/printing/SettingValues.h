@@ -1,5 +1,6 @@
 #pragma once
 
+#include "dialog/job/JobOption.h"
 #include "dialog/printing/SettingOrigins.h"
 
 class PrintJob;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "dialog/cups/JobSentence.h"
+#include "dialog/cups/PrinterCondition.h"
 #include "dialog/host/SessionObserver.h"
 #include "dialog/printing/PrintController.h"
 #include "dialog/printing/SettingState.h"
@@ -177,6 +178,12 @@ private:
     void watchPrinters();
     void takeList(const Result<QList<Destination>> &list);
 
+    // DialogCondition.cpp
+    void askCondition();
+    void takeCondition(const PrinterCondition &condition);
+    void forgetCondition();
+    QStringList printerDoubts() const;
+
     // DialogParts.cpp
     void buildParts();
     void removeParts();
@@ -233,10 +240,11 @@ private:
     Result<> m_settingState;
     Result<> m_outcome;
     State m_state = State::Searching;
-    std::optional<PrinterChoice> m_choice; ///< of the dialog, where nobody named a printer
-    QList<Fault> m_shortcomings;           ///< of the printer
-    QStringList m_startNotes;              ///< on the settings that it starts from
-    Notice m_standing;                     ///< shown while there is nothing newer to tell
+    std::optional<PrinterChoice> m_choice;       ///< of the dialog, where nobody named a printer
+    QList<Fault> m_shortcomings;                 ///< of the printer
+    QStringList m_startNotes;                    ///< on the settings that it starts from
+    std::optional<PrinterCondition> m_condition; ///< of the printer; none: not known yet
+    Notice m_standing;                           ///< shown while there is nothing newer to tell
     PPDMark m_refused;              ///< of the pick that is going on; a null keyword: nothing
     QString m_refusalToTell;        ///< of the pick that is going on
     bool m_coversAreListed = false; ///< of the printer

@@ -464,6 +464,10 @@ Umschalt+F1 oder das Kontextmenü sagt, warum.</translation>
         <source>Summary</source>
         <translation>Zusammenfassung</translation>
     </message>
+    <message>
+        <source>Supplies</source>
+        <translation>Vorräte</translation>
+    </message>
 </context>
 <context>
     <name>Document</name>
@@ -1791,6 +1795,13 @@ Umschalt+F1 oder das Kontextmenü sagt, warum.</translation>
     </message>
 </context>
 <context>
+    <name>PrinterDoubts</name>
+    <message>
+        <source>The paper of this job is not loaded: %1. There is %2.</source>
+        <translation>Das Papier dieses Auftrags ist nicht eingelegt: %1. Eingelegt ist %2.</translation>
+    </message>
+</context>
+<context>
     <name>PrinterPopUp</name>
     <message>
         <source>No printer</source>
@@ -1807,6 +1818,10 @@ Umschalt+F1 oder das Kontextmenü sagt, warum.</translation>
     <message>
         <source>No longer on the print server</source>
         <translation>Nicht mehr auf dem Druckserver</translation>
+    </message>
+    <message>
+        <source>Jobs in the queue: %1</source>
+        <translation>Aufträge in der Warteschlange: %1</translation>
     </message>
 </context>
 <context>
@@ -2405,6 +2420,76 @@ Umschalt+F1 oder das Kontextmenü sagt, warum.</translation>
     <message>
         <source>Copy as Text</source>
         <translation>Als Text kopieren</translation>
+    </message>
+</context>
+<context>
+    <name>Supplies</name>
+    <message>
+        <source>Supply %1</source>
+        <translation>Vorrat %1</translation>
+    </message>
+    <message>
+        <source>Not known</source>
+        <translation>Nicht bekannt</translation>
+    </message>
+    <message>
+        <source>Some left</source>
+        <translation>Noch etwas da</translation>
+    </message>
+    <message>
+        <source>Some room left</source>
+        <translation>Noch etwas Platz</translation>
+    </message>
+    <message>
+        <source>%1%</source>
+        <translation>%1 %</translation>
+    </message>
+    <message>
+        <source>%1% full</source>
+        <translation>%1 % voll</translation>
+    </message>
+    <message>
+        <source>Low: %1%</source>
+        <translation>Fast leer: %1 %</translation>
+    </message>
+    <message>
+        <source>Almost full: %1%</source>
+        <translation>Fast voll: %1 %</translation>
+    </message>
+    <message>
+        <source>Empty</source>
+        <translation>Leer</translation>
+    </message>
+    <message>
+        <source>Full</source>
+        <translation>Voll</translation>
+    </message>
+    <message>
+        <source>Used up in the printer: %1.</source>
+        <translation>Im Drucker aufgebraucht: %1.</translation>
+    </message>
+    <message>
+        <source>Full in the printer: %1.</source>
+        <translation>Im Drucker voll: %1.</translation>
+    </message>
+    <message>
+        <source>Running low in the printer: %1.</source>
+        <translation>Im Drucker fast aufgebraucht: %1.</translation>
+    </message>
+    <message>
+        <source>, </source>
+        <translation>, </translation>
+    </message>
+</context>
+<context>
+    <name>SuppliesPane</name>
+    <message>
+        <source>, </source>
+        <translation>, </translation>
+    </message>
+    <message>
+        <source>Paper in the printer:</source>
+        <translation>Papier im Drucker:</translation>
     </message>
 </context>
 <context>

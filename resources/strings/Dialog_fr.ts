@@ -464,6 +464,10 @@ Maj+F1 ou le menu contextuel dit pourquoi.</translation>
         <source>Summary</source>
         <translation>Récapitulatif</translation>
     </message>
+    <message>
+        <source>Supplies</source>
+        <translation>Consommables</translation>
+    </message>
 </context>
 <context>
     <name>Document</name>
@@ -1791,6 +1795,13 @@ Maj+F1 ou le menu contextuel dit pourquoi.</translation>
     </message>
 </context>
 <context>
+    <name>PrinterDoubts</name>
+    <message>
+        <source>The paper of this job is not loaded: %1. There is %2.</source>
+        <translation>Le papier de ce travail n’est pas chargé : %1. Il y a %2.</translation>
+    </message>
+</context>
+<context>
     <name>PrinterPopUp</name>
     <message>
         <source>No printer</source>
@@ -1807,6 +1818,10 @@ Maj+F1 ou le menu contextuel dit pourquoi.</translation>
     <message>
         <source>No longer on the print server</source>
         <translation>N’est plus sur le serveur d’impression</translation>
+    </message>
+    <message>
+        <source>Jobs in the queue: %1</source>
+        <translation>Travaux en file d’attente : %1</translation>
     </message>
 </context>
 <context>
@@ -2405,6 +2420,76 @@ Maj+F1 ou le menu contextuel dit pourquoi.</translation>
     <message>
         <source>Copy as Text</source>
         <translation>Copier comme texte</translation>
+    </message>
+</context>
+<context>
+    <name>Supplies</name>
+    <message>
+        <source>Supply %1</source>
+        <translation>Consommable %1</translation>
+    </message>
+    <message>
+        <source>Not known</source>
+        <translation>Non connu</translation>
+    </message>
+    <message>
+        <source>Some left</source>
+        <translation>Il en reste</translation>
+    </message>
+    <message>
+        <source>Some room left</source>
+        <translation>Il reste de la place</translation>
+    </message>
+    <message>
+        <source>%1%</source>
+        <translation>%1 %</translation>
+    </message>
+    <message>
+        <source>%1% full</source>
+        <translation>Plein à %1 %</translation>
+    </message>
+    <message>
+        <source>Low: %1%</source>
+        <translation>Bientôt vide : %1 %</translation>
+    </message>
+    <message>
+        <source>Almost full: %1%</source>
+        <translation>Bientôt plein : %1 %</translation>
+    </message>
+    <message>
+        <source>Empty</source>
+        <translation>Vide</translation>
+    </message>
+    <message>
+        <source>Full</source>
+        <translation>Plein</translation>
+    </message>
+    <message>
+        <source>Used up in the printer: %1.</source>
+        <translation>Épuisé dans l’imprimante : %1.</translation>
+    </message>
+    <message>
+        <source>Full in the printer: %1.</source>
+        <translation>Plein dans l’imprimante : %1.</translation>
+    </message>
+    <message>
+        <source>Running low in the printer: %1.</source>
+        <translation>Bientôt épuisé dans l’imprimante : %1.</translation>
+    </message>
+    <message>
+        <source>, </source>
+        <translation>, </translation>
+    </message>
+</context>
+<context>
+    <name>SuppliesPane</name>
+    <message>
+        <source>, </source>
+        <translation>, </translation>
+    </message>
+    <message>
+        <source>Paper in the printer:</source>
+        <translation>Papier dans l’imprimante :</translation>
     </message>
 </context>
 <context>

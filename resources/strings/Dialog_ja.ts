@@ -464,6 +464,10 @@ Shift+F1 or the context menu tells why.</source>
         <source>Summary</source>
         <translation>設定一覧</translation>
     </message>
+    <message>
+        <source>Supplies</source>
+        <translation>消耗品</translation>
+    </message>
 </context>
 <context>
     <name>Document</name>
@@ -1791,6 +1795,13 @@ Shift+F1 or the context menu tells why.</source>
     </message>
 </context>
 <context>
+    <name>PrinterDoubts</name>
+    <message>
+        <source>The paper of this job is not loaded: %1. There is %2.</source>
+        <translation>このジョブの用紙「%1」はセットされていません。セットされているのは%2です。</translation>
+    </message>
+</context>
+<context>
     <name>PrinterPopUp</name>
     <message>
         <source>No printer</source>
@@ -1807,6 +1818,10 @@ Shift+F1 or the context menu tells why.</source>
     <message>
         <source>No longer on the print server</source>
         <translation>プリントサーバーからなくなりました</translation>
+    </message>
+    <message>
+        <source>Jobs in the queue: %1</source>
+        <translation>キューのジョブ: %1</translation>
     </message>
 </context>
 <context>
@@ -2405,6 +2420,76 @@ Shift+F1 or the context menu tells why.</source>
     <message>
         <source>Copy as Text</source>
         <translation>テキストとしてコピー</translation>
+    </message>
+</context>
+<context>
+    <name>Supplies</name>
+    <message>
+        <source>Supply %1</source>
+        <translation>消耗品 %1</translation>
+    </message>
+    <message>
+        <source>Not known</source>
+        <translation>不明</translation>
+    </message>
+    <message>
+        <source>Some left</source>
+        <translation>残りあり</translation>
+    </message>
+    <message>
+        <source>Some room left</source>
+        <translation>空きあり</translation>
+    </message>
+    <message>
+        <source>%1%</source>
+        <translation>%1%</translation>
+    </message>
+    <message>
+        <source>%1% full</source>
+        <translation>%1% 使用済み</translation>
+    </message>
+    <message>
+        <source>Low: %1%</source>
+        <translation>残りわずか: %1%</translation>
+    </message>
+    <message>
+        <source>Almost full: %1%</source>
+        <translation>もうすぐいっぱい: %1%</translation>
+    </message>
+    <message>
+        <source>Empty</source>
+        <translation>なし</translation>
+    </message>
+    <message>
+        <source>Full</source>
+        <translation>いっぱい</translation>
+    </message>
+    <message>
+        <source>Used up in the printer: %1.</source>
+        <translation>プリンターで切れています: %1。</translation>
+    </message>
+    <message>
+        <source>Full in the printer: %1.</source>
+        <translation>プリンターでいっぱいになっています: %1。</translation>
+    </message>
+    <message>
+        <source>Running low in the printer: %1.</source>
+        <translation>プリンターで残りが少なくなっています: %1。</translation>
+    </message>
+    <message>
+        <source>, </source>
+        <translation>、</translation>
+    </message>
+</context>
+<context>
+    <name>SuppliesPane</name>
+    <message>
+        <source>, </source>
+        <translation>、</translation>
+    </message>
+    <message>
+        <source>Paper in the printer:</source>
+        <translation>プリンターの用紙:</translation>
     </message>
 </context>
 <context>
