@@ -18,7 +18,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int kTries = 7;
+constexpr int kRuns = 7;
 constexpr int kPicks = 1000;
 constexpr double kReachOfPick = 1.10;
 constexpr double kReachOfMemory = 1.02;
@@ -73,7 +73,7 @@ void pickAndTell(bool isFollowed, const ProcessCopy::Tell &tell)
     tell(QByteArray::number(ownMegabytes()));
 }
 
-Cost costOf(bool isFollowed)
+Cost runCost(bool isFollowed)
 {
     ProcessCopy copy(kLongestRun,
                      [&](const ProcessCopy::Tell &tell) { pickAndTell(isFollowed, tell); });
@@ -87,9 +87,9 @@ void printFollowCost()
 {
     Cost alone;
     Cost followed;
-    for (int count = 0; count < kTries; ++count) {
-        alone.improve(costOf(false));
-        followed.improve(costOf(true));
+    for (int count = 0; count < kRuns; ++count) {
+        alone.improve(runCost(false));
+        followed.improve(runCost(true));
     }
     printHead("A session that an adviser follows", "followed", "alone");
     printRatio("a pick", followed.microseconds, alone.microseconds, kReachOfPick);
