@@ -1,5 +1,7 @@
 #include "tests/support/AlertAnswers.h"
 
+#include <QtCore/QCoreApplication>
+#include <QtCore/QEvent>
 #include <QtTest/QTest>
 #include <QtWidgets/QAbstractButton>
 
@@ -16,6 +18,8 @@ AlertAnswers::AlertAnswers(std::initializer_list<Answer> announced)
 AlertAnswers::~AlertAnswers()
 {
     setAlertObserver(m_former);
+    // A sheet goes after its answer, in an event loop that few tests have.
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     EXPECT_TRUE(m_announced.empty()) << m_announced.size() << " announced alerts never came";
     EXPECT_TRUE(m_sheets.empty()) << m_sheets.size() << " sheets were never answered";
 }
@@ -23,6 +27,7 @@ AlertAnswers::~AlertAnswers()
 AlertAnswers::Answer AlertAnswers::button(int number, bool suppress)
 {
     return [number, suppress](const ShownAlert &alert) {
+        EXPECT_LT(number, alert.buttons.size()) << "no such button";
         alert.setSuppressed(suppress);
         alert.press(number);
     };

@@ -76,7 +76,7 @@ TEST_F(Journal, AnswersAlertsAsTheyWereAndShowsNone)
     m_session->show(print());
     pickChoice(*print().controls, u"mediaTypePopup"_s, u"Glossy"_s);
     {
-        AlertAnswers answers({AlertAnswers::button(1)});
+        AlertAnswers answers({AlertAnswers::button(0, true)});
         pickChoice(*print().controls, u"resolutionPopup"_s, u"Best"_s);
         answers.take();
     }
