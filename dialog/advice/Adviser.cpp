@@ -30,6 +30,13 @@ QByteArray question(const PPDMark &wanted)
            '\n';
 }
 
+/// Another size of the window changes no answer.
+bool isOfWindow(const QByteArray &line)
+{
+    const QString what = QJsonDocument::fromJson(line)["do"_L1].toString();
+    return what == "window"_L1 || what == "watch"_L1;
+}
+
 } // namespace
 
 Adviser::Adviser(QObject *parent) : QObject(parent)
@@ -62,7 +69,8 @@ void Adviser::follow(HostSession &session)
 void Adviser::takeLine(const QByteArray &line)
 {
     m_script += line;
-    abandon();
+    if (m_then && !isOfWindow(line))
+        abandon();
 }
 
 void Adviser::ask(const PPDMark &wanted, Then then)

@@ -57,6 +57,8 @@ ListAdvice::~ListAdvice()
 {
     if (m_isAsking)
         m_adviser.abandon();
+    if (!m_line) // the list has gone with its window, and the line with it
+        return;
     giveAccessibleText(m_popup.view(), QString());
     delete m_line;
 }

@@ -84,6 +84,16 @@ TEST_F(WindowAdvice, TellsWhyAChoiceIsNotThereAndGetsItInOneStep)
     EXPECT_EQ(state(), before);
 }
 
+TEST_F(WindowAdvice, AnswersThoughTheWindowIsResizedMeanwhile)
+{
+    open();
+    openMenu(part<QWidget>("resolutionPopup"));
+    const QString question = u"Why is there no \"Photo\"?"_s;
+    EXPECT_TRUE(questions(question).contains(question));
+    m_window->resize(m_window->width(), m_window->height() + 40);
+    EXPECT_TRUE(waitForOffer("getItButton"));
+}
+
 TEST_F(WindowAdvice, CanBeAskedOfAControlThatIsSwitchedOff)
 {
     open();
@@ -192,6 +202,15 @@ TEST_F(WindowAdvice, SaysUnderAnOpenListWhatIsNotThere)
     EXPECT_EQ(lineUnder(*popup), QString());
     EXPECT_EQ(popup->view()->accessibleDescription(), QString());
     EXPECT_EQ(state(), before);
+}
+
+TEST_F(WindowAdvice, IsGivenUpWhenTheWindowGoesWithAnOpenList)
+{
+    open();
+    auto *popup = part<PopUpButton>("resolutionPopup");
+    popup->showPopup();
+    ASSERT_TRUE(lineUnder(*popup).startsWith(u"Not to be had now: "_s));
+    m_window.reset();
 }
 
 TEST_F(WindowAdvice, SaysUnderAnOpenListWhyTheItemUnderThePointerIsSwitchedOff)
