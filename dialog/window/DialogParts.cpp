@@ -22,13 +22,18 @@
 void DialogWindow::buildParts()
 {
     removeParts();
+    buildTabs();
+    changePart();
+    setHeight(std::max(height(), layout()->totalSizeHint().height()));
+}
+
+void DialogWindow::buildTabs()
+{
     m_tabs->build(m_savedJob.has_value());
     m_header->showJobSettings(!m_savedJob);
     setTitleWithMnemonic(*m_print, printTitle());
     giveMnemonics(*m_tabs);
     fitToTexts();
-    changePart();
-    setHeight(std::max(height(), layout()->totalSizeHint().height()));
 }
 
 void DialogWindow::removeParts()
@@ -46,12 +51,7 @@ void DialogWindow::changePart()
     const bool wasMissing = m_tabs->isViewMissing();
     m_tabs->hidePanel();
     m_tabs->showPanel();
-    if (part->page == m_tabs->features())
-        m_tabs->features()->reload();
-    if (part->page == m_tabs->layoutPane())
-        listCoverPages();
-    if (part->page == m_tabs->summary())
-        m_tabs->summary()->setSections(summarySections());
+    fillPart(part->page);
     if (!part->panel)
         settleMnemonics(*part->page, mnemonicsIn(*this));
     moveButtonsLast();
@@ -62,15 +62,34 @@ void DialogWindow::changePart()
     noteOwnEvent();
 }
 
+/// The dialog's own panes have something to show only when they come in front.
+void DialogWindow::fillPart(const QWidget *page)
+{
+    if (page == m_tabs->pageSetup())
+        m_tabs->pageSetup()->fill();
+    if (page == m_tabs->features())
+        m_tabs->features()->reload();
+    if (page == m_tabs->layoutPane()) {
+        m_tabs->layoutPane()->fill();
+        listCoverPages();
+    }
+    if (page == m_tabs->summary())
+        m_tabs->summary()->setSections(summarySections());
+}
+
 /// What a part has made of late has come behind the buttons in the tab order.
 void DialogWindow::moveButtonsLast()
 {
-    for (QPushButton *button : {m_help, m_save, m_cancel, m_print})
-        if (QWidget *last = previousInFocusChain(); last != button)
+    for (QPushButton *button : {m_help, m_save, m_cancel, m_print}) {
+        QWidget *last = previousInFocusChain();
+        while (last->focusPolicy() == Qt::NoFocus && last != this)
+            last = last->previousInFocusChain(); // the toolkit puts nothing behind such a one
+        if (last != button)
             setTabOrder(last, button);
+    }
 }
 
-/// The part that has come in front gets the height that it needs.
+/// The part that has come in front gets the room that it needs.
 void DialogWindow::fitToPart()
 {
     const DialogTabs::Part *part = m_tabs->currentPart();

@@ -31,7 +31,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr QSize kFirstSize(640, 560);
+constexpr QSize kFirstSize(640, 632); // room for every part, and a long notice
 constexpr int kWindowMargin = 12;
 constexpr int kNoticeShare = 4; // a long notice may take one part in so many of the height
 constexpr std::chrono::milliseconds kLookInterval{50};
@@ -92,7 +92,7 @@ void DialogWindow::buildLayout()
     layout->addWidget(m_tabs, 1);
     layout->addWidget(m_notice);
     layout->addWidget(m_buttons);
-    buildParts();
+    buildTabs();
     addPartShortcut(QKeySequence::NextChild, 1);
     addPartShortcut(QKeySequence::PreviousChild, -1);
     connect(m_tabs, &QTabWidget::currentChanged, this, &DialogWindow::changePart);

@@ -185,8 +185,10 @@ private:
 
     // DialogParts.cpp
     void buildParts();
+    void buildTabs();
     void removeParts();
     void changePart();
+    void fillPart(const QWidget *page);
     void moveButtonsLast();
     void fitToPart();
     void followView();

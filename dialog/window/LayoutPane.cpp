@@ -58,7 +58,13 @@ bool isChosenInPopUp(const LayoutSetting &setting)
 LayoutPane::LayoutPane(PrintJob &job, QWidget *parent) : ScrolledBody(parent), m_job(job)
 {
     setObjectName(u"layoutPane"_s);
-    auto *page = new QWidget;
+}
+
+void LayoutPane::fill()
+{
+    if (widget())
+        return;
+    auto *page = new QWidget(this);
     auto *form = new QFormLayout(page);
     form->setContentsMargins(kLayoutMargin, kLayoutMargin, kLayoutMargin, kLayoutMargin);
     form->setLabelAlignment(Qt::AlignRight | Qt::AlignVCenter);
@@ -155,6 +161,8 @@ void LayoutPane::addNotification(QFormLayout *form)
 
 void LayoutPane::reload()
 {
+    if (!widget())
+        return;
     const JobLayout &layout = m_job.settings().layout;
     for (const LayoutSetting &setting : layoutSettings()) {
         auto *popup = findChild<PopUpButton *>(popupName(setting));
@@ -178,7 +186,8 @@ void LayoutPane::reload()
 void LayoutPane::setCoverPages(const QStringList &names)
 {
     m_coverPages = names;
-    fillCovers();
+    if (widget())
+        fillCovers();
 }
 
 /// What the job has is among the items, whether or not the queue offers it.
@@ -209,7 +218,7 @@ void LayoutPane::takeCovers()
 
 bool LayoutPane::isAcceptable() const
 {
-    const QString address = m_notification->text();
+    const QString address = m_notification ? m_notification->text() : QString();
     return address.isEmpty() ||
            !normalizedLayoutValue(*layoutSetting(u"notify-recipient-uri"_s), address).isNull();
 }

@@ -24,7 +24,10 @@ public:
     /// The job must outlive the pane.
     explicit LayoutPane(PrintJob &job, QWidget *parent = nullptr);
 
-    /// Shows the settings of the job.
+    /// Builds what there is to show, once: before the pane comes in front.
+    void fill();
+
+    /// Shows the settings of the job, where it is filled.
     void reload();
 
     /// The cover pages that the queue offers, by the server's names.

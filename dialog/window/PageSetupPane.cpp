@@ -17,12 +17,24 @@ constexpr int kMargin = 16;
 PageSetupPane::PageSetupPane(PrintJob &job, QWidget *parent) : ScrolledBody(parent), m_job(job)
 {
     setObjectName(u"pageSetupPane"_s);
-    reload();
+}
+
+void PageSetupPane::fill()
+{
+    if (!widget())
+        build();
 }
 
 void PageSetupPane::reload()
 {
+    if (!widget())
+        return;
     delete takeWidget();
+    build();
+}
+
+void PageSetupPane::build()
+{
     auto *page = new QWidget(this);
     auto *form = new QFormLayout(page);
     form->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
@@ -44,10 +56,11 @@ void PageSetupPane::reload()
 
 void PageSetupPane::refresh()
 {
-    m_placement->refresh();
+    if (m_placement)
+        m_placement->refresh();
 }
 
 bool PageSetupPane::isAcceptable() const
 {
-    return m_paper->isAcceptable();
+    return !m_paper || m_paper->isAcceptable();
 }

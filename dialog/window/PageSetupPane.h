@@ -18,7 +18,11 @@ public:
     /// The job must outlive the pane.
     explicit PageSetupPane(PrintJob &job, QWidget *parent = nullptr);
 
-    /// Shows the settings of the job's printer; after every change of the printer.
+    /// Builds what there is to show, once: before the pane comes in front.
+    void fill();
+
+    /// Shows the settings of the job's printer, where it is filled; after every change of the
+    /// printer.
     void reload();
 
     /// Shows what the job has of late: other documents, say.
@@ -35,7 +39,9 @@ Q_SIGNALS:
     void refused(const QString &sentence, const PPDMark &choice);
 
 private:
+    void build();
+
     PrintJob &m_job;
-    PaperRows *m_paper = nullptr;
+    PaperRows *m_paper = nullptr; ///< null until it is filled
     PlacementRows *m_placement = nullptr;
 };

@@ -2,6 +2,8 @@
 
 #include "dialog/replay/Recorder.h"
 #include "dialog/window/DialogWindow.h"
+#include "dialog/window/LayoutPane.h"
+#include "dialog/window/PageSetupPane.h"
 #include "platform/ppd/PPDText.h"
 #include "platform/toolkit/PopUpButton.h"
 #include "tests/built/BuiltFiles.h"
@@ -45,6 +47,9 @@ protected:
         ASSERT_TRUE(QTest::qWaitFor(
             [this] { return m_window->state() != DialogWindow::State::Searching; }, kTimeout));
         QCoreApplication::processEvents(); // what the settings of the command line have put off
+        // Tests use controls of parts that nobody has looked at.
+        m_window->findChild<PageSetupPane *>()->fill();
+        m_window->findChild<LayoutPane *>()->fill();
     }
 
     /// The same, noted in a script.
