@@ -34,6 +34,10 @@
 <context>
     <name>CommandLine</name>
     <message>
+        <source>Standard input, -, may be given only once.</source>
+        <translation>標準入力 (-) は一度だけ指定できます。</translation>
+    </message>
+    <message>
         <source>&quot;%1&quot; is not the name of a queue.</source>
         <translation>「%1」はプリンターキューの名前ではありません。</translation>
     </message>
@@ -182,10 +186,6 @@
         <source>%1:</source>
         <translation>%1:</translation>
     </message>
-    <message>
-        <source> pt</source>
-        <translation> pt</translation>
-    </message>
 </context>
 <context>
     <name>DialogCommand</name>
@@ -241,6 +241,10 @@ Shift+F1 or the context menu tells why.</source>
 </context>
 <context>
     <name>DialogWindow</name>
+    <message>
+        <source>This printer has nothing for the part %1.</source>
+        <translation>このプリンターには %1 の項目がありません。</translation>
+    </message>
     <message>
         <source>Retry</source>
         <translation>再試行</translation>
@@ -674,6 +678,14 @@ Shift+F1 or the context menu tells why.</source>
 <context>
     <name>JobDoubts</name>
     <message>
+        <source>A booklet has two pages on a side: number-up=%1 does nothing.</source>
+        <translation>小冊子は片面に 2 ページです。number-up=%1 は使われません。</translation>
+    </message>
+    <message>
+        <source>A booklet needs both sides of the paper; this job is printed on one.</source>
+        <translation>小冊子には用紙の両面が必要ですが、このジョブは片面に印刷されます。</translation>
+    </message>
+    <message>
         <source>The printer cannot print on both sides of this paper: %1.</source>
         <translation>このプリンターでは、この用紙の両面に印刷できません: %1。</translation>
     </message>
@@ -963,7 +975,7 @@ Shift+F1 or the context menu tells why.</source>
         <translation>複数部数</translation>
     </message>
     <message>
-        <source>Print It</source>
+        <source>When to Print</source>
         <translation>印刷の時期</translation>
     </message>
     <message>
@@ -992,6 +1004,10 @@ Shift+F1 or the context menu tells why.</source>
 </context>
 <context>
     <name>JobReadBack</name>
+    <message>
+        <source>The printer is stopped; job %1 waits (%2).</source>
+        <translation>プリンターが停止しているため、ジョブ %1 は待っています (%2)。</translation>
+    </message>
     <message>
         <source>The server holds job %1 (%2).</source>
         <translation>サーバーがジョブ %1 を保留しています（%2）。</translation>
@@ -1264,6 +1280,17 @@ Shift+F1 or the context menu tells why.</source>
     </message>
 </context>
 <context>
+    <name>LengthUnit</name>
+    <message>
+        <source>%1 mm</source>
+        <translation>%1 mm</translation>
+    </message>
+    <message>
+        <source>%1 in</source>
+        <translation>%1 インチ</translation>
+    </message>
+</context>
+<context>
     <name>LpoptionsFile</name>
     <message>
         <source>The saved settings in %1 cannot be read: %2.</source>
@@ -1280,6 +1307,13 @@ Shift+F1 or the context menu tells why.</source>
     <message>
         <source>These are too many settings for one name.</source>
         <translation>設定が多すぎて、1 つの名前では保存できません。</translation>
+    </message>
+</context>
+<context>
+    <name>Mnemonics</name>
+    <message>
+        <source>%1:</source>
+        <translation>%1:</translation>
     </message>
 </context>
 <context>
@@ -1430,6 +1464,13 @@ Shift+F1 or the context menu tells why.</source>
     <message>
         <source>Name of this size</source>
         <translation>このサイズの名前</translation>
+    </message>
+</context>
+<context>
+    <name>PathBytes</name>
+    <message>
+        <source>standard output</source>
+        <translation>標準出力</translation>
     </message>
 </context>
 <context>
@@ -1718,7 +1759,7 @@ Shift+F1 or the context menu tells why.</source>
     </message>
     <message>
         <source>Back to the Printer&apos;s Defaults</source>
-        <translation>プリンターの初期値に戻す</translation>
+        <translation>プリンターの既定値に戻す</translation>
     </message>
     <message>
         <source>Start with the Settings Used Last</source>
@@ -1730,7 +1771,7 @@ Shift+F1 or the context menu tells why.</source>
     </message>
     <message>
         <source>Printer&apos;s Defaults</source>
-        <translation>プリンターの初期値</translation>
+        <translation>プリンターの既定値</translation>
     </message>
     <message>
         <source>Usual Settings</source>
@@ -1758,6 +1799,10 @@ Shift+F1 or the context menu tells why.</source>
 </context>
 <context>
     <name>PrintController</name>
+    <message>
+        <source>Saved for this printer: %1</source>
+        <translation>このプリンター用に保存された設定: %1</translation>
+    </message>
     <message>
         <source>The plug-in could not attach its panels to this printer. Its rules and checks are missing.</source>
         <translation>プラグインのパネルをこのプリンターで使用できません。パネルによる設定の調整と確認は行われません。</translation>
@@ -2715,6 +2760,18 @@ Shift+F1 or the context menu tells why.</source>
 </context>
 <context>
     <name>SettingRequests</name>
+    <message>
+        <source>It can be: %1.</source>
+        <translation>使える値: %1。</translation>
+    </message>
+    <message>
+        <source>It can be: %1 and %2 more.</source>
+        <translation>使える値: %1、ほか %2 個。</translation>
+    </message>
+    <message>
+        <source>, </source>
+        <translation>、</translation>
+    </message>
     <message>
         <source>%2 is no value for %1.</source>
         <translation>%2 は %1 の値として使えません。</translation>
