@@ -36,6 +36,9 @@ struct JobValues
     /// Keywords that lpoptions name: their choices are sent even where they are the default, as
     /// every other program sends them.
     QStringList settled;
+    /// Keywords whose values travel in the ticket, under keys of the plug-in's own: their marks say
+    /// nothing, and are not sent.
+    QStringList inTicket;
 };
 
 /// The options of a job, or why it cannot be sent.

@@ -183,6 +183,9 @@ JobOptions PrintJob::options() const
         if (m_source.ppdPath.isNull())
             values.defaultMarks = open->defaultMarks();
         values.ticket = open->ticket();
+        for (const QString &key : open->ticket().values().keys())
+            if (const QString keyword = open->keywordOfTicketKey(key); !keyword.isNull())
+                values.inTicket += keyword;
     }
     return jobOptions(values);
 }
