@@ -59,9 +59,8 @@ TEST_F(Requests, TakeAScalingByItsNameAndByTheWordOfLp)
     EXPECT_EQ(m_job.settings().scaling, PrintScaling::Fit);
     const Result<> made = make(u"print-scaling"_s, u"large"_s);
     EXPECT_EQ(made.faultKind(), FaultKind::Request);
-    EXPECT_EQ(
-        made.sentence(),
-        u"large is no value for print-scaling. It can be: auto, none, fit, fill."_s);
+    EXPECT_EQ(made.sentence(),
+              u"large is no value for print-scaling. It can be: auto, none, fit, fill."_s);
     EXPECT_EQ(m_job.settings().scaling, PrintScaling::Fit);
 }
 

@@ -76,7 +76,10 @@ INSTANTIATE_TEST_SUITE_P(
                  {u"media"_s, u"Custom.100x150mm"_s},
                  {{u"PageSize"_s, u"Custom.100x150mm"_s}},
                  {}},
-        Standard{"NoPaper", {u"media"_s, u"B9"_s}, {}, u"B9 is no value for media. It can be: A4, A5."_s},
+        Standard{"NoPaper",
+                 {u"media"_s, u"B9"_s},
+                 {},
+                 u"B9 is no value for media. It can be: A4, A5."_s},
         Standard{
             "AQuality", {u"print-quality"_s, u"5"_s}, {{u"cupsPrintQuality"_s, u"High"_s}}, {}},
         Standard{"TheQualityThatIsMarked",

@@ -166,8 +166,7 @@ TEST_F(LayoutPart, IsSaidToBeMissingWhereThePrinterHasNothingForIt)
     m_line.panel = u"supplies"_s;
     open();
     EXPECT_TRUE(QTest::qWaitFor([this] { return !m_window->isVisible(); }));
-    EXPECT_EQ(m_window->outcome().sentence(),
-              u"This printer has nothing for the part supplies."_s);
+    EXPECT_EQ(m_window->outcome().sentence(), u"This printer has nothing for the part supplies."_s);
 }
 
 TEST_F(LayoutPart, SaysHowManyPagesThereAreAndWhatIsBeyond)
