@@ -16,6 +16,7 @@
 #include "dialog/program/Explanation.h"
 #include "dialog/program/JobWait.h"
 #include "dialog/program/LauncherOutput.h"
+#include "dialog/program/PasswordPrompt.h"
 #include "dialog/program/SessionRecording.h"
 #include "dialog/work/EndSignals.h"
 #include "dialog/work/Sentences.h"
@@ -370,6 +371,8 @@ void Run::endDryRun(const QString &sentence)
 
 ExitStatus Run::print()
 {
+    setPasswordAsker(m_line.passwordDescriptor ? newPasswordReader(*m_line.passwordDescriptor)
+                                               : newPasswordPrompt());
     QMetaObject::invokeMethod(
         &m_controller, [this] { readDocuments(); }, Qt::QueuedConnection);
     const auto status = static_cast<ExitStatus>(m_loop.exec());

@@ -358,7 +358,7 @@ TEST_F(Command, ASavedChoiceYieldsToAnOptionAndIsTold)
     EXPECT_EQ(run.status, 0);
     EXPECT_EQ(run.errors,
               u"velkaro-print: Saved for this printer: VKResolution=Photo cannot be chosen while "
-              "the other settings are as they are: Print Quality is Normal.\n"_s);
+              "the other settings are as they are. Print Quality is Normal instead.\n"_s);
     ASSERT_EQ(newJobs().size(), 1);
     EXPECT_EQ(settingsOf(newJobs()[0]).value(u"VKMediaType"_s), u"Plain"_s);
 }
