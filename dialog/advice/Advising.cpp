@@ -99,7 +99,7 @@ Result<PPDMark> choiceOfPPD(const HostSession &session, const QString &keyword,
                                                                     "%1.")
                          .arg(displayText(keyword))};
     if (!findChoice(option, choice))
-        return noSuchValue({spelled.keyword, choice});
+        return noSuchValue({spelled.keyword, choice}, {});
     return spelled;
 }
 

@@ -24,6 +24,10 @@ const char *stateNote(ipp_t *job, const QList<JobOption> &sent)
     ipp_attribute_t *state = find(job, "job-state");
     ipp_attribute_t *reasons = find(job, "job-state-reasons");
     switch (state ? ippGetInteger(state, 0) : 0) {
+    case IPP_JSTATE_PENDING:
+        return reasons && ippContainsString(reasons, "printer-stopped")
+                   ? QT_TRANSLATE_NOOP("JobReadBack", "The printer is stopped; job %1 waits (%2).")
+                   : nullptr;
     case IPP_JSTATE_HELD:
         return isToBeHeld(sent) ? nullptr
                                 : QT_TRANSLATE_NOOP("JobReadBack", "The server holds job %1 (%2).");

@@ -2,6 +2,8 @@
 
 #include "platform/toolkit/PlainText.h"
 
+#include <QtCore/QCoreApplication>
+
 namespace {
 
 constexpr char16_t kSurrogates = 0xdc00;
@@ -37,5 +39,7 @@ QByteArray bytesOfPath(const QString &path)
 
 QString shownPath(const QString &path)
 {
+    if (path == QLatin1String("/dev/stdout"))
+        return QCoreApplication::translate("PathBytes", "standard output");
     return displayText(QString::fromUtf8(bytesOfPath(path)));
 }

@@ -14,5 +14,6 @@ QString pathOfBytes(const QByteArray &bytes);
 /// The bytes that the system knows the file by.
 QByteArray bytesOfPath(const QString &path);
 
-/// The path for people: plain text, with a sign in place of what is not UTF-8.
+/// The path for people: plain text, with a sign in place of what is not UTF-8; standard output in
+/// words.
 QString shownPath(const QString &path);

@@ -1,6 +1,7 @@
 #include "dialog/job/FeatureTexts.h"
 
 #include "dialog/host/CustomParameters.h"
+#include "dialog/job/LengthUnit.h"
 #include "platform/ppd/PPDText.h"
 #include "platform/toolkit/PlainText.h"
 
@@ -15,12 +16,18 @@ QString listed(const QStringList &texts)
     return texts.join(QCoreApplication::translate("FeatureTexts", ", "));
 }
 
+QString textOfValue(const CustomParameter &parameter)
+{
+    return parameter.kind == CustomParameter::Kind::Points ? lengthText(parameter.value.toDouble())
+                                                           : displayText(parameter.value);
+}
+
 QString customText(const QList<CustomParameter> &parameters)
 {
     const QString hidden = QString(4, QChar(0x2022));
     QStringList texts;
     for (const CustomParameter &parameter : parameters) {
-        const QString value = isSecret(parameter) ? hidden : displayText(parameter.value);
+        const QString value = isSecret(parameter) ? hidden : textOfValue(parameter);
         texts += QCoreApplication::translate("FeatureTexts", "%1 %2").arg(parameter.text, value);
     }
     return listed(texts);

@@ -170,25 +170,30 @@ constexpr std::array kSettings{
                   QT_TRANSLATE_NOOP("JobLayout", "Page Order"), kOutputOrders},
     LayoutSetting{"multiple-document-handling"_L1, &JobLayout::collation,
                   QT_TRANSLATE_NOOP("JobLayout", "Several Copies"), kCollations},
-    LayoutSetting{"job-hold-until"_L1, &JobLayout::hold, QT_TRANSLATE_NOOP("JobLayout", "Print It"),
-                  kHolds, normalizedHold, holdText},
+    LayoutSetting{"job-hold-until"_L1, &JobLayout::hold,
+                  QT_TRANSLATE_NOOP("JobLayout", "When to Print"), kHolds, normalizedHold, holdText,
+                  "HH:MM"_L1},
     LayoutSetting{"job-priority"_L1,
                   &JobLayout::priority,
                   QT_TRANSLATE_NOOP("JobLayout", "Priority"),
                   {},
-                  normalizedPriority},
+                  normalizedPriority,
+                  nullptr,
+                  "1-100"_L1},
     LayoutSetting{"job-sheets"_L1,
                   &JobLayout::coverPages,
                   QT_TRANSLATE_NOOP("JobLayout", "Cover Pages"),
                   {},
                   normalizedCovers,
-                  coversText},
+                  coversText,
+                  "standard,none"_L1},
     LayoutSetting{"notify-recipient-uri"_L1,
                   &JobLayout::notification,
                   QT_TRANSLATE_NOOP("JobLayout", "Notification"),
                   {},
                   normalizedNotification,
-                  addressText},
+                  addressText,
+                  "me@example.com"_L1},
 };
 
 /// A time of today from one scale to the other; empty for what is no time.
@@ -219,6 +224,14 @@ QString normalizedLayoutValue(const LayoutSetting &setting, const QString &value
     if (choice != setting.choices.end())
         return value;
     return setting.normalized ? setting.normalized(value) : QString();
+}
+
+QStringList layoutValues(const LayoutSetting &setting)
+{
+    QStringList values;
+    for (const LayoutChoice &choice : setting.choices)
+        values += choice.value;
+    return setting.form.isEmpty() ? values : values + QStringList{setting.form};
 }
 
 QString layoutTitle(const LayoutSetting &setting)

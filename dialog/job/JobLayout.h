@@ -4,6 +4,7 @@
 
 #include <QtCore/QList>
 #include <QtCore/QString>
+#include <QtCore/QStringList>
 
 #include <span>
 
@@ -45,6 +46,7 @@ struct LayoutSetting
     /// value for people. Null: there are no such values, or they are for people as they are.
     QString (*normalized)(const QString &value) = nullptr;
     QString (*text)(const QString &value) = nullptr;
+    QLatin1String form = {}; ///< how values that are no choices are typed
 };
 
 /// All settings, in the order in which people read them.
@@ -55,6 +57,9 @@ const LayoutSetting *layoutSetting(const QString &option);
 
 /// The value as it is sent; null when it is no value for the setting.
 QString normalizedLayoutValue(const LayoutSetting &setting, const QString &value);
+
+/// The values as they are typed, and the form of those that are no choices.
+QStringList layoutValues(const LayoutSetting &setting);
 
 /// The value for people.
 QString layoutText(const LayoutSetting &setting, const QString &value);

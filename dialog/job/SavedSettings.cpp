@@ -52,23 +52,35 @@ void markAll(ppd_file_t *ppd, SavedSettings &settings, const QList<JobOption> &s
     cupsFreeOptions(count, options);
 }
 
-/// True when the option is one of a layout, with a value that it can have.
+// Servers make another number of one that they do not have, or none.
+constexpr std::array kNumbers{"number-up"_L1, "job-priority"_L1};
+
+bool isNumberOfLayout(const JobOption &option)
+{
+    return std::ranges::find(kNumbers, option.name) != kNumbers.end();
+}
+
+/// True when the option is one of a layout, with a value that it can have, or with a number.
 bool takeLayout(JobLayout &layout, const JobOption &option)
 {
     const LayoutSetting *setting = layoutSetting(option.name);
     const QString value = setting ? normalizedLayoutValue(*setting, option.value) : QString();
     if (!value.isNull())
         layout.*setting->value = value;
-    return !value.isNull();
+    return !value.isNull() || isNumberOfLayout(option);
 }
 
 /// Whether a setting of the dialog's own can have the value.
 bool isUsable(const JobOption &option)
 {
     bool isNumber = false;
-    option.value.toInt(&isNumber);
-    if (option.name == "copies"_L1 || option.name == "orientation-requested"_L1)
+    const int number = option.value.toInt(&isNumber);
+    if (option.name == "copies"_L1)
+        return number >= 1 && number <= kMostCopies;
+    if (option.name == "orientation-requested"_L1)
         return isNumber;
+    if (isNumberOfLayout(option))
+        return !normalizedLayoutValue(*layoutSetting(option.name), option.value).isNull();
     if (option.name == "page-ranges"_L1)
         return !normalizedPageRanges(option.value).isNull();
     return !isScalingOption(option.name) || scalingOf(option);
@@ -78,10 +90,12 @@ bool isUsable(const JobOption &option)
 bool takeSetting(SavedSettings &settings, const JobOption &option)
 {
     const int number = option.value.toInt();
-    if (!isUsable(option))
+    if (!isUsable(option)) {
         settings.missing += option;
+        settings.unusable += option;
+    }
     if (option.name == "copies"_L1)
-        settings.settings.copies = qBound(1, number, kMostCopies);
+        settings.settings.copies = isUsable(option) ? number : 1;
     else if (option.name == "page-ranges"_L1)
         settings.settings.pageRanges = normalizedPageRanges(option.value);
     else if (option.name == "orientation-requested"_L1)

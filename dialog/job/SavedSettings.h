@@ -20,6 +20,8 @@ struct SavedSettings
     /// not have, keywords that nobody knows (these are among the others all the same), and values
     /// that no setting of the dialog's own can have.
     QList<JobOption> missing;
+    /// Those of them that are values of the dialog's own settings.
+    QList<JobOption> unusable;
 };
 
 /// Marks the saved choices in the PPD (null: none), standard attributes such as `media` and `sides`

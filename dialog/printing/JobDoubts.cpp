@@ -83,6 +83,23 @@ QStringList replacedBySaving(const PrintJob &job, const SettingState &before,
     return replaced;
 }
 
+/// As the server's filters have it: a booklet has two pages a side, and needs both sides.
+QStringList notesOnLayout(const PrintJob &job)
+{
+    const JobLayout &layout = job.settings().layout;
+    if (layout.booklet != "on"_L1)
+        return {};
+    QStringList notes;
+    if (!layout.pagesPerSheet.isEmpty() && layout.pagesPerSheet != "2"_L1)
+        notes += QCoreApplication::translate(
+                     "JobDoubts", "A booklet has two pages on a side: number-up=%1 does nothing.")
+                     .arg(layout.pagesPerSheet);
+    if (job.session() && findOption(job.ppd(), u"Duplex"_s) && !isTwoSided(job))
+        notes += QCoreApplication::translate(
+            "JobDoubts", "A booklet needs both sides of the paper; this job is printed on one.");
+    return notes;
+}
+
 QList<JobAdvice> adviceFor(const PrintJob &job)
 {
     QList<JobAdvice> found;

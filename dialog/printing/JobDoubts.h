@@ -20,6 +20,9 @@ QStringList doubtsOf(const PrintJob &job, const SettingState &state);
 QStringList replacedBySaving(const PrintJob &job, const SettingState &before,
                              const SettingState &after);
 
+/// What of the job's layout does not come out as it was chosen, a sentence each.
+QStringList notesOnLayout(const PrintJob &job);
+
 /// A choice that goes better with the job's paper than the present one.
 struct JobAdvice
 {

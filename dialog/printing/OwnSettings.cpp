@@ -43,6 +43,14 @@ void takeOrientation(PrintJob &job, const QString &value)
     job.setOrientation(value == kLandscape ? PMOrientation::Landscape : PMOrientation::Portrait);
 }
 
+QString normalizedLandscape(const QString &value)
+{
+    if (value == "true"_L1)
+        return kLandscape;
+    return value == "false"_L1 ? QString(kPortrait) : QString();
+}
+
+constexpr auto kOrientation = "orientation-requested"_L1;
 constexpr auto kPrintScaling = "print-scaling"_L1;
 constexpr auto kFitToPage = "fit-to-page"_L1;
 
@@ -68,14 +76,17 @@ struct OwnSetting
     QLatin1String name;
     QString (*normalized)(const QString &value);
     void (*take)(PrintJob &job, const QString &value);
+    const char *values;       ///< that are typed, separated by spaces
+    QLatin1String other = {}; ///< the one name of the setting, where this is another one
 };
 
 constexpr std::array kOwnSettings{
-    OwnSetting{"copies"_L1, normalizedCopies, takeCopies},
-    OwnSetting{"page-ranges"_L1, normalizedPageRanges, takePages},
-    OwnSetting{"orientation-requested"_L1, normalizedOrientation, takeOrientation},
-    OwnSetting{kPrintScaling, normalizedScaling, takeScaling},
-    OwnSetting{kFitToPage, normalizedFit, takeScaling}};
+    OwnSetting{"copies"_L1, normalizedCopies, takeCopies, "1-999"},
+    OwnSetting{"page-ranges"_L1, normalizedPageRanges, takePages, "1-3,5"},
+    OwnSetting{kOrientation, normalizedOrientation, takeOrientation, "portrait landscape 3 4"},
+    OwnSetting{kLandscape, normalizedLandscape, takeOrientation, "true false", kOrientation},
+    OwnSetting{kPrintScaling, normalizedScaling, takeScaling, "auto none fit fill"},
+    OwnSetting{kFitToPage, normalizedFit, takeScaling, "true false", kPrintScaling}};
 
 const OwnSetting *settingNamed(const QString &name)
 {
@@ -92,7 +103,8 @@ bool isOwnSetting(const QString &name)
 
 QString ownSettingName(const QString &name)
 {
-    return name == kFitToPage ? QString(kPrintScaling) : name;
+    const OwnSetting *setting = settingNamed(name);
+    return setting && !setting->other.isEmpty() ? QString(setting->other) : name;
 }
 
 QString normalizedOwnValue(const QString &name, const QString &value)
@@ -101,6 +113,14 @@ QString normalizedOwnValue(const QString &name, const QString &value)
         return normalizedLayoutValue(*setting, value);
     const OwnSetting *setting = settingNamed(name);
     return setting ? setting->normalized(value) : QString();
+}
+
+QStringList ownValues(const QString &name)
+{
+    if (const LayoutSetting *layout = layoutSetting(name))
+        return layoutValues(*layout);
+    const OwnSetting *setting = settingNamed(name);
+    return setting ? QString::fromLatin1(setting->values).split(u' ') : QStringList();
 }
 
 void takeOwnSetting(PrintJob &job, const QString &name, const QString &value)

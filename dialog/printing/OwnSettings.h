@@ -1,12 +1,13 @@
 #pragma once
 
 #include <QtCore/QString>
+#include <QtCore/QStringList>
 
 class PrintJob;
 
 /// The settings of the dialog's own that may be asked for by name: `copies`, `page-ranges`,
-/// `orientation-requested`, `print-scaling` and, as lp has it, `fit-to-page`, and those of a
-/// layout.
+/// `orientation-requested`, `print-scaling` and, as lp has them, `fit-to-page` and `landscape`, and
+/// those of a layout.
 
 bool isOwnSetting(const QString &name);
 
@@ -16,6 +17,9 @@ QString ownSettingName(const QString &name);
 /// The one spelling of the value's meaning ("landscape" for "4"); null when it is no value for the
 /// setting.
 QString normalizedOwnValue(const QString &name, const QString &value);
+
+/// The values that the setting can have, as they are typed.
+QStringList ownValues(const QString &name);
 
 /// Gives the job the setting, with a value that normalizedOwnValue() has given.
 void takeOwnSetting(PrintJob &job, const QString &name, const QString &value);

@@ -9,15 +9,19 @@
 #include "dialog/job/PipeDocuments.h"
 #include "dialog/printing/JobDoubts.h"
 #include "dialog/printing/LastPrinter.h"
+#include "dialog/printing/OwnSettings.h"
 #include "dialog/printing/RequestedSettings.h"
 #include "dialog/printing/SavedJob.h"
+#include "dialog/printing/SettingRequests.h"
 #include "dialog/printing/StandardSettings.h"
 #include "dialog/work/BackgroundCall.h"
+#include "platform/ppd/PPDText.h"
 
 #include <QtCore/QCoreApplication>
 #include <QtCore/QSysInfo>
 #include <QtCore/QTimer>
 
+#include <algorithm>
 #include <utility>
 
 namespace {
@@ -26,6 +30,12 @@ namespace {
 QString ownAddress()
 {
     return QString::fromUtf8(requestingUser()) + u'@' + QSysInfo::machineHostName();
+}
+
+QString savedSentence(const QString &sentence)
+{
+    return QCoreApplication::translate("PrintController", "Saved for this printer: %1")
+        .arg(sentence);
 }
 
 } // namespace
@@ -162,6 +172,11 @@ Result<FoundPrinter> PrintController::takePrinter(const PrinterSource &source,
             PrinterOrigin{found, options, fetched.kept, text, starting});
     }
     printer.notes = notesOnStart(found, opened.saved.missing);
+    if (!opened.saved.unusable.isEmpty()) {
+        const JobOption &first = opened.saved.unusable.constFirst();
+        const Fault fault = noSuchValue({first.name, first.value}, ownValues(first.name));
+        printer.start = Fault{fault.kind, savedSentence(fault.sentence)};
+    }
     m_job.setPrinter(found, std::move(opened));
     if (m_job.session() && m_job.session()->plugInFault())
         printer.shortcomings += Fault{FaultKind::PlugIn, m_job.session()->plugInFault()->sentence};
@@ -274,6 +289,37 @@ PrintController::makeRequestedSettings(const std::function<void(const RequestedC
 QList<RequestedChoice> PrintController::lostSettings() const
 {
     return ::lostSettings(m_job, namedWishes().wanted);
+}
+
+Result<> PrintController::makeAgainWithout(const QList<RequestedChoice> &lost)
+{
+    const std::shared_ptr<const PrinterOrigin> origin = m_origin;
+    if (const Result<> opened = reopen(origin); !opened)
+        return opened;
+    QList<RequestedChoice> wanted = namedWishes().wanted;
+    wanted.removeIf([&](const RequestedChoice &one) {
+        const Result<RequestedChoice> spelled = knownSetting(m_job, one);
+        return spelled && lost.contains(*spelled);
+    });
+    return makeSettings(m_job, wanted);
+}
+
+QStringList PrintController::yieldedSettings() const
+{
+    if (!m_origin || !m_job.session())
+        return {};
+    QList<RequestedChoice> saved;
+    for (const JobOption &option : m_origin->starting)
+        if (findOption(m_job.ppd(), option.name))
+            saved += RequestedChoice{option.name, option.value};
+    const QList<RequestedChoice> wished = namedWishes().wanted;
+    QStringList sentences;
+    for (const RequestedChoice &lost : ::lostSettings(m_job, saved))
+        if (std::ranges::none_of(wished, [&](const RequestedChoice &wish) {
+                return isSameName(wish.keyword, lost.keyword);
+            }))
+            sentences += savedSentence(lossSentence(m_job, lost));
+    return sentences;
 }
 
 Result<FinishedJob> PrintController::finish()

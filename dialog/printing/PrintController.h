@@ -29,6 +29,8 @@ struct FoundPrinter
     QList<Fault> shortcomings;
     /// What is to be told of the settings that it starts from, a sentence each.
     QStringList notes;
+    /// The first of them that the dialog has a setting for, with a value that it cannot have.
+    Result<> start;
 };
 
 /// A job as it is to go out.
@@ -124,6 +126,14 @@ public:
 
     /// Those of the wished settings that the job has not, though the printer has them.
     QList<RequestedChoice> lostSettings() const;
+
+    /// Opens the printer once more and makes the wished settings but those: what they had brought
+    /// with them before they were lost goes with them.
+    Result<> makeAgainWithout(const QList<RequestedChoice> &lost);
+
+    /// What has become of the saved settings that the printer started from, a sentence for each
+    /// that the job has not and that no wish is for.
+    QStringList yieldedSettings() const;
 
     /// Asks the panels whether the job may be printed, and makes the job as it is to go out. After
     /// a veto the sentence is null when the panel has told the user why by itself.

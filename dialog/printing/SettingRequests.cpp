@@ -8,10 +8,14 @@
 #include "dialog/printing/OwnSettings.h"
 #include "dialog/printing/PanelPicks.h"
 #include "dialog/printing/PrintJob.h"
+#include "dialog/work/Sentences.h"
 #include "platform/ppd/PPDText.h"
 #include "platform/toolkit/PlainText.h"
 
 #include <QtCore/QCoreApplication>
+
+#include <algorithm>
+#include <array>
 
 using namespace Qt::StringLiterals;
 
@@ -20,6 +24,39 @@ namespace {
 constexpr auto kPageSize = "PageSize"_L1;
 constexpr auto kPageRegion = "PageRegion"_L1; // the same papers once more, in every PPD
 constexpr auto kCustom = "Custom"_L1;
+
+constexpr qsizetype kMostValues = 8; // values, in one sentence
+
+/// What lp has a letter for.
+struct Letter
+{
+    QLatin1String keyword;
+    QLatin1String option;
+};
+
+constexpr std::array kLetters{Letter{"copies"_L1, "-n"_L1}, Letter{"page-ranges"_L1, "-P"_L1},
+                              Letter{"job-priority"_L1, "-q"_L1},
+                              Letter{"job-hold-until"_L1, "-H"_L1}};
+
+/// The keyword as it is typed, either way.
+QString typedName(const QString &keyword)
+{
+    const auto *letter = std::ranges::find(kLetters, keyword, &Letter::keyword);
+    return letter == kLetters.end() ? displayText(keyword)
+                                    : QStringLiteral("%1 (%2)").arg(keyword, letter->option);
+}
+
+QString valuesSentence(const QStringList &values)
+{
+    QStringList named;
+    for (const QString &value : values.first(std::min(values.size(), kMostValues)))
+        named += displayText(value);
+    const QString list = named.join(QCoreApplication::translate("SettingRequests", ", "));
+    const qsizetype more = values.size() - named.size();
+    return more == 0 ? QCoreApplication::translate("SettingRequests", "It can be: %1.").arg(list)
+                     : QCoreApplication::translate("SettingRequests", "It can be: %1 and %2 more.")
+                           .arg(list, QString::number(more));
+}
 
 Fault settingFault(const QString &sentence)
 {
@@ -69,9 +106,10 @@ Result<RequestedChoice> knownPaper(const PrintJob &job, const QString &paper)
     if (paperOfChoice(job.ppd(), choice))
         return RequestedChoice{kPageSize, choice};
     if (!custom)
-        return settingFault(
-            QCoreApplication::translate("SettingRequests", "The printer has no paper %1.")
-                .arg(displayText(paper)));
+        return settingFault(joinedSentences(
+            {QCoreApplication::translate("SettingRequests", "The printer has no paper %1.")
+                 .arg(displayText(paper)),
+             valuesSentence(typedChoices(job.ppd(), kPageSize))}));
     return checkCustomPaper(job.ppd(), *custom).andThen([&] {
         return Result<RequestedChoice>(RequestedChoice{kPageSize, custom->name});
     });
@@ -81,7 +119,7 @@ Result<RequestedChoice> knownOwnSetting(const RequestedChoice &wanted)
 {
     const QString value = normalizedOwnValue(wanted.keyword, wanted.choice);
     if (value.isNull())
-        return noSuchValue(wanted);
+        return noSuchValue(wanted, ownValues(wanted.keyword));
     return RequestedChoice{ownSettingName(wanted.keyword), value};
 }
 
@@ -94,7 +132,7 @@ Result<RequestedChoice> knownChoice(const PrintJob &job, const RequestedChoice &
                 .arg(displayText(keyword)));
     const QString value = normalizedValue(job.ppd(), keyword, choice);
     if (value.isNull())
-        return noSuchValue({keyword, choice});
+        return noSuchValue({keyword, choice}, typedChoices(job.ppd(), keyword));
     return RequestedChoice{keyword, value};
 }
 
@@ -127,10 +165,21 @@ QString currentText(const PrintJob &job, const RequestedChoice &known)
 
 } // namespace
 
-Fault noSuchValue(const RequestedChoice &wanted)
+Fault noSuchValue(const RequestedChoice &wanted, const QStringList &values)
 {
-    return settingFault(QCoreApplication::translate("SettingRequests", "%2 is no value for %1.")
-                            .arg(displayText(wanted.keyword), displayText(wanted.choice)));
+    const QString refusal = QCoreApplication::translate("SettingRequests", "%2 is no value for %1.")
+                                .arg(typedName(wanted.keyword), displayText(wanted.choice));
+    return settingFault(values.isEmpty() ? refusal
+                                         : joinedSentences({refusal, valuesSentence(values)}));
+}
+
+QStringList typedChoices(ppd_file_t *ppd, const QString &keyword)
+{
+    QStringList choices;
+    const ppd_option_t *option = findOption(ppd, keyword);
+    for (int index = 0; option && index < option->num_choices; ++index)
+        choices += ppdName(option->choices[index].choice);
+    return choices;
 }
 
 Result<> checkOwnSettings(const QList<RequestedChoice> &wanted)

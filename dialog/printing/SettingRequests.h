@@ -2,6 +2,7 @@
 
 #include "dialog/printing/PrintWishes.h"
 #include "dialog/work/Result.h"
+#include "platform/ppd/CupsPPD.h"
 
 class PrintJob;
 
@@ -18,8 +19,12 @@ Result<RequestedChoice> knownSetting(const PrintJob &job, const RequestedChoice 
 /// before there is a printer.
 Result<> checkOwnSettings(const QList<RequestedChoice> &wanted);
 
-/// What is said of a value that the setting cannot have.
-Fault noSuchValue(const RequestedChoice &wanted);
+/// What is said of a value that the setting cannot have; `values` are those that it can have, as
+/// they are typed (none: they are not told).
+Fault noSuchValue(const RequestedChoice &wanted, const QStringList &values);
+
+/// The choices of a keyword of the PPD (null: none), as they are typed.
+QStringList typedChoices(ppd_file_t *ppd, const QString &keyword);
 
 /// Makes a known setting, as far as the other ones allow. The panels' controls are filled
 /// (prepareControls()), but for settings of the page.

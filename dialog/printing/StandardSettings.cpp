@@ -90,6 +90,18 @@ QList<RequestedChoice> namedByPPD(ppd_file_t *ppd, const RequestedChoice &wanted
     return named;
 }
 
+/// As they are typed; of a name whose values are the printer's own, as far as they are its choices.
+QStringList valuesOf(ppd_file_t *ppd, const QString &name)
+{
+    if (name == kMedia)
+        return typedChoices(ppd, kPaperKeyword);
+    if (name == "sides"_L1)
+        return {u"one-sided"_s, u"two-sided-long-edge"_s, u"two-sided-short-edge"_s};
+    if (name == "print-quality"_L1)
+        return {u"3"_s, u"4"_s, u"5"_s};
+    return name == "print-color-mode"_L1 ? QStringList{u"color"_s, u"monochrome"_s} : QStringList();
+}
+
 } // namespace
 
 NamedWishes inPrintersNames(ppd_file_t *ppd, const QList<RequestedChoice> &wanted)
@@ -99,7 +111,7 @@ NamedWishes inPrintersNames(ppd_file_t *ppd, const QList<RequestedChoice> &wante
         const QList<RequestedChoice> choices = namedByPPD(ppd, one);
         named.wanted += choices;
         if (choices.isEmpty() && named.state)
-            named.state = noSuchValue(one);
+            named.state = noSuchValue(one, valuesOf(ppd, one.keyword));
     }
     return named;
 }

@@ -2,6 +2,8 @@
 
 #include <QtCore/QCoreApplication>
 
+#include <cups/cups.h>
+
 #include <algorithm>
 #include <array>
 
@@ -32,9 +34,9 @@ QString takeQueue(CommandLine &line, const QString &value)
 }
 
 // What lp takes without a value.
-constexpr std::array kSwitches{QLatin1String("fit-to-page")};
+constexpr std::array kSwitches{QLatin1String("fit-to-page"), QLatin1String("landscape")};
 
-QString takeChoice(CommandLine &line, const QString &value)
+QString takeOneChoice(CommandLine &line, const QString &value)
 {
     if (std::ranges::find(kSwitches, value) != kSwitches.end()) {
         line.choices.append({value, QStringLiteral("true")});
@@ -46,6 +48,36 @@ QString takeChoice(CommandLine &line, const QString &value)
             .arg(value);
     line.choices.append({value.left(equals), value.mid(equals + 1)});
     return {};
+}
+
+/// Several settings, one after the other, as `lp` takes them; empty where the value is not made of
+/// such: a text with spaces is one value.
+QStringList severalChoices(const QString &value)
+{
+    cups_option_t *parsed = nullptr;
+    const int count = cupsParseOptions(value.toUtf8().constData(), 0, &parsed);
+    QStringList several;
+    bool areSettings = true;
+    for (int index = 0; index < count; ++index) {
+        const QString name = QString::fromUtf8(parsed[index].name);
+        const bool isSwitch = std::ranges::find(kSwitches, name) != kSwitches.end();
+        areSettings = areSettings && (isSwitch || value.contains(name + u'='));
+        several += isSwitch ? name : name + u'=' + QString::fromUtf8(parsed[index].value);
+    }
+    cupsFreeOptions(count, parsed);
+    return areSettings ? several : QStringList();
+}
+
+QString takeChoice(CommandLine &line, const QString &value)
+{
+    const QStringList several = value.contains(u' ') ? severalChoices(value) : QStringList();
+    if (several.isEmpty())
+        return takeOneChoice(line, value);
+    QString wrong;
+    for (const QString &one : several)
+        if (wrong.isNull())
+            wrong = takeOneChoice(line, one);
+    return wrong;
 }
 
 QString takeWhy(CommandLine &line, const QString &value)
@@ -259,6 +291,8 @@ QString contradiction(const CommandLine &line)
          QT_TRANSLATE_NOOP("CommandLine", "--no-dialog and --panel do not go together.")},
         {line.noDialog && line.files.isEmpty(),
          QT_TRANSLATE_NOOP("CommandLine", "--no-dialog needs a document to print.")},
+        {line.files.count(QLatin1String("-")) > 1,
+         QT_TRANSLATE_NOOP("CommandLine", "Standard input, -, may be given only once.")},
         {line.yes && !line.noDialog, QT_TRANSLATE_NOOP("CommandLine", "--yes is for --no-dialog.")},
         {line.wait && (!line.noDialog || line.dryRun || !line.output.isNull()),
          QT_TRANSLATE_NOOP("CommandLine",

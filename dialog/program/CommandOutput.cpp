@@ -58,11 +58,11 @@ ExitStatus failWith(const Fault &fault)
     return failWith(statusOf(fault.kind), fault.sentence);
 }
 
-void report(const CommandLine &line, const QString &sentence)
+bool report(const CommandLine &line, const QString &sentence)
 {
     FILE *const stream = descriptorOf(line.output) == STDOUT_FILENO ? stderr : stdout;
     std::fputs((displayText(sentence).toLocal8Bit() + '\n').constData(), stream);
-    std::fflush(stream);
+    return std::fflush(stream) == 0 && std::ferror(stream) == 0;
 }
 
 OutputTerms outputTerms(const CommandLine &line)

@@ -18,8 +18,8 @@ ExitStatus failWith(const Fault &fault);
 void warn(const QString &sentence);
 
 /// Writes one line on standard output; on standard error where the job itself goes to standard
-/// output.
-void report(const CommandLine &line, const QString &sentence);
+/// output. False: it cannot be written.
+bool report(const CommandLine &line, const QString &sentence);
 
 /// On what terms the command writes pictures and scripts: never over what it reads.
 OutputTerms outputTerms(const CommandLine &line);

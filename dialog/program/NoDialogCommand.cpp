@@ -15,6 +15,7 @@
 #include "dialog/program/CommandOutput.h"
 #include "dialog/program/Explanation.h"
 #include "dialog/program/JobWait.h"
+#include "dialog/program/LauncherOutput.h"
 #include "dialog/program/PasswordPrompt.h"
 #include "dialog/program/SessionRecording.h"
 #include "dialog/work/EndSignals.h"
@@ -73,6 +74,7 @@ private:
     void findPrinter();
     void takePrinter(const FoundPrinter &printer);
     void makeSettings();
+    Result<> makeWithoutLost(const Result<> &made);
     void countPages();
     void finish();
     void decide(const FinishedJob &finished);
@@ -81,6 +83,7 @@ private:
     void send(const JobRequest &request);
     void waitFor(const QString &queue, int id);
     void write(const JobRequest &request);
+    bool tell(const QString &sentence);
     void endDryRun(const QString &sentence);
 
     bool goOn(const Result<> &done);
@@ -167,6 +170,8 @@ void Run::takePrinter(const FoundPrinter &printer)
 {
     if (!goOn(printer.shortcomings.isEmpty() ? Result<>() : printer.shortcomings.constFirst()))
         return;
+    if (!goOn(printer.start))
+        return;
     for (const QString &note : printer.notes)
         warn(note);
     makeSettings();
@@ -183,13 +188,25 @@ void Run::makeSettings()
     if (made.faultKind() == FaultKind::Vetoed)
         explanation.tellLost(m_controller.lostSettings());
     const bool isAgreed = m_line.yes && made.faultKind() == FaultKind::Vetoed;
-    if (!goOn(isAgreed ? Result<>() : made))
+    if (!goOn(isAgreed ? makeWithoutLost(made) : made))
         return;
-    for (const QString &said : m_answers.takeSentences())
+    for (const QString &said : m_answers.takeSentences() + m_controller.yieldedSettings() +
+                                   notesOnLayout(m_controller.job()))
         warn(said);
-    if (!made)
-        warn(made.sentence());
     countPages();
+}
+
+/// As if those had not been asked for that are lost.
+Result<> Run::makeWithoutLost(const Result<> &made)
+{
+    warn(made.sentence());
+    static_cast<void>(m_answers.takeSentences()); // of what is made once more
+    const Result<> rest = m_controller.makeAgainWithout(m_controller.lostSettings());
+    m_answers.answerSheets();
+    if (rest.faultKind() != FaultKind::Vetoed)
+        return rest;
+    warn(rest.sentence());
+    return {};
 }
 
 /// Pages that a document does not have would end in trouble on the server.
@@ -282,9 +299,12 @@ void Run::send(const JobRequest &request)
             goOn(receipt.fault());
             return;
         }
-        report(m_line, receiptLine(queue, receipt->id, m_controller.job().documents().size()));
+        const bool isTold =
+            tell(receiptLine(queue, receipt->id, m_controller.job().documents().size()));
         for (const QString &note : receipt->notes)
             warn(note);
+        if (!isTold)
+            return;
         if (m_line.wait)
             waitFor(queue, receipt->id);
         else
@@ -314,26 +334,39 @@ void Run::write(const JobRequest &request)
                     .arg(shownPath(m_line.output)));
         return;
     }
-    m_controller.write(m_line.output, request, m_controller.outputTerms(),
-                       [this](const Result<QStringList> &notes) {
-                           if (!notes) {
-                               goOn(notes.fault());
-                               return;
-                           }
-                           report(m_line, QCoreApplication::translate("NoDialogCommand",
-                                                                      "The job was written to %1.")
-                                              .arg(shownPath(m_line.output)));
-                           for (const QString &note : *notes)
-                               warn(note);
-                           end(ExitStatus::Done);
-                       });
+    m_controller.write(
+        m_line.output, request, m_controller.outputTerms(),
+        [this](const Result<QStringList> &notes) {
+            if (!notes) {
+                goOn(notes.fault());
+                return;
+            }
+            const bool isTold =
+                tell(QCoreApplication::translate("NoDialogCommand", "The job was written to %1.")
+                         .arg(shownPath(m_line.output)));
+            for (const QString &note : *notes)
+                warn(note);
+            if (isTold)
+                end(ExitStatus::Done);
+        });
+}
+
+/// What has come of the run, on standard output. Where that takes nothing, the run ends, and the
+/// line is not lost: it may be the number of a job.
+bool Run::tell(const QString &sentence)
+{
+    if (report(m_line, sentence))
+        return true;
+    end(failWithoutOutput());
+    warn(sentence);
+    return false;
 }
 
 /// Everything was looked at, and nothing is done.
 void Run::endDryRun(const QString &sentence)
 {
-    report(m_line, sentence);
-    end(ExitStatus::Done);
+    if (tell(sentence))
+        end(ExitStatus::Done);
 }
 
 ExitStatus Run::print()

@@ -1,5 +1,6 @@
 #include "dialog/window/CustomSizeFields.h"
 
+#include "dialog/job/LengthUnit.h"
 #include "platform/toolkit/AccessibleName.h"
 #include "platform/toolkit/PlainLabel.h"
 
@@ -10,20 +11,9 @@
 #include <QtWidgets/QGridLayout>
 #include <QtWidgets/QLabel>
 
-#include <array>
 #include <cmath>
 
 namespace {
-
-struct Unit
-{
-    double points;
-    int decimals;
-    double step;
-};
-
-// In the order of the unit pop-up: millimetres, inches.
-constexpr std::array kUnits{Unit{kPointsPerMillimetre, 1, 1.0}, Unit{kPointsPerInch, 2, 0.1}};
 
 // Lengths out of the printer's range can be typed, so that the validation text can tell the limit.
 constexpr double kLongest = 9999;
@@ -40,7 +30,7 @@ CustomSizeFields::CustomSizeFields(QWidget *parent)
 {
     m_unit->setObjectName(QStringLiteral("customUnit"));
     m_unit->addItems({tr("mm"), tr("inches")});
-    m_unit->setCurrentIndex(QLocale().measurementSystem() == QLocale::ImperialUSSystem ? 1 : 0);
+    m_unit->setCurrentIndex(usualLengthUnit());
     giveAccessibleName(m_unit, tr("Unit"));
     QLabel *widthLabel = newPlainLabel(tr("&Width:"), this);
     widthLabel->setBuddy(m_width);
@@ -84,7 +74,7 @@ QLabel *CustomSizeFields::newValidationLabel(const QString &name)
 
 double CustomSizeFields::pointsPerUnit() const
 {
-    return kUnits[static_cast<std::size_t>(m_unit->currentIndex())].points;
+    return kLengthUnits[static_cast<std::size_t>(m_unit->currentIndex())].points;
 }
 
 void CustomSizeFields::setLimits(const CustomLimits &limits)
@@ -118,7 +108,7 @@ bool CustomSizeFields::isAcceptable() const
 /// Shows the size in the chosen unit; the size itself stays as exact as it is.
 void CustomSizeFields::changeUnit()
 {
-    const Unit &unit = kUnits[static_cast<std::size_t>(m_unit->currentIndex())];
+    const LengthUnit &unit = kLengthUnits[static_cast<std::size_t>(m_unit->currentIndex())];
     for (QDoubleSpinBox *field : {m_width, m_height}) {
         const QSignalBlocker quiet(field);
         field->setDecimals(unit.decimals);
@@ -152,7 +142,7 @@ QString CustomSizeFields::validationText(double length, double least, double mos
 /// The limit in the chosen unit, rounded to the side on which it can be typed.
 QString CustomSizeFields::limitText(double points, double (*round)(double)) const
 {
-    const Unit &unit = kUnits[static_cast<std::size_t>(m_unit->currentIndex())];
+    const LengthUnit &unit = kLengthUnits[static_cast<std::size_t>(m_unit->currentIndex())];
     const double scale = std::pow(10, unit.decimals);
     const double limit = round(points / unit.points * scale) / scale;
     return QLocale().toString(limit, 'f', unit.decimals) + u' ' + m_unit->currentText();

@@ -1,6 +1,7 @@
 #include "dialog/window/CustomValueFields.h"
 
 #include "dialog/job/FeatureTexts.h"
+#include "dialog/job/LengthUnit.h"
 #include "platform/toolkit/AccessibleName.h"
 #include "platform/toolkit/NumberField.h"
 #include "platform/toolkit/PlainLabel.h"
@@ -13,12 +14,14 @@
 #include <QtWidgets/QLineEdit>
 
 #include <algorithm>
+#include <memory>
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
 constexpr int kDecimals = 3;
+constexpr int kLengthDigits = 6; // of points
 constexpr int kCustomTextWidth = 240;
 
 } // namespace
@@ -69,8 +72,9 @@ CustomValueFields::Field CustomValueFields::newField(const CustomParameter &para
     case Integer:
         return newInteger(parameter);
     case Number:
-    case Points:
         return newNumber(parameter);
+    case Points:
+        return newLength(parameter);
     default:
         return newText(parameter);
     }
@@ -90,13 +94,38 @@ CustomValueFields::Field CustomValueFields::newNumber(const CustomParameter &par
     auto *field = new QDoubleSpinBox(this);
     field->setDecimals(kDecimals);
     field->setRange(parameter.least, parameter.greatest);
-    if (parameter.kind == CustomParameter::Kind::Points)
-        field->setSuffix(tr(" pt"));
     connect(field, &QDoubleSpinBox::valueChanged, this, &CustomValueFields::judge);
     return {
         field,
         [field] { return QString::number(field->value(), 'g', QLocale::FloatingPointShortest); },
         [field](const QString &value) { field->setValue(value.toDouble()); }};
+}
+
+/// Typed in the unit that the user's country uses, and kept in points. What nobody has changed
+/// stays as exact as it was.
+CustomValueFields::Field CustomValueFields::newLength(const CustomParameter &parameter)
+{
+    const LengthUnit &unit = kLengthUnits[static_cast<std::size_t>(usualLengthUnit())];
+    auto *field = new QDoubleSpinBox(this);
+    field->setDecimals(unit.decimals + 1);
+    field->setSingleStep(unit.step);
+    field->setRange(parameter.least / unit.points, parameter.greatest / unit.points);
+    field->setSuffix(lengthSuffix());
+    const auto shown = std::make_shared<QString>();
+    connect(field, &QDoubleSpinBox::valueChanged, this, [this, shown] {
+        shown->clear();
+        judge();
+    });
+    return {field,
+            [field, shown, &unit, parameter] {
+                const double points =
+                    std::clamp(field->value() * unit.points, parameter.least, parameter.greatest);
+                return shown->isEmpty() ? QString::number(points, 'g', kLengthDigits) : *shown;
+            },
+            [field, shown, &unit](const QString &value) {
+                field->setValue(value.toDouble() / unit.points);
+                *shown = value;
+            }};
 }
 
 CustomValueFields::Field CustomValueFields::newText(const CustomParameter &parameter)

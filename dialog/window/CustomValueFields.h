@@ -45,6 +45,7 @@ private:
     Field newField(const CustomParameter &parameter);
     Field newInteger(const CustomParameter &parameter);
     Field newNumber(const CustomParameter &parameter);
+    Field newLength(const CustomParameter &parameter);
     Field newText(const CustomParameter &parameter);
     void judge();
 

@@ -130,15 +130,21 @@ void DialogWindow::fitToTexts()
     setWidth(width() + std::max({0, tabs, buttons, head}));
 }
 
+/// A picture has no screen.
+QSize DialogWindow::mostSize() const
+{
+    return m_wishes.isPicture ? QSize(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX) : screen()->availableSize();
+}
+
 void DialogWindow::setWidth(int width)
 {
-    const int most = screen()->availableGeometry().width();
+    const int most = mostSize().width();
     resize(std::max(this->width(), std::min(width, most)), height());
 }
 
 void DialogWindow::setHeight(int height)
 {
-    const int most = screen()->availableGeometry().height();
+    const int most = mostSize().height();
     resize(width(), std::min(height, most));
 }
 

@@ -165,7 +165,10 @@ void DialogWindow::makeRequestedSettings()
 /// A wrong word of the command line: nobody would look for the settings where they are not.
 void DialogWindow::endWithoutPanel()
 {
-    m_settingState = Fault{FaultKind::Request, tr("There is no panel %1.").arg(m_wishes.panel)};
+    const QString sentence = DialogTabs::isPartName(m_wishes.panel)
+                                 ? tr("This printer has nothing for the part %1.")
+                                 : tr("There is no panel %1.");
+    m_settingState = Fault{FaultKind::Request, sentence.arg(m_wishes.panel)};
     m_outcome = m_settingState;
     if (!m_wishes.isPicture)
         QTimer::singleShot(0, this, &DialogWindow::reject);

@@ -177,6 +177,11 @@ const DialogTabs::Part *DialogTabs::currentPart() const
     return found == m_parts.end() ? nullptr : &*found;
 }
 
+bool DialogTabs::isPartName(const QString &name)
+{
+    return QStringList{kPageSetup, kFeatures, kLayout, kSummary, kSupplies}.contains(name);
+}
+
 bool DialogTabs::showPart(const QString &name)
 {
     const auto found = std::ranges::find(m_parts, name, &Part::name);

@@ -54,6 +54,9 @@ public:
     /// What is in front; null without tabs.
     const Part *currentPart() const;
 
+    /// Whether a part of the dialog's own has the name, for some printers at least.
+    static bool isPartName(const QString &name);
+
     /// Shows the part of the name ("summary", or a panel's). False without such a part.
     bool showPart(const QString &name);
 

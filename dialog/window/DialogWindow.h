@@ -193,6 +193,7 @@ private:
     void fitToPart();
     void followView();
     void fitToTexts();
+    QSize mostSize() const;
     void setWidth(int width);
     void setHeight(int height);
     QList<SummarySection> summarySections();

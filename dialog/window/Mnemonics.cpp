@@ -2,6 +2,7 @@
 
 #include "platform/toolkit/CaptionLabel.h"
 
+#include <QtCore/QCoreApplication>
 #include <QtCore/QRegularExpression>
 #include <QtGui/QKeySequence>
 #include <QtWidgets/QAbstractButton>
@@ -109,6 +110,16 @@ QString titleOf(const QLabel &label)
     return caption ? caption->mnemonicText() : label.text();
 }
 
+/// As the user's language sets a colon: French has a space before it.
+QString withColon(const QString &caption)
+{
+    const qsizetype colon = caption.lastIndexOf(u':');
+    if (colon < 0 || !caption.mid(colon + 1).trimmed().isEmpty())
+        return caption;
+    return QCoreApplication::translate("Mnemonics", "%1:").arg(caption.left(colon).trimmed()) +
+           caption.mid(colon + 1);
+}
+
 bool isOnAPageOf(const QWidget &window, const QWidget *widget)
 {
     for (; widget && widget != &window; widget = widget->parentWidget())
@@ -193,8 +204,8 @@ void giveCaptionMnemonics(QWidget &view, const QString &taken)
     const Letters letters(choices);
     for (qsizetype index = 0; index < captions.size(); ++index) {
         const QChar letter = letters.of(index);
-        captions[index]->setMnemonic(letter.isNull() ? QString()
-                                                     : marked(captions[index]->text(), letter));
+        const QString title = withColon(captions[index]->text());
+        captions[index]->setMnemonic(letter.isNull() ? title : marked(title, letter));
     }
 }
 

@@ -16,6 +16,8 @@ namespace {
 
 constexpr int kPresetLength = 30; // characters: a pop-up does not measure hundreds of texts
 
+constexpr int kAroundArrow = 12; // pixels, that styles leave out between title and arrow
+
 // What the items of the pop-up stand for; a preset's name follows the colon.
 constexpr auto kPrinterItem = "printer"_L1;
 constexpr auto kUsualItem = "usual"_L1;
@@ -53,6 +55,7 @@ PresetsRow::PresetsRow(QWidget *parent)
     m_menu->setObjectName(u"presetMenuButton"_s);
     m_menu->setAutoDefault(false);
     m_menu->setMenu(new QMenu(m_menu));
+    m_menu->setMinimumWidth(m_menu->sizeHint().width() + kAroundArrow);
     m_save = addAction(u"savePreset"_s, tr("Save as Preset…"));
     m_rename = addAction(u"renamePreset"_s, tr("Rename Preset…"));
     m_delete = addAction(u"deletePreset"_s, tr("Delete Preset…"));

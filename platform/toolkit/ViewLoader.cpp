@@ -39,7 +39,11 @@ ViewConnections toolkitClasses()
 class Loader : public QUiLoader
 {
 public:
-    explicit Loader(const ViewConnections &owner) : m_owner(owner), m_toolkit(toolkitClasses()) {}
+    explicit Loader(const ViewConnections &owner) : m_owner(owner), m_toolkit(toolkitClasses())
+    {
+        // What a view says is the names of actions, keys and bindings: no texts.
+        setTranslationEnabled(false);
+    }
 
     QWidget *createWidget(const QString &className, QWidget *parent, const QString &name) override
     {

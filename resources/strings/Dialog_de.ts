@@ -34,6 +34,10 @@
 <context>
     <name>CommandLine</name>
     <message>
+        <source>Standard input, -, may be given only once.</source>
+        <translation>Die Standardeingabe, -, darf nur einmal angegeben werden.</translation>
+    </message>
+    <message>
         <source>&quot;%1&quot; is not the name of a queue.</source>
         <translation>„%1“ ist kein Name einer Warteschlange.</translation>
     </message>
@@ -190,10 +194,6 @@
         <source>%1:</source>
         <translation>%1:</translation>
     </message>
-    <message>
-        <source> pt</source>
-        <translation> pt</translation>
-    </message>
 </context>
 <context>
     <name>DialogCommand</name>
@@ -248,6 +248,10 @@ Umschalt+F1 oder das Kontextmenü sagt, warum.</translation>
     <message>
         <source>Leave It</source>
         <translation>So lassen</translation>
+    </message>
+    <message>
+        <source>This printer has nothing for the part %1.</source>
+        <translation>Dieser Drucker hat nichts für den Teil %1.</translation>
     </message>
     <message>
         <source>Retry</source>
@@ -693,6 +697,14 @@ Umschalt+F1 oder das Kontextmenü sagt, warum.</translation>
 <context>
     <name>JobDoubts</name>
     <message>
+        <source>A booklet has two pages on a side: number-up=%1 does nothing.</source>
+        <translation>Eine Broschüre hat zwei Seiten auf jeder Blattseite: number-up=%1 bewirkt nichts.</translation>
+    </message>
+    <message>
+        <source>A booklet needs both sides of the paper; this job is printed on one.</source>
+        <translation>Eine Broschüre braucht beide Seiten des Papiers; dieser Auftrag wird auf einer gedruckt.</translation>
+    </message>
+    <message>
         <source>The printer cannot print on both sides of this paper: %1.</source>
         <translation>Der Drucker kann dieses Papier nicht beidseitig bedrucken: %1.</translation>
     </message>
@@ -982,8 +994,8 @@ Umschalt+F1 oder das Kontextmenü sagt, warum.</translation>
         <translation>Mehrere Exemplare</translation>
     </message>
     <message>
-        <source>Print It</source>
-        <translation>Drucken</translation>
+        <source>When to Print</source>
+        <translation>Druckzeit</translation>
     </message>
     <message>
         <source>Priority</source>
@@ -1011,6 +1023,10 @@ Umschalt+F1 oder das Kontextmenü sagt, warum.</translation>
 </context>
 <context>
     <name>JobReadBack</name>
+    <message>
+        <source>The printer is stopped; job %1 waits (%2).</source>
+        <translation>Der Drucker ist angehalten; Auftrag %1 wartet (%2).</translation>
+    </message>
     <message>
         <source>The server holds job %1 (%2).</source>
         <translation>Der Server hält Auftrag %1 zurück (%2).</translation>
@@ -1287,6 +1303,17 @@ Umschalt+F1 oder das Kontextmenü sagt, warum.</translation>
     </message>
 </context>
 <context>
+    <name>LengthUnit</name>
+    <message>
+        <source>%1 mm</source>
+        <translation>%1 mm</translation>
+    </message>
+    <message>
+        <source>%1 in</source>
+        <translation>%1 Zoll</translation>
+    </message>
+</context>
+<context>
     <name>LpoptionsFile</name>
     <message>
         <source>The saved settings in %1 cannot be read: %2.</source>
@@ -1303,6 +1330,13 @@ Umschalt+F1 oder das Kontextmenü sagt, warum.</translation>
     <message>
         <source>These are too many settings for one name.</source>
         <translation>Das sind zu viele Einstellungen für einen Namen.</translation>
+    </message>
+</context>
+<context>
+    <name>Mnemonics</name>
+    <message>
+        <source>%1:</source>
+        <translation>%1:</translation>
     </message>
 </context>
 <context>
@@ -1403,7 +1437,7 @@ Umschalt+F1 oder das Kontextmenü sagt, warum.</translation>
     </message>
     <message>
         <source>The printer's default</source>
-        <translation>Standard des Druckers</translation>
+        <translation>Vorgabe des Druckers</translation>
     </message>
     <message>
         <source>%1: %2 – %3</source>
@@ -1453,6 +1487,13 @@ Umschalt+F1 oder das Kontextmenü sagt, warum.</translation>
     <message>
         <source>Name of this size</source>
         <translation>Name dieses Formats</translation>
+    </message>
+</context>
+<context>
+    <name>PathBytes</name>
+    <message>
+        <source>standard output</source>
+        <translation>die Standardausgabe</translation>
     </message>
 </context>
 <context>
@@ -1862,6 +1903,10 @@ Umschalt+F1 oder das Kontextmenü sagt, warum.</translation>
 </context>
 <context>
     <name>PrintController</name>
+    <message>
+        <source>Saved for this printer: %1</source>
+        <translation>Für diesen Drucker gespeichert: %1</translation>
+    </message>
     <message>
         <source>The plug-in could not attach its panels to this printer. Its rules and checks are missing.</source>
         <translation>Das Plug-in konnte seine Bereiche nicht mit diesem Drucker verbinden. Seine Regeln und Prüfungen fehlen.</translation>
@@ -2523,7 +2568,7 @@ Umschalt+F1 oder das Kontextmenü sagt, warum.</translation>
     <name>SummaryPart</name>
     <message>
         <source>Only What Differs from the Printer's Defaults</source>
-        <translation>Nur Abweichungen vom Standard des Druckers</translation>
+        <translation>Nur Abweichungen von den Vorgaben des Druckers</translation>
     </message>
     <message>
         <source>Copy as Text</source>
@@ -2827,6 +2872,18 @@ Umschalt+F1 oder das Kontextmenü sagt, warum.</translation>
 </context>
 <context>
     <name>SettingRequests</name>
+    <message>
+        <source>It can be: %1.</source>
+        <translation>Möglich sind: %1.</translation>
+    </message>
+    <message>
+        <source>It can be: %1 and %2 more.</source>
+        <translation>Möglich sind: %1 und %2 weitere.</translation>
+    </message>
+    <message>
+        <source>, </source>
+        <translation>, </translation>
+    </message>
     <message>
         <source>%2 is no value for %1.</source>
         <translation>%2 ist kein Wert für %1.</translation>

@@ -34,6 +34,10 @@
 <context>
     <name>CommandLine</name>
     <message>
+        <source>Standard input, -, may be given only once.</source>
+        <translation>L’entrée standard, -, ne peut être donnée qu’une fois.</translation>
+    </message>
+    <message>
         <source>&quot;%1&quot; is not the name of a queue.</source>
         <translation>« %1 » n’est pas le nom d’une file d’attente.</translation>
     </message>
@@ -190,10 +194,6 @@
         <source>%1:</source>
         <translation>%1 :</translation>
     </message>
-    <message>
-        <source> pt</source>
-        <translation> pt</translation>
-    </message>
 </context>
 <context>
     <name>DialogCommand</name>
@@ -248,6 +248,10 @@ Maj+F1 ou le menu contextuel dit pourquoi.</translation>
     <message>
         <source>Leave It</source>
         <translation>Laisser ainsi</translation>
+    </message>
+    <message>
+        <source>This printer has nothing for the part %1.</source>
+        <translation>Cette imprimante n’a rien pour la partie %1.</translation>
     </message>
     <message>
         <source>Retry</source>
@@ -693,6 +697,14 @@ Maj+F1 ou le menu contextuel dit pourquoi.</translation>
 <context>
     <name>JobDoubts</name>
     <message>
+        <source>A booklet has two pages on a side: number-up=%1 does nothing.</source>
+        <translation>Un livret a deux pages par côté : number-up=%1 est sans effet.</translation>
+    </message>
+    <message>
+        <source>A booklet needs both sides of the paper; this job is printed on one.</source>
+        <translation>Un livret demande les deux côtés du papier ; ce travail est imprimé sur un seul.</translation>
+    </message>
+    <message>
         <source>The printer cannot print on both sides of this paper: %1.</source>
         <translation>L’imprimante ne peut pas imprimer ce papier recto verso : %1.</translation>
     </message>
@@ -982,8 +994,8 @@ Maj+F1 ou le menu contextuel dit pourquoi.</translation>
         <translation>Plusieurs exemplaires</translation>
     </message>
     <message>
-        <source>Print It</source>
-        <translation>Imprimer</translation>
+        <source>When to Print</source>
+        <translation>Moment de l’impression</translation>
     </message>
     <message>
         <source>Priority</source>
@@ -1011,6 +1023,10 @@ Maj+F1 ou le menu contextuel dit pourquoi.</translation>
 </context>
 <context>
     <name>JobReadBack</name>
+    <message>
+        <source>The printer is stopped; job %1 waits (%2).</source>
+        <translation>L’imprimante est arrêtée ; le travail %1 attend (%2).</translation>
+    </message>
     <message>
         <source>The server holds job %1 (%2).</source>
         <translation>Le serveur a mis le travail %1 en attente (%2).</translation>
@@ -1287,6 +1303,17 @@ Maj+F1 ou le menu contextuel dit pourquoi.</translation>
     </message>
 </context>
 <context>
+    <name>LengthUnit</name>
+    <message>
+        <source>%1 mm</source>
+        <translation>%1 mm</translation>
+    </message>
+    <message>
+        <source>%1 in</source>
+        <translation>%1 po</translation>
+    </message>
+</context>
+<context>
     <name>LpoptionsFile</name>
     <message>
         <source>The saved settings in %1 cannot be read: %2.</source>
@@ -1303,6 +1330,13 @@ Maj+F1 ou le menu contextuel dit pourquoi.</translation>
     <message>
         <source>These are too many settings for one name.</source>
         <translation>Il y a trop de réglages pour un seul nom.</translation>
+    </message>
+</context>
+<context>
+    <name>Mnemonics</name>
+    <message>
+        <source>%1:</source>
+        <translation>%1 :</translation>
     </message>
 </context>
 <context>
@@ -1453,6 +1487,13 @@ Maj+F1 ou le menu contextuel dit pourquoi.</translation>
     <message>
         <source>Name of this size</source>
         <translation>Nom de ce format</translation>
+    </message>
+</context>
+<context>
+    <name>PathBytes</name>
+    <message>
+        <source>standard output</source>
+        <translation>la sortie standard</translation>
     </message>
 </context>
 <context>
@@ -1822,7 +1863,7 @@ Maj+F1 ou le menu contextuel dit pourquoi.</translation>
     </message>
     <message>
         <source>Back to the Printer&apos;s Defaults</source>
-        <translation>Revenir aux valeurs de l’imprimante</translation>
+        <translation>Revenir aux valeurs par défaut de l’imprimante</translation>
     </message>
     <message>
         <source>Start with the Settings Used Last</source>
@@ -1834,7 +1875,7 @@ Maj+F1 ou le menu contextuel dit pourquoi.</translation>
     </message>
     <message>
         <source>Printer&apos;s Defaults</source>
-        <translation>Valeurs de l’imprimante</translation>
+        <translation>Valeurs par défaut de l’imprimante</translation>
     </message>
     <message>
         <source>Usual Settings</source>
@@ -1862,6 +1903,10 @@ Maj+F1 ou le menu contextuel dit pourquoi.</translation>
 </context>
 <context>
     <name>PrintController</name>
+    <message>
+        <source>Saved for this printer: %1</source>
+        <translation>Enregistré pour cette imprimante : %1</translation>
+    </message>
     <message>
         <source>The plug-in could not attach its panels to this printer. Its rules and checks are missing.</source>
         <translation>Le module n’a pas pu associer ses volets à cette imprimante. Ses règles et ses vérifications sont absentes.</translation>
@@ -2827,6 +2872,18 @@ Maj+F1 ou le menu contextuel dit pourquoi.</translation>
 </context>
 <context>
     <name>SettingRequests</name>
+    <message>
+        <source>It can be: %1.</source>
+        <translation>Valeurs possibles : %1.</translation>
+    </message>
+    <message>
+        <source>It can be: %1 and %2 more.</source>
+        <translation>Valeurs possibles : %1 et %2 autres.</translation>
+    </message>
+    <message>
+        <source>, </source>
+        <translation>, </translation>
+    </message>
     <message>
         <source>%2 is no value for %1.</source>
         <translation>%2 n’est pas une valeur pour %1.</translation>

@@ -34,6 +34,10 @@
 <context>
     <name>CommandLine</name>
     <message>
+        <source>Standard input, -, may be given only once.</source>
+        <translation>標準入力 (-) は一度だけ指定できます。</translation>
+    </message>
+    <message>
         <source>&quot;%1&quot; is not the name of a queue.</source>
         <translation>「%1」はプリンターキューの名前ではありません。</translation>
     </message>
@@ -190,10 +194,6 @@
         <source>%1:</source>
         <translation>%1:</translation>
     </message>
-    <message>
-        <source> pt</source>
-        <translation> pt</translation>
-    </message>
 </context>
 <context>
     <name>DialogCommand</name>
@@ -248,6 +248,10 @@ Shift+F1 or the context menu tells why.</source>
     <message>
         <source>Leave It</source>
         <translation>このままにする</translation>
+    </message>
+    <message>
+        <source>This printer has nothing for the part %1.</source>
+        <translation>このプリンターには %1 の項目がありません。</translation>
     </message>
     <message>
         <source>Retry</source>
@@ -693,6 +697,14 @@ Shift+F1 or the context menu tells why.</source>
 <context>
     <name>JobDoubts</name>
     <message>
+        <source>A booklet has two pages on a side: number-up=%1 does nothing.</source>
+        <translation>小冊子は片面に 2 ページです。number-up=%1 は使われません。</translation>
+    </message>
+    <message>
+        <source>A booklet needs both sides of the paper; this job is printed on one.</source>
+        <translation>小冊子には用紙の両面が必要ですが、このジョブは片面に印刷されます。</translation>
+    </message>
+    <message>
         <source>The printer cannot print on both sides of this paper: %1.</source>
         <translation>このプリンターでは、この用紙の両面に印刷できません: %1。</translation>
     </message>
@@ -982,7 +994,7 @@ Shift+F1 or the context menu tells why.</source>
         <translation>複数部数</translation>
     </message>
     <message>
-        <source>Print It</source>
+        <source>When to Print</source>
         <translation>印刷の時期</translation>
     </message>
     <message>
@@ -1011,6 +1023,10 @@ Shift+F1 or the context menu tells why.</source>
 </context>
 <context>
     <name>JobReadBack</name>
+    <message>
+        <source>The printer is stopped; job %1 waits (%2).</source>
+        <translation>プリンターが停止しているため、ジョブ %1 は待っています (%2)。</translation>
+    </message>
     <message>
         <source>The server holds job %1 (%2).</source>
         <translation>サーバーがジョブ %1 を保留しています（%2）。</translation>
@@ -1287,6 +1303,17 @@ Shift+F1 or the context menu tells why.</source>
     </message>
 </context>
 <context>
+    <name>LengthUnit</name>
+    <message>
+        <source>%1 mm</source>
+        <translation>%1 mm</translation>
+    </message>
+    <message>
+        <source>%1 in</source>
+        <translation>%1 インチ</translation>
+    </message>
+</context>
+<context>
     <name>LpoptionsFile</name>
     <message>
         <source>The saved settings in %1 cannot be read: %2.</source>
@@ -1303,6 +1330,13 @@ Shift+F1 or the context menu tells why.</source>
     <message>
         <source>These are too many settings for one name.</source>
         <translation>設定が多すぎて、1 つの名前では保存できません。</translation>
+    </message>
+</context>
+<context>
+    <name>Mnemonics</name>
+    <message>
+        <source>%1:</source>
+        <translation>%1:</translation>
     </message>
 </context>
 <context>
@@ -1453,6 +1487,13 @@ Shift+F1 or the context menu tells why.</source>
     <message>
         <source>Name of this size</source>
         <translation>このサイズの名前</translation>
+    </message>
+</context>
+<context>
+    <name>PathBytes</name>
+    <message>
+        <source>standard output</source>
+        <translation>標準出力</translation>
     </message>
 </context>
 <context>
@@ -1822,7 +1863,7 @@ Shift+F1 or the context menu tells why.</source>
     </message>
     <message>
         <source>Back to the Printer&apos;s Defaults</source>
-        <translation>プリンターの初期値に戻す</translation>
+        <translation>プリンターの既定値に戻す</translation>
     </message>
     <message>
         <source>Start with the Settings Used Last</source>
@@ -1834,7 +1875,7 @@ Shift+F1 or the context menu tells why.</source>
     </message>
     <message>
         <source>Printer&apos;s Defaults</source>
-        <translation>プリンターの初期値</translation>
+        <translation>プリンターの既定値</translation>
     </message>
     <message>
         <source>Usual Settings</source>
@@ -1862,6 +1903,10 @@ Shift+F1 or the context menu tells why.</source>
 </context>
 <context>
     <name>PrintController</name>
+    <message>
+        <source>Saved for this printer: %1</source>
+        <translation>このプリンター用に保存された設定: %1</translation>
+    </message>
     <message>
         <source>The plug-in could not attach its panels to this printer. Its rules and checks are missing.</source>
         <translation>プラグインのパネルをこのプリンターで使用できません。パネルによる設定の調整と確認は行われません。</translation>
@@ -2827,6 +2872,18 @@ Shift+F1 or the context menu tells why.</source>
 </context>
 <context>
     <name>SettingRequests</name>
+    <message>
+        <source>It can be: %1.</source>
+        <translation>使える値: %1。</translation>
+    </message>
+    <message>
+        <source>It can be: %1 and %2 more.</source>
+        <translation>使える値: %1、ほか %2 個。</translation>
+    </message>
+    <message>
+        <source>, </source>
+        <translation>、</translation>
+    </message>
     <message>
         <source>%2 is no value for %1.</source>
         <translation>%2 は %1 の値として使えません。</translation>

@@ -175,7 +175,7 @@
     </message>
     <message>
         <source>PPD Default</source>
-        <translation>%1 の初期値 %2 と同じつづりの選択肢がありません。</translation>
+        <translation>%1 の既定値 %2 と同じつづりの選択肢がありません。</translation>
     </message>
     <message>
         <source>PPD Partner Missing</source>

@@ -337,6 +337,57 @@ TEST_F(Command, ASettingThatIsLostIsToldAndPrintedWithoutAfterAYes)
     EXPECT_EQ(settingsOf(jobs[0]).value(u"VKResolution"_s), u"Photo"_s);
 }
 
+TEST_F(Command, AMediumThatIsLostTakesAwayWhatItHadBrought)
+{
+    const QStringList twoSided{u"-o"_s, u"Duplex=DuplexNoTumble"_s};
+    ASSERT_EQ(print(twoSided).status, 0);
+    const ProgramRun run =
+        print(twoSided + QStringList{u"-o"_s, u"VKMediaType=Glossy"_s, u"--yes"_s});
+    ASSERT_EQ(run.status, 0) << run.errors.toStdString();
+    EXPECT_TRUE(run.errors.contains(u"VKMediaType=Glossy"_s)) << run.errors.toStdString();
+    const QList<int> jobs = newJobs();
+    ASSERT_EQ(jobs.size(), 2);
+    EXPECT_EQ(settingsOf(jobs[1]), settingsOf(jobs[0]));
+}
+
+TEST_F(Command, ASavedChoiceYieldsToAnOptionAndIsTold)
+{
+    const ProgramRun run = runProgram({u"--no-dialog"_s, u"-h"_s, server().address(), u"-d"_s,
+                                       u"photo/mine"_s, u"-o"_s, u"VKMediaType=Plain"_s, pdf()},
+                                      "Dest photo/mine VKMediaType=Glossy VKResolution=Photo\n");
+    EXPECT_EQ(run.status, 0);
+    EXPECT_EQ(run.errors,
+              u"velkaro-print: Saved for this printer: VKResolution=Photo cannot be chosen while "
+              "the other settings are as they are. Print Quality is Normal instead.\n"_s);
+    ASSERT_EQ(newJobs().size(), 1);
+    EXPECT_EQ(settingsOf(newJobs()[0]).value(u"VKMediaType"_s), u"Plain"_s);
+}
+
+TEST_F(Command, ASavedNumberThatTheSettingCannotHaveIsRefused)
+{
+    const std::pair<QByteArray, QString> saved[] = {
+        {"copies=99999", u"99999 is no value for copies (-n). It can be: 1-999."_s},
+        {"number-up=7", u"7 is no value for number-up. It can be: 1, 2, 4, 6, 9, 16."_s}};
+    for (const auto &[option, sentence] : saved) {
+        const ProgramRun run = runProgram(
+            {u"--no-dialog"_s, u"-h"_s, server().address(), u"-d"_s, u"photo/mine"_s, pdf()},
+            "Dest photo/mine " + option + '\n');
+        EXPECT_EQ(run.status, 2);
+        EXPECT_EQ(run.errors, u"velkaro-print: Saved for this printer: "_s + sentence + u'\n');
+    }
+    EXPECT_EQ(newJobs(), QList<int>());
+}
+
+TEST_F(Command, ABookletThatCannotBeAsItWasAskedForIsTold)
+{
+    const ProgramRun run = print({u"-o"_s, u"booklet=on number-up=4"_s});
+    EXPECT_EQ(run.status, 0);
+    EXPECT_EQ(run.errors,
+              u"velkaro-print: A booklet has two pages on a side: number-up=4 does nothing.\n"
+              "velkaro-print: A booklet needs both sides of the paper; this job is printed on "
+              "one.\n"_s);
+}
+
 TEST_F(Command, AQueueWithoutAPPDPrintsWithTheHostsOwnSettings)
 {
     ASSERT_TRUE(server().addQueue(u"raw"_s, QString()));
@@ -386,8 +437,14 @@ INSTANTIATE_TEST_SUITE_P(
         Fault{"UnknownChoice",
               {u"-o"_s, u"VKMediaType=NoSuch"_s},
               2,
-              "NoSuch is no value for VKMediaType."},
-        Fault{"UnknownPaper", {u"--paper"_s, u"NoSuch"_s}, 2, "The printer has no paper NoSuch."},
+              "NoSuch is no value for VKMediaType. It can be: Plain, PlainDuplex, Inkjet, "
+              "VelkaroGlossy, VelkaroGlossyR, VelkaroQM41Matte, Glossy, HagakiAtena and 4 more."},
+        Fault{"UnknownPaper",
+              {u"--paper"_s, u"NoSuch"_s},
+              2,
+              "The printer has no paper NoSuch. It can be: A4, A4.Fullbleed, Letter, "
+              "Letter.Fullbleed, "
+              "Legal, Executive, Folio, A5 and 40 more."},
         Fault{"DisabledSlider",
               {u"-o"_s, u"VKBrightness=3"_s},
               3,
@@ -397,7 +454,21 @@ INSTANTIATE_TEST_SUITE_P(
               {u"-o"_s, u"Duplex=DuplexNoTumble"_s, u"--paper"_s, u"A4.Fullbleed"_s},
               3,
               "The printer cannot print on both sides of this paper: A4 (Borderless)."},
-        Fault{"BadCopies", {u"-o"_s, u"copies=0"_s}, 2, "0 is no value for copies."},
+        Fault{
+            "BadCopies", {u"-n"_s, u"0"_s}, 2, "0 is no value for copies (-n). It can be: 1-999."},
+        Fault{"TooManyCopies",
+              {u"-o"_s, u"copies=99999"_s},
+              2,
+              "99999 is no value for copies (-n). It can be: 1-999."},
+        Fault{"OddNumberUp",
+              {u"-o"_s, u"number-up=7"_s},
+              2,
+              "7 is no value for number-up. It can be: 1, 2, 4, 6, 9, 16."},
+        Fault{"LateHold",
+              {u"-H"_s, u"25:00"_s},
+              2,
+              "25:00 is no value for job-hold-until (-H). It can be: no-hold, indefinite, "
+              "day-time, evening, night, second-shift, third-shift, weekend and 1 more."},
         Fault{"UnknownQueue",
               {u"--ppd"_s, u"/nonexistent.ppd"_s},
               2,

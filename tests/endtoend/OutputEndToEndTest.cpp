@@ -5,6 +5,7 @@
 #include "tests/support/Files.h"
 
 #include <QtCore/QTemporaryDir>
+#include <QtGui/QImage>
 
 #include <gtest/gtest.h>
 
@@ -199,8 +200,31 @@ TEST(StandardOutput, HasTheJobAloneAndTheReportIsOnStandardError)
             << done.output.toStdString();
         EXPECT_TRUE(done.output.endsWith(u"\nDocument: 5 own.ps\n\n%!PS\n"_s))
             << done.output.toStdString();
-        EXPECT_EQ(done.errors, u"The job was written to /dev/stdout.\n"_s);
+        EXPECT_EQ(done.errors, u"The job was written to standard output.\n"_s);
     }
+}
+
+/// The size of the picture of the dialog.
+QSize pictureAt(const char *scale)
+{
+    const QTemporaryDir folder;
+    const QString document = folder.filePath(u"own.ps"_s);
+    const QString picture = folder.filePath(u"own.png"_s);
+    writeFile(document, "%!PS\n");
+    qputenv("QT_SCALE_FACTOR", scale);
+    const ProgramRun done = runProgram(
+        {u"--ppd"_s, samplePPD(u"velkaro-px-t900"_s), u"--screenshot"_s, picture, document});
+    qunsetenv("QT_SCALE_FACTOR");
+    EXPECT_EQ(done.status, 0) << done.errors.toStdString();
+    return QImage(picture).size();
+}
+
+TEST(APicture, IsWholeAtEveryScale)
+{
+    const QSize once = pictureAt("1");
+    const QSize twice = pictureAt("2");
+    EXPECT_GE(twice.width(), 2 * once.width() - 20);
+    EXPECT_GE(twice.height(), 2 * once.height() - 20);
 }
 
 TEST(ASavedJob, ThatCanNeverBeSentIsSaidWhenItIsSaved)

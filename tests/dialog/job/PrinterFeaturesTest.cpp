@@ -131,7 +131,7 @@ INSTANTIATE_TEST_SUITE_P(
                     ValueOf{"Finisher", "Staple,Punch", "Staple, Punch & Fold"},
                     ValueOf{"Weight", "Custom.120", "Grams 120"},
                     ValueOf{"Stamp", R"({Text="a b" Angle=1.5 Offset=2})",
-                            "Words a b, Angle 1.5, Offset 2"},
+                            "Words a b, Angle 1.5, Offset 0.71 mm"},
                     ValueOf{"Hold", "Custom.1234", "Code ••••"}, ValueOf{"Weight", "Silk", "Silk"},
                     ValueOf{"Nothing", "x", "x"}));
 

@@ -94,7 +94,7 @@ TEST_F(Controller, MakesAllSettingsAndTellsTheFirstFault)
     int made = 0;
     EXPECT_EQ(
         controller().makeRequestedSettings([&](const RequestedChoice &) { ++made; }).sentence(),
-        u"Velvet is no value for Finish."_s);
+        u"Velvet is no value for Finish. It can be: Matt, Shiny."_s);
     EXPECT_EQ(made, 1);
     EXPECT_EQ(markedChoice(controller().job().ppd(), u"Finish"_s), u"Shiny"_s);
 }

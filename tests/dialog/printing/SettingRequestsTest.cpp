@@ -45,7 +45,9 @@ TEST_F(Requests, RefuseABadOrientationBeforeItChangesAnything)
     ASSERT_TRUE(make(u"orientation-requested"_s, u"landscape"_s));
     const Result<> made = make(u"orientation-requested"_s, u"sideways"_s);
     EXPECT_EQ(made.faultKind(), FaultKind::Request);
-    EXPECT_EQ(made.sentence(), u"sideways is no value for orientation-requested."_s);
+    EXPECT_EQ(made.sentence(),
+              u"sideways is no value for orientation-requested. It can be: portrait, landscape, 3, "
+              "4."_s);
     EXPECT_EQ(m_job.orientation(), PMOrientation::Landscape);
 }
 
@@ -57,7 +59,8 @@ TEST_F(Requests, TakeAScalingByItsNameAndByTheWordOfLp)
     EXPECT_EQ(m_job.settings().scaling, PrintScaling::Fit);
     const Result<> made = make(u"print-scaling"_s, u"large"_s);
     EXPECT_EQ(made.faultKind(), FaultKind::Request);
-    EXPECT_EQ(made.sentence(), u"large is no value for print-scaling."_s);
+    EXPECT_EQ(made.sentence(),
+              u"large is no value for print-scaling. It can be: auto, none, fit, fill."_s);
     EXPECT_EQ(m_job.settings().scaling, PrintScaling::Fit);
 }
 

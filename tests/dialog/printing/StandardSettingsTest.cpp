@@ -62,7 +62,11 @@ INSTANTIATE_TEST_SUITE_P(
                  {}},
         Standard{
             "OneSideWhichIsMarked", {u"sides"_s, u"one-sided"_s}, {{u"Duplex"_s, u"None"_s}}, {}},
-        Standard{"NoSides", {u"sides"_s, u"both"_s}, {}, u"both is no value for sides."_s},
+        Standard{"NoSides",
+                 {u"sides"_s, u"both"_s},
+                 {},
+                 u"both is no value for sides. It can be: one-sided, two-sided-long-edge, "
+                 "two-sided-short-edge."_s},
         Standard{"APaper", {u"media"_s, u"A5"_s}, {{u"PageSize"_s, u"A5"_s}}, {}},
         Standard{"APaperByItsStandardName",
                  {u"media"_s, u"iso_a4_210x297mm"_s},
@@ -72,15 +76,20 @@ INSTANTIATE_TEST_SUITE_P(
                  {u"media"_s, u"Custom.100x150mm"_s},
                  {{u"PageSize"_s, u"Custom.100x150mm"_s}},
                  {}},
-        Standard{"NoPaper", {u"media"_s, u"B9"_s}, {}, u"B9 is no value for media."_s},
+        Standard{"NoPaper",
+                 {u"media"_s, u"B9"_s},
+                 {},
+                 u"B9 is no value for media. It can be: A4, A5."_s},
         Standard{
             "AQuality", {u"print-quality"_s, u"5"_s}, {{u"cupsPrintQuality"_s, u"High"_s}}, {}},
         Standard{"TheQualityThatIsMarked",
                  {u"print-quality"_s, u"3"_s},
                  {{u"cupsPrintQuality"_s, u"Draft"_s}},
                  {}},
-        Standard{
-            "NoQuality", {u"print-quality"_s, u"9"_s}, {}, u"9 is no value for print-quality."_s},
+        Standard{"NoQuality",
+                 {u"print-quality"_s, u"9"_s},
+                 {},
+                 u"9 is no value for print-quality. It can be: 3, 4, 5."_s},
         Standard{"AnotherName", {u"Finish"_s, u"Shiny"_s}, {{u"Finish"_s, u"Shiny"_s}}, {}}),
     CaseName());
 

@@ -41,6 +41,9 @@ INSTANTIATE_TEST_SUITE_P(
         Refused{"FlagWithValue", {u"--yes=1"_s}, "--yes takes no value."},
         Refused{
             "ChoiceWithoutEquals", {u"-o"_s, u"Glossy"_s}, "-o needs KEY=VALUE, not \"Glossy\"."},
+        Refused{"TextWithoutEquals",
+                {u"-o"_s, u"Glossy paper"_s},
+                "-o needs KEY=VALUE, not \"Glossy paper\"."},
         Refused{"ChoiceWithoutKey", {u"-o"_s, u"=x"_s}, "-o needs KEY=VALUE, not \"=x\"."},
         Refused{"ChoiceWithoutValue", {u"-o"_s, u"x="_s}, "-o needs KEY=VALUE, not \"x=\"."},
         Refused{"EmptyInstance", {u"-d"_s, u"q/"_s}, "\"q/\" is not the name of a queue."},
@@ -100,6 +103,8 @@ INSTANTIATE_TEST_SUITE_P(
         Refused{"PictureOfNoDialog",
                 {u"--no-dialog"_s, u"--screenshot=a.png"_s, u"a.pdf"_s},
                 "--no-dialog and --screenshot do not go together."},
+        Refused{
+            "StandardInputTwice", {u"-"_s, u"-"_s}, "Standard input, -, may be given only once."},
         Refused{"YesInTheDialog", {u"--yes"_s, u"a.pdf"_s}, "--yes is for --no-dialog."},
         Refused{"WaitInTheDialog",
                 {u"--wait"_s, u"a.pdf"_s},
@@ -167,6 +172,17 @@ TEST(CommandLine, TakesTheOptionsOfLp)
     };
     EXPECT_EQ(hold(u"hold"_s), u"indefinite"_s);
     EXPECT_EQ(hold(u"23:30"_s), u"23:30"_s);
+}
+
+TEST(CommandLine, TakesSeveralSettingsInOneOption)
+{
+    const CommandLine line =
+        *parseCommandLine({u"-o"_s, u"A=b landscape C='d e'"_s, u"-o"_s, u"F=Custom.g h"_s});
+    EXPECT_EQ(line.choices, (QList<RequestedChoice>{{u"A"_s, u"b"_s},
+                                                    {u"C"_s, u"d e"_s},
+                                                    {u"landscape"_s, u"true"_s},
+                                                    {u"F"_s, u"Custom.g h"_s}}))
+        << "libcups has those of one option in the order of their names";
 }
 
 TEST(CommandLine, TakesAPPDToCheckWithAPlugIn)

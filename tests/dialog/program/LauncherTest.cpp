@@ -267,6 +267,22 @@ TEST(Launcher, SaysSoWhenStandardOutputTakesNothing)
         }
 }
 
+TEST(Launcher, SaysOnStandardErrorWhatStandardOutputDoesNotTake)
+{
+    const QTemporaryDir folder;
+    const QString document = folder.filePath(u"the.ps"_s);
+    writeFile(document, "%!PS\n");
+    const LauncherOutcome result = runProgram(
+        u"sh"_s, {u"-c"_s, u"exec \"$0\" \"$@\" >/dev/full"_s, QStringLiteral(PROGRAM),
+                  u"--no-dialog"_s, u"--dry-run"_s, u"--ppd"_s, samplePPD(u"velkaro-px-t900"_s),
+                  u"--output"_s, u"/dev/null"_s, document});
+    EXPECT_EQ(result.status, 5);
+    EXPECT_EQ(result.error.rfind("velkaro-print: Standard output cannot be written: ", 0), 0u)
+        << result.error;
+    EXPECT_THAT(result.error,
+                testing::HasSubstr("\nvelkaro-print: The job would be written to /dev/null.\n"));
+}
+
 TEST(Launcher, SaysInTheUsersLanguageThatStandardOutputTakesNothing)
 {
     const LauncherOutcome result =

@@ -93,7 +93,7 @@ const WhyCase kWhyCases[] = {
     {"ForAnotherSettingThatThePrinterLacks",
      {u"-o"_s, u"VKBiDir=Maybe"_s, u"--why"_s, u"VKBiDir=ON"_s},
      u"en"_s,
-     {2, {}, u"velkaro-print: Maybe is no value for VKBiDir.\n"_s}},
+     {2, {}, u"velkaro-print: Maybe is no value for VKBiDir. It can be: OFF, ON.\n"_s}},
 };
 
 INSTANTIATE_TEST_SUITE_P(, WhyProgram, testing::ValuesIn(kWhyCases), CaseName());

@@ -123,14 +123,15 @@ TEST_F(FeaturesOf, EveryKindReachTheJobAndTheSummary)
     EXPECT_EQ(notice(), QString());
 
     const QStringList texts = summary();
-    for (const QString &text : {u"Staple, Punch & Fold"_s, u"Yes"_s, u"Grams 120"_s,
-                                u"Words Top \"secret\", Angle -12.5, Offset 7"_s, u"Code ••••"_s})
+    for (const QString &text :
+         {u"Staple, Punch & Fold"_s, u"Yes"_s, u"Grams 120"_s,
+          u"Words Top \"secret\", Angle -12.5, Offset 7 mm"_s, u"Code ••••"_s})
         EXPECT_TRUE(texts.contains(text)) << text.toStdString();
 
     const QStringList options = printedOptions();
     for (const QString &option :
          {u"Finisher=Staple,Punch"_s, u"Jog=True"_s, u"Weight=Custom.120"_s,
-          uR"(Stamp={Text="Top \"secret\"" Angle=-12.5 Offset=7})"_s, u"Hold=Custom.0123"_s})
+          uR"(Stamp={Text="Top \"secret\"" Angle=-12.5 Offset=19.8425})"_s, u"Hold=Custom.0123"_s})
         EXPECT_TRUE(options.contains(option)) << options.join(u'\n').toStdString();
 }
 
@@ -204,7 +205,8 @@ TEST_F(FeaturesOf, AnotherPrinterAreNoSettingsOutOfTheirLimits)
 {
     m_line.choices = {{u"Weight"_s, u"Custom.301"_s}};
     openFeatures();
-    EXPECT_EQ(m_window->settingState().sentence(), u"Custom.301 is no value for Weight."_s);
+    EXPECT_EQ(m_window->settingState().sentence(),
+              u"Custom.301 is no value for Weight. It can be: Light, Heavy, Custom."_s);
     EXPECT_EQ(marked(u"Weight"_s), u"Light"_s);
 }
 

@@ -105,7 +105,7 @@ INSTANTIATE_TEST_SUITE_P(
               u"Section: Color Enhancement"_s, u"Color Enhancement"_s}},
         Walk{3,
              {u"Layout & Job"_s, u"Pages per Sheet:"_s, u"Booklet:"_s, u"Even and Odd:"_s,
-              u"Page Order:"_s, u"Several Copies:"_s, u"Job Title:"_s, u"Print It"_s,
+              u"Page Order:"_s, u"Several Copies:"_s, u"Job Title:"_s, u"When to Print"_s,
               u"Priority:"_s, u"Cover page before the job"_s, u"Cover page after the job"_s,
               u"Notification"_s}},
         Walk{4,

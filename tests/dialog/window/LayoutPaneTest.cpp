@@ -161,6 +161,14 @@ TEST_F(LayoutPart, IsNotLookedForByAWrongWord)
     EXPECT_EQ(m_window->outcome().sentence(), u"There is no panel foo."_s);
 }
 
+TEST_F(LayoutPart, IsSaidToBeMissingWhereThePrinterHasNothingForIt)
+{
+    m_line.panel = u"supplies"_s;
+    open();
+    EXPECT_TRUE(QTest::qWaitFor([this] { return !m_window->isVisible(); }));
+    EXPECT_EQ(m_window->outcome().sentence(), u"This printer has nothing for the part supplies."_s);
+}
+
 TEST_F(LayoutPart, SaysHowManyPagesThereAreAndWhatIsBeyond)
 {
     useDocument(5);
