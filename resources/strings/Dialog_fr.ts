@@ -442,6 +442,18 @@ Maj+F1 ou le menu contextuel dit pourquoi.</translation>
         <source>, </source>
         <translation>, </translation>
     </message>
+    <message>
+        <source>Print job %1 all the same?</source>
+        <translation>Imprimer quand même le travail %1 ?</translation>
+    </message>
+    <message>
+        <source>Cancel Job</source>
+        <translation>Annuler le travail</translation>
+    </message>
+    <message>
+        <source>Job %1 was cancelled.</source>
+        <translation>Le travail %1 a été annulé.</translation>
+    </message>
 </context>
 <context>
     <name>DialogTabs</name>
@@ -1009,6 +1021,14 @@ Maj+F1 ou le menu contextuel dit pourquoi.</translation>
         <source>Whether the server keeps all settings of job %1 is not known: its account of the job cannot be read.</source>
         <translation>On ignore si le serveur conserve tous les réglages du travail %1 : ses indications sur le travail sont illisibles.</translation>
     </message>
+    <message>
+        <source>The server set %1 to %2, where %3 was shown.</source>
+        <translation>Le serveur a donné à %1 la valeur %2, alors que %3 était affiché.</translation>
+    </message>
+    <message>
+        <source>The server set %1 to %2, which was not shown.</source>
+        <translation>Le serveur a donné à %1 la valeur %2, qui n’était pas affichée.</translation>
+    </message>
 </context>
 <context>
     <name>JobSentence</name>
@@ -1115,6 +1135,10 @@ Maj+F1 ou le menu contextuel dit pourquoi.</translation>
         <source>The print server %1 did not say whether it took the job: it may have been printed as job %2.</source>
         <translation>Le serveur d’impression %1 n’a pas indiqué s’il acceptait le travail : celui-ci a peut-être été imprimé comme travail %2.</translation>
     </message>
+    <message>
+        <source>The server holds job %1, which could not be released: %2</source>
+        <translation>Le serveur retient le travail %1, qui n’a pas pu être libéré : %2</translation>
+    </message>
 </context>
 <context>
     <name>JobSummary</name>
@@ -1181,6 +1205,17 @@ Maj+F1 ou le menu contextuel dit pourquoi.</translation>
     <message>
         <source>Also Sent</source>
         <translation>Également envoyé</translation>
+    </message>
+</context>
+<context>
+    <name>JobTrial</name>
+    <message>
+        <source>Job %1 is held on %2 and could not be released: %3</source>
+        <translation>Le travail %1 est retenu sur %2 et n’a pas pu être libéré : %3</translation>
+    </message>
+    <message>
+        <source>Job %1 is held on %2 and could not be cancelled: %3</source>
+        <translation>Le travail %1 est retenu sur %2 et n’a pas pu être annulé : %3</translation>
     </message>
 </context>
 <context>
@@ -1312,6 +1347,10 @@ Maj+F1 ou le menu contextuel dit pourquoi.</translation>
     <message>
         <source>The job would be written to %1.</source>
         <translation>Le travail serait écrit dans %1.</translation>
+    </message>
+    <message>
+        <source>Job %1 on %2 was cancelled; --yes prints it all the same.</source>
+        <translation>Le travail %1 sur %2 a été annulé ; --yes l’imprime quand même.</translation>
     </message>
 </context>
 <context>
@@ -1635,6 +1674,10 @@ Maj+F1 ou le menu contextuel dit pourquoi.</translation>
     <message>
         <source>The plug-in %1 cannot be used with this print dialog.</source>
         <translation>Le module %1 ne peut pas être utilisé avec cette boîte de dialogue d’impression.</translation>
+    </message>
+    <message>
+        <source>The plug-in cannot be used: %1 is no row of a keyword, a choice, a standard attribute and its value.</source>
+        <translation>Le module ne peut pas être utilisé : %1 n’est pas une ligne composée d’un mot-clé, d’un choix, d’un attribut standard et de sa valeur.</translation>
     </message>
 </context>
 <context>
