@@ -8,6 +8,14 @@ bool hasReason(ipp_t *job, const char *reason)
     return reasons && ippContainsString(reasons, reason) != 0;
 }
 
+bool isDone(ServerConnection &connection, ipp_op_t operation, const QString &queue, int jobId)
+{
+    if (!connection.isConnected())
+        return false;
+    connection.request(jobRequest(operation, queue, jobId), queueResource(queue));
+    return connection.succeeded();
+}
+
 } // namespace
 
 JobFate fateOf(ipp_t *job)
@@ -42,10 +50,12 @@ JobFate askFate(ServerConnection &connection, const QString &queue, int jobId)
     return job && connection.succeeded() ? fateOf(job.get()) : JobFate::Unknown;
 }
 
+bool releaseJob(ServerConnection &connection, const QString &queue, int jobId)
+{
+    return isDone(connection, IPP_OP_RELEASE_JOB, queue, jobId);
+}
+
 bool cancelJob(ServerConnection &connection, const QString &queue, int jobId)
 {
-    if (!connection.isConnected())
-        return false;
-    connection.request(jobRequest(IPP_OP_CANCEL_JOB, queue, jobId), queueResource(queue));
-    return connection.succeeded();
+    return isDone(connection, IPP_OP_CANCEL_JOB, queue, jobId);
 }

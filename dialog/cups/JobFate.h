@@ -17,5 +17,8 @@ JobFate fateOf(ipp_t *job);
 /// Asks the server for the job's fate.
 JobFate askFate(ServerConnection &connection, const QString &queue, int jobId);
 
+/// Lets the job go on that is held. False when the server did not do so.
+bool releaseJob(ServerConnection &connection, const QString &queue, int jobId);
+
 /// Cancels the job. False when the server did not do so.
 bool cancelJob(ServerConnection &connection, const QString &queue, int jobId);

@@ -22,6 +22,14 @@ Fault notCancelled(const QString &why, const QString &server, int id)
                 .arg(why, QString::number(id), server)};
 }
 
+/// It is as it was shown, and will not be printed by itself.
+QString notReleased(int id, const Fault &why)
+{
+    return QCoreApplication::translate("JobSettlement",
+                                       "The server holds job %1, which could not be released: %2")
+        .arg(QString::number(id), why.sentence);
+}
+
 /// Nothing half is printed: what the server has of the job is cancelled. It may be too late for
 /// that, where the server has got the whole job.
 Result<JobReceipt> cancel(const Fault &why, ServerConnection &connection, Sent sent,
@@ -74,7 +82,15 @@ std::optional<Result<JobReceipt>> lookForAnswer(ServerConnection &connection,
 JobReceipt accept(ServerConnection &connection, const JobRequest &request, JobProgress &progress)
 {
     progress.setAccepted();
-    return {progress.id(), readJobBack(connection, request.queue, progress.id(), request.options)};
+    JobReceipt receipt{progress.id(),
+                       readJobBack(connection, request.queue, progress.id(), request.options),
+                       request.isOnTrial};
+    if (receipt.isOnTrial && receipt.notes.isEmpty()) {
+        receipt.isOnTrial = !releaseJob(connection, request.queue, receipt.id);
+        if (receipt.isOnTrial)
+            receipt.notes += notReleased(receipt.id, connection.lastFault(request.queue));
+    }
+    return receipt;
 }
 
 Fault perhapsPrinted(const QString &server, int id)

@@ -9,7 +9,8 @@
 Result<JobReceipt> settle(const Fault &why, Sent sent, const JobRequest &request,
                           JobProgress &progress, CallGuard &guard);
 
-/// The server has taken the job: notes it, and reads the job back.
+/// The server has taken the job: notes it, reads the job back, and releases one that is on trial
+/// when it is as it was shown.
 JobReceipt accept(ServerConnection &connection, const JobRequest &request, JobProgress &progress);
 
 /// What is said of a job that may have been printed, or not.

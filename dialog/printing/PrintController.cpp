@@ -264,7 +264,7 @@ Result<FinishedJob> PrintController::finish()
         if (!agreed)
             return agreed.fault();
     }
-    const JobOptions options = m_job.options();
+    const JobOptions options = m_job.wholeOptions();
     if (!options.faults.isEmpty())
         return Fault{FaultKind::Vetoed, options.faults.constFirst()};
     FinishedJob finished{m_job.request(options.options),
@@ -281,6 +281,15 @@ std::shared_ptr<JobProgress> PrintController::send(const JobRequest &request, Th
         [request, progress](CallGuard &guard) { return submitJob(request, guard, progress); },
         std::move(then), [request, progress] { return givenUpReceipt(request, *progress); });
     return progress;
+}
+
+void PrintController::endTrial(const JobPlace &job, TrialVerdict verdict, Then<std::monostate> then)
+{
+    begin<Result<>>(
+        m_call, kServerTimeout,
+        [job, verdict](CallGuard &guard) { return ::endTrial(verdict, job, guard); },
+        std::move(then),
+        [job, verdict] { return Result<>(endlessTrial(verdict, job, silentServer(job.server))); });
 }
 
 std::shared_ptr<JobProgress> PrintController::write(const QString &path, const JobRequest &request,

@@ -57,9 +57,9 @@ TEST_P(AServerThatTakesJobs, IsTakenAtItsWord)
     EXPECT_EQ(server.requests(), GetParam().requests);
 }
 
-const QStringList kCreated{u"Create-Job"_s};
-const QStringList kCancelled{u"Create-Job"_s, u"Send-Document"_s, u"Cancel-Job"_s};
-const QStringList kAccepted{u"Create-Job"_s, u"Send-Document"_s, u"Get-Job-Attributes"_s};
+const QStringList kCreated = creatingJob();
+const QStringList kCancelled = creatingJob({u"Send-Document"_s, u"Cancel-Job"_s});
+const QStringList kAccepted = creatingJob({u"Send-Document"_s, u"Get-Job-Attributes"_s});
 
 constexpr auto kNonsense = "The answer of the print server %1 cannot be understood.";
 

@@ -85,7 +85,7 @@ TEST_P(JobWithALostAnswer, IsLookedForAndNeverSentAgain)
               QString::fromUtf8(row.sentence).replace(u"%1"_s, server.address()));
     EXPECT_EQ(progress->id(), kGoodJob);
     EXPECT_EQ(progress->isAccepted(), row.fault == std::nullopt);
-    EXPECT_EQ(server.requests(), QStringList({u"Create-Job"_s, u"Send-Document"_s}) + row.requests);
+    EXPECT_EQ(server.requests(), creatingJob({u"Send-Document"_s}) + row.requests);
 }
 
 const QString kLook = u"Get-Job-Attributes"_s;
@@ -197,8 +197,7 @@ TEST_F(LostAnswer, ToOneOfSeveralDocumentsLeavesAJobThatIsCancelled)
     request.documents.push_back(request.documents.front());
     const auto receipt = submitJob(request, m_guard);
     EXPECT_EQ(receipt.faultKind(), FaultKind::Unreachable);
-    EXPECT_EQ(server.requests(),
-              (QStringList{u"Create-Job"_s, u"Send-Document"_s, u"Cancel-Job"_s}));
+    EXPECT_EQ(server.requests(), creatingJob({u"Send-Document"_s, u"Cancel-Job"_s}));
 }
 
 // --- Cancelling, at any time ---------------------------------------------------------------------
@@ -237,24 +236,13 @@ TEST_P(JobThatIsCancelled, IsCancelledAtTheServerUntilItIsAccepted)
 
 INSTANTIATE_TEST_SUITE_P(
     Table, JobThatIsCancelled,
-    testing::Values(Cancelling{"WhileItIsSent",
-                               "Send-Document",
-                               1000,
-                               kLarge,
+    testing::Values(Cancelling{"WhileItIsSent", "Send-Document", 1000, kLarge, FaultKind::Cancelled,
+                               creatingJob({u"Send-Document"_s, u"Cancel-Job"_s})},
+                    Cancelling{"WhileTheLastAnswerIsWaitedFor", "Send-Document", kWhole, 100,
                                FaultKind::Cancelled,
-                               {u"Create-Job"_s, u"Send-Document"_s, u"Cancel-Job"_s}},
-                    Cancelling{"WhileTheLastAnswerIsWaitedFor",
-                               "Send-Document",
-                               kWhole,
-                               100,
-                               FaultKind::Cancelled,
-                               {u"Create-Job"_s, u"Send-Document"_s, u"Cancel-Job"_s}},
-                    Cancelling{"WhenItIsAccepted",
-                               "Get-Job-Attributes",
-                               kWhole,
-                               100,
-                               std::nullopt,
-                               {u"Create-Job"_s, u"Send-Document"_s, u"Get-Job-Attributes"_s}}),
+                               creatingJob({u"Send-Document"_s, u"Cancel-Job"_s})},
+                    Cancelling{"WhenItIsAccepted", "Get-Job-Attributes", kWhole, 100, std::nullopt,
+                               creatingJob({u"Send-Document"_s, u"Get-Job-Attributes"_s})}),
     [](const auto &row) { return std::string(row.param.name); });
 
 TEST_F(LostAnswer, OfAJobThatWasCancelledBeforeItsCreationIsNone)
@@ -282,8 +270,7 @@ TEST_P(JobWhoseDocumentBecomes, AnotherLengthIsCancelled)
     EXPECT_EQ(receipt.sentence(),
               u"The document %1 has become shorter or longer since it was opened."_s.arg(
                   request.documents[0].path()));
-    EXPECT_EQ(server.requests(),
-              (QStringList{u"Create-Job"_s, u"Send-Document"_s, u"Cancel-Job"_s}));
+    EXPECT_EQ(server.requests(), creatingJob({u"Send-Document"_s, u"Cancel-Job"_s}));
 }
 
 INSTANTIATE_TEST_SUITE_P(Sizes, JobWhoseDocumentBecomes,

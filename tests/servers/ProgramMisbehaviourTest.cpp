@@ -57,7 +57,7 @@ INSTANTIATE_TEST_SUITE_P(
                     0,
                     "request id is photo-7 (1 file(s))\n",
                     "",
-                    {kGet, u"Create-Job"_s, u"Send-Document"_s, u"Get-Job-Attributes"_s}},
+                    QStringList{kGet} + creatingJob({u"Send-Document"_s, u"Get-Job-Attributes"_s})},
         ProgramCase{"IsRedirected",
                     {{"GET", answerWith(httpAnswer("301 Moved Permanently",
                                                    "text/plain\r\nLocation: /other", "away"))}},
@@ -85,7 +85,7 @@ INSTANTIATE_TEST_SUITE_P(
             6,
             "",
             "velkaro-print: The print server %1 reports a fault: Disk full [31m<b>now</b>.\n",
-            {kGet, u"Create-Job"_s}},
+            QStringList{kGet} + creatingJob()},
         ProgramCase{
             "GetsAJobWithANegativeNumber",
             {{"Create-Job",
@@ -94,7 +94,7 @@ INSTANTIATE_TEST_SUITE_P(
             6,
             "",
             "velkaro-print: The answer of the print server %1 cannot be understood.\n",
-            {kGet, u"Create-Job"_s}},
+            QStringList{kGet} + creatingJob()},
         ProgramCase{"GetsNestedCollectionsForTheAcceptedJob",
                     {{"Get-Job-Attributes",
                       answerIpp(IppBytes().group(IPP_TAG_JOB).nested("x", 9000).ended())}},
@@ -102,7 +102,8 @@ INSTANTIATE_TEST_SUITE_P(
                     "request id is photo-7 (1 file(s))\n",
                     "velkaro-print: Whether the server keeps all settings of job 7 is not known: "
                     "its account of the job cannot be read.\n",
-                    {kGet, u"Create-Job"_s, u"Send-Document"_s, u"Get-Job-Attributes"_s}}),
+                    QStringList{kGet} +
+                        creatingJob({u"Send-Document"_s, u"Get-Job-Attributes"_s})}),
     CaseName());
 
 } // namespace
