@@ -103,6 +103,18 @@ void PrintServer::stop()
     m_process.waitForFinished(kTimeout);
 }
 
+bool PrintServer::restart()
+{
+    stop();
+    return start();
+}
+
+qsizetype PrintServer::countOf(const QByteArray &operation) const
+{
+    QFile log(folder() + u"/log/access"_s);
+    return log.open(QIODevice::ReadOnly) ? log.readAll().count(' ' + operation + ' ') : 0;
+}
+
 // The kernel goes on taking connections for a process that is stopped.
 void PrintServer::holdAnswers()
 {
@@ -145,7 +157,7 @@ bool PrintServer::writeConfiguration()
                                                                          groupName());
     const QString rules =
         u"Listen 127.0.0.1:%1\nListen %2\nBrowsing Off\nWebInterface "
-        u"No\nLogLevel debug\n"
+        u"No\nLogLevel debug\nAccessLogLevel all\n"
         "DefaultAuthType None\nPreserveJobHistory Yes\nPreserveJobFiles Yes\nMaxJobs 0\n"
         "<Location />\nOrder allow,deny\nAllow all\n%3\n</Location>\n"
         "<Policy default>\nJobPrivateAccess all\nJobPrivateValues none\n"

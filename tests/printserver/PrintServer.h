@@ -55,8 +55,14 @@ public:
     void holdAnswers();
     void giveAnswers();
 
-    /// Ends the server; the object can be asked no more.
+    /// Ends the server; the object can be asked no more, until restart().
     void stop();
+
+    /// Starts it again as it was, with its queues and jobs. False when it does not start.
+    bool restart();
+
+    /// How often the server was sent the IPP operation, by its own log.
+    qsizetype countOf(const QByteArray &operation) const;
 
 private:
     bool writeConfiguration();
