@@ -1259,6 +1259,10 @@ Umschalt+F1 oder das Kontextmenü sagt, warum.</translation>
         <source>Close</source>
         <translation>Schließen</translation>
     </message>
+    <message>
+        <source>Open Queue</source>
+        <translation>Warteschlange öffnen</translation>
+    </message>
 </context>
 <context>
     <name>LayoutPane</name>

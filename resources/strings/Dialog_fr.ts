@@ -1259,6 +1259,10 @@ Maj+F1 ou le menu contextuel dit pourquoi.</translation>
         <source>Close</source>
         <translation>Fermer</translation>
     </message>
+    <message>
+        <source>Open Queue</source>
+        <translation>Ouvrir la file d’attente</translation>
+    </message>
 </context>
 <context>
     <name>LayoutPane</name>

@@ -1259,6 +1259,10 @@ Shift+F1 or the context menu tells why.</source>
         <source>Close</source>
         <translation>閉じる</translation>
     </message>
+    <message>
+        <source>Open Queue</source>
+        <translation>キューを開く</translation>
+    </message>
 </context>
 <context>
     <name>LayoutPane</name>
