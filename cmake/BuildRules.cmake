@@ -15,6 +15,10 @@ if(NOT CMAKE_BUILD_TYPE)
     set(CMAKE_BUILD_TYPE Release)
 endif()
 
+# Most of the code runs once: what counts is how much of it there is to read and to build. The filters
+# of images are no faster with more.
+set(CMAKE_CXX_FLAGS_RELEASE "-O2 -DNDEBUG")
+
 include(cmake/Hardening.cmake)
 
 set(VELKARO_PRIVATE_DIR ${CMAKE_INSTALL_LIBDIR}/velkaro-print)

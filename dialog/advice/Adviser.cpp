@@ -45,11 +45,9 @@ Adviser::Adviser(QObject *parent) : QObject(parent)
 
 Adviser::~Adviser()
 {
-    if (!m_process)
-        return;
-    m_process->disconnect(this);
-    m_process->kill();
-    m_process->waitForFinished();
+    endProcess();
+    for (auto *process : findChildren<QProcess *>()) // one that was ended before, too
+        process->waitForFinished();
 }
 
 void Adviser::follow(HostSession &session)

@@ -8,8 +8,10 @@
 #include "dialog/printing/PrintJob.h"
 #include "dialog/printing/SettingRequests.h"
 #include "dialog/work/ProcessCopy.h"
+#include "dialog/work/Sentences.h"
 #include "platform/foundation/Bundle.h"
 #include "platform/foundation/UserDefaults.h"
+#include "platform/pde/PDEStringKeys.h"
 #include "platform/ppd/PPDText.h"
 #include "platform/toolkit/PlainText.h"
 
@@ -41,11 +43,30 @@ void keepDefaultsInMemory(const HostSession &session)
         defaults.setPersistentDomain(memory, session.bundle()->bundleIdentifier());
 }
 
+/// What the bundle says of the choice in a sentence of its own; null: nothing.
+QString sentenceOfBundle(const HostSession &session, const PPDMark &wanted)
+{
+    if (!session.bundle())
+        return {};
+    const QString key = pdeWhyNotKey(wanted.keyword, wanted.choice);
+    const QString text = session.bundle()->localizedString(key);
+    return text == key ? QString() : displayText(text);
+}
+
+QString sentenceOn(const HostSession &session, const Advice &advice)
+{
+    QStringList sentences{adviceSentence(session.ppd(), advice)};
+    const QString own = sentenceOfBundle(session, {advice.keyword, advice.choice});
+    if (advice.outcome != Advice::Outcome::Available && !own.isEmpty())
+        sentences.prepend(endedLikeASentence(own));
+    return joinedSentences(sentences);
+}
+
 QByteArray lineOfAdvice(const HostSession &session, const PPDMark &wanted, Advice::Outcome outcome,
                         const QList<Remedy> &remedies)
 {
     Advice advice{wanted.keyword, wanted.choice, outcome, remedies, {}};
-    advice.sentence = adviceSentence(session.ppd(), advice);
+    advice.sentence = sentenceOn(session, advice);
     return QJsonDocument(adviceMessage(advice)).toJson(QJsonDocument::Compact);
 }
 

@@ -14,6 +14,7 @@
 #include "platform/toolkit/RadioMatrix.h"
 #include "platform/toolkit/ViewLoader.h"
 
+#include <QtCore/QSet>
 #include <QtWidgets/QAbstractButton>
 
 #include <algorithm>
@@ -171,17 +172,30 @@ QList<PPDMark> possibleChanges(const PrintJob &job)
     return Collector(job).collect();
 }
 
+QStringList pickable(const PrintJob &job, const QString &keyword, const QStringList &choices)
+{
+    const auto allIf = [&](bool canBeSet) { return canBeSet ? choices : QStringList(); };
+    if (const FractionSlider *slider = sliderOfSetting(*job.session(), keyword))
+        return allIf(slider->isEnabled());
+    const HostPanel *panel = panelWithControl(job, keyword);
+    if (!panel)
+        return allowed(job.ppd(), keyword, choices);
+    const QWidget *control = controlOf(*panel, keyword);
+    if (qobject_cast<const QAbstractButton *>(control))
+        return allIf(canBeUsed(*control));
+    const QStringList items = offeredBy(*control, *panel->controls, keyword, job.ppd());
+    const QSet<QString> offered(items.cbegin(), items.cend());
+    const ChoiceForms forms = job.session()->choiceForms();
+    QStringList offeredChoices = choices;
+    offeredChoices.removeIf([&](const QString &choice) {
+        const QStringList all = forms.formsOf(keyword, choice);
+        return std::ranges::none_of(all,
+                                    [&](const QString &form) { return offered.contains(form); });
+    });
+    return offeredChoices;
+}
+
 bool canBePicked(const PrintJob &job, const PPDMark &choice)
 {
-    if (const FractionSlider *slider = sliderOfSetting(*job.session(), choice.keyword))
-        return slider->isEnabled();
-    const HostPanel *panel = panelWithControl(job, choice.keyword);
-    if (!panel)
-        return !allowed(job.ppd(), choice.keyword, {choice.choice}).isEmpty();
-    const QWidget *control = controlOf(*panel, choice.keyword);
-    if (qobject_cast<const QAbstractButton *>(control))
-        return canBeUsed(*control);
-    const QStringList offered = offeredBy(*control, *panel->controls, choice.keyword, job.ppd());
-    const QStringList forms = job.session()->choiceForms().formsOf(choice.keyword, choice.choice);
-    return std::ranges::any_of(forms, [&](const QString &form) { return offered.contains(form); });
+    return !pickable(job, choice.keyword, {choice.choice}).isEmpty();
 }

@@ -3,6 +3,7 @@
 #include "dialog/host/PPDMarks.h"
 
 #include <QtCore/QList>
+#include <QtCore/QStringList>
 
 class PrintJob;
 
@@ -10,6 +11,9 @@ class PrintJob;
 /// (filled, not hidden, not switched off), in the page setup, and in what is left to the dialog.
 /// Settings that few choices are of come before the papers.
 QList<PPDMark> possibleChanges(const PrintJob &job);
+
+/// Those of the keyword's choices that could be picked now.
+QStringList pickable(const PrintJob &job, const QString &keyword, const QStringList &choices);
 
 /// Whether the choice could be picked now.
 bool canBePicked(const PrintJob &job, const PPDMark &choice);

@@ -35,7 +35,8 @@ struct Advice
     /// The smallest first, and of those the one that changes least besides; none but where the
     /// outcome is Possible.
     QList<Remedy> remedies;
-    /// All of it in the printer's words, plain text.
+    /// All of it in the printer's words, plain text; what the bundle has to say of the choice comes
+    /// first.
     QString sentence;
 
     bool operator==(const Advice &) const = default;

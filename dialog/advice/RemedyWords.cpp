@@ -4,7 +4,10 @@
 #include "platform/ppd/PPDText.h"
 
 #include <QtCore/QCoreApplication>
+#include <QtCore/QHash>
 
+#include <algorithm>
+#include <array>
 #include <span>
 
 using namespace Qt::StringLiterals;
@@ -46,15 +49,37 @@ QString joined(const QStringList &names)
     return words;
 }
 
-/// The list as a sentence has it: a long one is cut.
-QString shortList(const QStringList &names)
+/// What is done with a setting to make it so.
+enum Step { Use, TurnOn, TurnOff };
+
+// Indexed by Step.
+using StepTexts = std::array<const char *, 3>;
+constexpr StepTexts kLastSteps{QT_TRANSLATE_NOOP("RemedyWords", "use %1"),
+                               QT_TRANSLATE_NOOP("RemedyWords", "turn on %1"),
+                               QT_TRANSLATE_NOOP("RemedyWords", "turn off %1")};
+// %2 is what is done next.
+constexpr StepTexts kStepsBefore{QT_TRANSLATE_NOOP("RemedyWords", "use %1 and %2"),
+                                 QT_TRANSLATE_NOOP("RemedyWords", "turn on %1 and %2"),
+                                 QT_TRANSLATE_NOOP("RemedyWords", "turn off %1 and %2")};
+
+/// Names of choices are words of the PPD's language, whatever their texts are.
+Step stepTo(const QString &choice)
 {
-    if (names.size() <= kLongestList)
-        return joined(names);
-    const QString named =
-        names.first(kNamedOfMore).join(QCoreApplication::translate("RemedyWords", ", "));
-    return QCoreApplication::translate("RemedyWords", "%1 and %2 more")
-        .arg(named, QString::number(names.size() - kNamedOfMore));
+    constexpr auto isOneOf = [](const QString &name, const auto &names) {
+        return std::ranges::any_of(names, [&](QLatin1String one) { return isSameName(name, one); });
+    };
+    if (isOneOf(choice, std::array{"On"_L1, "True"_L1, "Yes"_L1}))
+        return TurnOn;
+    return isOneOf(choice, std::array{"Off"_L1, "None"_L1, "False"_L1, "No"_L1}) ? TurnOff : Use;
+}
+
+/// A place for what is done next stays as it is.
+QString stepWords(ppd_file_t *ppd, const PPDMark &mark, const StepTexts &texts)
+{
+    const Step step = stepTo(mark.choice);
+    const QString pattern = QCoreApplication::translate("RemedyWords", texts[step]);
+    return pattern.arg(step == Use ? nameOfChoice(ppd, mark.keyword, mark.choice)
+                                   : settingTitle(ppd, mark.keyword));
 }
 
 QStringList namesOf(ppd_file_t *ppd, const Remedy &remedy, QString SettingChange::*choice)
@@ -69,7 +94,9 @@ QStringList namesOf(ppd_file_t *ppd, const Remedy &remedy, QString SettingChange
 QString possibleSentence(ppd_file_t *ppd, const Advice &advice, const QString &wanted)
 {
     const Remedy &best = advice.remedies.constFirst();
-    const QStringList givers = choicesThatGive(ppd, advice);
+    QStringList givers;
+    for (const Remedy &remedy : remediesOfOneSetting(ppd, advice))
+        givers += remedyWords(ppd, remedy);
     const QString obstacles = joined(namesOf(ppd, best, &SettingChange::from));
     if (obstacles.isEmpty())
         return QCoreApplication::translate("RemedyWords", "%1 is there for %2.")
@@ -115,27 +142,50 @@ QString adviceSentence(ppd_file_t *ppd, const Advice &advice)
         .arg(wanted);
 }
 
-QStringList choicesThatGive(ppd_file_t *ppd, const Advice &advice)
+QList<Remedy> remediesOfOneSetting(ppd_file_t *ppd, const Advice &advice)
 {
-    QStringList names;
     const Remedy best = advice.remedies.value(0);
     if (best.changes.size() != 1)
-        return names;
+        return {};
     const SettingChange &first = best.changes.constFirst();
-    names += nameOfChoice(ppd, first.keyword, first.to);
-    QStringList givers;
+    QHash<QString, Remedy> others;
     for (const Remedy &remedy : advice.remedies)
-        if (remedy.changes.constFirst().keyword == first.keyword)
-            givers += remedy.changes.constFirst().to;
+        if (const SettingChange &change = remedy.changes.constFirst();
+            change.keyword == first.keyword && change.to != first.to)
+            others.insert(change.to, remedy);
+    QList<Remedy> remedies{best};
     const ppd_option_t *option = findOption(ppd, first.keyword);
     for (int index = 0; option && index < option->num_choices; ++index)
-        if (const QString choice = ppdName(option->choices[index].choice);
-            choice != first.to && givers.contains(choice))
-            names += nameOfChoice(ppd, first.keyword, choice);
-    return names;
+        if (const auto other = others.constFind(ppdName(option->choices[index].choice));
+            other != others.cend())
+            remedies += *other;
+    return remedies;
+}
+
+QString shortList(const QStringList &names)
+{
+    if (!isListCut(names.size()))
+        return joined(names);
+    const QString named =
+        names.first(kNamedOfMore).join(QCoreApplication::translate("RemedyWords", ", "));
+    return QCoreApplication::translate("RemedyWords", "%1 and %2 more")
+        .arg(named, QString::number(names.size() - kNamedOfMore));
+}
+
+bool isListCut(qsizetype length)
+{
+    return length > kLongestList;
 }
 
 QString remedyWords(ppd_file_t *ppd, const Remedy &remedy)
 {
     return joined(namesOf(ppd, remedy, &SettingChange::to));
+}
+
+QString remedyTitle(ppd_file_t *ppd, const Remedy &remedy, const PPDMark &wanted)
+{
+    QString title = stepWords(ppd, wanted, kLastSteps);
+    for (auto change = remedy.changes.crbegin(); change != remedy.changes.crend(); ++change)
+        title = stepWords(ppd, {change->keyword, change->to}, kStepsBefore).arg(title);
+    return title.left(1).toUpper() + title.mid(1);
 }

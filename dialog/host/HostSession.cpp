@@ -39,6 +39,8 @@ std::unique_ptr<HostSession> HostSession::open(const SessionOptions &options, Op
     session->m_ppdText = std::move(ppd.text);
     session->m_plugIn = options.bundlePath.isNull() ? loadPlugInFor(session->ppd(), options.info)
                                                     : loadPlugIn(options.bundlePath, options.info);
+    session->m_choiceForms = ChoiceForms(session->infoValue(kPDEChoiceFormsKey).toMap());
+    session->m_paperAdvice = ::paperAdvice(session->infoValue(kPDEPaperAdviceKey).toList());
     session->prepareCallback();
     return session;
 }
@@ -200,20 +202,10 @@ QStringList HostSession::foldStateKeys() const
     return infoValue(kPDEFoldStateKeysKey).toStringList();
 }
 
-ChoiceForms HostSession::choiceForms() const
-{
-    return ChoiceForms(infoValue(kPDEChoiceFormsKey).toMap());
-}
-
 std::optional<QStringList> HostSession::twoSidedPapers() const
 {
     const QVariant papers = infoValue(kPDETwoSidedPapersKey);
     return papers.isValid() ? std::optional(papers.toStringList()) : std::nullopt;
-}
-
-QList<PaperAdvice> HostSession::paperAdvice() const
-{
-    return ::paperAdvice(infoValue(kPDEPaperAdviceKey).toList());
 }
 
 QVariantMap HostSession::alertMemory() const

@@ -142,14 +142,14 @@ public:
     const Bundle *bundle() const { return m_plugIn.bundle.get(); }
 
     /// Which choices are forms of one another, as the plug-in says.
-    ChoiceForms choiceForms() const;
+    const ChoiceForms &choiceForms() const { return m_choiceForms; }
 
     /// The names of the papers that the printer takes on both sides, as the plug-in says; none when
     /// it says nothing of it.
     std::optional<QStringList> twoSidedPapers() const;
 
     /// What the plug-in advises for some papers.
-    QList<PaperAdvice> paperAdvice() const;
+    const QList<PaperAdvice> &paperAdvice() const { return m_paperAdvice; }
 
     /// The standard attributes that say the same as choices of the printer, as the plug-in says.
     const QList<AttributeRule> &attributeRules() const { return m_plugIn.attributeRules; }
@@ -212,6 +212,8 @@ private:
     std::shared_ptr<const FileDescriptor> m_ppdText;
     PPDHandle m_ppd; // outlives the panels, which read it
     PlugInLoad m_plugIn;
+    ChoiceForms m_choiceForms;
+    QList<PaperAdvice> m_paperAdvice;
     std::shared_ptr<HostCallback> m_callback;
     std::vector<HostPanel> m_panels;
     QHash<const PDEPanel *, QPointer<QWidget>> m_views; // that were taken from the panels

@@ -44,24 +44,31 @@ void mark(ppd_file_t *ppd, ppd_option_t &option, const ppd_choice_t &choice)
     ppdMarkOption(ppd, option.keyword, choice.choice);
 }
 
+/// Of an option that may have several marks.
+std::vector<const ppd_choice_t *> flaggedChoices(const ppd_option_t &option)
+{
+    std::vector<const ppd_choice_t *> flagged;
+    for (int index = 0; index < option.num_choices; ++index) {
+        if (option.choices[index].marked)
+            flagged.push_back(&option.choices[index]);
+    }
+    return flagged;
+}
+
 std::vector<const ppd_choice_t *> markedChoices(ppd_file_t *ppd, const ppd_option_t &option)
 {
-    std::vector<const ppd_choice_t *> marked;
-    for (int index = 0; option.ui == PPD_UI_PICKMANY && index < option.num_choices; ++index) {
-        if (option.choices[index].marked)
-            marked.push_back(&option.choices[index]);
-    }
+    if (option.ui == PPD_UI_PICKMANY)
+        return flaggedChoices(option);
     const ppd_choice_t *single = ppdFindMarkedChoice(ppd, option.keyword);
-    if (option.ui != PPD_UI_PICKMANY && single)
-        marked.push_back(single);
-    return marked;
+    return single ? std::vector{single} : std::vector<const ppd_choice_t *>();
 }
 
 /// As a PPDMark holds it; `choice` is one that is marked.
 QString textOf(ppd_file_t *ppd, const ppd_option_t &option, const ppd_choice_t &choice)
 {
-    const auto several = markedChoices(ppd, option);
-    if (option.ui == PPD_UI_PICKMANY && several.size() > 1) {
+    const auto several =
+        option.ui == PPD_UI_PICKMANY ? flaggedChoices(option) : std::vector<const ppd_choice_t *>();
+    if (several.size() > 1) {
         QStringList names;
         for (const ppd_choice_t *one : several)
             names += ppdName(one->choice);
@@ -136,8 +143,9 @@ void addMarks(ppd_file_t *ppd, ppd_group_t *groups, int count, QList<PPDMark> &m
         for (int index = 0; index < groups[group].num_options; ++index) {
             const ppd_option_t &option = groups[group].options[index];
             const bool isFound = ppdFindOption(ppd, option.keyword) == &option;
-            const ppd_choice_t *choice = ppdFindMarkedChoice(ppd, option.keyword);
-            if (isFound && choice && qstricmp(option.keyword, "PageRegion") != 0)
+            const ppd_choice_t *choice =
+                isFound ? ppdFindMarkedChoice(ppd, option.keyword) : nullptr;
+            if (choice && qstricmp(option.keyword, "PageRegion") != 0)
                 marks += PPDMark{ppdName(option.keyword), textOf(ppd, option, *choice)};
         }
         addMarks(ppd, groups[group].subgroups, groups[group].num_subgroups, marks);

@@ -1,6 +1,6 @@
 #include "dialog/host/PaperAdvice.h"
 
-#include <QtCore/QRegularExpression>
+#include <fnmatch.h>
 
 #include <algorithm>
 
@@ -9,9 +9,7 @@ using namespace Qt::StringLiterals;
 bool PaperAdvice::isFor(const QString &paper) const
 {
     return std::ranges::any_of(papers, [&](const QString &pattern) {
-        return QRegularExpression(QRegularExpression::wildcardToRegularExpression(pattern))
-            .match(paper)
-            .hasMatch();
+        return fnmatch(pattern.toUtf8().constData(), paper.toUtf8().constData(), 0) == 0;
     });
 }
 

@@ -105,14 +105,24 @@ QString ownBundlePath()
     return plugInsFolder() + u'/' + QLatin1String(VELKARO_OWN_BUNDLE);
 }
 
+// Filters of names would have the toolkit load all that regular expressions need.
+QStringList bundlesIn(const QString &folder)
+{
+    const QDir bundles(folder);
+    QStringList paths;
+    for (const QString &name : bundles.entryList(QDir::Dirs, QDir::Name))
+        if (name.endsWith(".bundle"_L1, Qt::CaseInsensitive))
+            paths += bundles.absoluteFilePath(name);
+    return paths;
+}
+
 BundleChoice chooseBundle(const QString &folder, const PrinterFacts &facts)
 {
     using enum PlugInFaultReason;
-    const QDir bundles(folder);
     QList<BundleCandidate> candidates;
     QStringList unreadable;
-    for (const QString &name : bundles.entryList({u"*.bundle"_s}, QDir::Dirs, QDir::Name)) {
-        const auto bundle = Bundle::open(bundles.absoluteFilePath(name));
+    for (const QString &path : bundlesIn(folder)) {
+        const auto bundle = Bundle::open(path);
         if (bundle->infoDictionary())
             candidates += {bundle->bundlePath(), bundle->infoValue(kPDEPrintersKey)};
         else

@@ -5,6 +5,7 @@
 #include "dialog/host/PrinterMatch.h"
 
 #include <QtCore/QString>
+#include <QtCore/QStringList>
 #include <QtCore/QVariant>
 
 #include <memory>
@@ -29,6 +30,9 @@ struct PlugInLoad
 
 /// Where bundles are installed, as seen from the program.
 QString plugInsFolder();
+
+/// The paths of the folder's bundles, by name.
+QStringList bundlesIn(const QString &folder);
 
 /// The bundle that the program comes with; it need not be there.
 QString ownBundlePath();

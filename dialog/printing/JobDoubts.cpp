@@ -57,12 +57,12 @@ bool isOnOneSidedPaper(const PrintJob &job)
     return papers && isTwoSided(job) && !sheetOf(job).isNull() && !papers->contains(sheetOf(job));
 }
 
-QStringList doubtsOf(const PrintJob &job)
+QStringList doubtsOf(const PrintJob &job, const SettingState &state)
 {
     QStringList doubts;
     if (!job.session())
         return doubts;
-    const auto unlike = unlikeShown(settingState(job), job.session()->choiceForms());
+    const auto unlike = unlikeShown(state, job.session()->choiceForms());
     for (const SettingChange &change : unlike)
         doubts += replacementSentence(job.ppd(), change);
     if (const QString paper = oneSidedPaper(job); !paper.isNull())
@@ -70,13 +70,13 @@ QStringList doubtsOf(const PrintJob &job)
     return doubts;
 }
 
-QStringList replacedBySaving(const PrintJob &job, const SettingState &before)
+QStringList replacedBySaving(const PrintJob &job, const SettingState &before,
+                             const SettingState &after)
 {
     QStringList replaced;
     if (!job.session())
         return replaced;
-    const auto changes =
-        changesBetween(before.marks, settingState(job).marks, job.session()->choiceForms());
+    const auto changes = changesBetween(before.marks, after.marks, job.session()->choiceForms());
     for (const SettingChange &change : changes)
         if (wasMadeOrShown(job, before, change))
             replaced += replacementSentence(job.ppd(), change);
@@ -88,8 +88,7 @@ QList<JobAdvice> adviceFor(const PrintJob &job)
     QList<JobAdvice> found;
     if (!job.session())
         return found;
-    const QList<PaperAdvice> all = job.session()->paperAdvice();
-    for (const PaperAdvice &advice : all) {
+    for (const PaperAdvice &advice : job.session()->paperAdvice()) {
         const bool isKnown = findChoice(findOption(job.ppd(), advice.keyword), advice.choice);
         if (isKnown && advice.isFor(sheetOf(job)) &&
             !isSameName(markedChoice(job.ppd(), advice.keyword), advice.choice))

@@ -13,12 +13,12 @@ bool isOnOneSidedPaper(const PrintJob &job);
 
 /// What a person should know of a job before it leaves, one sentence each: what would be printed
 /// otherwise than it is shown, and a paper that the printer does not take for printing on both
-/// sides.
-QStringList doubtsOf(const PrintJob &job);
+/// sides. `state` is the job's as it is.
+QStringList doubtsOf(const PrintJob &job, const SettingState &state);
 
-/// What saving the panels has put in the place of choices that somebody made, or that were shown:
-/// `before` is the state before it.
-QStringList replacedBySaving(const PrintJob &job, const SettingState &before);
+/// What saving the panels has put in the place of choices that somebody made, or that were shown.
+QStringList replacedBySaving(const PrintJob &job, const SettingState &before,
+                             const SettingState &after);
 
 /// A choice that goes better with the job's paper than the present one.
 struct JobAdvice

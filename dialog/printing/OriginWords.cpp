@@ -1,6 +1,9 @@
 #include "dialog/printing/OriginWords.h"
 
 #include "dialog/printing/ChangeWords.h"
+#include "dialog/printing/PrintJob.h"
+#include "dialog/printing/SettingState.h"
+#include "dialog/printing/SettingValues.h"
 #include "platform/ppd/PPDText.h"
 #include "platform/toolkit/PlainText.h"
 
@@ -44,4 +47,13 @@ QString originWords(ppd_file_t *ppd, const SettingOrigin &origin)
         break;
     }
     return OriginWords::tr("The printer's default");
+}
+
+QString originLine(const PrintJob &job, const SettingOrigins &origins, const QString &keyword)
+{
+    ppd_file_t *ppd = job.ppd();
+    return OriginWords::tr("%1: %2 – %3")
+        .arg(settingTitle(ppd, keyword),
+             choiceWords(ppd, keyword, settingValues(job, settingState(job)).value(keyword)),
+             originWords(ppd, origins.originOf(keyword)));
 }

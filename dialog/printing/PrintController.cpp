@@ -43,6 +43,7 @@ PrintController::~PrintController()
     delete m_listing;
     delete m_sparing;
     delete m_covers;
+    delete m_asking;
 }
 
 /// Starts the work in place of the call's former one. A null `givenUp`: nobody gives it up. Whoever
@@ -230,6 +231,18 @@ void PrintController::listCoverPages(Then<QStringList> then)
         std::move(then), [source] { return Result<QStringList>(silentServer(source.server)); });
 }
 
+void PrintController::askCondition(Then<PrinterCondition> then)
+{
+    const PrinterSource source = m_job.source();
+    begin<Result<PrinterCondition>>(
+        m_asking, kServerTimeout,
+        [source](CallGuard &guard) {
+            return ::askCondition(source.server, source.queue.queue, guard);
+        },
+        std::move(then),
+        [source] { return Result<PrinterCondition>(silentServer(source.server)); });
+}
+
 NamedWishes PrintController::namedWishes() const
 {
     QList<RequestedChoice> wanted = m_wishes.choices;
@@ -267,8 +280,9 @@ Result<FinishedJob> PrintController::finish()
     const JobOptions options = m_job.wholeOptions();
     if (!options.faults.isEmpty())
         return Fault{FaultKind::Vetoed, options.faults.constFirst()};
+    const SettingState after = settingState(m_job);
     FinishedJob finished{m_job.request(options.options),
-                         replacedBySaving(m_job, before) + doubtsOf(m_job)};
+                         replacedBySaving(m_job, before, after) + doubtsOf(m_job, after)};
     finished.doubts.removeDuplicates();
     return finished;
 }
@@ -319,7 +333,7 @@ OutputTerms PrintController::outputTerms() const
 
 void PrintController::cancel()
 {
-    for (const QPointer<BackgroundCall> &call : {m_call, m_reading})
+    for (const QPointer<BackgroundCall> &call : {m_call, m_reading, m_asking})
         if (call)
             call->cancel();
 }

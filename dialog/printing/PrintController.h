@@ -3,6 +3,7 @@
 #include "dialog/cups/Destinations.h"
 #include "dialog/cups/JobSubmission.h"
 #include "dialog/cups/JobTrial.h"
+#include "dialog/cups/PrinterCondition.h"
 #include "dialog/files/OutputFile.h"
 #include "dialog/printing/PageCounter.h"
 #include "dialog/printing/PanelVeto.h"
@@ -111,6 +112,9 @@ public:
     /// Asks for the cover pages that the job's queue offers.
     void listCoverPages(Then<QStringList> then);
 
+    /// Asks how the printer of the job's queue is.
+    void askCondition(Then<PrinterCondition> then);
+
     /// The wished settings by the names of the printer.
     NamedWishes namedWishes() const;
 
@@ -168,5 +172,6 @@ private:
     QPointer<BackgroundCall> m_listing;
     QPointer<BackgroundCall> m_sparing;
     QPointer<BackgroundCall> m_covers;
+    QPointer<BackgroundCall> m_asking; ///< for the printer's condition
     PageCounter m_pages;
 };

@@ -66,10 +66,10 @@ SettingOrigin originOf(const PrinterSource &source, const JobOption &option,
 
 } // namespace
 
-SettingValues settingValues(const PrintJob &job)
+SettingValues settingValues(const PrintJob &job, const SettingState &state)
 {
     SettingValues values;
-    for (const PPDMark &mark : settingState(job).marks)
+    for (const PPDMark &mark : state.marks)
         values.insert(mark.keyword, mark.choice);
     addOwnSettings(values, job);
     if (job.session())

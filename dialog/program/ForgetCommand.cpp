@@ -8,25 +8,14 @@
 #include "platform/foundation/Bundle.h"
 
 #include <QtCore/QCoreApplication>
-#include <QtCore/QDir>
 
 namespace {
 
-QStringList bundlePaths(const CommandLine &line)
-{
-    if (!line.plugIn.isNull())
-        return {line.plugIn};
-    QStringList paths;
-    const QDir folder(plugInsFolder());
-    for (const QString &name :
-         folder.entryList({QStringLiteral("*.bundle")}, QDir::Dirs, QDir::Name))
-        paths += folder.absoluteFilePath(name);
-    return paths;
-}
-
 ExitStatus forgetAlerts(const CommandLine &line)
 {
-    for (const QString &path : bundlePaths(line)) {
+    const QStringList paths =
+        line.plugIn.isNull() ? bundlesIn(plugInsFolder()) : QStringList{line.plugIn};
+    for (const QString &path : paths) {
         const auto bundle = Bundle::open(path);
         if (bundle->bundleIdentifier().isNull() && !line.plugIn.isNull())
             return failWith(ExitStatus::PlugIn,

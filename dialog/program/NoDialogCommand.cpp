@@ -8,6 +8,7 @@
 #include "dialog/job/PageRanges.h"
 #include "dialog/printing/JobDoubts.h"
 #include "dialog/printing/PrintController.h"
+#include "dialog/printing/PrinterDoubts.h"
 #include "dialog/printing/SavedJob.h"
 #include "dialog/printing/ScriptedAnswers.h"
 #include "dialog/printing/SettingRequests.h"
@@ -82,6 +83,7 @@ private:
     void finish();
     void decide(const FinishedJob &finished);
     void deliver(const JobRequest &request);
+    void askPrinter(const JobRequest &request);
     void send(const JobRequest &request);
     void judge(const JobPlace &job, const QStringList &differences);
     void takeReceipt(const QString &queue, const JobReceipt &receipt);
@@ -248,10 +250,25 @@ void Run::deliver(const JobRequest &request)
 {
     if (!goOn({}))
         return;
-    if (m_line.output.isNull())
+    if (!m_line.output.isNull())
+        write(request);
+    else if (request.queue.isEmpty())
         send(request);
     else
-        write(request);
+        askPrinter(request);
+}
+
+/// What the printer lacks is told, and stops nothing; nor does one that cannot be asked.
+void Run::askPrinter(const JobRequest &request)
+{
+    m_controller.askCondition([this, request](const Result<PrinterCondition> &condition) {
+        if (!goOn({}))
+            return;
+        if (condition)
+            for (const QString &doubt : doubtsAboutPrinter(m_controller.job(), *condition))
+                warn(doubt);
+        send(request);
+    });
 }
 
 void Run::send(const JobRequest &request)

@@ -1,16 +1,19 @@
+#include "dialog/window/DialogAdvice.h"
+
 #include "dialog/advice/Adviser.h"
 #include "dialog/advice/RemedyWords.h"
 #include "dialog/host/HostSession.h"
 #include "dialog/printing/ChangeWords.h"
-#include "dialog/printing/PanelPicks.h"
-#include "dialog/printing/SettingRequests.h"
+#include "dialog/printing/OriginWords.h"
+#include "dialog/printing/PrintController.h"
 #include "dialog/window/DialogTabs.h"
-#include "dialog/window/DialogWindow.h"
+#include "dialog/window/ListAdvice.h"
 #include "dialog/window/MissingChoices.h"
-#include "dialog/window/PanelPane.h"
+#include "dialog/window/SessionUndo.h"
 #include "dialog/work/Sentences.h"
 #include "platform/toolkit/PlainLabel.h"
 #include "platform/toolkit/PlainText.h"
+#include "platform/toolkit/PopUpButton.h"
 
 #include <QtGui/QShortcut>
 #include <QtWidgets/QMenu>
@@ -22,45 +25,64 @@ namespace {
 constexpr qsizetype kMostRemedies = 2;   // as buttons
 constexpr qsizetype kMostQuestions = 24; // in one menu
 constexpr qsizetype kMostNames = 5;      // in a tip
-constexpr qsizetype kLongestTitle = 40;  // characters, of a button
-
-QString shortTitle(const QString &title)
-{
-    return title.size() > kLongestTitle ? title.left(kLongestTitle - 1).trimmed() + u'…' : title;
-}
 
 } // namespace
 
-void DialogWindow::connectAdvice()
+DialogAdvice::DialogAdvice(PrintController &controller, SessionUndo &undo, DialogTabs &tabs,
+                           QWidget &window)
+    : QObject(&window),
+      m_controller(controller),
+      m_undo(undo),
+      m_tabs(tabs),
+      m_window(window),
+      m_adviser(std::make_unique<Adviser>())
 {
-    m_controller.addSessionHook([this](HostSession &session) {
+    controller.addSessionHook([this](HostSession &session) {
         m_adviser->follow(session);
         return Result<>();
     });
-    connect(m_tabs, &DialogTabs::explanationWanted, this, &DialogWindow::offerQuestions);
-    connect(m_tabs, &DialogTabs::tipWanted, this, &DialogWindow::showMissing);
-    connect(new QShortcut(QKeySequence::WhatsThis, this), &QShortcut::activated, this, [this] {
-        QWidget *focus = focusWidget();
-        QWidget *shown = m_tabs->shownPart();
-        const bool isInPart = focus && shown && shown->isAncestorOf(focus);
-        const QWidget *beside = isInPart ? focus : shown;
-        if (beside)
-            offerQuestions(isInPart ? focus : nullptr,
-                           beside->mapToGlobal(beside->rect().bottomLeft()));
-    });
+    connect(&tabs, &DialogTabs::explanationWanted, this, &DialogAdvice::offerQuestions);
+    connect(&tabs, &DialogTabs::tipWanted, this, &DialogAdvice::showMissing);
+    connect(&tabs, &DialogTabs::listOpened, this, &DialogAdvice::openList);
+    connect(&tabs, &DialogTabs::listClosed, this, &DialogAdvice::closeList);
+    connect(new QShortcut(QKeySequence::WhatsThis, &window), &QShortcut::activated, this,
+            &DialogAdvice::askOfFocus);
+}
+
+DialogAdvice::~DialogAdvice() = default;
+
+PrintJob &DialogAdvice::job()
+{
+    return m_controller.job();
+}
+
+void DialogAdvice::askOfFocus()
+{
+    const QWidget *focus = m_window.focusWidget();
+    const QWidget *shown = m_tabs.shownPart();
+    const bool isInPart = focus && shown && shown->isAncestorOf(focus);
+    if (const QWidget *beside = isInPart ? focus : shown)
+        offerQuestions(isInPart ? focus : nullptr,
+                       beside->mapToGlobal(beside->rect().bottomLeft()));
 }
 
 /// A menu of what can be asked about the part of the panel in front; null: about all of it.
-void DialogWindow::offerQuestions(const QWidget *part, const QPoint &place)
+void DialogAdvice::offerQuestions(const QWidget *part, const QPoint &place)
 {
-    const DialogTabs::Part *front = m_tabs->currentPart();
-    if (m_state != State::Ready || !front || !front->panel)
+    const DialogTabs::Part *front = m_tabs.currentPart();
+    if (!m_tabs.isEnabled() || !front || !front->panel)
         return;
-    auto *menu = new QMenu(this);
+    Q_EMIT asked();
+    auto *menu = new QMenu(&m_window);
     menu->setObjectName(u"questionMenu"_s);
     menu->setAttribute(Qt::WA_DeleteOnClose);
-    const QList<PPDMark> missing =
-        missingChoices(job(), *front->panel, settingOf(*front->panel, part));
+    const QString setting = settingOf(*front->panel, part);
+    if (!setting.isNull()) {
+        menu->addAction(withoutMnemonic(originLine(job(), m_undo.origins(), setting)), this,
+                        [this, setting] { tellOrigin(setting); });
+        menu->addSeparator();
+    }
+    const QList<PPDMark> missing = missingChoices(job(), *front->panel, setting);
     for (const PPDMark &choice : missing.first(std::min(missing.size(), kMostQuestions)))
         menu->addAction(
             withoutMnemonic(tr("Why is there no \"%1\"?")
@@ -72,9 +94,9 @@ void DialogWindow::offerQuestions(const QWidget *part, const QPoint &place)
 }
 
 /// A tip that names what is not to be had of the setting whose control the part is.
-void DialogWindow::showMissing(QWidget *part, const QPoint &place)
+void DialogAdvice::showMissing(QWidget *part, const QPoint &place)
 {
-    const DialogTabs::Part *front = m_tabs->currentPart();
+    const DialogTabs::Part *front = m_tabs.currentPart();
     const QString setting = front && front->panel ? settingOf(*front->panel, part) : QString();
     if (setting.isNull())
         return;
@@ -91,55 +113,85 @@ void DialogWindow::showMissing(QWidget *part, const QPoint &place)
                 part);
 }
 
-/// Tells why the choice is not to be had, and offers the way to it.
-void DialogWindow::explain(const PPDMark &wanted)
+/// Out loud, for those who cannot keep a menu in view.
+void DialogAdvice::tellOrigin(const QString &setting)
 {
-    tellEvent(); // what was before
-    tell(NoticeBar::Kind::Information, tr("Finding out…"));
-    m_adviser->ask(wanted, [this, wanted](const std::optional<Advice> &advice) {
-        if (!advice) {
-            tell(NoticeBar::Kind::Information, tr("This cannot be explained."));
-            return;
-        }
-        const Remedy best = advice->remedies.value(0);
-        QStringList told{advice->sentence};
-        if (const QString beside = changeSentence(job().ppd(), best.beside); !beside.isNull())
-            told += tr("With that: %1").arg(beside);
-        QList<NoticeOffer> offers;
-        if (advice->outcome == Advice::Outcome::Possible)
-            offers +=
-                {u"getItButton"_s, tr("Get It"), [this, best, wanted] { take(best, wanted); }};
-        tell(NoticeBar::Kind::Information, joinedSentences(told), offers);
+    Q_EMIT told(NoticeBar::Kind::Information, originLine(job(), m_undo.origins(), setting), {});
+}
+
+/// Tells why the choice is not to be had, and offers the way to it.
+void DialogAdvice::explain(const PPDMark &wanted)
+{
+    Q_EMIT asked();
+    Q_EMIT told(NoticeBar::Kind::Information, tr("Finding out…"), {});
+    m_adviser->ask(wanted, [this](const std::optional<Advice> &advice) {
+        if (advice)
+            tellAnswer(*advice);
+        else
+            Q_EMIT told(NoticeBar::Kind::Information, tr("This cannot be explained."), {});
     });
 }
 
-/// The ways to a choice that was refused, beside why it was.
-void DialogWindow::offerRemedies(const PPDMark &refused, const QString &sentence)
+void DialogAdvice::tellAnswer(const Advice &advice)
+{
+    QStringList sentences{advice.sentence};
+    const QString beside = changeSentence(job().ppd(), advice.remedies.value(0).beside);
+    if (!beside.isNull())
+        sentences += tr("With that: %1").arg(beside);
+    Q_EMIT told(NoticeBar::Kind::Information, joinedSentences(sentences), waysTo(advice));
+}
+
+/// The best way, and all that the sentence lists where that is cut.
+QList<NoticeOffer> DialogAdvice::waysTo(const Advice &advice)
+{
+    if (advice.outcome != Advice::Outcome::Possible)
+        return {};
+    const PPDMark wanted{advice.keyword, advice.choice};
+    QList<NoticeOffer> offers{
+        way(u"getItButton"_s, tr("Get It"), advice.remedies.constFirst(), wanted)};
+    const QList<Remedy> listed = remediesOfOneSetting(job().ppd(), advice);
+    if (!isListCut(listed.size()))
+        return offers;
+    NoticeOffer all{u"allWaysButton"_s, tr("All %1").arg(listed.size()), {}, {}};
+    for (const Remedy &remedy : listed)
+        all.menu += way(QString(), remedyWords(job().ppd(), remedy), remedy, wanted);
+    return offers + QList{all};
+}
+
+NoticeOffer DialogAdvice::way(const QString &name, const QString &title, const Remedy &remedy,
+                              const PPDMark &wanted)
+{
+    return {name, title, [this, remedy, wanted] { Q_EMIT taken(remedy, wanted); }, {}};
+}
+
+void DialogAdvice::offerRemedies(const PPDMark &refused, const QString &sentence)
 {
     m_adviser->ask(refused, [this, refused, sentence](const std::optional<Advice> &advice) {
-        if (m_state != State::Ready || !advice || advice->outcome != Advice::Outcome::Possible)
+        if (!m_tabs.isEnabled() || !advice || advice->outcome != Advice::Outcome::Possible)
             return;
         QList<NoticeOffer> offers;
         for (const Remedy &remedy :
-             advice->remedies.first(std::min(advice->remedies.size(), kMostRemedies))) {
-            const QString words = tr("Use %1").arg(remedyWords(job().ppd(), remedy));
-            offers += {u"remedyButton"_s, shortTitle(words),
-                       [this, remedy, refused] { take(remedy, refused); }};
-        }
-        offers += {u"leaveButton"_s, tr("Leave It"), [this] { tellStanding(); }};
-        tell(NoticeBar::Kind::Warning, sentence, offers);
+             advice->remedies.first(std::min(advice->remedies.size(), kMostRemedies)))
+            offers +=
+                way(u"remedyButton"_s, remedyTitle(job().ppd(), remedy, refused), remedy, refused);
+        offers += {u"leaveButton"_s, tr("Leave It"), [this] { Q_EMIT left(); }, {}};
+        Q_EMIT told(NoticeBar::Kind::Warning, sentence, offers);
     });
 }
 
-/// Makes the changes as a person would, and then picks what they are for: one step.
-void DialogWindow::take(const Remedy &remedy, const PPDMark &wanted)
+/// What somebody waits for in the notice is not put off for a list.
+void DialogAdvice::openList(PopUpButton *popup)
 {
-    tellEvent(); // what was before
-    m_pick = wanted;
-    prepareControls(*job().session());
-    for (const SettingChange &change : remedy.changes)
-        makeSetting(job(), {change.keyword, change.to});
-    makeSetting(job(), {wanted.keyword, wanted.choice});
-    showSettled();
-    noteEvent();
+    const DialogTabs::Part *front = m_tabs.currentPart();
+    const QString setting = front && front->panel ? settingOf(*front->panel, popup) : QString();
+    if (setting.isNull() || m_adviser->isAsked())
+        return;
+    const QList<PPDMark> missing = missingChoices(job(), *front->panel, setting);
+    if (!missing.isEmpty())
+        m_list = std::make_unique<ListAdvice>(*m_adviser, job(), missing, *popup);
+}
+
+void DialogAdvice::closeList()
+{
+    m_list.reset();
 }

@@ -1,9 +1,11 @@
+#include "dialog/advice/Advising.h"
 #include "dialog/host/HostSession.h"
 #include "dialog/job/Conflicts.h"
 #include "dialog/printing/ChangeWords.h"
 #include "dialog/printing/JobDoubts.h"
 #include "dialog/printing/PanelPicks.h"
 #include "dialog/printing/SettingRequests.h"
+#include "dialog/window/DialogAdvice.h"
 #include "dialog/window/DialogWindow.h"
 #include "dialog/window/SessionUndo.h"
 #include "dialog/work/Sentences.h"
@@ -79,7 +81,27 @@ void DialogWindow::tellRefusal(const QString &sentence, const PPDMark &choice)
 {
     tellEvent(); // what was before
     tell(NoticeBar::Kind::Warning, sentence);
-    offerRemedies(choice, sentence);
+    m_advice->offerRemedies(choice, sentence);
+}
+
+void DialogWindow::connectAdvice()
+{
+    m_advice = new DialogAdvice(m_controller, *m_undo, *m_tabs, *this);
+    connect(m_advice, &DialogAdvice::asked, this, &DialogWindow::tellEvent);
+    connect(m_advice, &DialogAdvice::told, this, &DialogWindow::tell);
+    connect(m_advice, &DialogAdvice::left, this, &DialogWindow::tellStanding);
+    connect(m_advice, &DialogAdvice::taken, this, &DialogWindow::take);
+}
+
+/// Makes the changes as a person would, and then picks what they are for: one step.
+void DialogWindow::take(const Remedy &remedy, const PPDMark &wanted)
+{
+    tellEvent(); // what was before
+    m_pick = wanted;
+    prepareControls(*job().session());
+    applyRemedy(job(), remedy, wanted);
+    showSettled();
+    noteEvent();
 }
 
 void DialogWindow::tellEvent()
@@ -100,13 +122,15 @@ void DialogWindow::tellEvent()
     if (m_state != State::Ready)
         return;
     if (isNobodys)
-        m_undo->noteOwn();
+        m_undo->noteOwn(m_toldState);
     else
-        m_undo->noteUser(picked);
-    tellStanding();
-    const Notice doubts = doubtsToTell();
-    if (refusal.isNull() && changes.isNull())
+        m_undo->noteUser(picked, m_toldState);
+    const Notice doubts = doubtsToTell(m_toldState);
+    if (refusal.isNull() && changes.isNull()) {
+        showStanding(doubts);
         return;
+    }
+    updateButtons();
     QStringList news{refusal, changes, doubts.sentence};
     news.removeAll(QString());
     QList<NoticeOffer> offers = doubts.offers;
@@ -114,13 +138,13 @@ void DialogWindow::tellEvent()
         offers += undoOffer();
     tell(refusal.isNull() ? doubts.kind : NoticeBar::Kind::Warning, joinedSentences(news), offers);
     if (!refused.keyword.isNull())
-        offerRemedies(refused, joinedSentences(news));
+        m_advice->offerRemedies(refused, joinedSentences(news));
 }
 
 /// What is not as it is shown, or goes with nothing else, and what the plug-in advises.
-DialogWindow::Notice DialogWindow::doubtsToTell()
+DialogWindow::Notice DialogWindow::doubtsToTell(const SettingState &state)
 {
-    const QStringList doubts = doubtsOf(job());
+    const QStringList doubts = doubtsOf(job(), state) + printerDoubts();
     Notice notice{doubts.isEmpty() ? NoticeBar::Kind::Information : NoticeBar::Kind::Warning, {}};
     QStringList sentences = doubts;
     for (const JobAdvice &advice : adviceFor(job())) {
@@ -142,9 +166,8 @@ void DialogWindow::choose(const RequestedChoice &choice)
 }
 
 /// What the printer or the documents lack, and the doubts about the settings.
-DialogWindow::Notice DialogWindow::standingNotice()
+DialogWindow::Notice DialogWindow::standingNotice(Notice doubts) const
 {
-    Notice doubts = doubtsToTell();
     if (doubts.sentence.isEmpty())
         return m_standing;
     if (m_standing.kind == NoticeBar::Kind::Information)

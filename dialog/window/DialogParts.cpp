@@ -131,7 +131,7 @@ QList<SummarySection> DialogWindow::summarySections()
         if (part.panel)
             panels.push_back(part.panel);
     QList<SummarySection> sections = summaryOf(job(), panels);
-    m_undo->noteOwn(); // the panels may have changed what is sent
+    m_undo->noteOwn(::settingState(job())); // the panels may have changed what is sent
     addOrigins(sections, job(), m_undo->origins());
     return sections;
 }

@@ -72,6 +72,7 @@ void DialogWindow::findPrinter(const PrinterSource &source)
 void DialogWindow::beginSearch(const PrinterSource &source)
 {
     setState(State::Searching);
+    forgetCondition();
     m_header->printers()->setCurrent(source.queue);
     tell(NoticeBar::Kind::Information, waitFor(source));
 }
@@ -211,7 +212,10 @@ void DialogWindow::watchPrinters()
                            fault == FaultKind::NoPrinter;
     const bool isFileAlone =
         !job().source().ppdPath.isNull() && job().source().queue.queue.isEmpty();
-    if (!isReached || isFileAlone || m_wishes.isPicture || m_watch.hasBegun())
+    if (!isReached || isFileAlone || m_wishes.isPicture)
+        return;
+    askCondition();
+    if (m_watch.hasBegun())
         return;
     m_header->printers()->setSearching(!m_choice);
     m_watch.begin(m_choice ? PrinterWatch::First::Later : PrinterWatch::First::Now);
@@ -223,6 +227,7 @@ void DialogWindow::takeList(const Result<QList<Destination>> &list)
         m_header->printers()->setDestinations(*list);
     else
         m_header->printers()->setListFailed();
+    askCondition();
     if (m_state != State::Ready || standing().sentence == m_standing.sentence)
         return;
     m_standing = standing();

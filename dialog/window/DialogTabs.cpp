@@ -1,15 +1,19 @@
 #include "dialog/window/DialogTabs.h"
 
+#include "dialog/cups/PrinterCondition.h"
 #include "dialog/printing/FeaturePicks.h"
 #include "dialog/printing/PrintJob.h"
+#include "dialog/printing/PrinterDoubts.h"
 #include "dialog/window/FeaturesPane.h"
 #include "dialog/window/LayoutPane.h"
 #include "dialog/window/Mnemonics.h"
 #include "dialog/window/PageSetupPane.h"
 #include "dialog/window/PanelPane.h"
 #include "dialog/window/SummaryPart.h"
+#include "dialog/window/SuppliesPane.h"
 #include "platform/toolkit/AccessibleName.h"
 #include "platform/toolkit/PlainText.h"
+#include "platform/toolkit/PopUpButton.h"
 
 #include <QtCore/QSignalBlocker>
 
@@ -24,6 +28,7 @@ constexpr auto kPageSetup = "setup"_L1;
 constexpr auto kFeatures = "features"_L1;
 constexpr auto kLayout = "layout"_L1;
 constexpr auto kSummary = "summary"_L1;
+constexpr auto kSupplies = "supplies"_L1;
 
 /// Whether the panel has anything to show for this PPD.
 bool hasKeywords(const HostPanel &panel)
@@ -83,8 +88,32 @@ void DialogTabs::addPanels()
         connect(pane, &PanelPane::viewResized, this, &DialogTabs::viewResized);
         connect(pane, &PanelPane::explanationWanted, this, &DialogTabs::explanationWanted);
         connect(pane, &PanelPane::tipWanted, this, &DialogTabs::tipWanted);
+        connect(pane, &PanelPane::listOpened, this, &DialogTabs::listOpened);
+        connect(pane, &PanelPane::listClosed, this, &DialogTabs::listClosed);
         addPart(panel.name, pane, panel.panel->panelName(), &panel);
     }
+}
+
+void DialogTabs::showSupplies(const PrinterCondition &printer)
+{
+    if (printer.supplies.isEmpty() && printer.loaded.isEmpty()) {
+        removeSupplies();
+        return;
+    }
+    if (!m_supplies)
+        m_supplies = new SuppliesPane(this);
+    m_supplies->setSupplies(printer.supplies, loadedTexts(m_job, printer));
+    if (indexOf(m_supplies) >= 0)
+        return;
+    addPart(kSupplies, m_supplies, tr("Supplies"));
+    setTabText(indexOf(m_supplies), withMnemonic(tr("Supplies"), mnemonicsIn(*window())));
+}
+
+void DialogTabs::removeSupplies()
+{
+    std::erase_if(m_parts, [](const Part &part) { return part.name == kSupplies; });
+    if (m_supplies)
+        removeTab(indexOf(m_supplies));
 }
 
 void DialogTabs::removeParts()

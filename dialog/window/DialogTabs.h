@@ -9,8 +9,11 @@ class FeaturesPane;
 class LayoutPane;
 class PageSetupPane;
 class PanelPane;
+class PopUpButton;
 class PrintJob;
+class SuppliesPane;
 class SummaryPart;
+struct PrinterCondition;
 
 /// The tabs of the dialog: its own panes, which live as long as it does and are tabs where there is
 /// something to show, and a pane for each panel of the job's printer.
@@ -42,6 +45,9 @@ public:
     /// Takes all tabs away, and gives the panels' views back; before their session closes.
     void removeParts();
 
+    /// Shows what the printer has left, where it tells of anything, behind the other tabs.
+    void showSupplies(const PrinterCondition &printer);
+
     const std::vector<Part> &parts() const { return m_parts; }
     /// What is in front; null without tabs.
     const Part *currentPart() const;
@@ -72,14 +78,17 @@ Q_SIGNALS:
     /// The view of a panel has come to another size by itself.
     void viewResized();
 
-    /// PanelPane::explanationWanted() and tipWanted() of a panel's pane.
+    /// The signals of a panel's pane.
     void explanationWanted(const QWidget *part, const QPoint &place);
     void tipWanted(QWidget *part, const QPoint &place);
+    void listOpened(PopUpButton *popup);
+    void listClosed();
 
 private:
     void addPart(const QString &name, QWidget *page, const QString &title,
                  const HostPanel *panel = nullptr);
     void addPanels();
+    void removeSupplies();
     void putView(PanelPane &pane, QWidget *view);
 
     PrintJob &m_job;
@@ -87,6 +96,7 @@ private:
     FeaturesPane *m_features;
     LayoutPane *m_layout;
     SummaryPart *m_summary;
+    SuppliesPane *m_supplies = nullptr; ///< null before a printer has told of any
     std::vector<Part> m_parts;
     const HostPanel *m_shownPanel = nullptr;
     bool m_viewIsMissing = false; // of m_shownPanel

@@ -38,7 +38,7 @@ void DialogWindow::noteSettled()
     const auto *field = qobject_cast<const QLineEdit *>(focusWidget());
     const auto *number = qobject_cast<const QAbstractSpinBox *>(focusWidget());
     m_undo->setField(field || number ? focusWidget()->objectName() : QString());
-    m_undo->noteUser(m_eventIsNoted ? m_pick.keyword : QString());
+    m_undo->noteUser(m_eventIsNoted ? m_pick.keyword : QString(), ::settingState(job()));
 }
 
 NoticeOffer DialogWindow::undoOffer()
@@ -67,13 +67,13 @@ void DialogWindow::goBackOrOn(Result<> (SessionUndo::*way)(), const QString &wor
     const QList<PPDMark> before = m_toldState.marks;
     const Result<> gone = exchangeSession(way);
     forgetEvent(); // it was nobody's
-    m_undo->noteOwn();
-    tellStanding();
+    const Notice doubts = doubtsToTell(m_toldState);
+    m_undo->noteOwn(m_toldState);
+    updateButtons();
     if (!gone) {
         tell(NoticeBar::Kind::Error, gone.sentence());
         return;
     }
-    const Notice doubts = doubtsToTell();
     const ChoiceForms forms = job().session() ? job().session()->choiceForms() : ChoiceForms();
     QStringList told{words,
                      changeSentence(job().ppd(), changesBetween(before, m_toldState.marks, forms)),

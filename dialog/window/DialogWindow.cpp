@@ -1,6 +1,5 @@
 #include "dialog/window/DialogWindow.h"
 
-#include "dialog/advice/Adviser.h"
 #include "dialog/job/PipeDocuments.h"
 #include "dialog/window/ButtonRow.h"
 #include "dialog/window/DialogTabs.h"
@@ -49,7 +48,6 @@ DialogWindow::DialogWindow(const DialogWishes &wishes, QWidget *parent)
       m_wishes(wishes),
       m_controller(wishes),
       m_undo(std::make_unique<SessionUndo>(m_controller)),
-      m_adviser(std::make_unique<Adviser>()),
       m_documentState(m_controller.openDocuments(wishes.files)),
       m_outcome(Fault{FaultKind::Cancelled, {}}),
       m_watch(m_controller, *this)
@@ -230,6 +228,11 @@ void DialogWindow::tell(NoticeBar::Kind kind, const QString &sentence,
 /// Shows what is still true, in place of what was news.
 void DialogWindow::tellStanding()
 {
+    showStanding(doubtsToTell(::settingState(job())));
+}
+
+void DialogWindow::showStanding(const Notice &doubts)
+{
     const QWidget *shown = m_tabs->currentWidget();
     const bool hidesFault = !m_tabs->pageSetup()->isAcceptable() && shown != m_tabs->pageSetup();
     const bool hidesFeature = !m_tabs->features()->isAcceptable() && shown != m_tabs->features();
@@ -244,7 +247,7 @@ void DialogWindow::tellStanding()
     else if (hidesFeature)
         tell(NoticeBar::Kind::Warning, tr("A value in Printer Features cannot be used. Correct it "
                                           "there to print."));
-    else if (const Notice standing = standingNotice(); standing.sentence.isEmpty())
+    else if (const Notice standing = standingNotice(doubts); standing.sentence.isEmpty())
         m_notice->clear();
     else
         tell(standing.kind, standing.sentence, standing.offers);

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "dialog/cups/JobSentence.h"
+#include "dialog/cups/PrinterCondition.h"
 #include "dialog/host/SessionObserver.h"
 #include "dialog/printing/PrintController.h"
 #include "dialog/printing/SettingState.h"
@@ -16,7 +17,7 @@
 #include <memory>
 #include <optional>
 
-class Adviser;
+class DialogAdvice;
 class DialogTabs;
 class JobHeader;
 class ProgressStrip;
@@ -113,6 +114,7 @@ private:
     void updateButtons();
     void tell(NoticeBar::Kind kind, const QString &sentence, const QList<NoticeOffer> &offers = {});
     void tellStanding();
+    void showStanding(const Notice &doubts);
     bool mayPrint() const;
     void showHelp();
 
@@ -127,8 +129,10 @@ private:
     void noteOwnEvent();
     void tellEvent();
     void tellRefusal(const QString &sentence, const PPDMark &choice);
-    Notice doubtsToTell();
-    Notice standingNotice();
+    void connectAdvice();
+    void take(const Remedy &remedy, const PPDMark &wanted);
+    Notice doubtsToTell(const SettingState &state);
+    Notice standingNotice(Notice doubts) const;
     void choose(const RequestedChoice &choice);
     QList<SettingChange> takeChanges();
 
@@ -161,6 +165,12 @@ private:
     Notice whatIsMissing();
     void watchPrinters();
     void takeList(const Result<QList<Destination>> &list);
+
+    // DialogCondition.cpp
+    void askCondition();
+    void takeCondition(const PrinterCondition &condition);
+    void forgetCondition();
+    QStringList printerDoubts() const;
 
     // DialogParts.cpp
     void buildParts();
@@ -197,14 +207,6 @@ private:
     void showSettled();
     void forgetEvent();
 
-    // DialogAdvice.cpp
-    void connectAdvice();
-    void offerQuestions(const QWidget *part, const QPoint &place);
-    void showMissing(QWidget *part, const QPoint &place);
-    void explain(const PPDMark &wanted);
-    void offerRemedies(const PPDMark &refused, const QString &sentence);
-    void take(const Remedy &remedy, const PPDMark &wanted);
-
     // DialogPrint.cpp
     std::optional<JobRequest> finishedJob();
     bool isAgreed(const QStringList &doubts);
@@ -222,17 +224,17 @@ private:
     const DialogWishes m_wishes;
     PrintController m_controller;
     const std::unique_ptr<SessionUndo> m_undo;
-    const std::unique_ptr<Adviser> m_adviser;
     Result<> m_documentState;
     std::optional<JobRequest> m_savedJob; ///< the only document, where that is a saved job
     Result<> m_printerState;
     Result<> m_settingState;
     Result<> m_outcome;
     State m_state = State::Searching;
-    std::optional<PrinterChoice> m_choice; ///< of the dialog, where nobody named a printer
-    QList<Fault> m_shortcomings;           ///< of the printer
-    QStringList m_startNotes;              ///< on the settings that it starts from
-    Notice m_standing;                     ///< shown while there is nothing newer to tell
+    std::optional<PrinterChoice> m_choice;       ///< of the dialog, where nobody named a printer
+    QList<Fault> m_shortcomings;                 ///< of the printer
+    QStringList m_startNotes;                    ///< on the settings that it starts from
+    std::optional<PrinterCondition> m_condition; ///< of the printer; none: not known yet
+    Notice m_standing;                           ///< shown while there is nothing newer to tell
     PPDMark m_refused;              ///< of the pick that is going on; a null keyword: nothing
     QString m_refusalToTell;        ///< of the pick that is going on
     bool m_coversAreListed = false; ///< of the printer
@@ -252,6 +254,7 @@ private:
     NoticeBar *m_notice;
     ProgressStrip *m_progress;
     DialogTabs *m_tabs;
+    DialogAdvice *m_advice;
     ScrolledBody *m_body = nullptr; ///< all but the buttons
     QWidget *m_buttons = nullptr;
     QPushButton *m_help = nullptr;

@@ -4,6 +4,7 @@
 #include "dialog/job/Papers.h"
 #include "dialog/printing/OriginWords.h"
 #include "dialog/printing/PrintJob.h"
+#include "dialog/printing/SettingState.h"
 #include "dialog/printing/SettingValues.h"
 #include "dialog/window/SentSettings.h"
 #include "platform/ppd/PPDText.h"
@@ -111,7 +112,7 @@ QList<SummarySection> summaryOf(PrintJob &job, const std::vector<const HostPanel
 
 void addOrigins(QList<SummarySection> &sections, const PrintJob &job, const SettingOrigins &origins)
 {
-    const SettingValues values = settingValues(job);
+    const SettingValues values = settingValues(job, settingState(job));
     const SettingValues defaults = defaultValues(job);
     for (SummarySection &section : sections)
         for (SummarySection::Line &line : section.lines) {

@@ -6,6 +6,8 @@
 #include "dialog/printing/PrintJob.h"
 #include "platform/ppd/PPDText.h"
 
+#include <QtCore/QSet>
+
 #include <algorithm>
 
 namespace {
@@ -23,14 +25,19 @@ QStringList shownSettings(const HostPanel &panel)
 
 QList<PPDMark> missingOf(const PrintJob &job, const QString &keyword)
 {
-    const ChoiceForms forms = job.session()->choiceForms();
-    const QString marked = markedChoice(job.ppd(), keyword);
     const ppd_option_t *option = findOption(job.ppd(), keyword);
-    QList<PPDMark> missing;
+    QStringList choices;
     for (int index = 0; option && index < option->num_choices; ++index)
-        if (const PPDMark choice{keyword, ppdName(option->choices[index].choice)};
-            !forms.areSame(keyword, choice.choice, marked) && !canBePicked(job, choice))
-            missing += choice;
+        choices += ppdName(option->choices[index].choice);
+    const QStringList offered = pickable(job, keyword, choices);
+    const ChoiceForms forms = job.session()->choiceForms();
+    QSet<QString> there(offered.cbegin(), offered.cend());
+    for (const QString &form : forms.formsOf(keyword, markedChoice(job.ppd(), keyword)))
+        there += form;
+    QList<PPDMark> missing;
+    for (const QString &choice : choices)
+        if (!there.contains(choice))
+            missing += PPDMark{keyword, choice};
     return missing;
 }
 

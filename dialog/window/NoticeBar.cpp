@@ -9,7 +9,9 @@
 #include "platform/toolkit/PlainText.h"
 
 #include <QtCore/QEvent>
+#include <QtCore/QTextBoundaryFinder>
 #include <QtWidgets/QHBoxLayout>
+#include <QtWidgets/QMenu>
 #include <QtWidgets/QPushButton>
 
 #include <array>
@@ -17,7 +19,8 @@
 
 namespace {
 
-constexpr qreal kTint = 0.16; // of the accent in the window's colour, light or dark
+constexpr int kLongestLine = 32; // characters, of a button
+constexpr qreal kTint = 0.16;    // of the accent in the window's colour, light or dark
 
 struct Look
 {
@@ -42,6 +45,23 @@ QColor mixed(const QColor &base, const QColor &accent, qreal share)
     };
     return QColor(mix(base.red(), accent.red()), mix(base.green(), accent.green()),
                   mix(base.blue(), accent.blue()));
+}
+
+/// The title in so many lines of about the same length.
+QString brokenTitle(const QString &title, int lines)
+{
+    QTextBoundaryFinder places(QTextBoundaryFinder::Line, title);
+    QStringList broken;
+    qsizetype start = 0;
+    for (int line = 1; line < lines; ++line) {
+        places.setPosition(line * title.size() / lines);
+        const qsizetype end = places.toNextBoundary();
+        if (end > start && end < title.size()) {
+            broken += title.mid(start, end - start).trimmed();
+            start = end;
+        }
+    }
+    return (broken + QStringList{title.mid(start)}).join(u'\n');
 }
 
 } // namespace
@@ -100,15 +120,41 @@ void NoticeBar::showOffers(const QList<NoticeOffer> &offers)
         button->deleteLater();
     }
     for (const NoticeOffer &offer : offers) {
-        auto *button = new QPushButton(this);
-        button->setObjectName(offer.name);
-        setTitleWithMnemonic(*button, withoutMnemonic(displayText(offer.title)));
-        button->setAutoDefault(false);
-        connect(button, &QPushButton::clicked, this, offer.take);
-        m_layout->addWidget(button);
-        button->show();
-        m_buttons += button;
+        m_buttons += newButton(offer);
+        m_layout->addWidget(m_buttons.constLast());
+        m_buttons.constLast()->show();
     }
+}
+
+/// How many lines the title of a button takes.
+int NoticeBar::linesFor(const QString &title) const
+{
+    const int widest = kLongestLine * fontMetrics().averageCharWidth();
+    return (fontMetrics().horizontalAdvance(title) + widest - 1) / widest;
+}
+
+QPushButton *NoticeBar::newButton(const NoticeOffer &offer)
+{
+    auto *button = new QPushButton(this);
+    button->setObjectName(offer.name);
+    const QString title = displayText(offer.title);
+    setTitleWithMnemonic(*button, withoutMnemonic(brokenTitle(title, linesFor(title))));
+    giveAccessibleName(button, title);
+    button->setAutoDefault(false);
+    if (offer.menu.isEmpty())
+        connect(button, &QPushButton::clicked, this, offer.take);
+    else
+        button->setMenu(newMenu(offer.menu, button));
+    return button;
+}
+
+QMenu *NoticeBar::newMenu(const QList<NoticeOffer> &offers, QWidget *parent)
+{
+    auto *menu = new QMenu(parent);
+    menu->setObjectName(QStringLiteral("noticeMenu"));
+    for (const NoticeOffer &offer : offers)
+        menu->addAction(withoutMnemonic(displayText(offer.title)), this, offer.take);
+    return menu;
 }
 
 void NoticeBar::changeEvent(QEvent *event)

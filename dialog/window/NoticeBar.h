@@ -8,6 +8,7 @@
 class NoticeLabel;
 class NoticeSign;
 class QHBoxLayout;
+class QMenu;
 class QPushButton;
 
 /// What a person can do about what is told, as a button beside it.
@@ -16,12 +17,14 @@ struct NoticeOffer
     QString name;  ///< of the button
     QString title; ///< plain text, without a mnemonic
     std::function<void()> take;
+    /// Ways to choose from, in a menu that the button opens in place of being taken.
+    QList<NoticeOffer> menu = {};
 };
 
 /// A strip that tells one thing at a time, in plain text: what the dialog waits for, why a choice
 /// was refused, what went wrong. It has the room of an ordinary sentence whether or not there is
 /// anything to tell, so that nothing moves when there is. What is longer is cut off there, and
-/// whole in its tool tip and its accessible name.
+/// whole in its tool tip and its accessible name. The titles of offers are broken into lines.
 class NoticeBar : public QFrame
 {
     Q_OBJECT
@@ -44,6 +47,9 @@ protected:
 private:
     void showSentence(const QString &sentence);
     void showOffers(const QList<NoticeOffer> &offers);
+    int linesFor(const QString &title) const;
+    QPushButton *newButton(const NoticeOffer &offer);
+    QMenu *newMenu(const QList<NoticeOffer> &offers, QWidget *parent);
     void applyColors();
 
     NoticeSign *m_sign;

@@ -2,6 +2,7 @@
 
 #include "dialog/window/ViewWidth.h"
 #include "platform/toolkit/PanelPoint.h"
+#include "platform/toolkit/PopUpButton.h"
 
 #include <QtGui/QContextMenuEvent>
 #include <QtGui/QHelpEvent>
@@ -79,8 +80,24 @@ QSize PanelPane::minimumSizeHint() const
     return sizeHint().boundedTo({toPixels(kLeastViewWidth), toPixels(kLeastViewHeight)});
 }
 
+/// A pop-up makes its list, a window of its own, when that is first opened.
+void PanelPane::watchList(QWidget *list, QEvent *event)
+{
+    auto *popup = qobject_cast<PopUpButton *>(list->parent());
+    if (!popup || list->windowType() != Qt::Popup) // a tip has the pop-up for its parent, too
+        return;
+    if (event->type() == QEvent::Show)
+        Q_EMIT listOpened(popup);
+    else if (event->type() == QEvent::Hide)
+        Q_EMIT listClosed();
+}
+
 bool PanelPane::eventFilter(QObject *watched, QEvent *event)
 {
+    if (event->type() == QEvent::ChildAdded && qobject_cast<PopUpButton *>(watched))
+        static_cast<QChildEvent *>(event)->child()->installEventFilter(this);
+    else if (watched->isWidgetType())
+        watchList(static_cast<QWidget *>(watched), event);
     if (watched == m_view && event->type() == QEvent::Resize) {
         updateGeometry();
         Q_EMIT viewResized();

@@ -3,6 +3,8 @@
 #include <QtCore/QPointer>
 #include <QtWidgets/QScrollArea>
 
+class PopUpButton;
+
 /// Holds the view of a panel, which the panel owns: the pane never destroys it. It makes the view
 /// as wide as its texts need it. A view that is larger than the pane can be scrolled.
 class PanelPane : public QScrollArea
@@ -33,11 +35,16 @@ Q_SIGNALS:
     /// The pointer rests on a part of the view that has no tip of its own.
     void tipWanted(QWidget *part, const QPoint &place);
 
+    /// The list of a pop-up of the view has come on screen, or goes.
+    void listOpened(PopUpButton *popup);
+    void listClosed();
+
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
     void takeView(QWidget *view);
+    void watchList(QWidget *list, QEvent *event);
 
     QPointer<QWidget> m_view;
 };

@@ -83,6 +83,12 @@ void PrinterPopUp::setDestinations(const QList<Destination> &destinations)
     tellState();
 }
 
+void PrinterPopUp::setQueuedJobs(int count)
+{
+    m_queuedJobs = count;
+    tellState();
+}
+
 void PrinterPopUp::setListFailed()
 {
     m_searching = false;
@@ -113,6 +119,16 @@ QString PrinterPopUp::detailOf(const QString &key) const
     const QString state = stateText(printer);
     return displayText(printer.location.isEmpty() ? state
                                                   : u"%1 · %2"_s.arg(printer.location, state));
+}
+
+/// What somebody who prints to it should know, else where it stands.
+QString PrinterPopUp::wordOn(const Destination &printer) const
+{
+    QStringList words{isInTrouble(printer) ? stateText(printer) : printer.location};
+    if (m_queuedJobs > 0)
+        words += tr("Jobs in the queue: %1").arg(m_queuedJobs);
+    words.removeAll(QString());
+    return words.join(u" · "_s);
 }
 
 void PrinterPopUp::fill()
@@ -149,6 +165,6 @@ void PrinterPopUp::tellState()
     else if (isCurrentGone())
         state = tr("No longer on the print server");
     else if (printer)
-        state = isInTrouble(*printer) ? stateText(*printer) : printer->location;
+        state = wordOn(*printer);
     setLabelText(m_state, displayText(state));
 }

@@ -27,6 +27,9 @@ public:
 
     void setDestinations(const QList<Destination> &destinations);
 
+    /// How many jobs the queue of the printer that is open has.
+    void setQueuedJobs(int count);
+
     /// Says that there is no list to be had.
     void setListFailed();
 
@@ -42,6 +45,7 @@ Q_SIGNALS:
 private:
     const Destination *current() const;
     QString detailOf(const QString &key) const;
+    QString wordOn(const Destination &printer) const;
     void fill();
     void tellState();
 
@@ -51,6 +55,7 @@ private:
     QString m_currentTitle;
     QList<Destination> m_destinations;
     QHash<QString, qsizetype> m_indexOfKey; ///< in m_destinations, by textOf(Destination::name)
+    int m_queuedJobs = 0;
     bool m_searching = false;
     bool m_listFailed = false;
     bool m_wasListed = false; ///< the printer that is open

@@ -52,21 +52,21 @@ void SessionUndo::followDrag(const QString &keyword)
             connect(
                 slider, &QSlider::sliderReleased, this,
                 [this] {
-                    noteUser(QString());
+                    noteUser(QString(), settingState(m_controller.job()));
                     m_history.endSubject();
                 },
                 static_cast<Qt::ConnectionType>(Qt::AutoConnection | Qt::SingleShotConnection));
         }
 }
 
-SessionUndo::Moment SessionUndo::now() const
+SessionUndo::Moment SessionUndo::now(const SettingState &state) const
 {
     const PrintJob &job = m_controller.job();
     Moment moment{m_controller.origin(),
                   m_journal.place(),
                   job.settled(),
-                  settingValues(job),
-                  settingState(job).shown,
+                  settingValues(job, state),
+                  state.shown,
                   {},
                   origins()};
     if (const HostSession *session = job.session())
@@ -95,7 +95,7 @@ bool SessionUndo::isSamePrinter(const Moment &left, const Moment &right)
 void SessionUndo::begin(const QList<RequestedChoice> &asked)
 {
     const PrintJob &job = m_controller.job();
-    Moment moment = now();
+    Moment moment = now(settingState(job));
     QHash<QString, SettingOrigin> named =
         startingOrigins(job, moment.printer ? moment.printer->starting : QList<JobOption>());
     for (const RequestedChoice &choice : asked)
@@ -109,12 +109,12 @@ void SessionUndo::begin(const QList<RequestedChoice> &asked)
         m_history.note(std::move(moment));
 }
 
-void SessionUndo::noteUser(const QString &name)
+void SessionUndo::noteUser(const QString &name, const SettingState &state)
 {
     const QString subject = std::exchange(m_subject, QString());
     if (m_history.isEmpty())
         return;
-    Moment moment = now();
+    Moment moment = now(state);
     moment.origins.takePick(name, m_history.current().values, moment.values);
     if (areAlike(m_history.current(), moment))
         m_history.amend(std::move(moment));
@@ -124,11 +124,11 @@ void SessionUndo::noteUser(const QString &name)
         m_controller.prepareToReopen();
 }
 
-void SessionUndo::noteOwn()
+void SessionUndo::noteOwn(const SettingState &state)
 {
     if (m_history.isEmpty())
         return;
-    Moment moment = now();
+    Moment moment = now(state);
     moment.origins.takeRules(m_history.current().values, moment.values);
     m_history.amend(std::move(moment));
 }

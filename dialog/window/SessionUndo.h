@@ -38,9 +38,9 @@ public:
 
     /// What was going on is over. Where a person did it, and a setting is another one since, it is
     /// a step; else it belongs to the last one. What the person picked is the setting of the name
-    /// (SettingValues); null: whatever has changed.
-    void noteUser(const QString &name);
-    void noteOwn();
+    /// (SettingValues); null: whatever has changed. `state` is the job's as it is.
+    void noteUser(const QString &name, const SettingState &state);
+    void noteOwn(const SettingState &state);
 
     /// Why the settings have their values, as of what was noted last.
     SettingOrigins origins() const
@@ -78,7 +78,7 @@ private:
 
     static bool areAlike(const Moment &left, const Moment &right);
     static bool isSamePrinter(const Moment &left, const Moment &right);
-    Moment now() const;
+    Moment now(const SettingState &state) const;
     Result<> goTo(const Moment &moment);
     void follow(const ReplayAction &action);
     void followDrag(const QString &keyword);

@@ -1,8 +1,8 @@
 #include "platform/foundation/PreferredLanguages.h"
 
 #include <QtCore/QLocale>
-#include <QtCore/QRegularExpression>
 
+#include <algorithm>
 #include <cstdlib>
 #include <string>
 
@@ -61,6 +61,18 @@ QStringList systemLanguages()
     return tags;
 }
 
+bool isLanguage(QStringView code)
+{
+    return (code.size() == 2 || code.size() == 3) &&
+           std::ranges::all_of(code, [](QChar letter) { return letter >= u'a' && letter <= u'z'; });
+}
+
+bool isRegion(QStringView code)
+{
+    return code.size() == 2 &&
+           std::ranges::all_of(code, [](QChar letter) { return letter >= u'A' && letter <= u'Z'; });
+}
+
 } // namespace
 
 QStringList preferredLanguages()
@@ -75,13 +87,15 @@ void setPreferredLanguages(const QStringList &languages)
 
 QString languageTag(const QString &localeName)
 {
-    static const QRegularExpression form(
-        QStringLiteral("\\A([a-z]{2,3})(?:[-_]([A-Z]{2}))?(?:[.@].*)?\\z"));
-    const auto match = form.match(localeName);
-    if (!match.hasMatch())
+    const auto endsName = [](QChar letter) { return letter == u'.' || letter == u'@'; };
+    const auto endsLanguage = [](QChar letter) { return letter == u'-' || letter == u'_'; };
+    const auto end = std::ranges::find_if(localeName, endsName);
+    const auto separator = std::find_if(localeName.begin(), end, endsLanguage);
+    const bool hasRegion = separator != end;
+    QString language(localeName.begin(), separator - localeName.begin());
+    const QString region = hasRegion ? QString(separator + 1, end - separator - 1) : QString();
+    if (!isLanguage(language) || (hasRegion && !isRegion(region)))
         return {};
-    QString language = match.captured(1);
-    const QString region = match.captured(2);
     const QString ownRegion = QLocale(language).name().section(u'_', 1, 1);
     if (region.isEmpty() || region == ownRegion)
         return language;

@@ -195,6 +195,51 @@
     </message>
 </context>
 <context>
+    <name>DialogAdvice</name>
+    <message>
+        <source>Why is there no &quot;%1&quot;?</source>
+        <translation>Warum gibt es „%1“ nicht?</translation>
+    </message>
+    <message>
+        <source>Everything here can be chosen.</source>
+        <translation>Hier kann alles gewählt werden.</translation>
+    </message>
+    <message>
+        <source>Not to be had now: %1
+Shift+F1 or the context menu tells why.</source>
+        <translation>Zurzeit nicht wählbar: %1
+Umschalt+F1 oder das Kontextmenü sagt, warum.</translation>
+    </message>
+    <message>
+        <source>, </source>
+        <translation>, </translation>
+    </message>
+    <message>
+        <source>Finding out…</source>
+        <translation>Wird ermittelt…</translation>
+    </message>
+    <message>
+        <source>This cannot be explained.</source>
+        <translation>Das lässt sich nicht erklären.</translation>
+    </message>
+    <message>
+        <source>With that: %1</source>
+        <translation>Damit: %1</translation>
+    </message>
+    <message>
+        <source>Get It</source>
+        <translation>Ermöglichen</translation>
+    </message>
+    <message>
+        <source>Leave It</source>
+        <translation>So lassen</translation>
+    </message>
+    <message>
+        <source>All %1</source>
+        <translation>Alle %1</translation>
+    </message>
+</context>
+<context>
     <name>DialogWindow</name>
     <message>
         <source>Retry</source>
@@ -401,48 +446,6 @@
         <translation>Wiederherstellen</translation>
     </message>
     <message>
-        <source>Why is there no &quot;%1&quot;?</source>
-        <translation>Warum gibt es „%1“ nicht?</translation>
-    </message>
-    <message>
-        <source>Everything here can be chosen.</source>
-        <translation>Hier kann alles gewählt werden.</translation>
-    </message>
-    <message>
-        <source>Finding out…</source>
-        <translation>Wird ermittelt…</translation>
-    </message>
-    <message>
-        <source>This cannot be explained.</source>
-        <translation>Das lässt sich nicht erklären.</translation>
-    </message>
-    <message>
-        <source>With that: %1</source>
-        <translation>Damit: %1</translation>
-    </message>
-    <message>
-        <source>Get It</source>
-        <translation>Ermöglichen</translation>
-    </message>
-    <message>
-        <source>Use %1</source>
-        <translation>%1 verwenden</translation>
-    </message>
-    <message>
-        <source>Leave It</source>
-        <translation>So lassen</translation>
-    </message>
-    <message>
-        <source>Not to be had now: %1
-Shift+F1 or the context menu tells why.</source>
-        <translation>Zurzeit nicht wählbar: %1
-Umschalt+F1 oder das Kontextmenü sagt, warum.</translation>
-    </message>
-    <message>
-        <source>, </source>
-        <translation>, </translation>
-    </message>
-    <message>
         <source>Print job %1 all the same?</source>
         <translation>Auftrag %1 trotzdem drucken?</translation>
     </message>
@@ -472,6 +475,10 @@ Umschalt+F1 oder das Kontextmenü sagt, warum.</translation>
     <message>
         <source>Summary</source>
         <translation>Zusammenfassung</translation>
+    </message>
+    <message>
+        <source>Supplies</source>
+        <translation>Vorräte</translation>
     </message>
 </context>
 <context>
@@ -1414,6 +1421,10 @@ Umschalt+F1 oder das Kontextmenü sagt, warum.</translation>
         <source>The printer's default</source>
         <translation>Standard des Druckers</translation>
     </message>
+    <message>
+        <source>%1: %2 – %3</source>
+        <translation>%1: %2 – %3</translation>
+    </message>
 </context>
 <context>
     <name>OutputFile</name>
@@ -1831,6 +1842,13 @@ Umschalt+F1 oder das Kontextmenü sagt, warum.</translation>
     </message>
 </context>
 <context>
+    <name>PrinterDoubts</name>
+    <message>
+        <source>The paper of this job is not loaded: %1. There is %2.</source>
+        <translation>Das Papier dieses Auftrags ist nicht eingelegt: %1. Eingelegt ist %2.</translation>
+    </message>
+</context>
+<context>
     <name>PrinterPopUp</name>
     <message>
         <source>No printer</source>
@@ -1847,6 +1865,10 @@ Umschalt+F1 oder das Kontextmenü sagt, warum.</translation>
     <message>
         <source>No longer on the print server</source>
         <translation>Nicht mehr auf dem Druckserver</translation>
+    </message>
+    <message>
+        <source>Jobs in the queue: %1</source>
+        <translation>Aufträge in der Warteschlange: %1</translation>
     </message>
 </context>
 <context>
@@ -2411,6 +2433,30 @@ Umschalt+F1 oder das Kontextmenü sagt, warum.</translation>
         <source>There are too many conditions to explain why %1 is not there.</source>
         <translation>Es sind zu viele Bedingungen, um zu erklären, warum %1 nicht verfügbar ist.</translation>
     </message>
+    <message>
+        <source>use %1</source>
+        <translation>%1 verwenden</translation>
+    </message>
+    <message>
+        <source>turn on %1</source>
+        <translation>%1 einschalten</translation>
+    </message>
+    <message>
+        <source>turn off %1</source>
+        <translation>%1 ausschalten</translation>
+    </message>
+    <message>
+        <source>use %1 and %2</source>
+        <translation>%1 verwenden und %2</translation>
+    </message>
+    <message>
+        <source>turn on %1 and %2</source>
+        <translation>%1 einschalten und %2</translation>
+    </message>
+    <message>
+        <source>turn off %1 and %2</source>
+        <translation>%1 ausschalten und %2</translation>
+    </message>
 </context>
 <context>
     <name>SummaryPart</name>
@@ -2421,6 +2467,76 @@ Umschalt+F1 oder das Kontextmenü sagt, warum.</translation>
     <message>
         <source>Copy as Text</source>
         <translation>Als Text kopieren</translation>
+    </message>
+</context>
+<context>
+    <name>Supplies</name>
+    <message>
+        <source>Supply %1</source>
+        <translation>Vorrat %1</translation>
+    </message>
+    <message>
+        <source>Not known</source>
+        <translation>Nicht bekannt</translation>
+    </message>
+    <message>
+        <source>Some left</source>
+        <translation>Noch etwas da</translation>
+    </message>
+    <message>
+        <source>Some room left</source>
+        <translation>Noch etwas Platz</translation>
+    </message>
+    <message>
+        <source>%1%</source>
+        <translation>%1 %</translation>
+    </message>
+    <message>
+        <source>%1% full</source>
+        <translation>%1 % voll</translation>
+    </message>
+    <message>
+        <source>Low: %1%</source>
+        <translation>Fast leer: %1 %</translation>
+    </message>
+    <message>
+        <source>Almost full: %1%</source>
+        <translation>Fast voll: %1 %</translation>
+    </message>
+    <message>
+        <source>Empty</source>
+        <translation>Leer</translation>
+    </message>
+    <message>
+        <source>Full</source>
+        <translation>Voll</translation>
+    </message>
+    <message>
+        <source>Used up in the printer: %1.</source>
+        <translation>Im Drucker aufgebraucht: %1.</translation>
+    </message>
+    <message>
+        <source>Full in the printer: %1.</source>
+        <translation>Im Drucker voll: %1.</translation>
+    </message>
+    <message>
+        <source>Running low in the printer: %1.</source>
+        <translation>Im Drucker fast aufgebraucht: %1.</translation>
+    </message>
+    <message>
+        <source>, </source>
+        <translation>, </translation>
+    </message>
+</context>
+<context>
+    <name>SuppliesPane</name>
+    <message>
+        <source>, </source>
+        <translation>, </translation>
+    </message>
+    <message>
+        <source>Paper in the printer:</source>
+        <translation>Papier im Drucker:</translation>
     </message>
 </context>
 <context>
@@ -2688,6 +2804,13 @@ Umschalt+F1 oder das Kontextmenü sagt, warum.</translation>
     <message>
         <source>%1: %2 (%3)</source>
         <translation>%1: %2 (%3)</translation>
+    </message>
+</context>
+<context>
+    <name>ListAdvice</name>
+    <message>
+        <source>Not to be had now: %1</source>
+        <translation>Zurzeit nicht wählbar: %1</translation>
     </message>
 </context>
 </TS>

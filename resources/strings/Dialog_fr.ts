@@ -195,6 +195,51 @@
     </message>
 </context>
 <context>
+    <name>DialogAdvice</name>
+    <message>
+        <source>Why is there no &quot;%1&quot;?</source>
+        <translation>Pourquoi « %1 » n’est-il pas proposé ?</translation>
+    </message>
+    <message>
+        <source>Everything here can be chosen.</source>
+        <translation>Tout peut être choisi ici.</translation>
+    </message>
+    <message>
+        <source>Not to be had now: %1
+Shift+F1 or the context menu tells why.</source>
+        <translation>Pas disponible actuellement : %1
+Maj+F1 ou le menu contextuel dit pourquoi.</translation>
+    </message>
+    <message>
+        <source>, </source>
+        <translation>, </translation>
+    </message>
+    <message>
+        <source>Finding out…</source>
+        <translation>Recherche en cours…</translation>
+    </message>
+    <message>
+        <source>This cannot be explained.</source>
+        <translation>Cela ne peut pas être expliqué.</translation>
+    </message>
+    <message>
+        <source>With that: %1</source>
+        <translation>Avec cela : %1</translation>
+    </message>
+    <message>
+        <source>Get It</source>
+        <translation>L’obtenir</translation>
+    </message>
+    <message>
+        <source>Leave It</source>
+        <translation>Laisser ainsi</translation>
+    </message>
+    <message>
+        <source>All %1</source>
+        <translation>Les %1</translation>
+    </message>
+</context>
+<context>
     <name>DialogWindow</name>
     <message>
         <source>Retry</source>
@@ -401,48 +446,6 @@
         <translation>Rétablir</translation>
     </message>
     <message>
-        <source>Why is there no &quot;%1&quot;?</source>
-        <translation>Pourquoi « %1 » n’est-il pas proposé ?</translation>
-    </message>
-    <message>
-        <source>Everything here can be chosen.</source>
-        <translation>Tout peut être choisi ici.</translation>
-    </message>
-    <message>
-        <source>Finding out…</source>
-        <translation>Recherche en cours…</translation>
-    </message>
-    <message>
-        <source>This cannot be explained.</source>
-        <translation>Cela ne peut pas être expliqué.</translation>
-    </message>
-    <message>
-        <source>With that: %1</source>
-        <translation>Avec cela : %1</translation>
-    </message>
-    <message>
-        <source>Get It</source>
-        <translation>L’obtenir</translation>
-    </message>
-    <message>
-        <source>Use %1</source>
-        <translation>Utiliser %1</translation>
-    </message>
-    <message>
-        <source>Leave It</source>
-        <translation>Laisser ainsi</translation>
-    </message>
-    <message>
-        <source>Not to be had now: %1
-Shift+F1 or the context menu tells why.</source>
-        <translation>Pas disponible actuellement : %1
-Maj+F1 ou le menu contextuel dit pourquoi.</translation>
-    </message>
-    <message>
-        <source>, </source>
-        <translation>, </translation>
-    </message>
-    <message>
         <source>Print job %1 all the same?</source>
         <translation>Imprimer quand même le travail %1 ?</translation>
     </message>
@@ -472,6 +475,10 @@ Maj+F1 ou le menu contextuel dit pourquoi.</translation>
     <message>
         <source>Summary</source>
         <translation>Récapitulatif</translation>
+    </message>
+    <message>
+        <source>Supplies</source>
+        <translation>Consommables</translation>
     </message>
 </context>
 <context>
@@ -1414,6 +1421,10 @@ Maj+F1 ou le menu contextuel dit pourquoi.</translation>
         <source>The printer's default</source>
         <translation>Valeur par défaut de l’imprimante</translation>
     </message>
+    <message>
+        <source>%1: %2 – %3</source>
+        <translation>%1 : %2 – %3</translation>
+    </message>
 </context>
 <context>
     <name>OutputFile</name>
@@ -1831,6 +1842,13 @@ Maj+F1 ou le menu contextuel dit pourquoi.</translation>
     </message>
 </context>
 <context>
+    <name>PrinterDoubts</name>
+    <message>
+        <source>The paper of this job is not loaded: %1. There is %2.</source>
+        <translation>Le papier de ce travail n’est pas chargé : %1. Il y a %2.</translation>
+    </message>
+</context>
+<context>
     <name>PrinterPopUp</name>
     <message>
         <source>No printer</source>
@@ -1847,6 +1865,10 @@ Maj+F1 ou le menu contextuel dit pourquoi.</translation>
     <message>
         <source>No longer on the print server</source>
         <translation>N’est plus sur le serveur d’impression</translation>
+    </message>
+    <message>
+        <source>Jobs in the queue: %1</source>
+        <translation>Travaux en file d’attente : %1</translation>
     </message>
 </context>
 <context>
@@ -2411,6 +2433,30 @@ Maj+F1 ou le menu contextuel dit pourquoi.</translation>
         <source>There are too many conditions to explain why %1 is not there.</source>
         <translation>Il y a trop de conditions pour expliquer pourquoi %1 n'est pas possible.</translation>
     </message>
+    <message>
+        <source>use %1</source>
+        <translation>utiliser %1</translation>
+    </message>
+    <message>
+        <source>turn on %1</source>
+        <translation>activer %1</translation>
+    </message>
+    <message>
+        <source>turn off %1</source>
+        <translation>désactiver %1</translation>
+    </message>
+    <message>
+        <source>use %1 and %2</source>
+        <translation>utiliser %1 et %2</translation>
+    </message>
+    <message>
+        <source>turn on %1 and %2</source>
+        <translation>activer %1 et %2</translation>
+    </message>
+    <message>
+        <source>turn off %1 and %2</source>
+        <translation>désactiver %1 et %2</translation>
+    </message>
 </context>
 <context>
     <name>SummaryPart</name>
@@ -2421,6 +2467,76 @@ Maj+F1 ou le menu contextuel dit pourquoi.</translation>
     <message>
         <source>Copy as Text</source>
         <translation>Copier comme texte</translation>
+    </message>
+</context>
+<context>
+    <name>Supplies</name>
+    <message>
+        <source>Supply %1</source>
+        <translation>Consommable %1</translation>
+    </message>
+    <message>
+        <source>Not known</source>
+        <translation>Non connu</translation>
+    </message>
+    <message>
+        <source>Some left</source>
+        <translation>Il en reste</translation>
+    </message>
+    <message>
+        <source>Some room left</source>
+        <translation>Il reste de la place</translation>
+    </message>
+    <message>
+        <source>%1%</source>
+        <translation>%1 %</translation>
+    </message>
+    <message>
+        <source>%1% full</source>
+        <translation>Plein à %1 %</translation>
+    </message>
+    <message>
+        <source>Low: %1%</source>
+        <translation>Bientôt vide : %1 %</translation>
+    </message>
+    <message>
+        <source>Almost full: %1%</source>
+        <translation>Bientôt plein : %1 %</translation>
+    </message>
+    <message>
+        <source>Empty</source>
+        <translation>Vide</translation>
+    </message>
+    <message>
+        <source>Full</source>
+        <translation>Plein</translation>
+    </message>
+    <message>
+        <source>Used up in the printer: %1.</source>
+        <translation>Épuisé dans l’imprimante : %1.</translation>
+    </message>
+    <message>
+        <source>Full in the printer: %1.</source>
+        <translation>Plein dans l’imprimante : %1.</translation>
+    </message>
+    <message>
+        <source>Running low in the printer: %1.</source>
+        <translation>Bientôt épuisé dans l’imprimante : %1.</translation>
+    </message>
+    <message>
+        <source>, </source>
+        <translation>, </translation>
+    </message>
+</context>
+<context>
+    <name>SuppliesPane</name>
+    <message>
+        <source>, </source>
+        <translation>, </translation>
+    </message>
+    <message>
+        <source>Paper in the printer:</source>
+        <translation>Papier dans l’imprimante :</translation>
     </message>
 </context>
 <context>
@@ -2688,6 +2804,13 @@ Maj+F1 ou le menu contextuel dit pourquoi.</translation>
     <message>
         <source>%1: %2 (%3)</source>
         <translation>%1 : %2 (%3)</translation>
+    </message>
+</context>
+<context>
+    <name>ListAdvice</name>
+    <message>
+        <source>Not to be had now: %1</source>
+        <translation>Pas disponible actuellement : %1</translation>
     </message>
 </context>
 </TS>

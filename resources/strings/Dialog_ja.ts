@@ -195,6 +195,51 @@
     </message>
 </context>
 <context>
+    <name>DialogAdvice</name>
+    <message>
+        <source>Why is there no &quot;%1&quot;?</source>
+        <translation>「%1」がないのはなぜですか?</translation>
+    </message>
+    <message>
+        <source>Everything here can be chosen.</source>
+        <translation>ここにあるものはすべて選べます。</translation>
+    </message>
+    <message>
+        <source>Not to be had now: %1
+Shift+F1 or the context menu tells why.</source>
+        <translation>今は選べないもの: %1
+理由は Shift+F1 キーまたは右クリックで分かります。</translation>
+    </message>
+    <message>
+        <source>, </source>
+        <translation>、</translation>
+    </message>
+    <message>
+        <source>Finding out…</source>
+        <translation>調べています…</translation>
+    </message>
+    <message>
+        <source>This cannot be explained.</source>
+        <translation>理由を説明できません。</translation>
+    </message>
+    <message>
+        <source>With that: %1</source>
+        <translation>これに伴う変更: %1</translation>
+    </message>
+    <message>
+        <source>Get It</source>
+        <translation>使えるようにする</translation>
+    </message>
+    <message>
+        <source>Leave It</source>
+        <translation>このままにする</translation>
+    </message>
+    <message>
+        <source>All %1</source>
+        <translation>%1 通りすべて</translation>
+    </message>
+</context>
+<context>
     <name>DialogWindow</name>
     <message>
         <source>Retry</source>
@@ -401,48 +446,6 @@
         <translation>やり直す</translation>
     </message>
     <message>
-        <source>Why is there no &quot;%1&quot;?</source>
-        <translation>「%1」がないのはなぜですか?</translation>
-    </message>
-    <message>
-        <source>Everything here can be chosen.</source>
-        <translation>ここにあるものはすべて選べます。</translation>
-    </message>
-    <message>
-        <source>Finding out…</source>
-        <translation>調べています…</translation>
-    </message>
-    <message>
-        <source>This cannot be explained.</source>
-        <translation>理由を説明できません。</translation>
-    </message>
-    <message>
-        <source>With that: %1</source>
-        <translation>これに伴う変更: %1</translation>
-    </message>
-    <message>
-        <source>Get It</source>
-        <translation>使えるようにする</translation>
-    </message>
-    <message>
-        <source>Use %1</source>
-        <translation>%1 を使う</translation>
-    </message>
-    <message>
-        <source>Leave It</source>
-        <translation>このままにする</translation>
-    </message>
-    <message>
-        <source>Not to be had now: %1
-Shift+F1 or the context menu tells why.</source>
-        <translation>今は選べないもの: %1
-理由は Shift+F1 キーまたは右クリックで分かります。</translation>
-    </message>
-    <message>
-        <source>, </source>
-        <translation>、</translation>
-    </message>
-    <message>
         <source>Print job %1 all the same?</source>
         <translation>それでもジョブ %1 を印刷しますか？</translation>
     </message>
@@ -472,6 +475,10 @@ Shift+F1 or the context menu tells why.</source>
     <message>
         <source>Summary</source>
         <translation>設定一覧</translation>
+    </message>
+    <message>
+        <source>Supplies</source>
+        <translation>消耗品</translation>
     </message>
 </context>
 <context>
@@ -1414,6 +1421,10 @@ Shift+F1 or the context menu tells why.</source>
         <source>The printer's default</source>
         <translation>プリンターの既定値</translation>
     </message>
+    <message>
+        <source>%1: %2 – %3</source>
+        <translation>%1：%2 – %3</translation>
+    </message>
 </context>
 <context>
     <name>OutputFile</name>
@@ -1831,6 +1842,13 @@ Shift+F1 or the context menu tells why.</source>
     </message>
 </context>
 <context>
+    <name>PrinterDoubts</name>
+    <message>
+        <source>The paper of this job is not loaded: %1. There is %2.</source>
+        <translation>このジョブの用紙「%1」はセットされていません。セットされているのは%2です。</translation>
+    </message>
+</context>
+<context>
     <name>PrinterPopUp</name>
     <message>
         <source>No printer</source>
@@ -1847,6 +1865,10 @@ Shift+F1 or the context menu tells why.</source>
     <message>
         <source>No longer on the print server</source>
         <translation>プリントサーバーからなくなりました</translation>
+    </message>
+    <message>
+        <source>Jobs in the queue: %1</source>
+        <translation>キューのジョブ: %1</translation>
     </message>
 </context>
 <context>
@@ -2411,6 +2433,30 @@ Shift+F1 or the context menu tells why.</source>
         <source>There are too many conditions to explain why %1 is not there.</source>
         <translation>条件が多すぎるため、%1 を選べない理由を説明できません。</translation>
     </message>
+    <message>
+        <source>use %1</source>
+        <translation>%1 を使う</translation>
+    </message>
+    <message>
+        <source>turn on %1</source>
+        <translation>%1 をオンにする</translation>
+    </message>
+    <message>
+        <source>turn off %1</source>
+        <translation>%1 をオフにする</translation>
+    </message>
+    <message>
+        <source>use %1 and %2</source>
+        <translation>%1 にして %2</translation>
+    </message>
+    <message>
+        <source>turn on %1 and %2</source>
+        <translation>%1 をオンにして %2</translation>
+    </message>
+    <message>
+        <source>turn off %1 and %2</source>
+        <translation>%1 をオフにして %2</translation>
+    </message>
 </context>
 <context>
     <name>SummaryPart</name>
@@ -2421,6 +2467,76 @@ Shift+F1 or the context menu tells why.</source>
     <message>
         <source>Copy as Text</source>
         <translation>テキストとしてコピー</translation>
+    </message>
+</context>
+<context>
+    <name>Supplies</name>
+    <message>
+        <source>Supply %1</source>
+        <translation>消耗品 %1</translation>
+    </message>
+    <message>
+        <source>Not known</source>
+        <translation>不明</translation>
+    </message>
+    <message>
+        <source>Some left</source>
+        <translation>残りあり</translation>
+    </message>
+    <message>
+        <source>Some room left</source>
+        <translation>空きあり</translation>
+    </message>
+    <message>
+        <source>%1%</source>
+        <translation>%1%</translation>
+    </message>
+    <message>
+        <source>%1% full</source>
+        <translation>%1% 使用済み</translation>
+    </message>
+    <message>
+        <source>Low: %1%</source>
+        <translation>残りわずか: %1%</translation>
+    </message>
+    <message>
+        <source>Almost full: %1%</source>
+        <translation>もうすぐいっぱい: %1%</translation>
+    </message>
+    <message>
+        <source>Empty</source>
+        <translation>なし</translation>
+    </message>
+    <message>
+        <source>Full</source>
+        <translation>いっぱい</translation>
+    </message>
+    <message>
+        <source>Used up in the printer: %1.</source>
+        <translation>プリンターで切れています: %1。</translation>
+    </message>
+    <message>
+        <source>Full in the printer: %1.</source>
+        <translation>プリンターでいっぱいになっています: %1。</translation>
+    </message>
+    <message>
+        <source>Running low in the printer: %1.</source>
+        <translation>プリンターで残りが少なくなっています: %1。</translation>
+    </message>
+    <message>
+        <source>, </source>
+        <translation>、</translation>
+    </message>
+</context>
+<context>
+    <name>SuppliesPane</name>
+    <message>
+        <source>, </source>
+        <translation>、</translation>
+    </message>
+    <message>
+        <source>Paper in the printer:</source>
+        <translation>プリンターの用紙:</translation>
     </message>
 </context>
 <context>
@@ -2688,6 +2804,13 @@ Shift+F1 or the context menu tells why.</source>
     <message>
         <source>%1: %2 (%3)</source>
         <translation>%1: %2 (%3)</translation>
+    </message>
+</context>
+<context>
+    <name>ListAdvice</name>
+    <message>
+        <source>Not to be had now: %1</source>
+        <translation>今は選べないもの: %1</translation>
     </message>
 </context>
 </TS>

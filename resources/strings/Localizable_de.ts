@@ -72,6 +72,11 @@
         <source>A4</source>
         <translation>A4</translation>
     </message>
+    <!-- Why a choice is not there -->
+    <message>
+        <source>Why Not VKBiDir=ON</source>
+        <translation>Manche Medien und Druckqualitäten werden mit Absicht nur in einer Richtung gedruckt, damit Linien und Flächen gleichmäßig bleiben.</translation>
+    </message>
     <!-- Paper that the printer cannot take -->
     <message>
         <source>Unsupported Paper Title</source>

@@ -72,6 +72,11 @@
         <source>A4</source>
         <translation>A4</translation>
     </message>
+    <!-- Why a choice is not there -->
+    <message>
+        <source>Why Not VKBiDir=ON</source>
+        <translation>Some media types and print qualities are printed in one direction on purpose, so that lines and areas stay even.</translation>
+    </message>
     <!-- Paper that the printer cannot take -->
     <message>
         <source>Unsupported Paper Title</source>

@@ -72,6 +72,11 @@
         <source>A4</source>
         <translation>A4</translation>
     </message>
+    <!-- Why a choice is not there -->
+    <message>
+        <source>Why Not VKBiDir=ON</source>
+        <translation>Certains supports et certaines qualités sont imprimés à dessein dans un seul sens, pour que les lignes et les aplats restent réguliers.</translation>
+    </message>
     <!-- Paper that the printer cannot take -->
     <message>
         <source>Unsupported Paper Title</source>

@@ -72,6 +72,11 @@
         <source>A4</source>
         <translation>A4</translation>
     </message>
+    <!-- Why a choice is not there -->
+    <message>
+        <source>Why Not VKBiDir=ON</source>
+        <translation>用紙の種類や印刷品質によっては、線や面にむらが出ないように、片方向だけで印刷します。</translation>
+    </message>
     <!-- Paper that the printer cannot take -->
     <message>
         <source>Unsupported Paper Title</source>

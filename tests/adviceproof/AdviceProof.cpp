@@ -64,7 +64,7 @@ public:
         for (const PPDMark &mark : state.walk)
             make(mark);
         m_conflicts = ppdConflicts(m_job.ppd());
-        m_doubts = doubtsOf(m_job).size();
+        m_doubts = doubtsOf(m_job, settingState(m_job)).size();
     }
 
     PrintJob &job() { return m_job; }
@@ -89,7 +89,7 @@ public:
         const bool stand =
             std::ranges::all_of(changes, [this](const PPDMark &one) { return has(one); });
         return isMarked && stand && ppdConflicts(m_job.ppd()) <= m_conflicts &&
-               doubtsOf(m_job).size() <= m_doubts;
+               doubtsOf(m_job, settingState(m_job)).size() <= m_doubts;
     }
 
 private:

@@ -44,6 +44,8 @@ const TagCase kTagCases[] = {
     {"Nonsense", u"japanese"_s, QString()},
     {"CapitalLanguage", u"JA_JP"_s, QString()},
     {"SmallRegion", u"ja_jp"_s, QString()},
+    {"NoRegionAfterTheUnderscore", u"ja_"_s, QString()},
+    {"ModifierBeforeTheEncoding", u"ja@x.y"_s, u"ja"_s},
     {"Path", u"../ja"_s, QString()},
     {"OneLetter", u"j"_s, QString()},
     {"TrailingLineEnd", u"ja\n"_s, QString()},

@@ -101,6 +101,15 @@ TEST_F(InstalledExample, PutsItsSettingsIntoTheJob)
                               "print-scaling=auto", "com.example.print.Darkness=2"}));
 }
 
+TEST_F(InstalledExample, SaysItselfWhyAChoiceIsNotThere)
+{
+    const ProgramRun why = run({u"--ppd"_s, examplePPD(), u"--why"_s, u"ExMedium=Card"_s});
+    EXPECT_EQ(why.status, 0) << why.errors.toStdString();
+    EXPECT_THAT(why.output.toStdString(),
+                testing::StartsWith("Cards are printed one by one from the rear, where only small "
+                                    "paper fits. Card is not there for "));
+}
+
 TEST_F(InstalledExample, IsNotUsedForAPrinterOfOurs)
 {
     const QByteArrayList options =

@@ -25,6 +25,7 @@ const QStringList KEYS{
     u"Layout"_s,
     u"OtherOption"_s,
     u"A4"_s,
+    u"Why Not VKBiDir=ON"_s,
     u"Unsupported Paper Title"_s,
     u"Unsupported Paper MSG1"_s,
     u"Unsupported Paper MSG2"_s,
@@ -81,7 +82,7 @@ TEST_P(StringTables, HaveAJapaneseTextInJapanese)
 
 std::string nameOfKey(const testing::TestParamInfo<QString> &info)
 {
-    return QString(info.param).remove(u' ').toStdString();
+    return QString(info.param).remove(QRegularExpression(u"[ =]"_s)).toStdString();
 }
 
 INSTANTIATE_TEST_SUITE_P(Keys, StringTables, testing::ValuesIn(KEYS), nameOfKey);

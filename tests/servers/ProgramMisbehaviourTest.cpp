@@ -48,6 +48,7 @@ TEST_P(Program, EndsWithAStatusAndOneSentence)
 }
 
 const auto kGet = u"GET /printers/photo.ppd"_s;
+const auto kAsk = u"Get-Printer-Attributes"_s;
 
 INSTANTIATE_TEST_SUITE_P(
     Table, Program,
@@ -57,7 +58,8 @@ INSTANTIATE_TEST_SUITE_P(
                     0,
                     "request id is photo-7 (1 file(s))\n",
                     "",
-                    QStringList{kGet} + creatingJob({u"Send-Document"_s, u"Get-Job-Attributes"_s})},
+                    QStringList{kGet, kAsk} +
+                        creatingJob({u"Send-Document"_s, u"Get-Job-Attributes"_s})},
         ProgramCase{"IsRedirected",
                     {{"GET", answerWith(httpAnswer("301 Moved Permanently",
                                                    "text/plain\r\nLocation: /other", "away"))}},
@@ -85,7 +87,7 @@ INSTANTIATE_TEST_SUITE_P(
             6,
             "",
             "velkaro-print: The print server %1 reports a fault: Disk full [31m<b>now</b>.\n",
-            QStringList{kGet} + creatingJob()},
+            QStringList{kGet, kAsk} + creatingJob()},
         ProgramCase{
             "GetsAJobWithANegativeNumber",
             {{"Create-Job",
@@ -94,7 +96,7 @@ INSTANTIATE_TEST_SUITE_P(
             6,
             "",
             "velkaro-print: The answer of the print server %1 cannot be understood.\n",
-            QStringList{kGet} + creatingJob()},
+            QStringList{kGet, kAsk} + creatingJob()},
         ProgramCase{"GetsNestedCollectionsForTheAcceptedJob",
                     {{"Get-Job-Attributes",
                       answerIpp(IppBytes().group(IPP_TAG_JOB).nested("x", 9000).ended())}},
@@ -102,7 +104,7 @@ INSTANTIATE_TEST_SUITE_P(
                     "request id is photo-7 (1 file(s))\n",
                     "velkaro-print: Whether the server keeps all settings of job 7 is not known: "
                     "its account of the job cannot be read.\n",
-                    QStringList{kGet} +
+                    QStringList{kGet, kAsk} +
                         creatingJob({u"Send-Document"_s, u"Get-Job-Attributes"_s})}),
     CaseName());
 

@@ -4,6 +4,7 @@
 #include "tests/support/Files.h"
 #include "tests/support/QStringPrinting.h"
 
+#include <QtCore/QRegularExpression>
 #include <QtCore/QTemporaryDir>
 
 #include <gmock/gmock.h>
@@ -47,6 +48,19 @@ QString panelSources()
     return all;
 }
 
+/// Whether the dialog looks the key up when somebody asks for a choice that the sample printers
+/// have.
+bool isOfMissingChoice(const QString &key)
+{
+    static const QRegularExpression pattern(u"^Why Not ([^=]+)=(.+)$"_s);
+    const QRegularExpressionMatch found = pattern.match(key);
+    QString printer;
+    for (const QString &file : filesBelow(u"resources/ppd"_s, {u"*.drv"_s, u"*.h"_s}))
+        printer += contents(file);
+    return found.hasMatch() && printer.contains(u'"' + found.captured(1) + u'/') &&
+           printer.contains(u'"' + found.captured(2) + u'/');
+}
+
 class StringTable : public testing::TestWithParam<QString>
 {};
 
@@ -57,7 +71,8 @@ TEST_P(StringTable, HasEveryKeyThatThePanelsLookUpAndNoOther)
     for (const QString &key : keysLookedUp(sources))
         EXPECT_THAT(keys, testing::Contains(key));
     for (const QString &key : keys)
-        EXPECT_TRUE(sources.contains(u'"' + key + u'"')) << qPrintable(key) << " is not looked up";
+        EXPECT_TRUE(sources.contains(u'"' + key + u'"') || isOfMissingChoice(key))
+            << qPrintable(key) << " is not looked up";
 }
 
 INSTANTIATE_TEST_SUITE_P(Languages, StringTable,

@@ -19,5 +19,9 @@
         <source>Cancel</source>
         <translation>Cancel</translation>
     </message>
+    <message>
+        <source>Why Not ExMedium=Card</source>
+        <translation>Cards are printed one by one from the rear, where only small paper fits.</translation>
+    </message>
 </context>
 </TS>

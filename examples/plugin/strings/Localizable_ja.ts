@@ -19,5 +19,9 @@
         <source>Cancel</source>
         <translation>キャンセル</translation>
     </message>
+    <message>
+        <source>Why Not ExMedium=Card</source>
+        <translation>カードは背面から 1 枚ずつ印刷するため、小さい用紙でしか使えません。</translation>
+    </message>
 </context>
 </TS>

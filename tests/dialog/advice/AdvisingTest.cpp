@@ -112,6 +112,15 @@ const Question kQuestions[] = {
      {{u"VKMediaType"_s, u"Inkjet"_s}},
      u"Photo is not there for Plain Paper. It is there for Inkjet Paper, Velkaro Photo Paper, "
      u"Glossy and 4 more."_s},
+    {"WhatThePlugInSwitchesOffOnPurpose",
+     u"velkaro-px-t900"_s,
+     {{u"VKMediaType"_s, u"Glossy"_s}},
+     {u"VKBiDir"_s, u"ON"_s},
+     Possible,
+     {{u"VKResolution"_s, u"Fast"_s}},
+     u"Some media types and print qualities are printed in one direction on purpose, so that lines "
+     u"and areas stay even. Bi-Directional Printing: On is not there for Photo. It is there for "
+     u"Fast Photo."_s},
     {"AMediumThatNeedsAnotherPaper",
      u"velkaro-px-t900"_s,
      {},

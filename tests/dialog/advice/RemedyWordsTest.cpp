@@ -103,4 +103,50 @@ const Wording kWordings[] = {
 
 INSTANTIATE_TEST_SUITE_P(, WordsOf, testing::ValuesIn(kWordings), CaseName());
 
+struct Titling
+{
+    std::string behaviour;
+    Remedy remedy;
+    PPDMark wanted;
+    QString title;
+};
+
+class TitleOf : public testing::TestWithParam<Titling>
+{};
+
+TEST_P(TitleOf, ARemedy)
+{
+    EXPECT_EQ(remedyTitle(printer().get(), GetParam().remedy, GetParam().wanted), GetParam().title);
+}
+
+const Titling kTitlings[] = {
+    {"OneChange",
+     remedy({medium(u"Plain"_s)}),
+     {u"Quality"_s, u"Normal"_s},
+     u"Use Plain Paper and use Normal"_s},
+    {"OneThatIsTurnedOff",
+     remedy({{u"Sides"_s, u"On"_s, u"None"_s}}),
+     {u"Medium"_s, u"Matte"_s},
+     u"Turn off Two-Sided and use Matte"_s},
+    {"SeveralChanges",
+     remedy({kSides, medium(u"Plain"_s)}),
+     {u"Speed"_s, u"Off"_s},
+     u"Turn on Two-Sided and use Plain Paper and turn off Speed"_s},
+};
+
+INSTANTIATE_TEST_SUITE_P(, TitleOf, testing::ValuesIn(kTitlings), CaseName());
+
+TEST(RemediesOfOneSetting, AreAllThatASentenceLists)
+{
+    const Advice advice{u"Quality"_s,
+                        u"Normal"_s,
+                        Possible,
+                        {remedy({medium(u"Card"_s)}), remedy({kSides}), remedy({medium(u"Film"_s)}),
+                         remedy({medium(u"Plain"_s)})},
+                        {}};
+    EXPECT_EQ(remediesOfOneSetting(printer().get(), advice),
+              (QList<Remedy>{remedy({medium(u"Card"_s)}), remedy({medium(u"Plain"_s)}),
+                             remedy({medium(u"Film"_s)})}));
+}
+
 } // namespace

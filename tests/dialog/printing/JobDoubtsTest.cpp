@@ -39,8 +39,8 @@ TEST_P(DoubtfulJobs, AreToldInOneSentenceEach)
     static_cast<void>(makeSettings(job, GetParam().wanted));
     const SettingState before = settingState(job);
     ASSERT_TRUE(askPanels(*job.session()));
-    EXPECT_EQ(replacedBySaving(job, before), GetParam().replaced);
-    EXPECT_EQ(doubtsOf(job), GetParam().doubts);
+    EXPECT_EQ(replacedBySaving(job, before, settingState(job)), GetParam().replaced);
+    EXPECT_EQ(doubtsOf(job, settingState(job)), GetParam().doubts);
     EXPECT_EQ(adviceFor(job), GetParam().advice);
 }
 

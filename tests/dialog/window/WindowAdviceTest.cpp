@@ -5,7 +5,10 @@
 #include <QtGui/QContextMenuEvent>
 #include <QtGui/QHelpEvent>
 #include <QtGui/QTextDocumentFragment>
+#include <QtWidgets/QAbstractItemView>
+#include <QtWidgets/QLabel>
 #include <QtWidgets/QMenu>
+#include <QtWidgets/QPushButton>
 #include <QtWidgets/QToolTip>
 
 using namespace Qt::StringLiterals;
@@ -87,7 +90,10 @@ TEST_F(WindowAdvice, CanBeAskedOfAControlThatIsSwitchedOff)
     auto *box = part<QWidget>("biDirButton");
     ASSERT_FALSE(box->isEnabled());
     openMenu(box);
-    EXPECT_EQ(questions(), QStringList{u"Why is there no \"Bi-Directional Printing: On\"?"_s});
+    EXPECT_EQ(questions(),
+              (QStringList{u"Bi-Directional Printing: Off – Because you chose Media "
+                           "Type: Other Glossy Paper"_s,
+                           QString(), u"Why is there no \"Bi-Directional Printing: On\"?"_s}));
 }
 
 TEST_F(WindowAdvice, IsAskedByTheKeyboardToo)
@@ -122,7 +128,86 @@ TEST_F(WindowAdvice, SaysWhereEverythingCanBeChosen)
 {
     open();
     openMenu(part<QWidget>("monoColorPopup"));
-    EXPECT_EQ(questions(), QStringList{u"Everything here can be chosen."_s});
+    EXPECT_EQ(questions().last(), u"Everything here can be chosen."_s);
+}
+
+TEST_F(WindowAdvice, TellsWhereAValueComesFrom)
+{
+    open();
+    pick("mediaTypePopup", u"Glossy"_s);
+    openMenu(part<QWidget>("resolutionPopup"));
+    const QString line =
+        u"Print Quality: Photo – Because you chose Media Type: Other Glossy Paper"_s;
+    EXPECT_EQ(questions(line).first(), line);
+    EXPECT_EQ(notice(), line);
+    openMenu(part<QWidget>("mediaTypePopup"));
+    EXPECT_EQ(questions().first(), u"Media Type: Other Glossy Paper – Your choice"_s);
+}
+
+TEST_F(WindowAdvice, OpensALongListOfWays)
+{
+    open();
+    openMenu(part<QWidget>("resolutionPopup"));
+    questions(u"Why is there no \"Photo\"?"_s);
+    ASSERT_TRUE(waitForOffer("allWaysButton"));
+    ASSERT_TRUE(notice().contains(u"It is there for Inkjet Paper, Velkaro Photo Paper, Glossy and "
+                                  "4 more."_s))
+        << notice().toStdString();
+    auto *menu = part<QPushButton>("allWaysButton")->menu();
+    QStringList ways;
+    for (const QAction *action : menu->actions())
+        ways += action->text();
+    EXPECT_EQ(ways,
+              (QStringList{u"Inkjet Paper"_s, u"Velkaro Photo Paper, Glossy"_s,
+                           u"Velkaro Photo Paper, Glossy Roll"_s, u"Velkaro QM41 Matte Paper"_s,
+                           u"Other Glossy Paper"_s, u"Postcard, Picture Side"_s}));
+    const std::string before = state();
+    menu->actions().constLast()->trigger();
+    QCoreApplication::processEvents();
+    EXPECT_EQ(marked(u"VKResolution"_s), u"Photo"_s);
+    undo();
+    EXPECT_EQ(state(), before);
+}
+
+/// The line under the list, as far as it is there.
+QString lineUnder(const PopUpButton &popup)
+{
+    const auto *line = popup.view()->window()->findChild<QLabel *>(u"listAdvice"_s);
+    return line && line->isVisible() ? line->text() : QString();
+}
+
+TEST_F(WindowAdvice, SaysUnderAnOpenListWhatIsNotThere)
+{
+    open();
+    const std::string before = state();
+    auto *popup = part<PopUpButton>("resolutionPopup");
+    popup->showPopup();
+    EXPECT_TRUE(lineUnder(*popup).startsWith(u"Not to be had now: "_s))
+        << lineUnder(*popup).toStdString();
+    const auto isAnswered = [&] { return lineUnder(*popup).contains(u"It is there for "_s); };
+    ASSERT_TRUE(QTest::qWaitFor(isAnswered, kTimeout)) << lineUnder(*popup).toStdString();
+    EXPECT_EQ(popup->view()->accessibleDescription(), lineUnder(*popup));
+    popup->hidePopup();
+    EXPECT_EQ(lineUnder(*popup), QString());
+    EXPECT_EQ(popup->view()->accessibleDescription(), QString());
+    EXPECT_EQ(state(), before);
+}
+
+TEST_F(WindowAdvice, SaysUnderAnOpenListWhyTheItemUnderThePointerIsSwitchedOff)
+{
+    open();
+    pick("mediaTypePopup", u"Glossy"_s);
+    auto *popup = part<PopUpButton>("paperFeedPopup");
+    const int tray = popup->indexOfRepresentedObject(u"Tray2"_s);
+    ASSERT_GE(tray, 0);
+    ASSERT_FALSE(popup->isItemEnabled(tray));
+    popup->showPopup();
+    QAbstractItemView *rows = popup->view();
+    QTest::mouseMove(rows->viewport(), rows->visualRect(rows->model()->index(tray, 0)).center());
+    const QString answer = popup->itemText(tray) + u" is not there for Other Glossy Paper."_s;
+    EXPECT_TRUE(QTest::qWaitFor([&] { return lineUnder(*popup).startsWith(answer); }, kTimeout))
+        << lineUnder(*popup).toStdString();
+    popup->hidePopup();
 }
 
 TEST_F(WindowAdvice, OffersTheWaysToARefusedChoice)
@@ -138,7 +223,10 @@ TEST_F(WindowAdvice, OffersTheWaysToARefusedChoice)
     ASSERT_EQ(marked(u"VKMediaType"_s), u"PlainDuplex"_s);
     ASSERT_TRUE(waitForOffer("remedyButton"));
     EXPECT_EQ(notice(), refusal);
-    EXPECT_EQ(offers().first(), u"Use Two-Sided Printing: Off"_s);
+    EXPECT_EQ(offers().first().simplified(),
+              u"Turn off Two-Sided Printing and use Transparencies"_s);
+    EXPECT_EQ(part<QPushButton>("remedyButton")->accessibleName(),
+              u"Turn off Two-Sided Printing and use Transparencies"_s);
     EXPECT_EQ(offers().last(), u"Leave It"_s);
     const std::string before = state();
     click("remedyButton");

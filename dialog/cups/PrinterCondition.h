@@ -1,0 +1,26 @@
+#pragma once
+
+#include "dialog/cups/LoadedMedia.h"
+#include "dialog/cups/Supplies.h"
+#include "dialog/work/CallGuard.h"
+#include "dialog/work/Result.h"
+
+#include <QtCore/QString>
+
+/// How a printer is before something is printed on it. What it does not tell is not there.
+struct PrinterCondition
+{
+    int queuedJobs = 0; ///< that wait at the queue or are being printed
+    QList<Supply> supplies;
+    QList<LoadedMedium> loaded;
+
+    bool operator==(const PrinterCondition &) const = default;
+};
+
+/// Out of the printer's attributes.
+PrinterCondition conditionOf(ipp_t *printer);
+
+/// Asks the server (null: the user's usual one) how the queue's printer is. Blocks: call it in a
+/// BackgroundCall.
+Result<PrinterCondition> askCondition(const QString &server, const QString &queue,
+                                      CallGuard &guard);

@@ -1,0 +1,84 @@
+#include "dialog/printing/PrinterDoubts.h"
+
+#include "dialog/cups/PrinterCondition.h"
+#include "dialog/job/ColorMode.h"
+#include "dialog/job/PaperSizes.h"
+#include "dialog/job/Papers.h"
+#include "dialog/job/StandardAttributes.h"
+#include "dialog/printing/PrintJob.h"
+#include "platform/ppd/PPDText.h"
+#include "platform/toolkit/PlainText.h"
+
+#include <QtCore/QCoreApplication>
+
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr auto kSlot = "InputSlot"_L1;
+constexpr auto kColorModel = "ColorModel"_L1;
+
+/// A mark that is the printer's default is not among what is sent.
+bool mayPrintInColor(const PrintJob &job)
+{
+    const QString model = markedChoice(job.ppd(), kColorModel);
+    return ::mayPrintInColor(standardAttributesBeside({{kColorModel, model}}) +
+                             job.options().options);
+}
+
+bool isInTrouble(const Supply &supply)
+{
+    return supply.state == SupplyState::Low || supply.state == SupplyState::Empty;
+}
+
+/// Most printers have all they need, and nothing is worked out for them.
+QStringList doubtsOnSupplies(const PrintJob &job, const QList<Supply> &supplies)
+{
+    return std::ranges::any_of(supplies, isInTrouble) ? sentencesOn(supplies, mayPrintInColor(job))
+                                                      : QStringList();
+}
+
+QString mediumText(const QList<PaperSize> &papers, const LoadedMedium &medium)
+{
+    const auto known = std::ranges::find_if(papers, [&](const PaperSize &paper) {
+        return isLoaded({medium}, paper.width, paper.height);
+    });
+    return known == papers.end() ? measureText(medium.width, medium.height)
+                                 : displayText(known->text);
+}
+
+QStringList textsOf(const PrintJob &job, const QList<LoadedMedium> &media)
+{
+    const QList<PaperSize> papers = paperSizes(job.ppd());
+    QStringList texts;
+    for (const LoadedMedium &medium : media)
+        texts += mediumText(papers, medium);
+    texts.removeDuplicates();
+    return texts;
+}
+
+QStringList doubtsOnPaper(const PrintJob &job, const QList<LoadedMedium> &loaded)
+{
+    const std::optional<PMPaper> sheet = job.sheet();
+    const QList<LoadedMedium> there = mediaIn(loaded, markedChoice(job.ppd(), kSlot));
+    if (there.isEmpty() || !sheet || isLoaded(there, sheet->width, sheet->height))
+        return {};
+    return {QCoreApplication::translate("PrinterDoubts",
+                                        "The paper of this job is not loaded: %1. There is %2.")
+                .arg(displayText(paperText(job.ppd(), *sheet)),
+                     textsOf(job, there).join(QCoreApplication::translate("Supplies", ", ")))};
+}
+
+} // namespace
+
+QStringList doubtsAboutPrinter(const PrintJob &job, const PrinterCondition &printer)
+{
+    return doubtsOnSupplies(job, printer.supplies) + doubtsOnPaper(job, printer.loaded);
+}
+
+QStringList loadedTexts(const PrintJob &job, const PrinterCondition &printer)
+{
+    return textsOf(job, printer.loaded);
+}
