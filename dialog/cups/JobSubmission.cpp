@@ -41,16 +41,16 @@ Result<JobReceipt> submitJob(const JobRequest &request, CallGuard &guard,
         return unchanged.fault();
     ServerConnection connection(request.server, guard);
     if (!connection.isConnected() || guard.isCancelled())
-        return connection.lastFault(request.queue);
+        return notPrinted(connection.lastFault(request.queue), request.queue);
     const Result<QueueInfluence> influence = lookAhead(connection, request);
     if (!influence)
-        return influence.fault();
+        return notPrinted(influence.fault(), request.queue);
     const JobRequest job = prepared(request, *influence);
     const IppHandle created =
         connection.request(jobTemplate(IPP_OP_CREATE_JOB, job), queueResource(job.queue));
     const int id = connection.succeeded() && created ? createdJob(created) : 0;
     if (id == 0)
-        return connection.lastFault(job.queue);
+        return notPrinted(connection.lastFault(job.queue), job.queue);
     progress->setId(id);
     progress->setOnTrial(job.isOnTrial);
     const auto [sent, fault] = sendDocuments(connection, job, *progress);
@@ -63,6 +63,7 @@ Result<JobReceipt> givenUpReceipt(const JobRequest &request, const JobProgress &
 {
     if (progress.isAccepted())
         return JobReceipt{progress.id(), {}, progress.isOnTrial()};
-    return progress.id() == 0 ? silentServer(request.server)
-                              : perhapsPrinted(nameOfServer(request.server), progress.id());
+    return progress.id() == 0
+               ? notPrinted(silentServer(request.server), request.queue)
+               : perhapsPrinted(nameOfServer(request.server), request.queue, progress.id());
 }

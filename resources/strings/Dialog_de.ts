@@ -1127,24 +1127,32 @@ Umschalt+F1 oder das Kontextmenü sagt, warum.</translation>
 <context>
     <name>JobSettlement</name>
     <message>
-        <source>%1 Job %2 could not be cancelled at %3 and may be printed.</source>
-        <translation>%1 Auftrag %2 konnte auf %3 nicht abgebrochen werden und wird möglicherweise gedruckt.</translation>
+        <source>%1 Job %2 on %3 could not be cancelled at %4 and may be printed.</source>
+        <translation>%1 Auftrag %2 auf %3 konnte auf %4 nicht abgebrochen werden und wird möglicherweise gedruckt.</translation>
     </message>
     <message>
-        <source>The print server %1 cancelled job %2.</source>
-        <translation>Der Druckserver %1 hat Auftrag %2 abgebrochen.</translation>
+        <source>The print server %1 cancelled job %2 on %3.</source>
+        <translation>Der Druckserver %1 hat Auftrag %2 auf %3 abgebrochen.</translation>
     </message>
     <message>
-        <source>The print server %1 aborted job %2.</source>
-        <translation>Der Druckserver %1 hat Auftrag %2 vorzeitig beendet.</translation>
+        <source>The print server %1 aborted job %2 on %3.</source>
+        <translation>Der Druckserver %1 hat Auftrag %2 auf %3 vorzeitig beendet.</translation>
     </message>
     <message>
-        <source>The print server %1 did not say whether it took the job: it may have been printed as job %2.</source>
-        <translation>Der Druckserver %1 hat nicht mitgeteilt, ob er den Auftrag angenommen hat: Er wurde möglicherweise als Auftrag %2 gedruckt.</translation>
+        <source>The print server %1 did not say whether it took the job: it may have been printed as job %2 on %3.</source>
+        <translation>Der Druckserver %1 hat nicht mitgeteilt, ob er den Auftrag angenommen hat: Er wurde möglicherweise als Auftrag %2 auf %3 gedruckt.</translation>
     </message>
     <message>
         <source>The server holds job %1, which could not be released: %2</source>
         <translation>Der Server hält Auftrag %1 zurück; er konnte nicht freigegeben werden: %2</translation>
+    </message>
+    <message>
+        <source>Job %1 on %2 was cancelled: %3</source>
+        <translation>Auftrag %1 auf %2 wurde abgebrochen: %3</translation>
+    </message>
+    <message>
+        <source>Nothing was printed on %1: %2</source>
+        <translation>Auf %1 wurde nichts gedruckt: %2</translation>
     </message>
 </context>
 <context>

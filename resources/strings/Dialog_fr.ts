@@ -1127,24 +1127,32 @@ Maj+F1 ou le menu contextuel dit pourquoi.</translation>
 <context>
     <name>JobSettlement</name>
     <message>
-        <source>%1 Job %2 could not be cancelled at %3 and may be printed.</source>
-        <translation>%1 Le travail %2 n’a pas pu être annulé sur %3 et sera peut-être imprimé.</translation>
+        <source>%1 Job %2 on %3 could not be cancelled at %4 and may be printed.</source>
+        <translation>%1 Le travail %2 sur %3 n’a pas pu être annulé sur %4 et sera peut-être imprimé.</translation>
     </message>
     <message>
-        <source>The print server %1 cancelled job %2.</source>
-        <translation>Le serveur d’impression %1 a annulé le travail %2.</translation>
+        <source>The print server %1 cancelled job %2 on %3.</source>
+        <translation>Le serveur d’impression %1 a annulé le travail %2 sur %3.</translation>
     </message>
     <message>
-        <source>The print server %1 aborted job %2.</source>
-        <translation>Le serveur d’impression %1 a interrompu le travail %2.</translation>
+        <source>The print server %1 aborted job %2 on %3.</source>
+        <translation>Le serveur d’impression %1 a interrompu le travail %2 sur %3.</translation>
     </message>
     <message>
-        <source>The print server %1 did not say whether it took the job: it may have been printed as job %2.</source>
-        <translation>Le serveur d’impression %1 n’a pas indiqué s’il acceptait le travail : celui-ci a peut-être été imprimé comme travail %2.</translation>
+        <source>The print server %1 did not say whether it took the job: it may have been printed as job %2 on %3.</source>
+        <translation>Le serveur d’impression %1 n’a pas indiqué s’il acceptait le travail : celui-ci a peut-être été imprimé comme travail %2 sur %3.</translation>
     </message>
     <message>
         <source>The server holds job %1, which could not be released: %2</source>
         <translation>Le serveur retient le travail %1, qui n’a pas pu être libéré : %2</translation>
+    </message>
+    <message>
+        <source>Job %1 on %2 was cancelled: %3</source>
+        <translation>Le travail %1 sur %2 a été annulé : %3</translation>
+    </message>
+    <message>
+        <source>Nothing was printed on %1: %2</source>
+        <translation>Rien n’a été imprimé sur %1 : %2</translation>
     </message>
 </context>
 <context>

@@ -1127,24 +1127,32 @@ Shift+F1 or the context menu tells why.</source>
 <context>
     <name>JobSettlement</name>
     <message>
-        <source>%1 Job %2 could not be cancelled at %3 and may be printed.</source>
-        <translation>%1ジョブ %2 を %3 で取り消せませんでした。印刷される可能性があります。</translation>
+        <source>%1 Job %2 on %3 could not be cancelled at %4 and may be printed.</source>
+        <translation>%1%3 のジョブ %2 を %4 で取り消せませんでした。印刷される可能性があります。</translation>
     </message>
     <message>
-        <source>The print server %1 cancelled job %2.</source>
-        <translation>プリントサーバー %1 がジョブ %2 を取り消しました。</translation>
+        <source>The print server %1 cancelled job %2 on %3.</source>
+        <translation>プリントサーバー %1 が %3 のジョブ %2 を取り消しました。</translation>
     </message>
     <message>
-        <source>The print server %1 aborted job %2.</source>
-        <translation>プリントサーバー %1 がジョブ %2 を中止しました。</translation>
+        <source>The print server %1 aborted job %2 on %3.</source>
+        <translation>プリントサーバー %1 が %3 のジョブ %2 を中止しました。</translation>
     </message>
     <message>
-        <source>The print server %1 did not say whether it took the job: it may have been printed as job %2.</source>
-        <translation>プリントサーバー %1 から、ジョブを受け付けたかどうかの応答がありません。ジョブ %2 として印刷された可能性があります。</translation>
+        <source>The print server %1 did not say whether it took the job: it may have been printed as job %2 on %3.</source>
+        <translation>プリントサーバー %1 から、ジョブを受け付けたかどうかの応答がありません。%3 のジョブ %2 として印刷された可能性があります。</translation>
     </message>
     <message>
         <source>The server holds job %1, which could not be released: %2</source>
         <translation>サーバーがジョブ %1 を保留していますが、保留を解除できませんでした。%2</translation>
+    </message>
+    <message>
+        <source>Job %1 on %2 was cancelled: %3</source>
+        <translation>%2 のジョブ %1 は取り消されました。%3</translation>
+    </message>
+    <message>
+        <source>Nothing was printed on %1: %2</source>
+        <translation>%1 では何も印刷されませんでした。%2</translation>
     </message>
 </context>
 <context>

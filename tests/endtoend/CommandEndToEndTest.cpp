@@ -438,8 +438,10 @@ TEST_F(Command, AServerThatIsDownWhenTheJobIsReadyIsSaid)
     const ProgramRun run = runProgram({u"--no-dialog"_s, u"-h"_s, address, u"-d"_s, u"photo"_s,
                                        u"--ppd"_s, samplePPD(u"velkaro-px-t900"_s), pdf()});
     EXPECT_EQ(run.status, 6);
-    EXPECT_EQ(run.errors,
-              u"velkaro-print: The print server %1 cannot be reached.\n"_s.arg(address));
+    EXPECT_EQ(
+        run.errors,
+        u"velkaro-print: Nothing was printed on photo: The print server %1 cannot be reached.\n"_s
+            .arg(address));
 }
 
 TEST_F(Command, AServerThatNeverAnswersIsGivenUp)

@@ -132,29 +132,30 @@ INSTANTIATE_TEST_SUITE_P(
              jobInState(IPP_JSTATE_HELD, "job-incoming"),
              {},
              FaultKind::Silent,
-             "The print server %1 does not answer.",
+             "Job 7 on photo was cancelled: The print server %1 does not answer.",
              {kLook, kCancel}},
         Loss{"NotWholeAndNotToBeCancelled",
              kTakeAndHold,
              jobInState(IPP_JSTATE_HELD, "job-incoming"),
              kNotPossible,
              FaultKind::Unsettled,
-             "The print server %1 does not answer. Job 7 could not be cancelled at %1 and may be "
-             "printed.",
+             "The print server %1 does not answer. Job 7 on photo could not be cancelled at %1 and "
+             "may "
+             "be printed.",
              {kLook, kCancel, kLook}},
         Loss{"CancelledThere",
              kTakeAndClose,
              jobInState(IPP_JSTATE_CANCELED, "job-canceled-by-operator"),
              {},
              FaultKind::Refused,
-             "The print server %1 cancelled job 7.",
+             "The print server %1 cancelled job 7 on photo.",
              {kLook}},
         Loss{"AbortedThere",
              kTakeAndClose,
              jobInState(IPP_JSTATE_ABORTED, "aborted-by-system"),
              {},
              FaultKind::Refused,
-             "The print server %1 aborted job 7.",
+             "The print server %1 aborted job 7 on photo.",
              {kLook}},
         Loss{"Forgotten",
              kTakeAndClose,
@@ -162,7 +163,7 @@ INSTANTIATE_TEST_SUITE_P(
              {},
              FaultKind::Unsettled,
              "The print server %1 did not say whether it took the job: it may have been printed as "
-             "job 7.",
+             "job 7 on photo.",
              {kLook}},
         Loss{"NobodyToAsk",
              kTakeAndClose,
@@ -170,7 +171,7 @@ INSTANTIATE_TEST_SUITE_P(
              {},
              FaultKind::Unsettled,
              "The print server %1 did not say whether it took the job: it may have been printed as "
-             "job 7.",
+             "job 7 on photo.",
              {kLook}},
         // The answer is there: nothing is to be looked for.
         Loss{"RefusedByAnswer",
@@ -178,7 +179,7 @@ INSTANTIATE_TEST_SUITE_P(
              {},
              {},
              FaultKind::Refused,
-             "The print server %1 refused: IPP 0x040a.",
+             "Job 7 on photo was cancelled: The print server %1 refused: IPP 0x040a.",
              {kCancel}}),
     [](const auto &row) { return std::string(row.param.name); });
 
@@ -291,7 +292,7 @@ TEST_F(LostAnswer, IsKnownAsSoonAsTheServerHasSaidSo)
     sending.setId(kGoodJob);
     EXPECT_EQ(givenUpReceipt(request, sending).sentence(),
               u"The print server %1 did not say whether it took the job: it may have been printed "
-              "as job 7."_s.arg(server.address()));
+              "as job 7 on photo."_s.arg(server.address()));
 }
 
 } // namespace

@@ -86,7 +86,8 @@ INSTANTIATE_TEST_SUITE_P(
                                           .ended())}},
             6,
             "",
-            "velkaro-print: The print server %1 reports a fault: Disk full [31m<b>now</b>.\n",
+            "velkaro-print: Nothing was printed on photo: The print server %1 reports a fault: "
+            "Disk full [31m<b>now</b>.\n",
             QStringList{kGet, kAsk} + creatingJob()},
         ProgramCase{
             "GetsAJobWithANegativeNumber",
@@ -95,7 +96,9 @@ INSTANTIATE_TEST_SUITE_P(
                   IppBytes().group(IPP_TAG_JOB).integer(IPP_TAG_INTEGER, "job-id", -5).ended())}},
             6,
             "",
-            "velkaro-print: The answer of the print server %1 cannot be understood.\n",
+            "velkaro-print: Nothing was printed on photo: The answer of the print server %1 cannot "
+            "be "
+            "understood.\n",
             QStringList{kGet, kAsk} + creatingJob()},
         ProgramCase{"GetsNestedCollectionsForTheAcceptedJob",
                     {{"Get-Job-Attributes",
