@@ -16,7 +16,7 @@ struct UsualValue
 {
     QLatin1String name;
     QLatin1String value;   ///< that is shown of a job that does not say it
-    bool canBeSaid = true; ///< no value says "all pages"
+    bool canBeSaid = true; ///< no value says "all pages", or leaves the scaling to others
 };
 
 constexpr std::array kUsual{
@@ -26,7 +26,7 @@ constexpr std::array kUsual{
     UsualValue{"finishings"_L1, "3"_L1},
     UsualValue{"mirror"_L1, "false"_L1},
     UsualValue{"multiple-document-handling"_L1, "separate-documents-collated-copies"_L1},
-    UsualValue{"natural-scaling"_L1, "100"_L1},
+    UsualValue{"natural-scaling"_L1, "100"_L1, false},
     UsualValue{"number-up"_L1, "1"_L1},
     UsualValue{"number-up-layout"_L1, "lrtb"_L1},
     UsualValue{"orientation-requested"_L1, "3"_L1},
@@ -34,7 +34,7 @@ constexpr std::array kUsual{
     UsualValue{"page-border"_L1, "none"_L1},
     UsualValue{"page-ranges"_L1, "1-"_L1, false},
     UsualValue{"page-set"_L1, "all"_L1},
-    UsualValue{"scaling"_L1, "100"_L1},
+    UsualValue{"scaling"_L1, "100"_L1, false},
 };
 
 bool isSaid(const QList<JobOption> &options, const QString &name)

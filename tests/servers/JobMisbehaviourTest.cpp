@@ -10,6 +10,7 @@
 
 #include <gtest/gtest.h>
 
+#include <thread>
 #include <vector>
 
 using namespace Qt::StringLiterals;
@@ -68,7 +69,9 @@ TEST_P(AServerThatTakesJobs, IsTakenAtItsWord)
     EXPECT_EQ(receipt.sentence(), QString::fromUtf8(fateIn(GetParam()) + GetParam().sentence)
                                       .replace(u"%1"_s, server.address()));
     EXPECT_EQ(receipt ? receipt->notes : QStringList(), GetParam().notes);
-    EXPECT_EQ(server.requests(), GetParam().requests);
+    QStringList requests = server.requests();
+    requests.removeAll(u"OPTIONS *"_s); // how TLS is asked for
+    EXPECT_EQ(requests, GetParam().requests);
 }
 
 const QStringList kCreated = creatingJob();
@@ -243,6 +246,15 @@ JobMisbehaviour notTaken(const char *behaviour, const Steps &steps, const char *
     return {behaviour, {{"Send-Document", steps}}, fault, sentence, {}, kCancelled};
 }
 
+/// Leaves what is sent where it is, for longer than anybody waits.
+Step takeNoMore()
+{
+    return [](ServedConnection &) {
+        std::this_thread::sleep_for(3 * kShort);
+        return false;
+    };
+}
+
 /// Of a document that is on its way for longer than a moment.
 JobMisbehaviour large(JobMisbehaviour row)
 {
@@ -274,7 +286,7 @@ INSTANTIATE_TEST_SUITE_P(
         large(notTaken("ResetsInTheMiddleOfIt", {readBody(1000), resetConnection()},
                        "The print server %1 closed the connection without an answer.",
                        FaultKind::Unreachable)),
-        large(notTaken("FallsSilentInTheMiddleOfIt", {readBody(1000), hold()},
+        large(notTaken("FallsSilentInTheMiddleOfIt", {readBody(1000), takeNoMore()},
                        "The print server %1 does not answer.", FaultKind::Silent)),
         notTaken("RefusesItWithControlCharacters",
                  answerIpp(refusal(0x040A, "No\n\x1b[2Jroom \xe2\x80\xae<b>here</b>")),
