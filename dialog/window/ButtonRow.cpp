@@ -1,19 +1,37 @@
 #include "dialog/window/ButtonRow.h"
 
 #include <QtCore/QEvent>
+#include <QtWidgets/QGridLayout>
 #include <QtWidgets/QHBoxLayout>
 
 #include <algorithm>
 
-ButtonRow::ButtonRow(QWidget *parent) : QWidget(parent), m_lines(new QHBoxLayout(this))
+namespace {
+
+struct Place
 {
-    m_lines->setContentsMargins(0, 0, 0, 0);
+    int line;
+    int column;
+};
+
+// By how many groups stand in the first line, less one; each row indexed by ButtonRow::Group.
+constexpr std::array<std::array<Place, 3>, 3> kPlaces{{
+    {{{0, 0}, {1, 0}, {2, 0}}},
+    {{{0, 0}, {0, 1}, {1, 0}}},
+    {{{0, 0}, {0, 1}, {0, 2}}},
+}};
+
+} // namespace
+
+ButtonRow::ButtonRow(QWidget *parent) : QWidget(parent), m_grid(new QGridLayout(this))
+{
+    m_grid->setContentsMargins(0, 0, 0, 0);
+    m_grid->setColumnStretch(0, 1);
     for (QWidget *&group : m_groups) {
         group = new QWidget(this);
         (new QHBoxLayout(group))->setContentsMargins(0, 0, 0, 0);
-        const bool isFirst = &group == m_groups.data();
-        m_lines->addWidget(group, isFirst ? 1 : 0, isFirst ? Qt::Alignment() : Qt::AlignRight);
     }
+    arrange();
 }
 
 void ButtonRow::add(Group group, QWidget *widget, bool stretches)
@@ -22,17 +40,18 @@ void ButtonRow::add(Group group, QWidget *widget, bool stretches)
     static_cast<QHBoxLayout *>(holder->layout())->addWidget(widget, stretches ? 1 : 0);
 }
 
-int ButtonRow::widthOfALine() const
+/// The width of a line of the first groups.
+int ButtonRow::widthOfFirst(std::size_t groups) const
 {
-    int width = m_lines->spacing() * static_cast<int>(m_groups.size() - 1);
-    for (const QWidget *group : m_groups)
-        width += group->minimumSizeHint().width();
+    int width = m_grid->horizontalSpacing() * static_cast<int>(groups - 1);
+    for (std::size_t group = 0; group < groups; ++group)
+        width += m_groups[group]->minimumSizeHint().width();
     return width;
 }
 
 QSize ButtonRow::sizeHint() const
 {
-    return {widthOfALine(), QWidget::sizeHint().height()};
+    return {widthOfFirst(m_groups.size()), QWidget::sizeHint().height()};
 }
 
 QSize ButtonRow::minimumSizeHint() const
@@ -59,6 +78,17 @@ bool ButtonRow::event(QEvent *event)
 
 void ButtonRow::arrange()
 {
-    m_lines->setDirection(widthOfALine() <= width() ? QBoxLayout::LeftToRight
-                                                    : QBoxLayout::TopToBottom);
+    std::size_t inFirstLine = m_groups.size();
+    while (inFirstLine > 1 && widthOfFirst(inFirstLine) > width())
+        --inFirstLine;
+    if (inFirstLine == m_inFirstLine && m_grid->count() > 0)
+        return;
+    m_inFirstLine = inFirstLine;
+    for (std::size_t group = 0; group < m_groups.size(); ++group) {
+        const Place place = kPlaces[inFirstLine - 1][group];
+        const bool isAlone = place.column == 0 && place.line > 0;
+        m_grid->removeWidget(m_groups[group]);
+        m_grid->addWidget(m_groups[group], place.line, place.column, 1, isAlone ? -1 : 1,
+                          group == 0 ? Qt::Alignment() : Qt::AlignRight);
+    }
 }

@@ -4,10 +4,10 @@
 
 #include <array>
 
-class QBoxLayout;
+class QGridLayout;
 
 /// The buttons of a window, in groups that stand side by side where there is room for all of them,
-/// else one above the other.
+/// else the right one below the others, else each below the one before.
 class ButtonRow : public QWidget
 {
     Q_OBJECT
@@ -32,9 +32,10 @@ protected:
     bool event(QEvent *event) override;
 
 private:
-    int widthOfALine() const;
+    int widthOfFirst(std::size_t groups) const;
     void arrange();
 
-    QBoxLayout *m_lines;
+    QGridLayout *m_grid;
     std::array<QWidget *, 3> m_groups; ///< indexed by Group
+    std::size_t m_inFirstLine = 3;     ///< groups
 };

@@ -76,10 +76,10 @@ void DialogWindow::fitToPart()
     const DialogTabs::Part *part = m_tabs->currentPart();
     m_partHeight = part ? part->page->sizeHint().height() : 0;
     layout()->activate();
-    if (!part || !part->panel)
+    if (!part)
         return;
     setWidth(width() + std::max(0, part->page->sizeHint().width() - part->page->width()));
-    if (isVisible())
+    if (isVisible() && part->panel)
         setHeight(height() + std::max(0, m_partHeight - part->page->height()));
 }
 
@@ -95,7 +95,7 @@ void DialogWindow::followView()
     m_partHeight = wanted;
     layout()->activate();
     if (change < 0)
-        setHeight(height() + std::max(change, m_body->lackingSize().height()));
+        setHeight(height() + std::max(change, wanted - part->page->height()));
     else if (wanted > part->page->height())
         setHeight(height() + wanted - part->page->height());
     job().session()->windowDidResize();
@@ -106,8 +106,9 @@ void DialogWindow::fitToTexts()
 {
     layout()->activate();
     const int tabs = m_tabs->tabBar()->sizeHint().width() - m_tabs->width();
-    const int buttons = m_buttons->sizeHint().width() - m_body->width();
-    setWidth(width() + std::max({0, tabs, buttons, m_body->lackingSize().width()}));
+    const int buttons = m_buttons->sizeHint().width() - m_buttons->width();
+    const int head = m_head->sizeHint().width() - m_head->width();
+    setWidth(width() + std::max({0, tabs, buttons, head}));
 }
 
 void DialogWindow::setWidth(int width)

@@ -15,7 +15,12 @@
 #include "platform/toolkit/PlainText.h"
 #include "platform/toolkit/PopUpButton.h"
 
+#include <QtCore/QEvent>
 #include <QtCore/QSignalBlocker>
+#include <QtGui/QAction>
+#include <QtWidgets/QMenu>
+#include <QtWidgets/QTabBar>
+#include <QtWidgets/QToolButton>
 
 #include <algorithm>
 #include <utility>
@@ -41,15 +46,52 @@ bool hasKeywords(const HostPanel &panel)
 DialogTabs::DialogTabs(PrintJob &job, QWidget *parent)
     : QTabWidget(parent),
       m_job(job),
+      m_all(new QToolButton(this)),
       m_pageSetup(new PageSetupPane(job, this)),
       m_features(new FeaturesPane(job, this)),
       m_layout(new LayoutPane(job, this)),
       m_summary(new SummaryPart(this))
 {
     setObjectName(u"parts"_s);
+    m_all->setObjectName(u"allPartsButton"_s);
+    m_all->setFocusPolicy(Qt::TabFocus);
+    m_all->setArrowType(Qt::DownArrow);
+    giveAccessibleName(m_all, tr("All Parts"));
+    m_all->hide();
+    connect(m_all, &QToolButton::clicked, this, &DialogTabs::listParts);
     for (QWidget *pane : {static_cast<QWidget *>(m_pageSetup), static_cast<QWidget *>(m_features),
                           static_cast<QWidget *>(m_layout), static_cast<QWidget *>(m_summary)})
         pane->hide(); // a tab only where there is something to show
+}
+
+bool DialogTabs::event(QEvent *event)
+{
+    if (event->type() == QEvent::Resize || event->type() == QEvent::LayoutRequest)
+        showAllButton(tabBar()->sizeHint().width() > width());
+    return QTabWidget::event(event);
+}
+
+/// A corner keeps the room of a button that is hidden.
+void DialogTabs::showAllButton(bool isShown)
+{
+    if (isShown == (cornerWidget() != nullptr))
+        return;
+    setCornerWidget(isShown ? m_all : nullptr);
+    m_all->setVisible(isShown);
+}
+
+void DialogTabs::listParts()
+{
+    auto *list = new QMenu(m_all);
+    list->setObjectName(u"allParts"_s);
+    list->setAttribute(Qt::WA_DeleteOnClose);
+    for (int index = 0; index < count(); ++index) {
+        QAction *part = list->addAction(tabText(index));
+        part->setCheckable(true);
+        part->setChecked(index == currentIndex());
+        connect(part, &QAction::triggered, this, [this, index] { setCurrentIndex(index); });
+    }
+    list->popup(m_all->mapToGlobal(QPoint(0, m_all->height())));
 }
 
 void DialogTabs::addPart(const QString &name, QWidget *page, const QString &title,

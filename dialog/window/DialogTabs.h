@@ -13,10 +13,12 @@ class PopUpButton;
 class PrintJob;
 class SuppliesPane;
 class SummaryPart;
+class QToolButton;
 struct PrinterCondition;
 
 /// The tabs of the dialog: its own panes, which live as long as it does and are tabs where there is
-/// something to show, and a pane for each panel of the job's printer.
+/// something to show, and a pane for each panel of the job's printer. Where there is no room for
+/// all titles, a button beside them lists them all.
 class DialogTabs : public QTabWidget
 {
     Q_OBJECT
@@ -84,7 +86,12 @@ Q_SIGNALS:
     void listOpened(PopUpButton *popup);
     void listClosed();
 
+protected:
+    bool event(QEvent *event) override;
+
 private:
+    void showAllButton(bool isShown);
+    void listParts();
     void addPart(const QString &name, QWidget *page, const QString &title,
                  const HostPanel *panel = nullptr);
     void addPanels();
@@ -92,6 +99,7 @@ private:
     void putView(PanelPane &pane, QWidget *view);
 
     PrintJob &m_job;
+    QToolButton *m_all; ///< lists the parts
     PageSetupPane *m_pageSetup;
     FeaturesPane *m_features;
     LayoutPane *m_layout;

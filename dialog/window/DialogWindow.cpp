@@ -30,7 +30,8 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr QSize kFirstSize(640, 560);
-constexpr int kWindowMargin = 14;
+constexpr int kWindowMargin = 12;
+constexpr int kNoticeShare = 4; // a long notice may take one part in so many of the height
 constexpr std::chrono::milliseconds kLookInterval{50};
 
 QPushButton *newButton(const QString &name, const QString &title, QWidget *parent)
@@ -77,12 +78,17 @@ void DialogWindow::buildLayout()
     m_notice = new NoticeBar(this);
     m_progress = new ProgressStrip(this);
     m_tabs = new DialogTabs(job(), this);
-    m_body = newBody();
+    m_head = new ScrolledBody(this);
+    m_head->setObjectName(u"head"_s);
+    m_head->setContent(m_header);
     auto *layout = new QVBoxLayout(this);
     layout->setContentsMargins(kWindowMargin, kWindowMargin, kWindowMargin, kWindowMargin);
     layout->setSpacing(kWindowMargin);
-    layout->addWidget(m_body, 1);
     m_buttons = newButtons();
+    // A longer notice takes its room from below the tabs: nothing moves under the pointer.
+    layout->addWidget(m_head);
+    layout->addWidget(m_tabs, 1);
+    layout->addWidget(m_notice);
     layout->addWidget(m_buttons);
     buildParts();
     addPartShortcut(QKeySequence::NextChild, 1);
@@ -123,23 +129,10 @@ void DialogWindow::addPartShortcut(QKeySequence::StandardKey keys, int step)
     });
 }
 
-ScrolledBody *DialogWindow::newBody()
-{
-    auto *content = new QWidget;
-    auto *column = new QVBoxLayout(content);
-    column->setContentsMargins(0, 0, 0, 0);
-    column->setSpacing(kWindowMargin);
-    column->addWidget(m_header);
-    column->addWidget(m_notice);
-    column->addWidget(m_tabs, 1);
-    auto *body = new ScrolledBody(this);
-    body->setContent(content);
-    return body;
-}
-
 QWidget *DialogWindow::newButtons()
 {
     auto *row = new ButtonRow(this);
+    row->setObjectName(u"buttonRow"_s);
     m_help = newButton(u"helpButton"_s, tr("Help"), row);
     m_help->setShortcut(QKeySequence::HelpContents);
     m_save = newButton(u"saveButton"_s, tr("Save to &File…"), row);
@@ -275,6 +268,7 @@ void DialogWindow::showHelp()
 void DialogWindow::resizeEvent(QResizeEvent *event)
 {
     QDialog::resizeEvent(event);
+    m_notice->setMostHeight(height() / kNoticeShare);
     if (job().session() && job().session()->isRunning())
         job().session()->windowDidResize();
 }

@@ -107,7 +107,6 @@ private:
     // DialogWindow.cpp
     void buildLayout();
     void addPartShortcut(QKeySequence::StandardKey keys, int step);
-    ScrolledBody *newBody();
     QWidget *newButtons();
     QString printTitle() const;
     void setState(State state);
@@ -251,11 +250,11 @@ private:
 
     PrinterWatch m_watch;
     JobHeader *m_header;
+    ScrolledBody *m_head; ///< m_header, where the screen has no room for all of it
     NoticeBar *m_notice;
     ProgressStrip *m_progress;
     DialogTabs *m_tabs;
     DialogAdvice *m_advice;
-    ScrolledBody *m_body = nullptr; ///< all but the buttons
     QWidget *m_buttons = nullptr;
     QPushButton *m_help = nullptr;
     QPushButton *m_save = nullptr;

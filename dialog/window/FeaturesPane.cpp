@@ -5,6 +5,7 @@
 #include "dialog/printing/PrintJob.h"
 #include "dialog/window/FeatureField.h"
 #include "platform/ppd/PPDText.h"
+#include "platform/toolkit/PanelPoint.h"
 #include "platform/toolkit/PlainLabel.h"
 #include "platform/toolkit/PlainText.h"
 
@@ -20,7 +21,7 @@ namespace {
 
 constexpr int kFeatureMargin = 16;
 constexpr int kFeatureGroupSpacing = 12;
-constexpr int kLeastPaneHeight = 80; // on a very small screen
+constexpr int kLeastPaneHeight = 34; // points, on a very small screen
 
 QLabel *newHeading(const QString &text)
 {
@@ -129,5 +130,5 @@ bool FeaturesPane::isAcceptable() const
 
 QSize FeaturesPane::minimumSizeHint() const
 {
-    return {QScrollArea::minimumSizeHint().width(), kLeastPaneHeight};
+    return {QScrollArea::minimumSizeHint().width(), toPixels(kLeastPaneHeight)};
 }

@@ -1,11 +1,11 @@
 #include "dialog/window/HoldField.h"
 
 #include "dialog/job/JobLayout.h"
+#include "dialog/window/FlowLayout.h"
 #include "platform/toolkit/AccessibleName.h"
 #include "platform/toolkit/PopUpButton.h"
 
 #include <QtCore/QTime>
-#include <QtWidgets/QHBoxLayout>
 #include <QtWidgets/QTimeEdit>
 
 using namespace Qt::StringLiterals;
@@ -32,11 +32,9 @@ HoldField::HoldField(QWidget *parent)
     m_time->setObjectName(u"holdTime"_s);
     m_time->setDisplayFormat(kHours);
     giveAccessibleName(m_time, tr("Time of day"));
-    auto *layout = new QHBoxLayout(this);
-    layout->setContentsMargins(0, 0, 0, 0);
+    auto *layout = new FlowLayout(this);
     layout->addWidget(m_periods);
     layout->addWidget(m_time);
-    layout->addStretch(1);
     connect(m_periods, &QComboBox::activated, this, [this] {
         showTime();
         Q_EMIT edited();

@@ -3,9 +3,9 @@
 #include "dialog/job/PageRanges.h"
 #include "dialog/printing/PrintJob.h"
 #include "dialog/window/FieldWidth.h"
+#include "dialog/window/FlowLayout.h"
 #include "dialog/window/PresetsRow.h"
 #include "dialog/window/PrinterPopUp.h"
-#include "platform/toolkit/AccessibleName.h"
 #include "platform/toolkit/CaptionLabel.h"
 #include "platform/toolkit/NumberField.h"
 #include "platform/toolkit/PlainLabel.h"
@@ -26,24 +26,14 @@ namespace {
 
 constexpr int kMostCopies = 999;
 constexpr int kPagesWidth = 160;
+constexpr int kLeastNameLength = 20; // characters
 
-QWidget *row(std::initializer_list<QWidget *> widgets, int stretched)
-{
-    auto *made = new QWidget;
-    auto *layout = new QHBoxLayout(made);
-    layout->setContentsMargins(0, 0, 0, 0);
-    int index = 0;
-    for (QWidget *widget : widgets)
-        layout->addWidget(widget, index++ == stretched ? 1 : 0);
-    return made;
-}
-
+/// All that stands in the header is a child of it: assistive technology looks for a control's label
+/// among its siblings.
 QLabel *label(const QString &text, QWidget *buddy)
 {
-    QLabel *made = newPlainLabel(text);
+    QLabel *made = newPlainLabel(text, buddy->parentWidget());
     made->setBuddy(buddy);
-    // They stand in rows of their own: assistive technology would not find the label.
-    giveAccessibleName(buddy, QString(text).remove(u'&'));
     return made;
 }
 
@@ -63,6 +53,7 @@ JobHeader::JobHeader(PrintJob &job, QWidget *parent)
     m_documents->setObjectName(u"documentsLabel"_s);
     m_documents->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     m_documents->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+    m_documents->setMinimumWidth(kLeastNameLength * fontMetrics().averageCharWidth());
     m_choose->setObjectName(u"chooseButton"_s);
     m_choose->setAutoDefault(false);
     m_copies->setObjectName(u"copiesField"_s);
@@ -75,10 +66,12 @@ JobHeader::JobHeader(PrintJob &job, QWidget *parent)
     form->setContentsMargins(0, 0, 0, 0);
     form->setLabelAlignment(Qt::AlignRight | Qt::AlignVCenter);
     form->setFieldGrowthPolicy(QFormLayout::AllNonFixedFieldsGrow);
-    addLabelledRow(form, tr("Document:"), row({m_documents, m_choose}, 0));
-    form->addRow(label(tr("Pri&nter:"), m_printers->popup()), m_printers);
-    form->addRow(label(tr("Preset:"), m_presets->popup()), m_presets);
-    m_settingsRow = row({m_copies, label(tr("Pa&ges:"), m_pages), m_pages, m_pagesValidation}, 3);
+    form->setRowWrapPolicy(QFormLayout::WrapLongRows);
+    form->addRow(label(tr("Document:"), m_documents), newDocumentsRow());
+    form->addRow(label(tr("Pri&nter:"), m_printers->popup()), m_printers->newRow());
+    m_presetsRow = m_presets->newRow();
+    form->addRow(label(tr("Preset:"), m_presets->popup()), m_presetsRow);
+    m_settingsRow = newSettingsRow();
     form->addRow(label(tr("&Copies:"), m_copies), m_settingsRow);
     setTabOrder(m_choose, m_printers->popup());
     setTabOrder(m_printers->popup(), m_presets->popup());
@@ -90,6 +83,26 @@ JobHeader::JobHeader(PrintJob &job, QWidget *parent)
     });
     connect(m_pages, &QLineEdit::textEdited, this, &JobHeader::takePages);
     reload();
+}
+
+QLayout *JobHeader::newDocumentsRow()
+{
+    auto *row = new QHBoxLayout;
+    row->addWidget(m_documents, 1);
+    row->addWidget(m_choose);
+    return row;
+}
+
+QLayout *JobHeader::newSettingsRow()
+{
+    auto *pages = new QHBoxLayout;
+    pages->addWidget(label(tr("Pa&ges:"), m_pages));
+    pages->addWidget(m_pages);
+    auto *row = new FlowLayout;
+    row->addWidget(m_copies);
+    row->addLayout(pages);
+    row->addWidget(m_pagesValidation);
+    return row;
 }
 
 void JobHeader::reload()
@@ -113,7 +126,7 @@ void JobHeader::showJobSettings(bool shown)
 {
     auto *form = static_cast<QFormLayout *>(layout());
     form->setRowVisible(m_settingsRow, shown);
-    form->setRowVisible(m_presets, shown);
+    form->setRowVisible(m_presetsRow, shown);
 }
 
 void JobHeader::takePages()

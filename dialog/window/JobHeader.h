@@ -11,6 +11,7 @@ class PresetsRow;
 class PrinterPopUp;
 class PrintJob;
 class QLabel;
+class QLayout;
 class QLineEdit;
 class QPushButton;
 
@@ -45,6 +46,8 @@ Q_SIGNALS:
     void documentsWanted();
 
 private:
+    QLayout *newDocumentsRow();
+    QLayout *newSettingsRow();
     void takePages();
     void judgePages();
     std::optional<int> typedBeyond() const;
@@ -56,7 +59,8 @@ private:
     PresetsRow *m_presets;
     NumberField *m_copies;
     QLineEdit *m_pages;
-    QWidget *m_settingsRow = nullptr;
+    QLayout *m_presetsRow = nullptr;
+    QLayout *m_settingsRow = nullptr;
     QLabel *m_pagesValidation;
     std::optional<PageCount> m_pageCount; ///< none while it is being counted
 };

@@ -3,6 +3,7 @@
 #include "dialog/job/JobLayout.h"
 #include "dialog/printing/PrintJob.h"
 #include "dialog/window/FieldWidth.h"
+#include "dialog/window/FlowLayout.h"
 #include "dialog/window/HoldField.h"
 #include "platform/toolkit/AccessibleName.h"
 #include "platform/toolkit/NumberField.h"
@@ -11,7 +12,6 @@
 #include "platform/toolkit/PopUpButton.h"
 
 #include <QtWidgets/QFormLayout>
-#include <QtWidgets/QHBoxLayout>
 #include <QtWidgets/QLabel>
 #include <QtWidgets/QLineEdit>
 
@@ -41,11 +41,9 @@ QString rowTitle(const LayoutSetting &setting)
 QWidget *rowOf(std::initializer_list<QWidget *> widgets)
 {
     auto *row = new QWidget;
-    auto *layout = new QHBoxLayout(row);
-    layout->setContentsMargins(0, 0, 0, 0);
+    auto *layout = new FlowLayout(row);
     for (QWidget *widget : widgets)
         layout->addWidget(widget);
-    layout->addStretch(1);
     return row;
 }
 
@@ -64,6 +62,7 @@ LayoutPane::LayoutPane(PrintJob &job, QWidget *parent) : ScrolledBody(parent), m
     auto *form = new QFormLayout(page);
     form->setContentsMargins(kLayoutMargin, kLayoutMargin, kLayoutMargin, kLayoutMargin);
     form->setLabelAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    form->setRowWrapPolicy(QFormLayout::WrapLongRows);
     form->setFieldGrowthPolicy(QFormLayout::FieldsStayAtSizeHint);
     for (const LayoutSetting &setting : layoutSettings())
         if (isChosenInPopUp(setting))

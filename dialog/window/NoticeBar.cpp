@@ -5,11 +5,11 @@
 #include "dialog/window/NoticeSign.h"
 #include "platform/toolkit/AccessibleName.h"
 #include "platform/toolkit/AccessibleRole.h"
-#include "platform/toolkit/PlainLabel.h"
 #include "platform/toolkit/PlainText.h"
 
 #include <QtCore/QEvent>
 #include <QtCore/QTextBoundaryFinder>
+#include <QtWidgets/QGridLayout>
 #include <QtWidgets/QHBoxLayout>
 #include <QtWidgets/QMenu>
 #include <QtWidgets/QPushButton>
@@ -19,8 +19,9 @@
 
 namespace {
 
-constexpr int kLongestLine = 32; // characters, of a button
-constexpr qreal kTint = 0.16;    // of the accent in the window's colour, light or dark
+constexpr int kLongestLine = 32;   // characters, of a button
+constexpr int kMostForOffers = 40; // hundredths of the width, beside the sentence
+constexpr qreal kTint = 0.16;      // of the accent in the window's colour, light or dark
 
 struct Look
 {
@@ -70,16 +71,27 @@ NoticeBar::NoticeBar(QWidget *parent)
     : QFrame(parent),
       m_sign(new NoticeSign(this)),
       m_label(new NoticeLabel(this)),
-      m_layout(new QHBoxLayout(this))
+      m_grid(new QGridLayout(this)),
+      m_offers(new QWidget(this)),
+      m_offerLine(new QHBoxLayout(m_offers))
 {
     setObjectName(QStringLiteral("noticeBar"));
     giveAccessibleRole("NoticeBar", QAccessible::AlertMessage);
     m_label->setObjectName(QStringLiteral("noticeLabel"));
-    m_layout->setContentsMargins(10, 6, 10, 6);
-    m_layout->setSpacing(10);
-    m_layout->addWidget(m_sign);
-    m_layout->addWidget(m_label, 1);
+    setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
+    m_grid->setContentsMargins(10, 6, 10, 6);
+    m_grid->setSpacing(10);
+    m_grid->setColumnStretch(1, 1);
+    m_grid->addWidget(m_sign, 0, 0);
+    m_grid->addWidget(m_label, 0, 1);
+    m_grid->addWidget(m_offers, 0, 2);
+    m_offerLine->setContentsMargins(0, 0, 0, 0);
     clear();
+}
+
+void NoticeBar::setMostHeight(int pixels)
+{
+    m_label->setMostHeight(pixels);
 }
 
 void NoticeBar::tell(Kind kind, const QString &sentence, const QList<NoticeOffer> &offers)
@@ -103,7 +115,7 @@ void NoticeBar::clear()
 /// The room stays when there is nothing to show in it.
 void NoticeBar::showSentence(const QString &sentence)
 {
-    setLabelText(m_label, sentence);
+    m_label->showText(sentence);
     giveAccessibleName(this, sentence);
     setAutoFillBackground(!sentence.isEmpty());
     m_sign->setVisible(!sentence.isEmpty());
@@ -121,9 +133,32 @@ void NoticeBar::showOffers(const QList<NoticeOffer> &offers)
     }
     for (const NoticeOffer &offer : offers) {
         m_buttons += newButton(offer);
-        m_layout->addWidget(m_buttons.constLast());
+        m_offerLine->addWidget(m_buttons.constLast());
         m_buttons.constLast()->show();
     }
+    m_offers->setVisible(!offers.isEmpty());
+    arrange();
+}
+
+void NoticeBar::resizeEvent(QResizeEvent *event)
+{
+    QFrame::resizeEvent(event);
+    arrange();
+}
+
+/// Beside the sentence where that keeps most of the width, else below it; there side by side as far
+/// as they fit.
+void NoticeBar::arrange()
+{
+    int needed = 0;
+    for (const QPushButton *button : std::as_const(m_buttons))
+        needed += button->sizeHint().width() + m_offerLine->spacing();
+    const bool areBeside = needed * 100 <= width() * kMostForOffers;
+    m_grid->removeWidget(m_offers);
+    m_grid->addWidget(m_offers, areBeside ? 0 : 1, areBeside ? 2 : 1,
+                      areBeside ? Qt::Alignment() : Qt::AlignRight);
+    m_offerLine->setDirection(needed <= contentsRect().width() ? QBoxLayout::LeftToRight
+                                                               : QBoxLayout::TopToBottom);
 }
 
 /// How many lines the title of a button takes.
@@ -135,7 +170,7 @@ int NoticeBar::linesFor(const QString &title) const
 
 QPushButton *NoticeBar::newButton(const NoticeOffer &offer)
 {
-    auto *button = new QPushButton(this);
+    auto *button = new QPushButton(m_offers);
     button->setObjectName(offer.name);
     const QString title = displayText(offer.title);
     setTitleWithMnemonic(*button, withoutMnemonic(brokenTitle(title, linesFor(title))));

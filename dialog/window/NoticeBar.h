@@ -7,7 +7,8 @@
 
 class NoticeLabel;
 class NoticeSign;
-class QHBoxLayout;
+class QBoxLayout;
+class QGridLayout;
 class QMenu;
 class QPushButton;
 
@@ -22,9 +23,11 @@ struct NoticeOffer
 };
 
 /// A strip that tells one thing at a time, in plain text: what the dialog waits for, why a choice
-/// was refused, what went wrong. It has the room of an ordinary sentence whether or not there is
-/// anything to tell, so that nothing moves when there is. What is longer is cut off there, and
-/// whole in its tool tip and its accessible name. The titles of offers are broken into lines.
+/// was refused, what went wrong. It has the room of two lines whether or not there is anything to
+/// tell, and becomes higher for a longer sentence, as far as it may. What is longer still is cut
+/// off there, and whole in its tool tip and its accessible name. Offers stand beside the sentence,
+/// or below it where that would leave it too little room. The titles of offers
+/// are broken into lines.
 class NoticeBar : public QFrame
 {
     Q_OBJECT
@@ -37,16 +40,21 @@ public:
     void tell(Kind kind, const QString &sentence, const QList<NoticeOffer> &offers = {});
     void clear();
 
+    /// How high the sentence may become where two lines are not enough.
+    void setMostHeight(int pixels);
+
     /// Null while there is nothing to tell.
     QString sentence() const { return m_sentence; }
     Kind kind() const { return m_kind; }
 
 protected:
     void changeEvent(QEvent *event) override;
+    void resizeEvent(QResizeEvent *event) override;
 
 private:
     void showSentence(const QString &sentence);
     void showOffers(const QList<NoticeOffer> &offers);
+    void arrange();
     int linesFor(const QString &title) const;
     QPushButton *newButton(const NoticeOffer &offer);
     QMenu *newMenu(const QList<NoticeOffer> &offers, QWidget *parent);
@@ -54,7 +62,9 @@ private:
 
     NoticeSign *m_sign;
     NoticeLabel *m_label;
-    QHBoxLayout *m_layout;
+    QGridLayout *m_grid;
+    QWidget *m_offers;
+    QBoxLayout *m_offerLine;
     QList<QPushButton *> m_buttons; ///< one for each offer
     Kind m_kind = Kind::Information;
     QString m_sentence;

@@ -7,20 +7,12 @@
 #include <QtWidgets/QStylePainter>
 
 #include <algorithm>
+#include <utility>
 
 namespace {
 
 constexpr int kFewestLines = 2;
-constexpr int kOrdinaryLength = 150; // characters
-constexpr int kOrdinaryWidth = 550;  // pixels: of a window that nobody has resized
 constexpr int kLeastWidth = 200;
-
-/// How many lines there is room for: the same whatever there is to tell.
-int linesOf(const QFontMetrics &metrics)
-{
-    const int length = kOrdinaryLength * metrics.averageCharWidth();
-    return std::max(kFewestLines, (length + kOrdinaryWidth - 1) / kOrdinaryWidth);
-}
 
 /// The length of the line of the text that begins at `start` and is no wider than `width`.
 int lineLength(const QString &text, qsizetype start, const QFont &font, int width)
@@ -44,9 +36,42 @@ NoticeLabel::NoticeLabel(QWidget *parent) : QLabel(parent)
     setLabelText(this, QString());
 }
 
+void NoticeLabel::setMostHeight(int pixels)
+{
+    m_mostHeight = pixels;
+    takeRoom();
+}
+
+void NoticeLabel::showText(const QString &text)
+{
+    setLabelText(this, text);
+    takeRoom();
+}
+
+int NoticeLabel::mostLines() const
+{
+    return std::max(kFewestLines, m_mostHeight / fontMetrics().lineSpacing());
+}
+
+/// As many as the text has at the present width.
+int NoticeLabel::neededLines() const
+{
+    const int width = contentsRect().width();
+    int lines = 0;
+    for (qsizetype start = 0; start < text().size() && lines < mostLines(); ++lines)
+        start += std::max(1, lineLength(text(), start, font(), width));
+    return std::max(kFewestLines, lines);
+}
+
+void NoticeLabel::takeRoom()
+{
+    if (const int lines = neededLines(); std::exchange(m_lines, lines) != lines)
+        updateGeometry();
+}
+
 QSize NoticeLabel::sizeHint() const
 {
-    return {kLeastWidth, linesOf(fontMetrics()) * fontMetrics().lineSpacing()};
+    return {kLeastWidth, m_lines * fontMetrics().lineSpacing()};
 }
 
 QSize NoticeLabel::minimumSizeHint() const
@@ -58,10 +83,9 @@ QStringList NoticeLabel::shownLines() const
 {
     const QString whole = text();
     const int width = contentsRect().width();
-    const int room = linesOf(fontMetrics());
     QStringList lines;
     qsizetype start = 0;
-    while (start < whole.size() && lines.size() < room - 1) {
+    while (start < whole.size() && lines.size() < m_lines - 1) {
         const int length = lineLength(whole, start, font(), width);
         lines += whole.mid(start, length).trimmed();
         start += std::max(1, length);
@@ -78,6 +102,12 @@ bool NoticeLabel::event(QEvent *event)
     const bool isCut = shownLines().join(u' ') != text().simplified();
     showToolTip(static_cast<QHelpEvent *>(event)->globalPos(), isCut ? text() : QString(), this);
     return true;
+}
+
+void NoticeLabel::resizeEvent(QResizeEvent *event)
+{
+    QLabel::resizeEvent(event);
+    takeRoom();
 }
 
 void NoticeLabel::paintEvent(QPaintEvent *)

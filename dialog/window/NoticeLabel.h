@@ -2,14 +2,20 @@
 
 #include <QtWidgets/QLabel>
 
-/// A label with the room of two lines, for plain text, or of so many that a sentence of ordinary
-/// length can be read. What does not fit ends in an ellipsis and is whole in the tool tip.
+/// A label for plain text with the room of two lines, and of more where its text needs them at its
+/// width. What is longer than it may be ends in an ellipsis and is whole in the tool tip.
 class NoticeLabel : public QLabel
 {
     Q_OBJECT
 
 public:
     explicit NoticeLabel(QWidget *parent = nullptr);
+
+    /// How high it may be; but there is room for two lines always.
+    void setMostHeight(int pixels);
+
+    /// Shows the text, in its room.
+    void showText(const QString &text);
 
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
@@ -19,5 +25,14 @@ public:
 
 protected:
     bool event(QEvent *event) override;
+    void resizeEvent(QResizeEvent *event) override;
     void paintEvent(QPaintEvent *event) override;
+
+private:
+    int mostLines() const;
+    int neededLines() const;
+    void takeRoom();
+
+    int m_mostHeight = 0; ///< pixels
+    int m_lines = 2;      ///< that there is room for
 };

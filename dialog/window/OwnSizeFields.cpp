@@ -2,10 +2,10 @@
 
 #include "dialog/job/PaperMemory.h"
 #include "dialog/window/FieldWidth.h"
+#include "dialog/window/FlowLayout.h"
 #include "platform/toolkit/AccessibleName.h"
 
 #include <QtGui/QKeyEvent>
-#include <QtWidgets/QHBoxLayout>
 #include <QtWidgets/QLineEdit>
 #include <QtWidgets/QPushButton>
 
@@ -22,9 +22,8 @@ OwnSizeFields::OwnSizeFields(QWidget *parent)
     m_name->setPlaceholderText(tr("Name of this size"));
     m_name->setMinimumWidth(widthForPlaceholder(*m_name));
     giveAccessibleName(m_name, tr("Name of this size"));
-    auto *row = new QHBoxLayout(this);
-    row->setContentsMargins(0, 0, 0, 0);
-    row->addWidget(m_name, 1);
+    auto *row = new FlowLayout(this);
+    row->addWidget(m_name);
     for (QPushButton *button : {m_keep, m_rename, m_remove})
         row->addWidget(button);
     connect(m_name, &QLineEdit::textChanged, this, &OwnSizeFields::judge);

@@ -28,6 +28,7 @@ void PageSetupPane::reload()
     form->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
     form->setLabelAlignment(Qt::AlignRight | Qt::AlignVCenter);
     form->setFormAlignment(Qt::AlignHCenter | Qt::AlignTop);
+    form->setRowWrapPolicy(QFormLayout::WrapLongRows);
     form->setFieldGrowthPolicy(QFormLayout::FieldsStayAtSizeHint);
     m_paper = new PaperRows(m_job, form, page);
     m_placement = new PlacementRows(m_job, form, page);

@@ -12,8 +12,8 @@
 namespace {
 
 // On a very small screen. Points.
-constexpr int kLeastViewWidth = 300;
-constexpr int kLeastViewHeight = 80;
+constexpr int kLeastViewWidth = 200;
+constexpr int kLeastViewHeight = 34;
 constexpr int kTopMargin = 8;
 
 } // namespace

@@ -2,6 +2,7 @@
 
 #include "dialog/printing/PrintJob.h"
 #include "dialog/window/RadioPair.h"
+#include "dialog/window/SentenceLabel.h"
 #include "dialog/window/SetupPopUp.h"
 #include "platform/toolkit/PlainLabel.h"
 
@@ -14,7 +15,6 @@ namespace {
 
 constexpr std::array kScalings{PrintScaling::Automatic, PrintScaling::ActualSize, PrintScaling::Fit,
                                PrintScaling::Fill};
-constexpr int kSentenceLength = 36; // characters
 
 } // namespace
 
@@ -55,10 +55,8 @@ void PlacementRows::addScaling(QFormLayout *form)
 /// A line below the row that says what comes of its setting.
 QLabel *PlacementRows::addSentence(QFormLayout *form, const QString &name)
 {
-    QLabel *label = newPlainLabel(QString(), form->parentWidget());
+    auto *label = new SentenceLabel(form->parentWidget());
     label->setObjectName(name);
-    label->setWordWrap(true);
-    label->setFixedWidth(kSentenceLength * label->fontMetrics().horizontalAdvance(u'X'));
     form->setWidget(form->rowCount(), QFormLayout::FieldRole, label);
     return label;
 }

@@ -2,11 +2,11 @@
 
 #include "dialog/printing/FollowPreference.h"
 #include "dialog/printing/LastUsed.h"
+#include "dialog/window/FlowLayout.h"
 #include "platform/toolkit/PlainText.h"
 #include "platform/toolkit/PopUpButton.h"
 
 #include <QtGui/QAction>
-#include <QtWidgets/QHBoxLayout>
 #include <QtWidgets/QMenu>
 #include <QtWidgets/QPushButton>
 
@@ -44,7 +44,9 @@ QString itemOf(const PresetChoices &choices)
 } // namespace
 
 PresetsRow::PresetsRow(QWidget *parent)
-    : QWidget(parent), m_popup(new PopUpButton(this)), m_menu(new QPushButton(tr("Presets"), this))
+    : QObject(parent),
+      m_popup(new PopUpButton(parent)),
+      m_menu(new QPushButton(tr("Presets"), parent))
 {
     m_popup->setObjectName(u"presetPopup"_s);
     m_popup->setMinimumContentsLength(kPresetLength);
@@ -62,11 +64,6 @@ PresetsRow::PresetsRow(QWidget *parent)
         action->setCheckable(true);
     m_menu->menu()->addSeparator();
     m_alerts = addAction(u"hiddenAlerts"_s, tr("Hidden Warnings…"));
-    auto *layout = new QHBoxLayout(this);
-    layout->setContentsMargins(0, 0, 0, 0);
-    layout->addWidget(m_popup);
-    layout->addWidget(m_menu);
-    layout->addStretch(1);
     connect(m_popup, &QComboBox::activated, this, [this] { pick(m_popup->selectedObject()); });
     connect(m_save, &QAction::triggered, this, &PresetsRow::saveWanted);
     connect(m_rename, &QAction::triggered, this, &PresetsRow::renameWanted);
@@ -81,6 +78,14 @@ PresetsRow::PresetsRow(QWidget *parent)
         m_follow->setChecked(followsJobs());
     });
     showChoices({});
+}
+
+QLayout *PresetsRow::newRow() const
+{
+    auto *row = new FlowLayout;
+    row->addWidget(m_popup);
+    row->addWidget(m_menu);
+    return row;
 }
 
 QAction *PresetsRow::addAction(const QString &name, const QString &title)

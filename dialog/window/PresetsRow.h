@@ -3,12 +3,14 @@
 #include "dialog/job/PPDPresets.h"
 #include "dialog/printing/StartingSettings.h"
 
+#include <QtCore/QObject>
 #include <QtCore/QStringList>
-#include <QtWidgets/QWidget>
 
 class PopUpButton;
 class QAction;
+class QLayout;
 class QPushButton;
+class QWidget;
 
 /// What a printer's settings may start from, and what they started from.
 struct PresetChoices
@@ -23,12 +25,16 @@ struct PresetChoices
 };
 
 /// The pop-up of presets, and a menu for what can be done with them.
-class PresetsRow : public QWidget
+class PresetsRow : public QObject
 {
     Q_OBJECT
 
 public:
-    explicit PresetsRow(QWidget *parent = nullptr);
+    /// Pop-up and button are children of the parent, as PrinterPopUp has it.
+    explicit PresetsRow(QWidget *parent);
+
+    /// Both in a row, which the caller owns.
+    QLayout *newRow() const;
 
     void showChoices(const PresetChoices &choices);
 

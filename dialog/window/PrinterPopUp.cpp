@@ -28,7 +28,7 @@ QString titleOf(const Destination &destination)
 } // namespace
 
 PrinterPopUp::PrinterPopUp(QWidget *parent)
-    : QWidget(parent), m_popup(new SearchablePopUp(this)), m_state(new CaptionLabel(this))
+    : QObject(parent), m_popup(new SearchablePopUp(parent)), m_state(new CaptionLabel(parent))
 {
     m_popup->setObjectName(u"printerPopup"_s);
     m_popup->setMinimumContentsLength(kPrinterLength);
@@ -36,16 +36,20 @@ PrinterPopUp::PrinterPopUp(QWidget *parent)
     m_state->setObjectName(u"printerState"_s);
     m_state->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     m_state->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
-    auto *layout = new QHBoxLayout(this);
-    layout->setContentsMargins(0, 0, 0, 0);
-    layout->addWidget(m_popup);
-    layout->addWidget(m_state, 1);
     connect(m_popup, &QComboBox::activated, this, [this](int index) {
         const QString key = m_popup->representedObject(index);
         if (!key.isEmpty())
             Q_EMIT picked(queueName(key));
     });
     connect(m_popup, &SearchablePopUp::listClosed, this, &PrinterPopUp::fill, Qt::QueuedConnection);
+}
+
+QHBoxLayout *PrinterPopUp::newRow() const
+{
+    auto *row = new QHBoxLayout;
+    row->addWidget(m_popup);
+    row->addWidget(m_state, 1);
+    return row;
 }
 
 PopUpButton *PrinterPopUp::popup() const

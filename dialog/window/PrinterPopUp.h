@@ -3,21 +3,28 @@
 #include "dialog/cups/Destinations.h"
 
 #include <QtCore/QHash>
-#include <QtWidgets/QWidget>
+#include <QtCore/QObject>
 
 class CaptionLabel;
 class PopUpButton;
+class QHBoxLayout;
+class QWidget;
 class SearchablePopUp;
 
 /// The pop-up of printers, each with its place and its state, and with a word on the chosen one
 /// beside it. Until the server has answered it lists the chosen one alone and says that it
 /// searches. A list that the user has open keeps its rows: newer ones come when it is closed.
-class PrinterPopUp : public QWidget
+class PrinterPopUp : public QObject
 {
     Q_OBJECT
 
 public:
-    explicit PrinterPopUp(QWidget *parent = nullptr);
+    /// Pop-up and word are children of the parent: so is the label before them, which assistive
+    /// technology looks for there.
+    explicit PrinterPopUp(QWidget *parent);
+
+    /// Both in a row, which the caller owns.
+    QHBoxLayout *newRow() const;
 
     /// Shows the printer that is open; `title` for one that is no queue (a PPD file).
     void setCurrent(const QueueName &queue, const QString &title = QString());

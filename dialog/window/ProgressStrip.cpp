@@ -1,6 +1,7 @@
 #include "dialog/window/ProgressStrip.h"
 
 #include "platform/toolkit/AccessibleName.h"
+#include "platform/toolkit/PanelPoint.h"
 
 #include <QtCore/QTimerEvent>
 
@@ -11,6 +12,7 @@ namespace {
 
 constexpr std::chrono::milliseconds kInterval{100};
 constexpr int kSteps = 1000;
+constexpr int kLeastStripWidth = 20; // points
 
 } // namespace
 
@@ -23,6 +25,11 @@ ProgressStrip::ProgressStrip(QWidget *parent) : QProgressBar(parent)
     room.setRetainSizeWhenHidden(true); // nothing beside it moves
     setSizePolicy(room);
     hide();
+}
+
+QSize ProgressStrip::minimumSizeHint() const
+{
+    return {toPixels(kLeastStripWidth), QProgressBar::minimumSizeHint().height()};
 }
 
 void ProgressStrip::follow(const std::shared_ptr<const JobProgress> &progress, qint64 bytes)

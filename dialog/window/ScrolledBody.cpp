@@ -3,12 +3,13 @@
 #include "platform/toolkit/PanelPoint.h"
 
 #include <QtCore/QEvent>
+#include <QtGui/QResizeEvent>
 
 namespace {
 
 // On a very small screen. Points.
 constexpr int kLeastBodyWidth = 200;
-constexpr int kLeastBodyHeight = 100;
+constexpr int kLeastBodyHeight = 20;
 
 } // namespace
 
@@ -26,19 +27,27 @@ void ScrolledBody::setContent(QWidget *content)
     content->setAutoFillBackground(false);
 }
 
-QSize ScrolledBody::lackingSize() const
-{
-    return widget()->minimumSizeHint() - size();
-}
-
 QSize ScrolledBody::sizeHint() const
 {
-    return widget() ? widget()->sizeHint() : QScrollArea::sizeHint();
+    if (!widget())
+        return QScrollArea::sizeHint();
+    QSize size = widget()->sizeHint();
+    // A layout takes a height for the width for one that cannot be less.
+    if (width() < size.width() && widget()->hasHeightForWidth())
+        size.setHeight(widget()->heightForWidth(width()));
+    return size;
 }
 
 QSize ScrolledBody::minimumSizeHint() const
 {
     return sizeHint().boundedTo({toPixels(kLeastBodyWidth), toPixels(kLeastBodyHeight)});
+}
+
+void ScrolledBody::resizeEvent(QResizeEvent *event)
+{
+    QScrollArea::resizeEvent(event);
+    if (event->oldSize().width() != width() && widget() && widget()->hasHeightForWidth())
+        updateGeometry();
 }
 
 /// A scroll area tells nobody that its content wants another size.

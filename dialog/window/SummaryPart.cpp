@@ -1,9 +1,10 @@
 #include "dialog/window/SummaryPart.h"
 
+#include "dialog/window/FlowLayout.h"
+
 #include <QtGui/QClipboard>
 #include <QtGui/QGuiApplication>
 #include <QtWidgets/QCheckBox>
-#include <QtWidgets/QHBoxLayout>
 #include <QtWidgets/QPushButton>
 #include <QtWidgets/QVBoxLayout>
 
@@ -14,7 +15,7 @@ constexpr int kRowMargin = 8;
 } // namespace
 
 SummaryPart::SummaryPart(QWidget *parent)
-    : QWidget(parent),
+    : ScrolledBody(parent),
       m_onlyDifferent(new QCheckBox(tr("Only What Differs from the Printer's Defaults"), this)),
       m_copy(new QPushButton(tr("Copy as Text"), this)),
       m_pane(new SummaryPane(this))
@@ -23,14 +24,16 @@ SummaryPart::SummaryPart(QWidget *parent)
     m_onlyDifferent->setObjectName(QStringLiteral("onlyDifferentButton"));
     m_copy->setObjectName(QStringLiteral("copySummaryButton"));
     m_copy->setAutoDefault(false);
-    auto *row = new QHBoxLayout;
+    auto *row = new FlowLayout;
     row->setContentsMargins(2 * kRowMargin, kRowMargin, 2 * kRowMargin, 0);
-    row->addWidget(m_onlyDifferent, 1);
+    row->addWidget(m_onlyDifferent);
     row->addWidget(m_copy);
-    auto *layout = new QVBoxLayout(this);
+    auto *content = new QWidget;
+    auto *layout = new QVBoxLayout(content);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addLayout(row);
     layout->addWidget(m_pane, 1);
+    setContent(content);
     connect(m_onlyDifferent, &QCheckBox::toggled, this, &SummaryPart::showSections);
     connect(m_copy, &QPushButton::clicked, this, &SummaryPart::copy);
 }

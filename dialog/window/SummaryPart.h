@@ -1,15 +1,14 @@
 #pragma once
 
+#include "dialog/window/ScrolledBody.h"
 #include "dialog/window/SummaryPane.h"
-
-#include <QtWidgets/QWidget>
 
 class QCheckBox;
 class QPushButton;
 
 /// The part of the dialog that has the summary: all of it, or what differs from the printer's
 /// defaults alone, and to be taken along as text.
-class SummaryPart : public QWidget
+class SummaryPart : public ScrolledBody
 {
     Q_OBJECT
 

@@ -1,5 +1,6 @@
 #include "platform/toolkit/Alert.h"
 
+#include "platform/toolkit/AlertBox.h"
 #include "platform/toolkit/AlertObserver.h"
 #include "platform/toolkit/KeyWindow.h"
 #include "platform/toolkit/PlainLabel.h"
@@ -9,7 +10,6 @@
 #include <QtWidgets/QApplication>
 #include <QtWidgets/QCheckBox>
 #include <QtWidgets/QLabel>
-#include <QtWidgets/QMessageBox>
 #include <QtWidgets/QPushButton>
 
 #include <algorithm>
@@ -56,9 +56,9 @@ void addButtons(QMessageBox &box, const QStringList &titles, int defaultButton)
     }
 }
 
-std::unique_ptr<QMessageBox> newBox(const AlertContent &content)
+std::unique_ptr<AlertBox> newBox(const AlertContent &content)
 {
-    auto box = std::make_unique<QMessageBox>(keyWindow());
+    auto box = std::make_unique<AlertBox>(keyWindow());
     box->setIcon(iconOf(content.style));
     box->setTextFormat(Qt::PlainText);
     box->setWindowTitle(QApplication::applicationDisplayName());

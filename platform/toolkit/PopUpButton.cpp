@@ -16,6 +16,7 @@ namespace {
 constexpr int kContentsLength = 12;     // characters: wide enough for an ordinary choice
 constexpr int kMostLength = 60;         // what is longer is cut
 constexpr std::size_t kMostTitles = 16; // that are measured
+constexpr int kAroundTitle = 2;         // pixels that styles take from it
 constexpr int kPictureSpacing = 4;      // pixels, as the toolkit has them
 
 } // namespace
@@ -31,19 +32,28 @@ PopUpButton::PopUpButton(QWidget *parent) : QComboBox(parent), m_items(new PopUp
 // length it creates the drop-down list at once.
 QSize PopUpButton::sizeHint() const
 {
-    const QFontMetrics metrics = fontMetrics();
-    const int length = minimumContentsLength() > 0 ? minimumContentsLength() : kContentsLength;
-    const int letter = metrics.horizontalAdvance(u'X');
-    const int titles = std::min(widthOfTitles(), kMostLength * letter);
-    const QSize contents(std::max(length * letter, titles), metrics.height() + 2);
-    QStyleOptionComboBox option;
-    initStyleOption(&option);
-    return style()->sizeFromContents(QStyle::CT_ComboBox, &option, contents, this);
+    return sizeFor(wantedLength());
 }
 
 QSize PopUpButton::minimumSizeHint() const
 {
-    return sizeHint();
+    return sizeFor(std::min(wantedLength(), kContentsLength));
+}
+
+int PopUpButton::wantedLength() const
+{
+    return minimumContentsLength() > 0 ? minimumContentsLength() : kContentsLength;
+}
+
+QSize PopUpButton::sizeFor(int length) const
+{
+    const QFontMetrics metrics = fontMetrics();
+    const int letter = metrics.horizontalAdvance(u'X');
+    const int titles = std::min(widthOfTitles() + kAroundTitle, kMostLength * letter);
+    const QSize contents(std::max(length * letter, titles), metrics.height() + 2);
+    QStyleOptionComboBox option;
+    initStyleOption(&option);
+    return style()->sizeFromContents(QStyle::CT_ComboBox, &option, contents, this);
 }
 
 int PopUpButton::widthOfTitles() const

@@ -88,6 +88,8 @@ public:
     /// Wide enough for every title of ordinary length, and for minimumContentsLength() characters,
     /// or an ordinary choice without it. A choice that is cut is told in the tool tip.
     QSize sizeHint() const override;
+
+    /// The same, with no more than an ordinary choice's characters beside the titles.
     QSize minimumSizeHint() const override;
 
 protected:
@@ -97,6 +99,8 @@ protected:
     void wheelEvent(QWheelEvent *event) override;
 
 private:
+    int wantedLength() const;
+    QSize sizeFor(int length) const;
     int widthOfTitles() const;
     bool isChoiceCut() const;
 

@@ -461,6 +461,10 @@ Umschalt+F1 oder das Kontextmenü sagt, warum.</translation>
 <context>
     <name>DialogTabs</name>
     <message>
+        <source>All Parts</source>
+        <translation>Alle Teile</translation>
+    </message>
+    <message>
         <source>Page Setup</source>
         <translation>Seite einrichten</translation>
     </message>

@@ -461,6 +461,10 @@ Maj+F1 ou le menu contextuel dit pourquoi.</translation>
 <context>
     <name>DialogTabs</name>
     <message>
+        <source>All Parts</source>
+        <translation>Toutes les parties</translation>
+    </message>
+    <message>
         <source>Page Setup</source>
         <translation>Mise en page</translation>
     </message>

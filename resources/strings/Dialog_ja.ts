@@ -461,6 +461,10 @@ Shift+F1 or the context menu tells why.</source>
 <context>
     <name>DialogTabs</name>
     <message>
+        <source>All Parts</source>
+        <translation>すべての項目</translation>
+    </message>
+    <message>
         <source>Page Setup</source>
         <translation>ページ設定</translation>
     </message>

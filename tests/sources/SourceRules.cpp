@@ -28,7 +28,7 @@ const QList<SourceRule> &plainTextRules()
          u"a label guesses at rich text"_s,
          u"newPlainLabel()"_s,
          {u"platform/toolkit/PlainLabel.cpp"_s, u"platform/toolkit/CaptionLabel.cpp"_s,
-          u"dialog/window/NoticeLabel.cpp"_s}},
+          u"dialog/window/NoticeLabel.cpp"_s, u"dialog/window/SentenceLabel.cpp"_s}},
         {"LabelOfARow",
          uR"( (?:\.|->) (?:addRow|insertRow) \s* \( \s* (?! \) | label\( ) )"_s,
          u"the label that a form makes of a string guesses at rich text"_s,
@@ -57,6 +57,7 @@ const QList<SourceRule> &plainTextRules()
         {"MessageBox",
          uR"( QMessageBox::(?:information|question|warning|critical|about|aboutQt)\b |
               new \s+ QMessageBox\b | make_unique<QMessageBox> | \bQMessageBox \s+ \w+ \s* [({;] |
+              new \s+ AlertBox\b | make_unique<AlertBox> | \bAlertBox \s+ \w+ \s* [({;] |
               \b set(?:Informative|Detailed)Text \s* \( )"_s,
          u"a message box guesses at rich text"_s,
          u"runAlert() or beginAlertSheet()"_s,

@@ -8,13 +8,16 @@
 #include <gtest/gtest.h>
 
 #include <QtCore/QTimer>
+#include <QtGui/QScreen>
 #include <QtTest/QTest>
 #include <QtWidgets/QAbstractButton>
 #include <QtWidgets/QApplication>
 #include <QtWidgets/QCheckBox>
 #include <QtWidgets/QLabel>
 #include <QtWidgets/QMessageBox>
+#include <QtWidgets/QScrollArea>
 
+#include <algorithm>
 #include <memory>
 #include <optional>
 
@@ -114,6 +117,87 @@ TEST(AlertTest, BlocksTheKeyWindowAloneAsASheet)
     EXPECT_EQ(sheet->parentWidget(), &window);
     answers.take();
     setKeyWindow(nullptr);
+}
+
+/// Reads the alert's size, and what of its buttons and texts a person can come to.
+struct Reach
+{
+    QSize size;
+    int buttonsInSight = 0;
+    int textsInArea = 0;
+    bool isScrolled = false;
+
+    void look(const ShownAlert &alert)
+    {
+        // A scroll area lays itself out in some turns of the event loop.
+        isScrolled =
+            QTest::qWaitFor([&] { return (textsInArea = textsIn(*alert.window)) > 0; }, 200);
+        size = alert.window->size();
+        for (const auto &button : alert.buttons)
+            buttonsInSight += button->visibleRegion() == button->rect() &&
+                                      button->width() >= button->minimumSizeHint().width()
+                                  ? 1
+                                  : 0;
+    }
+
+    /// Those that are scrolled up and down alone, with all of their lines.
+    static int textsIn(const QWidget &box)
+    {
+        const auto *area = box.findChild<QScrollArea *>();
+        if (!area)
+            return 0;
+        return static_cast<int>(
+            std::ranges::count_if(area->widget()->findChildren<QLabel *>(), [&](const auto *label) {
+                return label->width() <= area->viewport()->width() &&
+                       label->height() >= label->heightForWidth(label->width());
+            }));
+    }
+};
+
+Reach reachOf(const AlertContent &content, int points)
+{
+    const QFont before = QApplication::font();
+    QFont font = before;
+    font.setPointSize(points);
+    QApplication::setFont(font);
+    Reach reach;
+    const AlertAnswers answers({[&](const ShownAlert &alert) {
+        reach.look(alert);
+        alert.press(0);
+    }});
+    runAlert(content);
+    QApplication::setFont(before);
+    return reach;
+}
+
+TEST(AlertTest, ScrollsTextsThatAreHigherThanTheScreen)
+{
+    AlertContent content = question();
+    content.informative = u"The printer cannot print on both sides of this paper. "_s.repeated(20);
+    const Reach reach = reachOf(content, 24);
+    const QSize screen = QApplication::primaryScreen()->availableSize();
+    EXPECT_EQ(reach.size.boundedTo(screen), reach.size);
+    EXPECT_EQ(reach.buttonsInSight, 2);
+    EXPECT_EQ(reach.textsInArea, 2);
+}
+
+TEST(AlertTest, PutsButtonsThatAreTooWideOneAboveTheOther)
+{
+    AlertContent content = question();
+    content.buttons = {u"Go On with Everything as It Is Now"_s,
+                       u"Change the Paper in the Printer"_s, u"Cancel All of It"_s};
+    const Reach reach = reachOf(content, 24);
+    const QSize screen = QApplication::primaryScreen()->availableSize();
+    EXPECT_EQ(reach.size.boundedTo(screen), reach.size);
+    EXPECT_EQ(reach.buttonsInSight, 3);
+    EXPECT_EQ(reach.textsInArea, 2);
+}
+
+TEST(AlertTest, ScrollsNothingThatHasRoom)
+{
+    const Reach reach = reachOf(question(), 9);
+    EXPECT_EQ(reach.buttonsInSight, 2);
+    EXPECT_FALSE(reach.isScrolled);
 }
 
 struct StyleCase

@@ -148,6 +148,20 @@ TEST_P(AccessiblePart, RelatesEveryLabelToTheControlBesideIt)
     EXPECT_EQ(labelled, GetParam().labelled);
 }
 
+TEST_F(Accessibility, RelatesTheLabelsOfTheHeadToTheirControls)
+{
+    open();
+    const std::pair<const char *, QString> labelled[] = {{"printerPopup", u"Printer"_s},
+                                                         {"presetPopup", u"Preset"_s},
+                                                         {"copiesField", u"Copies"_s},
+                                                         {"pagesField", u"Pages"_s}};
+    for (const auto &[name, label] : labelled) {
+        const auto related = accessible(name).relations(QAccessible::Label);
+        ASSERT_FALSE(related.isEmpty()) << name;
+        EXPECT_TRUE(related[0].first->text(QAccessible::Name).startsWith(label)) << name;
+    }
+}
+
 /// What can be told of the values of controls is told.
 TEST_P(AccessiblePart, TellsTheValuesOfControls)
 {

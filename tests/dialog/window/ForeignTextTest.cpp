@@ -211,11 +211,13 @@ TEST_P(ForeignText, IsPlainInTheFileDialogs)
 TEST_P(ForeignText, IsPlainInTheListOfPrinters)
 {
     const QString shown = text();
-    PrinterPopUp printers;
+    QWidget window;
+    PrinterPopUp printers(&window);
+    window.setLayout(printers.newRow());
     printers.setCurrent({u"p<b>A&amp;B"_s, QString()});
     printers.setDestinations({{{u"p<b>A&amp;B"_s, QString()}, shown, shown},
                               {{u"q<b>A&amp;B"_s, u"<b>"_s}, shown, shown}});
-    printers.show();
+    window.show();
     look();
     EXPECT_TRUE(m_walk.seen().contains(u"SearchablePopUp printerPopup"_s));
     EXPECT_TRUE(m_walk.seen().contains(u"CaptionLabel printerState"_s));

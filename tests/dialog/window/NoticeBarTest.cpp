@@ -8,6 +8,7 @@
 #include <QtWidgets/QApplication>
 #include <QtWidgets/QPushButton>
 #include <QtWidgets/QToolTip>
+#include <QtWidgets/QVBoxLayout>
 
 #include <gtest/gtest.h>
 
@@ -71,6 +72,51 @@ TEST(NoticeBar, ShowsTwoLinesAndTellsTheWholeSentence)
     EXPECT_TRUE(QToolTip::text().contains(u"The printer does not allow it. The printer"_s));
     bar.tell(NoticeBar::Kind::Warning, u"Short."_s);
     EXPECT_EQ(label->shownLines(), QStringList{u"Short."_s});
+}
+
+TEST(NoticeBar, BecomesHigherForALongerSentenceAsFarAsItMay)
+{
+    QWidget window;
+    auto *column = new QVBoxLayout(&window);
+    auto *bar = new NoticeBar;
+    column->addStretch(1);
+    column->addWidget(bar);
+    window.resize(400, 400);
+    window.show();
+    const int line = bar->fontMetrics().lineSpacing();
+    const int room = bar->height();
+    bar->setMostHeight(4 * line);
+    const QString sentence = u"The printer does not allow it. "_s.repeated(5).trimmed();
+    bar->tell(NoticeBar::Kind::Warning, sentence);
+    const auto *label = bar->findChild<NoticeLabel *>();
+    EXPECT_TRUE(QTest::qWaitFor([&] { return label->shownLines().size() == 3; }));
+    EXPECT_EQ(label->shownLines().join(u' '), sentence);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return bar->height() == room + line; }));
+    bar->tell(NoticeBar::Kind::Warning, sentence.repeated(9));
+    EXPECT_TRUE(QTest::qWaitFor([&] { return bar->height() == room + 2 * line; }));
+    EXPECT_TRUE(label->shownLines().last().endsWith(u'…'));
+    bar->tell(NoticeBar::Kind::Warning, u"Short."_s);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return bar->height() == room; }));
+}
+
+TEST(NoticeBar, PutsOffersBelowASentenceThatTheyWouldLeaveNoRoom)
+{
+    NoticeBar bar;
+    bar.resize(400, bar.sizeHint().height());
+    bar.show();
+    const NoticeOffer shortOne{u"undoButton"_s, u"Undo"_s, [] {}};
+    const NoticeOffer longOne{u"getButton"_s, u"Get It with Other Settings"_s, [] {}};
+    bar.tell(NoticeBar::Kind::Warning, u"Short."_s, {shortOne});
+    const auto below = [&](const char *name) {
+        const auto *button = bar.findChild<QPushButton *>(QLatin1String(name));
+        return button->mapTo(&bar, QPoint()).y() >=
+               bar.findChild<NoticeLabel *>()->geometry().bottom();
+    };
+    bar.resize(400, bar.sizeHint().height());
+    EXPECT_TRUE(QTest::qWaitFor([&] { return !below("undoButton"); }));
+    bar.tell(NoticeBar::Kind::Warning, u"Short."_s, {shortOne, longOne});
+    bar.resize(400, bar.sizeHint().height());
+    EXPECT_TRUE(QTest::qWaitFor([&] { return below("undoButton") && below("getButton"); }));
 }
 
 TEST(NoticeBar, OffersWhatMayHelpAsAButton)

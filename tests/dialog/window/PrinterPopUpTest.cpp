@@ -33,16 +33,17 @@ class Printers : public testing::Test
 protected:
     void show(const QList<Destination> &list)
     {
+        m_window.setLayout(m_printers.newRow());
         m_printers.setCurrent({u"p02"_s, {}});
         m_printers.setDestinations(list);
-        m_printers.show();
-        ASSERT_TRUE(QTest::qWaitForWindowActive(&m_printers));
+        m_window.show();
+        ASSERT_TRUE(QTest::qWaitForWindowActive(&m_window));
         QObject::connect(&m_printers, &PrinterPopUp::picked, &m_printers,
                          [this](const QueueName &name) { m_picked += textOf(name); });
     }
 
     PopUpButton *popup() { return m_printers.popup(); }
-    QString state() { return m_printers.findChild<QLabel *>(u"printerState"_s)->text(); }
+    QString state() { return m_window.findChild<QLabel *>(u"printerState"_s)->text(); }
 
     QStringList titles()
     {
@@ -63,7 +64,7 @@ protected:
     SearchList *open()
     {
         QTest::mouseClick(popup(), Qt::LeftButton);
-        auto *list = m_printers.findChild<SearchList *>();
+        auto *list = m_window.findChild<SearchList *>();
         EXPECT_TRUE(list && QTest::qWaitFor([&] { return list->isVisible(); }));
         return list;
     }
@@ -77,7 +78,8 @@ protected:
         return rows;
     }
 
-    PrinterPopUp m_printers;
+    QWidget m_window;
+    PrinterPopUp m_printers{&m_window};
     QStringList m_picked;
 };
 
@@ -161,7 +163,7 @@ TEST_F(Printers, OfAFewHaveAnOrdinaryList)
     show(printers(10));
     QTest::mouseClick(popup(), Qt::LeftButton);
     EXPECT_TRUE(QTest::qWaitFor([&] { return popup()->view()->isVisible(); }));
-    EXPECT_EQ(m_printers.findChild<SearchList *>(), nullptr);
+    EXPECT_EQ(m_window.findChild<SearchList *>(), nullptr);
 }
 
 TEST_F(Printers, OfMoreThanTenAreSearchedByNamePlaceAndState)
@@ -187,7 +189,7 @@ TEST_F(Printers, OfMoreThanTenAreSearchedByTypingOnTheClosedList)
     show(printers(30));
     popup()->setFocus();
     QTest::keyClick(popup(), Qt::Key_1);
-    auto *search = m_printers.findChild<SearchList *>();
+    auto *search = m_window.findChild<SearchList *>();
     ASSERT_NE(search, nullptr);
     QTest::keyClicks(search->findChild<QLineEdit *>(), u"17"_s);
     EXPECT_EQ(found(search), QStringList{u"p17"_s});

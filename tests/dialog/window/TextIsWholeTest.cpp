@@ -1,15 +1,19 @@
 // In every language, font and part of the window, nothing that people read is cut.
 #include "dialog/window/HostHelp.h"
 #include "dialog/window/NoticeLabel.h"
+#include "dialog/window/ScrolledBody.h"
 #include "platform/toolkit/PanelPoint.h"
 #include "tests/dialog/window/DialogWindowFixture.h"
 #include "tests/dialog/window/LongerLanguage.h"
 #include "tests/support/TextRoom.h"
 
 #include <QtGui/QScreen>
+#include <QtWidgets/QAbstractSpinBox>
 #include <QtWidgets/QApplication>
 #include <QtWidgets/QDialog>
 #include <QtWidgets/QListWidget>
+#include <QtWidgets/QScrollBar>
+#include <QtWidgets/QTabBar>
 #include <QtWidgets/QToolButton>
 
 using namespace Qt::StringLiterals;
@@ -41,6 +45,60 @@ std::vector<Look> looks()
     return looks;
 }
 
+bool isInSight(const QWidget &widget, const QRect &area)
+{
+    return (QRegion(area) - widget.visibleRegion()).isEmpty();
+}
+
+/// What a person would have to scroll to of what must be there at once: the notice, the tab in
+/// front, a list of the others where they have no room, and the buttons of the window.
+QStringList outOfSight(QWidget &window)
+{
+    QStringList names;
+    for (const char *holder : {"noticeBar", "buttonRow"})
+        for (const auto *one :
+             window.findChild<QWidget *>(QLatin1String(holder))->findChildren<QWidget *>())
+            if (one->isVisible() && !isInSight(*one, one->rect()))
+                names += one->objectName();
+    const auto *tabs = window.findChild<QTabWidget *>(u"parts"_s);
+    const QTabBar &bar = *tabs->tabBar();
+    const auto *all = window.findChild<QToolButton *>(u"allPartsButton"_s);
+    if (!isInSight(bar, bar.tabRect(tabs->currentIndex())))
+        names += u"the tab in front"_s;
+    for (int index = 0; index < tabs->count() && !all->isVisible(); ++index)
+        if (!isInSight(bar, bar.tabRect(index)))
+            names += tabs->tabText(index);
+    if (all->isVisible() && !isInSight(*all, all->rect()))
+        names += all->objectName();
+    return names;
+}
+
+/// The least width of the widest thing that cannot be broken into lines.
+int widestOf(const QWidget &content)
+{
+    int widest = 0;
+    for (const auto *one : content.findChildren<QWidget *>()) {
+        const auto *label = qobject_cast<const QLabel *>(one);
+        const bool isOne = !one->layout() && one->isVisible() && !(label && label->wordWrap());
+        if (isOne && !qobject_cast<const QAbstractSpinBox *>(one->parentWidget()))
+            widest = std::max(widest, one->minimumSizeHint().width());
+    }
+    return widest;
+}
+
+/// The parts of the window that are scrolled sideways although each single control has its room.
+/// Views of panels are laid out by their panels.
+QStringList scrolledSideways(QWidget &window)
+{
+    constexpr int kMargins = 40;
+    QStringList names;
+    for (const auto *area : window.findChildren<ScrolledBody *>())
+        if (area->isVisible() && area->horizontalScrollBar()->maximum() > 0 &&
+            widestOf(*area->widget()) + kMargins <= area->viewport()->width())
+            names += area->objectName();
+    return names;
+}
+
 class TextIsWhole : public DialogWindowFixture, public testing::WithParamInterface<Look>
 {
 protected:
@@ -68,7 +126,7 @@ protected:
     {
         QStringList cut;
         const auto isWhole = [&] {
-            cut = cutTexts(*m_window);
+            cut = cutTexts(*m_window) + outOfSight(*m_window) + scrolledSideways(*m_window);
             return cut.isEmpty();
         };
         EXPECT_TRUE(QTest::qWaitFor(isWhole, kLayoutTimeout)) << where.toStdString() << ":\n"
