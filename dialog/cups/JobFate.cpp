@@ -47,6 +47,9 @@ JobFate askFate(ServerConnection &connection, const QString &queue, int jobId)
     IppHandle request = jobRequest(IPP_OP_GET_JOB_ATTRIBUTES, queue, jobId);
     askFor(request.get(), {"job-state", "job-state-reasons"});
     const IppHandle job = connection.request(std::move(request), queueResource(queue));
+    const ExchangeEnd &end = connection.lastEnd();
+    if (end.kind == ExchangeEnd::Kind::Answered && end.status == IPP_STATUS_ERROR_NOT_FOUND)
+        return JobFate::Forgotten;
     return job && connection.succeeded() ? fateOf(job.get()) : JobFate::Unknown;
 }
 

@@ -4,7 +4,8 @@
 
 /// What has become of a job at its server.
 enum class JobFate {
-    Unknown,    ///< the server does not tell, or has forgotten the job
+    Unknown,    ///< the server does not tell
+    Forgotten,  ///< it has no such job
     Incomplete, ///< it waits for documents
     Accepted,   ///< it was taken: it waits for the printer, prints, or has been printed
     Cancelled,

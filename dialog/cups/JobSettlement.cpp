@@ -73,7 +73,11 @@ Result<JobReceipt> cancel(const Fault &why, ServerConnection &connection, Sent s
     case JobFate::Accepted:
         if (sent == Sent::Lost)
             return accept(connection, request, progress);
-        [[fallthrough]];
+        break;
+    case JobFate::Forgotten:
+        if (sent != Sent::Lost)
+            return notPrinted(why, request.queue);
+        break;
     case JobFate::Unknown:
     case JobFate::Incomplete:
         break;
@@ -96,6 +100,7 @@ std::optional<Result<JobReceipt>> lookForAnswer(ServerConnection &connection,
     case JobFate::Aborted:
         return endedByServer(
             QT_TRANSLATE_NOOP("JobSettlement", "The print server %1 aborted job %2 on %3."), job);
+    case JobFate::Forgotten:
     case JobFate::Unknown:
         return perhapsPrinted(job.server, job.queue, job.id);
     case JobFate::Incomplete:

@@ -103,6 +103,12 @@ void PrintServer::stop()
     m_process.waitForFinished(kTimeout);
 }
 
+void PrintServer::crash()
+{
+    m_process.kill(); // by its process id
+    m_process.waitForFinished(kTimeout);
+}
+
 bool PrintServer::restart()
 {
     stop();

@@ -58,6 +58,9 @@ public:
     /// Ends the server; the object can be asked no more, until restart().
     void stop();
 
+    /// Ends it as a crash does: it keeps nothing that it has not written.
+    void crash();
+
     /// Starts it again as it was, with its queues and jobs. False when it does not start.
     bool restart();
 
