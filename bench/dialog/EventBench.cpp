@@ -205,6 +205,7 @@ int main(int argc, char **argv)
     printRow(costs, "a pick in Page Setup", sample, pickInPageSetup);
     printRow(costs, "undo after 1 pick", sample, undoAfter<1>);
     printRow(costs, "undo after 100 picks", sample, undoAfter<100>);
+    printRow(costs, "undo after 500 picks", sample, undoAfter<500>);
     printRow(costs, "20,000 printers are listed", sample, listPrinters);
     printRow(costs, "20,000 printers are searched", sample, searchPrinters);
     printLimits(costs);

@@ -188,7 +188,7 @@ Trial SettingScratch::glanceAt(const SettingChange &change, const QByteArray &ef
             trial.effect = effect;
     }
     trial.isNearer = canBePicked(m_job, m_wanted);
-    trial.isHad = trial.isNearer || isThere();
+    trial.isHad = trial.isNearer || isThereInAForm();
     return trial;
 }
 
@@ -226,7 +226,7 @@ bool SettingScratch::isHadAfterSave()
 {
     if (canBePicked(m_job, m_wanted))
         make(m_wanted);
-    else if (!isThere())
+    else if (!isThereInAForm())
         return false;
     savePreparedPanels(*m_job.session());
     m_answers.answerSheets();
@@ -238,6 +238,14 @@ bool SettingScratch::isThere() const
 {
     return m_isSlider ? hasSetting(m_job, {m_wanted.keyword, m_wanted.choice})
                       : currentChoice(m_job, m_wanted.keyword) == m_wanted.choice;
+}
+
+/// The panels may mark another form of it when they save their values.
+bool SettingScratch::isThereInAForm() const
+{
+    return isThere() ||
+           m_job.session()->choiceForms().areSame(m_wanted.keyword, m_wanted.choice,
+                                                  currentChoice(m_job, m_wanted.keyword));
 }
 
 /// Whether all changes stand, and nothing is wrong that was right.

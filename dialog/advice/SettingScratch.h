@@ -42,6 +42,7 @@ private:
     bool make(const PPDMark &choice);
     bool isHadAfterSave();
     bool isThere() const;
+    bool isThereInAForm() const;
     bool isSound(const QList<SettingChange> &changes) const;
     QList<SettingChange> changedBeside(const QList<SettingChange> &changes) const;
 

@@ -44,7 +44,7 @@ QList<JobOption> changedChoices(const JobValues &values, const QList<PPDMark> &m
     for (const PPDMark &mark : marks) {
         const bool isSent = !values.defaultMarks.contains(mark) ||
                             values.settled.contains(mark.keyword, Qt::CaseInsensitive);
-        if (isSent && !isReservedName(mark.keyword))
+        if (isSent && !isReservedName(mark.keyword) && !values.inTicket.contains(mark.keyword))
             choices += JobOption{mark.keyword, mark.choice};
     }
     return choices;

@@ -38,6 +38,9 @@ struct JobValues
     /// every other program sends them.
     QStringList settled;
     QList<AttributeRule> attributeRules; ///< attributeRulesFor() the printer
+    /// Keywords whose values travel in the ticket, under keys of the plug-in's own: their marks say
+    /// nothing, and are not sent.
+    QStringList inTicket;
 };
 
 /// The options of a job, or why it cannot be sent.

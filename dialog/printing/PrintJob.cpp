@@ -202,6 +202,9 @@ JobOptions PrintJob::optionsBeside(const QList<PPDMark> &defaults) const
         values.defaultMarks = defaults;
         values.ticket = open->ticket();
         values.attributeRules = attributeRules();
+        for (const QString &key : open->ticket().values().keys())
+            if (const QString keyword = open->keywordOfTicketKey(key); !keyword.isNull())
+                values.inTicket += keyword;
     }
     return jobOptions(values);
 }

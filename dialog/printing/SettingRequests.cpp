@@ -199,6 +199,6 @@ QString lossSentence(const PrintJob &job, const RequestedChoice &known)
             .arg(wanted);
     return QCoreApplication::translate("SettingRequests",
                                        "%1 cannot be chosen while the other settings are as they "
-                                       "are: %2 is %3.")
+                                       "are. %2 is %3 instead.")
         .arg(wanted, displayText(ppdText(option->text)), displayText(value));
 }

@@ -23,9 +23,9 @@ void Explanation::tellMade(const RequestedChoice &setting)
     if (!m_isWanted || !m_job.session() || isOwnSetting(setting.keyword))
         return;
     const SettingState now = settingState(m_job);
-    QList<SettingChange> changes =
-        changesBeside({setting.keyword, setting.choice}, std::exchange(m_former, now), now,
-                      m_job.session()->choiceForms());
+    // Whoever types options wants to know what is sent: forms of one another are told apart.
+    QList<SettingChange> changes = changesBeside({setting.keyword, setting.choice},
+                                                 std::exchange(m_former, now), now, ChoiceForms());
     // What has become of the setting itself is told in the end, when it was lost.
     changes.removeIf([&](const SettingChange &one) { return one.keyword == setting.keyword; });
     if (!changes.isEmpty())

@@ -164,18 +164,17 @@ NoticeOffer DialogAdvice::way(const QString &name, const QString &title, const R
     return {name, title, [this, remedy, wanted] { Q_EMIT taken(remedy, wanted); }, {}};
 }
 
-void DialogAdvice::offerRemedies(const PPDMark &refused, const QString &sentence)
+void DialogAdvice::offerRemedies(const PPDMark &lost, NoticeBar::Kind kind, const QString &sentence,
+                                 const QList<NoticeOffer> &others)
 {
-    m_adviser->ask(refused, [this, refused, sentence](const std::optional<Advice> &advice) {
+    m_adviser->ask(lost, [=, this](const std::optional<Advice> &advice) {
         if (!m_tabs.isEnabled() || !advice || advice->outcome != Advice::Outcome::Possible)
             return;
         QList<NoticeOffer> offers;
         for (const Remedy &remedy :
              advice->remedies.first(std::min(advice->remedies.size(), kMostRemedies)))
-            offers +=
-                way(u"remedyButton"_s, remedyTitle(job().ppd(), remedy, refused), remedy, refused);
-        offers += {u"leaveButton"_s, tr("Leave It"), [this] { Q_EMIT left(); }, {}};
-        Q_EMIT told(NoticeBar::Kind::Warning, sentence, offers);
+            offers += way(u"remedyButton"_s, remedyTitle(job().ppd(), remedy, lost), remedy, lost);
+        Q_EMIT told(kind, sentence, offers + others);
     });
 }
 

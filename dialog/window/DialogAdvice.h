@@ -28,18 +28,16 @@ public:
     DialogAdvice(PrintController &controller, SessionUndo &undo, DialogTabs &tabs, QWidget &window);
     ~DialogAdvice() override;
 
-    /// Looks for the ways to a choice that was refused. When there are any, they are told beside
-    /// the sentence that said why.
-    void offerRemedies(const PPDMark &refused, const QString &sentence);
+    /// Looks for the ways to a choice that was refused or taken away. When there are any, they are
+    /// told beside the sentence that told of it, before its other offers.
+    void offerRemedies(const PPDMark &lost, NoticeBar::Kind kind, const QString &sentence,
+                       const QList<NoticeOffer> &others);
 
 Q_SIGNALS:
     /// Somebody asks something: what he has done before is over.
     void asked();
 
     void told(NoticeBar::Kind kind, const QString &sentence, const QList<NoticeOffer> &offers);
-
-    /// The refused choice is left as it is.
-    void left();
 
     /// Somebody wants the remedy's changes, and then the choice.
     void taken(const Remedy &remedy, const PPDMark &wanted);

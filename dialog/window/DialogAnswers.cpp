@@ -81,7 +81,12 @@ void DialogWindow::tellRefusal(const QString &sentence, const PPDMark &choice)
 {
     tellEvent(); // what was before
     tell(NoticeBar::Kind::Warning, sentence);
-    m_advice->offerRemedies(choice, sentence);
+    m_advice->offerRemedies(choice, NoticeBar::Kind::Warning, sentence, {leaveOffer()});
+}
+
+NoticeOffer DialogWindow::leaveOffer()
+{
+    return {u"leaveButton"_s, tr("Leave It"), [this] { tellStanding(); }};
 }
 
 void DialogWindow::connectAdvice()
@@ -89,7 +94,6 @@ void DialogWindow::connectAdvice()
     m_advice = new DialogAdvice(m_controller, *m_undo, *m_tabs, *this);
     connect(m_advice, &DialogAdvice::asked, this, &DialogWindow::tellEvent);
     connect(m_advice, &DialogAdvice::told, this, &DialogWindow::tell);
-    connect(m_advice, &DialogAdvice::left, this, &DialogWindow::tellStanding);
     connect(m_advice, &DialogAdvice::taken, this, &DialogWindow::take);
 }
 
@@ -114,31 +118,49 @@ void DialogWindow::tellEvent()
         return;
     }
     m_eventIsNoted = false;
-    const QString refusal = std::exchange(m_refusalToTell, QString());
-    const PPDMark refused = std::exchange(m_refused, PPDMark());
     const QString picked = m_pick.keyword;
     const bool isNobodys = picked.isEmpty() && !picked.isNull();
-    const QString changes = changeSentence(job().ppd(), takeChanges());
+    News news{std::exchange(m_refusalToTell, QString()), takeChanges(), {}, !isNobodys};
+    news.lost = takeLost(news.changes);
     if (m_state != State::Ready)
         return;
     if (isNobodys)
         m_undo->noteOwn(m_toldState);
     else
         m_undo->noteUser(picked, m_toldState);
+    tellNews(news);
+}
+
+/// What somebody may want back: the choice that was refused, or the first one that was changed
+/// where a plug-in's alert said so; null: nothing.
+PPDMark DialogWindow::takeLost(const QList<SettingChange> &changes)
+{
+    const PPDMark refused = std::exchange(m_refused, PPDMark());
+    if (!m_undo->takeAlerted() || !refused.keyword.isNull() || changes.isEmpty())
+        return refused;
+    return {changes.constFirst().keyword, changes.constFirst().from};
+}
+
+void DialogWindow::tellNews(const News &news)
+{
     const Notice doubts = doubtsToTell(m_toldState);
-    if (refusal.isNull() && changes.isNull()) {
+    const QString changes = changeSentence(job().ppd(), news.changes);
+    if (news.refusal.isNull() && changes.isNull()) {
         showStanding(doubts);
         return;
     }
     updateButtons();
-    QStringList news{refusal, changes, doubts.sentence};
-    news.removeAll(QString());
+    QStringList sentences{news.refusal, changes, doubts.sentence};
+    sentences.removeAll(QString());
     QList<NoticeOffer> offers = doubts.offers;
-    if (!isNobodys && !changes.isNull() && m_undo->canUndo())
+    if (news.isUsers && !changes.isNull() && m_undo->canUndo())
         offers += undoOffer();
-    tell(refusal.isNull() ? doubts.kind : NoticeBar::Kind::Warning, joinedSentences(news), offers);
-    if (!refused.keyword.isNull())
-        m_advice->offerRemedies(refused, joinedSentences(news));
+    const NoticeBar::Kind kind = news.refusal.isNull() ? doubts.kind : NoticeBar::Kind::Warning;
+    tell(kind, joinedSentences(sentences), offers);
+    if (!news.refusal.isNull())
+        offers += leaveOffer();
+    if (!news.lost.choice.isNull())
+        m_advice->offerRemedies(news.lost, kind, joinedSentences(sentences), offers);
 }
 
 /// What is not as it is shown, or goes with nothing else, and what the plug-in advises.

@@ -104,6 +104,15 @@ private:
         QList<NoticeOffer> offers = {};
     };
 
+    /// What an event has come to.
+    struct News
+    {
+        QString refusal; ///< null: nothing was refused
+        QList<SettingChange> changes;
+        PPDMark lost; ///< that was refused or taken away; a null choice: nothing
+        bool isUsers = false;
+    };
+
     // DialogWindow.cpp
     void buildLayout();
     void addPartShortcut(QKeySequence::StandardKey keys, int step);
@@ -127,7 +136,10 @@ private:
     void noteEvent();
     void noteOwnEvent();
     void tellEvent();
+    PPDMark takeLost(const QList<SettingChange> &changes);
+    void tellNews(const News &news);
     void tellRefusal(const QString &sentence, const PPDMark &choice);
+    NoticeOffer leaveOffer();
     void connectAdvice();
     void take(const Remedy &remedy, const PPDMark &wanted);
     Notice doubtsToTell(const SettingState &state);

@@ -133,6 +133,15 @@ void SessionUndo::noteOwn(const SettingState &state)
     m_history.amend(std::move(moment));
 }
 
+bool SessionUndo::takeAlerted()
+{
+    const JournalPlace former = std::exchange(m_asked, m_journal.place());
+    const JournalEntry *entry = m_asked.get();
+    while (entry && entry != former.get() && entry->answers.empty())
+        entry = entry->before.get();
+    return entry && entry != former.get();
+}
+
 Result<> SessionUndo::undo()
 {
     Result<> gone = goTo(m_history.undo());
@@ -165,6 +174,7 @@ Result<> SessionUndo::goTo(const Moment &moment)
     if (job.session()) {
         bring(*job.session(), from, moment.place);
         m_journal.setPlace(moment.place);
+        m_asked = moment.place;
     }
     job.setSettled(moment.settled);
     m_controller.prepareToReopen(); // the next one

@@ -48,6 +48,9 @@ public:
         return m_history.isEmpty() ? SettingOrigins() : m_history.current().origins;
     }
 
+    /// Whether an alert was raised since this was asked last, or another state was gone to.
+    bool takeAlerted();
+
     bool canUndo() const { return m_history.canUndo(); }
     bool canRedo() const { return m_history.canRedo(); }
 
@@ -86,5 +89,6 @@ private:
     PrintController &m_controller;
     SessionJournal m_journal;
     UndoHistory<Moment> m_history;
-    QString m_subject; // of what is going on
+    JournalPlace m_asked; // where it was asked for alerts last
+    QString m_subject;    // of what is going on
 };

@@ -231,16 +231,16 @@ Umschalt+F1 oder das Kontextmenü sagt, warum.</translation>
         <translation>Ermöglichen</translation>
     </message>
     <message>
-        <source>Leave It</source>
-        <translation>So lassen</translation>
-    </message>
-    <message>
         <source>All %1</source>
         <translation>Alle %1</translation>
     </message>
 </context>
 <context>
     <name>DialogWindow</name>
+    <message>
+        <source>Leave It</source>
+        <translation>So lassen</translation>
+    </message>
     <message>
         <source>Retry</source>
         <translation>Erneut versuchen</translation>
@@ -2799,8 +2799,8 @@ Umschalt+F1 oder das Kontextmenü sagt, warum.</translation>
         <translation>Der Drucker nimmt kein Papier von %1 × %2 mm an: Eigene Formate reichen von %3 × %4 mm bis %5 × %6 mm.</translation>
     </message>
     <message>
-        <source>%1 cannot be chosen while the other settings are as they are: %2 is %3.</source>
-        <translation>%1 kann mit den übrigen Einstellungen nicht gewählt werden: „%2“ ist „%3“.</translation>
+        <source>%1 cannot be chosen while the other settings are as they are. %2 is %3 instead.</source>
+        <translation>%1 kann mit den übrigen Einstellungen nicht gewählt werden. Stattdessen ist „%2“ auf „%3“ gestellt.</translation>
     </message>
     <message>
         <source>A paper of a size of your own needs that size, such as Custom.100x150mm.</source>

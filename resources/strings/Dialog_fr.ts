@@ -231,16 +231,16 @@ Maj+F1 ou le menu contextuel dit pourquoi.</translation>
         <translation>L’obtenir</translation>
     </message>
     <message>
-        <source>Leave It</source>
-        <translation>Laisser ainsi</translation>
-    </message>
-    <message>
         <source>All %1</source>
         <translation>Les %1</translation>
     </message>
 </context>
 <context>
     <name>DialogWindow</name>
+    <message>
+        <source>Leave It</source>
+        <translation>Laisser ainsi</translation>
+    </message>
     <message>
         <source>Retry</source>
         <translation>Réessayer</translation>
@@ -2799,8 +2799,8 @@ Maj+F1 ou le menu contextuel dit pourquoi.</translation>
         <translation>L’imprimante n’accepte pas de papier de %1 × %2 mm : les formats personnalisés vont de %3 × %4 mm à %5 × %6 mm.</translation>
     </message>
     <message>
-        <source>%1 cannot be chosen while the other settings are as they are: %2 is %3.</source>
-        <translation>%1 ne peut pas être choisi avec les autres réglages actuels : « %2 » est « %3 ».</translation>
+        <source>%1 cannot be chosen while the other settings are as they are. %2 is %3 instead.</source>
+        <translation>%1 ne peut pas être choisi avec les autres réglages actuels. « %2 » est « %3 » à la place.</translation>
     </message>
     <message>
         <source>A paper of a size of your own needs that size, such as Custom.100x150mm.</source>

@@ -231,16 +231,16 @@ Shift+F1 or the context menu tells why.</source>
         <translation>使えるようにする</translation>
     </message>
     <message>
-        <source>Leave It</source>
-        <translation>このままにする</translation>
-    </message>
-    <message>
         <source>All %1</source>
         <translation>%1 通りすべて</translation>
     </message>
 </context>
 <context>
     <name>DialogWindow</name>
+    <message>
+        <source>Leave It</source>
+        <translation>このままにする</translation>
+    </message>
     <message>
         <source>Retry</source>
         <translation>再試行</translation>
@@ -2787,8 +2787,8 @@ Shift+F1 or the context menu tells why.</source>
         <translation>現在のほかの設定では、%1 は選べません。</translation>
     </message>
     <message>
-        <source>%1 cannot be chosen while the other settings are as they are: %2 is %3.</source>
-        <translation>現在のほかの設定では、%1 は選べません（%2 は「%3」です）。</translation>
+        <source>%1 cannot be chosen while the other settings are as they are. %2 is %3 instead.</source>
+        <translation>現在のほかの設定では、%1 は選べません。%2 は「%3」のままです。</translation>
     </message>
     <message>
         <source>A paper of a size of your own needs that size, such as Custom.100x150mm.</source>

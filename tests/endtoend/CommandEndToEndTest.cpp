@@ -336,7 +336,7 @@ TEST_F(Command, ASettingThatIsLostIsToldAndPrintedWithoutAfterAYes)
         print({u"-o"_s, u"VKResolution=High"_s, u"-o"_s, u"VKMediaType=Glossy"_s, u"--yes"_s});
     EXPECT_EQ(run.status, 0);
     EXPECT_EQ(run.errors, u"velkaro-print: VKResolution=High cannot be chosen while the other "
-                          "settings are as they are: Print Quality is Photo.\n"_s);
+                          "settings are as they are. Print Quality is Photo instead.\n"_s);
     const QList<int> jobs = newJobs();
     ASSERT_EQ(jobs.size(), 1);
     EXPECT_EQ(settingsOf(jobs[0]).value(u"VKResolution"_s), u"Photo"_s);
@@ -396,8 +396,8 @@ INSTANTIATE_TEST_SUITE_P(
         Fault{"DisabledSlider",
               {u"-o"_s, u"VKBrightness=3"_s},
               3,
-              "VKBrightness=3 cannot be chosen while the other settings are as they are: "
-              "Brightness is 0."},
+              "VKBrightness=3 cannot be chosen while the other settings are as they are. "
+              "Brightness is 0 instead."},
         Fault{"PaperThatIsNotForBothSides",
               {u"-o"_s, u"Duplex=DuplexNoTumble"_s, u"--paper"_s, u"A4.Fullbleed"_s},
               3,

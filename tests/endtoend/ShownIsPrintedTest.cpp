@@ -125,6 +125,8 @@ protected:
     {
         QList<Factor> all;
         for (const PPDMark &mark : marksOf(m_job.ppd())) {
+            if (m_job.session()->titledKeywords().contains(mark.keyword))
+                continue; // its value travels in the ticket
             const ppd_option_t *option = findOption(m_job.ppd(), mark.keyword);
             Factor factor{mark.keyword, {}};
             for (int index = 0; index < option->num_choices; ++index)

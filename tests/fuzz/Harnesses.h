@@ -21,6 +21,7 @@ void runPPD(const QByteArray &ppd);
 void runIppAnswer(const QByteArray &answer);
 void runJobFile(const QByteArray &file);
 void runDocument(const QByteArray &nameAndContent);
+void runWhy(const QByteArray &ppd);
 
 inline constexpr std::array kHarnesses{
     Harness{"saved-options", runSavedOptions},
@@ -29,6 +30,7 @@ inline constexpr std::array kHarnesses{
     Harness{"ipp-answer", runIppAnswer},
     Harness{"job-file", runJobFile},
     Harness{"document", runDocument},
+    Harness{"why", runWhy},
 };
 
 /// Keeps the user's home, settings and printers out of the process, and the process off the screen.

@@ -97,7 +97,7 @@ TEST_F(InstalledExample, PutsItsSettingsIntoTheJob)
 {
     EXPECT_EQ(jobOptions(examplePPD(), {u"PageSize=A7"_s, u"ExMedium=Card"_s, u"ExSaveToner=Yes"_s,
                                         u"ExDarkness=2"_s}),
-              (QByteArrayList{"PageSize=A7", "ExMedium=Card", "ExSaveToner=Yes", "ExDarkness=0",
+              (QByteArrayList{"PageSize=A7", "ExMedium=Card", "ExSaveToner=Yes",
                               "print-scaling=auto", "com.example.print.Darkness=2"}));
 }
 

@@ -144,6 +144,14 @@ const Question kQuestions[] = {
      Available,
      {},
      u"Short-Edge Binding can be chosen."_s},
+    {"AFormThatThePanelsMarkWhenTheySave",
+     u"velkaro-px-t900"_s,
+     {{u"Duplex"_s, u"DuplexTumble"_s}, {u"VKOutput"_s, u"FAX"_s}},
+     {u"VKMediaType"_s, u"Plain"_s},
+     Possible,
+     {{u"Duplex"_s, u"None"_s}},
+     u"Plain Paper is not there for Short-Edge Binding. It is there for Two-Sided Printing: "
+     u"Off."_s},
     {"AMediumOfAPaperThatIsNotForTwoSides",
      u"velkaro-px-t900"_s,
      {{u"Duplex"_s, u"DuplexTumble"_s}},
@@ -181,6 +189,27 @@ TEST(AdviceOnAForeignPrinter, NamesBothSidesOfAConstraint)
     ASSERT_TRUE(advice);
     EXPECT_EQ(advice->sentence, u"Left is not there for Upper. It is there for Lower and Side."_s);
     EXPECT_EQ(advice->remedies.size(), 2);
+}
+
+// The envelope would give it as well, and then the job would have both sides of an envelope.
+TEST(AdviceOnAForeignPrinter, NamesNoRemedyThatBringsANewDoubt)
+{
+    const QTemporaryDir folder;
+    const QString path = folder.filePath(u"foreign.ppd"_s);
+    writeFile(path, PPDSource()
+                        .papers({{"A4", 595, 842}, {"A5", 420, 595}, {"Env10", 297, 684}})
+                        .option("Duplex/Two-Sided", {"None/Off", "DuplexNoTumble/Long Edge"})
+                        .option("Tray/Tray", {"Upper/Upper", "Side/Side"})
+                        .constraint("Tray Side", "PageSize A4")
+                        .constraint("PageSize A4", "Tray Side")
+                        .text());
+    PrintJob job;
+    openOn(job, path, {{u"Duplex"_s, u"DuplexNoTumble"_s}});
+    const std::optional<Advice> advice = adviceOn(*job.session(), {u"Tray"_s, u"Side"_s});
+    ASSERT_TRUE(advice);
+    ASSERT_EQ(advice->remedies.size(), 1);
+    EXPECT_EQ(advice->remedies.constFirst().changes,
+              (QList<SettingChange>{{u"PageSize"_s, u"A4"_s, u"A5"_s}}));
 }
 
 /// Ten settings of ten choices. The first one's second choice goes with no choice of the second

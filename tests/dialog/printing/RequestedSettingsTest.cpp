@@ -81,8 +81,8 @@ INSTANTIATE_TEST_SUITE_P(
              {u"VKMediaType=Glossy"_s, u"Duplex=DuplexNoTumble"_s},
              {u"Duplex=DuplexNoTumble"_s, u"VKMediaType=PlainDuplex"_s},
              FaultKind::Vetoed,
-             u"VKMediaType=Glossy cannot be chosen while the other settings are as they are: Media "
-             "Type is Plain Paper (Two-Sided)."_s},
+             u"VKMediaType=Glossy cannot be chosen while the other settings are as they are. Media "
+             "Type is Plain Paper (Two-Sided) instead."_s},
         Wish{"TheFormsOfOneMedium",
              kFull,
              {u"VKMediaType=Plain"_s, u"VKMediaType=PlainDuplex"_s, u"Duplex=DuplexTumble"_s},
@@ -93,8 +93,8 @@ INSTANTIATE_TEST_SUITE_P(
              {u"VKMediaType=Glossy"_s, u"VKResolution=High"_s},
              {u"VKMediaType=Glossy"_s, u"VKResolution=Photo"_s},
              FaultKind::Vetoed,
-             u"VKResolution=High cannot be chosen while the other settings are as they are: Print "
-             "Quality is Photo."_s},
+             u"VKResolution=High cannot be chosen while the other settings are as they are. Print "
+             "Quality is Photo instead."_s},
         Wish{"ABoxThatIsOffAndOut",
              kFull,
              {u"VKMediaType=Glossy"_s, u"VKBiDir=OFF"_s},
@@ -104,16 +104,17 @@ INSTANTIATE_TEST_SUITE_P(
              {u"VKMediaType=Glossy"_s, u"VKResolution=High"_s, u"VKBiDir=ON"_s},
              {u"VKMediaType=Glossy"_s},
              FaultKind::Vetoed,
-             u"VKBiDir=ON cannot be chosen while the other settings are as they are: "
-             "Bi-Directional Printing is Off. VKResolution=High cannot be chosen while the other "
-             "settings are as they are: Print Quality is Photo."_s},
+             u"VKBiDir=ON cannot be chosen while the other settings are as they are. "
+             "Bi-Directional Printing is Off instead. VKResolution=High cannot be chosen while the "
+             "other "
+             "settings are as they are. Print Quality is Photo instead."_s},
         Wish{"APaperAndWhatItRulesOut",
              kFull,
              {u"PageSize=A4.Fullbleed"_s, u"VKResolution=PlainFast"_s},
              {u"PageSize=A4.Fullbleed"_s, u"VKResolution=PlainNormal"_s},
              FaultKind::Vetoed,
-             u"VKResolution=PlainFast cannot be chosen while the other settings are as they are: "
-             "Print Quality is Normal."_s},
+             u"VKResolution=PlainFast cannot be chosen while the other settings are as they are. "
+             "Print Quality is Normal instead."_s},
         Wish{"WhatSwitchesThePanelsOff",
              kFull,
              {u"VKOutput=FAX"_s, u"VKMediaType=Glossy"_s, u"copies=2"_s},
@@ -122,12 +123,13 @@ INSTANTIATE_TEST_SUITE_P(
              kFull,
              {u"VKRed=7"_s, u"VKColorEnhancement=ON"_s, u"Duplex=DuplexNoTumble"_s},
              {u"VKColorEnhancement=ON"_s}},
-        Wish{"ASliderThatIsSwitchedOff",
-             kFull,
-             {u"VKRed=7"_s, u"VKMonoColor=Mono"_s, u"VKColorEnhancement=ON"_s},
-             {u"VKMonoColor=Mono"_s},
-             FaultKind::Vetoed,
-             u"VKRed=7 cannot be chosen while the other settings are as they are: Red is 0."_s},
+        Wish{
+            "ASliderThatIsSwitchedOff",
+            kFull,
+            {u"VKRed=7"_s, u"VKMonoColor=Mono"_s, u"VKColorEnhancement=ON"_s},
+            {u"VKMonoColor=Mono"_s},
+            FaultKind::Vetoed,
+            u"VKRed=7 cannot be chosen while the other settings are as they are. Red is 0 instead."_s},
         Wish{"WhatTheConstraintsForbid",
              "velkaro-px-330c",
              {u"Duplex=DuplexTumble"_s, u"VKMediaType=Glossy"_s},

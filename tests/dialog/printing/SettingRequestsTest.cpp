@@ -147,8 +147,8 @@ TEST_P(HostRefusals, FailTheSettingThatTheyConcernAlone)
     const Result<> made = make(u"vkmediatype"_s, u"glossy"_s);
     EXPECT_EQ(made.sentence(), GetParam().isMade ? QString()
                                                  : u"VKMediaType=Glossy cannot be chosen while "
-                                                   "the other settings are as they are: Media "
-                                                   "Type is Plain Paper."_s);
+                                                   "the other settings are as they are. Media "
+                                                   "Type is Plain Paper instead."_s);
     EXPECT_EQ(markedChoice(m_job.ppd(), u"VKMediaType"_s) == u"Glossy"_s, GetParam().isMade);
 }
 

@@ -1,5 +1,6 @@
 // Why a choice is not to be had, asked in the dialog, and the ways to it.
 #include "tests/dialog/window/UndoFixture.h"
+#include "tests/support/AlertAnswers.h"
 #include "tests/support/ClashingPPD.h"
 
 #include <QtGui/QContextMenuEvent>
@@ -235,6 +236,25 @@ TEST_F(WindowAdvice, OffersTheWaysToARefusedChoice)
     EXPECT_EQ(marked(u"Duplex"_s), u"None"_s);
     undo();
     EXPECT_EQ(state(), before);
+}
+
+TEST_F(WindowAdvice, OffersTheWayBackToWhatAnAlertTookAway)
+{
+    open();
+    pick("resolutionPopup", u"PlainFast"_s);
+    showTab(u"setup"_s);
+    {
+        AlertAnswers answers({AlertAnswers::button(0)});
+        part<QAbstractButton>("borderlessButton")->click();
+    }
+    ASSERT_TRUE(waitForOffer("remedyButton"));
+    EXPECT_EQ(notice(), u"Print Quality is now Normal (was Draft)."_s);
+    EXPECT_EQ(offers().first().simplified(), u"Use A4 and use Draft"_s);
+    EXPECT_EQ(offers().last(), u"Undo"_s);
+    click("remedyButton");
+    QCoreApplication::processEvents();
+    EXPECT_EQ(marked(u"VKResolution"_s), u"PlainFast"_s);
+    EXPECT_EQ(marked(u"PageSize"_s), u"A4"_s);
 }
 
 TEST_F(WindowAdvice, LeavesARefusedChoiceWhereItIs)
