@@ -1,6 +1,7 @@
 // What an answer costs in CPU time, with all the copies of the process that find it out: of the
 // sample printers, in a state in which it takes one change; of a printer with 2000 choices; and of
 // one whose constraints are made to take all time.
+#include "bench/advice/FollowCost.h"
 #include "bench/support/BenchPrinter.h"
 #include "bench/support/Timing.h"
 #include "dialog/advice/Advising.h"
@@ -102,6 +103,7 @@ int main(int argc, char **argv)
     const QApplication application(argc, argv);
     const QTemporaryDir folder;
     const PPDMark photo{u"VKResolution"_s, u"Photo"_s};
+    printFollowCost();
     printHead("Why a choice is not to be had", "CPU", "allowed");
     for (const char *sample : {"velkaro-px-t900", "velkaro-mx-j710dw", "velkaro-px-330c"})
         printRow(sample, samplePPD(QString::fromLatin1(sample)), photo, kReachOfSamples);
