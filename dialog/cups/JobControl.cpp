@@ -1,5 +1,6 @@
 #include "dialog/cups/JobControl.h"
 
+#include "dialog/cups/JobAuthentication.h"
 #include "dialog/cups/ServerConnection.h"
 
 #include <algorithm>
@@ -28,6 +29,7 @@ constexpr std::array kActions{
     ActionRow{JobAction::Release, IPP_OP_RELEASE_JOB,
               bit(JobPhase::Held) | bit(JobPhase::HeldToRetry)},
     ActionRow{JobAction::Restart, IPP_OP_RESTART_JOB, kAtEnd},
+    ActionRow{JobAction::Authenticate, IPP_OP_CUPS_AUTHENTICATE_JOB, bit(JobPhase::NeedsPassword)},
 };
 
 const ActionRow &rowOf(JobAction action)
@@ -76,6 +78,9 @@ Result<JobStatus> askStatus(ServerConnection &connection, const JobPlace &job, i
 
 Result<> perform(JobAction action, const JobPlace &job, CallGuard &guard)
 {
+    if (action == JobAction::Authenticate)
+        return authenticateJob(job, guard);
+    const PasswordScope scope(PasswordPurpose::ChangingJob, job.queue);
     ServerConnection connection(job.server, guard);
     if (connection.isConnected())
         connection.request(jobRequest(rowOf(action).operation, job.queue, job.id),

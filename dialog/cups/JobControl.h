@@ -17,7 +17,13 @@ struct JobPlace
 };
 
 /// What can be done to a job that is accepted.
-enum class JobAction { Cancel, Hold, Release, Restart };
+enum class JobAction {
+    Cancel,
+    Hold,
+    Release,
+    Restart,
+    Authenticate, ///< somebody is asked who prints (authenticateJob())
+};
 
 /// Whether the action makes sense for a job in the phase: a server refuses the others.
 bool isOffered(JobAction action, JobPhase phase);

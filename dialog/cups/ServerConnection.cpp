@@ -1,9 +1,11 @@
 #include "dialog/cups/ServerConnection.h"
 
+#include "dialog/cups/Certificates.h"
 #include "dialog/job/OutgoingText.h"
 
 #include <QtCore/QBuffer>
 #include <QtCore/QByteArray>
+#include <QtCore/QRegularExpression>
 #include <QtCore/QUrl>
 
 #include <cerrno>
@@ -37,6 +39,28 @@ const char *noPassword(const char *, http_t *, const char *, const char *, void 
     return nullptr;
 }
 
+/// Not connected yet: with the guard in place, a handshake for TLS waits no longer than it says.
+http_t *newHandle(http_encryption_t encryption, CallGuard &guard)
+{
+    http_t *http =
+        httpConnect2(cupsServer(), ippPort(), nullptr, AF_UNSPEC, encryption, 1, 0, nullptr);
+    if (http)
+        httpSetTimeout(http, kTick, mayWaitOn, &guard);
+    return http;
+}
+
+/// What the server offers beside the ways that need no password.
+QByteArray passwordSchemes(const QByteArray &challenge)
+{
+    static const QRegularExpression scheme(
+        QStringLiteral(R"re(\b(?:Basic|Digest)\b(?:[\s,]+\w+=(?:"[^"]*"|[^\s,"]+))*)re"),
+        QRegularExpression::CaseInsensitiveOption);
+    QByteArrayList schemes;
+    for (auto found = scheme.globalMatch(QString::fromLatin1(challenge)); found.hasNext();)
+        schemes += found.next().captured().toLatin1();
+    return schemes.join(", ");
+}
+
 bool closesConnection(http_t *http)
 {
     return qstricmp(httpGetField(http, HTTP_FIELD_CONNECTION), "close") == 0;
@@ -45,19 +69,12 @@ bool closesConnection(http_t *http)
 } // namespace
 
 ServerConnection::ServerConnection(const QString &server, CallGuard &guard)
-    : m_guard(guard), m_watch(guard)
+    : m_guard(guard), m_name(nameOfServer(server)), m_watch(guard), m_login(m_name)
 {
-    useServer(server);
     cupsSetPasswordCB2(noPassword, nullptr);
-    m_name = nameOfServer(server);
-    // Not connected yet: with the guard in place, a handshake for TLS waits no longer than it says.
-    m_http.reset(
-        httpConnect2(cupsServer(), ippPort(), nullptr, AF_UNSPEC, cupsEncryption(), 1, 0, nullptr));
-    if (m_http) {
-        httpSetTimeout(m_http.get(), kTick, mayWaitOn, &guard);
-        if (!connectAnew())
-            m_http.reset();
-    }
+    m_http.reset(newHandle(cupsEncryption(), guard));
+    if (m_http && !connectAnew())
+        m_http.reset();
     if (!m_http)
         endBy(Kind::NotConnected);
 }
@@ -70,7 +87,33 @@ bool ServerConnection::connectAnew()
         return false;
     m_watch.watch(httpGetFd(m_http.get()));
     m_guard.stampSignOfLife();
-    return true;
+    return isTrusted();
+}
+
+/// Before anything is sent.
+bool ServerConnection::isTrusted()
+{
+    m_isUntrusted = !isKnownServer(m_http.get(), m_name);
+    return !m_isUntrusted;
+}
+
+/// Whether others could read what goes to the server.
+bool ServerConnection::isReadable() const
+{
+    return !httpIsEncrypted(m_http.get()) && !httpAddrLocalhost(httpGetAddress(m_http.get()));
+}
+
+bool ServerConnection::startEncryption()
+{
+    return httpEncryption(m_http.get(), HTTP_ENCRYPTION_REQUIRED) == 0 && isTrusted();
+}
+
+bool ServerConnection::encrypt()
+{
+    if (!isReadable() || startEncryption())
+        return true;
+    endBy(Kind::HttpStatus, HTTP_STATUS_UPGRADE_REQUIRED);
+    return false;
 }
 
 void ServerConnection::endBy(Kind kind, int status)
@@ -84,7 +127,9 @@ void ServerConnection::endBy(Kind kind, int status)
     else if (m_http && m_guard.isOutOfTime())
         m_end.kind = Kind::TooSlow;
     else
-        m_end.kind = kind;
+        m_end.kind = m_isUntrusted ? Kind::OtherCertificate : kind;
+    if (m_end.kind == Kind::OtherCertificate)
+        m_end.text = certificatePath(m_name);
 }
 
 void ServerConnection::endByTransport()
@@ -115,8 +160,9 @@ bool ServerConnection::begin(int timeouts)
         endBy(Kind::NotConnected);
         return false;
     }
+    m_login.begin();
     m_guard.stampSignOfLife();
-    m_guard.limitTime(timeouts);
+    m_guard.limitTime(m_timeouts = timeouts);
     // A connection that has something to read before a request was sent has been closed.
     const bool isOver = m_isSpent || closesConnection(m_http.get()) || httpWait(m_http.get(), 0);
     if (!isOver || connectAnew())
@@ -133,19 +179,53 @@ int ServerConnection::ask(const char *method, const QByteArray &resource,
     int status = send();
     for (int attempt = 1; attempt < kMostAttempts && meets(status, method, resource); ++attempt)
         status = send();
+    if (status != HTTP_STATUS_UNAUTHORIZED && status != HTTP_STATUS_ERROR)
+        m_login.succeed(); // "not found" is said to people who are known
     return status;
 }
 
 bool ServerConnection::meets(int demand, const char *method, const QByteArray &resource)
 {
-    if (demand != HTTP_STATUS_UPGRADE_REQUIRED && demand != HTTP_STATUS_UNAUTHORIZED)
-        return false;
     // On a new connection: the rest of the answer may still arrive on the old one.
-    if (demand == HTTP_STATUS_UNAUTHORIZED &&
-        cupsDoAuthentication(m_http.get(), method, resource.constData()) != 0)
-        return false;
-    return connectAnew() && (demand != HTTP_STATUS_UPGRADE_REQUIRED ||
-                             httpEncryption(m_http.get(), HTTP_ENCRYPTION_REQUIRED) == 0);
+    if (demand == HTTP_STATUS_UNAUTHORIZED)
+        return logIn(method, resource) && connectAnew();
+    return demand == HTTP_STATUS_UPGRADE_REQUIRED && connectAnew() && startEncryption();
+}
+
+bool ServerConnection::logIn(const char *method, const QByteArray &resource)
+{
+    if (m_login.wasTried()) {
+        // libcups would try what was refused twice more; a new handle knows nothing of it.
+        const QByteArray challenge = httpGetField(m_http.get(), HTTP_FIELD_WWW_AUTHENTICATE);
+        const bool isEncrypted = httpIsEncrypted(m_http.get()) != 0;
+        std::unique_ptr<http_t, HttpCloser> fresh(
+            newHandle(isEncrypted ? HTTP_ENCRYPTION_REQUIRED : cupsEncryption(), m_guard));
+        if (!fresh)
+            return false;
+        m_http.swap(fresh);
+        if (!connectAnew())
+            return false;
+        httpSetField(m_http.get(), HTTP_FIELD_WWW_AUTHENTICATE,
+                     passwordSchemes(challenge).constData());
+    }
+    cupsSetPasswordCB2(password, this);
+    const int done = cupsDoAuthentication(m_http.get(), method, resource.constData());
+    cupsSetPasswordCB2(noPassword, nullptr);
+    return done == 0;
+}
+
+/// What libcups asks for; it takes a copy at once.
+const char *ServerConnection::password(const char *, http_t *, const char *, const char *,
+                                       void *connection)
+{
+    auto &self = *static_cast<ServerConnection *>(connection);
+    self.m_guard.unlimitTime(); // people take their time
+    const std::optional<Credentials> who = self.m_login.next(self.isReadable(), self.m_guard);
+    self.m_guard.limitTime(self.m_timeouts);
+    if (!who)
+        return nullptr;
+    cupsSetUser(who->user.toUtf8().constData());
+    return self.m_login.tried().text();
 }
 
 bool ServerConnection::post(ipp_t *request, const QByteArray &resource, bool dataFollow)
@@ -271,6 +351,8 @@ bool ServerConnection::isOk(int status)
 {
     if (status == HTTP_STATUS_ERROR || status == HTTP_STATUS_CONTINUE)
         endByTransport();
+    else if (status == HTTP_STATUS_UNAUTHORIZED && m_login.wasTried())
+        endBy(Kind::WrongPassword);
     else if (status != HTTP_STATUS_OK)
         endBy(Kind::HttpStatus, status);
     return status == HTTP_STATUS_OK;

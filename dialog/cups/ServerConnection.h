@@ -2,6 +2,7 @@
 
 #include "dialog/cups/AnswerBody.h"
 #include "dialog/cups/IppAnswer.h"
+#include "dialog/cups/Passwords.h"
 #include "dialog/cups/ServerLimits.h"
 #include "dialog/cups/ServerSentences.h"
 #include "dialog/cups/SocketWatch.h"
@@ -25,8 +26,9 @@ struct HttpCloser
 /// and what it brings is limited in time and size (ServerLimits.h); only looking up the server's
 /// name cannot be interrupted.
 ///
-/// Redirections are not followed and no password is sent. TLS is used where the user or the server
-/// asks for it.
+/// Redirections are not followed. TLS is used where the user or the server asks for it, and a
+/// server that shows another certificate than before gets nothing. A password is sent where the
+/// server wants one and somebody has said it (Passwords.h).
 class ServerConnection
 {
 public:
@@ -41,6 +43,10 @@ public:
 
     /// The server's name for people.
     QString serverName() const { return m_name; }
+
+    /// Encrypts the connection from now on, where others could read what goes over it. False, with
+    /// lastFault(), when that cannot be done.
+    bool encrypt();
 
     /// Sends the request and gives the server's answer, of whatever status; null when there was
     /// none. An answer that is whole counts, whatever became of the connection after it. Takes the
@@ -74,6 +80,12 @@ private:
     bool begin(int timeouts);
     int ask(const char *method, const QByteArray &resource, const std::function<int()> &send);
     bool meets(int demand, const char *method, const QByteArray &resource);
+    bool logIn(const char *method, const QByteArray &resource);
+    bool isReadable() const;
+    bool startEncryption();
+    bool isTrusted();
+    static const char *password(const char *prompt, http_t *http, const char *method,
+                                const char *resource, void *connection);
     bool post(ipp_t *request, const QByteArray &resource, bool dataFollow);
     int status();
     int goAhead();
@@ -89,7 +101,10 @@ private:
     QString m_name;
     SocketWatch m_watch;
     std::unique_ptr<http_t, HttpCloser> m_http;
-    bool m_isSpent = false; ///< an exchange was left in the middle: the next one connects anew
+    Login m_login;
+    int m_timeouts = 0;         ///< that the exchange has in all
+    bool m_isSpent = false;     ///< an exchange was left in the middle: the next one connects anew
+    bool m_isUntrusted = false; ///< it has shown another certificate than before
     ExchangeEnd m_end;
 };
 

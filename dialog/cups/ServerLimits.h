@@ -31,8 +31,9 @@ inline constexpr int kDeepestCollection = 16;
 /// More than openPPD() takes.
 inline constexpr qint64 kLargestPPDAnswer = 16LL * 1024 * 1024;
 
-/// Requests sent anew, after an upgrade to TLS or with credentials.
-inline constexpr int kMostAttempts = 3;
+/// Requests sent anew, after an upgrade to TLS or with credentials: libcups tries some by itself
+/// before it asks for others, and people are asked three times.
+inline constexpr int kMostAttempts = 10;
 
 /// How much of a server's text is shown, in UTF-16 units.
 inline constexpr int kLongestText = 300;

@@ -51,6 +51,15 @@ constexpr std::array kKinds{
         Kind::Unreadable,
         {FaultKind::Refused,
          QT_TRANSLATE_NOOP("Server", "The answer of the print server %1 cannot be understood.")}},
+    KindRow{Kind::WrongPassword,
+            {FaultKind::NeedsPassword,
+             QT_TRANSLATE_NOOP("Server", "The print server %1 does not accept the user name and "
+                                         "the password.")}},
+    KindRow{Kind::OtherCertificate,
+            {FaultKind::Untrusted,
+             QT_TRANSLATE_NOOP("Server",
+                               "The print server %1 shows another certificate than before, and may "
+                               "be another server: nothing was sent. The one before is in %2.")}},
     KindRow{Kind::TooLarge,
             {FaultKind::Refused,
              QT_TRANSLATE_NOOP("Server", "The answer of the print server %1 is too large.")}},

@@ -14,7 +14,9 @@ struct ExchangeEnd
         Closed,       ///< the server closed the connection before it answered
         CutShort,     ///< the connection ended in the middle of an answer
         HttpStatus,   ///< with a status of HTTP alone, which is `status`
-        Unreadable,   ///< an answer that is not IPP, or not what was asked for
+        WrongPassword,
+        OtherCertificate, ///< than before: `text` is where that one is kept
+        Unreadable,       ///< an answer that is not IPP, or not what was asked for
         TooLarge,
         NotStored, ///< the file for the answer took no more: `text` says why
         Silent,

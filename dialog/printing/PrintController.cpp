@@ -1,6 +1,7 @@
 #include "dialog/printing/PrintController.h"
 
 #include "dialog/cups/CoverPages.h"
+#include "dialog/cups/Passwords.h"
 #include "dialog/cups/ServerConnection.h"
 #include "dialog/host/HostSession.h"
 #include "dialog/job/DocumentFile.h"
@@ -124,7 +125,11 @@ void PrintController::findPrinter(const PrinterSource &source, Then<FoundPrinter
         return;
     }
     begin<FetchedPrinter>(
-        m_call, kServerTimeout, [source](CallGuard &guard) { return fetchPrinter(source, guard); },
+        m_call, kServerTimeout,
+        [source](CallGuard &guard) {
+            const PasswordScope scope(PasswordPurpose::Settings, source.queue.queue);
+            return fetchPrinter(source, guard);
+        },
         [this, source, then = std::move(then)](FetchedPrinter fetched) {
             then(takePrinter(source, fetched));
         },
@@ -213,12 +218,17 @@ Result<> PrintController::reopen(const std::shared_ptr<const PrinterOrigin> &ori
     return {};
 }
 
-void PrintController::listPrinters(Then<QList<Destination>> then)
+void PrintController::listPrinters(Asking asking, Then<QList<Destination>> then)
 {
     using List = Result<QList<Destination>>;
     begin<List>(
         m_listing, kServerTimeout,
-        [server = m_wishes.server](CallGuard &guard) { return listDestinations(server, guard); },
+        [server = m_wishes.server, asking](CallGuard &guard) {
+            std::optional<PasswordScope> scope;
+            if (asking == Asking::Somebody)
+                scope.emplace(PasswordPurpose::Listing, QString());
+            return listDestinations(server, guard);
+        },
         std::move(then), [server = m_wishes.server] { return List(silentServer(server)); });
 }
 
@@ -292,7 +302,10 @@ std::shared_ptr<JobProgress> PrintController::send(const JobRequest &request, Th
     const auto progress = std::make_shared<JobProgress>();
     begin<Result<JobReceipt>>(
         m_call, kServerTimeout,
-        [request, progress](CallGuard &guard) { return submitJob(request, guard, progress); },
+        [request, progress](CallGuard &guard) {
+            const PasswordScope scope(PasswordPurpose::Printing, request.queue);
+            return submitJob(request, guard, progress);
+        },
         std::move(then), [request, progress] { return givenUpReceipt(request, *progress); });
     return progress;
 }

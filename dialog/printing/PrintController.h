@@ -103,8 +103,9 @@ public:
     /// not for the user to keep (TransientDefaults).
     Result<> reopen(const std::shared_ptr<const PrinterOrigin> &origin);
 
-    /// Lists the printers of the wished server.
-    void listPrinters(Then<QList<Destination>> then);
+    /// Lists the printers of the wished server. Somebody who waits for them may be asked who he is.
+    enum class Asking { Nobody, Somebody };
+    void listPrinters(Asking asking, Then<QList<Destination>> then);
 
     /// Counts the pages of the job's documents, none of which is a pipe any more.
     void countPages(PageCounter::Then then) { m_pages.count(m_job.documents(), std::move(then)); }

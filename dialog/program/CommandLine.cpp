@@ -107,6 +107,19 @@ QString takeTimeout(CommandLine &line, const QString &value)
     return {};
 }
 
+QString takePasswordDescriptor(CommandLine &line, const QString &value)
+{
+    bool isNumber = false;
+    const int descriptor = value.toInt(&isNumber);
+    if (!isNumber || descriptor < 0)
+        return QCoreApplication::translate("CommandLine",
+                                           "--password-fd needs the number of an open file, not "
+                                           "\"%1\".")
+            .arg(value);
+    line.passwordDescriptor = descriptor;
+    return {};
+}
+
 /// Standard output has two names; the files know the one that is a path.
 QString takeOutput(CommandLine &line, const QString &value)
 {
@@ -134,6 +147,7 @@ constexpr std::array kOptions{
     Option{"yes", '\0', nullptr, &CommandLine::yes},
     Option{"wait", '\0', nullptr, &CommandLine::wait},
     Option{"timeout", '\0', nullptr, nullptr, takeTimeout},
+    Option{"password-fd", '\0', nullptr, nullptr, takePasswordDescriptor},
     Option{"screenshot", '\0', &CommandLine::screenshot},
     Option{"panel", '\0', &CommandLine::panel},
     Option{"record", '\0', &CommandLine::record},
@@ -250,6 +264,8 @@ QString contradiction(const CommandLine &line)
          QT_TRANSLATE_NOOP("CommandLine",
                            "--wait is for --no-dialog, where the job is sent to a printer.")},
         {line.timeout && !line.wait, QT_TRANSLATE_NOOP("CommandLine", "--timeout is for --wait.")},
+        {line.passwordDescriptor && !line.noDialog,
+         QT_TRANSLATE_NOOP("CommandLine", "--password-fd is for --no-dialog.")},
         {line.explain && !line.noDialog,
          QT_TRANSLATE_NOOP("CommandLine", "--explain is for --no-dialog.")},
         {line.dryRun && !line.noDialog,

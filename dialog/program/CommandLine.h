@@ -23,6 +23,7 @@ struct CommandLine : DialogWishes
     bool yes = false;
     bool wait = false;          ///< for the job's end
     std::optional<int> timeout; ///< in seconds: how long a job may be stopped or held then
+    std::optional<int> passwordDescriptor; ///< --password-fd: where the password is read from
     bool version = false;
     bool help = false;
 };

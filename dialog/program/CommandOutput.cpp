@@ -30,6 +30,7 @@ constexpr std::array kStatuses{
     StatusRow{FaultKind::NotFound, ExitStatus::Server},
     StatusRow{FaultKind::Refused, ExitStatus::Server},
     StatusRow{FaultKind::NeedsPassword, ExitStatus::Server},
+    StatusRow{FaultKind::Untrusted, ExitStatus::Server},
     StatusRow{FaultKind::Unsettled, ExitStatus::Server},
 };
 

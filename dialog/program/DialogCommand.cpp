@@ -1,5 +1,6 @@
 #include "dialog/program/DialogCommand.h"
 
+#include "dialog/cups/Passwords.h"
 #include "dialog/printing/SettingRequests.h"
 #include "dialog/program/CommandOutput.h"
 #include "dialog/program/ExitStatus.h"
@@ -101,6 +102,7 @@ int runDialogCommand(int &argc, char **argv, const CommandLine &line)
         QCoreApplication::translate("DialogWindow", "Velkaro Print"));
     QApplication::setWindowIcon(windowIcon());
     const ExitStatus status = run(line);
+    forgetPasswords();
     ignoreEndSignals();
     waitForBackgroundThreads(kTimeoutAtTheEnd);
     return exitCode(status);

@@ -48,6 +48,10 @@ Job
                           tell on standard error where it stands
       --timeout SECONDS   with --wait: for so long at most while the job is
                           stopped or held
+      --password-fd N     with --no-dialog: read the password that a server or
+                          a printer asks for from this open file, up to the end
+                          of its first line; else it is asked for on the
+                          terminal
 
 Looking and testing
       --screenshot FILE.png

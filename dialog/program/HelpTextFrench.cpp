@@ -54,6 +54,10 @@ Travail
                           imprimé, et dire sur l’erreur standard où il en est
       --timeout SECONDS   avec --wait : aussi longtemps au plus tant que le
                           travail est arrêté ou retenu
+      --password-fd N     avec --no-dialog : lire dans ce fichier ouvert le mot
+                          de passe demandé par un serveur ou une imprimante,
+                          jusqu’à la fin de la première ligne ; sinon il est
+                          demandé sur le terminal
 
 Examen et essais
       --screenshot FILE.png

@@ -54,6 +54,10 @@ Auftrag
                           um ihn steht
       --timeout SECONDS   mit --wait: höchstens so lange, wie der Auftrag
                           angehalten ist oder zurückgehalten wird
+      --password-fd N     mit --no-dialog: das Passwort, nach dem ein Server
+                          oder Drucker fragt, aus dieser offenen Datei lesen,
+                          bis zum Ende der ersten Zeile; sonst wird auf dem
+                          Terminal danach gefragt
 
 Ansehen und prüfen
       --screenshot FILE.png

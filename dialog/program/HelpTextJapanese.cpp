@@ -47,6 +47,9 @@ const LauncherTexts kJapaneseTexts{
                           出力に様子を表示する
       --timeout SECONDS   --wait と使う: 停止または保留されたジョブを待つ長さ
                           の上限
+      --password-fd N     --no-dialog と使う: サーバーやプリンターが求める
+                          パスワードを、開いているこのファイルの 1 行目から
+                          読む。なければ端末で尋ねる
 
 表示とテスト
       --screenshot FILE.png

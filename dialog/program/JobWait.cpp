@@ -48,6 +48,8 @@ void JobWait::take(const JobStatus &status)
         return;
     }
     tell(sentence, status.phase != JobPhase::Printing);
+    if (status.phase == JobPhase::NeedsPassword && !std::exchange(m_hasAskedWhoPrints, true))
+        m_follower.perform(JobAction::Authenticate);
     watchTheTime(status);
 }
 

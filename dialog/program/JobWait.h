@@ -40,6 +40,7 @@ private:
     const bool m_hasTerminal;
     bool m_isCancelled = false; ///< by the user
     bool m_isOver = false;
+    bool m_hasAskedWhoPrints = false;
     QString m_told;
     QTimer m_timer; ///< of a job that is stuck
     JobFollower m_follower;

@@ -15,6 +15,7 @@
 #include "dialog/program/CommandOutput.h"
 #include "dialog/program/Explanation.h"
 #include "dialog/program/JobWait.h"
+#include "dialog/program/PasswordPrompt.h"
 #include "dialog/program/SessionRecording.h"
 #include "dialog/work/EndSignals.h"
 #include "dialog/work/Sentences.h"
@@ -368,6 +369,8 @@ void Run::endDryRun(const QString &sentence)
 
 ExitStatus Run::print()
 {
+    setPasswordAsker(m_line.passwordDescriptor ? newPasswordReader(*m_line.passwordDescriptor)
+                                               : newPasswordPrompt());
     QMetaObject::invokeMethod(
         &m_controller, [this] { readDocuments(); }, Qt::QueuedConnection);
     const auto status = static_cast<ExitStatus>(m_loop.exec());

@@ -1,3 +1,5 @@
+#include "dialog/cups/Certificates.h"
+#include "dialog/cups/ServerConnection.h"
 #include "dialog/job/PipeDocuments.h"
 #include "dialog/window/DialogTabs.h"
 #include "dialog/window/DialogWindow.h"
@@ -28,6 +30,11 @@ QList<NoticeOffer> DialogWindow::offersAfter(FaultKind fault)
     case FaultKind::Refused:
     case FaultKind::NeedsPassword:
         return {{u"retryButton"_s, tr("Retry"), [this] { retry(); }}};
+    case FaultKind::Untrusted:
+        return {{u"trustButton"_s, tr("Trust It"), [this] {
+                     trustNextCertificate(nameOfServer(m_wishes.server));
+                     retry();
+                 }}};
     default:
         return {};
     }
@@ -48,18 +55,19 @@ void DialogWindow::choosePrinter()
 {
     const PrinterSource open{m_wishes.server, {}, {}};
     beginSearch(open);
-    m_controller.listPrinters([this, open](const Result<QList<Destination>> &list) {
-        if (list)
-            m_header->printers()->setDestinations(*list);
-        const Result<PrinterChoice> choice =
-            list ? m_controller.choosePrinter(*list) : Result<PrinterChoice>(list.fault());
-        if (!choice) {
-            takePrinter(choice.fault());
-            return;
-        }
-        m_choice = *choice;
-        findPrinter({m_wishes.server, choice->queue, {}, usualStart()});
-    });
+    m_controller.listPrinters(
+        PrintController::Asking::Somebody, [this, open](const Result<QList<Destination>> &list) {
+            if (list)
+                m_header->printers()->setDestinations(*list);
+            const Result<PrinterChoice> choice =
+                list ? m_controller.choosePrinter(*list) : Result<PrinterChoice>(list.fault());
+            if (!choice) {
+                takePrinter(choice.fault());
+                return;
+            }
+            m_choice = *choice;
+            findPrinter({m_wishes.server, choice->queue, {}, usualStart()});
+        });
 }
 
 void DialogWindow::findPrinter(const PrinterSource &source)

@@ -9,10 +9,12 @@
 #include "dialog/window/LayoutPane.h"
 #include "dialog/window/Mnemonics.h"
 #include "dialog/window/PageSetupPane.h"
+#include "dialog/window/PasswordDialog.h"
 #include "dialog/window/PrinterPopUp.h"
 #include "dialog/window/ProgressStrip.h"
 #include "dialog/window/ScrolledBody.h"
 #include "dialog/window/SessionUndo.h"
+#include "dialog/window/SheetAsker.h"
 #include "platform/foundation/NotificationCenter.h"
 #include "platform/toolkit/KeyWindow.h"
 #include "platform/toolkit/PanelPoint.h"
@@ -163,8 +165,10 @@ QString DialogWindow::printTitle() const
 void DialogWindow::start()
 {
     setKeyWindow(this);
-    if (!m_wishes.isPicture)
+    if (!m_wishes.isPicture) {
+        setPasswordAsker(newSheetAsker(*this));
         readPipes();
+    }
     const bool isNamed = m_savedJob && !m_savedJob->queue.isEmpty();
     if (m_controller.mayChoosePrinter() && !isNamed)
         choosePrinter();
@@ -275,6 +279,8 @@ void DialogWindow::resizeEvent(QResizeEvent *event)
 
 void DialogWindow::done(int result)
 {
+    for (PasswordDialog *question : findChildren<PasswordDialog *>())
+        question->reject();
     if (m_state == State::Sending) {
         m_controller.cancel();
         return;

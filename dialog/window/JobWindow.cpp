@@ -2,6 +2,7 @@
 
 #include "dialog/window/Mnemonics.h"
 #include "dialog/window/OpenQueue.h"
+#include "dialog/window/SheetAsker.h"
 #include "platform/toolkit/AccessibleName.h"
 #include "platform/toolkit/AccessibleRole.h"
 #include "platform/toolkit/PlainLabel.h"
@@ -51,6 +52,7 @@ JobWindow::JobWindow(const QString &server, JobName job, QWidget *parent)
     addAction(JobAction::Hold, u"holdButton"_s, tr("Hold"));
     addAction(JobAction::Release, u"releaseButton"_s, tr("Release"));
     addAction(JobAction::Restart, u"restartButton"_s, tr("Print Again"));
+    addAction(JobAction::Authenticate, u"authenticateButton"_s, tr("Enter Password…"));
     addAction(JobAction::Cancel, u"cancelJobButton"_s, tr("Cancel Job"));
     QPushButton *queue = addButton(u"openQueueButton"_s, tr("Open Queue"));
     queue->setAutoDefault(false);
@@ -65,6 +67,7 @@ JobWindow::JobWindow(const QString &server, JobName job, QWidget *parent)
     layout->addWidget(m_progress);
     layout->addWidget(m_buttons);
     take({});
+    setPasswordAsker(newSheetAsker(*this));
     m_follower.start();
 }
 

@@ -37,8 +37,9 @@ void PrinterWatch::askAgain()
 
 void PrinterWatch::ask()
 {
-    m_controller.listPrinters([this](const Result<QList<Destination>> &list) {
-        m_timer.start();
-        Q_EMIT listed(list);
-    });
+    m_controller.listPrinters(PrintController::Asking::Nobody,
+                              [this](const Result<QList<Destination>> &list) {
+                                  m_timer.start();
+                                  Q_EMIT listed(list);
+                              });
 }

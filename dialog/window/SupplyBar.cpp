@@ -29,7 +29,8 @@ SupplyBar::SupplyBar(const Supply &supply, QWidget *parent) : QProgressBar(paren
 
 QSize SupplyBar::sizeHint() const
 {
-    return {kBarLength * fontMetrics().averageCharWidth(), fontMetrics().height()};
+    return {kBarLength * fontMetrics().averageCharWidth(),
+            fontMetrics().height() + 2 * kFocusMargin};
 }
 
 QSize SupplyBar::minimumSizeHint() const

@@ -17,7 +17,8 @@ enum class FaultKind {
     Silent,        ///< connected, but no answer within the time limit
     NotFound,      ///< there is no such queue
     Refused,       ///< the server answered no
-    NeedsPassword, ///< the server asks for a password, which is never sent
+    NeedsPassword, ///< the server asks for a password, and was given none, or a wrong one
+    Untrusted,     ///< the server shows another certificate than before
     Unsettled,     ///< the job may have been printed or not; the server does not tell
 };
 

@@ -125,6 +125,14 @@
         <source>--timeout is for --wait.</source>
         <translation>--timeout gilt für --wait.</translation>
     </message>
+    <message>
+        <source>--password-fd needs the number of an open file, not &quot;%1&quot;.</source>
+        <translation>--password-fd braucht die Nummer einer offenen Datei, nicht „%1“.</translation>
+    </message>
+    <message>
+        <source>--password-fd is for --no-dialog.</source>
+        <translation>--password-fd gehört zu --no-dialog.</translation>
+    </message>
 </context>
 <context>
     <name>Conflicts</name>
@@ -446,6 +454,10 @@ Umschalt+F1 oder das Kontextmenü sagt, warum.</translation>
         <translation>Wiederherstellen</translation>
     </message>
     <message>
+        <source>Trust It</source>
+        <translation>Vertrauen</translation>
+    </message>
+    <message>
         <source>Print job %1 all the same?</source>
         <translation>Auftrag %1 trotzdem drucken?</translation>
     </message>
@@ -681,6 +693,13 @@ Umschalt+F1 oder das Kontextmenü sagt, warum.</translation>
     <message>
         <source>Ctrl+Z takes back what you have set, step by step, and Ctrl+Shift+Z does it again. Shift+F1 and the context menu of a setting tell why something cannot be chosen there, and how it can.</source>
         <translation>Strg+Z nimmt Ihre Einstellungen Schritt für Schritt zurück, Strg+Umschalt+Z stellt sie wieder her. Umschalt+F1 und das Kontextmenü einer Einstellung sagen, warum etwas dort nicht gewählt werden kann und wie es möglich wird.</translation>
+    </message>
+</context>
+<context>
+    <name>JobAuthentication</name>
+    <message>
+        <source>Job %1 on %2 stays held: nobody has said who prints.</source>
+        <translation>Auftrag %1 an %2 bleibt angehalten: Niemand hat gesagt, wer druckt.</translation>
     </message>
 </context>
 <context>
@@ -1279,6 +1298,10 @@ Umschalt+F1 oder das Kontextmenü sagt, warum.</translation>
         <translation>Schließen</translation>
     </message>
     <message>
+        <source>Enter Password…</source>
+        <translation>Passwort eingeben…</translation>
+    </message>
+    <message>
         <source>Open Queue</source>
         <translation>Warteschlange öffnen</translation>
     </message>
@@ -1620,6 +1643,87 @@ Umschalt+F1 oder das Kontextmenü sagt, warum.</translation>
     <message>
         <source>%1 × %2 mm</source>
         <translation>%1 × %2 mm</translation>
+    </message>
+</context>
+<context>
+    <name>PasswordDialog</name>
+    <message>
+        <source>&amp;Remember the password in the keyring</source>
+        <translation>Passwort im Schlüsselbund &amp;merken</translation>
+    </message>
+    <message>
+        <source>Password</source>
+        <translation>Passwort</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>&amp;User name:</source>
+        <translation>&amp;Benutzername:</translation>
+    </message>
+    <message>
+        <source>&amp;Domain:</source>
+        <translation>&amp;Domäne:</translation>
+    </message>
+    <message>
+        <source>&amp;Password:</source>
+        <translation>&amp;Passwort:</translation>
+    </message>
+</context>
+<context>
+    <name>PasswordPrompt</name>
+    <message>
+        <source>Domain: </source>
+        <translation>Domäne: </translation>
+    </message>
+    <message>
+        <source>Password: </source>
+        <translation>Passwort: </translation>
+    </message>
+    <message>
+        <source>User name: </source>
+        <translation>Benutzername: </translation>
+    </message>
+    <message>
+        <source>User name [%1]: </source>
+        <translation>Benutzername [%1]: </translation>
+    </message>
+</context>
+<context>
+    <name>PasswordWords</name>
+    <message>
+        <source>The print server %1 wants to know who asks for its printers.</source>
+        <translation>Der Druckserver %1 will wissen, wer nach seinen Druckern fragt.</translation>
+    </message>
+    <message>
+        <source>The print server %1 wants to know who asks for the settings of %2.</source>
+        <translation>Der Druckserver %1 will wissen, wer nach den Einstellungen von %2 fragt.</translation>
+    </message>
+    <message>
+        <source>The print server %1 wants to know who prints to %2.</source>
+        <translation>Der Druckserver %1 will wissen, wer auf %2 druckt.</translation>
+    </message>
+    <message>
+        <source>The print server %1 wants to know who changes a job on %2.</source>
+        <translation>Der Druckserver %1 will wissen, wer einen Auftrag an %2 ändert.</translation>
+    </message>
+    <message>
+        <source>The print server %1 holds the job until the printer behind %2 knows who prints.</source>
+        <translation>Der Druckserver %1 hält den Auftrag an, bis der Drucker hinter %2 weiß, wer druckt.</translation>
+    </message>
+    <message>
+        <source>The user name or the password was not right.</source>
+        <translation>Der Benutzername oder das Passwort war nicht richtig.</translation>
+    </message>
+    <message>
+        <source>The connection is not encrypted: others in the network may read the password.</source>
+        <translation>Die Verbindung ist nicht verschlüsselt: Andere im Netz können das Passwort mitlesen.</translation>
     </message>
 </context>
 <context>
@@ -2766,6 +2870,14 @@ Umschalt+F1 oder das Kontextmenü sagt, warum.</translation>
     <message>
         <source>The print server %1 takes too long to answer.</source>
         <translation>Der Druckserver %1 braucht zu lange für eine Antwort.</translation>
+    </message>
+    <message>
+        <source>The print server %1 does not accept the user name and the password.</source>
+        <translation>Der Druckserver %1 nimmt den Benutzernamen und das Passwort nicht an.</translation>
+    </message>
+    <message>
+        <source>The print server %1 shows another certificate than before, and may be another server: nothing was sent. The one before is in %2.</source>
+        <translation>Der Druckserver %1 zeigt ein anderes Zertifikat als bisher und ist vielleicht ein anderer Server: Es wurde nichts gesendet. Das bisherige steht in %2.</translation>
     </message>
 </context>
 <context>

@@ -125,6 +125,14 @@
         <source>--timeout is for --wait.</source>
         <translation>--timeout s’emploie avec --wait.</translation>
     </message>
+    <message>
+        <source>--password-fd needs the number of an open file, not &quot;%1&quot;.</source>
+        <translation>--password-fd demande le numéro d’un fichier ouvert, et non « %1 ».</translation>
+    </message>
+    <message>
+        <source>--password-fd is for --no-dialog.</source>
+        <translation>--password-fd va avec --no-dialog.</translation>
+    </message>
 </context>
 <context>
     <name>Conflicts</name>
@@ -446,6 +454,10 @@ Maj+F1 ou le menu contextuel dit pourquoi.</translation>
         <translation>Rétablir</translation>
     </message>
     <message>
+        <source>Trust It</source>
+        <translation>Lui faire confiance</translation>
+    </message>
+    <message>
         <source>Print job %1 all the same?</source>
         <translation>Imprimer quand même le travail %1 ?</translation>
     </message>
@@ -681,6 +693,13 @@ Maj+F1 ou le menu contextuel dit pourquoi.</translation>
     <message>
         <source>Ctrl+Z takes back what you have set, step by step, and Ctrl+Shift+Z does it again. Shift+F1 and the context menu of a setting tell why something cannot be chosen there, and how it can.</source>
         <translation>Ctrl+Z annule pas à pas ce que vous avez réglé, et Ctrl+Maj+Z le rétablit. Maj+F1 et le menu contextuel d’un réglage disent pourquoi une valeur n’y peut pas être choisie, et comment l’obtenir.</translation>
+    </message>
+</context>
+<context>
+    <name>JobAuthentication</name>
+    <message>
+        <source>Job %1 on %2 stays held: nobody has said who prints.</source>
+        <translation>Le travail %1 sur %2 reste retenu : personne n’a dit qui imprime.</translation>
     </message>
 </context>
 <context>
@@ -1279,6 +1298,10 @@ Maj+F1 ou le menu contextuel dit pourquoi.</translation>
         <translation>Fermer</translation>
     </message>
     <message>
+        <source>Enter Password…</source>
+        <translation>Saisir le mot de passe…</translation>
+    </message>
+    <message>
         <source>Open Queue</source>
         <translation>Ouvrir la file d’attente</translation>
     </message>
@@ -1620,6 +1643,87 @@ Maj+F1 ou le menu contextuel dit pourquoi.</translation>
     <message>
         <source>%1 × %2 mm</source>
         <translation>%1 × %2 mm</translation>
+    </message>
+</context>
+<context>
+    <name>PasswordDialog</name>
+    <message>
+        <source>&amp;Remember the password in the keyring</source>
+        <translation>&amp;Retenir le mot de passe dans le trousseau</translation>
+    </message>
+    <message>
+        <source>Password</source>
+        <translation>Mot de passe</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuler</translation>
+    </message>
+    <message>
+        <source>&amp;User name:</source>
+        <translation>Nom d’&amp;utilisateur :</translation>
+    </message>
+    <message>
+        <source>&amp;Domain:</source>
+        <translation>&amp;Domaine :</translation>
+    </message>
+    <message>
+        <source>&amp;Password:</source>
+        <translation>Mot de &amp;passe :</translation>
+    </message>
+</context>
+<context>
+    <name>PasswordPrompt</name>
+    <message>
+        <source>Domain: </source>
+        <translation>Domaine : </translation>
+    </message>
+    <message>
+        <source>Password: </source>
+        <translation>Mot de passe : </translation>
+    </message>
+    <message>
+        <source>User name: </source>
+        <translation>Nom d’utilisateur : </translation>
+    </message>
+    <message>
+        <source>User name [%1]: </source>
+        <translation>Nom d’utilisateur [%1] : </translation>
+    </message>
+</context>
+<context>
+    <name>PasswordWords</name>
+    <message>
+        <source>The print server %1 wants to know who asks for its printers.</source>
+        <translation>Le serveur d’impression %1 veut savoir qui demande ses imprimantes.</translation>
+    </message>
+    <message>
+        <source>The print server %1 wants to know who asks for the settings of %2.</source>
+        <translation>Le serveur d’impression %1 veut savoir qui demande les réglages de %2.</translation>
+    </message>
+    <message>
+        <source>The print server %1 wants to know who prints to %2.</source>
+        <translation>Le serveur d’impression %1 veut savoir qui imprime sur %2.</translation>
+    </message>
+    <message>
+        <source>The print server %1 wants to know who changes a job on %2.</source>
+        <translation>Le serveur d’impression %1 veut savoir qui modifie un travail sur %2.</translation>
+    </message>
+    <message>
+        <source>The print server %1 holds the job until the printer behind %2 knows who prints.</source>
+        <translation>Le serveur d’impression %1 retient le travail jusqu’à ce que l’imprimante derrière %2 sache qui imprime.</translation>
+    </message>
+    <message>
+        <source>The user name or the password was not right.</source>
+        <translation>Le nom d’utilisateur ou le mot de passe n’était pas correct.</translation>
+    </message>
+    <message>
+        <source>The connection is not encrypted: others in the network may read the password.</source>
+        <translation>La connexion n’est pas chiffrée : d’autres sur le réseau peuvent lire le mot de passe.</translation>
     </message>
 </context>
 <context>
@@ -2766,6 +2870,14 @@ Maj+F1 ou le menu contextuel dit pourquoi.</translation>
     <message>
         <source>The print server %1 takes too long to answer.</source>
         <translation>Le serveur d’impression %1 met trop de temps à répondre.</translation>
+    </message>
+    <message>
+        <source>The print server %1 does not accept the user name and the password.</source>
+        <translation>Le serveur d’impression %1 n’accepte pas le nom d’utilisateur et le mot de passe.</translation>
+    </message>
+    <message>
+        <source>The print server %1 shows another certificate than before, and may be another server: nothing was sent. The one before is in %2.</source>
+        <translation>Le serveur d’impression %1 présente un autre certificat qu’auparavant, et peut être un autre serveur : rien n’a été envoyé. Le précédent se trouve dans %2.</translation>
     </message>
 </context>
 <context>

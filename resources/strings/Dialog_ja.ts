@@ -125,6 +125,14 @@
         <source>--timeout is for --wait.</source>
         <translation>--timeout は --wait と一緒に使います。</translation>
     </message>
+    <message>
+        <source>--password-fd needs the number of an open file, not &quot;%1&quot;.</source>
+        <translation>--password-fd には開いているファイルの番号を指定してください（「%1」は使えません）。</translation>
+    </message>
+    <message>
+        <source>--password-fd is for --no-dialog.</source>
+        <translation>--password-fd は --no-dialog と一緒に使います。</translation>
+    </message>
 </context>
 <context>
     <name>Conflicts</name>
@@ -446,6 +454,10 @@ Shift+F1 or the context menu tells why.</source>
         <translation>やり直す</translation>
     </message>
     <message>
+        <source>Trust It</source>
+        <translation>信頼する</translation>
+    </message>
+    <message>
         <source>Print job %1 all the same?</source>
         <translation>それでもジョブ %1 を印刷しますか？</translation>
     </message>
@@ -681,6 +693,13 @@ Shift+F1 or the context menu tells why.</source>
     <message>
         <source>Ctrl+Z takes back what you have set, step by step, and Ctrl+Shift+Z does it again. Shift+F1 and the context menu of a setting tell why something cannot be chosen there, and how it can.</source>
         <translation>Ctrl+Z で設定を 1 つずつ元に戻し、Ctrl+Shift+Z でやり直します。Shift+F1 キーまたは設定を右クリックしたメニューで、選べない理由と選べるようにする方法が分かります。</translation>
+    </message>
+</context>
+<context>
+    <name>JobAuthentication</name>
+    <message>
+        <source>Job %1 on %2 stays held: nobody has said who prints.</source>
+        <translation>%2 のジョブ %1 は保留されたままです。印刷するユーザーが入力されませんでした。</translation>
     </message>
 </context>
 <context>
@@ -1279,6 +1298,10 @@ Shift+F1 or the context menu tells why.</source>
         <translation>閉じる</translation>
     </message>
     <message>
+        <source>Enter Password…</source>
+        <translation>パスワードを入力…</translation>
+    </message>
+    <message>
         <source>Open Queue</source>
         <translation>キューを開く</translation>
     </message>
@@ -1620,6 +1643,87 @@ Shift+F1 or the context menu tells why.</source>
     <message>
         <source>%1 × %2 mm</source>
         <translation>%1 × %2 mm</translation>
+    </message>
+</context>
+<context>
+    <name>PasswordDialog</name>
+    <message>
+        <source>&amp;Remember the password in the keyring</source>
+        <translation>パスワードをキーリングに保存する(&amp;R)</translation>
+    </message>
+    <message>
+        <source>Password</source>
+        <translation>パスワード</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>キャンセル</translation>
+    </message>
+    <message>
+        <source>&amp;User name:</source>
+        <translation>ユーザー名(&amp;U):</translation>
+    </message>
+    <message>
+        <source>&amp;Domain:</source>
+        <translation>ドメイン(&amp;D):</translation>
+    </message>
+    <message>
+        <source>&amp;Password:</source>
+        <translation>パスワード(&amp;P):</translation>
+    </message>
+</context>
+<context>
+    <name>PasswordPrompt</name>
+    <message>
+        <source>Domain: </source>
+        <translation>ドメイン: </translation>
+    </message>
+    <message>
+        <source>Password: </source>
+        <translation>パスワード: </translation>
+    </message>
+    <message>
+        <source>User name: </source>
+        <translation>ユーザー名: </translation>
+    </message>
+    <message>
+        <source>User name [%1]: </source>
+        <translation>ユーザー名 [%1]: </translation>
+    </message>
+</context>
+<context>
+    <name>PasswordWords</name>
+    <message>
+        <source>The print server %1 wants to know who asks for its printers.</source>
+        <translation>プリントサーバー %1 のプリンターを表示するには、ユーザーの確認が必要です。</translation>
+    </message>
+    <message>
+        <source>The print server %1 wants to know who asks for the settings of %2.</source>
+        <translation>プリントサーバー %1 から %2 の設定を取得するには、ユーザーの確認が必要です。</translation>
+    </message>
+    <message>
+        <source>The print server %1 wants to know who prints to %2.</source>
+        <translation>プリントサーバー %1 の %2 に印刷するには、ユーザーの確認が必要です。</translation>
+    </message>
+    <message>
+        <source>The print server %1 wants to know who changes a job on %2.</source>
+        <translation>プリントサーバー %1 の %2 のジョブを変更するには、ユーザーの確認が必要です。</translation>
+    </message>
+    <message>
+        <source>The print server %1 holds the job until the printer behind %2 knows who prints.</source>
+        <translation>プリントサーバー %1 は、%2 のプリンターでユーザーが確認されるまでジョブを保留しています。</translation>
+    </message>
+    <message>
+        <source>The user name or the password was not right.</source>
+        <translation>ユーザー名またはパスワードが正しくありません。</translation>
+    </message>
+    <message>
+        <source>The connection is not encrypted: others in the network may read the password.</source>
+        <translation>接続は暗号化されていません。パスワードがネットワーク上で読み取られるおそれがあります。</translation>
     </message>
 </context>
 <context>
@@ -2766,6 +2870,14 @@ Shift+F1 or the context menu tells why.</source>
     <message>
         <source>The print server %1 takes too long to answer.</source>
         <translation>プリントサーバー %1 の応答に時間がかかりすぎています。</translation>
+    </message>
+    <message>
+        <source>The print server %1 does not accept the user name and the password.</source>
+        <translation>プリントサーバー %1 はユーザー名とパスワードを受け付けません。</translation>
+    </message>
+    <message>
+        <source>The print server %1 shows another certificate than before, and may be another server: nothing was sent. The one before is in %2.</source>
+        <translation>プリントサーバー %1 の証明書が以前と異なります。別のサーバーのおそれがあるため、何も送信されませんでした。以前の証明書は %2 にあります。</translation>
     </message>
 </context>
 <context>

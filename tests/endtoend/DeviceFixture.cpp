@@ -22,7 +22,9 @@ case "$DEVICE_URI" in
     while [ ! -e @FLAG@ ]; do sleep 0.1; done
     echo 'STATE: -media-empty-error' >&2 ;;
 */retry) echo 'ERROR: No route to the printer' >&2; exit 1 ;;
-*/password) echo 'ATTR: auth-info-required=username,password' >&2; exit 2 ;;
+*/password)
+    [ "$AUTH_USERNAME:$AUTH_PASSWORD" = anna:s3cret ] && exit 0
+    echo 'ATTR: auth-info-required=username,password' >&2; exit 2 ;;
 */hold) exit 3 ;;
 */stop) echo 'ERROR: The carriage is blocked' >&2; exit 4 ;;
 */cancel) exit 5 ;;

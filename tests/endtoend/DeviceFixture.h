@@ -12,7 +12,7 @@
 ///   finish     takes the job
 ///   empty      reports an empty tray, and goes on when continueDevices() was called
 ///   retry      cannot be reached; the server holds the job to try it again
-///   password   asks who prints
+///   password   asks who prints, and prints for "anna", whose password is "s3cret"
 ///   hold       has the job held
 ///   stop       has the printer stopped
 ///   cancel     gives the job up

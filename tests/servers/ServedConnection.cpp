@@ -84,7 +84,9 @@ bool ServedConnection::readHeaders()
     m_isChunked = m_expectsContinue = false;
     if (!readLine(m_requestLine))
         return false;
+    m_head = m_requestLine + "\r\n";
     for (QByteArray line; readLine(line);) {
+        m_head += line + "\r\n";
         if (line.isEmpty())
             return true;
         noteHeader(line);
@@ -149,7 +151,7 @@ bool ServedConnection::hold(std::chrono::milliseconds time)
     return deadline.hasExpired();
 }
 
-bool ServedConnection::relay(int port)
+bool ServedConnection::relay(int port, const QByteArray &first)
 {
     sockaddr_in address{};
     address.sin_family = AF_INET;
@@ -157,6 +159,9 @@ bool ServedConnection::relay(int port)
     address.sin_port = htons(static_cast<uint16_t>(port));
     const int server = socket(AF_INET, SOCK_STREAM | SOCK_CLOEXEC, 0);
     bool goesOn = connect(server, reinterpret_cast<sockaddr *>(&address), sizeof address) == 0;
+    const QByteArray begin = first + m_received;
+    goesOn = goesOn && send(server, begin.constData(), static_cast<std::size_t>(begin.size()),
+                            MSG_NOSIGNAL) == begin.size();
     std::array<pollfd, 3> watched{pollfd{m_stop, POLLIN, 0}, pollfd{m_socket, POLLIN, 0},
                                   pollfd{server, POLLIN, 0}};
     while (goesOn &&

@@ -26,6 +26,9 @@ public:
     QByteArray method() const { return m_requestLine.left(m_requestLine.indexOf(' ')); }
     QByteArray requestLine() const { return m_requestLine; }
 
+    /// The request through the empty line after its headers, as it came.
+    QByteArray head() const { return m_head; }
+
     /// What was read of the request's body, without the lines between chunks.
     QByteArray body() const { return m_body; }
 
@@ -37,8 +40,8 @@ public:
     bool hold(std::chrono::milliseconds time);
 
     /// Hands the connection on to a server on this port of the loopback, until either end closes
-    /// it.
-    bool relay(int port);
+    /// it. That gets `first` and what was received and not read before all else.
+    bool relay(int port, const QByteArray &first = {});
 
     /// Ends the connection with a reset, as a crashed machine's router would.
     void reset();
@@ -56,6 +59,7 @@ private:
     QDeadlineTimer m_life;
     QByteArray m_received; // but not yet read
     QByteArray m_requestLine;
+    QByteArray m_head;
     QByteArray m_body;
     qint64 m_bodyLeft = 0; // of the body or, where it comes in chunks, of nothing
     bool m_isChunked = false;

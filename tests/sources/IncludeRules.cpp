@@ -44,9 +44,11 @@ const QList<IncludeRule> &rules()
         {u"dialog/advice"_s,
          {u"platform"_s, u"dialog/work"_s, u"dialog/files"_s, u"dialog/host"_s, u"dialog/job"_s,
           u"dialog/cups"_s, u"dialog/printing"_s, u"dialog/replay"_s}},
+        {u"dialog/keyring"_s, {}},
         {u"dialog/window"_s,
          {u"platform"_s, u"dialog/work"_s, u"dialog/files"_s, u"dialog/host"_s, u"dialog/job"_s,
-          u"dialog/cups"_s, u"dialog/printing"_s, u"dialog/replay"_s, u"dialog/advice"_s}},
+          u"dialog/cups"_s, u"dialog/printing"_s, u"dialog/replay"_s, u"dialog/advice"_s,
+          u"dialog/keyring"_s}},
         {u"dialog/program"_s, {u"platform"_s, u"dialog"_s}},
     };
     return all;

@@ -1,3 +1,5 @@
+#include "dialog/cups/Certificates.h"
+#include "dialog/cups/Destinations.h"
 #include "dialog/cups/JobSubmission.h"
 #include "tests/dialog/cups/ServerFixture.h"
 #include "tests/servers/ScriptedServer.h"
@@ -5,6 +7,7 @@
 #include "tests/support/Files.h"
 #include "tests/support/QStringPrinting.h"
 
+#include <QtCore/QFile>
 #include <QtCore/QScopeGuard>
 
 #include <gtest/gtest.h>
@@ -66,5 +69,35 @@ INSTANTIATE_TEST_SUITE_P(Table, EncryptedServer,
                                              "BecauseTheUserDoes", HTTP_ENCRYPTION_REQUIRED, {}, 2},
                                          Encryption{"FromTheStart", HTTP_ENCRYPTION_ALWAYS, {}, 2}),
                          CaseName());
+
+/// A server at the address of another one, which was there before.
+TEST_F(Server, WithAnotherCertificateGetsNothingUntilItIsTrusted)
+{
+    const auto restore = qScopeGuard([] { cupsSetEncryption(HTTP_ENCRYPTION_IF_REQUESTED); });
+    cupsSetEncryption(HTTP_ENCRYPTION_REQUIRED);
+    PrintServer other;
+    ASSERT_EQ(other.fault(), QString());
+    const int port = freePort();
+    const auto listAt = [&](const PrintServer &server) {
+        const ScriptedServer front({{"connect", {relay(server.port())}}}, port);
+        EXPECT_EQ(front.address(), u"127.0.0.1:%1"_s.arg(port));
+        return listDestinations(front.address(), m_guard);
+    };
+    const QString name = u"127.0.0.1:%1"_s.arg(port);
+    EXPECT_TRUE(listAt(*s_server)) << "the first certificate is kept";
+    EXPECT_TRUE(QFile::exists(certificatePath(name))) << certificatePath(name).toStdString();
+    EXPECT_TRUE(listAt(*s_server));
+    const auto changed = listAt(other);
+    EXPECT_EQ(changed.faultKind(), FaultKind::Untrusted);
+    EXPECT_EQ(
+        changed.sentence(),
+        u"The print server %1 shows another certificate than before, and may be another "
+        "server: nothing was sent. The one before is in %2."_s.arg(name, certificatePath(name)));
+    EXPECT_FALSE(listAt(other)) << "nor the next time";
+    trustNextCertificate(name);
+    EXPECT_TRUE(listAt(other));
+    EXPECT_TRUE(listAt(other)) << "it is the one that is known now";
+    EXPECT_FALSE(listAt(*s_server));
+}
 
 } // namespace

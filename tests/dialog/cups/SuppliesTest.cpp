@@ -9,7 +9,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-using State = SupplyState;
+using Left = SupplyState;
 
 constexpr QRgb kCyan = 0xff00ffff;
 constexpr QRgb kMagenta = 0xffff00ff;
@@ -89,9 +89,9 @@ const Told kTold[] = {
      {80, 7, 95},
      {10, 10, 0},
      {100, 100, 90},
-     {{u"Cyan ink"_s, {kCyan}, false, 80, State::Good},
-      {u"Black ink"_s, {kBlack}, false, 7, State::Low},
-      {u"Waste ink"_s, {}, true, 95, State::Low}}},
+     {{u"Cyan ink"_s, {kCyan}, false, 80, Left::Good},
+      {u"Black ink"_s, {kBlack}, false, 7, Left::Low},
+      {u"Waste ink"_s, {}, true, 95, Left::Low}}},
     {"NamesAlone", {"Cyan", "Black"}, {}, {}, {}, {}, {}, {{u"Cyan"_s}, {u"Black"_s}}},
     {"LevelsAlone",
      {},
@@ -100,7 +100,7 @@ const Told kTold[] = {
      {40, 0},
      {},
      {},
-     {{u"Supply 1"_s, {}, false, 40, State::Good}, {u"Supply 2"_s, {}, false, 0, State::Empty}}},
+     {{u"Supply 1"_s, {}, false, 40, Left::Good}, {u"Supply 2"_s, {}, false, 0, Left::Empty}}},
     {"LevelsThatAreNoLevels",
      {"a", "b", "c", "d", "e"},
      {},
@@ -108,8 +108,8 @@ const Told kTold[] = {
      {-1, -2, -3, -4, 101},
      {10, 10, 10, 10, 10},
      {},
-     {{u"a"_s}, {u"b"_s}, {u"c"_s, {}, false, {}, State::SomeLeft}, {u"d"_s}, {u"e"_s}}},
-    {"NoLowLevel", {"a"}, {}, {}, {1}, {}, {}, {{u"a"_s, {}, false, 1, State::Good}}},
+     {{u"a"_s}, {u"b"_s}, {u"c"_s, {}, false, {}, Left::SomeLeft}, {u"d"_s}, {u"e"_s}}},
+    {"NoLowLevel", {"a"}, {}, {}, {1}, {}, {}, {{u"a"_s, {}, false, 1, Left::Good}}},
     {"LowLevelsThatAreNoLevels",
      {"a", "b"},
      {},
@@ -117,7 +117,7 @@ const Told kTold[] = {
      {1, 100},
      {-1, 101},
      {},
-     {{u"a"_s, {}, false, 1, State::Good}, {u"b"_s, {}, false, 100, State::Good}}},
+     {{u"a"_s, {}, false, 1, Left::Good}, {u"b"_s, {}, false, 100, Left::Good}}},
     {"AFullContainer",
      {"a", "b"},
      {},
@@ -125,7 +125,7 @@ const Told kTold[] = {
      {100, 0},
      {},
      {},
-     {{u"a"_s, {}, true, 100, State::Empty}, {u"b"_s, {}, true, 0, State::Good}}},
+     {{u"a"_s, {}, true, 100, Left::Empty}, {u"b"_s, {}, true, 0, Left::Good}}},
     {"FewerLevelsThanNames",
      {"a", "b"},
      {"#00FFFF", "#000000"},
@@ -149,7 +149,7 @@ const Told kTold[] = {
      {50},
      {},
      {},
-     {{u"a"_s, {kCyan, kMagenta, kYellow}, false, 50, State::Good}}},
+     {{u"a"_s, {kCyan, kMagenta, kYellow}, false, 50, Left::Good}}},
     {"ColorsThatAreNone",
      {"a", "b", "c", "d", "e", "f", "g"},
      {"cyan", "#00FFF", "#00FFFF0", "00FFFF", "#00FFFF;#000000", "#0x12FF", "#00FFFF\n"},
@@ -210,15 +210,14 @@ TEST_P(Level, HasItsWords)
 INSTANTIATE_TEST_SUITE_P(
     Table, Level,
     testing::Values(Worded{"Unknown", {u"a"_s}, u"Not known"_s},
-                    Worded{"Some", {u"a"_s, {}, false, {}, State::SomeLeft}, u"Some left"_s},
-                    Worded{
-                        "SomeRoom", {u"a"_s, {}, true, {}, State::SomeLeft}, u"Some room left"_s},
-                    Worded{"Good", {u"a"_s, {}, false, 80, State::Good}, u"80%"_s},
-                    Worded{"GoodWaste", {u"a"_s, {}, true, 80, State::Good}, u"80% full"_s},
-                    Worded{"Low", {u"a"_s, {}, false, 8, State::Low}, u"Low: 8%"_s},
-                    Worded{"LowWaste", {u"a"_s, {}, true, 95, State::Low}, u"Almost full: 95%"_s},
-                    Worded{"Empty", {u"a"_s, {}, false, 0, State::Empty}, u"Empty"_s},
-                    Worded{"FullWaste", {u"a"_s, {}, true, 100, State::Empty}, u"Full"_s}),
+                    Worded{"Some", {u"a"_s, {}, false, {}, Left::SomeLeft}, u"Some left"_s},
+                    Worded{"SomeRoom", {u"a"_s, {}, true, {}, Left::SomeLeft}, u"Some room left"_s},
+                    Worded{"Good", {u"a"_s, {}, false, 80, Left::Good}, u"80%"_s},
+                    Worded{"GoodWaste", {u"a"_s, {}, true, 80, Left::Good}, u"80% full"_s},
+                    Worded{"Low", {u"a"_s, {}, false, 8, Left::Low}, u"Low: 8%"_s},
+                    Worded{"LowWaste", {u"a"_s, {}, true, 95, Left::Low}, u"Almost full: 95%"_s},
+                    Worded{"Empty", {u"a"_s, {}, false, 0, Left::Empty}, u"Empty"_s},
+                    Worded{"FullWaste", {u"a"_s, {}, true, 100, Left::Empty}, u"Full"_s}),
     CaseName());
 
 struct Warned
@@ -238,25 +237,24 @@ TEST_P(WordBeforePrinting, IsOnWhatTheJobNeeds)
     EXPECT_EQ(sentencesOn(GetParam().supplies, false), GetParam().inBlack);
 }
 
-const Supply kLowCyan{u"Cyan"_s, {kCyan}, false, 8, State::Low};
-const Supply kEmptyYellow{u"Yellow"_s, {kYellow}, false, 0, State::Empty};
-const Supply kLowGrey{u"Grey"_s, {0xff1a1b1c}, false, 8, State::Low};
-const Supply kLowTricolor{u"Color"_s, {kCyan, kMagenta, kYellow}, false, 8, State::Low};
-const Supply kLowWithBlack{u"All"_s, {kCyan, kBlack}, false, 8, State::Low};
-const Supply kLowOfNoColor{u"Toner"_s, {}, false, 8, State::Low};
-const Supply kFullWaste{u"Waste"_s, {}, true, 100, State::Empty};
-const Supply kFullerWaste{u"Waste"_s, {}, true, 95, State::Low};
+const Supply kLowCyan{u"Cyan"_s, {kCyan}, false, 8, Left::Low};
+const Supply kEmptyYellow{u"Yellow"_s, {kYellow}, false, 0, Left::Empty};
+const Supply kLowGrey{u"Grey"_s, {0xff1a1b1c}, false, 8, Left::Low};
+const Supply kLowTricolor{u"Color"_s, {kCyan, kMagenta, kYellow}, false, 8, Left::Low};
+const Supply kLowWithBlack{u"All"_s, {kCyan, kBlack}, false, 8, Left::Low};
+const Supply kLowOfNoColor{u"Toner"_s, {}, false, 8, Left::Low};
+const Supply kFullWaste{u"Waste"_s, {}, true, 100, Left::Empty};
+const Supply kFullerWaste{u"Waste"_s, {}, true, 95, Left::Low};
 
 INSTANTIATE_TEST_SUITE_P(
     Table, WordBeforePrinting,
     testing::Values(
         Warned{"Nothing", {}, {}, {}},
-        Warned{"NothingAboutWhatIsThere",
-               {{u"a"_s},
-                {u"b"_s, {}, false, {}, State::SomeLeft},
-                {u"c"_s, {}, false, 9, State::Good}},
-               {},
-               {}},
+        Warned{
+            "NothingAboutWhatIsThere",
+            {{u"a"_s}, {u"b"_s, {}, false, {}, Left::SomeLeft}, {u"c"_s, {}, false, 9, Left::Good}},
+            {},
+            {}},
         Warned{"AColor", {kLowCyan}, {u"Running low in the printer: Cyan."_s}, {}},
         Warned{"AColorThatIsUsedUp", {kEmptyYellow}, {u"Used up in the printer: Yellow."_s}, {}},
         Warned{"TheWorstFirst",
