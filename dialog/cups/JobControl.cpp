@@ -59,11 +59,9 @@ bool isOffered(JobAction action, JobPhase phase)
     return (rowOf(action).phases & bit(phase)) != 0;
 }
 
-Result<JobStatus> askStatus(const JobPlace &job, CallGuard &guard)
+Result<JobStatus> askStatus(ServerConnection &connection, const JobPlace &job, int &requests)
 {
-    ServerConnection connection(job.server, guard);
-    if (!connection.isConnected())
-        return connection.lastFault(job.queue);
+    ++requests;
     IppHandle request = jobRequest(IPP_OP_GET_JOB_ATTRIBUTES, job.queue, job.id);
     askFor(request.get(), statusAttributes());
     const IppHandle answer = connection.request(std::move(request), queueResource(job.queue));
@@ -72,7 +70,10 @@ Result<JobStatus> askStatus(const JobPlace &job, CallGuard &guard)
     if (!answer || !connection.succeeded())
         return connection.lastFault(job.queue);
     const JobStatus status = statusOf(answer.get());
-    return status.phase == JobPhase::Waiting ? askPrinter(connection, job.queue, status) : status;
+    if (status.phase != JobPhase::Waiting)
+        return status;
+    ++requests;
+    return askPrinter(connection, job.queue, status);
 }
 
 Result<> perform(JobAction action, const JobPlace &job, CallGuard &guard)

@@ -6,6 +6,8 @@
 
 #include <QtCore/QString>
 
+class ServerConnection;
+
 /// A job at a server.
 struct JobPlace
 {
@@ -27,8 +29,8 @@ enum class JobAction {
 bool isOffered(JobAction action, JobPhase phase);
 
 /// Asks the server where the job stands. A server that has forgotten the job is no fault
-/// (JobPhase::Unknown). Blocks: call it in a BackgroundCall.
-Result<JobStatus> askStatus(const JobPlace &job, CallGuard &guard);
+/// (JobPhase::Unknown). Adds to `requests` how many it took.
+Result<JobStatus> askStatus(ServerConnection &connection, const JobPlace &job, int &requests);
 
 /// Does it. A fault where the server does not do so. Blocks.
 Result<> perform(JobAction action, const JobPlace &job, CallGuard &guard);

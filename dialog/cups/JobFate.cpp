@@ -8,6 +8,14 @@ bool hasReason(ipp_t *job, const char *reason)
     return reasons && ippContainsString(reasons, reason) != 0;
 }
 
+bool isDone(ServerConnection &connection, ipp_op_t operation, const QString &queue, int jobId)
+{
+    if (!connection.isConnected())
+        return false;
+    connection.request(jobRequest(operation, queue, jobId), queueResource(queue));
+    return connection.succeeded();
+}
+
 } // namespace
 
 JobFate fateOf(ipp_t *job)
@@ -39,13 +47,18 @@ JobFate askFate(ServerConnection &connection, const QString &queue, int jobId)
     IppHandle request = jobRequest(IPP_OP_GET_JOB_ATTRIBUTES, queue, jobId);
     askFor(request.get(), {"job-state", "job-state-reasons"});
     const IppHandle job = connection.request(std::move(request), queueResource(queue));
+    const ExchangeEnd &end = connection.lastEnd();
+    if (end.kind == ExchangeEnd::Kind::Answered && end.status == IPP_STATUS_ERROR_NOT_FOUND)
+        return JobFate::Forgotten;
     return job && connection.succeeded() ? fateOf(job.get()) : JobFate::Unknown;
+}
+
+bool releaseJob(ServerConnection &connection, const QString &queue, int jobId)
+{
+    return isDone(connection, IPP_OP_RELEASE_JOB, queue, jobId);
 }
 
 bool cancelJob(ServerConnection &connection, const QString &queue, int jobId)
 {
-    if (!connection.isConnected())
-        return false;
-    connection.request(jobRequest(IPP_OP_CANCEL_JOB, queue, jobId), queueResource(queue));
-    return connection.succeeded();
+    return isDone(connection, IPP_OP_CANCEL_JOB, queue, jobId);
 }

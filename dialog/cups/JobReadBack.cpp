@@ -1,6 +1,8 @@
 #include "dialog/cups/JobReadBack.h"
 
 #include "dialog/cups/OptionAttribute.h"
+#include "dialog/job/UnsaidSettings.h"
+#include "platform/toolkit/PlainText.h"
 
 #include <QtCore/QCoreApplication>
 
@@ -9,13 +11,6 @@ namespace {
 ipp_attribute_t *find(ipp_t *job, const QByteArray &name)
 {
     return ippFindAttribute(job, name.constData(), IPP_TAG_ZERO);
-}
-
-/// Whether the job was sent to wait at the server.
-bool isToBeHeld(const QList<JobOption> &sent)
-{
-    const QString hold = optionValue(sent, QStringLiteral("job-hold-until"));
-    return !hold.isEmpty() && hold != QLatin1String("no-hold");
 }
 
 /// What is said of a job in this state; null when there is nothing to say.
@@ -59,17 +54,34 @@ QString difference(ipp_t *job, const JobOption &option)
         .arg(option.name, option.value, shownServerText(kept));
 }
 
-IppHandle readBackRequest(const QString &queue, int jobId, const QList<JobOption> &sent)
+/// What the server has added to the job, and the job has not been shown with.
+QStringList additions(ipp_t *job, const QList<JobOption> &sent)
 {
-    IppHandle request = jobRequest(IPP_OP_GET_JOB_ATTRIBUTES, queue, jobId);
-    QList<QByteArray> names{"job-state", "job-state-reasons"};
-    for (const JobOption &option : sent)
-        names += option.name.toUtf8();
-    askFor(request.get(), names);
-    return request;
+    QList<JobOption> kept;
+    for (ipp_attribute_t *one = ippFirstAttribute(job); one; one = ippNextAttribute(job))
+        if (ippGetGroupTag(one) == IPP_TAG_JOB && ippGetName(one))
+            kept += JobOption{QString::fromUtf8(ippGetName(one)), attributeText(one)};
+    const QueueInfluence influence = influenceOf(kept, sent);
+    QStringList notes;
+    for (const JobOption &option : influence.settled)
+        notes +=
+            QCoreApplication::translate("JobReadBack",
+                                        "The server set %1 to %2, where %3 was shown.")
+                .arg(option.name, shownServerText(optionValue(kept, option.name)), option.value);
+    for (const JobOption &option : influence.unsettled)
+        notes += QCoreApplication::translate("JobReadBack",
+                                             "The server set %1 to %2, which was not shown.")
+                     .arg(displayText(option.name), shownServerText(option.value));
+    return notes;
 }
 
 } // namespace
+
+bool isToBeHeld(const QList<JobOption> &sent)
+{
+    const QString hold = optionValue(sent, QStringLiteral("job-hold-until"));
+    return !hold.isEmpty() && hold != QLatin1String("no-hold");
+}
 
 QStringList differences(ipp_t *job, int jobId, const QList<JobOption> &sent)
 {
@@ -85,13 +97,13 @@ QStringList differences(ipp_t *job, int jobId, const QList<JobOption> &sent)
         if (!note.isNull())
             notes += note;
     }
-    return notes;
+    return notes + additions(job, sent);
 }
 
 QStringList readJobBack(ServerConnection &connection, const QString &queue, int jobId,
                         const QList<JobOption> &sent)
 {
-    const IppHandle job = connection.request(readBackRequest(queue, jobId, sent),
+    const IppHandle job = connection.request(jobRequest(IPP_OP_GET_JOB_ATTRIBUTES, queue, jobId),
                                              queueResource(queue), kTimeoutsPerReadBack);
     if (job)
         return connection.succeeded() ? differences(job.get(), jobId, sent) : QStringList();

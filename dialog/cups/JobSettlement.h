@@ -9,8 +9,13 @@
 Result<JobReceipt> settle(const Fault &why, Sent sent, const JobRequest &request,
                           JobProgress &progress, CallGuard &guard);
 
-/// The server has taken the job: notes it, and reads the job back.
+/// The server has taken the job: notes it, reads the job back, and releases one that is on trial
+/// when it is as it was shown.
 JobReceipt accept(ServerConnection &connection, const JobRequest &request, JobProgress &progress);
 
 /// What is said of a job that may have been printed, or not.
-Fault perhapsPrinted(const QString &server, int id);
+Fault perhapsPrinted(const QString &server, const QString &queue, int id);
+
+/// Why nothing of a job came to the queue, and that it did not. What the user has done himself, or
+/// a document is to blame for, is as it was.
+Fault notPrinted(const Fault &why, const QString &queue);

@@ -1,23 +1,28 @@
 #include "dialog/cups/JobSubmission.h"
 
+#include "dialog/cups/JobReadBack.h"
 #include "dialog/cups/JobSettlement.h"
-#include "dialog/cups/OptionAttribute.h"
-#include "dialog/job/OutgoingText.h"
+#include "dialog/cups/JobTemplate.h"
+#include "dialog/cups/QueueOutlook.h"
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
-IppHandle createJobRequest(const JobRequest &job)
+constexpr auto kHold = "job-hold-until"_L1;
+
+/// The job with what it has to say so that its queue does not say otherwise. Where that cannot be
+/// said it waits until it was compared, unless the user wants it held anyway.
+JobRequest prepared(const JobRequest &job, const QueueInfluence &influence)
 {
-    IppHandle request = queueRequest(IPP_OP_CREATE_JOB, job.queue);
-    ippAddString(request.get(), IPP_TAG_OPERATION, IPP_TAG_NAME, "job-name", nullptr,
-                 outgoingTitle(job.title).constData());
-    for (const JobOption &option : job.options)
-        if (!isOfSubscription(option))
-            addOptionAttribute(request.get(), option);
-    for (const JobOption &option : job.options)
-        if (isOfSubscription(option))
-            addSubscription(request.get(), option);
-    return request;
+    JobRequest prepared = job;
+    prepared.options += influence.settled;
+    if (influence.unsettled.isEmpty() || isToBeHeld(job.options))
+        return prepared;
+    prepared.options.removeIf([](const JobOption &option) { return option.name == kHold; });
+    prepared.options += JobOption{kHold, u"indefinite"_s};
+    prepared.isOnTrial = true;
+    return prepared;
 }
 
 /// The number of the job in the server's answer; 0 without one that a job can have.
@@ -35,24 +40,30 @@ Result<JobReceipt> submitJob(const JobRequest &request, CallGuard &guard,
     if (const Result<> unchanged = checkUnchanged(request.documents); !unchanged)
         return unchanged.fault();
     ServerConnection connection(request.server, guard);
-    IppHandle created;
-    if (connection.isConnected() && !guard.isCancelled())
-        created = connection.request(createJobRequest(request), queueResource(request.queue));
+    if (!connection.isConnected() || guard.isCancelled())
+        return notPrinted(connection.lastFault(request.queue), request.queue);
+    const Result<QueueInfluence> influence = lookAhead(connection, request);
+    if (!influence)
+        return notPrinted(influence.fault(), request.queue);
+    const JobRequest job = prepared(request, *influence);
+    const IppHandle created =
+        connection.request(jobTemplate(IPP_OP_CREATE_JOB, job), queueResource(job.queue));
     const int id = connection.succeeded() && created ? createdJob(created) : 0;
     if (id == 0)
-        return connection.lastFault(request.queue);
+        return notPrinted(connection.lastFault(job.queue), job.queue);
     progress->setId(id);
-    const auto [sent, fault] = sendDocuments(connection, request, *progress);
+    progress->setOnTrial(job.isOnTrial);
+    const auto [sent, fault] = sendDocuments(connection, job, *progress);
     if (sent == Sent::Accepted)
-        return accept(connection, request, *progress);
-    return settle(fault.value_or(connection.lastFault(request.queue)), sent, request, *progress,
-                  guard);
+        return accept(connection, job, *progress);
+    return settle(fault.value_or(connection.lastFault(job.queue)), sent, job, *progress, guard);
 }
 
 Result<JobReceipt> givenUpReceipt(const JobRequest &request, const JobProgress &progress)
 {
     if (progress.isAccepted())
-        return JobReceipt{progress.id(), {}};
-    return progress.id() == 0 ? silentServer(request.server)
-                              : perhapsPrinted(nameOfServer(request.server), progress.id());
+        return JobReceipt{progress.id(), {}, progress.isOnTrial()};
+    return progress.id() == 0
+               ? notPrinted(silentServer(request.server), request.queue)
+               : perhapsPrinted(nameOfServer(request.server), request.queue, progress.id());
 }

@@ -17,11 +17,17 @@ struct JobReceipt
     /// What a person should know of the job: that it is held, or that the server did not keep a
     /// setting. One sentence each.
     QStringList notes;
+    /// The server holds the job for us: it would be printed otherwise than it was shown, as the
+    /// notes say, or that is not known. Somebody has to say what becomes of it.
+    bool isOnTrial = false;
 };
 
-/// Creates the job, sends its documents, and reads the job back to compare it with what was sent.
-/// A job whose documents did not all arrive is cancelled: nothing half is printed. Blocks: call it
-/// in a BackgroundCall.
+/// Looks what the queue would make of the job, creates it, sends its documents, and reads it back
+/// to compare it with what was sent. A job whose documents did not all arrive is cancelled: nothing
+/// half is printed. Blocks: call it in a BackgroundCall.
+///
+/// Where the queue would have its way against the job's settings, the job is sent held, and
+/// released as soon as the comparison finds nothing.
 ///
 /// Where the answer to the last document is late or lost, the server is asked for the job: it is
 /// accepted when the server has all of it, and FaultKind::Unsettled when that cannot be known. It

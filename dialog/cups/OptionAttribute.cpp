@@ -58,6 +58,15 @@ void addRanges(ipp_t *request, const char *name, const QString &value)
                  upper.data());
 }
 
+void addNumbers(ipp_t *request, ipp_tag_t tag, const char *name, const QString &value)
+{
+    std::vector<int> numbers;
+    for (const QString &number : value.split(u','))
+        numbers.push_back(number.toInt());
+    ippAddIntegers(request, IPP_TAG_JOB, tag, name, static_cast<int>(numbers.size()),
+                   numbers.data());
+}
+
 void addList(ipp_t *request, ipp_tag_t tag, const QByteArray &name, const QString &value)
 {
     std::vector<const char *> texts;
@@ -90,7 +99,7 @@ void addOptionAttribute(ipp_t *request, const JobOption &option)
     switch (tag) {
     case IPP_TAG_INTEGER:
     case IPP_TAG_ENUM:
-        ippAddInteger(request, IPP_TAG_JOB, tag, name.constData(), option.value.toInt());
+        addNumbers(request, tag, name.constData(), option.value);
         return;
     case IPP_TAG_BOOLEAN:
         ippAddBoolean(request, IPP_TAG_JOB, name.constData(),

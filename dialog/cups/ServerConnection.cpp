@@ -143,6 +143,15 @@ void ServerConnection::endByTransport()
         endBy(Kind::Broken, error);
 }
 
+/// libcups keeps no error of a connection that was reset while it wrote.
+void ServerConnection::endBySending()
+{
+    if (httpError(m_http.get()) == 0)
+        endBy(Kind::Closed);
+    else
+        endByTransport();
+}
+
 /// Makes sure of a connection for a request and all of its answer.
 bool ServerConnection::begin(int timeouts)
 {
@@ -282,7 +291,7 @@ bool ServerConnection::upload(const char *data, qint64 size)
 {
     if (!m_guard.mayWait() ||
         httpWrite2(m_http.get(), data, static_cast<std::size_t>(size)) != size) {
-        endByTransport();
+        endBySending();
         return false;
     }
     m_guard.stampSignOfLife();

@@ -94,6 +94,7 @@ private:
     IppHandle readAnswer(int status);
     void endBy(ExchangeEnd::Kind kind, int status = 0);
     void endByTransport();
+    void endBySending();
     void endByBody(BodyEnd end, const QIODevice &to);
 
     CallGuard &m_guard;

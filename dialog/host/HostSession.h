@@ -151,6 +151,9 @@ public:
     /// What the plug-in advises for some papers.
     const QList<PaperAdvice> &paperAdvice() const { return m_paperAdvice; }
 
+    /// The standard attributes that say the same as choices of the printer, as the plug-in says.
+    const QList<AttributeRule> &attributeRules() const { return m_plugIn.attributeRules; }
+
     /// What the user asked the plug-in's alerts to remember.
     QVariantMap alertMemory() const;
 

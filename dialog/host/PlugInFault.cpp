@@ -7,7 +7,7 @@
 namespace {
 
 // Indexed by PlugInFaultReason.
-constexpr std::array<const char *, 9> kSentences = {
+constexpr std::array<const char *, 10> kSentences = {
     QT_TRANSLATE_NOOP("PlugInLoader", "The printer's settings are missing: there is no plug-in "
                                       "at %1. Install Velkaro Print again."),
     QT_TRANSLATE_NOOP("PlugInLoader", "The plug-in %1 is incomplete: it has no readable Info.json. "
@@ -19,6 +19,8 @@ constexpr std::array<const char *, 9> kSentences = {
                                       "there."),
     QT_TRANSLATE_NOOP("PlugInLoader", "The plug-in is incomplete: %1 is missing. Install Velkaro "
                                       "Print again."),
+    QT_TRANSLATE_NOOP("PlugInLoader", "The plug-in cannot be used: %1 is no row of a keyword, a "
+                                      "choice, a standard attribute and its value."),
     QT_TRANSLATE_NOOP("PlugInLoader", "%1 is not a plug-in of this print dialog."),
     QT_TRANSLATE_NOOP("PlugInLoader", "The plug-in %1 was made for another version of this print "
                                       "dialog. Install the same version of both."),

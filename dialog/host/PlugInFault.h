@@ -9,6 +9,7 @@ enum class PlugInFaultReason {
     LibraryMissing,
     OpenToOthers,          ///< somebody else may change what would run here
     ViewMissing,           ///< one that the bundle says it has
+    WrongEntry,            ///< of Info.json
     NotAPlugIn,            ///< a library, but none of this interface
     OtherInterfaceVersion, ///< found out before any code of the library runs
     LoadFailed,

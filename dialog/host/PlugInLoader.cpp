@@ -12,6 +12,7 @@
 #include <QtCore/QPluginLoader>
 
 #include <algorithm>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -33,6 +34,17 @@ QString missingView(const Bundle &bundle)
     });
     return name == names.end() ? QString()
                                : bundle.bundlePath() + u"/Resources/"_s + *name + u".ui"_s;
+}
+
+/// Takes over the bundle's rules. The place of the first row that is none; null when all are.
+QString wrongRule(PlugInLoad &load)
+{
+    AttributeRules read = attributeRules(load.bundle->infoValue(kPDEStandardAttributesKey));
+    load.attributeRules = std::move(read.rules);
+    return read.wrongRow == 0
+               ? QString()
+               : u"%1/Info.json: %2[%3]"_s.arg(load.bundle->bundlePath(), kPDEStandardAttributesKey,
+                                               QString::number(read.wrongRow - 1));
 }
 
 // The interface identifier up to its version.
@@ -150,6 +162,8 @@ PlugInLoad loadPlugIn(const QString &bundlePath, const QVariantMap &info)
         load.fault = plugInFault(OpenToOthers, place, u"others may write to "_s + place);
     else if (const QString view = missingView(*load.bundle); !view.isNull())
         load.fault = plugInFault(ViewMissing, view, u"no such file: "_s + view);
+    else if (const QString row = wrongRule(load); !row.isNull())
+        load.fault = plugInFault(WrongEntry, row, u"no rule: "_s + row);
     else
         load.fault = instantiate(load, library);
     return load;
@@ -159,6 +173,6 @@ PlugInLoad loadPlugInFor(ppd_file_t *ppd, const QVariantMap &info)
 {
     const BundleChoice choice = chooseBundle(plugInsFolder(), printerFacts(ppd));
     if (choice.path.isNull())
-        return {nullptr, nullptr, choice.fault};
+        return {nullptr, nullptr, {}, choice.fault};
     return loadPlugIn(choice.path, info);
 }

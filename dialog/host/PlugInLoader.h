@@ -1,5 +1,6 @@
 #pragma once
 
+#include "dialog/host/AttributeRules.h"
 #include "dialog/host/PlugInFault.h"
 #include "dialog/host/PrinterMatch.h"
 
@@ -22,6 +23,8 @@ struct PlugInLoad
     /// Null with a fault, and where no bundle is for the printer. Owned by its library, which stays
     /// loaded until the process ends.
     PDEPlugIn *plugIn = nullptr;
+    /// The standard attributes that go with its choices.
+    QList<AttributeRule> attributeRules;
     std::optional<PlugInFault> fault;
 };
 

@@ -38,10 +38,10 @@ bool isValue(const QString &value)
            std::ranges::all_of(value.toUcs4(), isValueCharacter);
 }
 
-QList<JobOption> changedChoices(const JobValues &values)
+QList<JobOption> changedChoices(const JobValues &values, const QList<PPDMark> &marks)
 {
     QList<JobOption> choices;
-    for (const PPDMark &mark : marksOf(values.ppd)) {
+    for (const PPDMark &mark : marks) {
         const bool isSent = !values.defaultMarks.contains(mark) ||
                             values.settled.contains(mark.keyword, Qt::CaseInsensitive);
         if (isSent && !isReservedName(mark.keyword) && !values.inTicket.contains(mark.keyword))
@@ -160,8 +160,10 @@ JobOptions jobOptions(const JobValues &values)
     for (const JobOption &option : values.saved)
         if (option.name != "media"_L1 && !isChoice(values.ppd, option.name))
             put(made, option);
-    const QList<JobOption> choices = changedChoices(values);
-    for (const JobOption &option : choices + standardAttributesBeside(choices))
+    const QList<PPDMark> marks = marksOf(values.ppd);
+    const QList<JobOption> choices = changedChoices(values, marks);
+    for (const JobOption &option :
+         choices + standardAttributes(marks, choices, values.attributeRules))
         put(made, option);
     putPaper(made, values);
     putSettings(made, values);

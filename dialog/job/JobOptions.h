@@ -1,5 +1,6 @@
 #pragma once
 
+#include "dialog/host/AttributeRules.h"
 #include "dialog/host/PPDMarks.h"
 #include "dialog/job/JobLayout.h"
 #include "dialog/job/JobOption.h"
@@ -36,6 +37,7 @@ struct JobValues
     /// Keywords that lpoptions name: their choices are sent even where they are the default, as
     /// every other program sends them.
     QStringList settled;
+    QList<AttributeRule> attributeRules; ///< attributeRulesFor() the printer
     /// Keywords whose values travel in the ticket, under keys of the plug-in's own: their marks say
     /// nothing, and are not sent.
     QStringList inTicket;

@@ -21,8 +21,13 @@ public:
     bool isAccepted() const { return m_isAccepted; }
     void setAccepted() { m_isAccepted = true; }
 
+    /// Whether the job was sent held, until it is known to be as it was shown.
+    bool isOnTrial() const { return m_isOnTrial; }
+    void setOnTrial(bool isOnTrial) { m_isOnTrial = isOnTrial; }
+
 private:
     std::atomic<qint64> m_bytes = 0;
     std::atomic<int> m_id = 0;
     std::atomic<bool> m_isAccepted = false;
+    std::atomic<bool> m_isOnTrial = false;
 };

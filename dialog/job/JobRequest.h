@@ -13,5 +13,6 @@ struct JobRequest
     QString queue;
     QString title;
     QList<JobOption> options;
-    Documents documents; ///< at least one, no pipe among them
+    Documents documents;    ///< at least one, no pipe among them
+    bool isOnTrial = false; ///< sent held, until it was compared with what the server made of it
 };

@@ -9,10 +9,12 @@
 
 using namespace std::chrono_literals;
 
-std::chrono::milliseconds followInterval(int looks)
+std::chrono::milliseconds followInterval(int looks, int requests)
 {
     constexpr int kLooksASecond = 10; // as long as something may be about to happen
-    return std::clamp<std::chrono::milliseconds>((looks - kLooksASecond) * 250ms, 2s, 5s);
+    const auto interval =
+        std::clamp<std::chrono::milliseconds>((looks - kLooksASecond) * 250ms, 2s, 5s);
+    return std::max<std::chrono::milliseconds>(interval, requests * 1s);
 }
 
 JobFollower::JobFollower(JobPlace job, Listener listener, QObject *parent)
@@ -40,23 +42,26 @@ void JobFollower::look()
     delete m_looking;
     m_looking = new BackgroundCall(
         this, kServerTimeout,
-        [this, job = m_job](CallGuard &guard) -> BackgroundCall::Outcome {
-            const auto answer = std::make_shared<Result<JobStatus>>(askStatus(job, guard));
+        [this, job = m_job, watch = m_watch,
+         last = m_status](CallGuard &guard) -> BackgroundCall::Outcome {
+            const auto answer = std::make_shared<Result<JobLook>>(lookAt(job, watch, last, guard));
             return [this, answer] { take(*answer); };
         },
         [this] { take(silentServer(m_job.server)); });
 }
 
-void JobFollower::take(const Result<JobStatus> &answer)
+void JobFollower::take(const Result<JobLook> &answer)
 {
     m_looking.clear();
     const bool wasLost = std::exchange(m_isLost, !answer);
-    const bool isNew = answer && (wasLost || m_status != *answer);
+    const bool isNew = answer && (wasLost || m_status != answer->status);
     m_looks = isNew ? 0 : m_looks + 1;
-    if (answer)
-        m_status = *answer;
-    if (!answer || !isEnd(answer->phase))
-        m_timer.start(followInterval(m_looks));
+    if (answer) {
+        m_status = answer->status;
+        m_watch = answer->watch;
+    }
+    if (!answer || !isEnd(answer->status.phase))
+        m_timer.start(followInterval(m_looks, answer ? answer->requests : 0));
     if (isNew)
         m_listener.changed(*m_status);
     else if (!answer && !wasLost)
@@ -72,7 +77,7 @@ void JobFollower::perform(JobAction action)
             m_listener.failed(done.sentence());
         m_looks = 0;
         if (!m_looking)
-            m_timer.start(followInterval(0));
+            m_timer.start(followInterval(0, 1));
     };
     m_performing = new BackgroundCall(
         this, kServerTimeout,

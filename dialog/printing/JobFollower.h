@@ -1,6 +1,6 @@
 #pragma once
 
-#include "dialog/cups/JobControl.h"
+#include "dialog/cups/JobWatch.h"
 
 #include <QtCore/QObject>
 #include <QtCore/QPointer>
@@ -13,9 +13,8 @@
 class BackgroundCall;
 
 /// How long to wait before a job is looked at again, when the last `looks` found nothing new: from
-/// two seconds up to five. A look may take two requests, and a server is not asked more often than
-/// once a second.
-std::chrono::milliseconds followInterval(int looks);
+/// two seconds up to five, and a second for each request that the last look took.
+std::chrono::milliseconds followInterval(int looks, int requests);
 
 /// Follows an accepted job to its end, off the main thread and with at most one request on its way.
 /// A server that does not answer is asked on: it may be starting again.
@@ -49,11 +48,12 @@ public:
 
 private:
     void look();
-    void take(const Result<JobStatus> &answer);
+    void take(const Result<JobLook> &answer);
 
     const JobPlace m_job;
     const Listener m_listener;
     std::optional<JobStatus> m_status;
+    JobWatch m_watch;
     bool m_isLost = false;
     int m_looks = 0; ///< without anything new
     QTimer m_timer;

@@ -2,6 +2,7 @@
 
 #include "dialog/host/CustomParameters.h"
 #include "dialog/job/LpoptionsFile.h"
+#include "dialog/job/StandardAttributes.h"
 #include "dialog/printing/PrintJob.h"
 #include "platform/ppd/PPDText.h"
 #include "platform/toolkit/PlainText.h"
@@ -71,7 +72,7 @@ QList<JobOption> neutralised(const PrintJob &job, const QList<JobOption> &option
             added += JobOption{option.name, u"3"_s};
     }
     added.removeIf([](const JobOption &option) { return option.value.isEmpty(); });
-    return added;
+    return added + standardAttributes(marksOf(job.ppd()), added, job.attributeRules());
 }
 
 QList<JobOption> presetOptions(const PrintJob &job)

@@ -333,7 +333,7 @@ Result<FinishedJob> PrintController::finish()
         if (!agreed)
             return agreed.fault();
     }
-    const JobOptions options = m_job.options();
+    const JobOptions options = m_job.wholeOptions();
     if (!options.faults.isEmpty())
         return Fault{FaultKind::Vetoed, options.faults.constFirst()};
     const SettingState after = settingState(m_job);
@@ -354,6 +354,15 @@ std::shared_ptr<JobProgress> PrintController::send(const JobRequest &request, Th
         },
         std::move(then), [request, progress] { return givenUpReceipt(request, *progress); });
     return progress;
+}
+
+void PrintController::endTrial(const JobPlace &job, TrialVerdict verdict, Then<std::monostate> then)
+{
+    begin<Result<>>(
+        m_call, kServerTimeout,
+        [job, verdict](CallGuard &guard) { return ::endTrial(verdict, job, guard); },
+        std::move(then),
+        [job, verdict] { return Result<>(endlessTrial(verdict, job, silentServer(job.server))); });
 }
 
 std::shared_ptr<JobProgress> PrintController::write(const QString &path, const JobRequest &request,

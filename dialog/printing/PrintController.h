@@ -2,6 +2,7 @@
 
 #include "dialog/cups/Destinations.h"
 #include "dialog/cups/JobSubmission.h"
+#include "dialog/cups/JobTrial.h"
 #include "dialog/cups/PrinterCondition.h"
 #include "dialog/files/OutputFile.h"
 #include "dialog/printing/PageCounter.h"
@@ -141,6 +142,9 @@ public:
 
     /// Sends a job. What is gone out of it is in the progress.
     std::shared_ptr<JobProgress> send(const JobRequest &request, Then<JobReceipt> then);
+
+    /// Ends the wait of a job that was sent and is on trial.
+    void endTrial(const JobPlace &job, TrialVerdict verdict, Then<std::monostate> then);
 
     /// Writes a job into a file. Gives what is to be told of it, one sentence each.
     std::shared_ptr<JobProgress> write(const QString &path, const JobRequest &request,

@@ -3,6 +3,7 @@
 #include "dialog/job/DocumentFile.h"
 #include "dialog/job/DocumentKind.h"
 #include "dialog/job/Papers.h"
+#include "dialog/job/StandardAttributes.h"
 #include "platform/ppd/PPDText.h"
 #include "platform/printmanager/PMTicketKeys.h"
 
@@ -169,7 +170,26 @@ QStringList PrintJob::ownKeywords() const
     return keywords;
 }
 
+QList<AttributeRule> PrintJob::attributeRules() const
+{
+    return attributeRulesFor(ppd(),
+                             session() ? session()->attributeRules() : QList<AttributeRule>());
+}
+
+// A queue has defaults of its own, which a file that was named instead knows nothing of.
 JobOptions PrintJob::options() const
+{
+    return optionsBeside(session() && m_source.ppdPath.isNull() ? session()->defaultMarks()
+                                                                : QList<PPDMark>());
+}
+
+JobOptions PrintJob::wholeOptions() const
+{
+    return optionsBeside({});
+}
+
+/// The marks of these defaults are not said.
+JobOptions PrintJob::optionsBeside(const QList<PPDMark> &defaults) const
 {
     JobValues values;
     values.settings = m_settings;
@@ -179,10 +199,9 @@ JobOptions PrintJob::options() const
     values.havePages = !m_kinds.empty() && m_kinds.count(DocumentKind::Pages) == m_kinds.size();
     if (const HostSession *open = session()) {
         values.ppd = open->ppd();
-        // A queue has defaults of its own, which a file that was named instead knows nothing of.
-        if (m_source.ppdPath.isNull())
-            values.defaultMarks = open->defaultMarks();
+        values.defaultMarks = defaults;
         values.ticket = open->ticket();
+        values.attributeRules = attributeRules();
         for (const QString &key : open->ticket().values().keys())
             if (const QString keyword = open->keywordOfTicketKey(key); !keyword.isNull())
                 values.inTicket += keyword;

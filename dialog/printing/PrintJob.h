@@ -108,13 +108,21 @@ public:
     /// watched. Those that the PPD has.
     QStringList ownKeywords() const;
 
-    /// The job as it would be sent now. Where the PPD is not the queue's own, all that is marked
-    /// goes with it, defaults as well: it may be sent to a queue with other ones.
+    /// The standard attributes that say the same as choices of the printer.
+    QList<AttributeRule> attributeRules() const;
+
+    /// What the job has otherwise than its printer. Where the PPD is not the queue's own, that is
+    /// all that is marked, defaults as well: it may be sent to a queue with other ones.
     JobOptions options() const;
+
+    /// The job as it would be sent now: all that is marked. A server chooses by itself what a job
+    /// does not say, out of presets, standard attributes and its queue's own defaults.
+    JobOptions wholeOptions() const;
     JobRequest request(const QList<JobOption> &options) const;
 
 private:
     const PMPageFormat &format() const;
+    JobOptions optionsBeside(const QList<PPDMark> &defaults) const;
 
     Documents m_documents;
     QList<DocumentKind> m_kinds; // of the documents

@@ -4,7 +4,6 @@
 #include "dialog/job/ColorMode.h"
 #include "dialog/job/PaperSizes.h"
 #include "dialog/job/Papers.h"
-#include "dialog/job/StandardAttributes.h"
 #include "dialog/printing/PrintJob.h"
 #include "platform/ppd/PPDText.h"
 #include "platform/toolkit/PlainText.h"
@@ -18,14 +17,10 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr auto kSlot = "InputSlot"_L1;
-constexpr auto kColorModel = "ColorModel"_L1;
 
-/// A mark that is the printer's default is not among what is sent.
 bool mayPrintInColor(const PrintJob &job)
 {
-    const QString model = markedChoice(job.ppd(), kColorModel);
-    return ::mayPrintInColor(standardAttributesBeside({{kColorModel, model}}) +
-                             job.options().options);
+    return ::mayPrintInColor(job.wholeOptions().options);
 }
 
 bool isInTrouble(const Supply &supply)

@@ -1,18 +1,17 @@
 #include "dialog/program/DialogCommand.h"
 
 #include "dialog/cups/Passwords.h"
-#include "dialog/printing/FollowPreference.h"
 #include "dialog/printing/SettingRequests.h"
 #include "dialog/program/CommandOutput.h"
 #include "dialog/program/ExitStatus.h"
 #include "dialog/program/NoDialogCommand.h"
 #include "dialog/program/Screenshot.h"
+#include "dialog/program/SentJob.h"
 #include "dialog/program/SessionRecording.h"
 #include "dialog/program/ToolkitMessages.h"
 #include "dialog/program/Translations.h"
 #include "dialog/program/WhyCommand.h"
 #include "dialog/window/DialogWindow.h"
-#include "dialog/window/JobWindow.h"
 #include "dialog/work/BackgroundCall.h"
 #include "dialog/work/EndSignals.h"
 
@@ -21,7 +20,6 @@
 #include <QtWidgets/QApplication>
 
 #include <cstdlib>
-#include <memory>
 
 namespace {
 
@@ -40,18 +38,11 @@ ExitStatus runDialog(const CommandLine &line)
         return failWith(known.fault());
     if (const Result<> begun = recording.begin(line, window.controller()); !begun)
         return failWith(begun.fault());
-    std::unique_ptr<JobWindow> follower;
-    QObject::connect(&window, &DialogWindow::jobSent, &window,
-                     [&follower](const QString &server, const JobName &job) {
-                         if (!followsJobs())
-                             return;
-                         follower = std::make_unique<JobWindow>(server, job);
-                         follower->show();
-                     });
+    SentJob sent;
+    QObject::connect(&window, &DialogWindow::jobSent, &sent, &SentJob::take);
     const EndSignals signals([&] { // a server may be asked from here on
         window.end();
-        if (follower)
-            follower->reject();
+        sent.end();
     });
     window.start();
     window.show();

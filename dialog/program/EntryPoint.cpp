@@ -5,6 +5,7 @@
 #include "dialog/program/CommandOutput.h"
 #include "dialog/program/DialogCommand.h"
 #include "dialog/program/ExitStatus.h"
+#include "dialog/program/FollowCommand.h"
 #include "dialog/program/ForgetCommand.h"
 #include "dialog/program/LauncherOutput.h"
 #include "dialog/program/LauncherTexts.h"
@@ -42,6 +43,8 @@ extern "C" Q_DECL_EXPORT int velkaroPrintMain(int argc, char **argv)
 {
     if (argc > 1 && std::string_view(argv[1]) == kAdviseOption)
         return runAdviseCommand(argc, argv);
+    if (argc > 1 && std::string_view(argv[1]) == kFollowOption)
+        return runFollowCommand(argc, argv);
     const QStringList arguments = argumentsOf(argc, argv);
     const Result<CommandLine> parsed = parseCommandLine(arguments);
     if (!parsed)

@@ -47,6 +47,13 @@ QString receiptLine(const QString &queue, int id, std::size_t files)
     return QStringLiteral("request id is %1-%2 (%3 file(s))").arg(queue).arg(id).arg(files);
 }
 
+QString cancelledSentence(const JobPlace &job)
+{
+    return QCoreApplication::translate("NoDialogCommand",
+                                       "Job %1 on %2 was cancelled; --yes prints it all the same.")
+        .arg(QString::number(job.id), job.queue);
+}
+
 QString beyondSentence(int page, int last)
 {
     return QCoreApplication::translate("NoDialogCommand",
@@ -81,6 +88,8 @@ private:
     void deliver(const JobRequest &request);
     void askPrinter(const JobRequest &request);
     void send(const JobRequest &request);
+    void judge(const JobPlace &job, const QStringList &differences);
+    void takeReceipt(const QString &queue, const JobReceipt &receipt);
     void waitFor(const QString &queue, int id);
     void write(const JobRequest &request);
     bool tell(const QString &sentence);
@@ -294,22 +303,44 @@ void Run::send(const JobRequest &request)
                       .arg(request.queue));
         return;
     }
-    m_controller.send(request, [this, queue = request.queue](const Result<JobReceipt> &receipt) {
-        if (!receipt) {
+    m_controller.send(request, [this, request](const Result<JobReceipt> &receipt) {
+        if (!receipt)
             goOn(receipt.fault());
-            return;
-        }
-        const bool isTold =
-            tell(receiptLine(queue, receipt->id, m_controller.job().documents().size()));
-        for (const QString &note : receipt->notes)
-            warn(note);
-        if (!isTold)
-            return;
-        if (m_line.wait)
-            waitFor(queue, receipt->id);
+        else if (receipt->isOnTrial)
+            judge({request.server, request.queue, receipt->id}, receipt->notes);
         else
-            end(ExitStatus::Done);
+            takeReceipt(request.queue, *receipt);
     });
+}
+
+/// The server would print the job otherwise than it was asked for, and holds it.
+void Run::judge(const JobPlace &job, const QStringList &differences)
+{
+    const bool isAgreed = m_line.yes && !EndSignals::haveCome();
+    const auto take = [this, job, differences, isAgreed](const Result<> &ended) {
+        if (!ended)
+            goOn(ended.fault());
+        else if (isAgreed)
+            takeReceipt(job.queue, {job.id, differences});
+        else
+            goOn(Fault{FaultKind::Vetoed,
+                       joinedSentences(differences + QStringList{cancelledSentence(job)})});
+    };
+    m_controller.endTrial(job, isAgreed ? TrialVerdict::Release : TrialVerdict::Cancel, take);
+}
+
+void Run::takeReceipt(const QString &queue, const JobReceipt &receipt)
+{
+    const bool isTold =
+        tell(receiptLine(queue, receipt.id, m_controller.job().documents().size()));
+    for (const QString &note : receipt.notes)
+        warn(note);
+    if (!isTold)
+        return;
+    if (m_line.wait)
+        waitFor(queue, receipt.id);
+    else
+        end(ExitStatus::Done);
 }
 
 /// The job is at the server: from here on a signal is a matter of the wait.

@@ -114,20 +114,51 @@ void DialogWindow::writeFile(const QString &path, const JobRequest &request,
 void DialogWindow::send(const JobRequest &request)
 {
     beginSending(tr("Sending the job to %1…").arg(request.queue),
-                 m_controller.send(request, [this, queue = job().source().queue](
+                 m_controller.send(request, [this, place = JobPlace{request.server, request.queue}](
                                                 const Result<JobReceipt> &receipt) {
-                     if (receipt) {
-                         rememberPrinter(m_wishes.server, queue);
-                         m_sent = {queue.queue, receipt->id,
-                                   m_savedJob ? 0 : printedPages(job().settings(), m_pageCount)};
-                     }
-                     const bool hasNote = receipt && !receipt->notes.isEmpty();
-                     endSending(receipt ? Result<>() : receipt.fault(),
-                                hasNote ? tr("Job %1 was accepted. %2")
-                                              .arg(QString::number(receipt->id),
-                                                   joinedSentences(receipt->notes))
-                                        : QString());
+                     if (receipt && receipt->isOnTrial)
+                         judge({place.server, place.queue, receipt->id}, *receipt);
+                     else
+                         takeReceipt(receipt);
                  }));
+}
+
+/// The server would print the job otherwise than it was shown, and holds it until the user has said
+/// what becomes of it.
+void DialogWindow::judge(const JobPlace &place, const JobReceipt &receipt)
+{
+    AlertContent question;
+    question.style = AlertStyle::Warning;
+    question.text = tr("Print job %1 all the same?").arg(receipt.id);
+    question.informative = receipt.notes.join(u'\n');
+    question.buttons = {tr("Print"), tr("Cancel Job")};
+    question.defaultButton = kCancel;
+    const bool isAgreed = !m_isEnding && ask(question) == kYes && !m_isEnding;
+    m_controller.endTrial(
+        place, isAgreed ? TrialVerdict::Release : TrialVerdict::Cancel,
+        [this, isAgreed, id = receipt.id](const Result<> &ended) {
+            if (!ended)
+                endSending(ended.fault(), {});
+            else if (isAgreed)
+                takeReceipt(JobReceipt{id, {}});
+            else
+                endSending(Fault{FaultKind::Cancelled, tr("Job %1 was cancelled.").arg(id)}, {});
+        });
+}
+
+void DialogWindow::takeReceipt(const Result<JobReceipt> &receipt)
+{
+    if (receipt) {
+        const QueueName queue = job().source().queue;
+        rememberPrinter(m_wishes.server, queue);
+        m_sent = {queue.queue, receipt->id,
+                  m_savedJob ? 0 : printedPages(job().settings(), m_pageCount)};
+    }
+    const bool hasNote = receipt && !receipt->notes.isEmpty();
+    endSending(receipt ? Result<>() : receipt.fault(),
+               hasNote ? tr("Job %1 was accepted. %2")
+                             .arg(QString::number(receipt->id), joinedSentences(receipt->notes))
+                       : QString());
 }
 
 /// The job is on its way. Cancel stops it.

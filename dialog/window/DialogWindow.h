@@ -230,6 +230,8 @@ private:
     std::optional<OutputTerms> agreedTerms(const QString &path);
     void writeFile(const QString &path, const JobRequest &request, const OutputTerms &terms);
     void send(const JobRequest &request);
+    void judge(const JobPlace &place, const JobReceipt &receipt);
+    void takeReceipt(const Result<JobReceipt> &receipt);
     void beginSending(const QString &sentence, const std::shared_ptr<JobProgress> &progress);
     void endSending(const Result<> &outcome, const QString &note);
 

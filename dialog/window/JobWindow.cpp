@@ -1,6 +1,7 @@
 #include "dialog/window/JobWindow.h"
 
 #include "dialog/window/Mnemonics.h"
+#include "dialog/window/OpenQueue.h"
 #include "dialog/window/SheetAsker.h"
 #include "platform/toolkit/AccessibleName.h"
 #include "platform/toolkit/AccessibleRole.h"
@@ -53,6 +54,10 @@ JobWindow::JobWindow(const QString &server, JobName job, QWidget *parent)
     addAction(JobAction::Restart, u"restartButton"_s, tr("Print Again"));
     addAction(JobAction::Authenticate, u"authenticateButton"_s, tr("Enter Password…"));
     addAction(JobAction::Cancel, u"cancelJobButton"_s, tr("Cancel Job"));
+    QPushButton *queue = addButton(u"openQueueButton"_s, tr("Open Queue"));
+    queue->setAutoDefault(false);
+    connect(queue, &QPushButton::clicked, this,
+            [this] { openQueue(m_follower.job().server, m_follower.job().queue); });
     row->addStretch(1);
     QPushButton *close = addButton(u"closeButton"_s, tr("Close"));
     close->setDefault(true);
@@ -106,6 +111,11 @@ void JobWindow::showProgress(const JobStatus &status)
     m_progress->setRange(0, isPrinting ? m_job.pages : std::max(1, m_job.pages));
     m_progress->setValue(isDone ? m_progress->maximum() : std::min(status.sheets, m_job.pages));
     m_progress->setEnabled(!isEnd(status.phase));
+}
+
+bool JobWindow::isAtEnd() const
+{
+    return m_follower.status() && isEnd(m_follower.status()->phase);
 }
 
 QString JobWindow::sentence() const

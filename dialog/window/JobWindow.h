@@ -24,6 +24,9 @@ public:
     /// What is told now, plain text.
     QString sentence() const;
 
+    /// Whether nothing more will become of the job.
+    bool isAtEnd() const;
+
 private:
     QPushButton *addButton(const QString &name, const QString &title);
     void addAction(JobAction action, const QString &name, const QString &title);

@@ -72,7 +72,8 @@ bool isDefault(const PrintJob &job, const JobOption &option)
 QList<JobOption> sentOptions(const PrintJob &job)
 {
     QList<JobOption> options = job.options().options;
-    const QList<JobOption> doubles = standardAttributesBeside(options);
+    const QList<JobOption> doubles =
+        standardAttributes(marksOf(job.ppd()), options, job.attributeRules());
     options.removeIf([&](const JobOption &option) {
         return doubles.contains(option) || isDefault(job, option);
     });

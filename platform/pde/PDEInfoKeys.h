@@ -56,3 +56,15 @@ inline constexpr auto kPDETwoSidedPapersKey = QLatin1String("PDETwoSidedPapers")
 ///
 ///   "PDEPaperAdvice": [{"Papers": ["Env*"], "Keyword": "ExTray", "Choice": "Rear"}]
 inline constexpr auto kPDEPaperAdviceKey = QLatin1String("PDEPaperAdvice");
+
+/// The standard attributes of IPP that say the same as a choice of the printer: a list of objects
+/// of these four members. The dialog sends the attribute beside the choice, so that a server that
+/// derives it, or has a default of it, says nothing else. "Attribute" is one of `finishings`,
+/// `output-bin`, `print-color-mode`, `print-content-optimize`, `print-quality` and `sides`, "Value"
+/// as IPP has it: numbers for `finishings` and `print-quality` (3 draft, 4 normal, 5 high). With a
+/// row of another form the bundle is not used.
+///
+///   "PDEStandardAttributes": [
+///       {"Keyword": "ExToner", "Choice": "Save", "Attribute": "print-quality", "Value": "3"}
+///   ]
+inline constexpr auto kPDEStandardAttributesKey = QLatin1String("PDEStandardAttributes");

@@ -461,6 +461,18 @@ Umschalt+F1 oder das Kontextmenü sagt, warum.</translation>
         <source>Trust It</source>
         <translation>Vertrauen</translation>
     </message>
+    <message>
+        <source>Print job %1 all the same?</source>
+        <translation>Auftrag %1 trotzdem drucken?</translation>
+    </message>
+    <message>
+        <source>Cancel Job</source>
+        <translation>Auftrag abbrechen</translation>
+    </message>
+    <message>
+        <source>Job %1 was cancelled.</source>
+        <translation>Auftrag %1 wurde abgebrochen.</translation>
+    </message>
 </context>
 <context>
     <name>DialogTabs</name>
@@ -1055,6 +1067,14 @@ Umschalt+F1 oder das Kontextmenü sagt, warum.</translation>
         <source>Whether the server keeps all settings of job %1 is not known: its account of the job cannot be read.</source>
         <translation>Ob der Server alle Einstellungen von Auftrag %1 übernommen hat, ist nicht bekannt: Seine Angaben zum Auftrag sind nicht lesbar.</translation>
     </message>
+    <message>
+        <source>The server set %1 to %2, where %3 was shown.</source>
+        <translation>Der Server hat %1 auf %2 gesetzt; angezeigt wurde %3.</translation>
+    </message>
+    <message>
+        <source>The server set %1 to %2, which was not shown.</source>
+        <translation>Der Server hat %1 auf %2 gesetzt, was nicht angezeigt wurde.</translation>
+    </message>
 </context>
 <context>
     <name>JobSentence</name>
@@ -1146,20 +1166,32 @@ Umschalt+F1 oder das Kontextmenü sagt, warum.</translation>
 <context>
     <name>JobSettlement</name>
     <message>
-        <source>%1 Job %2 could not be cancelled at %3 and may be printed.</source>
-        <translation>%1 Auftrag %2 konnte auf %3 nicht abgebrochen werden und wird möglicherweise gedruckt.</translation>
+        <source>%1 Job %2 on %3 could not be cancelled at %4 and may be printed.</source>
+        <translation>%1 Auftrag %2 auf %3 konnte auf %4 nicht abgebrochen werden und wird möglicherweise gedruckt.</translation>
     </message>
     <message>
-        <source>The print server %1 cancelled job %2.</source>
-        <translation>Der Druckserver %1 hat Auftrag %2 abgebrochen.</translation>
+        <source>The print server %1 cancelled job %2 on %3.</source>
+        <translation>Der Druckserver %1 hat Auftrag %2 auf %3 abgebrochen.</translation>
     </message>
     <message>
-        <source>The print server %1 aborted job %2.</source>
-        <translation>Der Druckserver %1 hat Auftrag %2 vorzeitig beendet.</translation>
+        <source>The print server %1 aborted job %2 on %3.</source>
+        <translation>Der Druckserver %1 hat Auftrag %2 auf %3 vorzeitig beendet.</translation>
     </message>
     <message>
-        <source>The print server %1 did not say whether it took the job: it may have been printed as job %2.</source>
-        <translation>Der Druckserver %1 hat nicht mitgeteilt, ob er den Auftrag angenommen hat: Er wurde möglicherweise als Auftrag %2 gedruckt.</translation>
+        <source>The print server %1 did not say whether it took the job: it may have been printed as job %2 on %3.</source>
+        <translation>Der Druckserver %1 hat nicht mitgeteilt, ob er den Auftrag angenommen hat: Er wurde möglicherweise als Auftrag %2 auf %3 gedruckt.</translation>
+    </message>
+    <message>
+        <source>The server holds job %1, which could not be released: %2</source>
+        <translation>Der Server hält Auftrag %1 zurück; er konnte nicht freigegeben werden: %2</translation>
+    </message>
+    <message>
+        <source>Job %1 on %2 was cancelled: %3</source>
+        <translation>Auftrag %1 auf %2 wurde abgebrochen: %3</translation>
+    </message>
+    <message>
+        <source>Nothing was printed on %1: %2</source>
+        <translation>Auf %1 wurde nichts gedruckt: %2</translation>
     </message>
 </context>
 <context>
@@ -1230,6 +1262,17 @@ Umschalt+F1 oder das Kontextmenü sagt, warum.</translation>
     </message>
 </context>
 <context>
+    <name>JobTrial</name>
+    <message>
+        <source>Job %1 is held on %2 and could not be released: %3</source>
+        <translation>Auftrag %1 wird auf %2 zurückgehalten und konnte nicht freigegeben werden: %3</translation>
+    </message>
+    <message>
+        <source>Job %1 is held on %2 and could not be cancelled: %3</source>
+        <translation>Auftrag %1 wird auf %2 zurückgehalten und konnte nicht abgebrochen werden: %3</translation>
+    </message>
+</context>
+<context>
     <name>JobWait</name>
     <message>
         <source>Job %1 on %2 was not waited for any longer; it stays where it is.</source>
@@ -1273,6 +1316,10 @@ Umschalt+F1 oder das Kontextmenü sagt, warum.</translation>
     <message>
         <source>Enter Password…</source>
         <translation>Passwort eingeben…</translation>
+    </message>
+    <message>
+        <source>Open Queue</source>
+        <translation>Warteschlange öffnen</translation>
     </message>
 </context>
 <context>
@@ -1380,6 +1427,10 @@ Umschalt+F1 oder das Kontextmenü sagt, warum.</translation>
     <message>
         <source>The job would be written to %1.</source>
         <translation>Der Auftrag würde nach %1 geschrieben.</translation>
+    </message>
+    <message>
+        <source>Job %1 on %2 was cancelled; --yes prints it all the same.</source>
+        <translation>Auftrag %1 auf %2 wurde abgebrochen; mit --yes wird er trotzdem gedruckt.</translation>
     </message>
 </context>
 <context>
@@ -1795,6 +1846,10 @@ Umschalt+F1 oder das Kontextmenü sagt, warum.</translation>
     <message>
         <source>The plug-in %1 cannot be used with this print dialog.</source>
         <translation>Das Plug-in %1 kann mit diesem Druckdialog nicht verwendet werden.</translation>
+    </message>
+    <message>
+        <source>The plug-in cannot be used: %1 is no row of a keyword, a choice, a standard attribute and its value.</source>
+        <translation>Das Plug-in kann nicht verwendet werden: %1 ist keine Zeile aus Schlüsselwort, Auswahl, Standardattribut und dessen Wert.</translation>
     </message>
 </context>
 <context>

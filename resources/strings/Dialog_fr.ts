@@ -461,6 +461,18 @@ Maj+F1 ou le menu contextuel dit pourquoi.</translation>
         <source>Trust It</source>
         <translation>Lui faire confiance</translation>
     </message>
+    <message>
+        <source>Print job %1 all the same?</source>
+        <translation>Imprimer quand même le travail %1 ?</translation>
+    </message>
+    <message>
+        <source>Cancel Job</source>
+        <translation>Annuler le travail</translation>
+    </message>
+    <message>
+        <source>Job %1 was cancelled.</source>
+        <translation>Le travail %1 a été annulé.</translation>
+    </message>
 </context>
 <context>
     <name>DialogTabs</name>
@@ -1055,6 +1067,14 @@ Maj+F1 ou le menu contextuel dit pourquoi.</translation>
         <source>Whether the server keeps all settings of job %1 is not known: its account of the job cannot be read.</source>
         <translation>On ignore si le serveur conserve tous les réglages du travail %1 : ses indications sur le travail sont illisibles.</translation>
     </message>
+    <message>
+        <source>The server set %1 to %2, where %3 was shown.</source>
+        <translation>Le serveur a donné à %1 la valeur %2, alors que %3 était affiché.</translation>
+    </message>
+    <message>
+        <source>The server set %1 to %2, which was not shown.</source>
+        <translation>Le serveur a donné à %1 la valeur %2, qui n’était pas affichée.</translation>
+    </message>
 </context>
 <context>
     <name>JobSentence</name>
@@ -1146,20 +1166,32 @@ Maj+F1 ou le menu contextuel dit pourquoi.</translation>
 <context>
     <name>JobSettlement</name>
     <message>
-        <source>%1 Job %2 could not be cancelled at %3 and may be printed.</source>
-        <translation>%1 Le travail %2 n’a pas pu être annulé sur %3 et sera peut-être imprimé.</translation>
+        <source>%1 Job %2 on %3 could not be cancelled at %4 and may be printed.</source>
+        <translation>%1 Le travail %2 sur %3 n’a pas pu être annulé sur %4 et sera peut-être imprimé.</translation>
     </message>
     <message>
-        <source>The print server %1 cancelled job %2.</source>
-        <translation>Le serveur d’impression %1 a annulé le travail %2.</translation>
+        <source>The print server %1 cancelled job %2 on %3.</source>
+        <translation>Le serveur d’impression %1 a annulé le travail %2 sur %3.</translation>
     </message>
     <message>
-        <source>The print server %1 aborted job %2.</source>
-        <translation>Le serveur d’impression %1 a interrompu le travail %2.</translation>
+        <source>The print server %1 aborted job %2 on %3.</source>
+        <translation>Le serveur d’impression %1 a interrompu le travail %2 sur %3.</translation>
     </message>
     <message>
-        <source>The print server %1 did not say whether it took the job: it may have been printed as job %2.</source>
-        <translation>Le serveur d’impression %1 n’a pas indiqué s’il acceptait le travail : celui-ci a peut-être été imprimé comme travail %2.</translation>
+        <source>The print server %1 did not say whether it took the job: it may have been printed as job %2 on %3.</source>
+        <translation>Le serveur d’impression %1 n’a pas indiqué s’il acceptait le travail : celui-ci a peut-être été imprimé comme travail %2 sur %3.</translation>
+    </message>
+    <message>
+        <source>The server holds job %1, which could not be released: %2</source>
+        <translation>Le serveur retient le travail %1, qui n’a pas pu être libéré : %2</translation>
+    </message>
+    <message>
+        <source>Job %1 on %2 was cancelled: %3</source>
+        <translation>Le travail %1 sur %2 a été annulé : %3</translation>
+    </message>
+    <message>
+        <source>Nothing was printed on %1: %2</source>
+        <translation>Rien n’a été imprimé sur %1 : %2</translation>
     </message>
 </context>
 <context>
@@ -1230,6 +1262,17 @@ Maj+F1 ou le menu contextuel dit pourquoi.</translation>
     </message>
 </context>
 <context>
+    <name>JobTrial</name>
+    <message>
+        <source>Job %1 is held on %2 and could not be released: %3</source>
+        <translation>Le travail %1 est retenu sur %2 et n’a pas pu être libéré : %3</translation>
+    </message>
+    <message>
+        <source>Job %1 is held on %2 and could not be cancelled: %3</source>
+        <translation>Le travail %1 est retenu sur %2 et n’a pas pu être annulé : %3</translation>
+    </message>
+</context>
+<context>
     <name>JobWait</name>
     <message>
         <source>Job %1 on %2 was not waited for any longer; it stays where it is.</source>
@@ -1273,6 +1316,10 @@ Maj+F1 ou le menu contextuel dit pourquoi.</translation>
     <message>
         <source>Enter Password…</source>
         <translation>Saisir le mot de passe…</translation>
+    </message>
+    <message>
+        <source>Open Queue</source>
+        <translation>Ouvrir la file d’attente</translation>
     </message>
 </context>
 <context>
@@ -1380,6 +1427,10 @@ Maj+F1 ou le menu contextuel dit pourquoi.</translation>
     <message>
         <source>The job would be written to %1.</source>
         <translation>Le travail serait écrit dans %1.</translation>
+    </message>
+    <message>
+        <source>Job %1 on %2 was cancelled; --yes prints it all the same.</source>
+        <translation>Le travail %1 sur %2 a été annulé ; --yes l’imprime quand même.</translation>
     </message>
 </context>
 <context>
@@ -1795,6 +1846,10 @@ Maj+F1 ou le menu contextuel dit pourquoi.</translation>
     <message>
         <source>The plug-in %1 cannot be used with this print dialog.</source>
         <translation>Le module %1 ne peut pas être utilisé avec cette boîte de dialogue d’impression.</translation>
+    </message>
+    <message>
+        <source>The plug-in cannot be used: %1 is no row of a keyword, a choice, a standard attribute and its value.</source>
+        <translation>Le module ne peut pas être utilisé : %1 n’est pas une ligne composée d’un mot-clé, d’un choix, d’un attribut standard et de sa valeur.</translation>
     </message>
 </context>
 <context>

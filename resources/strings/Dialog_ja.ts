@@ -461,6 +461,18 @@ Shift+F1 or the context menu tells why.</source>
         <source>Trust It</source>
         <translation>信頼する</translation>
     </message>
+    <message>
+        <source>Print job %1 all the same?</source>
+        <translation>それでもジョブ %1 を印刷しますか？</translation>
+    </message>
+    <message>
+        <source>Cancel Job</source>
+        <translation>ジョブを取り消す</translation>
+    </message>
+    <message>
+        <source>Job %1 was cancelled.</source>
+        <translation>ジョブ %1 は取り消されました。</translation>
+    </message>
 </context>
 <context>
     <name>DialogTabs</name>
@@ -1055,6 +1067,14 @@ Shift+F1 or the context menu tells why.</source>
         <source>Whether the server keeps all settings of job %1 is not known: its account of the job cannot be read.</source>
         <translation>ジョブ %1 の設定がサーバーにすべて保たれているかどうかは分かりません。サーバーの返したジョブの情報を読み取れませんでした。</translation>
     </message>
+    <message>
+        <source>The server set %1 to %2, where %3 was shown.</source>
+        <translation>サーバーが %1 を %2 にしました。表示されていたのは %3 です。</translation>
+    </message>
+    <message>
+        <source>The server set %1 to %2, which was not shown.</source>
+        <translation>サーバーが %1 を %2 にしました。これは表示されていませんでした。</translation>
+    </message>
 </context>
 <context>
     <name>JobSentence</name>
@@ -1146,20 +1166,32 @@ Shift+F1 or the context menu tells why.</source>
 <context>
     <name>JobSettlement</name>
     <message>
-        <source>%1 Job %2 could not be cancelled at %3 and may be printed.</source>
-        <translation>%1ジョブ %2 を %3 で取り消せませんでした。印刷される可能性があります。</translation>
+        <source>%1 Job %2 on %3 could not be cancelled at %4 and may be printed.</source>
+        <translation>%1%3 のジョブ %2 を %4 で取り消せませんでした。印刷される可能性があります。</translation>
     </message>
     <message>
-        <source>The print server %1 cancelled job %2.</source>
-        <translation>プリントサーバー %1 がジョブ %2 を取り消しました。</translation>
+        <source>The print server %1 cancelled job %2 on %3.</source>
+        <translation>プリントサーバー %1 が %3 のジョブ %2 を取り消しました。</translation>
     </message>
     <message>
-        <source>The print server %1 aborted job %2.</source>
-        <translation>プリントサーバー %1 がジョブ %2 を中止しました。</translation>
+        <source>The print server %1 aborted job %2 on %3.</source>
+        <translation>プリントサーバー %1 が %3 のジョブ %2 を中止しました。</translation>
     </message>
     <message>
-        <source>The print server %1 did not say whether it took the job: it may have been printed as job %2.</source>
-        <translation>プリントサーバー %1 から、ジョブを受け付けたかどうかの応答がありません。ジョブ %2 として印刷された可能性があります。</translation>
+        <source>The print server %1 did not say whether it took the job: it may have been printed as job %2 on %3.</source>
+        <translation>プリントサーバー %1 から、ジョブを受け付けたかどうかの応答がありません。%3 のジョブ %2 として印刷された可能性があります。</translation>
+    </message>
+    <message>
+        <source>The server holds job %1, which could not be released: %2</source>
+        <translation>サーバーがジョブ %1 を保留していますが、保留を解除できませんでした。%2</translation>
+    </message>
+    <message>
+        <source>Job %1 on %2 was cancelled: %3</source>
+        <translation>%2 のジョブ %1 は取り消されました。%3</translation>
+    </message>
+    <message>
+        <source>Nothing was printed on %1: %2</source>
+        <translation>%1 では何も印刷されませんでした。%2</translation>
     </message>
 </context>
 <context>
@@ -1230,6 +1262,17 @@ Shift+F1 or the context menu tells why.</source>
     </message>
 </context>
 <context>
+    <name>JobTrial</name>
+    <message>
+        <source>Job %1 is held on %2 and could not be released: %3</source>
+        <translation>ジョブ %1 は %2 で保留されており、保留を解除できませんでした。%3</translation>
+    </message>
+    <message>
+        <source>Job %1 is held on %2 and could not be cancelled: %3</source>
+        <translation>ジョブ %1 は %2 で保留されており、取り消せませんでした。%3</translation>
+    </message>
+</context>
+<context>
     <name>JobWait</name>
     <message>
         <source>Job %1 on %2 was not waited for any longer; it stays where it is.</source>
@@ -1273,6 +1316,10 @@ Shift+F1 or the context menu tells why.</source>
     <message>
         <source>Enter Password…</source>
         <translation>パスワードを入力…</translation>
+    </message>
+    <message>
+        <source>Open Queue</source>
+        <translation>キューを開く</translation>
     </message>
 </context>
 <context>
@@ -1380,6 +1427,10 @@ Shift+F1 or the context menu tells why.</source>
     <message>
         <source>The job would be written to %1.</source>
         <translation>ジョブは %1 に保存されます（今回は保存していません）。</translation>
+    </message>
+    <message>
+        <source>Job %1 on %2 was cancelled; --yes prints it all the same.</source>
+        <translation>%2 のジョブ %1 は取り消されました。それでも印刷するには --yes を付けてください。</translation>
     </message>
 </context>
 <context>
@@ -1795,6 +1846,10 @@ Shift+F1 or the context menu tells why.</source>
     <message>
         <source>The plug-in %1 cannot be used with this print dialog.</source>
         <translation>プラグイン %1 はこの印刷画面では使用できません。</translation>
+    </message>
+    <message>
+        <source>The plug-in cannot be used: %1 is no row of a keyword, a choice, a standard attribute and its value.</source>
+        <translation>プラグインを使用できません。%1 は、キーワード、選択肢、標準属性とその値からなる行ではありません。</translation>
     </message>
 </context>
 <context>

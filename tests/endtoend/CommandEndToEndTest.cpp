@@ -24,17 +24,21 @@ protected:
             options + QStringList{pdf()});
     }
 
-    /// Every option of the job that is the printer's or the plug-in's.
+    /// Every option of the job that is the printer's or the plug-in's, but for the printer's
+    /// defaults.
     QMap<QString, QString> settingsOf(int job)
     {
         QMap<QString, QString> settings;
         const QMap<QString, QString> all = server().jobAttributes(u"photo"_s, job);
         for (auto one = all.cbegin(); one != all.cend(); ++one)
-            if (one.key().startsWith(u"VK"_s) || one.key().startsWith(u"com."_s) ||
-                one.key() == u"Duplex"_s || one.key() == u"PageSize"_s)
+            if ((one.key().startsWith(u"com."_s) ||
+                 ppd().contains(u"*OpenUI *"_s + one.key() + u'/')) &&
+                !ppd().contains(u"*Default"_s + one.key() + u": "_s + one.value() + u'\n'))
                 settings.insert(one.key(), one.value());
         return settings;
     }
+
+    static QString ppd() { return QString::fromUtf8(readFile(samplePPD(u"velkaro-px-t900"_s))); }
 };
 
 /// The vendor values of a job whose panels nobody has touched.
@@ -87,11 +91,12 @@ TEST_F(Command, TheNamesOfLpArriveInTheJob)
                                           {u"page-set"_s, u"odd"_s},
                                           {u"job-sheets"_s, u"standard,none"_s},
                                           {u"Duplex"_s, u"DuplexTumble"_s},
+                                          {u"sides"_s, u"two-sided-short-edge"_s},
                                           {u"VKMediaType"_s, u"PlainDuplex"_s},
                                           {u"PageSize"_s, u"A5"_s}};
     for (auto one = expected.cbegin(); one != expected.cend(); ++one)
         EXPECT_EQ(job.value(one.key()), one.value()) << one.key().toStdString();
-    for (const char *name : {"sides", "media", "notify-recipient-uri"})
+    for (const char *name : {"media", "notify-recipient-uri"})
         EXPECT_FALSE(job.contains(QLatin1String(name))) << name;
     EXPECT_TRUE(server().command(u"cancel"_s, {u"-a"_s, u"photo"_s}));
 }
@@ -504,8 +509,10 @@ TEST_F(Command, AServerThatIsDownWhenTheJobIsReadyIsSaid)
     const ProgramRun run = runProgram({u"--no-dialog"_s, u"-h"_s, address, u"-d"_s, u"photo"_s,
                                        u"--ppd"_s, samplePPD(u"velkaro-px-t900"_s), pdf()});
     EXPECT_EQ(run.status, 6);
-    EXPECT_EQ(run.errors,
-              u"velkaro-print: The print server %1 cannot be reached.\n"_s.arg(address));
+    EXPECT_EQ(
+        run.errors,
+        u"velkaro-print: Nothing was printed on photo: The print server %1 cannot be reached.\n"_s
+            .arg(address));
 }
 
 TEST_F(Command, AServerThatNeverAnswersIsGivenUp)

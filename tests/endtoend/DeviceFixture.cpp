@@ -61,6 +61,11 @@ void DeviceFixture::SetUp()
     QFile::remove(s_server->outputOf(u"go-on"_s));
 }
 
+void DeviceFixture::TearDown()
+{
+    EXPECT_TRUE(s_server->command(u"cancel"_s, {u"-a"_s}));
+}
+
 QString DeviceFixture::document()
 {
     QString path = m_folder.filePath(u"document.ps"_s);

@@ -24,6 +24,9 @@ protected:
 
     void SetUp() override;
 
+    /// A job that is left would be in the way of the next one.
+    void TearDown() override;
+
     static PrintServer &server() { return *s_server; }
 
     /// Sends a job of one page to the queue. Its number; 0 when it was not taken.

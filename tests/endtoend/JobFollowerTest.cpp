@@ -118,6 +118,32 @@ TEST_F(Following, OutlastsAServerThatDoesNotAnswer)
     EXPECT_EQ(follower->lost().size(), 1);
 }
 
+TEST_F(Following, OutlastsAServerThatIsStartedAgain)
+{
+    const auto follower = follow(u"empty"_s);
+    ASSERT_TRUE(follower->waitFor(JobPhase::InTrouble));
+    ASSERT_TRUE(
+        QTest::qWaitFor([] { return server().countOf("Create-Job-Subscriptions") > 0; }, kTimeout));
+    server().stop();
+    EXPECT_TRUE(QTest::qWaitFor([&] { return !follower->lost().isEmpty(); }, kTimeout));
+    continueDevices();
+    ASSERT_TRUE(server().restart());
+    EXPECT_TRUE(follower->waitFor(JobPhase::Finished));
+    EXPECT_EQ(follower->lost().size(), 1);
+}
+
+TEST_F(Following, AsksForEventsAndSeldomForTheJob)
+{
+    const qsizetype before = server().countOf("Get-Job-Attributes");
+    const auto follower = follow(u"empty"_s);
+    ASSERT_TRUE(follower->waitFor(JobPhase::InTrouble));
+    ASSERT_TRUE(
+        QTest::qWaitFor([] { return server().countOf("Get-Notifications") >= 3; }, kTimeout));
+    EXPECT_LE(server().countOf("Get-Job-Attributes") - before, 6);
+    continueDevices();
+    EXPECT_TRUE(follower->waitFor(JobPhase::Finished));
+}
+
 TEST_F(Following, CanHoldReleaseAndRestart)
 {
     ASSERT_TRUE(server().command(u"cupsdisable"_s, {u"finish"_s}));
@@ -155,10 +181,17 @@ TEST_F(Following, AJobThatTheServerDoesNotKnowIsAtAnEnd)
 
 TEST(FollowInterval, GrowsFromTwoSecondsToFive)
 {
-    EXPECT_EQ(followInterval(0), 2s);
-    EXPECT_EQ(followInterval(10), 2s);
-    EXPECT_EQ(followInterval(20), 2500ms);
-    EXPECT_EQ(followInterval(1000), 5s);
+    EXPECT_EQ(followInterval(0, 1), 2s);
+    EXPECT_EQ(followInterval(10, 1), 2s);
+    EXPECT_EQ(followInterval(20, 1), 2500ms);
+    EXPECT_EQ(followInterval(1000, 1), 5s);
+}
+
+TEST(FollowInterval, LeavesASecondForEachRequest)
+{
+    EXPECT_EQ(followInterval(0, 2), 2s);
+    EXPECT_EQ(followInterval(0, 3), 3s);
+    EXPECT_EQ(followInterval(1000, 3), 5s);
 }
 
 } // namespace

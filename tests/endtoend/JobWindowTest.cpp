@@ -2,6 +2,7 @@
 
 #include "dialog/window/DialogWindow.h"
 #include "platform/toolkit/PlainText.h"
+#include "tests/endtoend/BrowserStandIn.h"
 #include "tests/endtoend/DeviceFixture.h"
 #include "tests/support/CaseName.h"
 #include "tests/support/QStringPrinting.h"
@@ -76,7 +77,8 @@ TEST_P(FollowingWindowOf, TellsWhereTheJobStandsAndOffersWhatCanBeDone)
         click(u"cancelJobButton"_s);
         EXPECT_TRUE(
             comesTo(u"Job %1 on "_s + QLatin1String(GetParam().queue) + u" was cancelled."_s));
-        EXPECT_EQ(buttons(), (QStringList{u"restartButton"_s, u"closeButton"_s}));
+        EXPECT_EQ(buttons(),
+                  (QStringList{u"restartButton"_s, u"openQueueButton"_s, u"closeButton"_s}));
     }
 }
 
@@ -86,23 +88,24 @@ INSTANTIATE_TEST_SUITE_P(
         Standing{"Printed",
                  "finish",
                  "Job %1 on finish is printed.",
-                 {u"restartButton"_s, u"closeButton"_s}},
+                 {u"restartButton"_s, u"openQueueButton"_s, u"closeButton"_s}},
         Standing{"InTrouble",
                  "empty",
                  "Job %1 on empty: the printer needs somebody: The multi-purpose tray is empty.",
-                 {u"cancelJobButton"_s, u"closeButton"_s}},
-        Standing{"Held",
-                 "hold",
-                 "Job %1 on hold is held.",
-                 {u"releaseButton"_s, u"cancelJobButton"_s, u"closeButton"_s}},
+                 {u"cancelJobButton"_s, u"openQueueButton"_s, u"closeButton"_s}},
+        Standing{
+            "Held",
+            "hold",
+            "Job %1 on hold is held.",
+            {u"releaseButton"_s, u"cancelJobButton"_s, u"openQueueButton"_s, u"closeButton"_s}},
         Standing{"Stopped",
                  "stop",
                  "Job %1 on stop is waiting: the printer is stopped: The carriage is blocked.",
-                 {u"holdButton"_s, u"cancelJobButton"_s, u"closeButton"_s}},
+                 {u"holdButton"_s, u"cancelJobButton"_s, u"openQueueButton"_s, u"closeButton"_s}},
         Standing{"Cancelled",
                  "cancel",
                  "Job %1 on cancel was cancelled.",
-                 {u"restartButton"_s, u"closeButton"_s}}),
+                 {u"restartButton"_s, u"openQueueButton"_s, u"closeButton"_s}}),
     CaseName());
 
 TEST_F(FollowingWindow, LetsTheJobGoOnWhenItIsClosed)
@@ -115,6 +118,15 @@ TEST_F(FollowingWindow, LetsTheJobGoOnWhenItIsClosed)
     m_window.reset();
     continueDevices();
     EXPECT_EQ(server().waitForJob(u"empty"_s, m_id), IPP_JSTATE_COMPLETED);
+}
+
+TEST_F(FollowingWindow, OpensThePageOfTheQueue)
+{
+    const BrowserStandIn browser;
+    open(u"finish"_s);
+    click(u"openQueueButton"_s);
+    EXPECT_EQ(browser.pages(),
+              QList<QUrl>{QUrl(u"http://%1/printers/finish"_s.arg(server().address()))});
 }
 
 TEST_F(FollowingWindow, FillsItsBarWhenTheJobIsPrinted)

@@ -8,8 +8,8 @@
 #include "platform/foundation/UserDefaults.h"
 #include "platform/ppd/PPDText.h"
 #include "tests/built/BuiltFiles.h"
+#include "tests/endtoend/NotingPrinters.h"
 #include "tests/endtoend/ProgramRun.h"
-#include "tests/printserver/PrintServer.h"
 #include "tests/support/Files.h"
 #include "tests/support/LpoptionsFolder.h"
 #include "tests/support/QStringPrinting.h"
@@ -20,9 +20,7 @@
 
 #include <gtest/gtest.h>
 
-#include <cups/cups.h>
-
-#include <array>
+#include <algorithm>
 
 using namespace Qt::StringLiterals;
 
@@ -40,25 +38,15 @@ protected:
 
     void SetUp() override
     {
-        ASSERT_TRUE(m_server.fault().isNull()) << m_server.fault().toStdString();
-        const QString filter = m_server.folder() + u"/note-options"_s;
-        writeFile(filter, "#!/bin/sh\nprintf '%s\\n' \"$5\" >> " + log().toLocal8Bit() +
-                              "\ncat ${6:+\"$6\"} >/dev/null\n");
-        QFile::setPermissions(filter, QFile::Permissions(0x7755));
-        const QString ppd = m_server.folder() + u"/noted.ppd"_s;
-        writeFile(ppd, readFile(samplePPD(QLatin1String(GetParam()))) +
-                           "*cupsFilter: \"application/postscript 0 " + filter.toLocal8Bit() +
-                           "\"\n*cupsFilter: \"application/vnd.cups-postscript 0 " +
-                           filter.toLocal8Bit() + "\"\n");
-        ASSERT_TRUE(m_server.addQueue(u"photo"_s, ppd));
-        m_wishes.server = m_server.address();
+        ASSERT_TRUE(m_printers.server().fault().isNull())
+            << m_printers.server().fault().toStdString();
+        ASSERT_TRUE(m_printers.addQueue(u"photo"_s, QLatin1String(GetParam())));
+        m_wishes.server = m_printers.server().address();
         m_wishes.queue = u"photo"_s;
         m_wishes.plugIn = builtBundle();
         m_wishes.files = {m_lpoptions.home() + u"/letter.ps"_s};
         writeFile(m_wishes.files[0], "%!PS\nshowpage\n");
     }
-
-    QString log() const { return m_server.folder() + u"/out/options"_s; }
 
     std::unique_ptr<PrintController> open(const QString &preset)
     {
@@ -90,41 +78,27 @@ protected:
             job.setOrientation(PMOrientation::Landscape);
     }
 
-    /// libcups sends True and False as booleans, which a filter gets in small letters; it finds the
-    /// choice all the same.
-    static QString spelledBoolean(const QString &value)
+    /// What the printer was asked for: the choices as filters mark them, and what is no choice of
+    /// the PPD. Without the standard attributes that say the same as choices, and what a server
+    /// adds to every job.
+    QStringList printed(int job)
     {
-        for (const QString &boolean : {u"true"_s, u"false"_s})
-            if (value.compare(boolean, Qt::CaseInsensitive) == 0)
-                return boolean;
-        return value;
-    }
-
-    /// The options of the next job, in order and without what the server adds to every job.
-    QStringList notedOptions()
-    {
-        const int noted = m_noted++;
-        EXPECT_TRUE(QTest::qWaitFor([&] { return lines().size() > noted; }, kTimeout));
-        cups_option_t *options = nullptr;
-        const int count = cupsParseOptions(lines().value(noted).toUtf8().constData(), 0, &options);
+        static const QStringList sayTheSame{u"cupsPrintQuality"_s, u"finishings"_s,
+                                            u"print-color-mode"_s, u"print-quality"_s, u"sides"_s};
+        const NotedJob noted = m_printers.noted(u"photo"_s, job);
+        const QList<PPDMark> marks = noted.marks();
         QStringList texts;
-        for (int index = 0; index < count; ++index) {
-            const QString name = QString::fromUtf8(options[index].name);
-            if (!name.startsWith(u"job-") && !name.startsWith(u"date-time-at-") &&
-                !name.startsWith(u"time-at-") && !name.startsWith(u"document-name"))
-                texts += name + u'=' + spelledBoolean(QString::fromUtf8(options[index].value));
+        for (const PPDMark &mark : marks)
+            texts += mark.keyword + u'=' + mark.choice;
+        for (auto option = noted.options.cbegin(); option != noted.options.cend(); ++option) {
+            const QString &name = option.key();
+            const bool isChoice = std::ranges::find(marks, name, &PPDMark::keyword) != marks.end();
+            if (!isChoice && !sayTheSame.contains(name) && !name.startsWith(u"job-") &&
+                !name.startsWith(u"date-time-at-") && !name.startsWith(u"time-at-") &&
+                !name.startsWith(u"document-name"))
+                texts += name + u'=' + option.value();
         }
-        cupsFreeOptions(count, options);
-        texts.sort();
         return texts;
-    }
-
-    QStringList lines() const
-    {
-        QFile file(log());
-        return file.open(QIODevice::ReadOnly)
-                   ? QString::fromUtf8(file.readAll()).split(u'\n', Qt::SkipEmptyParts)
-                   : QStringList();
     }
 
     /// As the dialog does when it has saved a preset.
@@ -147,22 +121,23 @@ protected:
         controller->send(job->request, [&](const Result<JobReceipt> &one) { sent = one; });
         EXPECT_TRUE(QTest::qWaitFor([&] { return sent.has_value(); }, kTimeout));
         EXPECT_TRUE(*sent) << sent->sentence().toStdString();
-        return notedOptions();
+        return *sent ? printed((*sent)->id) : QStringList();
     }
 
     QStringList printedByLp(const QString &preset)
     {
-        EXPECT_EQ(QProcess::execute(u"lp"_s, {u"-s"_s, u"-h"_s, m_server.address(), u"-d"_s,
-                                              u"photo/"_s + preset, m_wishes.files[0]}),
-                  0);
-        return notedOptions();
+        QProcess lp;
+        lp.start(u"lp"_s,
+                 {u"-h"_s, m_wishes.server, u"-d"_s, u"photo/"_s + preset, m_wishes.files[0]});
+        EXPECT_TRUE(lp.waitForFinished() && lp.exitCode() == 0);
+        const QString said = QString::fromUtf8(lp.readAllStandardOutput());
+        return printed(said.section(u'-', 1).section(u' ', 0, 0).toInt());
     }
 
     LpoptionsFolder m_lpoptions;
-    PrintServer m_server;
+    NotingPrinters m_printers;
     PrintWishes m_wishes;
     ScriptedAnswers m_answers{true};
-    int m_noted = 0;
 };
 
 TEST_P(PresetJobs, AreTheSameFromLpAndFromTheDialog)

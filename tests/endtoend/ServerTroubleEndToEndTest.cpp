@@ -3,8 +3,10 @@
 #include "tests/endtoend/ShownTitle.h"
 #include "tests/servers/IppBytes.h"
 #include "tests/servers/ScriptedServer.h"
+#include "tests/support/CaseName.h"
 #include "tests/support/EventLoopWatch.h"
 
+#include <QtCore/QRegularExpression>
 #include <QtNetwork/QTcpServer>
 #include <QtWidgets/QLabel>
 #include <QtWidgets/QPushButton>
@@ -38,7 +40,8 @@ TEST_F(Dialog, AServerThatGoesDownLosesNothingOfTheJob)
     waitWhile(*window, DialogWindow::State::Sending);
     EXPECT_EQ(window->state(), DialogWindow::State::Ready);
     EXPECT_EQ(window->notice().sentence(),
-              u"The print server %1 cannot be reached."_s.arg(other.address()));
+              u"Nothing was printed on photo: The print server %1 cannot be reached."_s.arg(
+                  other.address()));
     EXPECT_EQ(part<PopUpButton>(*window, "mediaTypePopup")->selectedObject(), u"Glossy"_s);
     EXPECT_EQ(window->outcome().faultKind(), FaultKind::Cancelled);
 }
@@ -55,7 +58,7 @@ TEST_F(Dialog, AJobThatMayHavePrintedIsSentAgainOnPurposeOnly)
     waitWhile(*window, DialogWindow::State::Sending);
     EXPECT_EQ(window->notice().sentence(),
               u"The print server %1 did not say whether it took the job: it may have been printed "
-              "as job 7."_s.arg(forgetful.address()));
+              "as job 7 on photo."_s.arg(forgetful.address()));
     EXPECT_EQ(window->outcome().faultKind(), FaultKind::Unsettled);
     auto *print = part<QPushButton>(*window, "printButton");
     EXPECT_EQ(shownTitle(print->text()), u"Print Again"_s);
@@ -128,5 +131,103 @@ TEST_F(Dialog, AJobThatTheServerRefusedIsSentAgainByRetrying)
     EXPECT_TRUE(window->outcome()) << window->notice().sentence().toStdString();
     EXPECT_EQ(busy.requests().count(u"Create-Job"_s), 2);
 }
+
+// --- What the user reads of a job, and what the server has of it
+// ----------------------------------
+
+struct JobTrouble
+{
+    const char *behaviour;
+    Script script;
+    const char *sentence; ///< %1: the server; empty: the dialog has closed
+    int accepted;         ///< jobs that print
+    QString last;         ///< the last request
+};
+
+void PrintTo(const JobTrouble &row, std::ostream *out)
+{
+    *out << row.behaviour;
+}
+
+class DialogInTrouble : public Dialog, public testing::WithParamInterface<JobTrouble>
+{};
+
+TEST_P(DialogInTrouble, SaysWhatBecameOfTheJobAndNeverWaits)
+{
+    const ScriptedServer server(GetParam().script);
+    const auto window = open(lineFor(server.address(), u"photo"_s));
+    ASSERT_EQ(window->state(), DialogWindow::State::Ready);
+    const EventLoopWatch watch;
+    click(*window, "printButton");
+    waitWhile(*window, DialogWindow::State::Sending);
+    const QString expected = QString::fromUtf8(GetParam().sentence);
+    EXPECT_EQ(window->isVisible(), !expected.isEmpty());
+    EXPECT_EQ(window->isVisible() ? window->notice().sentence() : QString(),
+              QString(expected).replace(u"%1"_s, server.address()));
+    EXPECT_EQ(window->outcome() ? 1 : 0, GetParam().accepted);
+    EXPECT_EQ(server.requests().count(u"Create-Job"_s), 1);
+    EXPECT_LE(server.requests().count(u"Send-Document"_s), 1);
+    // The printer's condition is asked for every now and then.
+    EXPECT_EQ(server.requests().filter(QRegularExpression(u"Job|Document"_s)).constLast(),
+              GetParam().last);
+}
+
+const Steps kForbidden = answerWith(httpAnswer("403 Forbidden", "text/plain", "no"));
+const Steps kBusy = answerWith(httpAnswer("503 Service Unavailable", "text/plain", "no"));
+const Steps kIncoming =
+    answerIpp(IppBytes()
+                  .group(IPP_TAG_JOB)
+                  .integer(IPP_TAG_ENUM, "job-state", IPP_JSTATE_HELD)
+                  .attribute(IPP_TAG_KEYWORD, "job-state-reasons", "job-incoming")
+                  .ended());
+const QByteArray kNoise = "\n\x1b[2J\xe2\x80\xae<b>" + QByteArray(30000, 'x');
+
+INSTANTIATE_TEST_SUITE_P(
+    Table, DialogInTrouble,
+    testing::Values(
+        JobTrouble{"ClosedAtTheJob",
+                   {{"Create-Job", {readBody(), closeConnection()}}},
+                   "Nothing was printed on photo: The print server %1 closed the connection "
+                   "without an answer.",
+                   0,
+                   u"Create-Job"_s},
+        JobTrouble{"SilentAtTheJob",
+                   {{"Create-Job", {readBody(), hold()}}},
+                   "Nothing was printed on photo: The print server %1 does not answer.",
+                   0,
+                   u"Create-Job"_s},
+        JobTrouble{"ForbiddenAtTheJob",
+                   {{"Create-Job", kForbidden}},
+                   "Nothing was printed on photo: The print server %1 does not allow this machine "
+                   "to print to photo.",
+                   0,
+                   u"Create-Job"_s},
+        JobTrouble{"ClosedBeforeTheDocument",
+                   {{"Send-Document", {closeConnection()}}, {"Get-Job-Attributes", kIncoming}},
+                   "Job 7 on photo was cancelled: The print server %1 closed the connection "
+                   "without an answer.",
+                   0,
+                   u"Cancel-Job"_s},
+        JobTrouble{
+            "RefusedWithNoise",
+            {{"Send-Document", answerIpp(IppBytes(IPP_STATUS_ERROR_NOT_POSSIBLE)
+                                             .attribute(IPP_TAG_TEXT, "status-message", kNoise)
+                                             .ended())}},
+            [] {
+                static const QByteArray sentence =
+                    "Job 7 on photo was cancelled: The print server %1 refused: [2J<b>" +
+                    QByteArray(294, 'x') + "\xe2\x80\xa6";
+                return sentence.constData();
+            }(),
+            0,
+            u"Cancel-Job"_s},
+        JobTrouble{"ClosedAfterTheLastByte",
+                   {{"Send-Document", {readBody(), closeConnection()}}},
+                   "",
+                   1,
+                   u"Get-Job-Attributes"_s},
+        JobTrouble{
+            "BusyAfterTheLastByte", {{"Send-Document", kBusy}}, "", 1, u"Get-Job-Attributes"_s}),
+    CaseName());
 
 } // namespace

@@ -103,6 +103,24 @@ void PrintServer::stop()
     m_process.waitForFinished(kTimeout);
 }
 
+void PrintServer::crash()
+{
+    m_process.kill(); // by its process id
+    m_process.waitForFinished(kTimeout);
+}
+
+bool PrintServer::restart()
+{
+    stop();
+    return start();
+}
+
+qsizetype PrintServer::countOf(const QByteArray &operation) const
+{
+    QFile log(folder() + u"/log/access"_s);
+    return log.open(QIODevice::ReadOnly) ? log.readAll().count(' ' + operation + ' ') : 0;
+}
+
 // The kernel goes on taking connections for a process that is stopped.
 void PrintServer::holdAnswers()
 {
@@ -143,13 +161,14 @@ bool PrintServer::writeConfiguration()
         "AccessLog %1/log/access\nErrorLog %1/log/error\nPageLog %1/log/page\n"
         "FileDevice Yes\nUser %2\nGroup %3\nSystemGroup root %4\n"_s.arg(folder(), user, group,
                                                                          groupName());
-    const QString rules = u"Listen 127.0.0.1:%1\nListen %2\nBrowsing Off\nWebInterface "
-                          u"No\nLogLevel debug\n"
-                          "DefaultAuthType None\nPreserveJobHistory Yes\nPreserveJobFiles Yes\n"
-                          "<Location />\nOrder allow,deny\nAllow all\n%3\n</Location>\n"
-                          "<Policy default>\nJobPrivateAccess all\nJobPrivateValues none\n"
-                          "<Limit All>\nOrder allow,deny\nAllow all\n</Limit>\n</Policy>\n"_s.arg(
-                              QString::number(m_port), socketPath(), m_access);
+    const QString rules =
+        u"Listen 127.0.0.1:%1\nListen %2\nBrowsing Off\nWebInterface "
+        u"No\nLogLevel debug\nAccessLogLevel all\n"
+        "DefaultAuthType None\nPreserveJobHistory Yes\nPreserveJobFiles Yes\nMaxJobs 0\n"
+        "<Location />\nOrder allow,deny\nAllow all\n%3\n</Location>\n"
+        "<Policy default>\nJobPrivateAccess all\nJobPrivateValues none\n"
+        "<Limit All>\nOrder allow,deny\nAllow all\n</Limit>\n</Policy>\n"_s.arg(
+            QString::number(m_port), socketPath(), m_access);
     return linkPrograms(root.filePath(u"bin"_s)) &&
            writeFile(root.filePath(u"cups-files.conf"_s), files) &&
            writeFile(root.filePath(u"cupsd.conf"_s), rules);

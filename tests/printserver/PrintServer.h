@@ -55,8 +55,17 @@ public:
     void holdAnswers();
     void giveAnswers();
 
-    /// Ends the server; the object can be asked no more.
+    /// Ends the server; the object can be asked no more, until restart().
     void stop();
+
+    /// Ends it as a crash does: it keeps nothing that it has not written.
+    void crash();
+
+    /// Starts it again as it was, with its queues and jobs. False when it does not start.
+    bool restart();
+
+    /// How often the server was sent the IPP operation, by its own log.
+    qsizetype countOf(const QByteArray &operation) const;
 
 private:
     bool writeConfiguration();

@@ -106,13 +106,13 @@ TEST(ACancelledCall, WaitsForTheNumberOfTheJobThatItHasToCancel)
             return [got = submitJob(job, guard, progress), &receipt] { receipt = got; };
         },
         {});
-    ASSERT_TRUE(QTest::qWaitFor([&] { return server.requests() == QStringList{u"Create-Job"_s}; }));
+    ASSERT_TRUE(QTest::qWaitFor([&] { return server.requests() == creatingJob(); }));
     call->cancel();
     isCancelled = true;
     ASSERT_TRUE(QTest::qWaitFor([&] { return receipt.has_value(); }));
     EXPECT_EQ(progress->id(), kGoodJob);
     EXPECT_EQ(receipt->faultKind(), FaultKind::Cancelled);
-    EXPECT_EQ(server.requests(), (QStringList{u"Create-Job"_s, u"Cancel-Job"_s}));
+    EXPECT_EQ(server.requests(), creatingJob({u"Cancel-Job"_s}));
 }
 
 // --- A temporary folder that takes no PPD

@@ -66,6 +66,8 @@ QByteArray goodAnswer(const QByteArray &request, const QByteArray &createdJob)
     case IPP_OP_GET_JOB_ATTRIBUTES:
         return theJob(asked, createdJob);
     case IPP_OP_CANCEL_JOB:
+    case IPP_OP_VALIDATE_JOB:
+    case IPP_OP_RELEASE_JOB:
         return IppBytes().ended();
     default:
         return IppBytes(IPP_STATUS_ERROR_OPERATION_NOT_SUPPORTED).ended();

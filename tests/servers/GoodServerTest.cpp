@@ -57,8 +57,8 @@ TEST(ScriptedServerTest, WithoutAScriptTakesAJobAsItWasSent)
     EXPECT_EQ(receipt.sentence(), QString());
     EXPECT_EQ(receipt->id, kGoodJob);
     EXPECT_EQ(receipt->notes, QStringList());
-    EXPECT_EQ(server.requests(), (QStringList{u"Create-Job"_s, u"Send-Document"_s,
-                                              u"Send-Document"_s, u"Get-Job-Attributes"_s}));
+    EXPECT_EQ(server.requests(),
+              creatingJob({u"Send-Document"_s, u"Send-Document"_s, u"Get-Job-Attributes"_s}));
     const QList<QByteArray> sent = server.bodies(u"Send-Document"_s);
     ASSERT_EQ(sent.size(), 2);
     EXPECT_TRUE(sent[0].endsWith(QByteArray(100000, '1')));

@@ -85,7 +85,7 @@ TEST_P(JobWithALostAnswer, IsLookedForAndNeverSentAgain)
               QString::fromUtf8(row.sentence).replace(u"%1"_s, server.address()));
     EXPECT_EQ(progress->id(), kGoodJob);
     EXPECT_EQ(progress->isAccepted(), row.fault == std::nullopt);
-    EXPECT_EQ(server.requests(), QStringList({u"Create-Job"_s, u"Send-Document"_s}) + row.requests);
+    EXPECT_EQ(server.requests(), creatingJob({u"Send-Document"_s}) + row.requests);
 }
 
 const QString kLook = u"Get-Job-Attributes"_s;
@@ -132,29 +132,30 @@ INSTANTIATE_TEST_SUITE_P(
              jobInState(IPP_JSTATE_HELD, "job-incoming"),
              {},
              FaultKind::Silent,
-             "The print server %1 does not answer.",
+             "Job 7 on photo was cancelled: The print server %1 does not answer.",
              {kLook, kCancel}},
         Loss{"NotWholeAndNotToBeCancelled",
              kTakeAndHold,
              jobInState(IPP_JSTATE_HELD, "job-incoming"),
              kNotPossible,
              FaultKind::Unsettled,
-             "The print server %1 does not answer. Job 7 could not be cancelled at %1 and may be "
-             "printed.",
+             "The print server %1 does not answer. Job 7 on photo could not be cancelled at %1 and "
+             "may "
+             "be printed.",
              {kLook, kCancel, kLook}},
         Loss{"CancelledThere",
              kTakeAndClose,
              jobInState(IPP_JSTATE_CANCELED, "job-canceled-by-operator"),
              {},
              FaultKind::Refused,
-             "The print server %1 cancelled job 7.",
+             "The print server %1 cancelled job 7 on photo.",
              {kLook}},
         Loss{"AbortedThere",
              kTakeAndClose,
              jobInState(IPP_JSTATE_ABORTED, "aborted-by-system"),
              {},
              FaultKind::Refused,
-             "The print server %1 aborted job 7.",
+             "The print server %1 aborted job 7 on photo.",
              {kLook}},
         Loss{"Forgotten",
              kTakeAndClose,
@@ -162,7 +163,7 @@ INSTANTIATE_TEST_SUITE_P(
              {},
              FaultKind::Unsettled,
              "The print server %1 did not say whether it took the job: it may have been printed as "
-             "job 7.",
+             "job 7 on photo.",
              {kLook}},
         Loss{"NobodyToAsk",
              kTakeAndClose,
@@ -170,7 +171,7 @@ INSTANTIATE_TEST_SUITE_P(
              {},
              FaultKind::Unsettled,
              "The print server %1 did not say whether it took the job: it may have been printed as "
-             "job 7.",
+             "job 7 on photo.",
              {kLook}},
         // The answer is there: nothing is to be looked for.
         Loss{"RefusedByAnswer",
@@ -178,7 +179,7 @@ INSTANTIATE_TEST_SUITE_P(
              {},
              {},
              FaultKind::Refused,
-             "The print server %1 refused: IPP 0x040a.",
+             "Job 7 on photo was cancelled: The print server %1 refused: IPP 0x040a.",
              {kCancel}}),
     [](const auto &row) { return std::string(row.param.name); });
 
@@ -197,8 +198,7 @@ TEST_F(LostAnswer, ToOneOfSeveralDocumentsLeavesAJobThatIsCancelled)
     request.documents.push_back(request.documents.front());
     const auto receipt = submitJob(request, m_guard);
     EXPECT_EQ(receipt.faultKind(), FaultKind::Unreachable);
-    EXPECT_EQ(server.requests(),
-              (QStringList{u"Create-Job"_s, u"Send-Document"_s, u"Cancel-Job"_s}));
+    EXPECT_EQ(server.requests(), creatingJob({u"Send-Document"_s, u"Cancel-Job"_s}));
 }
 
 // --- Cancelling, at any time ---------------------------------------------------------------------
@@ -237,24 +237,13 @@ TEST_P(JobThatIsCancelled, IsCancelledAtTheServerUntilItIsAccepted)
 
 INSTANTIATE_TEST_SUITE_P(
     Table, JobThatIsCancelled,
-    testing::Values(Cancelling{"WhileItIsSent",
-                               "Send-Document",
-                               1000,
-                               kLarge,
+    testing::Values(Cancelling{"WhileItIsSent", "Send-Document", 1000, kLarge, FaultKind::Cancelled,
+                               creatingJob({u"Send-Document"_s, u"Cancel-Job"_s})},
+                    Cancelling{"WhileTheLastAnswerIsWaitedFor", "Send-Document", kWhole, 100,
                                FaultKind::Cancelled,
-                               {u"Create-Job"_s, u"Send-Document"_s, u"Cancel-Job"_s}},
-                    Cancelling{"WhileTheLastAnswerIsWaitedFor",
-                               "Send-Document",
-                               kWhole,
-                               100,
-                               FaultKind::Cancelled,
-                               {u"Create-Job"_s, u"Send-Document"_s, u"Cancel-Job"_s}},
-                    Cancelling{"WhenItIsAccepted",
-                               "Get-Job-Attributes",
-                               kWhole,
-                               100,
-                               std::nullopt,
-                               {u"Create-Job"_s, u"Send-Document"_s, u"Get-Job-Attributes"_s}}),
+                               creatingJob({u"Send-Document"_s, u"Cancel-Job"_s})},
+                    Cancelling{"WhenItIsAccepted", "Get-Job-Attributes", kWhole, 100, std::nullopt,
+                               creatingJob({u"Send-Document"_s, u"Get-Job-Attributes"_s})}),
     [](const auto &row) { return std::string(row.param.name); });
 
 TEST_F(LostAnswer, OfAJobThatWasCancelledBeforeItsCreationIsNone)
@@ -282,8 +271,7 @@ TEST_P(JobWhoseDocumentBecomes, AnotherLengthIsCancelled)
     EXPECT_EQ(receipt.sentence(),
               u"The document %1 has become shorter or longer since it was opened."_s.arg(
                   request.documents[0].path()));
-    EXPECT_EQ(server.requests(),
-              (QStringList{u"Create-Job"_s, u"Send-Document"_s, u"Cancel-Job"_s}));
+    EXPECT_EQ(server.requests(), creatingJob({u"Send-Document"_s, u"Cancel-Job"_s}));
 }
 
 INSTANTIATE_TEST_SUITE_P(Sizes, JobWhoseDocumentBecomes,
@@ -304,7 +292,7 @@ TEST_F(LostAnswer, IsKnownAsSoonAsTheServerHasSaidSo)
     sending.setId(kGoodJob);
     EXPECT_EQ(givenUpReceipt(request, sending).sentence(),
               u"The print server %1 did not say whether it took the job: it may have been printed "
-              "as job 7."_s.arg(server.address()));
+              "as job 7 on photo."_s.arg(server.address()));
 }
 
 } // namespace

@@ -58,7 +58,8 @@ INSTANTIATE_TEST_SUITE_P(
                     0,
                     "request id is photo-7 (1 file(s))\n",
                     "",
-                    {kGet, kAsk, u"Create-Job"_s, u"Send-Document"_s, u"Get-Job-Attributes"_s}},
+                    QStringList{kGet, kAsk} +
+                        creatingJob({u"Send-Document"_s, u"Get-Job-Attributes"_s})},
         ProgramCase{"IsRedirected",
                     {{"GET", answerWith(httpAnswer("301 Moved Permanently",
                                                    "text/plain\r\nLocation: /other", "away"))}},
@@ -85,8 +86,9 @@ INSTANTIATE_TEST_SUITE_P(
                                           .ended())}},
             6,
             "",
-            "velkaro-print: The print server %1 reports a fault: Disk full [31m<b>now</b>.\n",
-            {kGet, kAsk, u"Create-Job"_s}},
+            "velkaro-print: Nothing was printed on photo: The print server %1 reports a fault: "
+            "Disk full [31m<b>now</b>.\n",
+            QStringList{kGet, kAsk} + creatingJob()},
         ProgramCase{
             "GetsAJobWithANegativeNumber",
             {{"Create-Job",
@@ -94,8 +96,10 @@ INSTANTIATE_TEST_SUITE_P(
                   IppBytes().group(IPP_TAG_JOB).integer(IPP_TAG_INTEGER, "job-id", -5).ended())}},
             6,
             "",
-            "velkaro-print: The answer of the print server %1 cannot be understood.\n",
-            {kGet, kAsk, u"Create-Job"_s}},
+            "velkaro-print: Nothing was printed on photo: The answer of the print server %1 cannot "
+            "be "
+            "understood.\n",
+            QStringList{kGet, kAsk} + creatingJob()},
         ProgramCase{"GetsNestedCollectionsForTheAcceptedJob",
                     {{"Get-Job-Attributes",
                       answerIpp(IppBytes().group(IPP_TAG_JOB).nested("x", 9000).ended())}},
@@ -103,7 +107,8 @@ INSTANTIATE_TEST_SUITE_P(
                     "request id is photo-7 (1 file(s))\n",
                     "velkaro-print: Whether the server keeps all settings of job 7 is not known: "
                     "its account of the job cannot be read.\n",
-                    {kGet, kAsk, u"Create-Job"_s, u"Send-Document"_s, u"Get-Job-Attributes"_s}}),
+                    QStringList{kGet, kAsk} +
+                        creatingJob({u"Send-Document"_s, u"Get-Job-Attributes"_s})}),
     CaseName());
 
 } // namespace

@@ -57,6 +57,12 @@ ScriptedServer::~ScriptedServer()
     close(m_stop);
 }
 
+QStringList creatingJob(const QStringList &afterwards)
+{
+    return QStringList{u"Get-Printer-Attributes"_s, u"Validate-Job"_s, u"Create-Job"_s} +
+           afterwards;
+}
+
 QString ScriptedServer::address() const
 {
     return u"127.0.0.1:%1"_s.arg(m_port);

@@ -22,6 +22,9 @@ struct Rule
 };
 using Script = QList<Rule>;
 
+/// The names of the requests that create a job, and of those that follow.
+QStringList creatingJob(const QStringList &afterwards = {});
+
 /// A print server on a free port of the loopback that answers by script, and well where the script
 /// says nothing (goodAnswer()). It ends with the object, whatever its connections are doing; it
 /// serves no more than 100 connections, each for no longer than a minute.

@@ -57,7 +57,8 @@ TEST_P(FaultyServer, WithoutAnybodyIsUnreachable)
     const QString server = u"127.0.0.1:%1"_s.arg(freePort());
     const auto answer = GetParam().make(server, guard);
     EXPECT_EQ(answer.faultKind(), FaultKind::Unreachable);
-    EXPECT_EQ(answer.sentence(), u"The print server %1 cannot be reached."_s.arg(server));
+    EXPECT_TRUE(answer.sentence().endsWith(u"The print server %1 cannot be reached."_s.arg(server)))
+        << answer.sentence().toStdString();
 }
 
 TEST_P(FaultyServer, ThatIsSilentIsGivenUpInTime)
@@ -68,7 +69,9 @@ TEST_P(FaultyServer, ThatIsSilentIsGivenUpInTime)
     clock.start();
     const auto answer = GetParam().make(server.address(), guard);
     EXPECT_EQ(answer.faultKind(), FaultKind::Silent);
-    EXPECT_EQ(answer.sentence(), u"The print server %1 does not answer."_s.arg(server.address()));
+    EXPECT_TRUE(
+        answer.sentence().endsWith(u"The print server %1 does not answer."_s.arg(server.address())))
+        << answer.sentence().toStdString();
     EXPECT_LT(clock.elapsed(), 5000);
 }
 

@@ -11,6 +11,8 @@
 
 #include <gtest/gtest.h>
 
+#include <optional>
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -58,8 +60,8 @@ TEST_F(Server, RefusesAJobForAQueueThatIsClosed)
 {
     const auto receipt = submitJob(job(u"closed"_s), m_guard);
     EXPECT_EQ(receipt.faultKind(), FaultKind::Refused);
-    EXPECT_TRUE(
-        receipt.sentence().startsWith(u"The print server %1 refused: "_s.arg(s_server->address())))
+    EXPECT_TRUE(receipt.sentence().startsWith(
+        u"Nothing was printed on closed: The print server %1 refused: "_s.arg(s_server->address())))
         << receipt.sentence().toStdString();
     EXPECT_EQ(s_server->jobs(u"closed"_s), QList<int>());
 }
@@ -143,6 +145,41 @@ TEST_F(Server, IsReachedByItsSocketToo)
               u"Velkaro PX-T900, 1.0"_s);
     const auto receipt = submitJob(request, m_guard);
     EXPECT_TRUE(receipt.isGood()) << receipt.sentence().toStdString();
+}
+
+// The server comes back with the job, of which it has a part, or without it.
+TEST(ServerThatIsStartedAgain, WhileAJobIsSentPrintsNothingThatIsNotTold)
+{
+    PrintServer server;
+    ASSERT_EQ(server.fault(), QString());
+    ASSERT_TRUE(server.addQueue(u"photo"_s, samplePPD(u"velkaro-px-t900"_s)));
+    const QTemporaryDir folder;
+    QFile endless(folder.filePath(u"large.ps"_s));
+    ASSERT_TRUE(endless.open(QIODevice::WriteOnly) && endless.resize(4096LL * 1024 * 1024));
+    JobRequest request;
+    request.server = server.address();
+    request.queue = u"photo"_s;
+    request.documents = openedDocuments({endless.fileName()});
+    std::optional<Result<JobReceipt>> receipt;
+    const auto progress = std::make_shared<JobProgress>();
+    QObject owner;
+    new BackgroundCall(
+        &owner, 4 * kServerTimeout, // which a busy machine may take to start the server
+        [&](CallGuard &guard) -> BackgroundCall::Outcome {
+            return [&, got = submitJob(request, guard, progress)] { receipt = got; };
+        },
+        nullptr);
+    ASSERT_TRUE(QTest::qWaitFor([&] { return progress->bytes() > 0; }, 20000));
+    server.crash();
+    ASSERT_TRUE(server.restart());
+    ASSERT_TRUE(QTest::qWaitFor([&] { return receipt.has_value(); }, 40000));
+    const QString said = receipt->sentence();
+    if (said.endsWith(u"and may be printed."))
+        return; // it had begun with the part
+    EXPECT_TRUE(said.startsWith(u"Job %1 on photo was cancelled: "_s.arg(progress->id())) ||
+                said.startsWith(u"Nothing was printed on photo: "))
+        << said.toStdString();
+    EXPECT_FALSE(QFile::exists(server.outputOf(u"photo"_s)));
 }
 
 } // namespace

@@ -123,8 +123,10 @@ TEST_P(Guarded, AsksUntilItKnows)
 
 const QString kRight = u"right one"_s;
 const QString kWrong = u"wrong"_s;
-constexpr auto kNobody = "The print server %1 lets nobody print to photo without a password.";
-constexpr auto kNotAccepted = "The print server %1 does not accept the user name and the password.";
+constexpr auto kNobody = "Nothing was printed on photo: The print server %1 lets nobody print to "
+                         "photo without a password.";
+constexpr auto kNotAccepted = "Nothing was printed on photo: The print server %1 does not accept "
+                              "the user name and the password.";
 
 INSTANTIATE_TEST_SUITE_P(
     Table, Guarded,

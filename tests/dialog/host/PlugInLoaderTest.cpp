@@ -146,6 +146,24 @@ TEST(PlugInLoader, NamesAViewThatTheBundleHasLost)
     EXPECT_EQ(load.plugIn, nullptr);
 }
 
+TEST(PlugInLoader, NamesARowOfTheStandardAttributesThatIsNone)
+{
+    const QTemporaryDir folder;
+    writeFile(folder.filePath(u"Info.json"_s),
+              R"({"CFBundleExecutable": "plugin.so", "PDEStandardAttributes": [
+                  {"Keyword": "A", "Choice": "B", "Attribute": "sides", "Value": "one-sided"},
+                  {"Keyword": "A", "Choice": "C", "Attribute": "media", "Value": "A4"}]})");
+    writeFile(folder.filePath(u"plugin.so"_s), "");
+    const PlugInLoad load = loadPlugIn(folder.path());
+    ASSERT_TRUE(load.fault);
+    EXPECT_EQ(load.fault->reason, PlugInFaultReason::WrongEntry);
+    EXPECT_EQ(text(load.fault->sentence),
+              "The plug-in cannot be used: " + text(folder.filePath(u"Info.json"_s)) +
+                  ": PDEStandardAttributes[1] is no row of a keyword, a choice, a standard "
+                  "attribute and its value.");
+    EXPECT_EQ(load.plugIn, nullptr);
+}
+
 TEST(PlugInLoader, LoadsAPlugInTogetherWithItsBundle)
 {
     const PlugInLoad load = loadPlugIn(fixture("Spy"));

@@ -2,7 +2,6 @@
 #include "dialog/host/PPDFile.h"
 #include "dialog/host/PPDMarks.h"
 #include "dialog/job/SavedSettings.h"
-#include "dialog/job/StandardAttributes.h"
 #include "tests/built/BuiltFiles.h"
 #include "tests/endtoend/JobPrinting.h"
 #include "tests/support/Files.h"
@@ -262,15 +261,5 @@ INSTANTIATE_TEST_SUITE_P(
                     Sendable{"TooLongValue", {u"a"_s, QString(256, u'x')}, false},
                     Sendable{"TooManyBytes", {u"a"_s, QString(100, u'写')}, false}),
     [](const auto &row) { return std::string(row.param.name); });
-
-TEST(StandardAttributes, SayTheSameAsTheirChoices)
-{
-    EXPECT_EQ(
-        standardAttributesBeside({{u"ColorModel"_s, u"Gray"_s},
-                                  {u"cupsPrintQuality"_s, u"High"_s},
-                                  {u"Duplex"_s, u"DuplexTumble"_s}}),
-        (QList<JobOption>{{u"print-color-mode"_s, u"monochrome"_s}, {u"print-quality"_s, u"5"_s}}));
-    EXPECT_EQ(standardAttributesBeside({{u"ColorModel"_s, u"Sepia"_s}}), QList<JobOption>());
-}
 
 } // namespace

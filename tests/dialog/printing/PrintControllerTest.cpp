@@ -82,7 +82,7 @@ TEST_F(Controller, GoesTheWholeRoadToAFile)
     EXPECT_EQ(readFile(m_wishes.output),
               "Velkaro-Print-Job: 1\nTitle: letter.ps\n"
               "Option: PageSize=A5\nOption: Duplex=None\n"
-              "Option: Finish=Shiny\nOption: Weight=Light\n"
+              "Option: Finish=Shiny\nOption: Weight=Light\nOption: sides=one-sided\n"
               "Option: copies=3\nOption: print-scaling=auto\nDocument: 5 letter.ps\n\n%!PS\n");
 }
 

@@ -24,8 +24,13 @@ protected:
         writeFile(options.ppdPath, smallPrinter().text());
         m_job.setPrinter(
             source, openPrinter(options, *openPPD(options.ppdPath), {{u"Finish"_s, u"Shiny"_s}}));
+        return linesOf(m_job.options());
+    }
+
+    static QStringList linesOf(const JobOptions &options)
+    {
         QStringList lines;
-        for (const JobOption &option : m_job.options().options)
+        for (const JobOption &option : options.options)
             lines += option.name + u'=' + option.value;
         return lines;
     }
@@ -34,18 +39,25 @@ protected:
     PrintJob m_job;
 };
 
-TEST_F(SmallJob, CarriesWhatDiffersFromTheDefaultsOfItsQueue)
+const QStringList kAll{u"PageSize=A4"_s,  u"Duplex=None"_s,     u"Finish=Shiny"_s,
+                       u"Weight=Light"_s, u"sides=one-sided"_s, u"print-scaling=auto"_s};
+
+TEST_F(SmallJob, HasWhatDiffersFromTheDefaultsOfItsQueue)
 {
     EXPECT_EQ(optionsFor({{}, {u"photo"_s, {}}, {}}),
               (QStringList{u"Finish=Shiny"_s, u"print-scaling=auto"_s}));
 }
 
-TEST_F(SmallJob, CarriesAllThatIsMarkedWhereThePPDIsNoQueuesOwn)
+TEST_F(SmallJob, IsSentWithAllThatIsMarked)
 {
-    const QStringList all{u"PageSize=A4"_s, u"Duplex=None"_s, u"Finish=Shiny"_s, u"Weight=Light"_s,
-                          u"print-scaling=auto"_s};
-    EXPECT_EQ(optionsFor({{}, {}, u"the.ppd"_s}), all);
-    EXPECT_EQ(optionsFor({{}, {u"photo"_s, {}}, u"the.ppd"_s}), all);
+    optionsFor({{}, {u"photo"_s, {}}, {}});
+    EXPECT_EQ(linesOf(m_job.wholeOptions()), kAll);
+}
+
+TEST_F(SmallJob, HasAllThatIsMarkedWhereThePPDIsNoQueuesOwn)
+{
+    EXPECT_EQ(optionsFor({{}, {}, u"the.ppd"_s}), kAll);
+    EXPECT_EQ(optionsFor({{}, {u"photo"_s, {}}, u"the.ppd"_s}), kAll);
 }
 
 } // namespace
