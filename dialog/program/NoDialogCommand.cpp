@@ -331,8 +331,7 @@ void Run::judge(const JobPlace &job, const QStringList &differences)
 
 void Run::takeReceipt(const QString &queue, const JobReceipt &receipt)
 {
-    const bool isTold =
-        tell(receiptLine(queue, receipt.id, m_controller.job().documents().size()));
+    const bool isTold = tell(receiptLine(queue, receipt.id, m_controller.job().documents().size()));
     for (const QString &note : receipt.notes)
         warn(note);
     if (!isTold)

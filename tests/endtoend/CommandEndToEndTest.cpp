@@ -364,8 +364,9 @@ TEST_F(Command, ASavedChoiceYieldsToAnOptionAndIsTold)
     EXPECT_EQ(run.errors,
               u"velkaro-print: Saved for this printer: VKResolution=Photo cannot be chosen while "
               "the other settings are as they are. Print Quality is Normal instead.\n"_s);
-    ASSERT_EQ(newJobs().size(), 1);
-    EXPECT_EQ(settingsOf(newJobs()[0]).value(u"VKMediaType"_s), u"Plain"_s);
+    const QList<int> jobs = newJobs();
+    ASSERT_EQ(jobs.size(), 1);
+    EXPECT_EQ(server().jobAttributes(u"photo"_s, jobs[0]).value(u"VKMediaType"_s), u"Plain"_s);
 }
 
 TEST_F(Command, ASavedNumberThatTheSettingCannotHaveIsRefused)

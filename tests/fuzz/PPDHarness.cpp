@@ -25,8 +25,8 @@ constexpr std::array kUnsettled{"copies"_L1, "job-hold-until"_L1, "page-ranges"_
                                 "printer-uri"_L1, "raw"_L1};
 
 /// What the dialog says in the terms of IPP of its own accord.
-constexpr std::array kOwnNames{"fit-to-page"_L1, "print-color-mode"_L1, "print-quality"_L1,
-                               "print-scaling"_L1};
+constexpr std::array kOwnNames{"finishings"_L1,    "fit-to-page"_L1,   "print-color-mode"_L1,
+                               "print-quality"_L1, "print-scaling"_L1, "sides"_L1};
 
 std::vector<ppd_option_t *> optionsOf(ppd_file_t *ppd)
 {

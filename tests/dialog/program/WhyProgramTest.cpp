@@ -167,7 +167,7 @@ TEST_F(RunWithoutDialog, ExplainsHowALostSettingIsToBeHad)
         u"Postcard, Address Side.\n"
         u"velkaro-print: It can be had with: -o VKMediaType=Plain -o VKResolution=PlainFast\n"
         u"velkaro-print: VKResolution=PlainFast cannot be chosen while the other settings are as "
-        u"they are: Print Quality is Photo.\n"_s))
+        u"they are. Print Quality is Photo instead.\n"_s))
         << end.error.toStdString();
 }
 
