@@ -73,13 +73,15 @@ Step stepTo(const QString &choice)
     return isOneOf(choice, std::array{"Off"_L1, "None"_L1, "False"_L1, "No"_L1}) ? TurnOff : Use;
 }
 
-/// A place for what is done next stays as it is.
-QString stepWords(ppd_file_t *ppd, const PPDMark &mark, const StepTexts &texts)
+/// With what is done next, where anything is.
+QString stepWords(ppd_file_t *ppd, const PPDMark &mark, const QString &next = QString())
 {
     const Step step = stepTo(mark.choice);
+    const QString name = step == Use ? nameOfChoice(ppd, mark.keyword, mark.choice)
+                                     : settingTitle(ppd, mark.keyword);
+    const StepTexts &texts = next.isNull() ? kLastSteps : kStepsBefore;
     const QString pattern = QCoreApplication::translate("RemedyWords", texts[step]);
-    return pattern.arg(step == Use ? nameOfChoice(ppd, mark.keyword, mark.choice)
-                                   : settingTitle(ppd, mark.keyword));
+    return next.isNull() ? pattern.arg(name) : pattern.arg(name, next);
 }
 
 QStringList namesOf(ppd_file_t *ppd, const Remedy &remedy, QString SettingChange::*choice)
@@ -184,8 +186,8 @@ QString remedyWords(ppd_file_t *ppd, const Remedy &remedy)
 
 QString remedyTitle(ppd_file_t *ppd, const Remedy &remedy, const PPDMark &wanted)
 {
-    QString title = stepWords(ppd, wanted, kLastSteps);
+    QString title = stepWords(ppd, wanted);
     for (auto change = remedy.changes.crbegin(); change != remedy.changes.crend(); ++change)
-        title = stepWords(ppd, {change->keyword, change->to}, kStepsBefore).arg(title);
+        title = stepWords(ppd, {change->keyword, change->to}, title);
     return title.left(1).toUpper() + title.mid(1);
 }

@@ -20,6 +20,7 @@ namespace {
 
 // Servers that are sent a job: what becomes of it, and what they are told afterwards.
 
+constexpr qint64 kDocument = 1000000;                 // bytes
 constexpr qint64 kLargeDocument = 64LL * 1024 * 1024; // more than all buffers on the way take
 constexpr auto kShort = 600ms;                        // for servers that have to be given up
 
@@ -32,7 +33,7 @@ struct JobMisbehaviour
     QStringList notes;
     QStringList requests;
     std::chrono::milliseconds timeout = kServerTimeout;
-    qint64 size = 1000000; ///< of the document
+    qint64 size = kDocument;
 };
 
 /// What the sentence says of the job, before it says why.
@@ -224,13 +225,16 @@ std::vector<JobMisbehaviour> statusesAt(const char *request, const QStringList &
         const QByteArray answer = httpAnswer(
             status.status, "text/html\r\nWWW-Authenticate: Basic realm=\"x\"\r\nLocation: /else",
             "<h1>Sorry</h1>");
+        // Of a document that is sent whole before it is refused nobody knows what became.
         const bool isAtOnce = request == QByteArray("Send-Document");
         rows.push_back({status.behaviour,
                         {{request, isAtOnce ? Steps{write(answer), hold()} : answerWith(answer)}},
                         status.fault,
                         status.sentence,
                         {},
-                        requests});
+                        requests,
+                        kServerTimeout,
+                        isAtOnce ? kLargeDocument : kDocument});
     }
     return rows;
 }

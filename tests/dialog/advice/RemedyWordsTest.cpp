@@ -13,8 +13,9 @@ namespace {
 PPDHandle printer()
 {
     return PPDSource()
-        .option("Medium/Paper Type", {"Glossy/Glossy Paper", "Plain/Plain Paper", "Matte/Matte",
-                                      "Photo/Photo Paper", "Card/Card", "Film/Film"})
+        .option("Medium/Paper Type",
+                {"Glossy/Glossy Paper", "Plain/Plain Paper", "Matte/Matte", "Photo/Photo Paper",
+                 "Card/Card", "Film/Film", "Cotton/100%1 Cotton %2"})
         .option("Quality/Quality", {"Normal/Normal", "High/High", "Twin/High", "Best/Best"})
         .option("Sides/Two-Sided", {"None/Off", "On/On"})
         .option("Speed/Speed", {"Off/Off", "Slow/Slow", "Best/Best"})
@@ -128,6 +129,10 @@ const Titling kTitlings[] = {
      remedy({{u"Sides"_s, u"On"_s, u"None"_s}}),
      {u"Medium"_s, u"Matte"_s},
      u"Turn off Two-Sided and use Matte"_s},
+    {"NamesWithSignsOfPlaces",
+     remedy({medium(u"Cotton"_s)}),
+     {u"Quality"_s, u"Normal"_s},
+     u"Use 100%1 Cotton %2 and use Normal"_s},
     {"SeveralChanges",
      remedy({kSides, medium(u"Plain"_s)}),
      {u"Speed"_s, u"Off"_s},
