@@ -54,9 +54,11 @@ protected:
 private:
     void showSentence(const QString &sentence);
     void showOffers(const QList<NoticeOffer> &offers);
+    void exchangeButtons();
     void arrange();
     int linesFor(const QString &title) const;
     QPushButton *newButton(const NoticeOffer &offer);
+    void take(const QPushButton *button);
     QMenu *newMenu(const QList<NoticeOffer> &offers, QWidget *parent);
     void applyColors();
 
@@ -65,7 +67,9 @@ private:
     QGridLayout *m_grid;
     QWidget *m_offers;
     QBoxLayout *m_offerLine;
+    QList<NoticeOffer> m_offered;
     QList<QPushButton *> m_buttons; ///< one for each offer
+    bool m_offersAreBeside = true;  ///< the sentence
     Kind m_kind = Kind::Information;
     QString m_sentence;
 };
