@@ -231,10 +231,11 @@ void tellGiven(OpenedState &state, const QList<PPDMark> &made, const Wanted &wan
     for (const auto &[place, choice] : wanted.asKeyValueRange()) {
         if (changes(made, choice.keyword) || !mayBeHad(state, choice))
             continue;
-        const QByteArrayList lines = linesOf([&](const ProcessCopy::Tell &tellGives) {
-            if (state.gives(made, choice))
-                tellGives("given");
-        });
+        const QByteArrayList lines =
+            linesOf([&, &wish = choice](const ProcessCopy::Tell &tellGives) {
+                if (state.gives(made, wish))
+                    tellGives("given");
+            });
         if (!lines.isEmpty())
             tell(QByteArray::number(place) + ' ' + lineOf(made));
     }
