@@ -94,6 +94,7 @@ NoticeBar::NoticeBar(QWidget *parent)
     m_grid->addWidget(m_label, 0, 1);
     m_grid->addWidget(m_offers, 0, 2);
     m_offerLine->setContentsMargins(0, 0, 0, 0);
+    m_offers->hide();
     clear();
 }
 
@@ -190,9 +191,7 @@ QPushButton *NoticeBar::newButton(const NoticeOffer &offer)
 {
     auto *button = new QPushButton(m_offers);
     button->setObjectName(offer.name);
-    const QString title = displayText(offer.title);
-    setTitleWithFreeMnemonic(*button, withoutMnemonic(brokenTitle(title, linesFor(title))));
-    giveAccessibleName(button, title);
+    titleButton(*button, displayText(offer.title));
     button->setAutoDefault(false);
     if (offer.menu.isEmpty())
         connect(button, &QPushButton::clicked, this, [this, button] { take(button); });
@@ -207,6 +206,18 @@ void NoticeBar::take(const QPushButton *button)
     const qsizetype index = m_buttons.indexOf(button);
     if (index >= 0)
         std::function<void()>(m_offered[index].take)();
+}
+
+void NoticeBar::titleButton(QPushButton &button, const QString &title)
+{
+    setTitleWithFreeMnemonic(button, withoutMnemonic(brokenTitle(title, linesFor(title))));
+    giveAccessibleName(&button, title);
+}
+
+void NoticeBar::settleMnemonics()
+{
+    for (qsizetype index = 0; index < m_buttons.size(); ++index)
+        titleButton(*m_buttons[index], displayText(m_offered[index].title));
 }
 
 QMenu *NoticeBar::newMenu(const QList<NoticeOffer> &offers, QWidget *parent)

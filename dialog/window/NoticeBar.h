@@ -40,6 +40,9 @@ public:
     void tell(Kind kind, const QString &sentence, const QList<NoticeOffer> &offers = {});
     void clear();
 
+    /// Has the offers answer letters that what is in front now does not answer.
+    void settleMnemonics();
+
     /// How high the sentence may become where two lines are not enough.
     void setMostHeight(int pixels);
 
@@ -58,6 +61,7 @@ private:
     void arrange();
     int linesFor(const QString &title) const;
     QPushButton *newButton(const NoticeOffer &offer);
+    void titleButton(QPushButton &button, const QString &title);
     void take(const QPushButton *button);
     QMenu *newMenu(const QList<NoticeOffer> &offers, QWidget *parent);
     void applyColors();
