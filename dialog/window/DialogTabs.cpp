@@ -148,7 +148,7 @@ void DialogTabs::showSupplies(const PrinterCondition &printer)
     if (indexOf(m_supplies) >= 0)
         return;
     addPart(kSupplies, m_supplies, tr("Supplies"));
-    setTabText(indexOf(m_supplies), withMnemonic(tr("Supplies"), mnemonicsIn(*window())));
+    setTabText(indexOf(m_supplies), withMnemonic(tr("Supplies"), mnemonicsInFront(*window())));
 }
 
 void DialogTabs::removeSupplies()
@@ -212,7 +212,7 @@ void DialogTabs::showPanel()
 void DialogTabs::putView(PanelPane &pane, QWidget *view)
 {
     if (view)
-        giveCaptionMnemonics(*view, mnemonicsIn(*window()));
+        givePanelMnemonics(*view, mnemonicsIn(*window()));
     pane.setView(view);
 }
 

@@ -1,17 +1,21 @@
 #include "dialog/window/Mnemonics.h"
 
+#include "platform/toolkit/AccessibleName.h"
 #include "platform/toolkit/CaptionLabel.h"
+#include "platform/toolkit/DisclosureButton.h"
+#include "platform/toolkit/PlainText.h"
 
 #include <QtCore/QCoreApplication>
-#include <QtCore/QRegularExpression>
+#include <QtCore/QMap>
 #include <QtGui/QKeySequence>
 #include <QtWidgets/QAbstractButton>
 #include <QtWidgets/QLabel>
+#include <QtWidgets/QRadioButton>
 #include <QtWidgets/QStackedWidget>
 #include <QtWidgets/QTabBar>
 #include <QtWidgets/QTabWidget>
 
-#include <algorithm>
+#include <functional>
 #include <optional>
 #include <utility>
 
@@ -19,13 +23,25 @@ namespace {
 
 QString mnemonicOf(const QString &text)
 {
-    const QKeySequence keys = QKeySequence::mnemonic(text);
-    return keys.isEmpty() ? QString() : QString(QChar(keys[0].key()));
+    for (qsizetype at = text.indexOf(u'&'); at >= 0; at = text.indexOf(u'&', at + 2))
+        if (const QString letter = text.mid(at + 1, 1); letter != u"&")
+            return letter.toUpper();
+    return {};
 }
 
-bool isLatin(QChar letter)
+/// A button answers it whether its text says so or a caption beside it.
+QString mnemonicOf(const QAbstractButton &button)
 {
-    return letter.unicode() < 0x80 && letter.isLetter();
+    const QKeySequence keys = button.shortcut();
+    const bool isMnemonic = !keys.isEmpty() && keys[0].keyboardModifiers() == Qt::AltModifier;
+    return isMnemonic ? QString(QChar(keys[0].key())) : QString();
+}
+
+/// A letter in parentheses of its own looks like one that stands behind a title as its mnemonic.
+bool canBeMnemonic(const QString &title, qsizetype at)
+{
+    const bool isApart = at > 0 && title[at - 1] == u'(' && title.mid(at + 1, 1) == u')';
+    return title[at].unicode() < 0x80 && title[at].isLetter() && !isApart;
 }
 
 /// The letters of the title that are free, those that begin a word first; of a title without Latin
@@ -35,7 +51,7 @@ QString freeLetters(const QString &title, const QString &taken)
     QString first;
     QString others;
     for (qsizetype at = 0; at < title.size(); ++at)
-        if (isLatin(title[at]))
+        if (canBeMnemonic(title, at))
             (at == 0 || title[at - 1].isSpace() ? first : others) += title[at].toUpper();
     QString letters = first + others;
     for (char letter = 'A'; (first + others).isEmpty() && letter <= 'Z'; ++letter)
@@ -57,11 +73,14 @@ qsizetype placeBehind(const QString &title)
 QString marked(const QString &title, QChar letter)
 {
     std::optional<qsizetype> place;
-    for (qsizetype at = title.size() - 1; at >= 0; --at)
-        if (title[at].toUpper() == letter && (at == 0 || title[at - 1].isSpace()))
+    bool beginsWord = false;
+    for (qsizetype at = 0; at < title.size() && !beginsWord; ++at) {
+        if (title[at].toUpper() != letter || !canBeMnemonic(title, at))
+            continue;
+        beginsWord = at == 0 || title[at - 1].isSpace();
+        if (!place || beginsWord)
             place = at;
-    if (!place && title.contains(letter, Qt::CaseInsensitive))
-        place = title.indexOf(letter, 0, Qt::CaseInsensitive);
+    }
     return place ? QString(title).insert(*place, u'&')
                  : QString(title).insert(placeBehind(title), QStringLiteral("(&%1)").arg(letter));
 }
@@ -120,20 +139,103 @@ QString withColon(const QString &caption)
            caption.mid(colon + 1);
 }
 
-bool isOnAPageOf(const QWidget &window, const QWidget *widget)
+enum class PagesOfTabs { Apart, InFront };
+
+/// Whether what is on the widget counts: pages of tabs in the window do not, or the one in front
+/// does with all that is in it.
+bool counts(const QWidget &window, const QWidget *widget, PagesOfTabs pages)
 {
+    bool does = true;
     for (; widget && widget != &window; widget = widget->parentWidget())
-        if (qobject_cast<const QStackedWidget *>(widget))
-            return true;
-    return false;
+        if (const auto *stack = qobject_cast<const QStackedWidget *>(widget->parentWidget()))
+            does = pages == PagesOfTabs::InFront && stack->currentWidget() == widget;
+    return does;
 }
 
-/// The title as it was before it got its mnemonic.
-QString stripped(QString title)
+QString lettersIn(const QWidget &window, const QWidget *except, PagesOfTabs pages)
 {
-    static const QRegularExpression behind(QStringLiteral("\\(&[A-Z]\\)"));
-    static const QRegularExpression before(QStringLiteral("(?<!&)&(?!&)"));
-    return title.remove(behind).remove(before);
+    const auto has = [&](const QWidget *widget) {
+        const bool isExcepted = except && (widget == except || except->isAncestorOf(widget));
+        return !isExcepted && counts(window, widget, pages);
+    };
+    QString letters;
+    for (const auto *button : window.findChildren<QAbstractButton *>())
+        if (const QString letter = mnemonicOf(*button); !letter.isEmpty() && has(button))
+            letters += letter;
+    for (const auto *label : window.findChildren<QLabel *>())
+        if (label->buddy() && has(label))
+            letters += mnemonicOf(titleOf(*label));
+    for (const auto *tabs : window.findChildren<QTabBar *>())
+        for (int index = 0; index < tabs->count(); ++index)
+            letters += mnemonicOf(tabs->tabText(index));
+    return letters;
+}
+
+/// A part of a panel's view that answers a letter.
+struct TitledPart
+{
+    const QWidget *page; ///< of a stack in the view; null: it is always there
+    QString title;
+    std::function<void(const QString &titled)> show;
+};
+
+/// The page of a stack in the view that the part is on; null for none.
+const QWidget *pageOf(const QWidget &view, const QWidget *part)
+{
+    for (; part && part != &view; part = part->parentWidget())
+        if (qobject_cast<const QStackedWidget *>(part->parentWidget()))
+            return part;
+    return nullptr;
+}
+
+/// None for a part that answers no letter: a caption leads to the buttons of a matrix.
+std::optional<TitledPart> titledPart(const QWidget &view, QWidget *part)
+{
+    const QWidget *page = pageOf(view, part);
+    if (auto *caption = qobject_cast<CaptionLabel *>(part); caption && caption->buddy())
+        return TitledPart{page, withColon(caption->text()),
+                          [caption](const QString &titled) { caption->setMnemonic(titled); }};
+    auto *disclosure = qobject_cast<DisclosureButton *>(part);
+    if (disclosure && disclosure->caption())
+        return TitledPart{page, withoutMnemonic(disclosure->caption()->text()),
+                          [disclosure](const QString &titled) { disclosure->setMnemonic(titled); }};
+    auto *button = qobject_cast<QAbstractButton *>(part);
+    if (!button || qobject_cast<QRadioButton *>(part))
+        return std::nullopt;
+    const QString title = buttonTitle(button);
+    return TitledPart{page, withoutMnemonic(title), [button, title](const QString &titled) {
+                          button->setText(titled);
+                          giveAccessibleName(button, title);
+                      }};
+}
+
+QList<TitledPart> titledParts(const QWidget &view)
+{
+    QList<TitledPart> titled;
+    for (auto *part : view.findChildren<QWidget *>()) {
+        const auto one = part->isHidden() ? std::nullopt : titledPart(view, part);
+        if (one && !one->title.isEmpty())
+            titled += *one;
+    }
+    return titled;
+}
+
+/// Gives the letters that they got.
+QString giveLetters(const QList<TitledPart> &parts, const QString &taken)
+{
+    QStringList choices;
+    for (const TitledPart &part : parts)
+        choices += freeLetters(part.title, taken);
+    const Letters letters(choices);
+    QString given;
+    for (qsizetype index = 0; index < parts.size(); ++index) {
+        const QChar letter = letters.of(index);
+        parts[index].show(letter.isNull() ? parts[index].title
+                                          : marked(parts[index].title, letter));
+        if (!letter.isNull())
+            given += letter;
+    }
+    return given;
 }
 
 /// Another letter for a title whose own is taken.
@@ -143,7 +245,7 @@ template <typename Titled> void settle(Titled &titled, QString &taken)
     if (own.isEmpty())
         return;
     if (taken.contains(own))
-        titled.setText(withMnemonic(stripped(titled.text()), taken));
+        titled.setText(withMnemonic(withoutMnemonic(titleOfMnemonic(titled.text())), taken));
     taken += mnemonicOf(titled.text());
 }
 
@@ -151,21 +253,12 @@ template <typename Titled> void settle(Titled &titled, QString &taken)
 
 QString mnemonicsIn(const QWidget &window, const QWidget *except)
 {
-    const auto counts = [&](const QWidget *widget) {
-        const bool isExcepted = except && (widget == except || except->isAncestorOf(widget));
-        return !isExcepted && !isOnAPageOf(window, widget);
-    };
-    QString letters;
-    for (const auto *button : window.findChildren<QAbstractButton *>())
-        if (counts(button))
-            letters += mnemonicOf(button->text());
-    for (const auto *label : window.findChildren<QLabel *>())
-        if (counts(label) && label->buddy())
-            letters += mnemonicOf(titleOf(*label));
-    for (const auto *tabs : window.findChildren<QTabBar *>())
-        for (int index = 0; index < tabs->count(); ++index)
-            letters += mnemonicOf(tabs->tabText(index));
-    return letters;
+    return lettersIn(window, except, PagesOfTabs::Apart);
+}
+
+QString mnemonicsInFront(const QWidget &window, const QWidget *except)
+{
+    return lettersIn(window, except, PagesOfTabs::InFront);
 }
 
 QString withMnemonic(const QString &title, const QString &taken)
@@ -176,8 +269,12 @@ QString withMnemonic(const QString &title, const QString &taken)
 
 void setTitleWithMnemonic(QAbstractButton &button, const QString &title)
 {
-    const QString taken = mnemonicsIn(*button.window(), &button);
-    button.setText(withMnemonic(title, taken));
+    button.setText(withMnemonic(title, mnemonicsIn(*button.window(), &button)));
+}
+
+void setTitleWithFreeMnemonic(QAbstractButton &button, const QString &title)
+{
+    button.setText(withMnemonic(title, mnemonicsInFront(*button.window(), &button)));
 }
 
 void giveMnemonics(QTabWidget &tabs)
@@ -192,21 +289,14 @@ void giveMnemonics(QTabWidget &tabs)
             tabs.setTabText(index, marked(tabs.tabText(index), letters.of(index)));
 }
 
-void giveCaptionMnemonics(QWidget &view, const QString &taken)
+void givePanelMnemonics(QWidget &view, const QString &taken)
 {
-    QList<CaptionLabel *> captions;
-    QStringList choices;
-    for (auto *caption : view.findChildren<CaptionLabel *>())
-        if (caption->buddy() && !caption->isHidden() && !caption->text().isEmpty()) {
-            captions += caption;
-            choices += freeLetters(caption->text(), taken);
-        }
-    const Letters letters(choices);
-    for (qsizetype index = 0; index < captions.size(); ++index) {
-        const QChar letter = letters.of(index);
-        const QString title = withColon(captions[index]->text());
-        captions[index]->setMnemonic(letter.isNull() ? title : marked(title, letter));
-    }
+    QMap<const QWidget *, QList<TitledPart>> pages;
+    for (const TitledPart &part : titledParts(view))
+        pages[part.page] += part;
+    const QString always = giveLetters(pages.take(nullptr), taken);
+    for (const QList<TitledPart> &parts : std::as_const(pages))
+        giveLetters(parts, taken + always);
 }
 
 void settleMnemonics(QWidget &page, const QString &taken)

@@ -173,7 +173,7 @@ QPushButton *NoticeBar::newButton(const NoticeOffer &offer)
     auto *button = new QPushButton(m_offers);
     button->setObjectName(offer.name);
     const QString title = displayText(offer.title);
-    setTitleWithMnemonic(*button, withoutMnemonic(brokenTitle(title, linesFor(title))));
+    setTitleWithFreeMnemonic(*button, withoutMnemonic(brokenTitle(title, linesFor(title))));
     giveAccessibleName(button, title);
     button->setAutoDefault(false);
     if (offer.menu.isEmpty())

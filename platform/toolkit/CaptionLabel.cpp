@@ -70,7 +70,7 @@ void CaptionLabel::setMnemonic(const QString &titled)
     if (m_shortcut != 0)
         releaseShortcut(m_shortcut);
     m_titled = titled;
-    m_shortcut = titled.isNull() ? 0 : grabShortcut(QKeySequence::mnemonic(titled));
+    m_shortcut = titled.isNull() || !buddy() ? 0 : grabShortcut(QKeySequence::mnemonic(titled));
     updateGeometry();
     update();
 }

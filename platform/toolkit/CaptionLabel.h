@@ -21,8 +21,8 @@ public:
     void prepareFor(const QString &text);
 
     /// Has the buddy get the focus by Alt and a letter, which is underlined where `titled` has an
-    /// ampersand before it: the text, or one that says the same. Null takes that back. text()
-    /// stays.
+    /// ampersand before it: the text, or one that says the same. Without a buddy it is underlined
+    /// only. Null takes that back. text() stays.
     void setMnemonic(const QString &titled);
 
     /// The text with its mnemonic; null without one.

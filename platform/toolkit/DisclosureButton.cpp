@@ -1,6 +1,9 @@
 #include "platform/toolkit/DisclosureButton.h"
 
+#include "platform/toolkit/CaptionLabel.h"
+
 #include <QtCore/QEvent>
+#include <QtGui/QKeySequence>
 #include <QtWidgets/QStyle>
 #include <QtWidgets/QStyleOptionToolButton>
 #include <QtWidgets/QStylePainter>
@@ -18,6 +21,19 @@ void DisclosureButton::turnArrow()
 {
     const auto folded = layoutDirection() == Qt::RightToLeft ? Qt::LeftArrow : Qt::RightArrow;
     setArrowType(isChecked() ? Qt::DownArrow : folded);
+}
+
+CaptionLabel *DisclosureButton::caption() const
+{
+    const bool hasOne = parentWidget() && !m_caption.isEmpty();
+    return hasOne ? parentWidget()->findChild<CaptionLabel *>(m_caption) : nullptr;
+}
+
+void DisclosureButton::setMnemonic(const QString &titled)
+{
+    setShortcut(QKeySequence::mnemonic(titled));
+    if (CaptionLabel *label = caption())
+        label->setMnemonic(titled);
 }
 
 QSize DisclosureButton::minimumSizeHint() const

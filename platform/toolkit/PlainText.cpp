@@ -45,14 +45,30 @@ QString withoutMnemonic(const QString &text)
     return QString(text).replace(u'&', QStringLiteral("&&"));
 }
 
+QString titleOfMnemonic(const QString &text)
+{
+    QString title;
+    for (qsizetype at = 0; at < text.size(); ++at) {
+        const bool isBehind = text[at] == u'(' && text.mid(at + 1, 1) == u'&' &&
+                              text.mid(at + 2, 1) != u'&' && text.mid(at + 3, 1) == u')';
+        if (isBehind) {
+            at += 3;
+            continue;
+        }
+        if (text[at] == u'&' && ++at == text.size())
+            break;
+        title += text[at];
+    }
+    return title;
+}
+
 void setButtonTitle(QAbstractButton *button, const QString &title)
 {
-    const QString text = withoutMnemonic(title);
-    if (button->text() != text)
-        button->setText(text);
+    if (buttonTitle(button) != title)
+        button->setText(withoutMnemonic(title));
 }
 
 QString buttonTitle(const QAbstractButton *button)
 {
-    return button->text().replace(QStringLiteral("&&"), QStringLiteral("&"));
+    return titleOfMnemonic(button->text());
 }

@@ -74,6 +74,22 @@ TEST_P(ButtonTitle, HasNoMnemonicAndComesBackAsItWas)
     EXPECT_EQ(buttonTitle(&box), GetParam().title);
 }
 
+TEST(MnemonicOfAButton, StaysWithItsTitleAndIsNoPartOfIt)
+{
+    for (const auto &[text, title] :
+         {std::pair(u"&Mirror"_s, u"Mirror"_s), std::pair(u"Black && &White"_s, u"Black & White"_s),
+          std::pair(u"左右反転(&M)"_s, u"左右反転"_s), std::pair(u"Size (A)(&B)"_s, u"Size (A)"_s),
+          std::pair(u"A(&&B)"_s, u"A(&B)"_s), std::pair(u"End&"_s, u"End"_s)}) {
+        QCheckBox box;
+        box.setText(text);
+        EXPECT_EQ(buttonTitle(&box), title);
+        setButtonTitle(&box, title);
+        EXPECT_EQ(box.text(), text);
+        setButtonTitle(&box, u"Other"_s);
+        EXPECT_EQ(box.text(), u"Other"_s);
+    }
+}
+
 INSTANTIATE_TEST_SUITE_P(Cases, ButtonTitle, testing::ValuesIn(kTitleCases), CaseName());
 
 struct HeightCase
