@@ -1,8 +1,10 @@
 #include "dialog/cups/JobSubmission.h"
 
+#include "dialog/cups/JobAuthentication.h"
 #include "dialog/cups/JobReadBack.h"
 #include "dialog/cups/JobSettlement.h"
 #include "dialog/cups/JobTemplate.h"
+#include "dialog/cups/LostCreation.h"
 #include "dialog/cups/QueueOutlook.h"
 
 using namespace Qt::StringLiterals;
@@ -34,29 +36,69 @@ int createdJob(const IppHandle &response)
 
 } // namespace
 
-Result<JobReceipt> submitJob(const JobRequest &request, CallGuard &guard,
-                             const std::shared_ptr<JobProgress> &progress)
+Result<JobRequest> JobSubmission::prepare(const JobRequest &request)
+{
+    if (!m_terms)
+        m_terms = request.terms;
+    if (!m_terms) {
+        const Result<QueueTerms> terms = askTerms(m_connection, request.queue);
+        if (!terms)
+            return terms.fault();
+        m_terms = *terms;
+    }
+    if (!m_outlook || m_outlook->options != request.options) {
+        const Result<QueueInfluence> influence = lookAhead(m_connection, request, *m_terms);
+        if (!influence)
+            return influence.fault();
+        m_outlook = Outlook{request.options, *influence};
+    }
+    return prepared(request, m_outlook->influence);
+}
+
+Result<int> JobSubmission::create(const JobRequest &job, const AuthInfo &who)
+{
+    const CreationTime time;
+    const IppHandle created =
+        m_connection.request(jobTemplate(IPP_OP_CREATE_JOB, job, who), queueResource(job.queue));
+    const int id = m_connection.succeeded() && created ? createdJob(created) : 0;
+    if (id != 0) {
+        noteWhoPrints(who, id);
+        return id;
+    }
+    const Fault fault = m_connection.lastFault(job.queue);
+    if (mayHaveCreated(m_connection.lastEnd()))
+        cancelLostJob(job, time, m_connection.guard());
+    return fault;
+}
+
+Result<JobReceipt> JobSubmission::submit(const JobRequest &request, JobProgress &progress)
 {
     if (const Result<> unchanged = checkUnchanged(request.documents); !unchanged)
         return unchanged.fault();
-    ServerConnection connection(request.server, guard);
-    if (!connection.isConnected() || guard.isCancelled())
-        return notPrinted(connection.lastFault(request.queue), request.queue);
-    const Result<QueueInfluence> influence = lookAhead(connection, request);
-    if (!influence)
-        return notPrinted(influence.fault(), request.queue);
-    const JobRequest job = prepared(request, *influence);
-    const IppHandle created =
-        connection.request(jobTemplate(IPP_OP_CREATE_JOB, job), queueResource(job.queue));
-    const int id = connection.succeeded() && created ? createdJob(created) : 0;
-    if (id == 0)
-        return notPrinted(connection.lastFault(job.queue), job.queue);
-    progress->setId(id);
-    progress->setOnTrial(job.isOnTrial);
-    const auto [sent, fault] = sendDocuments(connection, job, *progress);
+    if (!m_connection.isConnected() || m_connection.guard().isCancelled())
+        return notPrinted(m_connection.lastFault(request.queue), request.queue);
+    const Result<JobRequest> job = prepare(request);
+    if (!job)
+        return notPrinted(job.fault(), request.queue);
+    const Result<AuthInfo> who = askWhoPrints(m_connection, job->queue, m_terms->authInfo);
+    if (!who)
+        return notPrinted(who.fault(), job->queue);
+    const Result<int> id = create(*job, *who);
+    if (!id)
+        return notPrinted(id.fault(), job->queue);
+    progress.setId(*id);
+    progress.setOnTrial(job->isOnTrial);
+    const auto [sent, fault] = sendDocuments(m_connection, *job, progress);
     if (sent == Sent::Accepted)
-        return accept(connection, job, *progress);
-    return settle(fault.value_or(connection.lastFault(job.queue)), sent, job, *progress, guard);
+        return accept(m_connection, *job, progress);
+    return settle(fault.value_or(m_connection.lastFault(job->queue)), sent, *job, progress,
+                  m_connection.guard());
+}
+
+Result<JobReceipt> submitJob(const JobRequest &request, CallGuard &guard,
+                             const std::shared_ptr<JobProgress> &progress)
+{
+    return JobSubmission(request.server, guard).submit(request, *progress);
 }
 
 Result<JobReceipt> givenUpReceipt(const JobRequest &request, const JobProgress &progress)
