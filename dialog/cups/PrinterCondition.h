@@ -1,5 +1,6 @@
 #pragma once
 
+#include "dialog/cups/ClassMembers.h"
 #include "dialog/cups/LoadedMedia.h"
 #include "dialog/cups/Supplies.h"
 #include "dialog/work/CallGuard.h"
@@ -13,11 +14,12 @@ struct PrinterCondition
     int queuedJobs = 0; ///< that wait at the queue or are being printed
     QList<Supply> supplies;
     QList<LoadedMedium> loaded;
+    QList<ClassMember> members = {}; ///< of a class, where there are several
 
     bool operator==(const PrinterCondition &) const = default;
 };
 
-/// Out of the printer's attributes.
+/// Out of the printer's attributes; its members are not among them.
 PrinterCondition conditionOf(ipp_t *printer);
 
 /// Asks the server (null: the user's usual one) how the queue's printer is. Blocks: call it in a

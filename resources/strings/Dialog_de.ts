@@ -2005,6 +2005,10 @@ Umschalt+F1 oder das Kontextmenü sagt, warum.</translation>
 <context>
     <name>PrinterDoubts</name>
     <message>
+        <source>The jobs of this queue go to printers of different models: %1. What is set for one of them may come out differently on another.</source>
+        <translation>Die Aufträge dieser Warteschlange gehen an Drucker verschiedener Modelle: %1. Was für einen davon eingestellt ist, kann auf einem anderen anders herauskommen.</translation>
+    </message>
+    <message>
         <source>The paper of this job is not loaded: %1. There is %2.</source>
         <translation>Das Papier dieses Auftrags ist nicht eingelegt: %1. Eingelegt ist %2.</translation>
     </message>

@@ -2005,6 +2005,10 @@ Maj+F1 ou le menu contextuel dit pourquoi.</translation>
 <context>
     <name>PrinterDoubts</name>
     <message>
+        <source>The jobs of this queue go to printers of different models: %1. What is set for one of them may come out differently on another.</source>
+        <translation>Les travaux de cette file d’attente vont à des imprimantes de modèles différents : %1. Ce qui est réglé pour l’une d’elles peut donner un autre résultat sur une autre.</translation>
+    </message>
+    <message>
         <source>The paper of this job is not loaded: %1. There is %2.</source>
         <translation>Le papier de ce travail n’est pas chargé : %1. Il y a %2.</translation>
     </message>

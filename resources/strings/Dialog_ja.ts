@@ -2005,6 +2005,10 @@ Shift+F1 or the context menu tells why.</source>
 <context>
     <name>PrinterDoubts</name>
     <message>
+        <source>The jobs of this queue go to printers of different models: %1. What is set for one of them may come out differently on another.</source>
+        <translation>このキューのジョブは機種の異なるプリンター（%1）に送られます。そのうちの 1 台のための設定は、ほかのプリンターでは異なる結果になることがあります。</translation>
+    </message>
+    <message>
         <source>The paper of this job is not loaded: %1. There is %2.</source>
         <translation>このジョブの用紙「%1」はセットされていません。セットされているのは%2です。</translation>
     </message>
