@@ -5,6 +5,10 @@
 #include "dialog/cups/JobTemplate.h"
 #include "dialog/cups/QueueOutlook.h"
 
+#include <QtCore/QCoreApplication>
+
+#include <utility>
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -32,19 +36,61 @@ int createdJob(const IppHandle &response)
     return id ? qMax(0, ippGetInteger(id, 0)) : 0;
 }
 
+/// What the queue would make of the job, whose documents are still as they were.
+Result<QueueInfluence> lookFirst(ServerConnection &connection, const JobRequest &request)
+{
+    if (const Result<> unchanged = checkUnchanged(request.documents); !unchanged)
+        return unchanged.fault();
+    if (!connection.isConnected() || connection.guard().isCancelled())
+        return notPrinted(connection.lastFault(request.queue), request.queue);
+    const Result<QueueInfluence> influence = lookAhead(connection, request);
+    return influence ? influence : notPrinted(influence.fault(), request.queue);
+}
+
+/// Whether the server has said that it would not take the job; not every server can be asked.
+bool isRefused(const ServerConnection &connection)
+{
+    return !connection.succeeded() &&
+           connection.lastEnd().status != IPP_STATUS_ERROR_OPERATION_NOT_SUPPORTED;
+}
+
+/// Asking what would become of a job passes over that its queue takes none.
+bool takesJobs(ServerConnection &connection, const QString &queue)
+{
+    IppHandle request = queueRequest(IPP_OP_GET_PRINTER_ATTRIBUTES, queue);
+    askFor(request.get(), {"printer-is-accepting-jobs"});
+    const IppHandle answer = connection.request(std::move(request), queueResource(queue));
+    ipp_attribute_t *takes =
+        ippFindAttribute(answer.get(), "printer-is-accepting-jobs", IPP_TAG_BOOLEAN);
+    return !takes || ippGetBoolean(takes, 0);
+}
+
 } // namespace
+
+Result<> rehearseJob(const JobRequest &request, CallGuard &guard)
+{
+    ServerConnection connection(request.server, guard);
+    const Result<QueueInfluence> influence = lookFirst(connection, request);
+    if (!influence)
+        return influence.fault();
+    if (isRefused(connection))
+        return notPrinted(connection.lastFault(request.queue), request.queue);
+    if (takesJobs(connection, request.queue))
+        return {};
+    return notPrinted(
+        {FaultKind::Refused,
+         QCoreApplication::translate("JobSubmission", "The queue %1 takes no jobs at present.")
+             .arg(request.queue)},
+        request.queue);
+}
 
 Result<JobReceipt> submitJob(const JobRequest &request, CallGuard &guard,
                              const std::shared_ptr<JobProgress> &progress)
 {
-    if (const Result<> unchanged = checkUnchanged(request.documents); !unchanged)
-        return unchanged.fault();
     ServerConnection connection(request.server, guard);
-    if (!connection.isConnected() || guard.isCancelled())
-        return notPrinted(connection.lastFault(request.queue), request.queue);
-    const Result<QueueInfluence> influence = lookAhead(connection, request);
+    const Result<QueueInfluence> influence = lookFirst(connection, request);
     if (!influence)
-        return notPrinted(influence.fault(), request.queue);
+        return influence.fault();
     const JobRequest job = prepared(request, *influence);
     const IppHandle created =
         connection.request(jobTemplate(IPP_OP_CREATE_JOB, job), queueResource(job.queue));

@@ -37,5 +37,9 @@ Result<JobReceipt>
 submitJob(const JobRequest &request, CallGuard &guard,
           const std::shared_ptr<JobProgress> &progress = std::make_shared<JobProgress>());
 
+/// Looks at everything that submitJob() looks at before it creates the job, and creates none: the
+/// fault that the job would end with. Blocks: call it in a BackgroundCall.
+Result<> rehearseJob(const JobRequest &request, CallGuard &guard);
+
 /// What is known of the job when the server was given up by whoever waited.
 Result<JobReceipt> givenUpReceipt(const JobRequest &request, const JobProgress &progress);

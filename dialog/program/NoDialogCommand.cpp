@@ -28,6 +28,18 @@
 
 namespace {
 
+const auto kCovers = QStringLiteral("job-sheets");
+
+/// The cover pages that the job asks for.
+QStringList coversOf(const JobRequest &job)
+{
+    QStringList covers;
+    for (const JobOption &option : job.options)
+        if (option.name == kCovers)
+            covers = option.value.split(u',', Qt::SkipEmptyParts);
+    return covers;
+}
+
 /// Says on standard error what is about to be sent.
 void list(const JobRequest &job)
 {
@@ -78,6 +90,7 @@ public:
 private:
     void readDocuments();
     void takeDocuments();
+    void lookAtSavedJob(const JobRequest &job);
     void findPrinter();
     void takePrinter(const FoundPrinter &printer);
     void makeSettings();
@@ -86,6 +99,7 @@ private:
     void finish();
     void decide(const FinishedJob &finished);
     void deliver(const JobRequest &request);
+    void checkCovers(const JobRequest &request);
     void askPrinter(const JobRequest &request);
     void send(const JobRequest &request);
     void judge(const JobPlace &job, const QStringList &differences);
@@ -152,7 +166,23 @@ void Run::takeDocuments()
         return;
     if (!job->queue.isEmpty())
         list(*job);
-    send(*job);
+    lookAtSavedJob(*job);
+}
+
+/// A printer that cannot be looked at gets the job all the same: its server says what is wrong.
+void Run::lookAtSavedJob(const JobRequest &job)
+{
+    if (job.queue.isEmpty()) {
+        send(job);
+        return;
+    }
+    m_controller.findPrinter(
+        {job.server, {job.queue, {}}, m_line.ppd}, [this, job](const Result<FoundPrinter> &) {
+            for (const QString &note : notesOnSending(m_controller.job().ppd(), job.options))
+                warn(note);
+            if (goOn({}))
+                send(job);
+        });
 }
 
 void Run::findPrinter()
@@ -273,7 +303,26 @@ void Run::deliver(const JobRequest &request)
     else if (request.queue.isEmpty())
         send(request);
     else
+        checkCovers(request);
+}
+
+/// Only the server knows its cover pages. One that does not tell them says what is wrong with the
+/// job itself.
+void Run::checkCovers(const JobRequest &request)
+{
+    const QStringList wanted = coversOf(request);
+    if (wanted.isEmpty()) {
         askPrinter(request);
+        return;
+    }
+    m_controller.listCoverPages([this, request, wanted](const Result<QStringList> &there) {
+        Result<> known;
+        for (const QString &cover : wanted)
+            if (known && there && !there->isEmpty() && !there->contains(cover))
+                known = noSuchValue({kCovers, cover}, *there);
+        if (goOn(known))
+            askPrinter(request);
+    });
 }
 
 /// What the printer lacks is told, and stops nothing; nor does one that cannot be asked.
@@ -299,8 +348,11 @@ void Run::send(const JobRequest &request)
         return;
     }
     if (m_line.dryRun) {
-        endDryRun(QCoreApplication::translate("NoDialogCommand", "%1 would get the job.")
-                      .arg(request.queue));
+        m_controller.rehearse(request, [this, request](const Result<> &looked) {
+            if (goOn(looked))
+                endDryRun(QCoreApplication::translate("NoDialogCommand", "%1 would get the job.")
+                              .arg(request.queue));
+        });
         return;
     }
     m_controller.send(request, [this, request](const Result<JobReceipt> &receipt) {

@@ -1195,6 +1195,13 @@ Umschalt+F1 oder das Kontextmenü sagt, warum.</translation>
     </message>
 </context>
 <context>
+    <name>JobSubmission</name>
+    <message>
+        <source>The queue %1 takes no jobs at present.</source>
+        <translation>Die Warteschlange %1 nimmt zurzeit keine Aufträge an.</translation>
+    </message>
+</context>
+<context>
     <name>JobSummary</name>
     <message>
         <source>Page Setup</source>
@@ -2720,6 +2727,10 @@ Umschalt+F1 oder das Kontextmenü sagt, warum.</translation>
 </context>
 <context>
     <name>SavedJob</name>
+    <message>
+        <source>The printer does not have some of the settings that the job was saved with: %1.</source>
+        <translation>Einige der Einstellungen, mit denen der Auftrag gesichert wurde, hat der Drucker nicht: %1.</translation>
+    </message>
     <message>
         <source>%1 is a saved job: it is sent as it was saved, without -o, --paper and --output.</source>
         <translation>%1 ist ein gespeicherter Auftrag: Er wird so gesendet, wie er gespeichert wurde, ohne -o, --paper und --output.</translation>

@@ -1195,6 +1195,13 @@ Maj+F1 ou le menu contextuel dit pourquoi.</translation>
     </message>
 </context>
 <context>
+    <name>JobSubmission</name>
+    <message>
+        <source>The queue %1 takes no jobs at present.</source>
+        <translation>La file d’attente %1 n’accepte pas de travaux pour le moment.</translation>
+    </message>
+</context>
+<context>
     <name>JobSummary</name>
     <message>
         <source>Page Setup</source>
@@ -2720,6 +2727,10 @@ Maj+F1 ou le menu contextuel dit pourquoi.</translation>
 </context>
 <context>
     <name>SavedJob</name>
+    <message>
+        <source>The printer does not have some of the settings that the job was saved with: %1.</source>
+        <translation>L’imprimante n’a pas certains des réglages avec lesquels le travail a été enregistré : %1.</translation>
+    </message>
     <message>
         <source>%1 is a saved job: it is sent as it was saved, without -o, --paper and --output.</source>
         <translation>%1 est un travail enregistré : il est envoyé tel qu’il a été enregistré, sans -o, --paper ni --output.</translation>

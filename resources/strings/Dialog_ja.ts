@@ -1195,6 +1195,13 @@ Shift+F1 or the context menu tells why.</source>
     </message>
 </context>
 <context>
+    <name>JobSubmission</name>
+    <message>
+        <source>The queue %1 takes no jobs at present.</source>
+        <translation>キュー %1 は現在ジョブを受け付けていません。</translation>
+    </message>
+</context>
+<context>
     <name>JobSummary</name>
     <message>
         <source>Page Setup</source>
@@ -2720,6 +2727,10 @@ Shift+F1 or the context menu tells why.</source>
 </context>
 <context>
     <name>SavedJob</name>
+    <message>
+        <source>The printer does not have some of the settings that the job was saved with: %1.</source>
+        <translation>このジョブの設定の一部はこのプリンターにありません: %1。</translation>
+    </message>
     <message>
         <source>%1 is a saved job: it is sent as it was saved, without -o, --paper and --output.</source>
         <translation>%1 は保存されたジョブです。保存したときの設定で送信するため、-o、--paper、--output は使えません。</translation>

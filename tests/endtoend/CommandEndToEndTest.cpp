@@ -251,6 +251,68 @@ TEST_F(Command, ASavedJobKeepsTheHoldThatTheUserSaved)
     EXPECT_EQ(job.value(u"number-up"_s), u"2"_s);
 }
 
+TEST_F(Command, ASavedJobTellsOfSettingsThatThePrinterDoesNotHave)
+{
+    const QString file = inFolder(u"other.job"_s);
+    writeFile(file,
+              "Velkaro-Print-Job: 1\nTitle: A\nOption: VKMediaType=Bronze\nOption: VKGloss=ON\n"
+              "Option: copies=2\nOption: PageSize=A4\nDocument: 5 a.ps\n\n%!PS\n");
+    const ProgramRun run =
+        runProgram({u"--no-dialog"_s, u"-h"_s, server().address(), u"-d"_s, u"photo"_s, file});
+    EXPECT_EQ(run.status, 0);
+    EXPECT_EQ(run.errors.section(u'\n', -2),
+              u"velkaro-print: The printer does not have some of the settings that the job was "
+              "saved with: VKMediaType=Bronze, VKGloss=ON.\n"_s);
+    EXPECT_EQ(newJobs().size(), 1);
+}
+
+struct DryRun
+{
+    const char *behaviour;
+    QStringList options;
+    int status;
+    QString says; ///< with and without --dry-run
+};
+
+class Rehearsal : public Command, public testing::WithParamInterface<DryRun>
+{};
+
+TEST_P(Rehearsal, EndsAsTheRunDoes)
+{
+    const ProgramRun real = print(GetParam().options);
+    const qsizetype sent = newJobs().size();
+    const ProgramRun dry = print(GetParam().options + QStringList(u"--dry-run"_s));
+    EXPECT_EQ(newJobs().size(), sent);
+    EXPECT_EQ(sent, GetParam().status == 0 ? 1 : 0);
+    for (const ProgramRun &run : {real, dry}) {
+        EXPECT_EQ(run.status, GetParam().status);
+        EXPECT_EQ(run.errors, GetParam().says);
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Table, Rehearsal,
+    testing::Values(
+        DryRun{"CoverPagesThatAreThere", {u"-o"_s, u"job-sheets=standard,none"_s}, 0, {}},
+        DryRun{"CoverPagesThatAreNot",
+               {u"-o"_s, u"job-sheets=none,fancy"_s},
+               2,
+               u"velkaro-print: fancy is no value for job-sheets. It can be: none, "
+               "classified, confidential, form, secret, standard, topsecret, unclassified.\n"_s}),
+    CaseName());
+
+TEST_F(Command, ARehearsalEndsAsTheRunDoesAtAQueueThatTakesNoJobs)
+{
+    ASSERT_TRUE(server().command(u"cupsreject"_s, {u"photo"_s}));
+    const ProgramRun real = print({});
+    const ProgramRun dry = print({u"--dry-run"_s});
+    ASSERT_TRUE(server().command(u"cupsaccept"_s, {u"photo"_s}));
+    EXPECT_EQ(real.status, 6) << real.errors.toStdString();
+    EXPECT_EQ(dry.status, 6);
+    EXPECT_EQ(dry.errors, u"velkaro-print: Nothing was printed on photo: The queue photo takes no "
+                          "jobs at present.\n"_s);
+}
+
 struct SavedJob
 {
     const char *behaviour;
