@@ -4,6 +4,7 @@
 #include "bench/support/ProcessCost.h"
 #include "bench/support/Timing.h"
 #include "dialog/job/DocumentFile.h"
+#include "dialog/printing/JobSeries.h"
 #include "dialog/printing/PrintController.h"
 #include "tests/built/BuiltFiles.h"
 #include "tests/printserver/PrintServer.h"
@@ -20,11 +21,18 @@ namespace {
 
 constexpr int kRuns = 40;
 constexpr double kReach = 1.5;
+constexpr int kSeries = 50;
+constexpr int kSeriesRuns = 5;
+constexpr double kReachOfSeries = 1.3;
 
-bool submitByLibcups(const JobRequest &job)
+http_t *connectByLibcups()
 {
-    http_t *http = httpConnect2(cupsServer(), ippPort(), nullptr, AF_UNSPEC, cupsEncryption(), 1,
-                                5000, nullptr);
+    return httpConnect2(cupsServer(), ippPort(), nullptr, AF_UNSPEC, cupsEncryption(), 1, 5000,
+                        nullptr);
+}
+
+bool submitByLibcups(http_t *http, const JobRequest &job)
+{
     cups_option_t *options = nullptr;
     int count = 0;
     for (const JobOption &option : job.options)
@@ -42,8 +50,39 @@ bool submitByLibcups(const JobRequest &job)
                HTTP_STATUS_CONTINUE;
     sent = sent && cupsFinishDocument(http, queue.constData()) == IPP_STATUS_OK;
     cupsFreeOptions(count, options);
+    return sent;
+}
+
+bool submitByLibcups(const JobRequest &job)
+{
+    http_t *http = connectByLibcups();
+    const bool sent = submitByLibcups(http, job);
     httpClose(http);
     return sent;
+}
+
+bool submitSeriesByLibcups(const JobRequest &job)
+{
+    http_t *http = connectByLibcups();
+    bool sent = true;
+    for (int count = 0; count < kSeries; ++count)
+        sent = submitByLibcups(http, job) && sent;
+    httpClose(http);
+    return sent;
+}
+
+bool submitSeries(const JobRequest &job)
+{
+    QEventLoop loop;
+    bool areAccepted = true;
+    JobSeries series(QList<JobRequest>(kSeries, job),
+                     {[&](qsizetype, const Result<JobReceipt> &receipt) {
+                          areAccepted = receipt.isGood() && areAccepted;
+                      },
+                      [&] { loop.quit(); }});
+    series.start();
+    loop.exec();
+    return areAccepted;
 }
 
 bool submitByDialog(const JobRequest &job)
@@ -95,5 +134,12 @@ int main(int argc, char **argv)
     }
     printHead("From Print to the accepted job", "dialog", "libcups");
     printRatio("a job of 50 kB", median(ours), median(peers), kReach);
+    ours.clear();
+    peers.clear();
+    for (int run = 0; run < kSeriesRuns; ++run) {
+        peers.push_back(microseconds(submitSeriesByLibcups, job, good));
+        ours.push_back(microseconds(submitSeries, job, good));
+    }
+    printRatio("50 of them over one connection", median(ours), median(peers), kReachOfSeries);
     return good ? 0 : 1;
 }

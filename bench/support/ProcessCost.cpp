@@ -30,27 +30,69 @@ double milliseconds(const timeval &time)
     _exit(127);
 }
 
+void endUnless(int exitStatus, const Command &command)
+{
+    if (exitStatus == command.exitStatus)
+        return;
+    std::fprintf(stderr, "%s ended with status %d\n", command.words[0].c_str(), exitStatus);
+    std::exit(1);
+}
+
 ProcessCost runOrEnd(const Command &command)
 {
     const ProcessCost cost = runProcess(command);
-    if (cost.exitStatus == command.exitStatus)
-        return cost;
-    std::fprintf(stderr, "%s ended with status %d\n", command.words[0].c_str(), cost.exitStatus);
-    std::exit(1);
+    endUnless(cost.exitStatus, command);
+    return cost;
+}
+
+pid_t start(const Command &command)
+{
+    const pid_t child = fork();
+    if (child == 0)
+        becomeProgram(command);
+    return child;
+}
+
+/// Waits for the process, or for any one of those that were started (-1). Its id.
+pid_t waitFor(pid_t process, ProcessCost &cost)
+{
+    int status = 0;
+    rusage usage{};
+    const pid_t ended = wait4(process, &status, 0, &usage);
+    cost = {milliseconds(usage.ru_utime) + milliseconds(usage.ru_stime), usage.ru_maxrss,
+            WIFEXITED(status) ? WEXITSTATUS(status) : -1};
+    return ended;
 }
 
 } // namespace
 
 ProcessCost runProcess(const Command &command)
 {
-    const pid_t child = fork();
-    if (child == 0)
-        becomeProgram(command);
-    int status = 0;
-    rusage usage{};
-    wait4(child, &status, 0, &usage);
-    return {milliseconds(usage.ru_utime) + milliseconds(usage.ru_stime), usage.ru_maxrss,
-            WIFEXITED(status) ? WEXITSTATUS(status) : -1};
+    ProcessCost cost;
+    waitFor(start(command), cost);
+    return cost;
+}
+
+std::vector<ProcessCost> runProcesses(const std::vector<Command> &commands, int atOnce)
+{
+    std::vector<ProcessCost> costs(commands.size());
+    std::map<pid_t, std::size_t> running;
+    std::size_t next = 0;
+    while (next < commands.size() || !running.empty()) {
+        if (next < commands.size() && static_cast<int>(running.size()) < atOnce) {
+            running.emplace(start(commands[next]), next);
+            ++next;
+            continue;
+        }
+        ProcessCost cost;
+        const auto ended = running.find(waitFor(-1, cost));
+        if (ended == running.end()) // somebody else's: the print server is a child, too
+            continue;
+        costs[ended->second] = cost;
+        endUnless(cost.exitStatus, commands[ended->second]);
+        running.erase(ended);
+    }
+    return costs;
 }
 
 double median(std::vector<double> values)

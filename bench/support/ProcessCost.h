@@ -24,6 +24,9 @@ struct ProcessCost
 /// be started.
 ProcessCost runProcess(const Command &command);
 
+/// Runs all of them, so many at once, and waits for them. Ends this program when one of them fails.
+std::vector<ProcessCost> runProcesses(const std::vector<Command> &commands, int atOnce);
+
 double median(std::vector<double> values);
 
 /// Two commands and the medians of their cost, run in turn so that both see the same machine. Ends

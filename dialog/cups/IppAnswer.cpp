@@ -120,6 +120,22 @@ IppAnswer readIppAnswer(const QByteArray &bytes)
     return answer;
 }
 
+// libcups keeps groups of one kind apart by an attribute without a name.
+std::vector<IppHandle> groupsOf(ipp_t *message, ipp_tag_t kind)
+{
+    std::vector<IppHandle> groups;
+    bool isInGroup = false;
+    for (ipp_attribute_t *one = ippFirstAttribute(message); one; one = ippNextAttribute(message)) {
+        const bool isOfKind = ippGetGroupTag(one) == kind && ippGetName(one);
+        if (isOfKind && !isInGroup)
+            groups.emplace_back(ippNew());
+        if (isOfKind)
+            ippCopyAttribute(groups.back().get(), one, 0);
+        isInGroup = isOfKind;
+    }
+    return groups;
+}
+
 bool isSuccess(int status)
 {
     return status <= kLastSuccess;

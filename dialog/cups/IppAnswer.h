@@ -6,6 +6,7 @@
 #include <cups/ipp.h>
 
 #include <memory>
+#include <vector>
 
 struct IppDeleter
 {
@@ -28,6 +29,10 @@ bool isWholeMessage(const QByteArray &bytes);
 /// Reads the message. libcups gets to see nothing that is not one: it reads collections by
 /// recursion, and 9,000 of them within each other are more than its stack.
 IppAnswer readIppAnswer(const QByteArray &bytes);
+
+/// The message's groups of that kind, each as a message of its own: a list of jobs has one for
+/// each.
+std::vector<IppHandle> groupsOf(ipp_t *message, ipp_tag_t kind);
 
 /// Whether the status says that the server did as it was asked.
 bool isSuccess(int status);

@@ -37,15 +37,6 @@ const ActionRow &rowOf(JobAction action)
     return *std::ranges::find(kActions, action, &ActionRow::action);
 }
 
-/// The status with what the job's printer adds to it; as it is where that cannot be asked.
-JobStatus askPrinter(ServerConnection &connection, const QString &queue, const JobStatus &status)
-{
-    IppHandle request = queueRequest(IPP_OP_GET_PRINTER_ATTRIBUTES, queue);
-    askFor(request.get(), printerStatusAttributes());
-    const IppHandle printer = connection.request(std::move(request), queueResource(queue));
-    return printer && connection.succeeded() ? withPrinter(status, printer.get()) : status;
-}
-
 bool isForgotten(const ServerConnection &connection)
 {
     return connection.lastEnd().kind == ExchangeEnd::Kind::Answered &&
@@ -74,6 +65,14 @@ Result<JobStatus> askStatus(ServerConnection &connection, const JobPlace &job, i
         return status;
     ++requests;
     return askPrinter(connection, job.queue, status);
+}
+
+JobStatus askPrinter(ServerConnection &connection, const QString &queue, const JobStatus &status)
+{
+    IppHandle request = queueRequest(IPP_OP_GET_PRINTER_ATTRIBUTES, queue);
+    askFor(request.get(), printerStatusAttributes());
+    const IppHandle printer = connection.request(std::move(request), queueResource(queue));
+    return printer && connection.succeeded() ? withPrinter(status, printer.get()) : status;
 }
 
 Result<> perform(JobAction action, const JobPlace &job, CallGuard &guard)

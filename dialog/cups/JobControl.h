@@ -32,5 +32,8 @@ bool isOffered(JobAction action, JobPhase phase);
 /// (JobPhase::Unknown). Adds to `requests` how many it took.
 Result<JobStatus> askStatus(ServerConnection &connection, const JobPlace &job, int &requests);
 
+/// The status with what the printer of the queue adds to it, where it can be asked.
+JobStatus askPrinter(ServerConnection &connection, const QString &queue, const JobStatus &status);
+
 /// Does it. A fault where the server does not do so. Blocks.
 Result<> perform(JobAction action, const JobPlace &job, CallGuard &guard);

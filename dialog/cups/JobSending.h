@@ -1,7 +1,8 @@
 #pragma once
 
-#include "dialog/cups/JobSubmission.h"
 #include "dialog/cups/ServerConnection.h"
+#include "dialog/job/JobProgress.h"
+#include "dialog/job/JobRequest.h"
 
 #include <optional>
 

@@ -109,7 +109,8 @@ std::optional<Result<JobReceipt>> lookForAnswer(ServerConnection &connection,
     return std::nullopt;
 }
 
-/// A server that is being started again is waited for, as long as the guard allows.
+} // namespace
+
 std::unique_ptr<ServerConnection> connectAgain(const QString &server, CallGuard &guard)
 {
     auto connection = std::make_unique<ServerConnection>(server, guard);
@@ -119,8 +120,6 @@ std::unique_ptr<ServerConnection> connectAgain(const QString &server, CallGuard 
     }
     return connection;
 }
-
-} // namespace
 
 JobReceipt accept(ServerConnection &connection, const JobRequest &request, JobProgress &progress)
 {

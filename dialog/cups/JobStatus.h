@@ -40,7 +40,7 @@ struct JobStatus
 /// standard gives them count as missing.
 JobStatus statusOf(ipp_t *job);
 
-/// What an answer must have for statusOf(): as `requested-attributes`.
+/// What an answer about one job must have for statusOf(): as `requested-attributes`.
 const QList<QByteArray> &statusAttributes();
 
 /// The status of a waiting job with what its printer says: the job itself does not tell that the

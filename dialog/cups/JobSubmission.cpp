@@ -1,8 +1,10 @@
 #include "dialog/cups/JobSubmission.h"
 
+#include "dialog/cups/JobAuthentication.h"
 #include "dialog/cups/JobReadBack.h"
 #include "dialog/cups/JobSettlement.h"
 #include "dialog/cups/JobTemplate.h"
+#include "dialog/cups/LostCreation.h"
 #include "dialog/cups/QueueOutlook.h"
 
 #include <QtCore/QCoreApplication>
@@ -36,17 +38,6 @@ int createdJob(const IppHandle &response)
     return id ? qMax(0, ippGetInteger(id, 0)) : 0;
 }
 
-/// What the queue would make of the job, whose documents are still as they were.
-Result<QueueInfluence> lookFirst(ServerConnection &connection, const JobRequest &request)
-{
-    if (const Result<> unchanged = checkUnchanged(request.documents); !unchanged)
-        return unchanged.fault();
-    if (!connection.isConnected() || connection.guard().isCancelled())
-        return notPrinted(connection.lastFault(request.queue), request.queue);
-    const Result<QueueInfluence> influence = lookAhead(connection, request);
-    return influence ? influence : notPrinted(influence.fault(), request.queue);
-}
-
 /// Whether the server has said that it would not take the job; not every server can be asked.
 bool isRefused(const ServerConnection &connection)
 {
@@ -67,15 +58,59 @@ bool takesJobs(ServerConnection &connection, const QString &queue)
 
 } // namespace
 
-Result<> rehearseJob(const JobRequest &request, CallGuard &guard)
+Result<JobRequest> JobSubmission::prepare(const JobRequest &request)
 {
-    ServerConnection connection(request.server, guard);
-    const Result<QueueInfluence> influence = lookFirst(connection, request);
-    if (!influence)
-        return influence.fault();
-    if (isRefused(connection))
-        return notPrinted(connection.lastFault(request.queue), request.queue);
-    if (takesJobs(connection, request.queue))
+    if (!m_terms)
+        m_terms = request.terms;
+    if (!m_terms) {
+        const Result<QueueTerms> terms = askTerms(m_connection, request.queue);
+        if (!terms)
+            return terms.fault();
+        m_terms = *terms;
+    }
+    if (!m_outlook || m_outlook->options != request.options) {
+        const Result<QueueInfluence> influence = lookAhead(m_connection, request, *m_terms);
+        if (!influence)
+            return influence.fault();
+        m_outlook = Outlook{request.options, *influence};
+    }
+    return prepared(request, m_outlook->influence);
+}
+
+Result<int> JobSubmission::create(const JobRequest &job, const AuthInfo &who)
+{
+    const CreationTime time;
+    const IppHandle created =
+        m_connection.request(jobTemplate(IPP_OP_CREATE_JOB, job, who), queueResource(job.queue));
+    const int id = m_connection.succeeded() && created ? createdJob(created) : 0;
+    if (id != 0) {
+        noteWhoPrints(who, id);
+        return id;
+    }
+    const Fault fault = m_connection.lastFault(job.queue);
+    if (mayHaveCreated(m_connection.lastEnd()))
+        cancelLostJob(job, time, m_connection.guard());
+    return fault;
+}
+
+/// The job as it is to be created, whose documents are still as they were.
+Result<JobRequest> JobSubmission::begin(const JobRequest &request)
+{
+    if (const Result<> unchanged = checkUnchanged(request.documents); !unchanged)
+        return unchanged.fault();
+    if (!m_connection.isConnected() || m_connection.guard().isCancelled())
+        return notPrinted(m_connection.lastFault(request.queue), request.queue);
+    const Result<JobRequest> job = prepare(request);
+    return job ? job : notPrinted(job.fault(), request.queue);
+}
+
+Result<> JobSubmission::rehearse(const JobRequest &request)
+{
+    if (const Result<JobRequest> job = begin(request); !job)
+        return job.fault();
+    if (isRefused(m_connection))
+        return notPrinted(m_connection.lastFault(request.queue), request.queue);
+    if (takesJobs(m_connection, request.queue))
         return {};
     return notPrinted(
         {FaultKind::Refused,
@@ -84,25 +119,35 @@ Result<> rehearseJob(const JobRequest &request, CallGuard &guard)
         request.queue);
 }
 
+Result<JobReceipt> JobSubmission::submit(const JobRequest &request, JobProgress &progress)
+{
+    const Result<JobRequest> job = begin(request);
+    if (!job)
+        return job.fault();
+    const Result<AuthInfo> who = askWhoPrints(m_connection, job->queue, m_terms->authInfo);
+    if (!who)
+        return notPrinted(who.fault(), job->queue);
+    const Result<int> id = create(*job, *who);
+    if (!id)
+        return notPrinted(id.fault(), job->queue);
+    progress.setId(*id);
+    progress.setOnTrial(job->isOnTrial);
+    const auto [sent, fault] = sendDocuments(m_connection, *job, progress);
+    if (sent == Sent::Accepted)
+        return accept(m_connection, *job, progress);
+    return settle(fault.value_or(m_connection.lastFault(job->queue)), sent, *job, progress,
+                  m_connection.guard());
+}
+
 Result<JobReceipt> submitJob(const JobRequest &request, CallGuard &guard,
                              const std::shared_ptr<JobProgress> &progress)
 {
-    ServerConnection connection(request.server, guard);
-    const Result<QueueInfluence> influence = lookFirst(connection, request);
-    if (!influence)
-        return influence.fault();
-    const JobRequest job = prepared(request, *influence);
-    const IppHandle created =
-        connection.request(jobTemplate(IPP_OP_CREATE_JOB, job), queueResource(job.queue));
-    const int id = connection.succeeded() && created ? createdJob(created) : 0;
-    if (id == 0)
-        return notPrinted(connection.lastFault(job.queue), job.queue);
-    progress->setId(id);
-    progress->setOnTrial(job.isOnTrial);
-    const auto [sent, fault] = sendDocuments(connection, job, *progress);
-    if (sent == Sent::Accepted)
-        return accept(connection, job, *progress);
-    return settle(fault.value_or(connection.lastFault(job.queue)), sent, job, *progress, guard);
+    return JobSubmission(request.server, guard).submit(request, *progress);
+}
+
+Result<> rehearseJob(const JobRequest &request, CallGuard &guard)
+{
+    return JobSubmission(request.server, guard).rehearse(request);
 }
 
 Result<JobReceipt> givenUpReceipt(const JobRequest &request, const JobProgress &progress)

@@ -4,11 +4,12 @@
 #include "dialog/cups/ServerConnection.h"
 #include "dialog/job/OutgoingText.h"
 
-IppHandle jobTemplate(ipp_op_t operation, const JobRequest &job)
+IppHandle jobTemplate(ipp_op_t operation, const JobRequest &job, const AuthInfo &who)
 {
     IppHandle request = queueRequest(operation, job.queue);
     ippAddString(request.get(), IPP_TAG_OPERATION, IPP_TAG_NAME, "job-name", nullptr,
                  outgoingTitle(job.title).constData());
+    addAuthInfo(request.get(), who);
     for (const JobOption &option : job.options)
         if (!isOfSubscription(option))
             addOptionAttribute(request.get(), option);

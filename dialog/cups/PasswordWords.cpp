@@ -33,6 +33,9 @@ constexpr std::array kPurposes{
     PurposeRow{PasswordPurpose::HeldJob,
                QT_TRANSLATE_NOOP("PasswordWords", "The print server %1 holds the job until the "
                                                   "printer behind %2 knows who prints.")},
+    PurposeRow{PasswordPurpose::PrinterOfJob,
+               QT_TRANSLATE_NOOP("PasswordWords", "The printer behind %2 on the print server %1 "
+                                                  "wants to know who prints.")},
 };
 
 QString purposeOf(const PasswordQuestion &question)

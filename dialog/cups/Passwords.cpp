@@ -17,6 +17,7 @@ struct Known
     std::mutex mutex; // guards what follows
     std::shared_ptr<PasswordAsker> asker;
     QHash<QString, Credentials> ofServer;
+    QHash<QString, ToldPrinter> ofPrinter; ///< by placeOf()
 };
 
 // Never destroyed: a thread that waits for a server may outlive main().
@@ -33,11 +34,12 @@ std::mutex &questionMutex()
     return mutex;
 }
 
-std::optional<Credentials> knownOf(const QString &server)
+template <typename Value>
+std::optional<Value> found(const QHash<QString, Value> &all, const QString &place)
 {
     const std::lock_guard lock(known().mutex);
-    const auto found = known().ofServer.constFind(server);
-    return found == known().ofServer.cend() ? std::nullopt : std::optional(*found);
+    const auto found = all.constFind(place);
+    return found == all.cend() ? std::nullopt : std::optional(*found);
 }
 
 std::shared_ptr<PasswordAsker> presentAsker()
@@ -62,6 +64,7 @@ void forgetPasswords()
 {
     const std::lock_guard lock(known().mutex);
     known().ofServer.clear();
+    known().ofPrinter.clear();
 }
 
 PasswordScope::PasswordScope(PasswordPurpose purpose, const QString &queue)
@@ -96,6 +99,27 @@ void keepPassword(const PasswordQuestion &question, const Credentials &right)
         asker->keep(question, right);
 }
 
+QString placeOf(const PasswordQuestion &question)
+{
+    const bool isOfPrinter = question.purpose == PasswordPurpose::HeldJob ||
+                             question.purpose == PasswordPurpose::PrinterOfJob;
+    return isOfPrinter ? question.server + u'/' + question.queue : question.server;
+}
+
+std::optional<ToldPrinter> toldPrinter(const PasswordQuestion &question)
+{
+    return found(known().ofPrinter, placeOf(question));
+}
+
+void noteToldPrinter(const PasswordQuestion &question, const Credentials &who, int jobId)
+{
+    const std::lock_guard lock(known().mutex);
+    ToldPrinter &told = known().ofPrinter[placeOf(question)];
+    if (told.who != who)
+        told = {who, {}};
+    told.jobs += jobId;
+}
+
 void Login::begin()
 {
     m_tried.reset();
@@ -107,7 +131,7 @@ void Login::begin()
 std::optional<Credentials> Login::next(bool isReadable, CallGuard &guard)
 {
     if (!std::exchange(m_knownWasTried, true))
-        if (const auto before = knownOf(m_server))
+        if (const auto before = found(known().ofServer, m_server))
             return m_tried = before;
     std::optional<PasswordQuestion> question = PasswordScope::question();
     if (!question)
@@ -119,7 +143,8 @@ std::optional<Credentials> Login::next(bool isReadable, CallGuard &guard)
 std::optional<Credentials> Login::ask(PasswordQuestion question, CallGuard &guard)
 {
     const std::lock_guard one(questionMutex());
-    const auto before = knownOf(m_server); // somebody else may have asked for it meanwhile
+    const auto before =
+        found(known().ofServer, m_server); // somebody else may have asked for it meanwhile
     if (before && before != m_tried)
         return m_tried = before;
     question.server = m_server;

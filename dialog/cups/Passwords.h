@@ -3,6 +3,7 @@
 #include "dialog/work/CallGuard.h"
 #include "dialog/work/Secret.h"
 
+#include <QtCore/QSet>
 #include <QtCore/QString>
 
 #include <memory>
@@ -25,8 +26,9 @@ enum class PasswordPurpose {
     Listing,  ///< the printers of the server
     Settings, ///< the queue's, to choose among them
     Printing,
-    ChangingJob, ///< to hold, to cancel
-    HeldJob,     ///< its printer wants to know who prints
+    ChangingJob,  ///< to hold, to cancel
+    HeldJob,      ///< its printer wants to know who prints
+    PrinterOfJob, ///< likewise, before the job is sent
 };
 
 struct PasswordQuestion
@@ -116,6 +118,23 @@ std::optional<Credentials> askForPassword(const PasswordQuestion &question, Call
 
 /// The answer to the question was right.
 void keepPassword(const PasswordQuestion &question, const Credentials &right);
+
+/// Under what name an answer to the question is known: the password of a printer behind a queue is
+/// not that of the server.
+QString placeOf(const PasswordQuestion &question);
+
+/// What the printer behind a queue was told in this run of who prints.
+struct ToldPrinter
+{
+    Credentials who = {};
+    QSet<int> jobs = {}; ///< the numbers of those that it was told for
+};
+
+/// As it was told last; none: nothing.
+std::optional<ToldPrinter> toldPrinter(const PasswordQuestion &question);
+
+/// The printer was told so for the job. Whether it is right the printer alone knows.
+void noteToldPrinter(const PasswordQuestion &question, const Credentials &who, int jobId);
 
 /// Forgets all passwords that the program knows.
 void forgetPasswords();

@@ -3,17 +3,20 @@
 #include "dialog/cups/ClassMembers.h"
 #include "dialog/cups/LoadedMedia.h"
 #include "dialog/cups/Supplies.h"
+#include "dialog/job/JobRequest.h"
 #include "dialog/work/CallGuard.h"
 #include "dialog/work/Result.h"
 
 #include <QtCore/QString>
 
-/// How a printer is before something is printed on it. What it does not tell is not there.
+/// How a printer and its queue are before something is printed there. What they do not tell is not
+/// there.
 struct PrinterCondition
 {
     int queuedJobs = 0; ///< that wait at the queue or are being printed
     QList<Supply> supplies;
     QList<LoadedMedium> loaded;
+    QueueTerms terms = {};
     QList<ClassMember> members = {}; ///< of a class, where there are several
 
     bool operator==(const PrinterCondition &) const = default;

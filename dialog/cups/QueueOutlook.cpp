@@ -33,8 +33,6 @@ bool wasAnswered(const ServerConnection &connection)
     return connection.lastEnd().kind == ExchangeEnd::Kind::Answered;
 }
 
-} // namespace
-
 // cupsd lists what it has derived from the PPD under the same name, behind what the queue was given
 // as its own. It adds the derived ones of these to no job.
 QList<JobOption> queueDefaults(ipp_t *printer)
@@ -53,16 +51,44 @@ QList<JobOption> queueDefaults(ipp_t *printer)
     return defaults;
 }
 
-Result<QueueInfluence> lookAhead(ServerConnection &connection, const JobRequest &job)
+/// Of these only that somebody has to say them: a ticket of the network's own is nothing to type.
+QStringList authInfoOf(ipp_t *printer)
 {
-    IppHandle asked = queueRequest(IPP_OP_GET_PRINTER_ATTRIBUTES, job.queue);
-    askFor(asked.get(), {"printer-defaults"});
-    const IppHandle printer = connection.request(std::move(asked), queueResource(job.queue));
+    ipp_attribute_t *required = ippFindAttribute(printer, "auth-info-required", IPP_TAG_KEYWORD);
+    QStringList names;
+    for (int index = 0; index < ippGetCount(required); ++index)
+        names += QString::fromUtf8(ippGetString(required, index, nullptr));
+    names.removeAll(u"none"_s);
+    return names.contains(u"negotiate"_s) ? QStringList() : names;
+}
+
+} // namespace
+
+QueueTerms termsOf(ipp_t *printer)
+{
+    return {queueDefaults(printer), authInfoOf(printer)};
+}
+
+const QList<QByteArray> &termsAttributes()
+{
+    static const QList<QByteArray> names{"printer-defaults", "auth-info-required"};
+    return names;
+}
+
+Result<QueueTerms> askTerms(ServerConnection &connection, const QString &queue)
+{
+    IppHandle asked = queueRequest(IPP_OP_GET_PRINTER_ATTRIBUTES, queue);
+    askFor(asked.get(), termsAttributes());
+    const IppHandle printer = connection.request(std::move(asked), queueResource(queue));
     if (!wasAnswered(connection))
-        return connection.lastFault(job.queue);
-    QueueInfluence influence = connection.succeeded()
-                                   ? influenceOf(queueDefaults(printer.get()), job.options)
-                                   : QueueInfluence();
+        return connection.lastFault(queue);
+    return connection.succeeded() ? termsOf(printer.get()) : QueueTerms();
+}
+
+Result<QueueInfluence> lookAhead(ServerConnection &connection, const JobRequest &job,
+                                 const QueueTerms &terms)
+{
+    QueueInfluence influence = influenceOf(terms.defaults, job.options);
     JobRequest whole = job;
     whole.options += influence.settled;
     const IppHandle verdict =

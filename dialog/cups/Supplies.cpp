@@ -22,7 +22,7 @@ constexpr int kGreyTolerance = 16; // of 255: printers call their greys #1A1B1C
 constexpr int kSomeLeft = -3;
 constexpr int kFull = 100;
 
-QString translated(const char *text)
+QString worded(const char *text)
 {
     return QCoreApplication::translate("Supplies", text);
 }
@@ -238,7 +238,7 @@ QList<Supply> suppliesOf(ipp_t *printer)
 QString levelText(const Supply &supply)
 {
     const auto *row = std::ranges::find(kStateWords, supply.state, &StateWords::state);
-    const QString text = translated(supply.isWaste ? row->ofWaste : row->text);
+    const QString text = worded(supply.isWaste ? row->ofWaste : row->text);
     return supply.level && text.contains("%1"_L1) ? text.arg(*supply.level) : text;
 }
 
@@ -253,7 +253,7 @@ QStringList sentencesOn(const QList<Supply> &supplies, bool inColor)
     for (const Warning &warning : kWarnings) {
         const QStringList names = namesIn(supplies, warning.state, warning.isOfWaste, inColor);
         if (!names.isEmpty())
-            sentences += translated(warning.sentence)
+            sentences += worded(warning.sentence)
                              .arg(names.join(QCoreApplication::translate("Supplies", ", ")));
     }
     return sentences;

@@ -98,6 +98,7 @@ void PageCounter::take(std::optional<int> pages)
     m_sofar.all = pages && m_sofar.all ? std::optional(*m_sofar.all + *pages) : std::nullopt;
     if (pages)
         m_sofar.fewest = std::min(*pages, m_sofar.fewest.value_or(*pages));
+    m_sofar.each += pages;
     m_documents.erase(m_documents.begin());
     countNext();
 }

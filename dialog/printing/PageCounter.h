@@ -2,6 +2,7 @@
 
 #include "dialog/job/Document.h"
 
+#include <QtCore/QList>
 #include <QtCore/QObject>
 #include <QtCore/QPointer>
 
@@ -15,6 +16,8 @@ struct PageCount
 {
     std::optional<int> all;    ///< of all documents together; none when one of them does not tell
     std::optional<int> fewest; ///< of the one that has the fewest; none when none tells
+    QList<std::optional<int>> each =
+        {}; ///< of each, in their order; none of one that does not tell
 
     bool operator==(const PageCount &) const = default;
 };

@@ -344,6 +344,18 @@ Result<FinishedJob> PrintController::finish()
     return finished;
 }
 
+QList<JobRequest> PrintController::oneForEach()
+{
+    const Documents all = m_job.documents();
+    QList<JobRequest> jobs;
+    for (const Document &document : all) {
+        m_job.setDocuments({document});
+        jobs += m_job.request(m_job.wholeOptions().options);
+    }
+    m_job.setDocuments(all);
+    return jobs;
+}
+
 std::shared_ptr<JobProgress> PrintController::send(const JobRequest &request, Then<JobReceipt> then)
 {
     const auto progress = std::make_shared<JobProgress>();

@@ -140,6 +140,10 @@ public:
     /// a veto the sentence is null when the panel has told the user why by itself.
     Result<FinishedJob> finish();
 
+    /// The job as it is to go out, as one for each of its documents: with the title and the scaling
+    /// that it has alone. After finish().
+    QList<JobRequest> oneForEach();
+
     /// Sends a job. What is gone out of it is in the progress.
     std::shared_ptr<JobProgress> send(const JobRequest &request, Then<JobReceipt> then);
 

@@ -21,6 +21,7 @@ struct CommandLine : DialogWishes
     bool noDialog = false;
     bool forgetAlerts = false; ///< --forget-alerts
     bool yes = false;
+    bool each = false;          ///< --each: every document is a job of its own
     bool wait = false;          ///< for the job's end
     std::optional<int> timeout; ///< in seconds: how long a job may be stopped or held then
     std::optional<int> passwordDescriptor; ///< --password-fd: where the password is read from

@@ -44,6 +44,8 @@ Job
                           one that was lost is to be had
       --yes               answer yes to what a check asks, instead of no, and
                           print without the settings that cannot be had
+      --each              with --no-dialog: print each document as a job of its
+                          own, with the same settings
       --wait              with --no-dialog: wait until the job is printed, and
                           tell on standard error where it stands
       --timeout SECONDS   with --wait: for so long at most while the job is

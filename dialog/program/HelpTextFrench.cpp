@@ -50,6 +50,8 @@ Travail
       --yes               répondre oui, et non pas non, à ce que demande une
                           vérification, et imprimer sans les réglages
                           impossibles
+      --each              avec --no-dialog : imprimer chaque document comme un
+                          travail à part, avec les mêmes réglages
       --wait              avec --no-dialog : attendre que le travail soit
                           imprimé, et dire sur l’erreur standard où il en est
       --timeout SECONDS   avec --wait : aussi longtemps au plus tant que le

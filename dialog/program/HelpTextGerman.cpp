@@ -49,6 +49,8 @@ Auftrag
       --yes               was eine Prüfung fragt, mit Ja beantworten statt mit
                           Nein, und ohne die Einstellungen drucken, die nicht
                           möglich sind
+      --each              mit --no-dialog: jedes Dokument als eigenen Auftrag
+                          drucken, mit denselben Einstellungen
       --wait              mit --no-dialog: warten, bis der Auftrag gedruckt
                           ist, und auf der Standardfehlerausgabe sagen, wie es
                           um ihn steht

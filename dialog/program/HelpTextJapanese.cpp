@@ -43,6 +43,8 @@ const LauncherTexts kJapaneseTexts{
                           をどうすれば選べるかを表示する
       --yes               確認の質問に「いいえ」ではなく「はい」で答え、選べな
                           かった設定なしで印刷する
+      --each              --no-dialog と使う: 文書を 1 つずつ別のジョブとして、
+                          同じ設定で印刷する
       --wait              --no-dialog と使う: 印刷が終わるまで待ち、標準エラー
                           出力に様子を表示する
       --timeout SECONDS   --wait と使う: 停止または保留されたジョブを待つ長さ

@@ -14,7 +14,7 @@
 #include "dialog/printing/SettingRequests.h"
 #include "dialog/program/CommandOutput.h"
 #include "dialog/program/Explanation.h"
-#include "dialog/program/JobWait.h"
+#include "dialog/program/JobDispatch.h"
 #include "dialog/program/LauncherOutput.h"
 #include "dialog/program/PasswordPrompt.h"
 #include "dialog/program/SessionRecording.h"
@@ -53,24 +53,33 @@ void list(const JobRequest &job)
                  .arg(option.name, option.value));
 }
 
-/// For scripts, which read it as what `lp` says: the same in every language.
-QString receiptLine(const QString &queue, int id, std::size_t files)
-{
-    return QStringLiteral("request id is %1-%2 (%3 file(s))").arg(queue).arg(id).arg(files);
-}
-
-QString cancelledSentence(const JobPlace &job)
-{
-    return QCoreApplication::translate("NoDialogCommand",
-                                       "Job %1 on %2 was cancelled; --yes prints it all the same.")
-        .arg(QString::number(job.id), job.queue);
-}
-
 QString beyondSentence(int page, int last)
 {
     return QCoreApplication::translate("NoDialogCommand",
                                        "Page %1 is beyond the document's last page, %2.")
         .arg(QString::number(page), QString::number(last));
+}
+
+/// The fault of a document that does not have all of those pages.
+Result<> checkPages(const QString &ranges, const std::optional<int> &pages)
+{
+    const std::optional<int> beyond =
+        pages && !ranges.isEmpty() ? pageBeyond(ranges, *pages) : std::nullopt;
+    return beyond ? Result<>(Fault{FaultKind::Request, beyondSentence(*beyond, *pages)})
+                  : Result<>();
+}
+
+/// The same for documents that have each a job of its own.
+Result<> checkEachOf(const Documents &documents, const QString &ranges, const PageCount &count)
+{
+    for (std::size_t index = 0; index < documents.size(); ++index) {
+        const Result<> checked =
+            checkPages(ranges, count.each.value(static_cast<qsizetype>(index)));
+        if (!checked)
+            return Fault{checked.fault().kind,
+                         QStringLiteral("%1: %2").arg(documents[index].path(), checked.sentence())};
+    }
+    return {};
 }
 
 /// One run of the command: drives a controller from one step to the next, and answers in a person's
@@ -82,7 +91,11 @@ public:
         : m_line(line),
           m_answers(line.yes),
           m_controller(line),
-          m_signals([this] { m_controller.cancel(); })
+          m_signals([this] { m_controller.cancel(); }),
+          m_dispatch(line, m_controller, m_signals, [this](ExitStatus status, const QString &told) {
+              m_told = told;
+              end(status);
+          })
     {}
 
     ExitStatus print();
@@ -101,10 +114,9 @@ private:
     void deliver(const JobRequest &request);
     void checkCovers(const JobRequest &request);
     void askPrinter(const JobRequest &request);
+    QList<OutgoingJob> outgoing(const JobRequest &request);
     void send(const JobRequest &request);
-    void judge(const JobPlace &job, const QStringList &differences);
-    void takeReceipt(const QString &queue, const JobReceipt &receipt);
-    void waitFor(const QString &queue, int id);
+    void rehearse(const QList<OutgoingJob> &jobs);
     void write(const JobRequest &request);
     bool tell(const QString &sentence);
     void endDryRun(const QString &sentence);
@@ -122,8 +134,8 @@ private:
     SessionRecording m_recording; // hands alerts on to the answers; outlives the session
     PrintController m_controller;
     EndSignals m_signals;
-    std::optional<JobWait> m_wait;
-    int m_pages = 0; ///< that the job prints; 0: not known
+    JobDispatch m_dispatch;
+    PageCount m_count; ///< of the documents; nothing is known where it is not wanted
     QEventLoop m_loop;
     QString m_told; ///< the sentence of the fault that ended the run
 };
@@ -257,12 +269,9 @@ void Run::countPages()
         return;
     }
     m_controller.countPages([this, ranges](const PageCount &count) {
-        m_pages = printedPages(m_controller.job().settings(), count);
-        const std::optional<int> beyond =
-            count.fewest && !ranges.isEmpty() ? pageBeyond(ranges, *count.fewest) : std::nullopt;
-        if (goOn(beyond
-                     ? Result<>(Fault{FaultKind::Request, beyondSentence(*beyond, *count.fewest)})
-                     : Result<>()))
+        m_count = count;
+        if (goOn(m_line.each ? checkEachOf(m_controller.job().documents(), ranges, count)
+                             : checkPages(ranges, count.fewest)))
             finish();
     });
 }
@@ -331,11 +340,28 @@ void Run::askPrinter(const JobRequest &request)
     m_controller.askCondition([this, request](const Result<PrinterCondition> &condition) {
         if (!goOn({}))
             return;
-        if (condition)
+        JobRequest known = request;
+        if (condition) {
+            known.terms = condition->terms;
             for (const QString &doubt : doubtsAboutPrinter(m_controller.job(), *condition))
                 warn(doubt);
-        send(request);
+        }
+        send(known);
     });
+}
+
+/// The job, or one for each of its documents.
+QList<OutgoingJob> Run::outgoing(const JobRequest &request)
+{
+    const HostSettings &settings = m_controller.job().settings();
+    if (!m_line.each || m_controller.job().documents().size() < 2)
+        return {{request, printedPages(settings, m_count)}};
+    QList<OutgoingJob> jobs;
+    for (JobRequest &one : m_controller.oneForEach()) {
+        one.terms = request.terms;
+        jobs += {one, printedPages(settings, {m_count.each.value(jobs.size()), {}})};
+    }
+    return jobs;
 }
 
 void Run::send(const JobRequest &request)
@@ -347,62 +373,26 @@ void Run::send(const JobRequest &request)
                                                "one, --output FILE keeps the job.")});
         return;
     }
-    if (m_line.dryRun) {
-        m_controller.rehearse(request, [this, request](const Result<> &looked) {
-            if (goOn(looked))
-                endDryRun(QCoreApplication::translate("NoDialogCommand", "%1 would get the job.")
-                              .arg(request.queue));
-        });
-        return;
-    }
-    m_controller.send(request, [this, request](const Result<JobReceipt> &receipt) {
-        if (!receipt)
-            goOn(receipt.fault());
-        else if (receipt->isOnTrial)
-            judge({request.server, request.queue, receipt->id}, receipt->notes);
-        else
-            takeReceipt(request.queue, *receipt);
-    });
-}
-
-/// The server would print the job otherwise than it was asked for, and holds it.
-void Run::judge(const JobPlace &job, const QStringList &differences)
-{
-    const bool isAgreed = m_line.yes && !EndSignals::haveCome();
-    const auto take = [this, job, differences, isAgreed](const Result<> &ended) {
-        if (!ended)
-            goOn(ended.fault());
-        else if (isAgreed)
-            takeReceipt(job.queue, {job.id, differences});
-        else
-            goOn(Fault{FaultKind::Vetoed,
-                       joinedSentences(differences + QStringList{cancelledSentence(job)})});
-    };
-    m_controller.endTrial(job, isAgreed ? TrialVerdict::Release : TrialVerdict::Cancel, take);
-}
-
-void Run::takeReceipt(const QString &queue, const JobReceipt &receipt)
-{
-    const bool isTold = tell(receiptLine(queue, receipt.id, m_controller.job().documents().size()));
-    for (const QString &note : receipt.notes)
-        warn(note);
-    if (!isTold)
-        return;
-    if (m_line.wait)
-        waitFor(queue, receipt.id);
+    const QList<OutgoingJob> jobs = outgoing(request);
+    if (m_line.dryRun)
+        rehearse(jobs);
     else
-        end(ExitStatus::Done);
+        m_dispatch.send(jobs);
 }
 
-/// The job is at the server: from here on a signal is a matter of the wait.
-void Run::waitFor(const QString &queue, int id)
+/// The jobs differ in their documents alone.
+void Run::rehearse(const QList<OutgoingJob> &jobs)
 {
-    const std::optional<std::chrono::seconds> timeout =
-        m_line.timeout ? std::optional<std::chrono::seconds>(*m_line.timeout) : std::nullopt;
-    m_wait.emplace(m_line.server, JobName{queue, id, m_pages}, timeout,
-                   [this](ExitStatus status) { end(status); });
-    m_signals.setAction([this] { m_wait->end(EndSignals::first()); });
-    m_wait->start();
+    const JobRequest &first = jobs.constFirst().request;
+    const QString sentence =
+        jobs.size() == 1 ? QCoreApplication::translate("NoDialogCommand", "%1 would get the job.")
+                               .arg(first.queue)
+                         : QCoreApplication::translate("NoDialogCommand", "%1 would get %2 jobs.")
+                               .arg(first.queue, QString::number(jobs.size()));
+    m_controller.rehearse(first, [this, sentence](const Result<> &looked) {
+        if (goOn(looked))
+            endDryRun(sentence);
+    });
 }
 
 void Run::write(const JobRequest &request)

@@ -14,13 +14,6 @@ namespace {
 
 constexpr std::chrono::seconds kKeyringTimeout{10};
 
-/// The password of a printer behind a queue is not that of the server.
-QString keyOf(const PasswordQuestion &question)
-{
-    return question.purpose == PasswordPurpose::HeldJob ? question.server + u'/' + question.queue
-                                                        : question.server;
-}
-
 } // namespace
 
 // Lines: the user, the domain, and the password, which may have any character.
@@ -59,7 +52,7 @@ void findKept(const PasswordQuestion &question,
         if (const auto told = std::exchange(*once, nullptr))
             told(hasKeyring, kept);
     };
-    keyring->read(keyOf(question), [tell](Keyring::Found found, QByteArray entry) {
+    keyring->read(placeOf(question), [tell](Keyring::Found found, QByteArray entry) {
         tell(found != Keyring::Found::NoKeyring,
              found == Keyring::Found::Entry ? credentialsOf(std::move(entry)) : std::nullopt);
     });
@@ -70,5 +63,5 @@ void findKept(const PasswordQuestion &question,
 void keepInKeyring(const PasswordQuestion &question, const Credentials &right)
 {
     if (Keyring *keyring = desktopKeyring())
-        keyring->write(keyOf(question), entryOf(right));
+        keyring->write(placeOf(question), entryOf(right));
 }

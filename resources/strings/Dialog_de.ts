@@ -137,6 +137,10 @@
         <source>--password-fd is for --no-dialog.</source>
         <translation>--password-fd gehört zu --no-dialog.</translation>
     </message>
+    <message>
+        <source>--each is for --no-dialog, where the jobs are sent to a printer.</source>
+        <translation>--each gilt für --no-dialog, wenn die Aufträge an einen Drucker gehen.</translation>
+    </message>
 </context>
 <context>
     <name>Conflicts</name>
@@ -704,6 +708,21 @@ Umschalt+F1 oder das Kontextmenü sagt, warum.</translation>
     <message>
         <source>Job %1 on %2 stays held: nobody has said who prints.</source>
         <translation>Auftrag %1 an %2 bleibt angehalten: Niemand hat gesagt, wer druckt.</translation>
+    </message>
+    <message>
+        <source>The printer behind %1 wants to know who prints, and nobody has said it.</source>
+        <translation>Der Drucker hinter %1 will wissen, wer druckt, und niemand hat es gesagt.</translation>
+    </message>
+</context>
+<context>
+    <name>JobDispatch</name>
+    <message>
+        <source>Job %1 on %2 was cancelled; --yes prints it all the same.</source>
+        <translation>Auftrag %1 auf %2 wurde abgebrochen; mit --yes wird er trotzdem gedruckt.</translation>
+    </message>
+    <message>
+        <source>Not sent: %1</source>
+        <translation>Nicht gesendet: %1</translation>
     </message>
 </context>
 <context>
@@ -1436,8 +1455,8 @@ Umschalt+F1 oder das Kontextmenü sagt, warum.</translation>
         <translation>Der Auftrag würde nach %1 geschrieben.</translation>
     </message>
     <message>
-        <source>Job %1 on %2 was cancelled; --yes prints it all the same.</source>
-        <translation>Auftrag %1 auf %2 wurde abgebrochen; mit --yes wird er trotzdem gedruckt.</translation>
+        <source>%1 would get %2 jobs.</source>
+        <translation>%1 würde %2 Aufträge bekommen.</translation>
     </message>
 </context>
 <context>
@@ -1772,6 +1791,10 @@ Umschalt+F1 oder das Kontextmenü sagt, warum.</translation>
     <message>
         <source>The connection is not encrypted: others in the network may read the password.</source>
         <translation>Die Verbindung ist nicht verschlüsselt: Andere im Netz können das Passwort mitlesen.</translation>
+    </message>
+    <message>
+        <source>The printer behind %2 on the print server %1 wants to know who prints.</source>
+        <translation>Der Drucker hinter %2 auf dem Druckserver %1 will wissen, wer druckt.</translation>
     </message>
 </context>
 <context>

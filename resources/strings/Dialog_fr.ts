@@ -137,6 +137,10 @@
         <source>--password-fd is for --no-dialog.</source>
         <translation>--password-fd va avec --no-dialog.</translation>
     </message>
+    <message>
+        <source>--each is for --no-dialog, where the jobs are sent to a printer.</source>
+        <translation>--each s’emploie avec --no-dialog, quand les travaux sont envoyés à une imprimante.</translation>
+    </message>
 </context>
 <context>
     <name>Conflicts</name>
@@ -704,6 +708,21 @@ Maj+F1 ou le menu contextuel dit pourquoi.</translation>
     <message>
         <source>Job %1 on %2 stays held: nobody has said who prints.</source>
         <translation>Le travail %1 sur %2 reste retenu : personne n’a dit qui imprime.</translation>
+    </message>
+    <message>
+        <source>The printer behind %1 wants to know who prints, and nobody has said it.</source>
+        <translation>L’imprimante derrière %1 veut savoir qui imprime, et personne ne l’a dit.</translation>
+    </message>
+</context>
+<context>
+    <name>JobDispatch</name>
+    <message>
+        <source>Job %1 on %2 was cancelled; --yes prints it all the same.</source>
+        <translation>Le travail %1 sur %2 a été annulé ; --yes l’imprime quand même.</translation>
+    </message>
+    <message>
+        <source>Not sent: %1</source>
+        <translation>Non envoyés : %1</translation>
     </message>
 </context>
 <context>
@@ -1436,8 +1455,8 @@ Maj+F1 ou le menu contextuel dit pourquoi.</translation>
         <translation>Le travail serait écrit dans %1.</translation>
     </message>
     <message>
-        <source>Job %1 on %2 was cancelled; --yes prints it all the same.</source>
-        <translation>Le travail %1 sur %2 a été annulé ; --yes l’imprime quand même.</translation>
+        <source>%1 would get %2 jobs.</source>
+        <translation>%1 recevrait %2 travaux.</translation>
     </message>
 </context>
 <context>
@@ -1772,6 +1791,10 @@ Maj+F1 ou le menu contextuel dit pourquoi.</translation>
     <message>
         <source>The connection is not encrypted: others in the network may read the password.</source>
         <translation>La connexion n’est pas chiffrée : d’autres sur le réseau peuvent lire le mot de passe.</translation>
+    </message>
+    <message>
+        <source>The printer behind %2 on the print server %1 wants to know who prints.</source>
+        <translation>L’imprimante derrière %2 sur le serveur d’impression %1 veut savoir qui imprime.</translation>
     </message>
 </context>
 <context>

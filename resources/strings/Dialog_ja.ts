@@ -137,6 +137,10 @@
         <source>--password-fd is for --no-dialog.</source>
         <translation>--password-fd は --no-dialog と一緒に使います。</translation>
     </message>
+    <message>
+        <source>--each is for --no-dialog, where the jobs are sent to a printer.</source>
+        <translation>--each は、--no-dialog でジョブをプリンターに送るときに使います。</translation>
+    </message>
 </context>
 <context>
     <name>Conflicts</name>
@@ -704,6 +708,21 @@ Shift+F1 or the context menu tells why.</source>
     <message>
         <source>Job %1 on %2 stays held: nobody has said who prints.</source>
         <translation>%2 のジョブ %1 は保留されたままです。印刷するユーザーが入力されませんでした。</translation>
+    </message>
+    <message>
+        <source>The printer behind %1 wants to know who prints, and nobody has said it.</source>
+        <translation>%1 のプリンターは印刷するユーザーの入力を求めていますが、入力されませんでした。</translation>
+    </message>
+</context>
+<context>
+    <name>JobDispatch</name>
+    <message>
+        <source>Job %1 on %2 was cancelled; --yes prints it all the same.</source>
+        <translation>%2 のジョブ %1 は取り消されました。それでも印刷するには --yes を付けてください。</translation>
+    </message>
+    <message>
+        <source>Not sent: %1</source>
+        <translation>送信していません: %1</translation>
     </message>
 </context>
 <context>
@@ -1436,8 +1455,8 @@ Shift+F1 or the context menu tells why.</source>
         <translation>ジョブは %1 に保存されます（今回は保存していません）。</translation>
     </message>
     <message>
-        <source>Job %1 on %2 was cancelled; --yes prints it all the same.</source>
-        <translation>%2 のジョブ %1 は取り消されました。それでも印刷するには --yes を付けてください。</translation>
+        <source>%1 would get %2 jobs.</source>
+        <translation>%2 個のジョブが %1 に送信されます（今回は送信していません）。</translation>
     </message>
 </context>
 <context>
@@ -1772,6 +1791,10 @@ Shift+F1 or the context menu tells why.</source>
     <message>
         <source>The connection is not encrypted: others in the network may read the password.</source>
         <translation>接続は暗号化されていません。パスワードがネットワーク上で読み取られるおそれがあります。</translation>
+    </message>
+    <message>
+        <source>The printer behind %2 on the print server %1 wants to know who prints.</source>
+        <translation>プリントサーバー %1 にある %2 のプリンターは、印刷するユーザーの入力を求めています。</translation>
     </message>
 </context>
 <context>

@@ -1,7 +1,5 @@
 #include "tests/built/BuiltFiles.h"
-#include "tests/endtoend/JobPrinting.h"
-#include "tests/endtoend/PrintServerFixture.h"
-#include "tests/endtoend/ProgramRun.h"
+#include "tests/endtoend/CommandFixture.h"
 #include "tests/support/CaseName.h"
 #include "tests/support/Files.h"
 
@@ -12,34 +10,6 @@
 using namespace Qt::StringLiterals;
 
 namespace {
-
-class Command : public PrintServerFixture
-{
-protected:
-    /// Prints a PDF to the queue with these options besides.
-    ProgramRun print(const QStringList &options)
-    {
-        return runProgram(
-            QStringList{u"--no-dialog"_s, u"-h"_s, server().address(), u"-d"_s, u"photo"_s} +
-            options + QStringList{pdf()});
-    }
-
-    /// Every option of the job that is the printer's or the plug-in's, but for the printer's
-    /// defaults.
-    QMap<QString, QString> settingsOf(int job)
-    {
-        QMap<QString, QString> settings;
-        const QMap<QString, QString> all = server().jobAttributes(u"photo"_s, job);
-        for (auto one = all.cbegin(); one != all.cend(); ++one)
-            if ((one.key().startsWith(u"com."_s) ||
-                 ppd().contains(u"*OpenUI *"_s + one.key() + u'/')) &&
-                !ppd().contains(u"*Default"_s + one.key() + u": "_s + one.value() + u'\n'))
-                settings.insert(one.key(), one.value());
-        return settings;
-    }
-
-    static QString ppd() { return QString::fromUtf8(readFile(samplePPD(u"velkaro-px-t900"_s))); }
-};
 
 /// The vendor values of a job whose panels nobody has touched.
 QMap<QString, QString> plainTicket()
@@ -122,18 +92,6 @@ TEST_F(Command, AWrongValueIsToldBeforeAnyServerIsAsked)
     }
 }
 
-TEST_F(Command, SavedOptionsOfALayoutArriveInTheJob)
-{
-    const ProgramRun run =
-        runProgram({u"--no-dialog"_s, u"-h"_s, server().address(), u"-d"_s, u"photo"_s, pdf()},
-                   "Dest photo number-up=4 page-border=single job-sheets=none,standard\n");
-    ASSERT_EQ(run.status, 0) << run.errors.toStdString();
-    const QMap<QString, QString> job = server().jobAttributes(u"photo"_s, newJobs()[0]);
-    EXPECT_EQ(job.value(u"number-up"_s), u"4"_s);
-    EXPECT_EQ(job.value(u"page-border"_s), u"single"_s);
-    EXPECT_EQ(job.value(u"job-sheets"_s), u"none,standard"_s);
-}
-
 TEST_F(Command, ARecordingOnAQueueKeepsItsPPDAndCanBeReplayed)
 {
     const QString script = inFolder(u"session.jsonl"_s);
@@ -183,20 +141,6 @@ TEST_F(Command, ABorderlessPhotoJobArrivesAsPicked)
     EXPECT_EQ(job.value(u"copies"_s), u"2"_s);
 }
 
-TEST_F(Command, AnInstancePrintsWithItsSavedSettings)
-{
-    const ProgramRun run = runProgram(
-        {u"--no-dialog"_s, u"-h"_s, server().address(), u"-d"_s, u"photo/borderless"_s, pdf()},
-        "Dest photo copies=2\nDest photo/borderless PageSize=A4.Fullbleed "
-        "VKMediaType=VelkaroQM41Matte\n");
-    ASSERT_EQ(run.status, 0) << run.errors.toStdString();
-    ASSERT_EQ(newJobs().size(), 1);
-    const QMap<QString, QString> job = server().jobAttributes(u"photo"_s, newJobs()[0]);
-    EXPECT_EQ(job.value(u"PageSize"_s), u"A4.Fullbleed"_s);
-    EXPECT_EQ(job.value(u"VKMediaType"_s), u"VelkaroQM41Matte"_s);
-    EXPECT_EQ(job.value(u"copies"_s), u"2"_s);
-}
-
 TEST_F(Command, AJobThatACheckVetoesIsNotInTheQueue)
 {
     const ProgramRun run = print({u"--paper"_s, u"120x120mm"_s});
@@ -216,181 +160,6 @@ TEST_F(Command, YesAnswersTheCheck)
     EXPECT_EQ(settings.value(u"PageSize"_s), u"120x120mm"_s);
     EXPECT_EQ(settings.value(u"VKMediaType"_s), u"PrintableDisc"_s);
 }
-
-TEST_F(Command, AJobInAFileIsSentLater)
-{
-    const QString file = inFolder(u"later.velkaro-job"_s);
-    ASSERT_EQ(print({u"-o"_s, u"VKMediaType=Glossy"_s, u"--output"_s, file}).status, 0);
-    EXPECT_EQ(newJobs(), QList<int>());
-    const ProgramRun run = runProgram({u"--no-dialog"_s, u"-h"_s, server().address(), file});
-    ASSERT_EQ(run.status, 0) << run.errors.toStdString();
-    ASSERT_EQ(newJobs().size(), 1);
-    EXPECT_TRUE(run.errors.startsWith(u"velkaro-print: Sending \"document.pdf\" to photo.\n"
-                                      "velkaro-print: Document: document.pdf (%1 bytes)\n"_s.arg(
-                                          QFileInfo(inFolder(u"document.pdf"_s)).size())))
-        << run.errors.toStdString();
-    EXPECT_TRUE(run.errors.contains(u"\nvelkaro-print: Setting: VKMediaType=Glossy\n"_s))
-        << run.errors.toStdString();
-    EXPECT_EQ(settingsOf(newJobs()[0]).value(u"VKMediaType"_s), u"Glossy"_s);
-    EXPECT_EQ(server().jobAttributes(u"photo"_s, newJobs()[0]).value(u"job-name"_s),
-              u"document.pdf"_s);
-}
-
-TEST_F(Command, ASavedJobKeepsTheHoldThatTheUserSaved)
-{
-    const QString file = inFolder(u"held.job"_s);
-    const ProgramRun saved = runProgram({u"--no-dialog"_s, u"-h"_s, server().address(), u"-d"_s,
-                                         u"photo"_s, u"--output"_s, file, pdf()},
-                                        "Dest photo job-hold-until=indefinite number-up=2\n");
-    ASSERT_EQ(saved.status, 0) << saved.errors.toStdString();
-    const ProgramRun run = runProgram({u"--no-dialog"_s, u"-h"_s, server().address(), file});
-    ASSERT_EQ(run.status, 0) << run.errors.toStdString();
-    ASSERT_EQ(newJobs().size(), 1);
-    const QMap<QString, QString> job = server().jobAttributes(u"photo"_s, newJobs()[0]);
-    EXPECT_EQ(job.value(u"job-hold-until"_s), u"indefinite"_s);
-    EXPECT_EQ(job.value(u"number-up"_s), u"2"_s);
-}
-
-TEST_F(Command, ASavedJobTellsOfSettingsThatThePrinterDoesNotHave)
-{
-    const QString file = inFolder(u"other.job"_s);
-    writeFile(file,
-              "Velkaro-Print-Job: 1\nTitle: A\nOption: VKMediaType=Bronze\nOption: VKGloss=ON\n"
-              "Option: copies=2\nOption: PageSize=A4\nDocument: 5 a.ps\n\n%!PS\n");
-    const ProgramRun run =
-        runProgram({u"--no-dialog"_s, u"-h"_s, server().address(), u"-d"_s, u"photo"_s, file});
-    EXPECT_EQ(run.status, 0);
-    EXPECT_EQ(run.errors.section(u'\n', -2),
-              u"velkaro-print: The printer does not have some of the settings that the job was "
-              "saved with: VKMediaType=Bronze, VKGloss=ON.\n"_s);
-    EXPECT_EQ(newJobs().size(), 1);
-}
-
-struct DryRun
-{
-    const char *behaviour;
-    QStringList options;
-    int status;
-    QString says; ///< with and without --dry-run
-};
-
-class Rehearsal : public Command, public testing::WithParamInterface<DryRun>
-{};
-
-TEST_P(Rehearsal, EndsAsTheRunDoes)
-{
-    const ProgramRun real = print(GetParam().options);
-    const qsizetype sent = newJobs().size();
-    const ProgramRun dry = print(GetParam().options + QStringList(u"--dry-run"_s));
-    EXPECT_EQ(newJobs().size(), sent);
-    EXPECT_EQ(sent, GetParam().status == 0 ? 1 : 0);
-    for (const ProgramRun &run : {real, dry}) {
-        EXPECT_EQ(run.status, GetParam().status);
-        EXPECT_EQ(run.errors, GetParam().says);
-    }
-}
-
-INSTANTIATE_TEST_SUITE_P(
-    Table, Rehearsal,
-    testing::Values(
-        DryRun{"CoverPagesThatAreThere", {u"-o"_s, u"job-sheets=standard,none"_s}, 0, {}},
-        DryRun{"CoverPagesThatAreNot",
-               {u"-o"_s, u"job-sheets=none,fancy"_s},
-               2,
-               u"velkaro-print: fancy is no value for job-sheets. It can be: none, "
-               "classified, confidential, form, secret, standard, topsecret, unclassified.\n"_s}),
-    CaseName());
-
-TEST_F(Command, ARehearsalEndsAsTheRunDoesAtAQueueThatTakesNoJobs)
-{
-    ASSERT_TRUE(server().command(u"cupsreject"_s, {u"photo"_s}));
-    const ProgramRun real = print({});
-    const ProgramRun dry = print({u"--dry-run"_s});
-    ASSERT_TRUE(server().command(u"cupsaccept"_s, {u"photo"_s}));
-    EXPECT_EQ(real.status, 6) << real.errors.toStdString();
-    EXPECT_EQ(dry.status, 6);
-    EXPECT_EQ(dry.errors, u"velkaro-print: Nothing was printed on photo: The queue photo takes no "
-                          "jobs at present.\n"_s);
-}
-
-struct SavedJob
-{
-    const char *behaviour;
-    QByteArray header; ///< between the first line and the document
-    QStringList options;
-    int status;
-    const char *says; ///< the first line on standard error; %1 is the file
-};
-
-void PrintTo(const SavedJob &row, std::ostream *out)
-{
-    *out << row.behaviour;
-}
-
-class CommandWithSavedJob : public Command, public testing::WithParamInterface<SavedJob>
-{};
-
-TEST_P(CommandWithSavedJob, SendsWhatThisProgramWritesAndSaysIt)
-{
-    const QString file = inFolder(u"the.job"_s);
-    writeFile(file, "Velkaro-Print-Job: 1\n" + GetParam().header + "Document: 5 a.ps\n\n%!PS\n");
-    const ProgramRun run =
-        runProgram(QStringList{u"--no-dialog"_s, u"-h"_s, server().address(), u"-d"_s, u"photo"_s} +
-                   GetParam().options + QStringList{file});
-    EXPECT_EQ(run.status, GetParam().status);
-    EXPECT_EQ(run.errors.section(u'\n', 0, 0),
-              u"velkaro-print: "_s + QString::fromUtf8(GetParam().says).replace(u"%1"_s, file));
-    EXPECT_EQ(newJobs().size(), GetParam().status == 0 ? 1 : 0);
-}
-
-constexpr auto kForeign = "%1 is not sent: it sets job-sheets-col, which Velkaro Print does not "
-                          "write; --yes sends it all the same.";
-
-INSTANTIATE_TEST_SUITE_P(
-    Table, CommandWithSavedJob,
-    testing::Values(SavedJob{"Settings",
-                             "Title: A\nOption: copies=2\nOption: VKMediaType=Glossy\n",
-                             {},
-                             0,
-                             "Sending \"A\" to photo."},
-                    SavedJob{"NamesWithControlCharacters",
-                             "Title: A\x1B[2J\xE2\x80\xAE\n",
-                             {},
-                             0,
-                             "Sending \"A [2J\" to photo."},
-                    SavedJob{"NoTitle", "", {}, 0, "Sending \"Untitled\" to photo."},
-                    SavedJob{"ForeignSetting", "Option: job-sheets-col=x\n", {}, 3, kForeign},
-                    SavedJob{"ForeignSettingWithYes",
-                             "Title: A\nOption: job-sheets-col=x\n",
-                             {u"--yes"_s},
-                             0,
-                             "Sending \"A\" to photo."},
-                    SavedJob{"PastTheFilters",
-                             "Option: raw=true\n",
-                             {},
-                             3,
-                             "%1 is not sent: it sets raw, which no saved job may."},
-                    SavedJob{"PastTheFiltersWithYes",
-                             "Option: Raw=true\n",
-                             {u"--yes"_s},
-                             3,
-                             "%1 is not sent: it sets Raw, which no saved job may."},
-                    SavedJob{"ToAnotherQueueWithYes",
-                             "Option: printer-uri=x\n",
-                             {u"--yes"_s},
-                             3,
-                             "%1 is not sent: it sets printer-uri, which no saved job may."},
-                    SavedJob{"TooManyDocuments",
-                             QByteArray("Document: 1 a\n").repeated(100000),
-                             {},
-                             4,
-                             "The saved job %1 has too many documents: 1000 are the most."},
-                    SavedJob{"CutShort",
-                             "Document: 99 a\n",
-                             {},
-                             4,
-                             "The saved job %1 is cut short: its end is missing."}),
-    CaseName());
 
 TEST_F(Command, ASettingThatIsLostIsToldAndPrintedWithoutAfterAYes)
 {
@@ -415,35 +184,6 @@ TEST_F(Command, AMediumThatIsLostTakesAwayWhatItHadBrought)
     const QList<int> jobs = newJobs();
     ASSERT_EQ(jobs.size(), 2);
     EXPECT_EQ(settingsOf(jobs[1]), settingsOf(jobs[0]));
-}
-
-TEST_F(Command, ASavedChoiceYieldsToAnOptionAndIsTold)
-{
-    const ProgramRun run = runProgram({u"--no-dialog"_s, u"-h"_s, server().address(), u"-d"_s,
-                                       u"photo/mine"_s, u"-o"_s, u"VKMediaType=Plain"_s, pdf()},
-                                      "Dest photo/mine VKMediaType=Glossy VKResolution=Photo\n");
-    EXPECT_EQ(run.status, 0);
-    EXPECT_EQ(run.errors,
-              u"velkaro-print: Saved for this printer: VKResolution=Photo cannot be chosen while "
-              "the other settings are as they are. Print Quality is Normal instead.\n"_s);
-    const QList<int> jobs = newJobs();
-    ASSERT_EQ(jobs.size(), 1);
-    EXPECT_EQ(server().jobAttributes(u"photo"_s, jobs[0]).value(u"VKMediaType"_s), u"Plain"_s);
-}
-
-TEST_F(Command, ASavedNumberThatTheSettingCannotHaveIsRefused)
-{
-    const std::pair<QByteArray, QString> saved[] = {
-        {"copies=99999", u"99999 is no value for copies (-n). It can be: 1-999."_s},
-        {"number-up=7", u"7 is no value for number-up. It can be: 1, 2, 4, 6, 9, 16."_s}};
-    for (const auto &[option, sentence] : saved) {
-        const ProgramRun run = runProgram(
-            {u"--no-dialog"_s, u"-h"_s, server().address(), u"-d"_s, u"photo/mine"_s, pdf()},
-            "Dest photo/mine " + option + '\n');
-        EXPECT_EQ(run.status, 2);
-        EXPECT_EQ(run.errors, u"velkaro-print: Saved for this printer: "_s + sentence + u'\n');
-    }
-    EXPECT_EQ(newJobs(), QList<int>());
 }
 
 TEST_F(Command, ABookletThatCannotBeAsItWasAskedForIsTold)
@@ -535,8 +275,8 @@ INSTANTIATE_TEST_SUITE_P(
         Fault{"LateHold",
               {u"-H"_s, u"25:00"_s},
               2,
-              "25:00 is no value for job-hold-until (-H). It can be: no-hold, indefinite, "
-              "day-time, evening, night, second-shift, third-shift, weekend and 1 more."},
+              "25:00 is no value for job-hold-until (-H). It can be: HH:MM, no-hold, "
+              "indefinite, day-time, evening, night, second-shift, third-shift and 1 more."},
         Fault{"UnknownQueue",
               {u"--ppd"_s, u"/nonexistent.ppd"_s},
               2,
@@ -604,6 +344,53 @@ TEST_F(Command, WithoutAnyDefaultQueueAQueueMustBeNamed)
     EXPECT_EQ(run.status, 2);
     EXPECT_EQ(run.errors, u"velkaro-print: No printer was chosen and there is no default one; -d "
                           "QUEUE names one.\n"_s);
+}
+
+struct DryRun
+{
+    const char *behaviour;
+    QStringList options;
+    int status;
+    QString says; ///< with and without --dry-run
+};
+
+class Rehearsal : public Command, public testing::WithParamInterface<DryRun>
+{};
+
+TEST_P(Rehearsal, EndsAsTheRunDoes)
+{
+    const ProgramRun real = print(GetParam().options);
+    const qsizetype sent = newJobs().size();
+    const ProgramRun dry = print(GetParam().options + QStringList(u"--dry-run"_s));
+    EXPECT_EQ(newJobs().size(), sent);
+    EXPECT_EQ(sent, GetParam().status == 0 ? 1 : 0);
+    for (const ProgramRun &run : {real, dry}) {
+        EXPECT_EQ(run.status, GetParam().status);
+        EXPECT_EQ(run.errors, GetParam().says);
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Table, Rehearsal,
+    testing::Values(
+        DryRun{"CoverPagesThatAreThere", {u"-o"_s, u"job-sheets=standard,none"_s}, 0, {}},
+        DryRun{"CoverPagesThatAreNot",
+               {u"-o"_s, u"job-sheets=none,fancy"_s},
+               2,
+               u"velkaro-print: fancy is no value for job-sheets. It can be: none, "
+               "classified, confidential, form, secret, standard, topsecret, unclassified.\n"_s}),
+    CaseName());
+
+TEST_F(Command, ARehearsalEndsAsTheRunDoesAtAQueueThatTakesNoJobs)
+{
+    ASSERT_TRUE(server().command(u"cupsreject"_s, {u"photo"_s}));
+    const ProgramRun real = print({});
+    const ProgramRun dry = print({u"--dry-run"_s});
+    ASSERT_TRUE(server().command(u"cupsaccept"_s, {u"photo"_s}));
+    EXPECT_EQ(real.status, 6) << real.errors.toStdString();
+    EXPECT_EQ(dry.status, 6);
+    EXPECT_EQ(dry.errors, u"velkaro-print: Nothing was printed on photo: The queue photo takes no "
+                          "jobs at present.\n"_s);
 }
 
 } // namespace

@@ -56,6 +56,13 @@ protected:
         return wishes;
     }
 
+    /// The server knows beforehand that the printer behind "password" asks who prints.
+    static bool wantPassword()
+    {
+        return server().lpadmin(
+            {u"-p"_s, u"password"_s, u"-o"_s, u"auth-info-required=username,password"_s});
+    }
+
     static PasswordDialog *sheetIn(const QWidget &window)
     {
         PasswordDialog *found = nullptr;
@@ -179,6 +186,39 @@ TEST_F(Secrets, OfAPrinterReleaseTheJobThatIsHeldForThem)
         << window.sentence().toStdString();
 }
 
+TEST_F(Secrets, ThatThePrinterIsKnownToWantAreAskedForBeforeTheJobIsSent)
+{
+    ASSERT_TRUE(wantPassword());
+    DialogWishes wished = wishes();
+    wished.server = server().address();
+    wished.queue = u"password"_s;
+    DialogWindow window(wished);
+    window.start();
+    window.show();
+    ASSERT_TRUE(waitWhile(window, DialogWindow::State::Searching));
+    const qsizetype before = server().jobs(u"password"_s).size();
+    auto &button = part<QAbstractButton>(window, "printButton");
+    QTest::mouseClick(&button, Qt::LeftButton);
+    PasswordDialog *sheet = sheetIn(window);
+    ASSERT_NE(sheet, nullptr);
+    EXPECT_EQ(textOf(*sheet), u"The printer behind password on the print server %1 wants to know "
+                              "who prints."_s.arg(server().address()));
+    QTest::mouseClick(&part<QAbstractButton>(*sheet, "passwordCancel"), Qt::LeftButton);
+    ASSERT_TRUE(waitWhile(window, DialogWindow::State::Sending));
+    EXPECT_EQ(window.notice().sentence(),
+              u"Nothing was printed on password: The printer behind password wants to know who "
+              "prints, and nobody has said it."_s);
+    EXPECT_EQ(server().jobs(u"password"_s).size(), before);
+    QTest::mouseClick(&button, Qt::LeftButton);
+    sheet = sheetIn(window);
+    ASSERT_NE(sheet, nullptr);
+    answer(*sheet, kSecret);
+    ASSERT_TRUE(waitWhile(window, DialogWindow::State::Sending));
+    ASSERT_TRUE(window.outcome()) << window.notice().sentence().toStdString();
+    EXPECT_EQ(server().waitForJob(u"password"_s, server().jobs(u"password"_s).constLast()),
+              IPP_JSTATE_COMPLETED);
+}
+
 // --- Without the dialog --------------------------------------------------------------------------
 
 class SecretsOfAProgram : public Secrets
@@ -241,6 +281,39 @@ TEST_F(SecretsOfAProgram, OfAPrinterReleaseTheJobThatIsWaitedFor)
         << right.errors.toStdString();
     EXPECT_TRUE(right.errors.endsWith(u"on password is printed.\n"_s))
         << right.errors.toStdString();
+}
+
+TEST_F(SecretsOfAProgram, ThatThePrinterIsKnownToWantGoWithTheJob)
+{
+    ASSERT_TRUE(wantPassword());
+    const ProgramRun two =
+        run(QStringList{u"--each"_s, u"--wait"_s} + printingTo(server().address(), u"password"_s) +
+                QStringList{document()},
+            kSecret);
+    EXPECT_EQ(two.status, 0) << two.errors.toStdString();
+    EXPECT_FALSE(two.errors.contains(u"held"_s)) << two.errors.toStdString();
+    EXPECT_EQ(two.errors.count(u"on password is printed.\n"_s), 2);
+    const qsizetype before = server().jobs(u"password"_s).size();
+    const ProgramRun nobody = runProgram(printingTo(server().address(), u"password"_s));
+    EXPECT_EQ(nobody.status, 6);
+    EXPECT_EQ(nobody.errors,
+              u"velkaro-print: Nothing was printed on password: The printer behind password wants "
+              "to know who prints, and nobody has said it.\n"_s);
+    EXPECT_EQ(server().jobs(u"password"_s).size(), before);
+}
+
+TEST_F(SecretsOfAProgram, ThatAreWrongLeaveAHeldJobThatAsksAgain)
+{
+    ASSERT_TRUE(wantPassword());
+    const ProgramRun wrong =
+        run(QStringList{u"--wait"_s} + printingTo(server().address(), u"password"_s), u"wrong"_s);
+    EXPECT_EQ(wrong.status, 6);
+    const QString id = wrong.output.section(u'-', 1).section(u' ', 0, 0);
+    EXPECT_TRUE(wrong.errors.endsWith(
+        u"velkaro-print: Job %1 on password stays held: nobody has said who prints.\n"_s.arg(id)))
+        << wrong.errors.toStdString();
+    EXPECT_EQ(server().jobAttributes(u"password"_s, id.toInt()).value(u"job-state"_s).toInt(),
+              IPP_JSTATE_HELD);
 }
 
 /// What a terminal shows while the program asks there; it gets the answers, one after each prompt.

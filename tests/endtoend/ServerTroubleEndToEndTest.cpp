@@ -190,12 +190,12 @@ INSTANTIATE_TEST_SUITE_P(
                    "Nothing was printed on photo: The print server %1 closed the connection "
                    "without an answer.",
                    0,
-                   u"Create-Job"_s},
+                   u"Get-Jobs"_s},
         JobTrouble{"SilentAtTheJob",
                    {{"Create-Job", {readBody(), hold()}}},
                    "Nothing was printed on photo: The print server %1 does not answer.",
                    0,
-                   u"Create-Job"_s},
+                   u"Get-Jobs"_s},
         JobTrouble{"ForbiddenAtTheJob",
                    {{"Create-Job", kForbidden}},
                    "Nothing was printed on photo: The print server %1 does not allow this machine "

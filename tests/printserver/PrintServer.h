@@ -22,6 +22,7 @@ public:
     /// "127.0.0.1:PORT", as velkaro-print -h takes it.
     QString address() const;
     int port() const { return m_port; }
+    qint64 processId() const { return m_process.processId(); }
     QString folder() const { return m_folder.path(); }
 
     /// The path of the socket on which it listens too.

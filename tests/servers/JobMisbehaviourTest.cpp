@@ -76,6 +76,7 @@ TEST_P(AServerThatTakesJobs, IsTakenAtItsWord)
 }
 
 const QStringList kCreated = creatingJob();
+const QStringList kLookedFor = creatingJob({u"Get-Jobs"_s}); // it may be there, empty
 const QStringList kCancelled = creatingJob({u"Send-Document"_s, u"Cancel-Job"_s});
 const QStringList kAccepted = creatingJob({u"Send-Document"_s, u"Get-Job-Attributes"_s});
 
@@ -98,9 +99,10 @@ QByteArray refusal(int status, const QByteArray &text)
 }
 
 JobMisbehaviour notCreated(const char *behaviour, const QByteArray &answer, const char *sentence,
-                           std::optional<FaultKind> fault = FaultKind::Refused)
+                           std::optional<FaultKind> fault = FaultKind::Refused,
+                           const QStringList &requests = kCreated)
 {
-    return {behaviour, {{"Create-Job", answerIpp(answer)}}, fault, sentence, {}, kCreated};
+    return {behaviour, {{"Create-Job", answerIpp(answer)}}, fault, sentence, {}, requests};
 }
 
 INSTANTIATE_TEST_SUITE_P(
@@ -114,9 +116,10 @@ INSTANTIATE_TEST_SUITE_P(
                    jobNumbered(IPP_TAG_INTEGER, QByteArray("\x80\0\0\0", 4)), kNonsense),
         notCreated("GivesItATextForANumber", jobNumbered(IPP_TAG_TEXT, "7"), kNonsense),
         notCreated("GivesItNoNumber", IppBytes().ended(), kNonsense),
-        notCreated("AnswersInHtml", "<html>", kNonsense),
+        notCreated("AnswersInHtml", "<html>", kNonsense, FaultKind::Refused, kLookedFor),
         notCreated("AnswersWithNestedCollections",
-                   IppBytes().group(IPP_TAG_JOB).nested("x", 9000).ended(), kNonsense),
+                   IppBytes().group(IPP_TAG_JOB).nested("x", 9000).ended(), kNonsense,
+                   FaultKind::Refused, kLookedFor),
         notCreated("HasAFault", refusal(0x0500, "No space left on device."),
                    "The print server %1 reports a fault: No space left on device."),
         notCreated("TakesNoJobs", refusal(0x0506, "The printer takes a nap."),
@@ -147,13 +150,13 @@ INSTANTIATE_TEST_SUITE_P(
                         FaultKind::Unreachable,
                         "The print server %1 closed the connection without an answer.",
                         {},
-                        kCreated},
+                        kLookedFor},
         JobMisbehaviour{"IsSilent",
                         {{"Create-Job", {readBody(), hold()}}},
                         FaultKind::Silent,
                         "The print server %1 does not answer.",
                         {},
-                        kCreated,
+                        kLookedFor,
                         kShort},
         JobMisbehaviour{
             "AnswersByteByByte",
@@ -161,7 +164,7 @@ INSTANTIATE_TEST_SUITE_P(
             FaultKind::Silent,
             "The print server %1 does not answer.",
             {},
-            kCreated,
+            kLookedFor,
             kShort},
         JobMisbehaviour{"ClosesAtOnce",
                         {{"connect", {closeConnection()}}},

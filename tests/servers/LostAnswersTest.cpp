@@ -201,6 +201,76 @@ TEST_F(LostAnswer, ToOneOfSeveralDocumentsLeavesAJobThatIsCancelled)
     EXPECT_EQ(server.requests(), creatingJob({u"Send-Document"_s, u"Cancel-Job"_s}));
 }
 
+// --- A creation whose answer is lost
+// --------------------------------------------------------------
+
+/// A job that the server lists.
+struct Listed
+{
+    int id;
+    const char *title;
+    int documents;
+    int age; ///< in seconds
+};
+
+QByteArray listOf(const QList<Listed> &jobs)
+{
+    constexpr int now = 1'000'000;
+    IppBytes list;
+    for (const Listed &job : jobs)
+        list.group(IPP_TAG_JOB)
+            .integer(IPP_TAG_INTEGER, "job-id", job.id)
+            .attribute(IPP_TAG_NAME, "job-name", job.title)
+            .integer(IPP_TAG_INTEGER, "number-of-documents", job.documents)
+            .integer(IPP_TAG_INTEGER, "time-at-creation", now - job.age)
+            .integer(IPP_TAG_INTEGER, "job-printer-up-time", now);
+    return list.ended();
+}
+
+struct LostJob
+{
+    const char *name;
+    QList<Listed> jobs;
+    int cancelled; ///< 0: none
+};
+
+void PrintTo(const LostJob &row, std::ostream *out)
+{
+    *out << row.name;
+}
+
+class JobWithALostNumber : public LostAnswer, public testing::WithParamInterface<LostJob>
+{};
+
+TEST_P(JobWithALostNumber, IsCancelledWhereItIsSurelyTheOne)
+{
+    const ScriptedServer server(
+        {{"Create-Job", kTakeAndClose}, {"Get-Jobs", answerIpp(listOf(GetParam().jobs))}});
+    JobRequest request = job(server);
+    request.title = u"Mine"_s;
+    EXPECT_EQ(submitJob(request, m_guard).sentence(),
+              u"Nothing was printed on photo: The print server %1 closed the connection without an "
+              "answer."_s.arg(server.address()));
+    QStringList cancelled;
+    for (const QByteArray &body : server.bodies(kCancel))
+        cancelled += QString::number(ippGetInteger(
+            ippFindAttribute(readIppAnswer(body).ipp.get(), "job-id", IPP_TAG_INTEGER), 0));
+    EXPECT_EQ(cancelled, GetParam().cancelled == 0
+                             ? QStringList()
+                             : QStringList(QString::number(GetParam().cancelled)));
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Table, JobWithALostNumber,
+    testing::Values(
+        LostJob{"TheOnlyOne", {{9, "Mine", 0, 0}}, 9},
+        LostJob{"BesideOthers", {{8, "Another", 0, 0}, {9, "Mine", 0, 1}, {10, "Mine", 1, 0}}, 9},
+        LostJob{"NoneIsThere", {}, 0}, LostJob{"AnotherTitle", {{9, "mine", 0, 0}}, 0},
+        LostJob{"WithADocument", {{9, "Mine", 1, 0}}, 0},
+        LostJob{"OfBefore", {{9, "Mine", 0, 5}}, 0},
+        LostJob{"TwoOfThem", {{9, "Mine", 0, 0}, {10, "Mine", 0, 0}}, 0}),
+    [](const auto &row) { return std::string(row.param.name); });
+
 // --- Cancelling, at any time ---------------------------------------------------------------------
 
 /// When the user cancels, and what becomes of the job.

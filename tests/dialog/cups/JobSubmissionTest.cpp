@@ -1,8 +1,10 @@
 #include "dialog/cups/JobSubmission.h"
 #include "dialog/cups/Destinations.h"
+#include "dialog/cups/ServerConnection.h"
 #include "dialog/work/BackgroundCall.h"
 #include "tests/built/BuiltFiles.h"
 #include "tests/dialog/cups/ServerFixture.h"
+#include "tests/servers/ScriptedServer.h"
 #include "tests/support/Documents.h"
 #include "tests/support/QStringPrinting.h"
 
@@ -145,6 +147,28 @@ TEST_F(Server, IsReachedByItsSocketToo)
               u"Velkaro PX-T900, 1.0"_s);
     const auto receipt = submitJob(request, m_guard);
     EXPECT_TRUE(receipt.isGood()) << receipt.sentence().toStdString();
+}
+
+TEST_F(Server, KeepsNoEmptyJobWhoseNumberNeverArrived)
+{
+    const QList<int> before = s_server->jobs(u"photo"_s);
+    const Step passOn = [](ServedConnection &client) {
+        CallGuard guard;
+        ServerConnection real(s_server->address(), guard);
+        real.request(readIppAnswer(client.body()).ipp, queueResource(u"photo"_s));
+        EXPECT_TRUE(real.succeeded());
+        return false; // and closes the connection
+    };
+    const ScriptedServer front({{"connect", {}, 1},
+                                {"connect", {relay(s_server->port())}},
+                                {"Create-Job", {readBody(), passOn}}});
+    JobRequest request = job(u"photo"_s);
+    request.server = front.address();
+    EXPECT_EQ(submitJob(request, m_guard).faultKind(), FaultKind::Unreachable);
+    QList<int> jobs = s_server->jobs(u"photo"_s);
+    jobs.removeIf([&](int id) { return before.contains(id); });
+    ASSERT_EQ(jobs.size(), 1);
+    EXPECT_EQ(s_server->waitForJob(u"photo"_s, jobs[0]), IPP_JSTATE_CANCELED);
 }
 
 // The server comes back with the job, of which it has a part, or without it.

@@ -41,10 +41,10 @@ TEST(PageCounter, CountsThePagesOfPDFs)
     writePDF(two, 2);
     writePDF(five, 5);
     writeFile(text, "no PDF");
-    EXPECT_EQ(counted({five}), (PageCount{5, 5}));
-    EXPECT_EQ(counted({five, two}), (PageCount{7, 2}));
-    EXPECT_EQ(counted({five, text}), (PageCount{std::nullopt, 5}));
-    EXPECT_EQ(counted({text}), PageCount());
+    EXPECT_EQ(counted({five}), (PageCount{5, 5, {5}}));
+    EXPECT_EQ(counted({five, two}), (PageCount{7, 2, {5, 2}}));
+    EXPECT_EQ(counted({five, text}), (PageCount{std::nullopt, 5, {5, std::nullopt}}));
+    EXPECT_EQ(counted({text}), (PageCount{{}, {}, {std::nullopt}}));
 }
 
 struct Hostile
@@ -61,7 +61,7 @@ TEST_P(HostilePDF, HasPagesThatAreNotKnown)
     const QTemporaryDir folder;
     const QString path = folder.filePath(u"hostile.pdf"_s);
     writeFile(path, GetParam().bytes);
-    EXPECT_EQ(counted({path}), PageCount());
+    EXPECT_EQ(counted({path}), (PageCount{{}, {}, {std::nullopt}}));
 }
 
 /// A PDF without a table of contents, which readers put together again.
