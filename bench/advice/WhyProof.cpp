@@ -81,6 +81,8 @@ void count(Figures &figures, const ProofState &state, const Proof &proof)
         tellWrong(figures, state, advice, u"a remedy does not give it"_s);
     if (!proof.smaller.isEmpty())
         tellWrong(figures, state, advice, u"it is given by "_s + words(proof.smaller));
+    if (!proof.unlike.isEmpty())
+        tellWrong(figures, state, advice, u"tried alone it is otherwise: "_s + words(proof.unlike));
 }
 
 void prove(Figures &figures, const ProofState &state, const Extent &extent, int index)

@@ -215,9 +215,9 @@ int main(int argc, char **argv)
     printRow(costs, "a part is shown", sample, showParts);
     printRow(costs, "a pick in Print Settings", sample, pickEverywhere);
     printRow(costs, "a pick in Page Setup", sample, pickInPageSetup);
-    printRow(costs, "undo after 1 pick", sample, undoAfter<1>);
-    printRow(costs, "undo after 100 picks", sample, undoAfter<100>);
-    printRow(costs, "undo after 500 picks", sample, undoAfter<500>);
+    printRow(costs, "undo after 1 pick", sample, undoAfter<1>, kFrame);
+    printRow(costs, "undo after 100 picks", sample, undoAfter<100>, kFrame);
+    printRow(costs, "undo after 500 picks", sample, undoAfter<500>, kFrame);
     printRow(costs, "a list is opened that lacks a choice", sample, openList, kFrame);
     printRow(costs, "20,000 printers are listed", sample, listPrinters);
     printRow(costs, "20,000 printers are searched", sample, searchPrinters);

@@ -30,18 +30,10 @@ QByteArray question(const PPDMark &wanted)
            '\n';
 }
 
-/// Another size of the window changes no answer.
-bool isOfWindow(const QByteArray &line)
-{
-    const QString what = QJsonDocument::fromJson(line)["do"_L1].toString();
-    return what == "window"_L1 || what == "watch"_L1;
-}
-
 } // namespace
 
-Adviser::Adviser(QObject *parent) : QObject(parent)
+Adviser::Adviser(QObject *parent) : QObject(parent), m_events([this] { abandon(); })
 {
-    m_recorder.open([this](const QByteArray &line) { takeLine(line); });
     m_patience.setSingleShot(true);
     m_patience.setInterval(kPatience);
     connect(&m_patience, &QTimer::timeout, this, [this] {
@@ -63,14 +55,7 @@ void Adviser::follow(HostSession &session)
     endProcess();
     m_script.clear();
     m_session = &session;
-    m_recorder.attach(session, u"/proc/self/fd/%1"_s.arg(session.ppdText()));
-}
-
-void Adviser::takeLine(const QByteArray &line)
-{
-    m_script += line;
-    if (m_then && !isOfWindow(line))
-        abandon();
+    m_events.attach(session, u"/proc/self/fd/%1"_s.arg(session.ppdText()));
 }
 
 void Adviser::ask(const PPDMark &wanted, Then then)
@@ -114,6 +99,7 @@ void Adviser::start()
 
 void Adviser::sendScript()
 {
+    m_script += m_events.takeLines();
     for (; m_sent < m_script.size(); ++m_sent)
         send(m_script[m_sent] + '\n');
 }

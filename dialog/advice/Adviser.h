@@ -2,7 +2,7 @@
 
 #include "dialog/advice/Remedy.h"
 #include "dialog/host/PPDMarks.h"
-#include "dialog/replay/Recorder.h"
+#include "dialog/replay/SessionScript.h"
 
 #include <QtCore/QByteArrayList>
 #include <QtCore/QObject>
@@ -49,7 +49,6 @@ public:
     bool isAsked() const { return m_then != nullptr; }
 
 private:
-    void takeLine(const QByteArray &line);
     void start();
     void sendScript();
     void send(const QByteArray &lines);
@@ -57,9 +56,9 @@ private:
     void answer(const std::optional<Advice> &advice);
     void endProcess();
 
-    Recorder m_recorder;
+    SessionScript m_events; ///< of the session, that nobody has asked anything after
     HostSession *m_session = nullptr;
-    QByteArrayList m_script;             ///< of the session, since it was opened
+    QByteArrayList m_script;             ///< of the session, up to the last question
     qsizetype m_sent = 0;                ///< lines of it that the process has
     int m_awaited = 0;                   ///< answers to come; only the last one is wanted
     std::unique_ptr<QProcess> m_process; ///< null: not running

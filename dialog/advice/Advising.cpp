@@ -3,6 +3,7 @@
 #include "dialog/advice/RemedySearch.h"
 #include "dialog/advice/RemedyWords.h"
 #include "dialog/advice/SettingScratch.h"
+#include "dialog/advice/SettingTrials.h"
 #include "dialog/host/HostSession.h"
 #include "dialog/job/Conflicts.h"
 #include "dialog/printing/PrintJob.h"
@@ -18,11 +19,14 @@
 #include <QtCore/QCoreApplication>
 #include <QtCore/QJsonDocument>
 
+#include <memory>
+#include <vector>
+
 using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr std::chrono::seconds kLongestSearch{600}; // of CPU time, without its trials
+constexpr std::chrono::seconds kLongestSearch{20}; // of CPU time, with all its trials
 constexpr int kMostTrials = 20000;
 constexpr int kConditionsOfATrial = 100;   // that are looked through in the time of one
 constexpr QByteArrayView kWhole = "whole"; // ends the lines of a search
@@ -70,19 +74,71 @@ QByteArray lineOfAdvice(const HostSession &session, const PPDMark &wanted, Advic
     return QJsonDocument(adviceMessage(advice)).toJson(QJsonDocument::Compact);
 }
 
+/// One of several wanted choices that are looked for together.
+class Question
+{
+public:
+    Question(SettingTrials &trials, qsizetype place, int most,
+             std::function<void(const Remedy &)> tellFirst)
+        : m_scratch(trials, place, most), m_search(m_scratch, std::move(tellFirst))
+    {}
+
+    RemedySearch &search() { return m_search; }
+
+private:
+    SettingScratch m_scratch;
+    RemedySearch m_search;
+};
+
+/// Sets of one size for all choices, then the next: what is tried out for one of them is not for
+/// those that have their answer.
+void answerAll(HostSession &session, SettingTrials &trials, const QList<PPDMark> &wanted,
+               const ProcessCopy::Tell &tell)
+{
+    std::vector<std::unique_ptr<Question>> questions;
+    for (qsizetype place = 0; place < wanted.size(); ++place)
+        questions.push_back(std::make_unique<Question>(
+            trials, place, mostTrials(session.ppd()),
+            [&session, &tell, one = wanted[place]](const Remedy &first) {
+                tell(lineOfAdvice(session, one, Advice::Outcome::Possible, {first}));
+            }));
+    for (qsizetype left = wanted.size(); left > 0;) {
+        for (std::size_t place = 0; place < questions.size(); ++place) {
+            if (!questions[place])
+                continue;
+            RemedySearch &search = questions[place]->search();
+            search.goOn();
+            if (!search.isOver())
+                continue;
+            const FoundRemedies found = search.found();
+            const auto index = static_cast<qsizetype>(place);
+            tell(lineOfAdvice(session, wanted[index], found.outcome, found.remedies));
+            trials.drop(index);
+            questions[place].reset();
+            --left;
+        }
+    }
+}
+
 /// In a copy of the process, which ends without taking anything down: the session may have two
 /// owners there.
-void adviseInCopy(HostSession &session, const PPDMark &wanted, const ProcessCopy::Tell &tell)
+void adviseInCopy(HostSession &session, const QList<PPDMark> &wanted, const ProcessCopy::Tell &tell)
 {
     keepDefaultsInMemory(session);
     PrintJob &job = *new PrintJob;
     job.setPrinter({}, {std::unique_ptr<HostSession>(&session), {}});
-    SettingScratch scratch(job, wanted, mostTrials(session.ppd()));
-    const FoundRemedies found = findRemedies(scratch, [&](const Remedy &first) {
-        tell(lineOfAdvice(session, wanted, Advice::Outcome::Possible, {first}));
-    });
-    tell(lineOfAdvice(session, wanted, found.outcome, found.remedies));
+    SettingTrials trials(job, wanted, kLongestSearch * wanted.size());
+    answerAll(session, trials, wanted, tell);
     tell(kWhole.toByteArray());
+}
+
+/// In the place of what was said of the same choice before.
+void take(QList<Advice> &told, const Advice &advice)
+{
+    told.removeIf([&](const Advice &before) {
+        return before.keyword == advice.keyword && before.choice == advice.choice;
+    });
+    told += advice;
 }
 
 } // namespace
@@ -115,7 +171,7 @@ std::optional<Advice> adviceOn(HostSession &session, const PPDMark &wanted,
                                const std::function<void(const Advice &)> &tellFirst)
 {
     ProcessCopy copy(kLongestSearch,
-                     [&](const ProcessCopy::Tell &tell) { adviseInCopy(session, wanted, tell); });
+                     [&](const ProcessCopy::Tell &tell) { adviseInCopy(session, {wanted}, tell); });
     std::optional<Advice> last;
     while (const std::optional<QByteArray> line = copy.nextLine(isGivenUp)) {
         if (*line == kWhole)
@@ -125,4 +181,15 @@ std::optional<Advice> adviceOn(HostSession &session, const PPDMark &wanted,
             tellFirst(*last);
     }
     return std::nullopt;
+}
+
+QList<Advice> adviceOnEach(HostSession &session, const QList<PPDMark> &wanted)
+{
+    ProcessCopy copy(kLongestSearch * wanted.size(),
+                     [&](const ProcessCopy::Tell &tell) { adviseInCopy(session, wanted, tell); });
+    QList<Advice> told;
+    while (const std::optional<QByteArray> line = copy.nextLine())
+        if (const auto advice = adviceOfMessage(QJsonDocument::fromJson(*line).object()))
+            take(told, *advice);
+    return told;
 }

@@ -4,6 +4,8 @@
 #include "dialog/host/PPDMarks.h"
 #include "dialog/work/Result.h"
 
+#include <QtCore/QList>
+
 #include <functional>
 #include <optional>
 
@@ -26,3 +28,7 @@ void applyRemedy(PrintJob &job, const Remedy &remedy, const PPDMark &wanted);
 std::optional<Advice> adviceOn(HostSession &session, const PPDMark &wanted,
                                const std::function<bool()> &isGivenUp = {},
                                const std::function<void(const Advice &)> &tellFirst = {});
+
+/// The same of several choices at once, which takes less than one after the other; in whatever
+/// order. Not of all of them when the copy came to a bad end.
+QList<Advice> adviceOnEach(HostSession &session, const QList<PPDMark> &wanted);

@@ -1,8 +1,8 @@
 #include "dialog/advice/SettingsImage.h"
 
 #include "dialog/host/HostSession.h"
+#include "dialog/host/PPDMarks.h"
 #include "dialog/host/controls/PanelParts.h"
-#include "dialog/job/Conflicts.h"
 #include "dialog/printing/PrintJob.h"
 #include "platform/foundation/ObservableDictionary.h"
 #include "platform/pde/PDEPanelControls.h"
@@ -70,10 +70,7 @@ QVariantMap ticketWithoutSurroundings(const HostSession &session)
 
 } // namespace
 
-SettingsImage::SettingsImage(const PrintJob &job, const PPDMark &wanted)
-    : m_job(job),
-      m_wanted(wanted),
-      m_isConstrained(constrainedKeywords(job.ppd()).contains(wanted.keyword.toLower()))
+SettingsImage::SettingsImage(const PrintJob &job) : m_job(job)
 {
     for (const HostPanel &panel : job.session()->panels()) {
         if (!panel.controls)
@@ -95,8 +92,6 @@ QByteArray SettingsImage::text(const QString &leftOut) const
     if (leftOut != kPaperSetting)
         out << m_job.paper().value_or(PMPaper()).name << m_job.mappedPaper();
     out << ticketWithoutSurroundings(*m_job.session());
-    if (m_isConstrained)
-        out << clashesWith(m_job.ppd(), m_wanted.keyword, m_wanted.choice);
     for (const Control &control : m_controls) {
         out << control.widget->isEnabled() << isHiddenItself(control.widget);
         addItems(out, *control.widget);

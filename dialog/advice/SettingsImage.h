@@ -1,7 +1,5 @@
 #pragma once
 
-#include "dialog/host/PPDMarks.h"
-
 #include <QtCore/QByteArray>
 #include <QtCore/QList>
 #include <QtCore/QString>
@@ -12,13 +10,12 @@ class PDEPanelControls;
 class PrintJob;
 class QWidget;
 
-/// All that a job's settings are at one moment: marks, ticket, what the panels hold and show, and
-/// what stands in the way of a wanted choice.
+/// All that a job's settings are at one moment: marks, ticket, what the panels hold and show.
 class SettingsImage
 {
 public:
     /// Of a job whose panels' controls are filled, and live as long as this.
-    SettingsImage(const PrintJob &job, const PPDMark &wanted);
+    explicit SettingsImage(const PrintJob &job);
 
     /// A short text that is equal for equal settings. What the keyword itself is set to is left out
     /// (null: nothing is).
@@ -36,7 +33,5 @@ private:
     };
 
     const PrintJob &m_job;
-    const PPDMark m_wanted;
-    const bool m_isConstrained; ///< whether the PPD's constraints speak of the wanted setting
     QList<Control> m_controls;
 };

@@ -1,9 +1,26 @@
 #include "dialog/advice/TrialLine.h"
 
-#include <QtCore/QDataStream>
-#include <QtCore/QIODevice>
-
 namespace {
+
+template <typename Value> void write(QDataStream &out, const QList<Value> &values)
+{
+    out << qint32(values.size());
+    for (const Value &value : values)
+        out << value;
+}
+
+template <typename Value> void read(QDataStream &in, QList<Value> &values)
+{
+    qint32 count = 0;
+    in >> count;
+    for (; count > 0 && in.status() == QDataStream::Ok; --count) {
+        Value value;
+        in >> value;
+        values += value;
+    }
+}
+
+} // namespace
 
 QDataStream &operator<<(QDataStream &out, const SettingChange &change)
 {
@@ -15,30 +32,50 @@ QDataStream &operator>>(QDataStream &in, SettingChange &change)
     return in >> change.keyword >> change.from >> change.to;
 }
 
-} // namespace
-
-QByteArray lineOfTrial(const Trial &trial)
+QDataStream &operator<<(QDataStream &out, const Prospect &prospect)
 {
-    QByteArray bytes;
-    QDataStream out(&bytes, QIODevice::WriteOnly);
-    out << trial.change << trial.isHad << trial.isNearer << qint32(trial.beside.size());
-    for (const SettingChange &change : trial.beside)
-        out << change;
-    out << trial.effect << trial.state;
-    return bytes.toBase64();
+    return out << prospect.isNearer << prospect.mayBeHad << prospect.clashes;
 }
 
-std::optional<Trial> trialOfLine(const QByteArray &line)
+QDataStream &operator>>(QDataStream &in, Prospect &prospect)
 {
-    QDataStream in(QByteArray::fromBase64(line));
-    Trial trial;
-    qint32 count = 0;
-    in >> trial.change >> trial.isHad >> trial.isNearer >> count;
-    for (qint32 index = 0; index < count && in.status() == QDataStream::Ok; ++index) {
-        SettingChange change;
-        in >> change;
-        trial.beside += change;
-    }
-    in >> trial.effect >> trial.state;
-    return in.status() == QDataStream::Ok ? std::optional(trial) : std::nullopt;
+    return in >> prospect.isNearer >> prospect.mayBeHad >> prospect.clashes;
+}
+
+QDataStream &operator<<(QDataStream &out, const Glance &glance)
+{
+    write(out << glance.effect << glance.state, glance.prospects);
+    return out;
+}
+
+QDataStream &operator>>(QDataStream &in, Glance &glance)
+{
+    read(in >> glance.effect >> glance.state, glance.prospects);
+    return in;
+}
+
+QDataStream &operator<<(QDataStream &out, const TrialOutcome &outcome)
+{
+    write(out << outcome.isHad, outcome.beside);
+    return out;
+}
+
+QDataStream &operator>>(QDataStream &in, TrialOutcome &outcome)
+{
+    read(in >> outcome.isHad, outcome.beside);
+    return in;
+}
+
+QDataStream &operator<<(QDataStream &out, const PossibleTrials &possible)
+{
+    write(out, possible.changes);
+    write(out, possible.prospects);
+    return out;
+}
+
+QDataStream &operator>>(QDataStream &in, PossibleTrials &possible)
+{
+    read(in, possible.changes);
+    read(in, possible.prospects);
+    return in;
 }

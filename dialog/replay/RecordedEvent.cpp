@@ -2,6 +2,12 @@
 
 #include "dialog/host/CustomParameters.h"
 
+#include <QtCore/QJsonArray>
+#include <QtCore/QJsonObject>
+
+#include <algorithm>
+#include <utility>
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -86,9 +92,32 @@ struct Recorded
     template <typename Other> OrderedMembers operator()(const Other &) const { return {}; }
 };
 
+QJsonObject answerReport(const FollowedAnswer &answer)
+{
+    QJsonObject report{{u"button"_s, answer.button}};
+    if (answer.suppression)
+        report.insert("suppress"_L1, answer.suppressed);
+    return report;
+}
+
 } // namespace
 
 OrderedMembers recordedEvent(const ReplayAction &action, ppd_file_t *ppd)
 {
     return std::visit(Recorded{ppd}, action);
+}
+
+QByteArray scriptLine(OrderedMembers event, const FollowedAnswers &answers)
+{
+    QJsonArray reports;
+    for (const auto &answer : answers)
+        reports << answerReport(*answer);
+    if (!reports.isEmpty())
+        event << std::pair(u"answers"_s, QJsonValue(reports));
+    return jsonLine(event);
+}
+
+bool areGiven(const FollowedAnswers &answers)
+{
+    return std::ranges::all_of(answers, [](const auto &answer) { return answer->given; });
 }

@@ -3,6 +3,7 @@
 #include "dialog/host/HostOperationNames.h"
 #include "dialog/host/HostSession.h"
 #include "dialog/host/PPDMarks.h"
+#include "dialog/replay/RecordedEvent.h"
 #include "dialog/replay/Recorder.h"
 #include "platform/foundation/PreferredLanguages.h"
 #include "platform/toolkit/KeyWindow.h"
@@ -87,14 +88,9 @@ Result<> Recorder::attach(HostSession &session)
         m_state = ppd.fault();
         return m_state;
     }
-    attach(session, *ppd);
-    return m_state;
-}
-
-void Recorder::attach(HostSession &session, const QString &ppd)
-{
     follow(session);
-    m_script.note(openEvent(session, ppd), {});
+    m_script.note(recordedOpen(session, *ppd), {});
+    return m_state;
 }
 
 /// Copies the PPD beside the script, and gives the copy's name as the script has it. A file that is
@@ -123,7 +119,7 @@ Result<QString> Recorder::copyPPD(const HostSession &session)
                                  : original.errorString())};
 }
 
-OrderedMembers Recorder::openEvent(const HostSession &session, const QString &ppd)
+OrderedMembers recordedOpen(const HostSession &session, const QString &ppd)
 {
     const SessionOptions &options = session.options();
     const OrderedMembers optional{

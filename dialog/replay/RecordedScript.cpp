@@ -1,24 +1,8 @@
 #include "dialog/replay/RecordedScript.h"
 
-#include <QtCore/QJsonArray>
-#include <QtCore/QJsonObject>
+#include "dialog/replay/RecordedEvent.h"
 
-#include <algorithm>
 #include <utility>
-
-using namespace Qt::StringLiterals;
-
-namespace {
-
-QJsonObject answerReport(const FollowedAnswer &answer)
-{
-    QJsonObject report{{u"button"_s, answer.button}};
-    if (answer.suppression)
-        report.insert("suppress"_L1, answer.suppressed);
-    return report;
-}
-
-} // namespace
 
 Result<> RecordedScript::open(const QString &path, const OutputTerms &terms)
 {
@@ -35,12 +19,7 @@ void RecordedScript::note(const OrderedMembers &event, const FollowedAnswers &an
 
 void RecordedScript::writeAnswered()
 {
-    const auto isAnswered = [](const Event &event) {
-        return std::ranges::all_of(
-            event.answers, &FollowedAnswer::given,
-            [](const auto &answer) -> const FollowedAnswer & { return *answer; });
-    };
-    while (!m_events.empty() && isAnswered(m_events.front())) {
+    while (!m_events.empty() && areGiven(m_events.front().answers)) {
         write(m_events.front());
         m_events.pop_front();
     }
@@ -54,16 +33,8 @@ void RecordedScript::writeAll()
 
 void RecordedScript::write(const Event &event)
 {
-    OrderedMembers members = event.members;
-    QJsonArray answers;
-    for (const auto &answer : event.answers)
-        answers << answerReport(*answer);
-    if (!answers.isEmpty())
-        members << std::pair(u"answers"_s, QJsonValue(answers));
-    if (m_tell)
-        m_tell(jsonLine(members));
-    else
-        static_cast<void>(m_file.write(jsonLine(members) + '\n')); // told by finish() when it fails
+    static_cast<void>( // told by finish() when it fails
+        m_file.write(scriptLine(event.members, event.answers) + '\n'));
 }
 
 Result<> RecordedScript::finish()

@@ -5,9 +5,7 @@
 
 #include <QtCore/QString>
 
-#include <functional>
 #include <memory>
-#include <utility>
 #include <vector>
 
 /// Notes real sessions as a replay script. Running the script leads to the same state.
@@ -20,12 +18,6 @@ class Recorder : public SessionFollower
 public:
     /// A fault when the script may not or cannot be written.
     Result<> open(const QString &path, const OutputTerms &terms);
-
-    /// Tells every line to somebody (RecordedScript::open()) instead. Then no finish() is needed.
-    void open(std::function<void(const QByteArray &line)> tell) { m_script.open(std::move(tell)); }
-
-    /// Notes the session from its beginning, under that path of its PPD, which is not copied.
-    void attach(HostSession &session, const QString &ppd);
 
     /// Notes the session from its beginning. A fault when its PPD cannot be copied: then nothing
     /// more is noted. The session must close before finish().
@@ -40,7 +32,6 @@ private:
     void note(const ReplayAction &action, const FollowedAnswers &answers) override;
     void sheetAnswered() override { m_script.writeAnswered(); }
     Result<QString> copyPPD(const HostSession &session);
-    static OrderedMembers openEvent(const HostSession &session, const QString &ppd);
 
     RecordedScript m_script;
     Result<> m_state;                                  // the first fault

@@ -2,6 +2,7 @@
 
 #include "dialog/host/HostSession.h"
 #include "dialog/replay/AlertAnswerer.h"
+#include "dialog/replay/JournalExtract.h"
 #include "dialog/replay/ReplayWork.h"
 
 #include <algorithm>
@@ -36,11 +37,34 @@ void performAction(const ReplayAction &action, HostSession &session)
         action);
 }
 
+std::vector<const JournalEntry *> eventsBetween(const JournalPlace &from, const JournalPlace &to)
+{
+    std::vector<const JournalEntry *> events;
+    for (const JournalEntry *entry = to.get(); entry != from.get(); entry = entry->before.get())
+        events.push_back(entry);
+    std::ranges::reverse(events);
+    return events;
+}
+
+void performAll(const std::vector<const JournalEntry *> &events, HostSession &session)
+{
+    AlertAnswerer answerer(AlertAnswerer::Alerts::Unseen);
+    for (const JournalEntry *event : events) {
+        answerer.setAnswers(givenAnswers(event->answers));
+        performAction(event->action, session);
+        answerer.answerSheets();
+        answerer.forgetReports();
+    }
+}
+
 } // namespace
 
 JournalEntry::JournalEntry(std::shared_ptr<JournalEntry> former, ReplayAction did,
                            FollowedAnswers given)
-    : before(std::move(former)), action(std::move(did)), answers(std::move(given))
+    : before(std::move(former)),
+      action(std::move(did)),
+      answers(std::move(given)),
+      number(before ? before->number + 1 : 1)
 {}
 
 // One by one: what led to it may be longer than the stack is deep.
@@ -85,16 +109,17 @@ bool isAfter(const JournalPlace &earlier, const JournalPlace &later)
 
 void bring(HostSession &session, const JournalPlace &from, const JournalPlace &to)
 {
-    std::vector<const JournalEntry *> events;
-    for (const JournalEntry *entry = to.get(); entry != from.get(); entry = entry->before.get())
-        events.push_back(entry);
-    AlertAnswerer answerer(AlertAnswerer::Alerts::Unseen);
-    for (auto event = events.rbegin(); event != events.rend(); ++event) {
-        answerer.setAnswers(givenAnswers((*event)->answers));
-        performAction((*event)->action, session);
-        answerer.answerSheets();
-        answerer.forgetReports();
-    }
+    performAll(eventsBetween(from, to), session);
+}
+
+void bringShortly(HostSession &session, const JournalPlace &to)
+{
+    performAll(extractOf(eventsBetween({}, to)), session);
+}
+
+int eventsUpTo(const JournalPlace &place)
+{
+    return place ? place->number : 0;
 }
 
 QString panelShownAt(const JournalPlace &place)

@@ -16,6 +16,7 @@ struct JournalEntry
     std::shared_ptr<JournalEntry> before; ///< null: the session had just started
     const ReplayAction action;
     const FollowedAnswers answers;
+    const int number; ///< of events up to this one, itself included
 };
 
 /// A place in the life of a session. Null: it has just started.
@@ -55,6 +56,14 @@ private:
 /// started), by the same events. Alerts are answered as they were, and kept from the screen. The
 /// places may be those of another session that was opened alike.
 void bring(HostSession &session, const JournalPlace &from, const JournalPlace &to);
+
+/// Brings a session that has just started to the place by fewer events, where many led there: what
+/// was done in a control long ago and then once more is left out. That mostly leads to the same
+/// state, and the caller is to find out whether it did.
+void bringShortly(HostSession &session, const JournalPlace &to);
+
+/// How many events led to the place.
+int eventsUpTo(const JournalPlace &place);
 
 /// Whether `later` comes after `earlier`, or is the same.
 bool isAfter(const JournalPlace &earlier, const JournalPlace &later);

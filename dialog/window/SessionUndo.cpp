@@ -1,5 +1,6 @@
 #include "dialog/window/SessionUndo.h"
 
+#include "dialog/advice/SettingsImage.h"
 #include "dialog/host/HostSession.h"
 #include "dialog/host/controls/PanelParts.h"
 #include "dialog/printing/SettingState.h"
@@ -12,12 +13,21 @@
 
 namespace {
 
+constexpr int kManyEvents = 150; // that are done once more within one frame
+
 QList<double> valuesOfSliders(const HostSession &session)
 {
     QList<double> values;
     for (const FractionSlider *slider : partsOfViews<FractionSlider>(session))
         values += slider->doubleValue();
     return values;
+}
+
+/// Null where panels do not let anybody look into them.
+QByteArray imageOf(const PrintJob &job)
+{
+    const SettingsImage image(job);
+    return image.isWhole() ? image.text() : QByteArray();
 }
 
 } // namespace
@@ -68,9 +78,13 @@ SessionUndo::Moment SessionUndo::now(const SettingState &state) const
                   settingValues(job, state),
                   state.shown,
                   {},
-                  origins()};
-    if (const HostSession *session = job.session())
+                  origins(),
+                  {}};
+    if (const HostSession *session = job.session()) {
         moment.sliders = valuesOfSliders(*session);
+        if (eventsUpTo(moment.place) > kManyEvents)
+            moment.image = imageOf(job);
+    }
     return moment;
 }
 
@@ -161,22 +175,40 @@ Result<> SessionUndo::redo()
 Result<> SessionUndo::goTo(const Moment &moment)
 {
     PrintJob &job = m_controller.job();
-    JournalPlace from = m_journal.place();
+    const JournalPlace from = m_journal.place();
     const TransientDefaults memoryOfThen;
     if (moment.printer &&
         (moment.printer != m_controller.origin() || !isAfter(from, moment.place))) {
-        const AlertAnswerer unseen(AlertAnswerer::Alerts::Unseen);
-        Result<> opened = m_controller.reopen(moment.printer);
+        Result<> opened = reopenAt(moment);
         if (!opened)
             return opened;
-        from.reset();
+    } else if (job.session()) {
+        bring(*job.session(), from, moment.place);
     }
     if (job.session()) {
-        bring(*job.session(), from, moment.place);
         m_journal.setPlace(moment.place);
         m_asked = moment.place;
     }
     job.setSettled(moment.settled);
     m_controller.prepareToReopen(); // the next one
+    return {};
+}
+
+/// Has a new session at the moment's place: by few events where that comes to the same, else by all
+/// of them.
+Result<> SessionUndo::reopenAt(const Moment &moment)
+{
+    PrintJob &job = m_controller.job();
+    const AlertAnswerer unseen(AlertAnswerer::Alerts::Unseen);
+    for (const bool isShort : {true, false}) {
+        if (isShort && moment.image.isNull())
+            continue;
+        if (Result<> opened = m_controller.reopen(moment.printer); !opened || !job.session())
+            return opened;
+        if (!isShort)
+            bring(*job.session(), {}, moment.place);
+        else if (bringShortly(*job.session(), moment.place); imageOf(job) == moment.image)
+            break;
+    }
     return {};
 }

@@ -77,12 +77,16 @@ private:
         QList<PPDMark> shown; ///< SettingState::shown
         QList<double> sliders;
         SettingOrigins origins;
+        /// What tells it from others, panels' secrets included (SettingsImage); null where few
+        /// events led to it.
+        QByteArray image;
     };
 
     static bool areAlike(const Moment &left, const Moment &right);
     static bool isSamePrinter(const Moment &left, const Moment &right);
     Moment now(const SettingState &state) const;
     Result<> goTo(const Moment &moment);
+    Result<> reopenAt(const Moment &moment);
     void follow(const ReplayAction &action);
     void followDrag(const QString &keyword);
 

@@ -3,6 +3,7 @@
 #include "dialog/advice/Advising.h"
 #include "dialog/advice/PossibleChanges.h"
 #include "dialog/advice/SettingsImage.h"
+#include "dialog/advice/WayBack.h"
 #include "dialog/host/HostSession.h"
 #include "dialog/printing/JobDoubts.h"
 #include "dialog/printing/PanelPicks.h"
@@ -29,6 +30,7 @@ namespace {
 
 constexpr std::chrono::seconds kLongestProof{3600}; // of CPU time
 constexpr qsizetype kRemediesTried = 2;
+constexpr int kTriedAlone = 2; // changes of each state
 
 QByteArrayList linesOf(const std::function<void(const ProcessCopy::Tell &)> &work)
 {
@@ -91,6 +93,11 @@ public:
 
     bool has(const PPDMark &mark) const { return hasSetting(m_job, {mark.keyword, mark.choice}); }
 
+    WayBack wayBack(const SettingsImage &image)
+    {
+        return WayBack(m_job, image, [this](const PPDMark &former) { make(former); });
+    }
+
     void save()
     {
         savePreparedPanels(*m_job.session());
@@ -150,14 +157,12 @@ bool mayBeHad(OpenedState &state, const PPDMark &wanted)
 void tellLacking(OpenedState &state, const QList<PPDMark> &choices, const ProcessCopy::Tell &tell)
 {
     state.save();
-    const SettingsImage image(state.job(), choices.constFirst());
-    const QByteArray before = image.text();
+    const SettingsImage image(state.job());
+    const WayBack back = state.wayBack(image);
     for (const PPDMark &wanted : choices) {
-        const PPDMark former{wanted.keyword, state.current(wanted.keyword)};
         const bool isHad = mayBeHad(state, wanted) && state.gives({}, wanted);
         tell(isHad ? "had" : "lacking");
-        state.make(former);
-        if (!image.isWhole() || image.text() != before)
+        if (!back.goBack())
             return;
     }
 }
@@ -181,13 +186,12 @@ QList<Advice> adviceOnSome(OpenedState &state, const ProofExtent &extent)
 {
     Random random(extent.seed, 1);
     QList<PPDMark> choices = lacking(state);
-    QList<Advice> told;
-    while (told.size() < extent.most && !choices.isEmpty()) {
-        const PPDMark wanted = choices.takeAt(random.below(static_cast<int>(choices.size())));
-        const std::optional<Advice> advice = adviceOn(*state.job().session(), wanted);
-        if (advice && advice->outcome != Advice::Outcome::Available)
-            told += *advice;
-    }
+    QList<PPDMark> asked;
+    while (asked.size() < extent.most && !choices.isEmpty())
+        asked += choices.takeAt(random.below(static_cast<int>(choices.size())));
+    QList<Advice> told = adviceOnEach(*state.job().session(), asked);
+    told.removeIf(
+        [](const Advice &advice) { return advice.outcome == Advice::Outcome::Available; });
     return told;
 }
 
@@ -224,40 +228,136 @@ bool changes(const QList<PPDMark> &made, const QString &keyword)
     return std::ranges::find(made, keyword, &PPDMark::keyword) != made.end();
 }
 
-/// Tells, for each of them, which are given when all has been made.
-void tellGiven(OpenedState &state, const QList<PPDMark> &made, const Wanted &wanted,
-               const ProcessCopy::Tell &tell)
+QList<PPDMark> changesOnTopOf(OpenedState &state, const QList<PPDMark> &made)
 {
-    for (const auto &[place, choice] : wanted.asKeyValueRange()) {
-        if (changes(made, choice.keyword) || !mayBeHad(state, choice))
-            continue;
-        const QByteArrayList lines = linesOf([&](const ProcessCopy::Tell &tellGives) {
-            if (state.gives(made, choice))
-                tellGives("given");
-        });
-        if (!lines.isEmpty())
-            tell(QByteArray::number(place) + ' ' + lineOf(made));
+    QList<PPDMark> possible = possibleChanges(state.job());
+    possible.removeIf([&](const PPDMark &change) { return changes(made, change.keyword); });
+    return possible;
+}
+
+/// The first of the wanted choices, from that one on, that may be had now that all has been made;
+/// how many there are when there is none.
+qsizetype nextToTry(OpenedState &state, const QList<PPDMark> &made, const QList<PPDMark> &wanted,
+                    qsizetype from)
+{
+    while (from < wanted.size() &&
+           (changes(made, wanted[from].keyword) || !mayBeHad(state, wanted[from])))
+        ++from;
+    return from;
+}
+
+/// Tries each change with each wanted choice, from that pair on, for as long as there is a way
+/// back. Tells of each where to go on, and when the choice was given.
+void tellPairs(OpenedState &state, const QList<PPDMark> &made, const QList<PPDMark> &possible,
+               const Wanted &wanted, qsizetype from, const ProcessCopy::Tell &tell)
+{
+    const QList<PPDMark> choices = wanted.values();
+    const SettingsImage image(state.job());
+    const WayBack back = state.wayBack(image);
+    qsizetype place = from % choices.size();
+    for (qsizetype change = from / choices.size(); change < possible.size(); ++change) {
+        const QList<PPDMark> all = made + QList{possible[change]};
+        const auto goOnAt = [&](qsizetype next) {
+            return QByteArray::number(change * choices.size() + next);
+        };
+        state.make(possible[change]);
+        const WayBack backToChange = state.wayBack(image);
+        if (!state.has(possible[change]))
+            place = choices.size();
+        while ((place = nextToTry(state, all, choices, place)) < choices.size()) {
+            const bool isGiven = state.gives(all, choices[place]);
+            const QByteArray number = QByteArray::number(wanted.keys()[place]);
+            const QByteArray next = goOnAt(++place);
+            tell(isGiven ? next + ' ' + number + ' ' + lineOf(all) : next);
+            if (place < choices.size() && !backToChange.goBack())
+                return;
+        }
+        tell(goOnAt(choices.size()));
+        if (!back.goBack())
+            return;
+        place = 0;
     }
 }
 
-/// Tries all sets, each in a copy of its own.
+/// Tries one change more, all that can be made, for all wanted choices.
+void tellSingles(OpenedState &state, const QList<PPDMark> &made, const QList<PPDMark> &possible,
+                 const Wanted &wanted, const ProcessCopy::Tell &tell)
+{
+    for (qsizetype pair = 0; pair < possible.size() * wanted.size();) {
+        const QByteArrayList lines = linesOf([&](const ProcessCopy::Tell &tellOn) {
+            tellPairs(state, made, possible, wanted, pair, tellOn);
+        });
+        for (const QByteArray &line : lines)
+            if (const qsizetype end = line.indexOf(' '); end > 0)
+                tell(line.mid(end + 1));
+        pair = lines.isEmpty() ? pair + 1 : lines.constLast().split(' ').constFirst().toLongLong();
+    }
+}
+
+/// Tries all sets.
 void tellSets(OpenedState &state, const QList<PPDMark> &made, int size, const Wanted &wanted,
               const ProcessCopy::Tell &tell)
 {
-    for (const PPDMark &change : possibleChanges(state.job())) {
-        if (changes(made, change.keyword))
-            continue;
+    const QList<PPDMark> possible = changesOnTopOf(state, made);
+    if (size == 1) {
+        tellSingles(state, made, possible, wanted, tell);
+        return;
+    }
+    for (const PPDMark &change : possible) {
         const QByteArrayList lines = linesOf([&](const ProcessCopy::Tell &tellOn) {
             state.make(change);
-            if (!state.has(change))
-                return;
-            if (size > 1)
+            if (state.has(change))
                 tellSets(state, made + QList{change}, size - 1, wanted, tellOn);
-            else
-                tellGiven(state, made + QList{change}, wanted, tellOn);
         });
         for (const QByteArray &line : lines)
             tell(line);
+    }
+}
+
+/// Tells the places of the choices that the change gives, each tried in a copy of its own, which
+/// nothing leads back.
+void tellGivenAlone(OpenedState &state, const PPDMark &change, const QList<Proof> &proofs,
+                    const ProcessCopy::Tell &tell)
+{
+    state.make(change);
+    for (qsizetype place = 0; state.has(change) && place < proofs.size(); ++place) {
+        const PPDMark choice{proofs[place].advice.keyword, proofs[place].advice.choice};
+        if (choice.keyword == change.keyword || !mayBeHad(state, choice))
+            continue;
+        const QByteArrayList given = linesOf([&](const ProcessCopy::Tell &tellGives) {
+            if (state.gives({change}, choice))
+                tellGives("given");
+        });
+        if (!given.isEmpty())
+            tell(QByteArray::number(place));
+    }
+}
+
+/// Whether it is said that the change alone gives the choice.
+bool isSaidToGive(const Advice &advice, const PPDMark &change)
+{
+    return std::ranges::any_of(advice.remedies, [&](const Remedy &remedy) {
+        const SettingChange &first = remedy.changes.constFirst();
+        return remedy.changes.size() == 1 && first.keyword == change.keyword &&
+               first.to == change.choice;
+    });
+}
+
+/// Holds some of the changes against all that is said, whether they are said to give the choice or
+/// not.
+void tryAlone(OpenedState &state, QList<Proof> &proofs, quint32 seed)
+{
+    Random random(seed, 3);
+    const QList<PPDMark> possible = possibleChanges(state.job());
+    for (int count = 0; count < kTriedAlone && !possible.isEmpty(); ++count) {
+        const PPDMark change = random.pick(possible);
+        const QByteArrayList given = linesOf(
+            [&](const ProcessCopy::Tell &tell) { tellGivenAlone(state, change, proofs, tell); });
+        for (qsizetype place = 0; place < proofs.size(); ++place)
+            if (isSaidToGive(proofs[place].advice, change) !=
+                    given.contains(QByteArray::number(place)) &&
+                proofs[place].advice.outcome != Advice::Outcome::Unknown)
+                proofs[place].unlike += change;
     }
 }
 
@@ -280,8 +380,8 @@ void trySets(OpenedState &state, QList<Proof> &proofs, int size)
             wanted.insert(place, {advice.keyword, advice.choice});
     if (wanted.isEmpty())
         return;
-    const QByteArrayList lines =
-        linesOf([&](const ProcessCopy::Tell &tell) { tellSets(state, {}, size, wanted, tell); });
+    QByteArrayList lines;
+    tellSets(state, {}, size, wanted, [&](const QByteArray &line) { lines += line; });
     for (const QByteArray &line : lines) {
         const qsizetype end = line.indexOf(' ');
         proofs[line.left(end).toInt()].smaller = marksOfLine(line.mid(end + 1));
@@ -293,14 +393,16 @@ QJsonObject report(const Proof &proof)
     return {{u"advice"_s, adviceMessage(proof.advice)},
             {u"isGiven"_s, proof.isGiven},
             {u"tried"_s, proof.tried},
-            {u"smaller"_s, QString::fromUtf8(lineOf(proof.smaller))}};
+            {u"smaller"_s, QString::fromUtf8(lineOf(proof.smaller))},
+            {u"unlike"_s, QString::fromUtf8(lineOf(proof.unlike))}};
 }
 
 Proof proofOf(const QJsonObject &report)
 {
     return {adviceOfMessage(report[u"advice"_s].toObject()).value_or(Advice()),
             report[u"isGiven"_s].toBool(), report[u"tried"_s].toInt(),
-            marksOfLine(report[u"smaller"_s].toString().toUtf8())};
+            marksOfLine(report[u"smaller"_s].toString().toUtf8()),
+            marksOfLine(report[u"unlike"_s].toString().toUtf8())};
 }
 
 /// In a copy of the process whose only session this is: what was said is held against a session
@@ -314,6 +416,7 @@ void tellProofs(const ProofState &state, const QByteArrayList &advice, const Pro
         Proof proof{adviceOfMessage(QJsonDocument::fromJson(line).object()).value_or(Advice()),
                     false,
                     0,
+                    {},
                     {}};
         proof.tried = sizesToTry(proof.advice, extent);
         proof.isGiven = areGivers(opened, proof.advice);
@@ -321,6 +424,7 @@ void tellProofs(const ProofState &state, const QByteArrayList &advice, const Pro
     }
     for (int size = 1; size <= 3; ++size)
         trySets(opened, proofs, size);
+    tryAlone(opened, proofs, extent.seed);
     for (const Proof &proof : proofs)
         tell(QJsonDocument(report(proof)).toJson(QJsonDocument::Compact));
 }
@@ -347,7 +451,7 @@ QList<Proof> proofsIn(const ProofState &state, const ProofExtent &extent, QSet<Q
 {
     QByteArrayList advice = linesOf([&](const ProcessCopy::Tell &tell) {
         OpenedState opened(state);
-        const QByteArray image = contentsHash(state.ppd) + SettingsImage(opened.job(), {}).text();
+        const QByteArray image = contentsHash(state.ppd) + SettingsImage(opened.job()).text();
         tell(image);
         if (seen.contains(image))
             return;

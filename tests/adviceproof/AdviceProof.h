@@ -41,6 +41,9 @@ struct Proof
     bool isGiven = false;
     int tried = 0;          ///< all sets of up to so many changes were tried
     QList<PPDMark> smaller; ///< one of them that gives the choice; empty: none does
+    /// Changes, of some that were tried alone in copies of their own, that give the choice and are
+    /// not said to, or the other way round.
+    QList<PPDMark> unlike;
 };
 
 /// Proves what is said of choices that are not to be had in the state. A state in which nothing is

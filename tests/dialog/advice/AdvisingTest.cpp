@@ -1,5 +1,8 @@
 #include "dialog/advice/Advising.h"
 
+#include "dialog/advice/RemedySearch.h"
+#include "dialog/advice/SettingScratch.h"
+#include "dialog/advice/SettingTrials.h"
 #include "dialog/host/HostSession.h"
 #include "dialog/printing/PanelPicks.h"
 #include "dialog/printing/PrintJob.h"
@@ -11,6 +14,7 @@
 #include "tests/support/PPDSource.h"
 #include "tests/support/QStringPrinting.h"
 
+#include <QtCore/QMap>
 #include <QtCore/QTemporaryDir>
 #include <gtest/gtest.h>
 
@@ -245,6 +249,40 @@ TEST(AdviceOnAForeignPrinter, EndsWhereThereAreTooManyConditions)
     EXPECT_EQ(advice->outcome, Advice::Outcome::Unknown);
     EXPECT_EQ(advice->sentence,
               u"There are too many conditions to explain why S0: C1 is not there."_s);
+}
+
+QString keyOf(const Advice &advice)
+{
+    return advice.keyword + u'=' + advice.choice;
+}
+
+// What is there already, what one change gives, and what takes two.
+TEST(AdviceOnSeveralChoices, IsThatOnEachOfThem)
+{
+    PrintJob job;
+    openOn(job, samplePPD(u"velkaro-px-t900"_s), {{u"VKMediaType"_s, u"Glossy"_s}});
+    QList<PPDMark> wanted;
+    for (const QString &keyword : {u"VKResolution"_s, u"VKBiDir"_s})
+        for (const QString &choice : typedChoices(job.ppd(), keyword))
+            wanted += PPDMark{keyword, choice};
+    QMap<QString, Advice> alone;
+    for (const PPDMark &one : wanted)
+        if (const auto advice = adviceOn(*job.session(), one))
+            alone.insert(keyOf(*advice), *advice);
+    QMap<QString, Advice> together;
+    for (const Advice &advice : adviceOnEach(*job.session(), wanted))
+        together.insert(keyOf(advice), advice);
+    EXPECT_EQ(alone.size(), wanted.size());
+    EXPECT_EQ(together, alone);
+}
+
+TEST(AdviceOnAChoice, IsNotKnownWithoutTime)
+{
+    PrintJob job;
+    openOn(job, samplePPD(u"velkaro-px-t900"_s), {});
+    SettingTrials trials(job, {{u"VKResolution"_s, u"Photo"_s}}, std::chrono::seconds(0));
+    SettingScratch scratch(trials, 0, 1000);
+    EXPECT_EQ(findRemedies(scratch).outcome, Advice::Outcome::Unknown);
 }
 
 TEST(AdviceOnAChoice, IsRefusedForWhatThePPDLacks)

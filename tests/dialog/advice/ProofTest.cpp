@@ -27,6 +27,7 @@ void expectTrue(const ProofState &state, quint32 seed)
         EXPECT_EQ(proof.isGiven, proof.advice.outcome == Advice::Outcome::Possible) << sentence;
         EXPECT_EQ(proof.tried > 0, proof.advice.remedies.value(0).changes.size() != 1) << sentence;
         EXPECT_EQ(proof.smaller, QList<PPDMark>()) << sentence;
+        EXPECT_EQ(proof.unlike, QList<PPDMark>()) << sentence;
     }
 }
 

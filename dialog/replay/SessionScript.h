@@ -1,0 +1,42 @@
+#pragma once
+
+#include "dialog/replay/JsonText.h"
+#include "dialog/replay/SessionFollower.h"
+
+#include <QtCore/QByteArrayList>
+
+#include <deque>
+#include <functional>
+#include <utility>
+
+/// The replay script of a session that goes on, made when somebody wants to read it: until then an
+/// event costs next to nothing.
+class SessionScript : public SessionFollower
+{
+public:
+    /// Is told of every event that is not the window's, and of every answer to a sheet.
+    using Listener = std::function<void()>;
+
+    explicit SessionScript(Listener listener) : m_listener(std::move(listener)) {}
+
+    /// Notes the session from its beginning, in the place of the one before, under that path of its
+    /// PPD.
+    void attach(HostSession &session, const QString &ppd);
+
+    /// The lines, without their ends, of the events since it was asked last, up to one with an
+    /// alert that has no answer.
+    QByteArrayList takeLines();
+
+private:
+    struct Event
+    {
+        std::function<OrderedMembers()> members;
+        FollowedAnswers answers;
+    };
+
+    void note(const ReplayAction &action, const FollowedAnswers &answers) override;
+    void sheetAnswered() override { m_listener(); }
+
+    const Listener m_listener;
+    std::deque<Event> m_events;
+};
