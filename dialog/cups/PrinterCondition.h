@@ -1,6 +1,7 @@
 #pragma once
 
 #include "dialog/cups/ClassMembers.h"
+#include "dialog/cups/JobStatus.h"
 #include "dialog/cups/LoadedMedia.h"
 #include "dialog/cups/Supplies.h"
 #include "dialog/job/JobRequest.h"
@@ -17,6 +18,7 @@ struct PrinterCondition
     QList<Supply> supplies;
     QList<LoadedMedium> loaded;
     QueueTerms terms = {};
+    JobStatus waiting = {}; ///< of a job that comes now: for its turn, or the printer is stopped
     QList<ClassMember> members = {}; ///< of a class, where there are several
 
     bool operator==(const PrinterCondition &) const = default;
