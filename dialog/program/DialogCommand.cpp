@@ -14,9 +14,11 @@
 #include "dialog/window/DialogWindow.h"
 #include "dialog/work/BackgroundCall.h"
 #include "dialog/work/EndSignals.h"
+#include "platform/imaging/PictureReader.h"
 
 #include <QtCore/QDir>
 #include <QtGui/QIcon>
+#include <QtGui/QPixmap>
 #include <QtWidgets/QApplication>
 
 #include <cstdlib>
@@ -64,15 +66,17 @@ ExitStatus runDialog(const CommandLine &line)
                                                               "--no-dialog prints without it."))));
 }
 
-/// The desktop's own picture of the program, as it is installed beside it.
+/// The desktop's own picture of the program, as it is installed beside it. The toolkit would load
+/// the decoders of all formats to find out of which it is.
 QIcon windowIcon()
 {
     QIcon icon;
     for (const QLatin1String size : {QLatin1String("48x48"), QLatin1String("128x128")})
-        icon.addFile(QDir(QCoreApplication::applicationDirPath())
-                         .filePath(QStringLiteral(VELKARO_SHARE_FROM_BIN
-                                                  "/../icons/hicolor/%1/apps/velkaro-print.png")
-                                       .arg(size)));
+        icon.addPixmap(QPixmap::fromImage(
+            readPicture(QDir(QCoreApplication::applicationDirPath())
+                            .filePath(QStringLiteral(VELKARO_SHARE_FROM_BIN
+                                                     "/../icons/hicolor/%1/apps/velkaro-print.png")
+                                          .arg(size)))));
     return icon;
 }
 
@@ -100,7 +104,8 @@ int runDialogCommand(int &argc, char **argv, const CommandLine &line)
     installTranslations();
     QApplication::setApplicationDisplayName(
         QCoreApplication::translate("DialogWindow", "Velkaro Print"));
-    QApplication::setWindowIcon(windowIcon());
+    if (showsWindow)
+        QApplication::setWindowIcon(windowIcon());
     const ExitStatus status = run(line);
     forgetPasswords();
     ignoreEndSignals();
