@@ -66,17 +66,19 @@ ExitStatus runDialog(const CommandLine &line)
                                                               "--no-dialog prints without it."))));
 }
 
-/// The desktop's own picture of the program, as it is installed beside it. The toolkit would load
-/// the decoders of all formats to find out of which it is.
+/// The desktop's own picture of the program, as it is installed beside it. An icon that reads its
+/// files itself loads each of the toolkit's decoders, to ask whether the file is one of theirs.
 QIcon windowIcon()
 {
     QIcon icon;
-    for (const QLatin1String size : {QLatin1String("48x48"), QLatin1String("128x128")})
-        icon.addPixmap(QPixmap::fromImage(
-            readPicture(QDir(QCoreApplication::applicationDirPath())
-                            .filePath(QStringLiteral(VELKARO_SHARE_FROM_BIN
-                                                     "/../icons/hicolor/%1/apps/velkaro-print.png")
-                                          .arg(size)))));
+    for (const QLatin1String size : {QLatin1String("48x48"), QLatin1String("128x128")}) {
+        const QString path =
+            QDir(QCoreApplication::applicationDirPath())
+                .filePath(QStringLiteral(VELKARO_SHARE_FROM_BIN "/../icons/hicolor/%1/apps/"
+                                                                "velkaro-print.png")
+                              .arg(size));
+        icon.addPixmap(QPixmap::fromImage(readPicture(path)));
+    }
     return icon;
 }
 
