@@ -18,8 +18,8 @@ namespace {
 
 constexpr int kJobs = 200;
 constexpr int kAtOnce = 8;
-constexpr double kReachOfRun = 6;      // a dialog's rules and checks against none
-constexpr double kReachOfServer = 2.5; // the queue is looked at, and the job is read back
+constexpr double kReachOfRun = 6;    // a dialog's rules and checks against none
+constexpr double kReachOfServer = 3; // the queue is looked at, and the job is read back
 
 /// What the server's process has used of the CPU so far, in milliseconds.
 double serverMilliseconds(const PrintServer &server)
