@@ -12,6 +12,7 @@
 #include "dialog/printing/OwnSettings.h"
 #include "dialog/printing/RequestedSettings.h"
 #include "dialog/printing/SavedJob.h"
+#include "dialog/printing/SavedSettings.h"
 #include "dialog/printing/SettingRequests.h"
 #include "dialog/printing/StandardSettings.h"
 #include "dialog/work/BackgroundCall.h"
@@ -304,21 +305,40 @@ Result<> PrintController::makeAgainWithout(const QList<RequestedChoice> &lost)
     return makeSettings(m_job, wanted);
 }
 
-QStringList PrintController::yieldedSettings() const
+QList<RequestedChoice> PrintController::savedSettings() const
+{
+    const QList<RequestedChoice> wished = namedWishes().wanted;
+    QList<RequestedChoice> saved;
+    for (const JobOption &option : m_origin->starting)
+        if (findOption(m_job.ppd(), option.name) &&
+            std::ranges::none_of(wished, [&](const RequestedChoice &wish) {
+                return isSameName(wish.keyword, option.name);
+            }))
+            saved += RequestedChoice{option.name, option.value};
+    return saved;
+}
+
+QStringList PrintController::yieldedSettings()
 {
     if (!m_origin || !m_job.session())
         return {};
-    QList<RequestedChoice> saved;
-    for (const JobOption &option : m_origin->starting)
-        if (findOption(m_job.ppd(), option.name))
-            saved += RequestedChoice{option.name, option.value};
-    const QList<RequestedChoice> wished = namedWishes().wanted;
+    QList<RequestedChoice> standing = savedSettings();
     QStringList sentences;
-    for (const RequestedChoice &lost : ::lostSettings(m_job, saved))
-        if (std::ranges::none_of(wished, [&](const RequestedChoice &wish) {
-                return isSameName(wish.keyword, lost.keyword);
-            }))
-            sentences += savedSentence(lossSentence(m_job, lost));
+    for (const RequestedChoice &lost : ::lostSettings(m_job, standing))
+        sentences += savedSentence(lossSentence(m_job, lost));
+    standing.removeIf(
+        [this](const RequestedChoice &one) { return !::lostSettings(m_job, {one}).isEmpty(); });
+    QList<RequestedChoice> wished = namedWishes().wanted;
+    wished.removeIf(
+        [this](const RequestedChoice &wish) { return !findOption(m_job.ppd(), wish.keyword); });
+    if (standing.isEmpty() || wished.isEmpty())
+        return sentences;
+    for (const RequestedChoice &one : lostTogether(m_job, standing, wished))
+        sentences += savedSentence(
+            QCoreApplication::translate("PrintController",
+                                        "%1 cannot be chosen together with what was asked for; it "
+                                        "is sent as it was saved.")
+                .arg(displayText(one.keyword) + u'=' + displayText(one.choice)));
     return sentences;
 }
 
