@@ -10,6 +10,6 @@ run:
 
 test:
 	@packaging/install-packages run test
-	@cmake --preset debug -D CMAKE_UNITY_BUILD=ON -D CMAKE_CXX_FLAGS_DEBUG=-g1
-	@cmake --build --preset debug
-	@ctest --preset debug
+	@cmake --preset test
+	@cmake --build --preset test
+	@ctest --preset test

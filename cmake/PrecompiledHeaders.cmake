@@ -34,6 +34,8 @@ macro(velkaro_find_test_headers)
         HEADERS ${toolkit_headers} <QtCore/QProcess> <QtCore/QTemporaryDir>
             <gmock/gmock.h> <gtest/gtest.h>
         LIBRARIES Qt6::Widgets GTest::gtest GTest::gmock)
+    velkaro_add_precompiled_headers(velkaro-rules-test-headers
+        HEADERS <QtCore/QStringList> <gtest/gtest.h> LIBRARIES Qt6::Core GTest::gtest)
 endmacro()
 
 function(velkaro_precompile target)

@@ -18,7 +18,7 @@ namespace {
 
 constexpr int kJobs = 200;
 constexpr int kAtOnce = 8;
-constexpr double kReachOfRun = 30;   // a dialog's rules and checks against none
+constexpr double kReachOfRun = 6;    // a dialog's rules and checks against none
 constexpr double kReachOfServer = 3; // the queue is looked at, and the job is read back
 
 /// What the server's process has used of the CPU so far, in milliseconds.
@@ -47,6 +47,15 @@ std::string titleOf(const std::string &fleet, int job)
     return fleet + "-" + std::to_string(job);
 }
 
+/// 50 kB of text.
+std::string documentOf(const PrintServer &server)
+{
+    QFile file(server.folder() + u"/document.txt"_s);
+    if (!file.exists() && file.open(QIODevice::WriteOnly))
+        file.write(QByteArray("A line of a document.\n").repeated(2300));
+    return file.fileName().toStdString();
+}
+
 int countLost(PrintServer &server, const std::string &fleet)
 {
     QStringList titles;
@@ -69,7 +78,7 @@ FleetCost runFleet(PrintServer &server, const std::string &fleet,
               std::string("photo"), std::string("-t"), titleOf(fleet, job), std::string("-o"),
               std::string("VKMediaType=Glossy"), std::string("-o"),
               std::string("VKResolution=Photo"), std::string("-n"), std::string("2"),
-              samplePPD(u"velkaro-px-t900"_s).toStdString()}) // any 50 kB of text
+              documentOf(server)})
             command.words.push_back(word);
         commands.push_back(command);
     }

@@ -6,6 +6,7 @@
 #include <QtCore/QCoreApplication>
 
 #include <chrono>
+#include <functional>
 #include <memory>
 #include <thread>
 
@@ -59,14 +60,41 @@ QString notReleased(int id, const Fault &why)
         .arg(QString::number(id), why.sentence);
 }
 
+/// A connection, and what has become of the job.
+struct Asked
+{
+    std::unique_ptr<ServerConnection> connection;
+    JobFate fate = JobFate::Unknown;
+};
+
+/// Has the server asked on a new connection, and again where it has gone meanwhile: one that has
+/// just crashed still takes connections, and closes them, before it is started again.
+Asked askAgain(const JobRequest &request, CallGuard &guard,
+               const std::function<JobFate(ServerConnection &)> &ask)
+{
+    Asked asked;
+    do {
+        asked.connection = connectAgain(request.server, guard);
+        asked.fate = ask(*asked.connection);
+        if (asked.connection->lastEnd().kind == ExchangeEnd::Kind::Closed)
+            asked.fate = ask(*asked.connection);
+    } while (asked.connection->lastEnd().kind == ExchangeEnd::Kind::NotConnected &&
+             guard.mayWait());
+    return asked;
+}
+
 /// Nothing half is printed: what the server has of the job is cancelled. It may be too late for
 /// that, where the server has got the whole job.
-Result<JobReceipt> cancel(const Fault &why, ServerConnection &connection, Sent sent,
-                          const JobRequest &request, JobProgress &progress)
+Result<JobReceipt> cancel(const Fault &why, CallGuard &guard, Sent sent, const JobRequest &request,
+                          JobProgress &progress)
 {
-    if (cancelJob(connection, request.queue, progress.id()))
-        return cancelledFor(why, request.queue, progress.id());
-    switch (askFate(connection, request.queue, progress.id())) {
+    const Asked asked = askAgain(request, guard, [&](ServerConnection &connection) {
+        return cancelJob(connection, request.queue, progress.id())
+                   ? JobFate::Cancelled
+                   : askFate(connection, request.queue, progress.id());
+    });
+    ServerConnection &connection = *asked.connection;
+    switch (asked.fate) {
     case JobFate::Cancelled:
     case JobFate::Aborted:
         return cancelledFor(why, request.queue, progress.id());
@@ -87,11 +115,15 @@ Result<JobReceipt> cancel(const Fault &why, ServerConnection &connection, Sent s
 
 /// The answer that decides has not come: the server is asked what it made of the job. None when
 /// that does not settle it.
-std::optional<Result<JobReceipt>> lookForAnswer(ServerConnection &connection,
-                                                const JobRequest &request, JobProgress &progress)
+std::optional<Result<JobReceipt>> lookForAnswer(CallGuard &guard, const JobRequest &request,
+                                                JobProgress &progress)
 {
+    const Asked asked = askAgain(request, guard, [&](ServerConnection &one) {
+        return askFate(one, request.queue, progress.id());
+    });
+    ServerConnection &connection = *asked.connection;
     const NamedJob job{connection.serverName(), request.queue, progress.id()};
-    switch (askFate(connection, request.queue, progress.id())) {
+    switch (asked.fate) {
     case JobFate::Accepted:
         return accept(connection, request, progress);
     case JobFate::Cancelled:
@@ -160,12 +192,10 @@ Result<JobReceipt> settle(const Fault &why, Sent sent, const JobRequest &request
     if (sent == Sent::Lost && !guard.isCancelled()) {
         guard.stampSignOfLife();
         CallGuard looking(guard.timeout() / 2);
-        const auto connection = connectAgain(request.server, looking);
-        if (const auto settled = lookForAnswer(*connection, request, progress))
+        if (const auto settled = lookForAnswer(looking, request, progress))
             return *settled;
     }
     guard.stampSignOfLife();
     CallGuard cancelling(guard.timeout() / 2);
-    const auto connection = connectAgain(request.server, cancelling);
-    return cancel(why, *connection, sent, request, progress);
+    return cancel(why, cancelling, sent, request, progress);
 }

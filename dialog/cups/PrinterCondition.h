@@ -1,5 +1,6 @@
 #pragma once
 
+#include "dialog/cups/JobStatus.h"
 #include "dialog/cups/LoadedMedia.h"
 #include "dialog/cups/Supplies.h"
 #include "dialog/job/JobRequest.h"
@@ -16,6 +17,7 @@ struct PrinterCondition
     QList<Supply> supplies;
     QList<LoadedMedium> loaded;
     QueueTerms terms = {};
+    JobStatus waiting = {}; ///< of a job that comes now: for its turn, or the printer is stopped
 
     bool operator==(const PrinterCondition &) const = default;
 };

@@ -14,9 +14,11 @@
 #include "dialog/window/DialogWindow.h"
 #include "dialog/work/BackgroundCall.h"
 #include "dialog/work/EndSignals.h"
+#include "platform/imaging/PictureReader.h"
 
 #include <QtCore/QDir>
 #include <QtGui/QIcon>
+#include <QtGui/QPixmap>
 #include <QtWidgets/QApplication>
 
 #include <cstdlib>
@@ -64,15 +66,19 @@ ExitStatus runDialog(const CommandLine &line)
                                                               "--no-dialog prints without it."))));
 }
 
-/// The desktop's own picture of the program, as it is installed beside it.
+/// The desktop's own picture of the program, as it is installed beside it. An icon that reads its
+/// files itself loads each of the toolkit's decoders, to ask whether the file is one of theirs.
 QIcon windowIcon()
 {
     QIcon icon;
-    for (const QLatin1String size : {QLatin1String("48x48"), QLatin1String("128x128")})
-        icon.addFile(QDir(QCoreApplication::applicationDirPath())
-                         .filePath(QStringLiteral(VELKARO_SHARE_FROM_BIN
-                                                  "/../icons/hicolor/%1/apps/velkaro-print.png")
-                                       .arg(size)));
+    for (const QLatin1String size : {QLatin1String("48x48"), QLatin1String("128x128")}) {
+        const QString path =
+            QDir(QCoreApplication::applicationDirPath())
+                .filePath(QStringLiteral(VELKARO_SHARE_FROM_BIN "/../icons/hicolor/%1/apps/"
+                                                                "velkaro-print.png")
+                              .arg(size));
+        icon.addPixmap(QPixmap::fromImage(readPicture(path)));
+    }
     return icon;
 }
 
@@ -100,7 +106,8 @@ int runDialogCommand(int &argc, char **argv, const CommandLine &line)
     installTranslations();
     QApplication::setApplicationDisplayName(
         QCoreApplication::translate("DialogWindow", "Velkaro Print"));
-    QApplication::setWindowIcon(windowIcon());
+    if (showsWindow)
+        QApplication::setWindowIcon(windowIcon());
     const ExitStatus status = run(line);
     forgetPasswords();
     ignoreEndSignals();

@@ -48,6 +48,18 @@ QString beyondSentence(int page, int last)
         .arg(QString::number(page), QString::number(last));
 }
 
+QString stoppedSentence(const QString &queue, const QString &reason)
+{
+    return reason.isEmpty()
+               ? QCoreApplication::translate("NoDialogCommand",
+                                             "The printer %1 is stopped: what is sent waits.")
+                     .arg(queue)
+               : QCoreApplication::translate("NoDialogCommand",
+                                             "The printer %1 is stopped: what is sent waits. It "
+                                             "says: %2")
+                     .arg(queue, reason);
+}
+
 /// The fault of a document that does not have all of those pages.
 Result<> checkPages(const QString &ranges, const std::optional<int> &pages)
 {
@@ -293,6 +305,8 @@ void Run::askPrinter(const JobRequest &request)
         JobRequest known = request;
         if (condition) {
             known.terms = condition->terms;
+            if (condition->waiting.phase == JobPhase::Stopped && !m_line.wait) // which tells it
+                warn(stoppedSentence(request.queue, condition->waiting.reason));
             for (const QString &doubt : doubtsAboutPrinter(m_controller.job(), *condition))
                 warn(doubt);
         }

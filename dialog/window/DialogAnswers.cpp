@@ -66,7 +66,8 @@ void DialogWindow::noteEvent()
     if (std::exchange(m_eventIsNoted, true))
         return;
     m_eventLevel = QThread::currentThread()->loopLevel();
-    QTimer::singleShot(0, this, &DialogWindow::tellEvent);
+    // Before anything is painted, so that what the event has changed is painted once.
+    QMetaObject::invokeMethod(this, &DialogWindow::tellEvent, Qt::QueuedConnection);
 }
 
 /// What the dialog has done by itself, as when another part comes in front, is over.

@@ -54,6 +54,7 @@ void DialogWindow::changePart()
     fillPart(part->page);
     if (!part->panel)
         settleMnemonics(*part->page, mnemonicsIn(*this));
+    m_notice->settleMnemonics();
     moveButtonsLast();
     if (m_tabs->isViewMissing() || wasMissing || !m_tabs->pageSetup()->isAcceptable() ||
         !m_tabs->features()->isAcceptable())

@@ -14,6 +14,7 @@
 #include <QtWidgets/QMenu>
 #include <QtWidgets/QPushButton>
 
+#include <algorithm>
 #include <array>
 #include <utility>
 
@@ -46,6 +47,13 @@ QColor mixed(const QColor &base, const QColor &accent, qreal share)
     };
     return QColor(mix(base.red(), accent.red()), mix(base.green(), accent.green()),
                   mix(base.blue(), accent.blue()));
+}
+
+/// Menus are made anew: their ways belong to one offer.
+bool looksLike(const NoticeOffer &one, const NoticeOffer &other)
+{
+    return one.name == other.name && one.title == other.title && one.menu.isEmpty() &&
+           other.menu.isEmpty();
 }
 
 /// The title in so many lines of about the same length.
@@ -86,6 +94,7 @@ NoticeBar::NoticeBar(QWidget *parent)
     m_grid->addWidget(m_label, 0, 1);
     m_grid->addWidget(m_offers, 0, 2);
     m_offerLine->setContentsMargins(0, 0, 0, 0);
+    m_offers->hide();
     clear();
 }
 
@@ -119,11 +128,19 @@ void NoticeBar::showSentence(const QString &sentence)
     giveAccessibleName(this, sentence);
     setAutoFillBackground(!sentence.isEmpty());
     m_sign->setVisible(!sentence.isEmpty());
-    update();
+}
+
+/// Most events tell what can be undone: the button that is there serves.
+void NoticeBar::showOffers(const QList<NoticeOffer> &offers)
+{
+    const bool lookAlike = std::ranges::equal(m_offered, offers, looksLike);
+    m_offered = offers;
+    if (!lookAlike)
+        exchangeButtons();
 }
 
 /// One of the former buttons may be in the midst of its click: until it goes it is nobody.
-void NoticeBar::showOffers(const QList<NoticeOffer> &offers)
+void NoticeBar::exchangeButtons()
 {
     for (QPushButton *button : std::exchange(m_buttons, {})) {
         button->hide();
@@ -131,12 +148,12 @@ void NoticeBar::showOffers(const QList<NoticeOffer> &offers)
         setButtonTitle(button, QString());
         button->deleteLater();
     }
-    for (const NoticeOffer &offer : offers) {
+    for (const NoticeOffer &offer : std::as_const(m_offered)) {
         m_buttons += newButton(offer);
         m_offerLine->addWidget(m_buttons.constLast());
         m_buttons.constLast()->show();
     }
-    m_offers->setVisible(!offers.isEmpty());
+    m_offers->setVisible(!m_offered.isEmpty());
     arrange();
 }
 
@@ -154,9 +171,11 @@ void NoticeBar::arrange()
     for (const QPushButton *button : std::as_const(m_buttons))
         needed += button->sizeHint().width() + m_offerLine->spacing();
     const bool areBeside = needed * 100 <= width() * kMostForOffers;
-    m_grid->removeWidget(m_offers);
-    m_grid->addWidget(m_offers, areBeside ? 0 : 1, areBeside ? 2 : 1,
-                      areBeside ? Qt::Alignment() : Qt::AlignRight);
+    if (std::exchange(m_offersAreBeside, areBeside) != areBeside) {
+        m_grid->removeWidget(m_offers);
+        m_grid->addWidget(m_offers, areBeside ? 0 : 1, areBeside ? 2 : 1,
+                          areBeside ? Qt::Alignment() : Qt::AlignRight);
+    }
     m_offerLine->setDirection(needed <= contentsRect().width() ? QBoxLayout::LeftToRight
                                                                : QBoxLayout::TopToBottom);
 }
@@ -172,15 +191,33 @@ QPushButton *NoticeBar::newButton(const NoticeOffer &offer)
 {
     auto *button = new QPushButton(m_offers);
     button->setObjectName(offer.name);
-    const QString title = displayText(offer.title);
-    setTitleWithFreeMnemonic(*button, withoutMnemonic(brokenTitle(title, linesFor(title))));
-    giveAccessibleName(button, title);
+    titleButton(*button, displayText(offer.title));
     button->setAutoDefault(false);
     if (offer.menu.isEmpty())
-        connect(button, &QPushButton::clicked, this, offer.take);
+        connect(button, &QPushButton::clicked, this, [this, button] { take(button); });
     else
         button->setMenu(newMenu(offer.menu, button));
     return button;
+}
+
+/// What it offers now. It may tell something else, and so exchange the offers.
+void NoticeBar::take(const QPushButton *button)
+{
+    const qsizetype index = m_buttons.indexOf(button);
+    if (index >= 0)
+        std::function<void()>(m_offered[index].take)();
+}
+
+void NoticeBar::titleButton(QPushButton &button, const QString &title)
+{
+    setTitleWithFreeMnemonic(button, withoutMnemonic(brokenTitle(title, linesFor(title))));
+    giveAccessibleName(&button, title);
+}
+
+void NoticeBar::settleMnemonics()
+{
+    for (qsizetype index = 0; index < m_buttons.size(); ++index)
+        titleButton(*m_buttons[index], displayText(m_offered[index].title));
 }
 
 QMenu *NoticeBar::newMenu(const QList<NoticeOffer> &offers, QWidget *parent)

@@ -40,6 +40,9 @@ public:
     void tell(Kind kind, const QString &sentence, const QList<NoticeOffer> &offers = {});
     void clear();
 
+    /// Has the offers answer letters that what is in front now does not answer.
+    void settleMnemonics();
+
     /// How high the sentence may become where two lines are not enough.
     void setMostHeight(int pixels);
 
@@ -54,9 +57,12 @@ protected:
 private:
     void showSentence(const QString &sentence);
     void showOffers(const QList<NoticeOffer> &offers);
+    void exchangeButtons();
     void arrange();
     int linesFor(const QString &title) const;
     QPushButton *newButton(const NoticeOffer &offer);
+    void titleButton(QPushButton &button, const QString &title);
+    void take(const QPushButton *button);
     QMenu *newMenu(const QList<NoticeOffer> &offers, QWidget *parent);
     void applyColors();
 
@@ -65,7 +71,9 @@ private:
     QGridLayout *m_grid;
     QWidget *m_offers;
     QBoxLayout *m_offerLine;
+    QList<NoticeOffer> m_offered;
     QList<QPushButton *> m_buttons; ///< one for each offer
+    bool m_offersAreBeside = true;  ///< the sentence
     Kind m_kind = Kind::Information;
     QString m_sentence;
 };

@@ -3,8 +3,7 @@
 #include "platform/toolkit/PlainLabel.h"
 
 #include <QtGui/QHelpEvent>
-#include <QtGui/QTextLayout>
-#include <QtWidgets/QStylePainter>
+#include <QtGui/QPainter>
 
 #include <algorithm>
 #include <utility>
@@ -14,25 +13,14 @@ namespace {
 constexpr int kFewestLines = 2;
 constexpr int kLeastWidth = 200;
 
-/// The length of the line of the text that begins at `start` and is no wider than `width`.
-int lineLength(const QString &text, qsizetype start, const QFont &font, int width)
-{
-    QTextLayout layout(text.mid(start), font);
-    QTextOption wrapped;
-    wrapped.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
-    layout.setTextOption(wrapped);
-    layout.beginLayout();
-    QTextLine line = layout.createLine();
-    if (line.isValid())
-        line.setLineWidth(width);
-    layout.endLayout();
-    return line.isValid() ? line.textLength() : 0;
-}
-
 } // namespace
 
 NoticeLabel::NoticeLabel(QWidget *parent) : QLabel(parent)
 {
+    QTextOption wrapped;
+    wrapped.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
+    m_layout.setTextOption(wrapped);
+    m_layout.setCacheEnabled(true); // what is measured is painted
     setLabelText(this, QString());
 }
 
@@ -53,19 +41,36 @@ int NoticeLabel::mostLines() const
     return std::max(kFewestLines, m_mostHeight / fontMetrics().lineSpacing());
 }
 
-/// As many as the text has at the present width.
-int NoticeLabel::neededLines() const
+int NoticeLabel::shownCount() const
 {
-    const int width = contentsRect().width();
-    int lines = 0;
-    for (qsizetype start = 0; start < text().size() && lines < mostLines(); ++lines)
-        start += std::max(1, lineLength(text(), start, font(), width));
-    return std::max(kFewestLines, lines);
+    return std::min(m_layout.lineCount(), m_lines);
 }
 
+bool NoticeLabel::isCut() const
+{
+    return m_layout.lineCount() > m_lines;
+}
+
+void NoticeLabel::breakLines()
+{
+    m_layout.setText(text());
+    m_layout.setFont(font());
+    m_layout.beginLayout();
+    while (m_layout.lineCount() <= mostLines()) {
+        QTextLine line = m_layout.createLine();
+        if (!line.isValid())
+            break;
+        line.setLineWidth(contentsRect().width());
+    }
+    m_layout.endLayout();
+}
+
+/// Of as many lines as the text has at the present width.
 void NoticeLabel::takeRoom()
 {
-    if (const int lines = neededLines(); std::exchange(m_lines, lines) != lines)
+    breakLines();
+    const int lines = std::clamp(m_layout.lineCount(), kFewestLines, mostLines());
+    if (std::exchange(m_lines, lines) != lines)
         updateGeometry();
 }
 
@@ -79,19 +84,22 @@ QSize NoticeLabel::minimumSizeHint() const
     return sizeHint();
 }
 
+/// All that is left, as far as there is room for it.
+QString NoticeLabel::lastLine() const
+{
+    const QString rest = text().mid(m_layout.lineAt(shownCount() - 1).textStart()).trimmed();
+    return fontMetrics().elidedText(rest, Qt::ElideRight, contentsRect().width());
+}
+
 QStringList NoticeLabel::shownLines() const
 {
-    const QString whole = text();
-    const int width = contentsRect().width();
     QStringList lines;
-    qsizetype start = 0;
-    while (start < whole.size() && lines.size() < m_lines - 1) {
-        const int length = lineLength(whole, start, font(), width);
-        lines += whole.mid(start, length).trimmed();
-        start += std::max(1, length);
+    for (int index = 0; index < shownCount(); ++index) {
+        const QTextLine line = m_layout.lineAt(index);
+        lines += text().mid(line.textStart(), line.textLength()).trimmed();
     }
-    if (start < whole.size())
-        lines += fontMetrics().elidedText(whole.mid(start).trimmed(), Qt::ElideRight, width);
+    if (isCut())
+        lines.last() = lastLine();
     return lines;
 }
 
@@ -99,9 +107,15 @@ bool NoticeLabel::event(QEvent *event)
 {
     if (event->type() != QEvent::ToolTip)
         return QLabel::event(event);
-    const bool isCut = shownLines().join(u' ') != text().simplified();
-    showToolTip(static_cast<QHelpEvent *>(event)->globalPos(), isCut ? text() : QString(), this);
+    showToolTip(static_cast<QHelpEvent *>(event)->globalPos(), isCut() ? text() : QString(), this);
     return true;
+}
+
+void NoticeLabel::changeEvent(QEvent *event)
+{
+    QLabel::changeEvent(event);
+    if (event->type() == QEvent::FontChange)
+        takeRoom();
 }
 
 void NoticeLabel::resizeEvent(QResizeEvent *event)
@@ -112,15 +126,17 @@ void NoticeLabel::resizeEvent(QResizeEvent *event)
 
 void NoticeLabel::paintEvent(QPaintEvent *)
 {
-    QStylePainter painter(this);
-    const QStringList lines = shownLines();
-    const int line = fontMetrics().lineSpacing();
+    QPainter painter(this);
+    painter.setPen(palette().color(foregroundRole()));
+    const int spacing = fontMetrics().lineSpacing();
     QRect area = contentsRect();
-    area.setTop(area.top() + (area.height() - static_cast<int>(lines.size()) * line) / 2);
-    area.setHeight(line);
-    for (const QString &text : lines) {
-        painter.drawItemText(area, Qt::AlignLeft | Qt::AlignVCenter, palette(), isEnabled(), text,
-                             foregroundRole());
-        area.translate(0, line);
+    area.setTop(area.top() + (area.height() - shownCount() * spacing) / 2);
+    area.setHeight(spacing);
+    for (int index = 0; index < shownCount(); ++index) {
+        if (isCut() && index == shownCount() - 1)
+            painter.drawText(area, Qt::AlignLeft | Qt::AlignVCenter, lastLine());
+        else
+            m_layout.lineAt(index).draw(&painter, area.topLeft());
+        area.translate(0, spacing);
     }
 }

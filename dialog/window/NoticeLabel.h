@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QtGui/QTextLayout>
 #include <QtWidgets/QLabel>
 
 /// A label for plain text with the room of two lines, and of more where its text needs them at its
@@ -25,14 +26,20 @@ public:
 
 protected:
     bool event(QEvent *event) override;
+    void changeEvent(QEvent *event) override;
     void resizeEvent(QResizeEvent *event) override;
     void paintEvent(QPaintEvent *event) override;
 
 private:
     int mostLines() const;
-    int neededLines() const;
+    int shownCount() const;
+    bool isCut() const;
+    QString lastLine() const;
+    void breakLines();
     void takeRoom();
 
+    QTextLayout
+        m_layout; ///< the text at the present width, one line more than there may be room for
     int m_mostHeight = 0; ///< pixels
     int m_lines = 2;      ///< that there is room for
 };

@@ -31,6 +31,8 @@ NoticeSign::NoticeSign(QWidget *parent) : QWidget(parent)
 
 void NoticeSign::setSign(Mark mark, const QColor &color)
 {
+    if (m_mark == mark && m_color == color)
+        return;
     m_mark = mark;
     m_color = color;
     update();

@@ -75,7 +75,7 @@ Credentials PasswordDialog::takeAnswer()
     Credentials answer;
     answer.user = m_user->text();
     answer.domain = m_domain ? m_domain->text() : QString();
-    answer.isToBeKept = m_keep->isVisible() && m_keep->isChecked();
+    answer.isToBeKept = !m_keep->isHidden() && m_keep->isChecked(); // the dialog is closed by now
     QString typed = m_password->text();
     answer.password = Secret::takeFrom(typed);
     m_password->clear();

@@ -12,7 +12,7 @@ QHash<QString, QAccessible::Role> &roles()
 }
 
 // Asked for each class of a widget, the most derived one first.
-QAccessibleInterface *newInterface(const QString &className, QObject *object)
+QAccessibleInterface *newRoleInterface(const QString &className, QObject *object)
 {
     const auto role = roles().constFind(className);
     auto *widget = qobject_cast<QWidget *>(object);
@@ -24,7 +24,7 @@ QAccessibleInterface *newInterface(const QString &className, QObject *object)
 void giveAccessibleRole(const char *className, QAccessible::Role role)
 {
     if (roles().isEmpty())
-        QAccessible::installFactory(newInterface);
+        QAccessible::installFactory(newRoleInterface);
     roles().insert(QString::fromLatin1(className), role);
 }
 

@@ -7,7 +7,7 @@
 
 namespace {
 
-QAccessibleInterface *newInterface(const QString &className, QObject *object)
+QAccessibleInterface *newSliderInterface(const QString &className, QObject *object)
 {
     auto *slider = className == QLatin1String("FractionSlider")
                        ? qobject_cast<FractionSlider *>(object)
@@ -24,7 +24,7 @@ AccessibleSlider::AccessibleSlider(FractionSlider *slider)
 void AccessibleSlider::install()
 {
     static const bool isInstalled = [] {
-        QAccessible::installFactory(newInterface);
+        QAccessible::installFactory(newSliderInterface);
         return true;
     }();
     Q_UNUSED(isInstalled);

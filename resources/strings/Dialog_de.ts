@@ -1451,6 +1451,14 @@ Umschalt+F1 oder das Kontextmenü sagt, warum.</translation>
         <source>%1 would get %2 jobs.</source>
         <translation>%1 würde %2 Aufträge bekommen.</translation>
     </message>
+    <message>
+        <source>The printer %1 is stopped: what is sent waits.</source>
+        <translation>Der Drucker %1 ist angehalten: Was gesendet wird, wartet.</translation>
+    </message>
+    <message>
+        <source>The printer %1 is stopped: what is sent waits. It says: %2</source>
+        <translation>Der Drucker %1 ist angehalten: Was gesendet wird, wartet. Er sagt: %2</translation>
+    </message>
 </context>
 <context>
     <name>OptionRows</name>

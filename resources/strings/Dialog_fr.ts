@@ -1451,6 +1451,14 @@ Maj+F1 ou le menu contextuel dit pourquoi.</translation>
         <source>%1 would get %2 jobs.</source>
         <translation>%1 recevrait %2 travaux.</translation>
     </message>
+    <message>
+        <source>The printer %1 is stopped: what is sent waits.</source>
+        <translation>L’imprimante %1 est arrêtée : ce qui est envoyé attend.</translation>
+    </message>
+    <message>
+        <source>The printer %1 is stopped: what is sent waits. It says: %2</source>
+        <translation>L’imprimante %1 est arrêtée : ce qui est envoyé attend. Elle dit : %2</translation>
+    </message>
 </context>
 <context>
     <name>OptionRows</name>

@@ -1451,6 +1451,14 @@ Shift+F1 or the context menu tells why.</source>
         <source>%1 would get %2 jobs.</source>
         <translation>%2 個のジョブが %1 に送信されます（今回は送信していません）。</translation>
     </message>
+    <message>
+        <source>The printer %1 is stopped: what is sent waits.</source>
+        <translation>プリンター %1 は停止しています。送信されたジョブは待機します。</translation>
+    </message>
+    <message>
+        <source>The printer %1 is stopped: what is sent waits. It says: %2</source>
+        <translation>プリンター %1 は停止しています。送信されたジョブは待機します。プリンターからのメッセージ: %2</translation>
+    </message>
 </context>
 <context>
     <name>OptionRows</name>

@@ -1,11 +1,8 @@
 // A server, and a printer, that want to know who prints: with the dialog, after it, and without it.
 #include "dialog/window/DialogWindow.h"
 #include "dialog/window/JobWindow.h"
-#include "dialog/window/PasswordDialog.h"
-#include "platform/foundation/UserDefaults.h"
-#include "tests/endtoend/DeviceFixture.h"
 #include "tests/endtoend/ProgramRun.h"
-#include "tests/servers/PasswordDemand.h"
+#include "tests/endtoend/SecretsFixture.h"
 #include "tests/support/CaseName.h"
 #include "tests/support/EventLoopWatch.h"
 #include "tests/support/Files.h"
@@ -15,7 +12,6 @@
 #include <QtTest/QTest>
 #include <QtWidgets/QAbstractButton>
 #include <QtWidgets/QLabel>
-#include <QtWidgets/QLineEdit>
 
 #include <algorithm>
 #include <csignal>
@@ -27,84 +23,6 @@
 using namespace Qt::StringLiterals;
 
 namespace {
-
-constexpr int kAnswered = 20000; // ms
-const QString kSecret = u"s3cret"_s;
-
-/// The server lets nobody through but "anna" with that password; so does the device of the queue
-/// "password", which has the server hold the job.
-class Secrets : public DeviceFixture
-{
-protected:
-    Secrets()
-        : m_front(passwordDemand(PasswordScheme::Digest, "anna", kSecret.toUtf8(), server().port()))
-    {
-        UserDefaults::standardUserDefaults().setFolder(QString());
-    }
-    ~Secrets() override
-    {
-        setPasswordAsker(nullptr);
-        forgetPasswords();
-    }
-
-    DialogWishes wishes()
-    {
-        DialogWishes wishes;
-        wishes.server = m_front.address();
-        wishes.queue = u"finish"_s;
-        wishes.files = {document()};
-        return wishes;
-    }
-
-    /// The server knows beforehand that the printer behind "password" asks who prints.
-    static bool wantPassword()
-    {
-        return server().lpadmin(
-            {u"-p"_s, u"password"_s, u"-o"_s, u"auth-info-required=username,password"_s});
-    }
-
-    static PasswordDialog *sheetIn(const QWidget &window)
-    {
-        PasswordDialog *found = nullptr;
-        EXPECT_TRUE(QTest::qWaitFor(
-            [&] {
-                for (PasswordDialog *one : window.findChildren<PasswordDialog *>())
-                    found = one->isVisible() ? one : found;
-                return found != nullptr;
-            },
-            kAnswered));
-        return found;
-    }
-
-    template <typename Widget> static Widget &part(const QWidget &parent, const char *name)
-    {
-        auto *found = parent.findChild<Widget *>(QLatin1String(name));
-        EXPECT_NE(found, nullptr) << name;
-        return *found;
-    }
-
-    static QString textOf(const PasswordDialog &sheet)
-    {
-        return part<QLabel>(sheet, "passwordText").text();
-    }
-
-    static void answer(PasswordDialog &sheet, const QString &password)
-    {
-        auto &user = part<QLineEdit>(sheet, "passwordUser");
-        user.clear();
-        QTest::keyClicks(&user, u"anna"_s);
-        QTest::keyClicks(&part<QLineEdit>(sheet, "passwordField"), password);
-        QTest::mouseClick(&part<QAbstractButton>(sheet, "passwordOK"), Qt::LeftButton);
-        EXPECT_FALSE(sheet.isVisible());
-    }
-
-    static bool waitWhile(const DialogWindow &window, DialogWindow::State state)
-    {
-        return QTest::qWaitFor([&] { return window.state() != state; }, kAnswered);
-    }
-
-    const ScriptedServer m_front;
-};
 
 TEST_F(Secrets, AreAskedForInASheetAndAskedForAgain)
 {
@@ -162,7 +80,7 @@ TEST_F(Secrets, AreNotAskedForAnyLongerWhenTheDialogEnds)
     window.end();
     EXPECT_TRUE(QTest::qWaitFor(
         [&] { return window.findChildren<PasswordDialog *>().isEmpty() && !window.isVisible(); },
-        kAnswered));
+        kLongestAnswer));
 }
 
 TEST_F(Secrets, OfAPrinterReleaseTheJobThatIsHeldForThem)
@@ -171,7 +89,7 @@ TEST_F(Secrets, OfAPrinterReleaseTheJobThatIsHeldForThem)
     JobWindow window(server().address(), {u"password"_s, id, 1});
     window.show();
     auto &enter = part<QAbstractButton>(window, "authenticateButton");
-    ASSERT_TRUE(QTest::qWaitFor([&] { return enter.isVisible(); }, kAnswered))
+    ASSERT_TRUE(QTest::qWaitFor([&] { return enter.isVisible(); }, kLongestAnswer))
         << window.sentence().toStdString();
     QTest::mouseClick(&enter, Qt::LeftButton);
     PasswordDialog *sheet = sheetIn(window);
@@ -182,7 +100,7 @@ TEST_F(Secrets, OfAPrinterReleaseTheJobThatIsHeldForThem)
     answer(*sheet, kSecret);
     EXPECT_TRUE(QTest::qWaitFor(
         [&] { return window.sentence() == u"Job %1 on password is printed."_s.arg(id); },
-        kAnswered))
+        kLongestAnswer))
         << window.sentence().toStdString();
 }
 
@@ -248,7 +166,7 @@ protected:
                                   u"exec \"$0\" --password-fd 7 \"$@\" 7<\"$PASSWORD_FILE\""_s,
                                   QStringLiteral(VELKARO_PROGRAM)} +
                           arguments);
-        EXPECT_TRUE(process.waitForFinished(kAnswered));
+        EXPECT_TRUE(process.waitForFinished(kLongestAnswer));
         return {process.exitCode(), QString::fromUtf8(process.readAllStandardOutput()),
                 QString::fromUtf8(process.readAllStandardError())};
     }
@@ -343,7 +261,7 @@ TerminalRun runOnTerminal(const QStringList &arguments, const QString &home,
     }
     TerminalRun run;
     bool isOver = false;
-    for (pollfd watched{terminal, POLLIN, 0}; !isOver && poll(&watched, 1, kAnswered) > 0;) {
+    for (pollfd watched{terminal, POLLIN, 0}; !isOver && poll(&watched, 1, kLongestAnswer) > 0;) {
         char bytes[4096];
         const ssize_t count = read(terminal, bytes, sizeof bytes);
         isOver = count <= 0;

@@ -133,7 +133,7 @@ TEST_F(Ink, ThatNobodyTellsOfIsNotShown)
     wishes.files = {document()};
     CallGuard guard;
     const PrinterCondition told = *askCondition(server().address(), u"finish"_s, guard);
-    EXPECT_EQ(told, (PrinterCondition{0, {}, {}, told.terms}));
+    EXPECT_EQ(told, (PrinterCondition{0, {}, {}, told.terms, {}}));
     DialogWindow window(wishes);
     window.start();
     window.show();

@@ -106,6 +106,30 @@ INSTANTIATE_TEST_SUITE_P(
                         IPP_JSTATE_PROCESSING}),
     CaseName());
 
+/// A printer that was stopped before, or is by the job; both tell so with and without --wait.
+TEST_F(Wait, TellsThatThePrinterIsStoppedAndWhy)
+{
+    const ProgramRun stopping = printAndWait(u"stop"_s, {u"--timeout"_s, u"0"_s});
+    EXPECT_EQ(stopping.status, 8);
+    const QString stopped =
+        u"velkaro-print: Job %1 on stop is waiting: the printer is stopped: The carriage is "
+        "blocked.\nvelkaro-print: Job %1 on stop was not waited for any longer; it stays where it "
+        "is.\n"_s;
+    EXPECT_TRUE(stopping.errors.endsWith(stopped.arg(numberIn(stopping))))
+        << stopping.errors.toStdString();
+    EXPECT_EQ(stateOf(u"stop"_s, stopping), IPP_JSTATE_PENDING);
+    const ProgramRun behind = printAndWait(u"stop"_s, {u"--timeout"_s, u"0"_s});
+    EXPECT_EQ(behind.status, 8);
+    EXPECT_EQ(behind.errors, stopped.arg(numberIn(behind)));
+    const ProgramRun alone =
+        runProgram({u"--no-dialog"_s, u"-h"_s, server().address(), u"-d"_s, u"stop"_s, document()});
+    EXPECT_EQ(alone.status, 0);
+    EXPECT_EQ(alone.errors, u"velkaro-print: The printer stop is stopped: what is sent waits. It "
+                            "says: The carriage is blocked\n"_s);
+    ASSERT_TRUE(server().command(u"cancel"_s, {u"-a"_s, u"stop"_s}));
+    ASSERT_TRUE(server().command(u"cupsenable"_s, {u"stop"_s}));
+}
+
 TEST_F(Wait, GoesOnWhenThePrinterIsLookedAfter)
 {
     const ProgramRun run = printAndWait(u"empty"_s, {}, [this](QProcess &program) {

@@ -41,6 +41,9 @@ ScriptedServer::ScriptedServer(Script script, int port)
     address.sin_port = htons(static_cast<in_port_t>(port));
     socklen_t length = sizeof address;
     auto *generic = reinterpret_cast<sockaddr *>(&address);
+    // A port whose former server has just gone is free.
+    const int reuse = 1;
+    setsockopt(m_listener, SOL_SOCKET, SO_REUSEADDR, &reuse, sizeof reuse);
     if (bind(m_listener, generic, length) == 0 && listen(m_listener, SOMAXCONN) == 0 &&
         getsockname(m_listener, generic, &length) == 0)
         m_port = ntohs(address.sin_port);

@@ -40,6 +40,7 @@ const QList<SourceRule> &plainTextRules()
          u"setLabelText() or setButtonTitle()"_s,
          {u"platform/toolkit/PlainLabel.cpp"_s, u"platform/toolkit/PlainText.cpp"_s,
           u"platform/toolkit/Alert.cpp: box->setText(content.text);"_s,
+          u"dialog/window/NoticeLabel.cpp: m_layout.setText(text());"_s,
           u"dialog/window/PresetNameDialog.cpp: m_name->setText(name);"_s,
           u"dialog/window/Mnemonics.cpp: button.setText(withMnemonic(title, mnemonicsIn(*button.window(), &button)));"_s,
           u"dialog/window/Mnemonics.cpp: button.setText(withMnemonic(title, mnemonicsInFront(*button.window(), &button)));"_s,

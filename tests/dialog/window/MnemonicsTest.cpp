@@ -247,6 +247,23 @@ TEST_P(MnemonicsOfTheDialog, OfOffersAreNoneOfThePanelInFront)
         expectNoneIsLeft(*undo);
 }
 
+TEST_P(MnemonicsOfTheDialog, OfOffersThatStayAreNoneOfThePanelThatComesInFront)
+{
+    open();
+    part<QTabWidget>("parts")->setCurrentIndex(0);
+    pick("paperPopup", u"EnvDL"_s);
+    for (const QString &name : {u"print"_s, u"color"_s, u"print"_s}) {
+        SCOPED_TRACE(name.toStdString());
+        showUnfolded(name);
+        QCoreApplication::processEvents();
+        const auto *use = part<QAbstractButton>("adviceButton");
+        ASSERT_TRUE(use && use->isVisible());
+        expectNoneTwice(lettersInSight());
+        if (use->shortcut().isEmpty())
+            expectNoneIsLeft(*use);
+    }
+}
+
 TEST_P(MnemonicsOfTheDialog, StandInTabsThatAreAllInSight)
 {
     open();

@@ -140,6 +140,36 @@ TEST(NoticeBar, OffersWhatMayHelpAsAButton)
     EXPECT_EQ(button(), nullptr);
 }
 
+TEST(NoticeBar, KeepsTheButtonOfAnOfferThatLooksAlikeAndTakesTheNewestOne)
+{
+    NoticeBar bar;
+    bar.show();
+    QStringList taken;
+    const auto offer = [&](const QString &what) {
+        return NoticeOffer{u"undoButton"_s, u"Undo"_s, [&taken, what] { taken += what; }};
+    };
+    bar.tell(NoticeBar::Kind::Information, u"Glossy."_s, {offer(u"first"_s)});
+    auto *button = bar.findChild<QPushButton *>(u"undoButton"_s);
+    bar.tell(NoticeBar::Kind::Warning, u"Plain."_s, {offer(u"second"_s)});
+    EXPECT_EQ(bar.findChild<QPushButton *>(u"undoButton"_s), button);
+    QTest::mouseClick(button, Qt::LeftButton);
+    EXPECT_EQ(taken, QStringList{u"second"_s});
+}
+
+TEST(NoticeBar, BreaksItsSentenceAnewForAnotherFont)
+{
+    NoticeBar bar;
+    bar.resize(400, bar.sizeHint().height());
+    bar.show();
+    bar.tell(NoticeBar::Kind::Warning, u"The printer does not allow it today."_s);
+    const auto *label = bar.findChild<NoticeLabel *>();
+    EXPECT_EQ(label->shownLines().size(), 1);
+    QFont large = bar.font();
+    large.setPointSize(2 * large.pointSize());
+    bar.setFont(large);
+    EXPECT_EQ(label->shownLines().size(), 2);
+}
+
 TEST(NoticeSign, IsAMarkInACircleOfItsColor)
 {
     NoticeSign sign;
