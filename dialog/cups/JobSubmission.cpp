@@ -7,6 +7,10 @@
 #include "dialog/cups/LostCreation.h"
 #include "dialog/cups/QueueOutlook.h"
 
+#include <QtCore/QCoreApplication>
+
+#include <utility>
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -32,6 +36,24 @@ int createdJob(const IppHandle &response)
 {
     ipp_attribute_t *id = ippFindAttribute(response.get(), "job-id", IPP_TAG_INTEGER);
     return id ? qMax(0, ippGetInteger(id, 0)) : 0;
+}
+
+/// Whether the server has said that it would not take the job; not every server can be asked.
+bool isRefused(const ServerConnection &connection)
+{
+    return !connection.succeeded() &&
+           connection.lastEnd().status != IPP_STATUS_ERROR_OPERATION_NOT_SUPPORTED;
+}
+
+/// Asking what would become of a job passes over that its queue takes none.
+bool takesJobs(ServerConnection &connection, const QString &queue)
+{
+    IppHandle request = queueRequest(IPP_OP_GET_PRINTER_ATTRIBUTES, queue);
+    askFor(request.get(), {"printer-is-accepting-jobs"});
+    const IppHandle answer = connection.request(std::move(request), queueResource(queue));
+    ipp_attribute_t *takes =
+        ippFindAttribute(answer.get(), "printer-is-accepting-jobs", IPP_TAG_BOOLEAN);
+    return !takes || ippGetBoolean(takes, 0);
 }
 
 } // namespace
@@ -71,15 +93,37 @@ Result<int> JobSubmission::create(const JobRequest &job, const AuthInfo &who)
     return fault;
 }
 
-Result<JobReceipt> JobSubmission::submit(const JobRequest &request, JobProgress &progress)
+/// The job as it is to be created, whose documents are still as they were.
+Result<JobRequest> JobSubmission::begin(const JobRequest &request)
 {
     if (const Result<> unchanged = checkUnchanged(request.documents); !unchanged)
         return unchanged.fault();
     if (!m_connection.isConnected() || m_connection.guard().isCancelled())
         return notPrinted(m_connection.lastFault(request.queue), request.queue);
     const Result<JobRequest> job = prepare(request);
+    return job ? job : notPrinted(job.fault(), request.queue);
+}
+
+Result<> JobSubmission::rehearse(const JobRequest &request)
+{
+    if (const Result<JobRequest> job = begin(request); !job)
+        return job.fault();
+    if (isRefused(m_connection))
+        return notPrinted(m_connection.lastFault(request.queue), request.queue);
+    if (takesJobs(m_connection, request.queue))
+        return {};
+    return notPrinted(
+        {FaultKind::Refused,
+         QCoreApplication::translate("JobSubmission", "The queue %1 takes no jobs at present.")
+             .arg(request.queue)},
+        request.queue);
+}
+
+Result<JobReceipt> JobSubmission::submit(const JobRequest &request, JobProgress &progress)
+{
+    const Result<JobRequest> job = begin(request);
     if (!job)
-        return notPrinted(job.fault(), request.queue);
+        return job.fault();
     const Result<AuthInfo> who = askWhoPrints(m_connection, job->queue, m_terms->authInfo);
     if (!who)
         return notPrinted(who.fault(), job->queue);
@@ -99,6 +143,11 @@ Result<JobReceipt> submitJob(const JobRequest &request, CallGuard &guard,
                              const std::shared_ptr<JobProgress> &progress)
 {
     return JobSubmission(request.server, guard).submit(request, *progress);
+}
+
+Result<> rehearseJob(const JobRequest &request, CallGuard &guard)
+{
+    return JobSubmission(request.server, guard).rehearse(request);
 }
 
 Result<JobReceipt> givenUpReceipt(const JobRequest &request, const JobProgress &progress)

@@ -49,7 +49,12 @@ public:
 
     Result<JobReceipt> submit(const JobRequest &request, JobProgress &progress);
 
+    /// Looks at everything that submit() looks at before it creates a job: the fault that the job
+    /// would end with.
+    Result<> rehearse(const JobRequest &request);
+
 private:
+    Result<JobRequest> begin(const JobRequest &request);
     Result<JobRequest> prepare(const JobRequest &request);
     Result<int> create(const JobRequest &job, const AuthInfo &who);
 
@@ -69,6 +74,9 @@ private:
 Result<JobReceipt>
 submitJob(const JobRequest &request, CallGuard &guard,
           const std::shared_ptr<JobProgress> &progress = std::make_shared<JobProgress>());
+
+/// Rehearses it. Blocks: call it in a BackgroundCall.
+Result<> rehearseJob(const JobRequest &request, CallGuard &guard);
 
 /// What is known of the job when the server was given up by whoever waited.
 Result<JobReceipt> givenUpReceipt(const JobRequest &request, const JobProgress &progress);

@@ -15,11 +15,13 @@ Result<PrinterCondition> askCondition(const QString &server, const QString &queu
 {
     ServerConnection connection(server, guard);
     IppHandle request = queueRequest(IPP_OP_GET_PRINTER_ATTRIBUTES, queue);
-    askFor(request.get(), QList<QByteArray>{"queued-job-count"} + supplyAttributes() +
-                              loadedMediaAttributes() + printerStatusAttributes() +
-                              termsAttributes());
+    askFor(request.get(), QList<QByteArray>{"queued-job-count", "member-names"} +
+                              supplyAttributes() + loadedMediaAttributes() +
+                              printerStatusAttributes() + termsAttributes());
     const IppHandle answer = connection.request(std::move(request), queueResource(queue));
     if (!answer || !connection.succeeded())
         return connection.lastFault(queue);
-    return conditionOf(answer.get());
+    PrinterCondition condition = conditionOf(answer.get());
+    condition.members = classMembers(answer.get(), connection);
+    return condition;
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "dialog/cups/ClassMembers.h"
 #include "dialog/cups/JobStatus.h"
 #include "dialog/cups/LoadedMedia.h"
 #include "dialog/cups/Supplies.h"
@@ -18,11 +19,12 @@ struct PrinterCondition
     QList<LoadedMedium> loaded;
     QueueTerms terms = {};
     JobStatus waiting = {}; ///< of a job that comes now: for its turn, or the printer is stopped
+    QList<ClassMember> members = {}; ///< of a class, where there are several
 
     bool operator==(const PrinterCondition &) const = default;
 };
 
-/// Out of the printer's attributes.
+/// Out of the printer's attributes; its members are not among them.
 PrinterCondition conditionOf(ipp_t *printer);
 
 /// Asks the server (null: the user's usual one) how the queue's printer is. Blocks: call it in a

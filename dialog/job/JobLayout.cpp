@@ -229,9 +229,11 @@ QString normalizedLayoutValue(const LayoutSetting &setting, const QString &value
 QStringList layoutValues(const LayoutSetting &setting)
 {
     QStringList values;
+    if (!setting.form.isEmpty())
+        values += setting.form; // of long lists people are told the beginning
     for (const LayoutChoice &choice : setting.choices)
         values += choice.value;
-    return setting.form.isEmpty() ? values : values + QStringList{setting.form};
+    return values;
 }
 
 QString layoutTitle(const LayoutSetting &setting)

@@ -58,7 +58,7 @@ const LayoutSetting *layoutSetting(const QString &option);
 /// The value as it is sent; null when it is no value for the setting.
 QString normalizedLayoutValue(const LayoutSetting &setting, const QString &value);
 
-/// The values as they are typed, and the form of those that are no choices.
+/// The form of the values that are no choices, and those that are, as they are typed.
 QStringList layoutValues(const LayoutSetting &setting);
 
 /// The value for people.

@@ -129,6 +129,19 @@ bool isForeignKeyword(const JobOption &option)
 
 } // namespace
 
+QList<JobOption> optionsForOthers(ppd_file_t *ppd, const QList<JobOption> &options)
+{
+    QList<JobOption> others;
+    for (const JobOption &option : options) {
+        const bool isLacking = findOption(ppd, option.name)
+                                   ? normalizedValue(ppd, option.name, option.value).isNull()
+                                   : isForeignKeyword(option);
+        if (ppd && isLacking)
+            others += option;
+    }
+    return others;
+}
+
 SavedSettings applySavedOptions(ppd_file_t *ppd, const QList<JobOption> &saved)
 {
     SavedSettings settings;

@@ -24,6 +24,10 @@ struct SavedSettings
     QList<JobOption> unusable;
 };
 
+/// Those of the options that are meant for another printer than that of the PPD (null: one that
+/// nothing is known of): choices that it does not have, and keywords that nobody knows.
+QList<JobOption> optionsForOthers(ppd_file_t *ppd, const QList<JobOption> &options);
+
 /// Marks the saved choices in the PPD (null: none), standard attributes such as `media` and `sides`
 /// included as libcups maps them, and gives the rest. Choices that the PPD lacks are not marked.
 SavedSettings applySavedOptions(ppd_file_t *ppd, const QList<JobOption> &saved);

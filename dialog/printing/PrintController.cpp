@@ -1,6 +1,7 @@
 #include "dialog/printing/PrintController.h"
 
 #include "dialog/cups/CoverPages.h"
+#include "dialog/cups/JobSettlement.h"
 #include "dialog/cups/Passwords.h"
 #include "dialog/cups/ServerConnection.h"
 #include "dialog/host/HostSession.h"
@@ -386,6 +387,18 @@ std::shared_ptr<JobProgress> PrintController::send(const JobRequest &request, Th
         },
         std::move(then), [request, progress] { return givenUpReceipt(request, *progress); });
     return progress;
+}
+
+void PrintController::rehearse(const JobRequest &request, Then<std::monostate> then)
+{
+    begin<Result<>>(
+        m_call, kServerTimeout,
+        [request](CallGuard &guard) {
+            const PasswordScope scope(PasswordPurpose::Printing, request.queue);
+            return rehearseJob(request, guard);
+        },
+        std::move(then),
+        [request] { return Result<>(notPrinted(silentServer(request.server), request.queue)); });
 }
 
 void PrintController::endTrial(const JobPlace &job, TrialVerdict verdict, Then<std::monostate> then)

@@ -147,6 +147,9 @@ public:
     /// Sends a job. What is gone out of it is in the progress.
     std::shared_ptr<JobProgress> send(const JobRequest &request, Then<JobReceipt> then);
 
+    /// Looks at all that send() looks at before there is a job.
+    void rehearse(const JobRequest &request, Then<std::monostate> then);
+
     /// Ends the wait of a job that was sent and is on trial.
     void endTrial(const JobPlace &job, TrialVerdict verdict, Then<std::monostate> then);
 

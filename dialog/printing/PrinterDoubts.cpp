@@ -66,11 +66,28 @@ QStringList doubtsOnPaper(const PrintJob &job, const QList<LoadedMedium> &loaded
                      textsOf(job, there).join(QCoreApplication::translate("Supplies", ", ")))};
 }
 
+/// A class has the PPD of one of its members, and a job may go to any of them.
+QStringList doubtsOnClass(const QList<ClassMember> &members)
+{
+    if (!areOfDifferentModels(members))
+        return {};
+    QStringList texts;
+    for (const ClassMember &member : members)
+        texts += displayText(member.model.isEmpty() ? member.queue
+                                                    : u"%1 (%2)"_s.arg(member.queue, member.model));
+    return {QCoreApplication::translate(
+                "PrinterDoubts",
+                "The jobs of this queue go to printers of different models: %1. What is set for "
+                "one of them may come out differently on another.")
+                .arg(texts.join(QCoreApplication::translate("Supplies", ", ")))};
+}
+
 } // namespace
 
 QStringList doubtsAboutPrinter(const PrintJob &job, const PrinterCondition &printer)
 {
-    return doubtsOnSupplies(job, printer.supplies) + doubtsOnPaper(job, printer.loaded);
+    return doubtsOnClass(printer.members) + doubtsOnSupplies(job, printer.supplies) +
+           doubtsOnPaper(job, printer.loaded);
 }
 
 QStringList loadedTexts(const PrintJob &job, const PrinterCondition &printer)

@@ -115,14 +115,19 @@ QList<JobOption> startingOptions(PrinterSource &source, ppd_file_t *ppd)
     return options;
 }
 
+QString typedSettings(const QList<JobOption> &settings)
+{
+    QStringList named;
+    for (const JobOption &option : settings.first(std::min<qsizetype>(settings.size(), kMostNamed)))
+        named += displayText(option.name.left(40) + u'=' + option.value.left(40));
+    return named.join(QCoreApplication::translate("PrinterSource", ", "));
+}
+
 QStringList notesOnStart(const PrinterSource &source, const QList<JobOption> &missing)
 {
     if (missing.isEmpty())
         return {};
-    QStringList named;
-    for (const JobOption &option : missing.first(std::min<qsizetype>(missing.size(), kMostNamed)))
-        named += displayText(option.name.left(40) + u'=' + option.value.left(40));
-    const QString list = named.join(QCoreApplication::translate("PrinterSource", ", "));
+    const QString list = typedSettings(missing);
     if (source.start.kind == StartingSettings::Kind::LastUsed)
         return {QCoreApplication::translate("PrinterSource",
                                             "The printer no longer has some of the settings that "

@@ -48,6 +48,9 @@ QueueName wantedQueue(const QString &queue, const QString &instance);
 /// that starts from what was used last says afterwards whether there is any.
 QList<JobOption> startingOptions(PrinterSource &source, ppd_file_t *ppd);
 
+/// The settings as they are typed, one behind the other; of many the first few.
+QString typedSettings(const QList<JobOption> &settings);
+
 /// One sentence on the settings that the source started from and the printer does not have; none
 /// when it has them all.
 QStringList notesOnStart(const PrinterSource &source, const QList<JobOption> &missing);

@@ -3,6 +3,8 @@
 #include "dialog/files/PathBytes.h"
 #include "dialog/job/JobFileReader.h"
 #include "dialog/job/SavedJobOptions.h"
+#include "dialog/job/SavedSettings.h"
+#include "dialog/printing/PrinterSource.h"
 
 #include <QtCore/QCoreApplication>
 
@@ -56,6 +58,17 @@ Result<> refuseSavedJobs(const Documents &documents)
                                              "%1 is a saved job: it is sent alone, with no other "
                                              "document beside it.")
                      .arg(saved->path())};
+}
+
+QStringList notesOnSending(ppd_file_t *ppd, const QList<JobOption> &options)
+{
+    const QList<JobOption> others = optionsForOthers(ppd, options);
+    if (others.isEmpty())
+        return {};
+    return {QCoreApplication::translate("SavedJob",
+                                        "The printer does not have some of the settings that the "
+                                        "job was saved with: %1.")
+                .arg(typedSettings(others))};
 }
 
 QStringList notesOnSaving(const QString &path, const QList<JobOption> &options)

@@ -28,6 +28,18 @@
 
 namespace {
 
+const auto kCovers = QStringLiteral("job-sheets");
+
+/// The cover pages that the job asks for.
+QStringList coversOf(const JobRequest &job)
+{
+    QStringList covers;
+    for (const JobOption &option : job.options)
+        if (option.name == kCovers)
+            covers = option.value.split(u',', Qt::SkipEmptyParts);
+    return covers;
+}
+
 /// Says on standard error what is about to be sent.
 void list(const JobRequest &job)
 {
@@ -103,6 +115,7 @@ public:
 private:
     void readDocuments();
     void takeDocuments();
+    void lookAtSavedJob(const JobRequest &job);
     void findPrinter();
     void takePrinter(const FoundPrinter &printer);
     void makeSettings();
@@ -111,9 +124,11 @@ private:
     void finish();
     void decide(const FinishedJob &finished);
     void deliver(const JobRequest &request);
+    void checkCovers(const JobRequest &request);
     void askPrinter(const JobRequest &request);
     QList<OutgoingJob> outgoing(const JobRequest &request);
     void send(const JobRequest &request);
+    void rehearse(const QList<OutgoingJob> &jobs);
     void write(const JobRequest &request);
     bool tell(const QString &sentence);
     void endDryRun(const QString &sentence);
@@ -175,7 +190,23 @@ void Run::takeDocuments()
         return;
     if (!job->queue.isEmpty())
         list(*job);
-    send(*job);
+    lookAtSavedJob(*job);
+}
+
+/// A printer that cannot be looked at gets the job all the same: its server says what is wrong.
+void Run::lookAtSavedJob(const JobRequest &job)
+{
+    if (job.queue.isEmpty()) {
+        send(job);
+        return;
+    }
+    m_controller.findPrinter(
+        {job.server, {job.queue, {}}, m_line.ppd}, [this, job](const Result<FoundPrinter> &) {
+            for (const QString &note : notesOnSending(m_controller.job().ppd(), job.options))
+                warn(note);
+            if (goOn({}))
+                send(job);
+        });
 }
 
 void Run::findPrinter()
@@ -293,7 +324,26 @@ void Run::deliver(const JobRequest &request)
     else if (request.queue.isEmpty())
         send(request);
     else
+        checkCovers(request);
+}
+
+/// Only the server knows its cover pages. One that does not tell them says what is wrong with the
+/// job itself.
+void Run::checkCovers(const JobRequest &request)
+{
+    const QStringList wanted = coversOf(request);
+    if (wanted.isEmpty()) {
         askPrinter(request);
+        return;
+    }
+    m_controller.listCoverPages([this, request, wanted](const Result<QStringList> &there) {
+        Result<> known;
+        for (const QString &cover : wanted)
+            if (known && there && !there->isEmpty() && !there->contains(cover))
+                known = noSuchValue({kCovers, cover}, *there);
+        if (goOn(known))
+            askPrinter(request);
+    });
 }
 
 /// What the printer lacks is told, and stops nothing; nor does one that cannot be asked.
@@ -338,14 +388,25 @@ void Run::send(const JobRequest &request)
         return;
     }
     const QList<OutgoingJob> jobs = outgoing(request);
-    if (!m_line.dryRun)
-        m_dispatch.send(jobs);
-    else if (jobs.size() == 1)
-        endDryRun(QCoreApplication::translate("NoDialogCommand", "%1 would get the job.")
-                      .arg(request.queue));
+    if (m_line.dryRun)
+        rehearse(jobs);
     else
-        endDryRun(QCoreApplication::translate("NoDialogCommand", "%1 would get %2 jobs.")
-                      .arg(request.queue, QString::number(jobs.size())));
+        m_dispatch.send(jobs);
+}
+
+/// The jobs differ in their documents alone.
+void Run::rehearse(const QList<OutgoingJob> &jobs)
+{
+    const JobRequest &first = jobs.constFirst().request;
+    const QString sentence =
+        jobs.size() == 1 ? QCoreApplication::translate("NoDialogCommand", "%1 would get the job.")
+                               .arg(first.queue)
+                         : QCoreApplication::translate("NoDialogCommand", "%1 would get %2 jobs.")
+                               .arg(first.queue, QString::number(jobs.size()));
+    m_controller.rehearse(first, [this, sentence](const Result<> &looked) {
+        if (goOn(looked))
+            endDryRun(sentence);
+    });
 }
 
 void Run::write(const JobRequest &request)

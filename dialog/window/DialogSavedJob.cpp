@@ -3,6 +3,7 @@
 #include "dialog/job/SavedJobOptions.h"
 #include "dialog/printing/SavedJob.h"
 #include "dialog/window/DialogWindow.h"
+#include "dialog/work/Sentences.h"
 #include "platform/ppd/PPDText.h"
 #include "platform/toolkit/Alert.h"
 
@@ -84,10 +85,12 @@ std::optional<JobRequest> DialogWindow::savedJobToSend()
 
 DialogWindow::Notice DialogWindow::savedJobNotice() const
 {
-    if (job().source().queue.queue.isEmpty())
-        return {NoticeBar::Kind::Information, tr("Choose the printer for this saved job.")};
-    return {NoticeBar::Kind::Information,
-            tr("This job is printed with the settings that it was saved with.")};
+    const QStringList notes = notesOnSending(job().ppd(), m_savedJob->options);
+    const QString what = job().source().queue.queue.isEmpty()
+                             ? tr("Choose the printer for this saved job.")
+                             : tr("This job is printed with the settings that it was saved with.");
+    return {notes.isEmpty() ? NoticeBar::Kind::Information : NoticeBar::Kind::Warning,
+            joinedSentences(QStringList{what} + notes)};
 }
 
 QList<SummarySection> DialogWindow::savedJobSections() const

@@ -1,5 +1,6 @@
 #include "dialog/window/HiddenAlertsDialog.h"
 
+#include "dialog/window/SheetLayout.h"
 #include "platform/toolkit/AccessibleName.h"
 #include "platform/toolkit/PlainLabel.h"
 #include "platform/toolkit/PlainText.h"
@@ -29,6 +30,9 @@ HiddenAlertsDialog::HiddenAlertsDialog(const Bundle &bundle, QWidget *parent)
     m_list->setObjectName(u"hiddenAlertsList"_s);
     m_list->setSelectionMode(QAbstractItemView::ExtendedSelection);
     m_list->setMinimumSize(kListSize);
+    m_list->setWordWrap(true);
+    m_list->setResizeMode(QListView::Adjust);
+    m_list->setAlternatingRowColors(true);
     giveAccessibleName(m_list, tr("Hidden Warnings"));
     auto *buttons = new QDialogButtonBox(this);
     m_showSelected = buttons->addButton(tr("Show Again"), QDialogButtonBox::ActionRole);
@@ -36,10 +40,12 @@ HiddenAlertsDialog::HiddenAlertsDialog(const Bundle &bundle, QWidget *parent)
     m_showAll = buttons->addButton(tr("Show All Again"), QDialogButtonBox::ActionRole);
     m_showAll->setObjectName(u"showAllAgainButton"_s);
     buttons->addButton(tr("Close"), QDialogButtonBox::RejectRole);
-    auto *layout = new QVBoxLayout(this);
+    auto *content = new QWidget(this);
+    auto *layout = new QVBoxLayout(content);
+    layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(meaning);
     layout->addWidget(m_list);
-    layout->addWidget(buttons);
+    layOutSheet(*this, content, buttons);
     connect(m_showSelected, &QPushButton::clicked, this, [this] { showAlerts(selected()); });
     connect(m_showAll, &QPushButton::clicked, this, [this] { showAlerts(m_alerts); });
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);

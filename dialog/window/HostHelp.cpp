@@ -1,10 +1,9 @@
 #include "dialog/window/HostHelp.h"
 
-#include "dialog/window/ScrolledBody.h"
+#include "dialog/window/SheetLayout.h"
 #include "platform/toolkit/PlainLabel.h"
 
 #include <QtCore/QCoreApplication>
-#include <QtGui/QScreen>
 #include <QtWidgets/QDialog>
 #include <QtWidgets/QDialogButtonBox>
 #include <QtWidgets/QLabel>
@@ -59,15 +58,10 @@ void showHostHelp(QWidget *parent)
     window->setObjectName(u"hostHelp"_s);
     window->setAttribute(Qt::WA_DeleteOnClose);
     window->setWindowTitle(QCoreApplication::translate("HostHelp", "Print Help"));
-    auto *layout = new QVBoxLayout(window);
-    auto *body = new ScrolledBody(window);
-    body->setContent(newText());
-    layout->addWidget(body);
     auto *buttons = new QDialogButtonBox(window);
     buttons->addButton(QCoreApplication::translate("HostHelp", "Close"),
                        QDialogButtonBox::RejectRole);
     QObject::connect(buttons, &QDialogButtonBox::rejected, window, &QDialog::reject);
-    layout->addWidget(buttons);
-    window->resize(window->sizeHint().boundedTo(window->screen()->availableSize()));
+    layOutSheet(*window, newText(), buttons);
     window->show();
 }

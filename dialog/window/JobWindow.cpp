@@ -1,14 +1,16 @@
 #include "dialog/window/JobWindow.h"
 
+#include "dialog/window/FlowLayout.h"
 #include "dialog/window/Mnemonics.h"
 #include "dialog/window/OpenQueue.h"
+#include "dialog/window/SentenceLabel.h"
 #include "dialog/window/SheetAsker.h"
+#include "dialog/window/SheetLayout.h"
 #include "platform/toolkit/AccessibleName.h"
 #include "platform/toolkit/AccessibleRole.h"
 #include "platform/toolkit/PlainLabel.h"
 #include "platform/toolkit/PlainText.h"
 
-#include <QtWidgets/QHBoxLayout>
 #include <QtWidgets/QLabel>
 #include <QtWidgets/QProgressBar>
 #include <QtWidgets/QPushButton>
@@ -21,15 +23,14 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int kSentenceWidth = 48; // of the font's average character: no line is shorter
-constexpr int kSentenceLines = 3;  // have their room from the start
+constexpr int kSentenceLines = 3; // have their room from the start
 
 } // namespace
 
 JobWindow::JobWindow(const QString &server, JobName job, QWidget *parent)
     : QDialog(parent),
       m_job(std::move(job)),
-      m_sentence(newPlainLabel(QString(), this)),
+      m_sentence(new SentenceLabel(this)),
       m_progress(new QProgressBar(this)),
       m_buttons(new QWidget(this)),
       m_follower({server, m_job.queue, m_job.id},
@@ -41,14 +42,11 @@ JobWindow::JobWindow(const QString &server, JobName job, QWidget *parent)
     setWindowTitle(displayText(tr("Job %1 on %2").arg(QString::number(m_job.id), m_job.queue)));
     giveAccessibleRole("JobWindow", QAccessible::Dialog);
     m_sentence->setObjectName(u"jobSentence"_s);
-    m_sentence->setWordWrap(true);
     m_sentence->setAlignment(Qt::AlignTop | Qt::AlignLeading);
-    m_sentence->setMinimumSize(kSentenceWidth * fontMetrics().averageCharWidth(),
-                               kSentenceLines * fontMetrics().lineSpacing());
+    m_sentence->setMinimumHeight(kSentenceLines * fontMetrics().lineSpacing());
     m_progress->setObjectName(u"jobProgress"_s);
     giveAccessibleName(m_progress, tr("Pages"));
-    auto *row = new QHBoxLayout(m_buttons);
-    row->setContentsMargins(0, 0, 0, 0);
+    m_buttons->setLayout(new FlowLayout);
     addAction(JobAction::Hold, u"holdButton"_s, tr("Hold"));
     addAction(JobAction::Release, u"releaseButton"_s, tr("Release"));
     addAction(JobAction::Restart, u"restartButton"_s, tr("Print Again"));
@@ -58,15 +56,16 @@ JobWindow::JobWindow(const QString &server, JobName job, QWidget *parent)
     queue->setAutoDefault(false);
     connect(queue, &QPushButton::clicked, this,
             [this] { openQueue(m_follower.job().server, m_follower.job().queue); });
-    row->addStretch(1);
     QPushButton *close = addButton(u"closeButton"_s, tr("Close"));
     close->setDefault(true);
     connect(close, &QPushButton::clicked, this, &QDialog::reject);
-    auto *layout = new QVBoxLayout(this);
+    auto *content = new QWidget(this);
+    auto *layout = new QVBoxLayout(content);
+    layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(m_sentence, 1);
     layout->addWidget(m_progress);
-    layout->addWidget(m_buttons);
     take({});
+    layOutSheet(*this, content, m_buttons);
     setPasswordAsker(newSheetAsker(*this));
     m_follower.start();
 }

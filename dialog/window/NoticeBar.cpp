@@ -1,5 +1,6 @@
 #include "dialog/window/NoticeBar.h"
 
+#include "dialog/window/BrokenTitle.h"
 #include "dialog/window/Mnemonics.h"
 #include "dialog/window/NoticeLabel.h"
 #include "dialog/window/NoticeSign.h"
@@ -8,7 +9,6 @@
 #include "platform/toolkit/PlainText.h"
 
 #include <QtCore/QEvent>
-#include <QtCore/QTextBoundaryFinder>
 #include <QtWidgets/QGridLayout>
 #include <QtWidgets/QHBoxLayout>
 #include <QtWidgets/QMenu>
@@ -54,23 +54,6 @@ bool looksLike(const NoticeOffer &one, const NoticeOffer &other)
 {
     return one.name == other.name && one.title == other.title && one.menu.isEmpty() &&
            other.menu.isEmpty();
-}
-
-/// The title in so many lines of about the same length.
-QString brokenTitle(const QString &title, int lines)
-{
-    QTextBoundaryFinder places(QTextBoundaryFinder::Line, title);
-    QStringList broken;
-    qsizetype start = 0;
-    for (int line = 1; line < lines; ++line) {
-        places.setPosition(line * title.size() / lines);
-        const qsizetype end = places.toNextBoundary();
-        if (end > start && end < title.size()) {
-            broken += title.mid(start, end - start).trimmed();
-            start = end;
-        }
-    }
-    return (broken + QStringList{title.mid(start)}).join(u'\n');
 }
 
 } // namespace

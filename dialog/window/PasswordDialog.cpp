@@ -1,9 +1,13 @@
 #include "dialog/window/PasswordDialog.h"
 
 #include "dialog/cups/PasswordWords.h"
+#include "dialog/window/BrokenTitle.h"
+#include "dialog/window/SentenceLabel.h"
+#include "dialog/window/SheetLayout.h"
 #include "platform/toolkit/PlainLabel.h"
 #include "platform/toolkit/PlainText.h"
 
+#include <QtGui/QScreen>
 #include <QtWidgets/QCheckBox>
 #include <QtWidgets/QDialogButtonBox>
 #include <QtWidgets/QFormLayout>
@@ -15,7 +19,12 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int kFieldLength = 36; // of the font's average character
+/// In as many lines as it needs beside the mark of its box.
+QString linesForScreen(const QString &title, const QWidget &widget)
+{
+    const int room = widget.screen()->availableSize().width() * 3 / 4;
+    return brokenTitle(title, 1 + widget.fontMetrics().horizontalAdvance(title) / room);
+}
 
 QString displayedLines(const PasswordQuestion &question)
 {
@@ -31,29 +40,29 @@ PasswordDialog::PasswordDialog(const PasswordQuestion &question, bool canKeep, Q
     : QDialog(parent),
       m_user(new QLineEdit(question.user, this)),
       m_password(new QLineEdit(this)),
-      m_keep(new QCheckBox(tr("&Remember the password in the keyring"), this))
+      m_keep(
+          new QCheckBox(linesForScreen(tr("&Remember the password in the keyring"), *this), this))
 {
     setObjectName(u"passwordDialog"_s);
     setWindowTitle(tr("Password"));
     m_user->setObjectName(u"passwordUser"_s);
-    m_user->setMinimumWidth(kFieldLength * fontMetrics().averageCharWidth());
     m_password->setObjectName(u"passwordField"_s);
     m_password->setEchoMode(QLineEdit::Password);
     m_keep->setObjectName(u"keepPassword"_s);
     m_keep->setVisible(canKeep);
-    QLabel *text = newPlainLabel(displayedLines(question), this);
+    auto *text = new SentenceLabel(this);
+    setLabelText(text, displayedLines(question));
     text->setObjectName(u"passwordText"_s);
-    text->setWordWrap(true);
-    // The form gives a text of several lines no more than one that is wider would need.
-    text->setMinimumHeight(text->heightForWidth(m_user->minimumWidth()));
     auto *buttons = new QDialogButtonBox(this);
     QPushButton *ok = buttons->addButton(tr("OK"), QDialogButtonBox::AcceptRole);
     ok->setObjectName(u"passwordOK"_s);
     ok->setDefault(true);
     buttons->addButton(tr("Cancel"), QDialogButtonBox::RejectRole)
         ->setObjectName(u"passwordCancel"_s);
-    auto *form = new QFormLayout(this);
-    form->setSizeConstraint(QLayout::SetMinimumSize);
+    auto *content = new QWidget(this);
+    auto *form = new QFormLayout(content);
+    form->setContentsMargins(0, 0, 0, 0);
+    form->setRowWrapPolicy(QFormLayout::WrapLongRows);
     form->setFieldGrowthPolicy(QFormLayout::AllNonFixedFieldsGrow);
     form->setWidget(form->rowCount(), QFormLayout::SpanningRole, text);
     addLabelledRow(form, tr("&User name:"), m_user);
@@ -64,7 +73,7 @@ PasswordDialog::PasswordDialog(const PasswordQuestion &question, bool canKeep, Q
     }
     addLabelledRow(form, tr("&Password:"), m_password);
     form->setWidget(form->rowCount(), QFormLayout::SpanningRole, m_keep);
-    form->setWidget(form->rowCount(), QFormLayout::SpanningRole, buttons);
+    layOutSheet(*this, content, buttons);
     connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
     (question.user.isEmpty() ? m_user : m_password)->setFocus();

@@ -1214,6 +1214,13 @@ Umschalt+F1 oder das Kontextmenü sagt, warum.</translation>
     </message>
 </context>
 <context>
+    <name>JobSubmission</name>
+    <message>
+        <source>The queue %1 takes no jobs at present.</source>
+        <translation>Die Warteschlange %1 nimmt zurzeit keine Aufträge an.</translation>
+    </message>
+</context>
+<context>
     <name>JobSummary</name>
     <message>
         <source>Page Setup</source>
@@ -2040,6 +2047,10 @@ Umschalt+F1 oder das Kontextmenü sagt, warum.</translation>
 <context>
     <name>PrinterDoubts</name>
     <message>
+        <source>The jobs of this queue go to printers of different models: %1. What is set for one of them may come out differently on another.</source>
+        <translation>Die Aufträge dieser Warteschlange gehen an Drucker verschiedener Modelle: %1. Was für einen davon eingestellt ist, kann auf einem anderen anders herauskommen.</translation>
+    </message>
+    <message>
         <source>The paper of this job is not loaded: %1. There is %2.</source>
         <translation>Das Papier dieses Auftrags ist nicht eingelegt: %1. Eingelegt ist %2.</translation>
     </message>
@@ -2751,6 +2762,10 @@ Umschalt+F1 oder das Kontextmenü sagt, warum.</translation>
 </context>
 <context>
     <name>SavedJob</name>
+    <message>
+        <source>The printer does not have some of the settings that the job was saved with: %1.</source>
+        <translation>Einige der Einstellungen, mit denen der Auftrag gesichert wurde, hat der Drucker nicht: %1.</translation>
+    </message>
     <message>
         <source>%1 is a saved job: it is sent as it was saved, without -o, --paper and --output.</source>
         <translation>%1 ist ein gespeicherter Auftrag: Er wird so gesendet, wie er gespeichert wurde, ohne -o, --paper und --output.</translation>

@@ -1214,6 +1214,13 @@ Maj+F1 ou le menu contextuel dit pourquoi.</translation>
     </message>
 </context>
 <context>
+    <name>JobSubmission</name>
+    <message>
+        <source>The queue %1 takes no jobs at present.</source>
+        <translation>La file d’attente %1 n’accepte pas de travaux pour le moment.</translation>
+    </message>
+</context>
+<context>
     <name>JobSummary</name>
     <message>
         <source>Page Setup</source>
@@ -2040,6 +2047,10 @@ Maj+F1 ou le menu contextuel dit pourquoi.</translation>
 <context>
     <name>PrinterDoubts</name>
     <message>
+        <source>The jobs of this queue go to printers of different models: %1. What is set for one of them may come out differently on another.</source>
+        <translation>Les travaux de cette file d’attente vont à des imprimantes de modèles différents : %1. Ce qui est réglé pour l’une d’elles peut donner un autre résultat sur une autre.</translation>
+    </message>
+    <message>
         <source>The paper of this job is not loaded: %1. There is %2.</source>
         <translation>Le papier de ce travail n’est pas chargé : %1. Il y a %2.</translation>
     </message>
@@ -2751,6 +2762,10 @@ Maj+F1 ou le menu contextuel dit pourquoi.</translation>
 </context>
 <context>
     <name>SavedJob</name>
+    <message>
+        <source>The printer does not have some of the settings that the job was saved with: %1.</source>
+        <translation>L’imprimante n’a pas certains des réglages avec lesquels le travail a été enregistré : %1.</translation>
+    </message>
     <message>
         <source>%1 is a saved job: it is sent as it was saved, without -o, --paper and --output.</source>
         <translation>%1 est un travail enregistré : il est envoyé tel qu’il a été enregistré, sans -o, --paper ni --output.</translation>

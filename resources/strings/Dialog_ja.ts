@@ -1214,6 +1214,13 @@ Shift+F1 or the context menu tells why.</source>
     </message>
 </context>
 <context>
+    <name>JobSubmission</name>
+    <message>
+        <source>The queue %1 takes no jobs at present.</source>
+        <translation>キュー %1 は現在ジョブを受け付けていません。</translation>
+    </message>
+</context>
+<context>
     <name>JobSummary</name>
     <message>
         <source>Page Setup</source>
@@ -2040,6 +2047,10 @@ Shift+F1 or the context menu tells why.</source>
 <context>
     <name>PrinterDoubts</name>
     <message>
+        <source>The jobs of this queue go to printers of different models: %1. What is set for one of them may come out differently on another.</source>
+        <translation>このキューのジョブは機種の異なるプリンター（%1）に送られます。そのうちの 1 台のための設定は、ほかのプリンターでは異なる結果になることがあります。</translation>
+    </message>
+    <message>
         <source>The paper of this job is not loaded: %1. There is %2.</source>
         <translation>このジョブの用紙「%1」はセットされていません。セットされているのは%2です。</translation>
     </message>
@@ -2751,6 +2762,10 @@ Shift+F1 or the context menu tells why.</source>
 </context>
 <context>
     <name>SavedJob</name>
+    <message>
+        <source>The printer does not have some of the settings that the job was saved with: %1.</source>
+        <translation>このジョブの設定の一部はこのプリンターにありません: %1。</translation>
+    </message>
     <message>
         <source>%1 is a saved job: it is sent as it was saved, without -o, --paper and --output.</source>
         <translation>%1 は保存されたジョブです。保存したときの設定で送信するため、-o、--paper、--output は使えません。</translation>

@@ -1,5 +1,6 @@
 #include "tests/built/BuiltFiles.h"
 #include "tests/endtoend/CommandFixture.h"
+#include "tests/support/CaseName.h"
 #include "tests/support/Files.h"
 
 #include <QtNetwork/QTcpServer>
@@ -274,8 +275,8 @@ INSTANTIATE_TEST_SUITE_P(
         Fault{"LateHold",
               {u"-H"_s, u"25:00"_s},
               2,
-              "25:00 is no value for job-hold-until (-H). It can be: no-hold, indefinite, "
-              "day-time, evening, night, second-shift, third-shift, weekend and 1 more."},
+              "25:00 is no value for job-hold-until (-H). It can be: HH:MM, no-hold, "
+              "indefinite, day-time, evening, night, second-shift, third-shift and 1 more."},
         Fault{"UnknownQueue",
               {u"--ppd"_s, u"/nonexistent.ppd"_s},
               2,
@@ -343,6 +344,53 @@ TEST_F(Command, WithoutAnyDefaultQueueAQueueMustBeNamed)
     EXPECT_EQ(run.status, 2);
     EXPECT_EQ(run.errors, u"velkaro-print: No printer was chosen and there is no default one; -d "
                           "QUEUE names one.\n"_s);
+}
+
+struct DryRun
+{
+    const char *behaviour;
+    QStringList options;
+    int status;
+    QString says; ///< with and without --dry-run
+};
+
+class Rehearsal : public Command, public testing::WithParamInterface<DryRun>
+{};
+
+TEST_P(Rehearsal, EndsAsTheRunDoes)
+{
+    const ProgramRun real = print(GetParam().options);
+    const qsizetype sent = newJobs().size();
+    const ProgramRun dry = print(GetParam().options + QStringList(u"--dry-run"_s));
+    EXPECT_EQ(newJobs().size(), sent);
+    EXPECT_EQ(sent, GetParam().status == 0 ? 1 : 0);
+    for (const ProgramRun &run : {real, dry}) {
+        EXPECT_EQ(run.status, GetParam().status);
+        EXPECT_EQ(run.errors, GetParam().says);
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Table, Rehearsal,
+    testing::Values(
+        DryRun{"CoverPagesThatAreThere", {u"-o"_s, u"job-sheets=standard,none"_s}, 0, {}},
+        DryRun{"CoverPagesThatAreNot",
+               {u"-o"_s, u"job-sheets=none,fancy"_s},
+               2,
+               u"velkaro-print: fancy is no value for job-sheets. It can be: none, "
+               "classified, confidential, form, secret, standard, topsecret, unclassified.\n"_s}),
+    CaseName());
+
+TEST_F(Command, ARehearsalEndsAsTheRunDoesAtAQueueThatTakesNoJobs)
+{
+    ASSERT_TRUE(server().command(u"cupsreject"_s, {u"photo"_s}));
+    const ProgramRun real = print({});
+    const ProgramRun dry = print({u"--dry-run"_s});
+    ASSERT_TRUE(server().command(u"cupsaccept"_s, {u"photo"_s}));
+    EXPECT_EQ(real.status, 6) << real.errors.toStdString();
+    EXPECT_EQ(dry.status, 6);
+    EXPECT_EQ(dry.errors, u"velkaro-print: Nothing was printed on photo: The queue photo takes no "
+                          "jobs at present.\n"_s);
 }
 
 } // namespace

@@ -69,6 +69,21 @@ TEST_F(Command, ASavedJobKeepsTheHoldThatTheUserSaved)
     EXPECT_EQ(job.value(u"number-up"_s), u"2"_s);
 }
 
+TEST_F(Command, ASavedJobTellsOfSettingsThatThePrinterDoesNotHave)
+{
+    const QString file = inFolder(u"other.job"_s);
+    writeFile(file,
+              "Velkaro-Print-Job: 1\nTitle: A\nOption: VKMediaType=Bronze\nOption: VKGloss=ON\n"
+              "Option: copies=2\nOption: PageSize=A4\nDocument: 5 a.ps\n\n%!PS\n");
+    const ProgramRun run =
+        runProgram({u"--no-dialog"_s, u"-h"_s, server().address(), u"-d"_s, u"photo"_s, file});
+    EXPECT_EQ(run.status, 0);
+    EXPECT_EQ(run.errors.section(u'\n', -2),
+              u"velkaro-print: The printer does not have some of the settings that the job was "
+              "saved with: VKMediaType=Bronze, VKGloss=ON.\n"_s);
+    EXPECT_EQ(newJobs().size(), 1);
+}
+
 struct SavedJob
 {
     const char *behaviour;

@@ -73,6 +73,18 @@ TEST_F(SavedJobInTheDialog, WaitsForAQueue)
     EXPECT_FALSE(part<QAbstractButton>("printButton")->isEnabled());
 }
 
+TEST_F(SavedJobInTheDialog, TellsOfSettingsThatThePrinterDoesNotHave)
+{
+    QByteArray text = readFile(m_saved);
+    writeFile(m_saved,
+              text.replace("VKMediaType=Glossy", "VKMediaType=Bronze\nOption: VKGloss=ON"));
+    open();
+    EXPECT_EQ(notice(), u"Choose the printer for this saved job. The printer does not have some of "
+                        "the settings that the job was saved with: VKMediaType=Bronze, "
+                        "VKGloss=ON."_s);
+    EXPECT_EQ(m_window->notice().kind(), NoticeBar::Kind::Warning);
+}
+
 TEST_F(SavedJobInTheDialog, GivesWayToADocumentThatIsDropped)
 {
     open();

@@ -1,5 +1,4 @@
 // In every language, font and part of the window, nothing that people read is cut.
-#include "dialog/window/HostHelp.h"
 #include "dialog/window/NoticeLabel.h"
 #include "dialog/window/ScrolledBody.h"
 #include "platform/toolkit/PanelPoint.h"
@@ -7,10 +6,8 @@
 #include "tests/dialog/window/LongerLanguage.h"
 #include "tests/support/TextRoom.h"
 
-#include <QtGui/QScreen>
 #include <QtWidgets/QAbstractSpinBox>
 #include <QtWidgets/QApplication>
-#include <QtWidgets/QDialog>
 #include <QtWidgets/QListWidget>
 #include <QtWidgets/QScrollBar>
 #include <QtWidgets/QTabBar>
@@ -181,25 +178,6 @@ INSTANTIATE_TEST_SUITE_P(Looks, TextIsWhole, testing::ValuesIn(looks()), [](cons
     const QString printer = look.param.printer.section(u'-', 1).remove(u'-');
     return u"%1_%2_%3"_s.arg(language, printer).arg(look.param.points).toStdString();
 });
-
-TEST(HostHelp, IsWholeInALargeFontOnASmallScreen)
-{
-    const QFont before = QApplication::font();
-    QFont large = before;
-    large.setPointSize(24);
-    QApplication::setFont(large);
-    QWidget window;
-    window.show();
-    showHostHelp(&window);
-    auto *help = window.findChild<QDialog *>(u"hostHelp"_s);
-    EXPECT_LE(help->height(), help->screen()->availableSize().height());
-    help->resize(kSmallScreen);
-    QStringList cut;
-    EXPECT_TRUE(QTest::qWaitFor([&] { return (cut = cutTexts(*help)).isEmpty(); }, kLayoutTimeout))
-        << cut.join(u'\n').toStdString();
-    EXPECT_EQ(help->size(), kSmallScreen);
-    QApplication::setFont(before);
-}
 
 // --- The measuring itself ------------------------------------------------------------------------
 
