@@ -10,14 +10,15 @@
 #include "dialog/job/PipeDocuments.h"
 #include "dialog/printing/JobDoubts.h"
 #include "dialog/printing/LastPrinter.h"
+#include "dialog/printing/LostTogether.h"
 #include "dialog/printing/OwnSettings.h"
 #include "dialog/printing/RequestedSettings.h"
 #include "dialog/printing/SavedJob.h"
-#include "dialog/printing/SavedSettings.h"
 #include "dialog/printing/SettingRequests.h"
 #include "dialog/printing/StandardSettings.h"
 #include "dialog/work/BackgroundCall.h"
 #include "platform/ppd/PPDText.h"
+#include "platform/toolkit/PlainText.h"
 
 #include <QtCore/QCoreApplication>
 #include <QtCore/QSysInfo>

@@ -1,10 +1,13 @@
-#include "dialog/printing/SavedSettings.h"
+#include "dialog/printing/LostTogether.h"
 
 #include "dialog/printing/PrintJob.h"
 #include "dialog/printing/RequestedSettings.h"
 #include "dialog/printing/ScriptedAnswers.h"
 #include "dialog/work/ProcessCopy.h"
 #include "platform/foundation/UserDefaults.h"
+
+#include <chrono>
+#include <optional>
 
 namespace {
 
