@@ -2,13 +2,16 @@
 
 #include "dialog/host/PPDMarks.h"
 #include "dialog/job/PageRanges.h"
+#include "dialog/job/Papers.h"
 #include "dialog/job/SavedJobOptions.h"
 #include "platform/ppd/PPDText.h"
 #include "platform/printmanager/PMTicketKeys.h"
 
 #include <cups/cups.h>
 
+#include <algorithm>
 #include <array>
+#include <optional>
 
 using namespace Qt::StringLiterals;
 
@@ -127,15 +130,26 @@ bool isForeignKeyword(const JobOption &option)
            !isVendorTicketKey(option.name);
 }
 
+/// Whether the option of the PPD takes the value, which may be a size of the user's own.
+bool hasValue(ppd_file_t *ppd, const JobOption &option)
+{
+    const bool isPaper = isSameName(option.name, "PageSize"_L1);
+    const std::optional<PMPaper> own =
+        isPaper ? parseCustomPaper(option.value) : std::optional<PMPaper>();
+    const std::optional<CustomLimits> limits =
+        own ? customLimits(ppd) : std::optional<CustomLimits>();
+    return (limits && isWithin(*limits, own->width, own->height)) ||
+           !normalizedValue(ppd, option.name, option.value).isNull();
+}
+
 } // namespace
 
 QList<JobOption> optionsForOthers(ppd_file_t *ppd, const QList<JobOption> &options)
 {
     QList<JobOption> others;
     for (const JobOption &option : options) {
-        const bool isLacking = findOption(ppd, option.name)
-                                   ? normalizedValue(ppd, option.name, option.value).isNull()
-                                   : isForeignKeyword(option);
+        const bool isLacking =
+            findOption(ppd, option.name) ? !hasValue(ppd, option) : isForeignKeyword(option);
         if (ppd && isLacking)
             others += option;
     }

@@ -97,6 +97,25 @@ const EndCase kEnds[] = {
 
 INSTANTIATE_TEST_SUITE_P(Table, FollowingTo, testing::ValuesIn(kEnds), CaseName());
 
+/// The server answers no question about jobs of which it has forgotten one.
+TEST_F(Following, SeveralJobsFindsOutWhatBecameOfEach)
+{
+    constexpr int kForgotten = 9999;
+    const int id = print(u"finish"_s);
+    QMap<int, JobPhase> heard;
+    QStringList trouble;
+    GroupFollower follower(
+        {server().address(), u"finish"_s, {id, kForgotten}},
+        {[&](int job, const JobStatus &status) { heard.insert(job, status.phase); },
+         [&](const QString &sentence) { trouble += sentence; },
+         [&](int, const QString &sentence) { trouble += sentence; }});
+    follower.start();
+    EXPECT_TRUE(QTest::qWaitFor([&] { return follower.jobs().ids.isEmpty(); }, kTimeout));
+    EXPECT_EQ(heard,
+              (QMap<int, JobPhase>{{id, JobPhase::Finished}, {kForgotten, JobPhase::Unknown}}));
+    EXPECT_EQ(trouble, QStringList());
+}
+
 TEST_F(Following, GoesOnWhenThePrinterIsLookedAfter)
 {
     const auto follower = follow(u"empty"_s);

@@ -72,9 +72,10 @@ TEST_F(Command, ASavedJobKeepsTheHoldThatTheUserSaved)
 TEST_F(Command, ASavedJobTellsOfSettingsThatThePrinterDoesNotHave)
 {
     const QString file = inFolder(u"other.job"_s);
-    writeFile(file,
-              "Velkaro-Print-Job: 1\nTitle: A\nOption: VKMediaType=Bronze\nOption: VKGloss=ON\n"
-              "Option: copies=2\nOption: PageSize=A4\nDocument: 5 a.ps\n\n%!PS\n");
+    writeFile(
+        file,
+        "Velkaro-Print-Job: 1\nTitle: A\nOption: VKMediaType=Bronze\nOption: VKGloss=ON\n"
+        "Option: copies=2\nOption: PageSize=Custom.566.93x566.93\nDocument: 5 a.ps\n\n%!PS\n");
     const ProgramRun run =
         runProgram({u"--no-dialog"_s, u"-h"_s, server().address(), u"-d"_s, u"photo"_s, file});
     EXPECT_EQ(run.status, 0);

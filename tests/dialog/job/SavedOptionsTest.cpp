@@ -127,6 +127,25 @@ TEST(SavedSettings, BecomeMarksSettingsAndTheRest)
               (QList<JobOption>{{u"number-up-layout"_s, u"zigzag"_s}, {u"mirror"_s, u"true"_s}}));
 }
 
+TEST(OptionsForOthers, AreThoseThatThePrinterDoesNotTake)
+{
+    const auto opened = openPPD(samplePPD(u"velkaro-px-t900"_s));
+    ASSERT_TRUE(opened) << opened.sentence().toStdString();
+    const QList<JobOption> taken{{u"VKMediaType"_s, u"glossy"_s},
+                                 {u"PageSize"_s, u"A4.Fullbleed"_s},
+                                 {u"PageSize"_s, u"Custom.566.93x566.93"_s},
+                                 {u"PageSize"_s, u"Custom.200x200mm"_s},
+                                 {u"com.example.own"_s, u"1"_s},
+                                 {u"job-sheets"_s, u"standard"_s},
+                                 {u"copies"_s, u"3"_s}};
+    const QList<JobOption> others{{u"VKMediaType"_s, u"Bronze"_s},
+                                  {u"PageSize"_s, u"A9"_s},
+                                  {u"PageSize"_s, u"Custom.2000x2000mm"_s},
+                                  {u"VKGloss"_s, u"ON"_s}};
+    EXPECT_EQ(optionsForOthers(opened->ppd.get(), taken + others), others);
+    EXPECT_EQ(optionsForOthers(nullptr, others), QList<JobOption>());
+}
+
 struct UnusableValue
 {
     const char *behaviour;
