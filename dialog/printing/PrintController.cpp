@@ -10,6 +10,7 @@
 #include "dialog/job/PipeDocuments.h"
 #include "dialog/printing/JobDoubts.h"
 #include "dialog/printing/LastPrinter.h"
+#include "dialog/printing/LostTogether.h"
 #include "dialog/printing/OwnSettings.h"
 #include "dialog/printing/RequestedSettings.h"
 #include "dialog/printing/SavedJob.h"
@@ -17,6 +18,7 @@
 #include "dialog/printing/StandardSettings.h"
 #include "dialog/work/BackgroundCall.h"
 #include "platform/ppd/PPDText.h"
+#include "platform/toolkit/PlainText.h"
 
 #include <QtCore/QCoreApplication>
 #include <QtCore/QSysInfo>
@@ -305,21 +307,40 @@ Result<> PrintController::makeAgainWithout(const QList<RequestedChoice> &lost)
     return makeSettings(m_job, wanted);
 }
 
-QStringList PrintController::yieldedSettings() const
+QList<RequestedChoice> PrintController::savedSettings() const
+{
+    const QList<RequestedChoice> wished = namedWishes().wanted;
+    QList<RequestedChoice> saved;
+    for (const JobOption &option : m_origin->starting)
+        if (findOption(m_job.ppd(), option.name) &&
+            std::ranges::none_of(wished, [&](const RequestedChoice &wish) {
+                return isSameName(wish.keyword, option.name);
+            }))
+            saved += RequestedChoice{option.name, option.value};
+    return saved;
+}
+
+QStringList PrintController::yieldedSettings()
 {
     if (!m_origin || !m_job.session())
         return {};
-    QList<RequestedChoice> saved;
-    for (const JobOption &option : m_origin->starting)
-        if (findOption(m_job.ppd(), option.name))
-            saved += RequestedChoice{option.name, option.value};
-    const QList<RequestedChoice> wished = namedWishes().wanted;
+    QList<RequestedChoice> standing = savedSettings();
     QStringList sentences;
-    for (const RequestedChoice &lost : ::lostSettings(m_job, saved))
-        if (std::ranges::none_of(wished, [&](const RequestedChoice &wish) {
-                return isSameName(wish.keyword, lost.keyword);
-            }))
-            sentences += savedSentence(lossSentence(m_job, lost));
+    for (const RequestedChoice &lost : ::lostSettings(m_job, standing))
+        sentences += savedSentence(lossSentence(m_job, lost));
+    standing.removeIf(
+        [this](const RequestedChoice &one) { return !::lostSettings(m_job, {one}).isEmpty(); });
+    QList<RequestedChoice> wished = namedWishes().wanted;
+    wished.removeIf(
+        [this](const RequestedChoice &wish) { return !findOption(m_job.ppd(), wish.keyword); });
+    if (standing.isEmpty() || wished.isEmpty())
+        return sentences;
+    for (const RequestedChoice &one : lostTogether(m_job, standing, wished))
+        sentences += savedSentence(
+            QCoreApplication::translate("PrintController",
+                                        "%1 cannot be chosen together with what was asked for; it "
+                                        "is sent as it was saved.")
+                .arg(displayText(one.keyword) + u'=' + displayText(one.choice)));
     return sentences;
 }
 

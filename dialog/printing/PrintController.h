@@ -132,9 +132,9 @@ public:
     /// with them before they were lost goes with them.
     Result<> makeAgainWithout(const QList<RequestedChoice> &lost);
 
-    /// What has become of the saved settings that the printer started from, a sentence for each
-    /// that the job has not and that no wish is for.
-    QStringList yieldedSettings() const;
+    /// What has become of the saved settings that the printer started from and that no wish is for:
+    /// a sentence for each that the job has not, or would not have if it had been wished for, too.
+    QStringList yieldedSettings();
 
     /// Asks the panels whether the job may be printed, and makes the job as it is to go out. After
     /// a veto the sentence is null when the panel has told the user why by itself.
@@ -175,6 +175,7 @@ private:
                std::function<Value(CallGuard &)> work, std::function<void(Value)> take,
                std::function<Value()> givenUp = {});
     Result<FoundPrinter> takePrinter(const PrinterSource &source, FetchedPrinter &fetched);
+    QList<RequestedChoice> savedSettings() const;
     OpenedPrinter open(const SessionOptions &options, std::optional<OpenedPPD> ppd,
                        const QList<JobOption> &starting, QList<Fault> &shortcomings);
 

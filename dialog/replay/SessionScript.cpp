@@ -13,20 +13,30 @@ bool isOfWindow(const ReplayAction &action)
 
 } // namespace
 
+template <typename Action> struct SessionScript::EventOf : Event
+{
+    EventOf(const Action &did, FollowedAnswers given) : Event(std::move(given)), action(did) {}
+
+    QByteArray line(ppd_file_t *ppd) const override
+    {
+        return scriptLine(recordedEvent(action, ppd), answers);
+    }
+
+    const Action action;
+};
+
 void SessionScript::attach(HostSession &session, const QString &ppd)
 {
     m_events.clear();
     follow(session);
-    m_events.push_back({[members = recordedOpen(session, ppd)] { return members; }, {}});
+    m_lines = {scriptLine(recordedOpen(session, ppd), {})};
 }
 
 void SessionScript::note(const ReplayAction &action, const FollowedAnswers &answers)
 {
-    // The kind of event that it is takes less room than any.
     std::visit(
-        [&](const auto &event) {
-            m_events.push_back(
-                {[this, event] { return recordedEvent(event, session()->ppd()); }, answers});
+        [&]<typename Action>(const Action &did) {
+            m_events.push_back(std::make_unique<EventOf<Action>>(did, answers));
         },
         action);
     if (!isOfWindow(action))
@@ -35,10 +45,8 @@ void SessionScript::note(const ReplayAction &action, const FollowedAnswers &answ
 
 QByteArrayList SessionScript::takeLines()
 {
-    QByteArrayList lines;
-    while (session() && !m_events.empty() && areGiven(m_events.front().answers)) {
-        lines += scriptLine(m_events.front().members(), m_events.front().answers);
-        m_events.pop_front();
-    }
-    return lines;
+    for (; session() && !m_events.empty() && areGiven(m_events.front()->answers);
+         m_events.pop_front())
+        m_lines += m_events.front()->line(session()->ppd());
+    return std::exchange(m_lines, {});
 }

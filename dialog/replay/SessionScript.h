@@ -1,12 +1,13 @@
 #pragma once
 
-#include "dialog/replay/JsonText.h"
 #include "dialog/replay/SessionFollower.h"
+#include "platform/ppd/CupsPPD.h"
 
 #include <QtCore/QByteArrayList>
 
 #include <deque>
 #include <functional>
+#include <memory>
 #include <utility>
 
 /// The replay script of a session that goes on, made when somebody wants to read it: until then an
@@ -28,15 +29,23 @@ public:
     QByteArrayList takeLines();
 
 private:
+    /// An event that no line was made of yet.
     struct Event
     {
-        std::function<OrderedMembers()> members;
-        FollowedAnswers answers;
+        explicit Event(FollowedAnswers given) : answers(std::move(given)) {}
+        virtual ~Event() = default;
+        virtual QByteArray line(ppd_file_t *ppd) const = 0;
+
+        const FollowedAnswers answers;
     };
+
+    /// It takes no more room than its kind.
+    template <typename Action> struct EventOf;
 
     void note(const ReplayAction &action, const FollowedAnswers &answers) override;
     void sheetAnswered() override { m_listener(); }
 
     const Listener m_listener;
-    std::deque<Event> m_events;
+    QByteArrayList m_lines; ///< that were made and not taken
+    std::deque<std::unique_ptr<Event>> m_events;
 };

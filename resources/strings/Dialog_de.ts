@@ -1997,6 +1997,10 @@ Umschalt+F1 oder das Kontextmenü sagt, warum.</translation>
 <context>
     <name>PrintController</name>
     <message>
+        <source>%1 cannot be chosen together with what was asked for; it is sent as it was saved.</source>
+        <translation>%1 kann nicht zusammen mit dem gewählt werden, was verlangt wurde; es wird gesendet, wie es gespeichert ist.</translation>
+    </message>
+    <message>
         <source>Saved for this printer: %1</source>
         <translation>Für diesen Drucker gespeichert: %1</translation>
     </message>

@@ -1997,6 +1997,10 @@ Maj+F1 ou le menu contextuel dit pourquoi.</translation>
 <context>
     <name>PrintController</name>
     <message>
+        <source>%1 cannot be chosen together with what was asked for; it is sent as it was saved.</source>
+        <translation>%1 ne peut pas être choisi avec ce qui a été demandé ; il est envoyé tel qu’il a été enregistré.</translation>
+    </message>
+    <message>
         <source>Saved for this printer: %1</source>
         <translation>Enregistré pour cette imprimante : %1</translation>
     </message>

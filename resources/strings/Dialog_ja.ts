@@ -1997,6 +1997,10 @@ Shift+F1 or the context menu tells why.</source>
 <context>
     <name>PrintController</name>
     <message>
+        <source>%1 cannot be chosen together with what was asked for; it is sent as it was saved.</source>
+        <translation>%1 は、指定された設定と一緒には選べません。保存されたとおりに送信します。</translation>
+    </message>
+    <message>
         <source>Saved for this printer: %1</source>
         <translation>このプリンター用に保存された設定: %1</translation>
     </message>

@@ -178,6 +178,28 @@ TEST_F(Command, ASavedChoiceYieldsToAnOptionAndIsTold)
     EXPECT_EQ(server().jobAttributes(u"photo"_s, jobs[0]).value(u"VKMediaType"_s), u"Plain"_s);
 }
 
+// Both asked for would be refused.
+TEST_F(Command, ASavedChoiceThatAnOptionDoesNotGoWithIsTold)
+{
+    for (const QString &queue : {u"photo"_s, u"photo/mine"_s}) {
+        const ProgramRun run =
+            runProgram({u"--no-dialog"_s, u"-h"_s, server().address(), u"-d"_s, queue, u"-o"_s,
+                        u"Duplex=DuplexNoTumble"_s, pdf()},
+                       "Dest " + queue.toUtf8() + " VKMediaType=Glossy VKMirror=ON\n");
+        EXPECT_EQ(run.status, 0);
+        EXPECT_EQ(run.errors,
+                  u"velkaro-print: Saved for this printer: VKMediaType=Glossy cannot be chosen "
+                  "together with what was asked for; it is sent as it was saved.\n"_s);
+    }
+    const QList<int> jobs = newJobs();
+    ASSERT_EQ(jobs.size(), 2);
+    for (const int job : jobs) {
+        const auto sent = server().jobAttributes(u"photo"_s, job);
+        EXPECT_EQ(sent.value(u"VKMediaType"_s), u"Glossy"_s);
+        EXPECT_EQ(sent.value(u"Duplex"_s), u"DuplexNoTumble"_s);
+    }
+}
+
 TEST_F(Command, ASavedNumberThatTheSettingCannotHaveIsRefused)
 {
     const std::pair<QByteArray, QString> saved[] = {

@@ -156,6 +156,14 @@ TEST_F(RunWithoutDialog, ExplainsWhatASettingHasChanged)
                          u"now Natural (was Vivid).\n"_s);
 }
 
+TEST_F(RunWithoutDialog, ExplainsTheMediumOfBothSides)
+{
+    const ProgramEnd end = run({u"--explain"_s, u"-o"_s, u"Duplex=DuplexNoTumble"_s});
+    EXPECT_EQ(end.status, 0);
+    EXPECT_EQ(end.error, u"velkaro-print: Long-Edge Binding: Media Type is now Plain Paper "
+                         u"(Two-Sided) (was Plain Paper).\n"_s);
+}
+
 TEST_F(RunWithoutDialog, ExplainsHowALostSettingIsToBeHad)
 {
     const ProgramEnd end = run(
