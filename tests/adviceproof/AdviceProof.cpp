@@ -80,7 +80,7 @@ public:
         for (const PPDMark &mark : state.walk)
             make(mark);
         m_conflicts = ppdConflicts(m_job.ppd());
-        m_doubts = doubtsOf(m_job, settingState(m_job)).size();
+        m_wrong = wrong();
     }
 
     PrintJob &job() { return m_job; }
@@ -118,15 +118,29 @@ public:
         const bool isMarked = current(wanted.keyword) == wanted.choice;
         const bool stand =
             std::ranges::all_of(changes, [this](const PPDMark &one) { return has(one); });
-        return isMarked && stand && ppdConflicts(m_job.ppd()) <= m_conflicts &&
-               doubtsOf(m_job, settingState(m_job)).size() <= m_doubts;
+        const bool isNothingNew = std::ranges::all_of(
+            wrong(), [this](const QString &one) { return m_wrong.contains(one); });
+        return isMarked && stand && ppdConflicts(m_job.ppd()) <= m_conflicts && isNothingNew;
     }
 
 private:
+    /// What would be printed otherwise than it is shown, or not at all: a trouble of one setting in
+    /// the place of another's is a new one.
+    QStringList wrong() const
+    {
+        QStringList settings;
+        for (const SettingChange &one :
+             unlikeShown(settingState(m_job), m_job.session()->choiceForms()))
+            settings += one.keyword;
+        if (isOnOneSidedPaper(m_job))
+            settings += u"sides"_s;
+        return settings;
+    }
+
     ScriptedAnswers m_answers;
     PrintJob m_job;
     int m_conflicts = 0;
-    qsizetype m_doubts = 0;
+    QStringList m_wrong;
 };
 
 /// But for values of sliders, which are no choices.
