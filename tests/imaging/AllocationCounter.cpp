@@ -40,7 +40,7 @@ namespace {
 #else
 
 // The program's malloc stands before the C library's for every library of the process; operator
-// new ends here too.
+// new ends here too. All others see it only where it is not hidden.
 extern "C" {
 // NOLINTBEGIN(bugprone-reserved-identifier): the C library's own names
 void *__libc_malloc(std::size_t size);
@@ -48,19 +48,19 @@ void *__libc_calloc(std::size_t members, std::size_t size);
 void *__libc_realloc(void *block, std::size_t size);
 // NOLINTEND(bugprone-reserved-identifier)
 
-void *malloc(std::size_t size) noexcept
+[[gnu::visibility("default")]] void *malloc(std::size_t size) noexcept
 {
     count(size);
     return __libc_malloc(size);
 }
 
-void *calloc(std::size_t members, std::size_t size) noexcept
+[[gnu::visibility("default")]] void *calloc(std::size_t members, std::size_t size) noexcept
 {
     count(members * size);
     return __libc_calloc(members, size);
 }
 
-void *realloc(void *block, std::size_t size) noexcept
+[[gnu::visibility("default")]] void *realloc(void *block, std::size_t size) noexcept
 {
     count(size);
     return __libc_realloc(block, size);
