@@ -17,7 +17,8 @@ endif()
 
 # Most of the code runs once: what counts is how much of it there is to read and to build. The filters
 # of images are no faster with more.
-set(CMAKE_CXX_FLAGS_RELEASE "-O2 -DNDEBUG")
+set(VELKARO_OPTIMIZATION -O2 CACHE STRING "How far release builds are optimised")
+set(CMAKE_CXX_FLAGS_RELEASE "${VELKARO_OPTIMIZATION} -DNDEBUG")
 
 include(cmake/Hardening.cmake)
 
