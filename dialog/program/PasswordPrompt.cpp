@@ -120,8 +120,9 @@ private:
     static void show(int terminal, const QString &text)
     {
         const QByteArray bytes = text.toLocal8Bit();
-        static_cast<void>(
-            write(terminal, bytes.constData(), static_cast<std::size_t>(bytes.size())));
+        // Who cannot read it can answer all the same.
+        [[maybe_unused]] const ssize_t written =
+            write(terminal, bytes.constData(), static_cast<std::size_t>(bytes.size()));
     }
 
     static QString userPrompt(const QString &user)
