@@ -1393,8 +1393,12 @@ Umschalt+F1 oder das Kontextmenü sagt, warum.</translation>
         <translation>Die gesicherten Einstellungen in %1 können nicht gelesen werden: %2.</translation>
     </message>
     <message>
-        <source>it is no such file</source>
-        <translation>es ist keine solche Datei</translation>
+        <source>it is no ordinary file</source>
+        <translation>es ist keine gewöhnliche Datei</translation>
+    </message>
+    <message>
+        <source>it has more than %1 MB</source>
+        <translation>sie hat mehr als %1 MB</translation>
     </message>
     <message>
         <source>Another program is changing %1. Try again.</source>
@@ -2555,6 +2559,10 @@ Umschalt+F1 oder das Kontextmenü sagt, warum.</translation>
 </context>
 <context>
     <name>PrinterSource</name>
+    <message>
+        <source>There are more settings saved for %1 than the %2 that can be used.</source>
+        <translation>Für %1 sind mehr Einstellungen gesichert als die %2, die verwendet werden können.</translation>
+    </message>
     <message>
         <source>The PPD of the queue %1 cannot be used. %2</source>
         <translation>Die PPD-Datei der Warteschlange %1 kann nicht verwendet werden. %2</translation>

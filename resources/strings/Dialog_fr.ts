@@ -1393,8 +1393,12 @@ Maj+F1 ou le menu contextuel dit pourquoi.</translation>
         <translation>Les réglages enregistrés dans %1 ne peuvent pas être lus : %2.</translation>
     </message>
     <message>
-        <source>it is no such file</source>
-        <translation>ce n’est pas un tel fichier</translation>
+        <source>it is no ordinary file</source>
+        <translation>ce n’est pas un fichier ordinaire</translation>
+    </message>
+    <message>
+        <source>it has more than %1 MB</source>
+        <translation>il dépasse %1 Mo</translation>
     </message>
     <message>
         <source>Another program is changing %1. Try again.</source>
@@ -2555,6 +2559,10 @@ Maj+F1 ou le menu contextuel dit pourquoi.</translation>
 </context>
 <context>
     <name>PrinterSource</name>
+    <message>
+        <source>There are more settings saved for %1 than the %2 that can be used.</source>
+        <translation>Plus de réglages sont enregistrés pour %1 que les %2 qui peuvent être utilisés.</translation>
+    </message>
     <message>
         <source>The PPD of the queue %1 cannot be used. %2</source>
         <translation>Le fichier PPD de la file d’attente %1 ne peut pas être utilisé. %2</translation>

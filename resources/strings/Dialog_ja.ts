@@ -1393,8 +1393,12 @@ Shift+F1 or the context menu tells why.</source>
         <translation>%1 に保存された設定を読み込めません: %2。</translation>
     </message>
     <message>
-        <source>it is no such file</source>
-        <translation>設定ファイルではありません</translation>
+        <source>it is no ordinary file</source>
+        <translation>通常のファイルではありません</translation>
+    </message>
+    <message>
+        <source>it has more than %1 MB</source>
+        <translation>%1 MB を超えています</translation>
     </message>
     <message>
         <source>Another program is changing %1. Try again.</source>
@@ -2555,6 +2559,10 @@ Shift+F1 or the context menu tells why.</source>
 </context>
 <context>
     <name>PrinterSource</name>
+    <message>
+        <source>There are more settings saved for %1 than the %2 that can be used.</source>
+        <translation>%1 に保存された設定が、使用できる上限の %2 個を超えています。</translation>
+    </message>
     <message>
         <source>The PPD of the queue %1 cannot be used. %2</source>
         <translation>キュー %1 の PPD は使用できません。%2</translation>

@@ -172,9 +172,9 @@ TEST_F(Lpoptions, ThatAreNoFileAreLeftAlone)
     QDir().mkpath(m_folder.userFile());
     const Result<> saved = save(kGlossy, {{u"x"_s, u"1"_s}});
     EXPECT_EQ(saved.faultKind(), FaultKind::Output);
-    EXPECT_EQ(
-        saved.sentence(),
-        u"The saved settings in %1 cannot be read: it is no such file."_s.arg(m_folder.userFile()));
+    EXPECT_EQ(saved.sentence(),
+              u"The saved settings in %1 cannot be read: it is no ordinary file."_s.arg(
+                  m_folder.userFile()));
 }
 
 TEST_F(Lpoptions, OfTooManySettingsAreRefused)
