@@ -747,6 +747,10 @@ Umschalt+F1 oder das Kontextmenü sagt, warum.</translation>
 <context>
     <name>JobFile</name>
     <message>
+        <source>The saved job %1 is damaged, or another version of Velkaro Print has written it.</source>
+        <translation>Der gespeicherte Auftrag %1 ist beschädigt oder wurde von einer anderen Version von Velkaro Print geschrieben.</translation>
+    </message>
+    <message>
         <source>%1 is no saved job.</source>
         <translation>%1 ist kein gespeicherter Auftrag.</translation>
     </message>

@@ -747,6 +747,10 @@ Maj+F1 ou le menu contextuel dit pourquoi.</translation>
 <context>
     <name>JobFile</name>
     <message>
+        <source>The saved job %1 is damaged, or another version of Velkaro Print has written it.</source>
+        <translation>Le travail enregistré %1 est endommagé, ou a été écrit par une autre version de Velkaro Print.</translation>
+    </message>
+    <message>
         <source>%1 is no saved job.</source>
         <translation>%1 n’est pas un travail enregistré.</translation>
     </message>

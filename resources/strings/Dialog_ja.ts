@@ -747,6 +747,10 @@ Shift+F1 or the context menu tells why.</source>
 <context>
     <name>JobFile</name>
     <message>
+        <source>The saved job %1 is damaged, or another version of Velkaro Print has written it.</source>
+        <translation>保存されたジョブ %1 は壊れているか、別のバージョンの Velkaro Print で書かれています。</translation>
+    </message>
+    <message>
         <source>%1 is no saved job.</source>
         <translation>%1 は保存されたジョブではありません。</translation>
     </message>
