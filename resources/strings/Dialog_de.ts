@@ -2915,8 +2915,8 @@ Umschalt+F1 oder das Kontextmenü sagt, warum.</translation>
         <translation>Die Antwort des Druckservers %1 ist zu groß.</translation>
     </message>
     <message>
-        <source>What the print server %1 sends cannot be kept in the temporary folder: %2.</source>
-        <translation>Was der Druckserver %1 sendet, kann nicht im temporären Ordner abgelegt werden: %2.</translation>
+        <source>What the print server %1 sends cannot be kept in the temporary folder %2: %3.</source>
+        <translation>Was der Druckserver %1 sendet, kann nicht im temporären Ordner %2 abgelegt werden: %3.</translation>
     </message>
     <message>
         <source>Printing was cancelled.</source>

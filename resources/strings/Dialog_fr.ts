@@ -2915,8 +2915,8 @@ Maj+F1 ou le menu contextuel dit pourquoi.</translation>
         <translation>La réponse du serveur d’impression %1 est trop volumineuse.</translation>
     </message>
     <message>
-        <source>What the print server %1 sends cannot be kept in the temporary folder: %2.</source>
-        <translation>Ce qu’envoie le serveur d’impression %1 ne peut pas être conservé dans le dossier temporaire : %2.</translation>
+        <source>What the print server %1 sends cannot be kept in the temporary folder %2: %3.</source>
+        <translation>Ce qu’envoie le serveur d’impression %1 ne peut pas être conservé dans le dossier temporaire %2 : %3.</translation>
     </message>
     <message>
         <source>Printing was cancelled.</source>

@@ -2915,8 +2915,8 @@ Shift+F1 or the context menu tells why.</source>
         <translation>プリントサーバー %1 の応答が大きすぎます。</translation>
     </message>
     <message>
-        <source>What the print server %1 sends cannot be kept in the temporary folder: %2.</source>
-        <translation>プリントサーバー %1 から届くデータを一時フォルダーに保存できません（%2）。</translation>
+        <source>What the print server %1 sends cannot be kept in the temporary folder %2: %3.</source>
+        <translation>プリントサーバー %1 から届くデータを一時フォルダー %2 に保存できません（%3）。</translation>
     </message>
     <message>
         <source>Printing was cancelled.</source>
