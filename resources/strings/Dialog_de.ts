@@ -1762,6 +1762,14 @@ Umschalt+F1 oder das Kontextmenü sagt, warum.</translation>
 <context>
     <name>PasswordPrompt</name>
     <message>
+        <source>No password can be read from the open file %1 (--password-fd): %2.</source>
+        <translation>Aus der offenen Datei %1 (--password-fd) kann kein Passwort gelesen werden: %2.</translation>
+    </message>
+    <message>
+        <source>The open file %1 cannot be a document and hold the password (--password-fd).</source>
+        <translation>Die offene Datei %1 kann nicht zugleich ein Dokument sein und das Passwort enthalten (--password-fd).</translation>
+    </message>
+    <message>
         <source>Domain: </source>
         <translation>Domäne: </translation>
     </message>

@@ -1762,6 +1762,14 @@ Maj+F1 ou le menu contextuel dit pourquoi.</translation>
 <context>
     <name>PasswordPrompt</name>
     <message>
+        <source>No password can be read from the open file %1 (--password-fd): %2.</source>
+        <translation>Aucun mot de passe ne peut être lu dans le fichier ouvert %1 (--password-fd) : %2.</translation>
+    </message>
+    <message>
+        <source>The open file %1 cannot be a document and hold the password (--password-fd).</source>
+        <translation>Le fichier ouvert %1 ne peut pas être à la fois un document et contenir le mot de passe (--password-fd).</translation>
+    </message>
+    <message>
         <source>Domain: </source>
         <translation>Domaine : </translation>
     </message>

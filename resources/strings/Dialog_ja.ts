@@ -1762,6 +1762,14 @@ Shift+F1 or the context menu tells why.</source>
 <context>
     <name>PasswordPrompt</name>
     <message>
+        <source>No password can be read from the open file %1 (--password-fd): %2.</source>
+        <translation>開いているファイル %1（--password-fd）からパスワードを読み込めません（%2）。</translation>
+    </message>
+    <message>
+        <source>The open file %1 cannot be a document and hold the password (--password-fd).</source>
+        <translation>開いているファイル %1 は、文書とパスワード（--password-fd）の両方には使えません。</translation>
+    </message>
+    <message>
         <source>Domain: </source>
         <translation>ドメイン: </translation>
     </message>
