@@ -1170,6 +1170,14 @@ Umschalt+F1 oder das Kontextmenü sagt, warum.</translation>
         <translation>Der Server weiß nichts mehr von Auftrag %1 auf %2: Ob er gedruckt wurde, ist nicht bekannt.</translation>
     </message>
     <message>
+        <source>Job %1 on %2 is held until somebody releases it.</source>
+        <translation>Auftrag %1 auf %2 wird zurückgehalten, bis ihn jemand freigibt.</translation>
+    </message>
+    <message>
+        <source>Job %1 on %2 is held. %3: %4.</source>
+        <translation>Auftrag %1 auf %2 wird zurückgehalten. %3: %4.</translation>
+    </message>
+    <message>
         <source>Job %1 on %2 is held until %3.</source>
         <translation>Auftrag %1 auf %2 wird bis %3 zurückgehalten.</translation>
     </message>

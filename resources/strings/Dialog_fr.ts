@@ -1170,6 +1170,14 @@ Maj+F1 ou le menu contextuel dit pourquoi.</translation>
         <translation>Le serveur n’a plus trace du travail %1 sur %2 : on ne sait pas s’il a été imprimé.</translation>
     </message>
     <message>
+        <source>Job %1 on %2 is held until somebody releases it.</source>
+        <translation>Le travail %1 sur %2 est retenu jusqu’à ce que quelqu’un le libère.</translation>
+    </message>
+    <message>
+        <source>Job %1 on %2 is held. %3: %4.</source>
+        <translation>Le travail %1 sur %2 est retenu. %3 : %4.</translation>
+    </message>
+    <message>
         <source>Job %1 on %2 is held until %3.</source>
         <translation>Le travail %1 sur %2 est retenu jusqu’à %3.</translation>
     </message>

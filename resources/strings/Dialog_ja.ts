@@ -1170,6 +1170,14 @@ Shift+F1 or the context menu tells why.</source>
         <translation>%2 のジョブ %1 の記録がサーバーにもうありません。印刷されたかどうかは分かりません。</translation>
     </message>
     <message>
+        <source>Job %1 on %2 is held until somebody releases it.</source>
+        <translation>%2 のジョブ %1 は保留されています。保留を解除すると印刷されます。</translation>
+    </message>
+    <message>
+        <source>Job %1 on %2 is held. %3: %4.</source>
+        <translation>%2 のジョブ %1 は保留されています。%3：%4。</translation>
+    </message>
+    <message>
         <source>Job %1 on %2 is held until %3.</source>
         <translation>%2 のジョブ %1 は %3 まで保留されています。</translation>
     </message>
