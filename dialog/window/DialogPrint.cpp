@@ -28,7 +28,7 @@ std::optional<JobRequest> DialogWindow::finishedJob()
     const Result<FinishedJob> finished = m_controller.finish();
     if (m_isEnding) // dismissed, not answered
         return std::nullopt;
-    noteOwnEvent();
+    m_events.noteOwn();
     tellEvent(); // what saving has changed, before what is told of the job
     if (finished && isAgreed(finished->doubts))
         return finished->request;

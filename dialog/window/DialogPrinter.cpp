@@ -113,7 +113,7 @@ void DialogWindow::takePrinter(const Result<FoundPrinter> &found)
     if (found)
         makeRequestedSettings();
     confirmPreset();
-    static_cast<void>(takeChanges()); // nothing of this has the user done in the window
+    m_events.skipChanges(); // nothing of this has the user done in the window
     if (m_state == State::Ready && !m_savedJob)
         m_undo->begin(isFirst ? m_controller.namedWishes().wanted : QList<RequestedChoice>());
     else if (m_state == State::NoPrinter || m_savedJob)

@@ -51,14 +51,11 @@ DialogWindow::DialogWindow(const DialogWishes &wishes, QWidget *parent)
       m_wishes(wishes),
       m_controller(wishes),
       m_undo(std::make_unique<SessionUndo>(m_controller)),
+      m_events(m_controller),
       m_documentState(m_controller.openDocuments(wishes.files)),
       m_outcome(Fault{FaultKind::Cancelled, {}}),
       m_watch(m_controller, *this)
 {
-    m_controller.addSessionHook([this](HostSession &session) {
-        session.addObserver(this);
-        return Result<>();
-    });
     setObjectName(u"dialogWindow"_s);
     setAcceptDrops(true);
     takeSavedJob();
@@ -96,8 +93,12 @@ void DialogWindow::buildLayout()
     addPartShortcut(QKeySequence::NextChild, 1);
     addPartShortcut(QKeySequence::PreviousChild, -1);
     connect(m_tabs, &QTabWidget::currentChanged, this, &DialogWindow::changePart);
-    connect(m_tabs, &DialogTabs::viewResized, this,
-            [this] { QTimer::singleShot(0, this, &DialogWindow::followView); });
+    const auto followSoon = [this] { QTimer::singleShot(0, this, &DialogWindow::followView); };
+    connect(m_tabs, &DialogTabs::viewResized, this, followSoon);
+    connect(&m_events, &EventWatch::viewResized, this, followSoon);
+    connect(&m_events, &EventWatch::over, this, &DialogWindow::tellEvent);
+    connect(&m_events, &EventWatch::failed, this,
+            [this](const QString &sentence) { tell(NoticeBar::Kind::Error, sentence); });
     connect(&m_watch, &PrinterWatch::listed, this, &DialogWindow::takeList);
     connect(m_header, &JobHeader::documentsWanted, this, &DialogWindow::chooseDocuments);
     connect(m_header, &JobHeader::changed, this, &DialogWindow::tellStanding);

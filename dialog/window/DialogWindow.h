@@ -2,10 +2,9 @@
 
 #include "dialog/cups/JobSentence.h"
 #include "dialog/cups/PrinterCondition.h"
-#include "dialog/host/SessionObserver.h"
 #include "dialog/printing/PrintController.h"
-#include "dialog/printing/SettingState.h"
 #include "dialog/window/DialogWishes.h"
+#include "dialog/window/EventWatch.h"
 #include "dialog/window/NoticeBar.h"
 #include "dialog/window/PrinterWatch.h"
 #include "dialog/window/SummaryPane.h"
@@ -30,7 +29,7 @@ struct Remedy;
 ///
 /// It shows what its PrintController does, and asks what only a user can answer. It opens at once
 /// and waits for nothing. Panels are released before the panes that show their views.
-class DialogWindow : public QDialog, private SessionObserver
+class DialogWindow : public QDialog
 {
     Q_OBJECT
 
@@ -104,15 +103,6 @@ private:
         QList<NoticeOffer> offers = {};
     };
 
-    /// What an event has come to.
-    struct News
-    {
-        QString refusal; ///< null: nothing was refused
-        QList<SettingChange> changes;
-        PPDMark lost; ///< that was refused or taken away; a null choice: nothing
-        bool isUsers = false;
-    };
-
     // DialogWindow.cpp
     void buildLayout();
     void addPartShortcut(QKeySequence::StandardKey keys, int step);
@@ -127,17 +117,9 @@ private:
     void showHelp();
 
     // DialogAnswers.cpp
-    void didAnswer(const HostCallback::Call &call) override;
-    void didMark(const QString &keyword, const QString &choice) override;
-    void didSetPaper(const PMPaper &paper, const std::optional<QString> &mapped) override;
-    void didWriteTicket(const QString &key, const QVariant &value) override;
-    void didFail(PanelOperation operation, const HostPanel &panel,
-                 const QString &sentence) override;
-    void noteEvent();
-    void noteOwnEvent();
     void tellEvent();
-    PPDMark takeLost(const QList<SettingChange> &changes);
-    void tellNews(const News &news);
+    PPDMark takeLost(const EventOutcome &event);
+    void tellOutcome(const EventOutcome &event, const PPDMark &lost);
     void tellRefusal(const QString &sentence, const PPDMark &choice);
     NoticeOffer leaveOffer();
     void connectAdvice();
@@ -145,7 +127,6 @@ private:
     Notice doubtsToTell(const SettingState &state);
     Notice standingNotice(Notice doubts) const;
     void choose(const RequestedChoice &choice);
-    QList<SettingChange> takeChanges();
 
     // DialogDocuments.cpp
     void readPipes();
@@ -219,7 +200,6 @@ private:
     NoticeOffer undoOffer();
     Result<> exchangeSession(Result<> (SessionUndo::*way)());
     void showSettled();
-    void forgetEvent();
 
     // DialogPrint.cpp
     std::optional<JobRequest> finishedJob();
@@ -238,6 +218,7 @@ private:
     const DialogWishes m_wishes;
     PrintController m_controller;
     const std::unique_ptr<SessionUndo> m_undo;
+    EventWatch m_events;
     Result<> m_documentState;
     std::optional<JobRequest> m_savedJob; ///< the only document, where that is a saved job
     Result<> m_printerState;
@@ -249,13 +230,7 @@ private:
     QStringList m_startNotes;                    ///< on the settings that it starts from
     std::optional<PrinterCondition> m_condition; ///< of the printer; none: not known yet
     Notice m_standing;                           ///< shown while there is nothing newer to tell
-    PPDMark m_refused;              ///< of the pick that is going on; a null keyword: nothing
-    QString m_refusalToTell;        ///< of the pick that is going on
-    bool m_coversAreListed = false; ///< of the printer
-    PPDMark m_pick;                 ///< of the user, in the event that is going on; null: none yet
-    SettingState m_toldState;       ///< to tell what an event has changed
-    bool m_eventIsNoted = false;
-    int m_eventLevel = 0; ///< of the event loop in which it was noted
+    bool m_coversAreListed = false;              ///< of the printer
     bool m_requestedSettingsAreMade = false;
     bool m_presetIsNew = false; ///< the one that is being opened
     bool m_isEnding = false;
