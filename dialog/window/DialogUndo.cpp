@@ -8,6 +8,7 @@
 #include "dialog/window/LayoutPane.h"
 #include "dialog/window/Mnemonics.h"
 #include "dialog/window/PageSetupPane.h"
+#include "dialog/window/PresetActions.h"
 #include "dialog/window/SessionUndo.h"
 #include "dialog/window/SummaryPart.h"
 #include "dialog/work/Sentences.h"
@@ -100,7 +101,7 @@ Result<> DialogWindow::exchangeSession(Result<> (SessionUndo::*way)())
 void DialogWindow::showSettled()
 {
     m_header->reload();
-    showPresets();
+    m_presets->show(m_state == State::Ready);
     m_tabs->pageSetup()->reload();
     m_tabs->layoutPane()->reload();
     QWidget *part = m_tabs->currentWidget();

@@ -10,6 +10,7 @@
 #include "dialog/window/Mnemonics.h"
 #include "dialog/window/PageSetupPane.h"
 #include "dialog/window/PasswordDialog.h"
+#include "dialog/window/PresetActions.h"
 #include "dialog/window/PrinterPopUp.h"
 #include "dialog/window/ProgressStrip.h"
 #include "dialog/window/ScrolledBody.h"
@@ -107,7 +108,10 @@ void DialogWindow::buildLayout()
     connect(m_tabs->pageSetup(), &PageSetupPane::refused, this, &DialogWindow::tellRefusal);
     connect(m_tabs->features(), &FeaturesPane::changed, this, &DialogWindow::tellStanding);
     connect(m_tabs->features(), &FeaturesPane::refused, this, &DialogWindow::tellRefusal);
-    connectPresets();
+    m_presets = new PresetActions(job(), *m_header->presets(), *this);
+    connect(m_presets, &PresetActions::startWanted, this, &DialogWindow::startFrom);
+    connect(m_presets, &PresetActions::told, this,
+            [this](NoticeBar::Kind kind, const QString &sentence) { tell(kind, sentence); });
     connectUndo();
     connectAdvice();
     connect(m_header->printers(), &PrinterPopUp::picked, this, [this](const QueueName &queue) {

@@ -8,7 +8,6 @@
 #include "dialog/window/NoticeBar.h"
 #include "dialog/window/PrinterWatch.h"
 #include "dialog/window/SummaryPane.h"
-#include "platform/toolkit/Alert.h"
 
 #include <QtGui/QKeySequence>
 #include <QtWidgets/QDialog>
@@ -19,6 +18,7 @@
 class DialogAdvice;
 class DialogTabs;
 class JobHeader;
+class PresetActions;
 class ProgressStrip;
 class ScrolledBody;
 class QPushButton;
@@ -145,6 +145,8 @@ private:
     // DialogPrinter.cpp
     void choosePrinter();
     void findPrinter(const PrinterSource &source);
+    StartingSettings usualStart() const;
+    void startFrom(const QString &preset, const StartingSettings &start);
     void beginSearch(const PrinterSource &source);
     void retry();
     QList<NoticeOffer> offersAfter(FaultKind fault);
@@ -180,17 +182,6 @@ private:
     QList<SummarySection> summarySections();
     void listCoverPages();
 
-    // DialogPresets.cpp
-    void connectPresets();
-    void showPresets();
-    StartingSettings usualStart() const;
-    void startFrom(const QString &preset, const StartingSettings &start);
-    void savePreset();
-    void confirmPreset();
-    void renamePreset();
-    void deletePreset();
-    void showHiddenAlerts();
-
     // DialogUndo.cpp
     void connectUndo();
     void noteSettled();
@@ -204,7 +195,6 @@ private:
     // DialogPrint.cpp
     std::optional<JobRequest> finishedJob();
     bool isAgreed(const QStringList &doubts);
-    int ask(const AlertContent &question);
     void print();
     void saveToFile();
     std::optional<OutputTerms> agreedTerms(const QString &path);
@@ -232,7 +222,6 @@ private:
     Notice m_standing;                           ///< shown while there is nothing newer to tell
     bool m_coversAreListed = false;              ///< of the printer
     bool m_requestedSettingsAreMade = false;
-    bool m_presetIsNew = false; ///< the one that is being opened
     bool m_isEnding = false;
     bool m_mayHavePrinted = false; ///< what Print did last
     PageCount m_pageCount;         ///< of the documents
@@ -245,6 +234,7 @@ private:
     ProgressStrip *m_progress;
     DialogTabs *m_tabs;
     DialogAdvice *m_advice;
+    PresetActions *m_presets;
     QWidget *m_buttons = nullptr;
     QPushButton *m_help = nullptr;
     QPushButton *m_save = nullptr;
