@@ -124,7 +124,11 @@ Result<> changeLpoptions(const std::function<Result<QByteArray>(const QByteArray
 {
     const QString path = ownLpoptionsFile();
     QDir().mkpath(QFileInfo(path).path());
-    QLockFile lock(path + u".lock"_s);
+    const QString lockPath = path + u".lock"_s;
+    // Somebody's pipe in the place of the lock would keep whoever looks into it waiting.
+    if (const Result<QByteArray> locked = lpoptionsText(lockPath); !locked)
+        return locked.fault();
+    QLockFile lock(lockPath);
     lock.setStaleLockTime(kLockTimeout);
     const bool isLocked = lock.tryLock(kLockTimeout);
     if (!isLocked && lock.error() == QLockFile::LockFailedError)
