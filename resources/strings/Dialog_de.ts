@@ -1423,10 +1423,6 @@ Umschalt+F1 oder das Kontextmenü sagt, warum.</translation>
         <translation>Einstellung: %1=%2</translation>
     </message>
     <message>
-        <source>Page %1 is beyond the document's last page, %2.</source>
-        <translation>Seite %1 liegt hinter der letzten Seite des Dokuments, %2.</translation>
-    </message>
-    <message>
         <source>%1 would get the job.</source>
         <translation>%1 würde den Auftrag bekommen.</translation>
     </message>
@@ -2674,6 +2670,13 @@ Umschalt+F1 oder das Kontextmenü sagt, warum.</translation>
     <message>
         <source>turn off %1 and %2</source>
         <translation>%1 ausschalten und %2</translation>
+    </message>
+</context>
+<context>
+    <name>RequestChecks</name>
+    <message>
+        <source>Page %1 is beyond the document's last page, %2.</source>
+        <translation>Seite %1 liegt hinter der letzten Seite des Dokuments, %2.</translation>
     </message>
 </context>
 <context>

@@ -1423,10 +1423,6 @@ Maj+F1 ou le menu contextuel dit pourquoi.</translation>
         <translation>Réglage : %1=%2</translation>
     </message>
     <message>
-        <source>Page %1 is beyond the document's last page, %2.</source>
-        <translation>La page %1 dépasse la dernière page du document, %2.</translation>
-    </message>
-    <message>
         <source>%1 would get the job.</source>
         <translation>%1 recevrait le travail.</translation>
     </message>
@@ -2674,6 +2670,13 @@ Maj+F1 ou le menu contextuel dit pourquoi.</translation>
     <message>
         <source>turn off %1 and %2</source>
         <translation>désactiver %1 et %2</translation>
+    </message>
+</context>
+<context>
+    <name>RequestChecks</name>
+    <message>
+        <source>Page %1 is beyond the document's last page, %2.</source>
+        <translation>La page %1 dépasse la dernière page du document, %2.</translation>
     </message>
 </context>
 <context>

@@ -1423,10 +1423,6 @@ Shift+F1 or the context menu tells why.</source>
         <translation>設定: %1=%2</translation>
     </message>
     <message>
-        <source>Page %1 is beyond the document's last page, %2.</source>
-        <translation>%1 ページは、文書の最終ページ (%2) を超えています。</translation>
-    </message>
-    <message>
         <source>%1 would get the job.</source>
         <translation>ジョブは %1 に送信されます（今回は送信していません）。</translation>
     </message>
@@ -2674,6 +2670,13 @@ Shift+F1 or the context menu tells why.</source>
     <message>
         <source>turn off %1 and %2</source>
         <translation>%1 をオフにして %2</translation>
+    </message>
+</context>
+<context>
+    <name>RequestChecks</name>
+    <message>
+        <source>Page %1 is beyond the document's last page, %2.</source>
+        <translation>%1 ページは、文書の最終ページ (%2) を超えています。</translation>
     </message>
 </context>
 <context>
