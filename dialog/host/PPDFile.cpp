@@ -43,9 +43,9 @@ void dropUnnamedChoices(ppd_group_t &group)
 {
     for (ppd_option_t &option :
          std::span(group.options, static_cast<std::size_t>(group.num_options))) {
-        const std::span choices(option.choices, static_cast<std::size_t>(option.num_choices));
-        option.num_choices -=
-            static_cast<int>(std::ranges::remove_if(choices, hasNoUsableName).size());
+        ppd_choice_t *const end = option.choices + option.num_choices;
+        option.num_choices =
+            static_cast<int>(std::remove_if(option.choices, end, hasNoUsableName) - option.choices);
     }
 }
 

@@ -9,7 +9,6 @@
 #include <cups/cups.h>
 
 #include <algorithm>
-#include <ranges>
 #include <utility>
 
 namespace {
@@ -80,11 +79,11 @@ QList<JobOption> lastOfEach(const QList<JobOption> &options)
 {
     QSet<QString> names;
     QList<JobOption> last;
-    for (const JobOption &option : options | std::views::reverse) {
+    std::for_each(options.crbegin(), options.crend(), [&](const JobOption &option) {
         if (!names.contains(option.name))
             last += option;
         names.insert(option.name);
-    }
+    });
     std::ranges::reverse(last);
     return last;
 }
