@@ -9,6 +9,7 @@
 #include "tests/ppdlimits/PPDAtLimit.h"
 
 #include <QtCore/QElapsedTimer>
+#include <QtCore/QEventLoop>
 #include <QtCore/QFile>
 #include <QtCore/QTemporaryDir>
 #include <QtCore/QTimer>
@@ -35,6 +36,7 @@ constexpr double kFrame = 16; // ms: what nobody notices
 constexpr int kTries = 3;
 constexpr int kManyPrinters = 20000;
 constexpr int kLongestOpening = 30000; // ms, by the clock
+constexpr int kPause = 100;            // ms, after which the window knows that nobody goes on
 
 double threadMilliseconds()
 {
@@ -141,13 +143,23 @@ double pickInPageSetup(EventCosts &costs, DialogWindow &window)
     return pickEverywhere(costs, window);
 }
 
-/// Undoes a pick after as many of them.
+void pause()
+{
+    QEventLoop loop;
+    QTimer::singleShot(kPause, &loop, &QEventLoop::quit);
+    loop.exec();
+}
+
+/// Undoes a pick after as many of them, before the last of which somebody looked at the window.
 template <int picks> double undoAfter(EventCosts &costs, DialogWindow &window)
 {
     window.showPart(u"print"_s);
     auto *media = window.shownPart()->findChild<PopUpButton *>(u"mediaTypePopup"_s);
-    for (int count = 0; media && count < picks; ++count)
+    for (int count = 0; media && count < picks; ++count) {
+        if (count == picks - 1)
+            pause();
         costs.of([=] { media->pick(count % 2 == 0 ? 1 : 0); });
+    }
     for (auto *shortcut : window.findChildren<QShortcut *>())
         if (shortcut->key() == QKeySequence(QKeySequence::Undo))
             return costs.of([=] { Q_EMIT shortcut->activated(); });

@@ -1,5 +1,7 @@
 #include "dialog/cups/JobSentence.h"
 
+#include "dialog/job/JobLayout.h"
+
 #include <QtCore/QCoreApplication>
 #include <QtCore/QDateTime>
 
@@ -81,13 +83,24 @@ struct Told
     QStringList values;
 };
 
-std::optional<Told> heldUntilTime(const JobStatus &status)
+/// What the job waits for, where the server tells it.
+std::optional<Told> heldUntil(const JobStatus &status)
 {
     const QTime time = QTime::fromString(status.heldUntil, Qt::ISODate);
-    if (!time.isValid())
+    if (time.isValid())
+        return Told{QT_TRANSLATE_NOOP("JobSentence", "Job %1 on %2 is held until %3."),
+                    {localTime(time)}};
+    if (status.heldUntil == "indefinite"_L1)
+        return Told{
+            QT_TRANSLATE_NOOP("JobSentence", "Job %1 on %2 is held until somebody releases it."),
+            {}};
+    const LayoutSetting *hold = layoutSetting(u"job-hold-until"_s);
+    if (status.heldUntil == "no-hold"_L1 ||
+        std::ranges::find(hold->choices, status.heldUntil, &LayoutChoice::value) ==
+            hold->choices.end())
         return std::nullopt;
-    return Told{QT_TRANSLATE_NOOP("JobSentence", "Job %1 on %2 is held until %3."),
-                {localTime(time)}};
+    return Told{QT_TRANSLATE_NOOP("JobSentence", "Job %1 on %2 is held. %3: %4."),
+                {layoutTitle(*hold), layoutText(*hold, status.heldUntil)}};
 }
 
 /// The sheet that is being printed. Filters and printer may both count, so there can be more than
@@ -107,7 +120,7 @@ Told whatIsTold(int pages, const JobStatus &status)
 {
     std::optional<Told> own;
     if (status.phase == JobPhase::Held && status.reason.isEmpty())
-        own = heldUntilTime(status);
+        own = heldUntil(status);
     if (status.phase == JobPhase::Printing)
         own = printingPage(pages, status);
     if (own)

@@ -1,6 +1,7 @@
 #include "dialog/job/DocumentFile.h"
 
 #include "dialog/files/DescriptorPath.h"
+#include "dialog/files/OpenFiles.h"
 #include "dialog/files/PathBytes.h"
 #include "dialog/work/SystemReason.h"
 
@@ -126,6 +127,7 @@ Result<Document> openDocument(const QString &path)
 Result<Documents> openDocuments(const QStringList &paths)
 {
     Documents documents;
+    allowOpenFiles(static_cast<std::size_t>(paths.size()));
     for (const QString &path : paths) {
         const Result<Document> opened = openDocument(path);
         if (!opened)

@@ -1,6 +1,5 @@
 #include "dialog/advice/Advising.h"
 #include "dialog/host/HostSession.h"
-#include "dialog/job/Conflicts.h"
 #include "dialog/printing/ChangeWords.h"
 #include "dialog/printing/JobDoubts.h"
 #include "dialog/printing/PanelPicks.h"
@@ -10,72 +9,7 @@
 #include "dialog/window/SessionUndo.h"
 #include "dialog/work/Sentences.h"
 
-#include <QtCore/QThread>
-#include <QtCore/QTimer>
-
-#include <utility>
-
 using namespace Qt::StringLiterals;
-
-namespace {
-
-constexpr std::chrono::milliseconds kAlertInterval{20};
-
-} // namespace
-
-/// A panel has asked for a choice. A pick asks for the user's own first, and its rules for more:
-/// what is told when all is over is the first refusal, or that there was none.
-void DialogWindow::didAnswer(const HostCallback::Call &call)
-{
-    if (call.kind == HostCallback::Call::Kind::PanelViewDidResize) {
-        QTimer::singleShot(0, this, &DialogWindow::followView);
-        return;
-    }
-    if (!call.accepted && m_refusalToTell.isNull() && m_pick.keyword.isNull())
-        m_refused = {call.keyword, call.choice};
-    if (!call.accepted && m_refusalToTell.isNull())
-        m_refusalToTell = refusalSentence(job().ppd(), call.keyword, call.choice);
-    if (m_pick.keyword.isNull())
-        m_pick = {call.keyword, call.accepted ? call.choice : QString()};
-    noteEvent();
-}
-
-/// The panels have heard of it before, and asked for what follows from it.
-void DialogWindow::didMark(const QString &keyword, const QString &choice)
-{
-    m_pick = {keyword, choice};
-    noteEvent();
-}
-
-void DialogWindow::didSetPaper(const PMPaper &, const std::optional<QString> &)
-{
-    m_pick = {u"PageSize"_s, QString()};
-    noteEvent();
-}
-
-/// The panels hear of it afterwards.
-void DialogWindow::didWriteTicket(const QString &key, const QVariant &)
-{
-    m_pick = {key, QString()};
-    noteEvent();
-}
-
-/// What is going on is told of when it is over.
-void DialogWindow::noteEvent()
-{
-    if (std::exchange(m_eventIsNoted, true))
-        return;
-    m_eventLevel = QThread::currentThread()->loopLevel();
-    // Before anything is painted, so that what the event has changed is painted once.
-    QMetaObject::invokeMethod(this, &DialogWindow::tellEvent, Qt::QueuedConnection);
-}
-
-/// What the dialog has done by itself, as when another part comes in front, is over.
-void DialogWindow::noteOwnEvent()
-{
-    m_pick = {u""_s, QString()}; // nobody's
-    noteEvent();
-}
 
 /// The dialog itself has refused the user's choice.
 void DialogWindow::tellRefusal(const QString &sentence, const PPDMark &choice)
@@ -102,66 +36,56 @@ void DialogWindow::connectAdvice()
 void DialogWindow::take(const Remedy &remedy, const PPDMark &wanted)
 {
     tellEvent(); // what was before
-    m_pick = wanted;
+    m_events.note(wanted);
     prepareControls(*job().session());
     applyRemedy(job(), remedy, wanted);
     showSettled();
-    noteEvent();
 }
 
 void DialogWindow::tellEvent()
 {
-    if (!m_eventIsNoted)
+    const std::optional<EventOutcome> event = m_events.take();
+    if (!event)
         return;
-    // An alert in the midst of it waits for its answer.
-    if (QThread::currentThread()->loopLevel() > m_eventLevel) {
-        QTimer::singleShot(kAlertInterval, this, &DialogWindow::tellEvent);
-        return;
-    }
-    m_eventIsNoted = false;
-    const QString picked = m_pick.keyword;
-    const bool isNobodys = picked.isEmpty() && !picked.isNull();
-    News news{std::exchange(m_refusalToTell, QString()), takeChanges(), {}, !isNobodys};
-    news.lost = takeLost(news.changes);
+    const PPDMark lost = takeLost(*event);
     if (m_state != State::Ready)
         return;
-    if (isNobodys)
-        m_undo->noteOwn(m_toldState);
+    if (event->isNobodys())
+        m_undo->noteOwn(m_events.state());
     else
-        m_undo->noteUser(picked, m_toldState);
-    tellNews(news);
+        m_undo->noteUser(event->pick.keyword, m_events.state());
+    tellOutcome(*event, lost);
 }
 
 /// What somebody may want back: the choice that was refused, or the first one that was changed
 /// where a plug-in's alert said so; null: nothing.
-PPDMark DialogWindow::takeLost(const QList<SettingChange> &changes)
+PPDMark DialogWindow::takeLost(const EventOutcome &event)
 {
-    const PPDMark refused = std::exchange(m_refused, PPDMark());
-    if (!m_undo->takeAlerted() || !refused.keyword.isNull() || changes.isEmpty())
-        return refused;
-    return {changes.constFirst().keyword, changes.constFirst().from};
+    if (!m_undo->takeAlerted() || !event.refused.keyword.isNull() || event.changes.isEmpty())
+        return event.refused;
+    return {event.changes.constFirst().keyword, event.changes.constFirst().from};
 }
 
-void DialogWindow::tellNews(const News &news)
+void DialogWindow::tellOutcome(const EventOutcome &event, const PPDMark &lost)
 {
-    const Notice doubts = doubtsToTell(m_toldState);
-    const QString changes = changeSentence(job().ppd(), news.changes);
-    if (news.refusal.isNull() && changes.isNull()) {
+    const Notice doubts = doubtsToTell(m_events.state());
+    const QString changes = changeSentence(job().ppd(), event.changes);
+    if (event.refusal.isNull() && changes.isNull()) {
         showStanding(doubts);
         return;
     }
     updateButtons();
-    QStringList sentences{news.refusal, changes, doubts.sentence};
+    QStringList sentences{event.refusal, changes, doubts.sentence};
     sentences.removeAll(QString());
     QList<NoticeOffer> offers = doubts.offers;
-    if (news.isUsers && !changes.isNull() && m_undo->canUndo())
+    if (!event.isNobodys() && !changes.isNull() && m_undo->canUndo())
         offers += undoOffer();
-    const NoticeBar::Kind kind = news.refusal.isNull() ? doubts.kind : NoticeBar::Kind::Warning;
+    const NoticeBar::Kind kind = event.refusal.isNull() ? doubts.kind : NoticeBar::Kind::Warning;
     tell(kind, joinedSentences(sentences), offers);
-    if (!news.refusal.isNull())
+    if (!event.refusal.isNull())
         offers += leaveOffer();
-    if (!news.lost.choice.isNull())
-        m_advice->offerRemedies(news.lost, kind, joinedSentences(sentences), offers);
+    if (!lost.choice.isNull())
+        m_advice->offerRemedies(lost, kind, joinedSentences(sentences), offers);
 }
 
 /// What is not as it is shown, or goes with nothing else, and what the plug-in advises.
@@ -182,10 +106,9 @@ DialogWindow::Notice DialogWindow::doubtsToTell(const SettingState &state)
 /// As if the user had picked it in the part that has it, which need not be in front.
 void DialogWindow::choose(const RequestedChoice &choice)
 {
-    m_pick = {choice.keyword, choice.choice};
+    m_events.note({choice.keyword, choice.choice});
     prepareControls(*job().session());
     makeSetting(job(), choice);
-    noteEvent();
 }
 
 /// What the printer or the documents lack, and the doubts about the settings.
@@ -197,24 +120,4 @@ DialogWindow::Notice DialogWindow::standingNotice(Notice doubts) const
         return doubts;
     return {m_standing.kind, joinedSentences({m_standing.sentence, doubts.sentence}),
             m_standing.offers + doubts.offers};
-}
-
-/// What has changed since the last look, but for the user's pick.
-QList<SettingChange> DialogWindow::takeChanges()
-{
-    const PPDMark pick = std::exchange(m_pick, PPDMark());
-    if (!pick.keyword.isEmpty() && !pick.choice.isNull())
-        job().noteChoice(pick);
-    const SettingState now = ::settingState(job());
-    const SettingState former = std::exchange(m_toldState, now);
-    return job().session() ? changesBeside(pick, former, now, job().session()->choiceForms())
-                           : QList<SettingChange>();
-}
-
-/// After what is going on: showing another part, or a printer, tells something by itself.
-void DialogWindow::didFail(PanelOperation, const HostPanel &, const QString &sentence)
-{
-    if (sentence.isEmpty())
-        return;
-    QTimer::singleShot(0, this, [this, sentence] { tell(NoticeBar::Kind::Error, sentence); });
 }

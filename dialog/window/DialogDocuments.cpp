@@ -6,12 +6,15 @@
 #include "dialog/window/PageSetupPane.h"
 
 #include <QtCore/QMimeData>
+#include <QtCore/QTimer>
 #include <QtGui/QDragEnterEvent>
 #include <QtWidgets/QFileDialog>
 
 #include <algorithm>
 
 namespace {
+
+constexpr int kFirstSight = 200; // ms: the window and its panels are to be seen before all else
 
 /// The files that are dragged; none when anything else is among them.
 QStringList filesOf(const QMimeData &dragged)
@@ -31,7 +34,7 @@ QStringList filesOf(const QMimeData &dragged)
 void DialogWindow::readPipes()
 {
     if (!hasPipes(job().documents())) {
-        countPages();
+        QTimer::singleShot(kFirstSight, this, &DialogWindow::countPages);
         return;
     }
     m_controller.readPipes([this](const Result<> &read) {

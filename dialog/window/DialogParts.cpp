@@ -60,7 +60,7 @@ void DialogWindow::changePart()
         !m_tabs->features()->isAcceptable())
         tellStanding();
     fitToPart();
-    noteOwnEvent();
+    m_events.noteOwn();
 }
 
 /// The dialog's own panes have something to show only when they come in front.

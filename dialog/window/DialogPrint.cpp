@@ -4,9 +4,9 @@
 #include "dialog/printing/LastUsed.h"
 #include "dialog/printing/Presets.h"
 #include "dialog/window/DialogWindow.h"
+#include "dialog/window/OwnQuestion.h"
 #include "dialog/window/ProgressStrip.h"
 #include "dialog/work/Sentences.h"
-#include "platform/toolkit/AlertObserver.h"
 
 #include <QtCore/QTimer>
 #include <QtWidgets/QFileDialog>
@@ -28,7 +28,7 @@ std::optional<JobRequest> DialogWindow::finishedJob()
     const Result<FinishedJob> finished = m_controller.finish();
     if (m_isEnding) // dismissed, not answered
         return std::nullopt;
-    noteOwnEvent();
+    m_events.noteOwn();
     tellEvent(); // what saving has changed, before what is told of the job
     if (finished && isAgreed(finished->doubts))
         return finished->request;
@@ -47,15 +47,7 @@ bool DialogWindow::isAgreed(const QStringList &doubts)
     question.informative = doubts.join(u'\n');
     question.buttons = {tr("Go On"), tr("Cancel")};
     question.defaultButton = kCancel;
-    return ask(question) == kYes && !m_isEnding;
-}
-
-/// The number of the button.
-int DialogWindow::ask(const AlertContent &question)
-{
-    // No alert of a panel: a recording has nothing to do with it.
-    const UnobservedAlerts own;
-    return runAlert(question).button;
+    return askOwn(question) == kYes && !m_isEnding;
 }
 
 void DialogWindow::print()
@@ -81,7 +73,7 @@ std::optional<OutputTerms> DialogWindow::agreedTerms(const QString &path)
     question.text = tr("%1 exists already. Replace it?").arg(shownPath(path));
     question.buttons = {tr("Replace"), tr("Cancel")};
     question.defaultButton = kCancel;
-    terms.mayReplace = ask(question) != kCancel;
+    terms.mayReplace = askOwn(question) != kCancel;
     return terms.mayReplace ? std::optional(terms) : std::nullopt;
 }
 
@@ -133,7 +125,7 @@ void DialogWindow::judge(const JobPlace &place, const JobReceipt &receipt)
     question.informative = receipt.notes.join(u'\n');
     question.buttons = {tr("Print"), tr("Cancel Job")};
     question.defaultButton = kCancel;
-    const bool isAgreed = !m_isEnding && ask(question) == kYes && !m_isEnding;
+    const bool isAgreed = !m_isEnding && askOwn(question) == kYes && !m_isEnding;
     m_controller.endTrial(
         place, isAgreed ? TrialVerdict::Release : TrialVerdict::Cancel,
         [this, isAgreed, id = receipt.id](const Result<> &ended) {

@@ -6,6 +6,7 @@
 #include "dialog/window/JobHeader.h"
 #include "dialog/window/LayoutPane.h"
 #include "dialog/window/PageSetupPane.h"
+#include "dialog/window/PresetActions.h"
 #include "dialog/window/PrinterPopUp.h"
 #include "dialog/window/SessionUndo.h"
 #include "dialog/work/Sentences.h"
@@ -77,6 +78,16 @@ void DialogWindow::findPrinter(const PrinterSource &source)
                              [this](const Result<FoundPrinter> &found) { takePrinter(found); });
 }
 
+/// Opens the printer again with other settings.
+void DialogWindow::startFrom(const QString &preset, const StartingSettings &start)
+{
+    PrinterSource source = job().source();
+    source.queue.instance = preset;
+    source.start = start;
+    closePrinter();
+    findPrinter(source);
+}
+
 void DialogWindow::beginSearch(const PrinterSource &source)
 {
     setState(State::Searching);
@@ -107,13 +118,13 @@ void DialogWindow::takePrinter(const Result<FoundPrinter> &found)
     showPrinter();
     m_standing = standing();
     setState(found ? State::Ready : State::NoPrinter);
-    showPresets();
+    m_presets->show(m_state == State::Ready);
     tellStanding();
     const bool isFirst = !m_requestedSettingsAreMade;
     if (found)
         makeRequestedSettings();
-    confirmPreset();
-    static_cast<void>(takeChanges()); // nothing of this has the user done in the window
+    m_presets->confirm(m_state == State::Ready);
+    m_events.skipChanges(); // nothing of this has the user done in the window
     if (m_state == State::Ready && !m_savedJob)
         m_undo->begin(isFirst ? m_controller.namedWishes().wanted : QList<RequestedChoice>());
     else if (m_state == State::NoPrinter || m_savedJob)

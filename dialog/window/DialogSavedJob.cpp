@@ -3,6 +3,7 @@
 #include "dialog/job/SavedJobOptions.h"
 #include "dialog/printing/SavedJob.h"
 #include "dialog/window/DialogWindow.h"
+#include "dialog/window/OwnQuestion.h"
 #include "dialog/work/Sentences.h"
 #include "platform/ppd/PPDText.h"
 #include "platform/toolkit/Alert.h"
@@ -78,7 +79,7 @@ std::optional<JobRequest> DialogWindow::savedJobToSend()
             .arg(foreign.join(u", "_s));
     question.buttons = {tr("Print"), tr("Cancel")};
     question.defaultButton = kDoNotSend;
-    if (ask(question) == kDoNotSend || m_isEnding)
+    if (askOwn(question) == kDoNotSend || m_isEnding)
         return std::nullopt;
     return request;
 }

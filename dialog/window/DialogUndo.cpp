@@ -8,6 +8,7 @@
 #include "dialog/window/LayoutPane.h"
 #include "dialog/window/Mnemonics.h"
 #include "dialog/window/PageSetupPane.h"
+#include "dialog/window/PresetActions.h"
 #include "dialog/window/SessionUndo.h"
 #include "dialog/window/SummaryPart.h"
 #include "dialog/work/Sentences.h"
@@ -25,7 +26,7 @@ void DialogWindow::connectUndo()
             &DialogWindow::undo);
     connect(new QShortcut(QKeySequence::Redo, this), &QShortcut::activated, this,
             &DialogWindow::redo);
-    connect(m_undo.get(), &SessionUndo::acted, this, &DialogWindow::noteEvent);
+    connect(m_undo.get(), &SessionUndo::acted, &m_events, [this] { m_events.note(); });
     connect(m_header, &JobHeader::changed, this, &DialogWindow::noteSettled);
     connect(m_tabs->pageSetup(), &PageSetupPane::changed, this, &DialogWindow::noteSettled);
     connect(m_tabs->features(), &FeaturesPane::changed, this, &DialogWindow::noteSettled);
@@ -38,7 +39,7 @@ void DialogWindow::noteSettled()
     const auto *field = qobject_cast<const QLineEdit *>(focusWidget());
     const auto *number = qobject_cast<const QAbstractSpinBox *>(focusWidget());
     m_undo->setField(field || number ? focusWidget()->objectName() : QString());
-    m_undo->noteUser(m_eventIsNoted ? m_pick.keyword : QString(), ::settingState(job()));
+    m_undo->noteUser(m_events.picked(), ::settingState(job()));
 }
 
 NoticeOffer DialogWindow::undoOffer()
@@ -64,20 +65,20 @@ void DialogWindow::redo()
 void DialogWindow::goBackOrOn(Result<> (SessionUndo::*way)(), const QString &words,
                               const NoticeOffer &offer)
 {
-    const QList<PPDMark> before = m_toldState.marks;
+    const QList<PPDMark> before = m_events.state().marks;
     const Result<> gone = exchangeSession(way);
-    forgetEvent(); // it was nobody's
-    const Notice doubts = doubtsToTell(m_toldState);
-    m_undo->noteOwn(m_toldState);
+    m_events.forget(); // it was nobody's
+    const Notice doubts = doubtsToTell(m_events.state());
+    m_undo->noteOwn(m_events.state());
     updateButtons();
     if (!gone) {
         tell(NoticeBar::Kind::Error, gone.sentence());
         return;
     }
     const ChoiceForms forms = job().session() ? job().session()->choiceForms() : ChoiceForms();
-    QStringList told{words,
-                     changeSentence(job().ppd(), changesBetween(before, m_toldState.marks, forms)),
-                     doubts.sentence};
+    QStringList told{
+        words, changeSentence(job().ppd(), changesBetween(before, m_events.state().marks, forms)),
+        doubts.sentence};
     told.removeAll(QString());
     tell(doubts.kind, joinedSentences(told), doubts.offers + QList{offer});
 }
@@ -100,7 +101,7 @@ Result<> DialogWindow::exchangeSession(Result<> (SessionUndo::*way)())
 void DialogWindow::showSettled()
 {
     m_header->reload();
-    showPresets();
+    m_presets->show(m_state == State::Ready);
     m_tabs->pageSetup()->reload();
     m_tabs->layoutPane()->reload();
     QWidget *part = m_tabs->currentWidget();
@@ -111,14 +112,4 @@ void DialogWindow::showSettled()
     if (!m_tabs->currentPart()->panel)
         settleMnemonics(*part, mnemonicsIn(*this));
     moveButtonsLast();
-}
-
-/// What is going on is nobody's, and not told of.
-void DialogWindow::forgetEvent()
-{
-    m_eventIsNoted = false;
-    m_refusalToTell = QString();
-    m_refused = PPDMark();
-    m_pick = PPDMark();
-    m_toldState = ::settingState(job());
 }

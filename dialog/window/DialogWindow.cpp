@@ -10,6 +10,7 @@
 #include "dialog/window/Mnemonics.h"
 #include "dialog/window/PageSetupPane.h"
 #include "dialog/window/PasswordDialog.h"
+#include "dialog/window/PresetActions.h"
 #include "dialog/window/PrinterPopUp.h"
 #include "dialog/window/ProgressStrip.h"
 #include "dialog/window/ScrolledBody.h"
@@ -51,14 +52,11 @@ DialogWindow::DialogWindow(const DialogWishes &wishes, QWidget *parent)
       m_wishes(wishes),
       m_controller(wishes),
       m_undo(std::make_unique<SessionUndo>(m_controller)),
+      m_events(m_controller),
       m_documentState(m_controller.openDocuments(wishes.files)),
       m_outcome(Fault{FaultKind::Cancelled, {}}),
       m_watch(m_controller, *this)
 {
-    m_controller.addSessionHook([this](HostSession &session) {
-        session.addObserver(this);
-        return Result<>();
-    });
     setObjectName(u"dialogWindow"_s);
     setAcceptDrops(true);
     takeSavedJob();
@@ -96,8 +94,12 @@ void DialogWindow::buildLayout()
     addPartShortcut(QKeySequence::NextChild, 1);
     addPartShortcut(QKeySequence::PreviousChild, -1);
     connect(m_tabs, &QTabWidget::currentChanged, this, &DialogWindow::changePart);
-    connect(m_tabs, &DialogTabs::viewResized, this,
-            [this] { QTimer::singleShot(0, this, &DialogWindow::followView); });
+    const auto followSoon = [this] { QTimer::singleShot(0, this, &DialogWindow::followView); };
+    connect(m_tabs, &DialogTabs::viewResized, this, followSoon);
+    connect(&m_events, &EventWatch::viewResized, this, followSoon);
+    connect(&m_events, &EventWatch::over, this, &DialogWindow::tellEvent);
+    connect(&m_events, &EventWatch::failed, this,
+            [this](const QString &sentence) { tell(NoticeBar::Kind::Error, sentence); });
     connect(&m_watch, &PrinterWatch::listed, this, &DialogWindow::takeList);
     connect(m_header, &JobHeader::documentsWanted, this, &DialogWindow::chooseDocuments);
     connect(m_header, &JobHeader::changed, this, &DialogWindow::tellStanding);
@@ -106,7 +108,10 @@ void DialogWindow::buildLayout()
     connect(m_tabs->pageSetup(), &PageSetupPane::refused, this, &DialogWindow::tellRefusal);
     connect(m_tabs->features(), &FeaturesPane::changed, this, &DialogWindow::tellStanding);
     connect(m_tabs->features(), &FeaturesPane::refused, this, &DialogWindow::tellRefusal);
-    connectPresets();
+    m_presets = new PresetActions(job(), *m_header->presets(), *this);
+    connect(m_presets, &PresetActions::startWanted, this, &DialogWindow::startFrom);
+    connect(m_presets, &PresetActions::told, this,
+            [this](NoticeBar::Kind kind, const QString &sentence) { tell(kind, sentence); });
     connectUndo();
     connectAdvice();
     connect(m_header->printers(), &PrinterPopUp::picked, this, [this](const QueueName &queue) {

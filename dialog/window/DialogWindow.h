@@ -2,14 +2,12 @@
 
 #include "dialog/cups/JobSentence.h"
 #include "dialog/cups/PrinterCondition.h"
-#include "dialog/host/SessionObserver.h"
 #include "dialog/printing/PrintController.h"
-#include "dialog/printing/SettingState.h"
 #include "dialog/window/DialogWishes.h"
+#include "dialog/window/EventWatch.h"
 #include "dialog/window/NoticeBar.h"
 #include "dialog/window/PrinterWatch.h"
 #include "dialog/window/SummaryPane.h"
-#include "platform/toolkit/Alert.h"
 
 #include <QtGui/QKeySequence>
 #include <QtWidgets/QDialog>
@@ -20,6 +18,7 @@
 class DialogAdvice;
 class DialogTabs;
 class JobHeader;
+class PresetActions;
 class ProgressStrip;
 class ScrolledBody;
 class QPushButton;
@@ -30,7 +29,7 @@ struct Remedy;
 ///
 /// It shows what its PrintController does, and asks what only a user can answer. It opens at once
 /// and waits for nothing. Panels are released before the panes that show their views.
-class DialogWindow : public QDialog, private SessionObserver
+class DialogWindow : public QDialog
 {
     Q_OBJECT
 
@@ -104,15 +103,6 @@ private:
         QList<NoticeOffer> offers = {};
     };
 
-    /// What an event has come to.
-    struct News
-    {
-        QString refusal; ///< null: nothing was refused
-        QList<SettingChange> changes;
-        PPDMark lost; ///< that was refused or taken away; a null choice: nothing
-        bool isUsers = false;
-    };
-
     // DialogWindow.cpp
     void buildLayout();
     void addPartShortcut(QKeySequence::StandardKey keys, int step);
@@ -127,17 +117,9 @@ private:
     void showHelp();
 
     // DialogAnswers.cpp
-    void didAnswer(const HostCallback::Call &call) override;
-    void didMark(const QString &keyword, const QString &choice) override;
-    void didSetPaper(const PMPaper &paper, const std::optional<QString> &mapped) override;
-    void didWriteTicket(const QString &key, const QVariant &value) override;
-    void didFail(PanelOperation operation, const HostPanel &panel,
-                 const QString &sentence) override;
-    void noteEvent();
-    void noteOwnEvent();
     void tellEvent();
-    PPDMark takeLost(const QList<SettingChange> &changes);
-    void tellNews(const News &news);
+    PPDMark takeLost(const EventOutcome &event);
+    void tellOutcome(const EventOutcome &event, const PPDMark &lost);
     void tellRefusal(const QString &sentence, const PPDMark &choice);
     NoticeOffer leaveOffer();
     void connectAdvice();
@@ -145,7 +127,6 @@ private:
     Notice doubtsToTell(const SettingState &state);
     Notice standingNotice(Notice doubts) const;
     void choose(const RequestedChoice &choice);
-    QList<SettingChange> takeChanges();
 
     // DialogDocuments.cpp
     void readPipes();
@@ -164,6 +145,8 @@ private:
     // DialogPrinter.cpp
     void choosePrinter();
     void findPrinter(const PrinterSource &source);
+    StartingSettings usualStart() const;
+    void startFrom(const QString &preset, const StartingSettings &start);
     void beginSearch(const PrinterSource &source);
     void retry();
     QList<NoticeOffer> offersAfter(FaultKind fault);
@@ -199,17 +182,6 @@ private:
     QList<SummarySection> summarySections();
     void listCoverPages();
 
-    // DialogPresets.cpp
-    void connectPresets();
-    void showPresets();
-    StartingSettings usualStart() const;
-    void startFrom(const QString &preset, const StartingSettings &start);
-    void savePreset();
-    void confirmPreset();
-    void renamePreset();
-    void deletePreset();
-    void showHiddenAlerts();
-
     // DialogUndo.cpp
     void connectUndo();
     void noteSettled();
@@ -219,12 +191,10 @@ private:
     NoticeOffer undoOffer();
     Result<> exchangeSession(Result<> (SessionUndo::*way)());
     void showSettled();
-    void forgetEvent();
 
     // DialogPrint.cpp
     std::optional<JobRequest> finishedJob();
     bool isAgreed(const QStringList &doubts);
-    int ask(const AlertContent &question);
     void print();
     void saveToFile();
     std::optional<OutputTerms> agreedTerms(const QString &path);
@@ -238,6 +208,7 @@ private:
     const DialogWishes m_wishes;
     PrintController m_controller;
     const std::unique_ptr<SessionUndo> m_undo;
+    EventWatch m_events;
     Result<> m_documentState;
     std::optional<JobRequest> m_savedJob; ///< the only document, where that is a saved job
     Result<> m_printerState;
@@ -249,15 +220,8 @@ private:
     QStringList m_startNotes;                    ///< on the settings that it starts from
     std::optional<PrinterCondition> m_condition; ///< of the printer; none: not known yet
     Notice m_standing;                           ///< shown while there is nothing newer to tell
-    PPDMark m_refused;              ///< of the pick that is going on; a null keyword: nothing
-    QString m_refusalToTell;        ///< of the pick that is going on
-    bool m_coversAreListed = false; ///< of the printer
-    PPDMark m_pick;                 ///< of the user, in the event that is going on; null: none yet
-    SettingState m_toldState;       ///< to tell what an event has changed
-    bool m_eventIsNoted = false;
-    int m_eventLevel = 0; ///< of the event loop in which it was noted
+    bool m_coversAreListed = false;              ///< of the printer
     bool m_requestedSettingsAreMade = false;
-    bool m_presetIsNew = false; ///< the one that is being opened
     bool m_isEnding = false;
     bool m_mayHavePrinted = false; ///< what Print did last
     PageCount m_pageCount;         ///< of the documents
@@ -270,6 +234,7 @@ private:
     ProgressStrip *m_progress;
     DialogTabs *m_tabs;
     DialogAdvice *m_advice;
+    PresetActions *m_presets;
     QWidget *m_buttons = nullptr;
     QPushButton *m_help = nullptr;
     QPushButton *m_save = nullptr;

@@ -14,6 +14,7 @@
 namespace {
 
 constexpr int kManyEvents = 150; // that are done once more within one frame
+constexpr int kPause = 50;       // ms in which nobody does anything: time to look closely
 
 QList<double> valuesOfSliders(const HostSession &session)
 {
@@ -41,6 +42,9 @@ SessionUndo::SessionUndo(PrintController &controller, QObject *parent)
         m_journal.attach(session);
         return Result<>();
     });
+    m_pause.setSingleShot(true);
+    m_pause.setInterval(kPause);
+    connect(&m_pause, &QTimer::timeout, this, &SessionUndo::takeImage);
 }
 
 void SessionUndo::follow(const ReplayAction &action)
@@ -80,12 +84,27 @@ SessionUndo::Moment SessionUndo::now(const SettingState &state) const
                   {},
                   origins(),
                   {}};
-    if (const HostSession *session = job.session()) {
+    if (const HostSession *session = job.session())
         moment.sliders = valuesOfSliders(*session);
-        if (eventsUpTo(moment.place) > kManyEvents)
-            moment.image = imageOf(job);
-    }
     return moment;
+}
+
+/// The state in which all is, since nobody has gone on for a while.
+void SessionUndo::takeImage()
+{
+    const PrintJob &job = m_controller.job();
+    if (m_history.isEmpty() || !job.session() || m_history.current().place != m_journal.place())
+        return;
+    Moment moment = m_history.current();
+    moment.image = imageOf(job);
+    m_history.amend(std::move(moment));
+}
+
+/// Has the image of what was noted last made as soon as it is in nobody's way.
+void SessionUndo::awaitPause()
+{
+    if (eventsUpTo(m_journal.place()) > kManyEvents)
+        m_pause.start();
 }
 
 /// Whether no setting of them differs. Which choices are the user's own is no setting, nor is what
@@ -134,6 +153,7 @@ void SessionUndo::noteUser(const QString &name, const SettingState &state)
         m_history.amend(std::move(moment));
     else
         m_history.note(std::move(moment), subject);
+    awaitPause();
     if (canUndo())
         m_controller.prepareToReopen();
 }
@@ -144,7 +164,10 @@ void SessionUndo::noteOwn(const SettingState &state)
         return;
     Moment moment = now(state);
     moment.origins.takeRules(m_history.current().values, moment.values);
+    if (moment.place == m_history.current().place && areAlike(m_history.current(), moment))
+        moment.image = m_history.current().image;
     m_history.amend(std::move(moment));
+    awaitPause();
 }
 
 bool SessionUndo::takeAlerted()

@@ -6,6 +6,7 @@
 #include "dialog/replay/SessionJournal.h"
 
 #include <QtCore/QObject>
+#include <QtCore/QTimer>
 
 #include <memory>
 #include <optional>
@@ -78,13 +79,15 @@ private:
         QList<double> sliders;
         SettingOrigins origins;
         /// What tells it from others, panels' secrets included (SettingsImage); null where few
-        /// events led to it.
+        /// events led to it, or others followed at once.
         QByteArray image;
     };
 
     static bool areAlike(const Moment &left, const Moment &right);
     static bool isSamePrinter(const Moment &left, const Moment &right);
     Moment now(const SettingState &state) const;
+    void takeImage();
+    void awaitPause();
     Result<> goTo(const Moment &moment);
     Result<> reopenAt(const Moment &moment);
     void follow(const ReplayAction &action);
@@ -95,4 +98,5 @@ private:
     UndoHistory<Moment> m_history;
     JournalPlace m_asked; // where it was asked for alerts last
     QString m_subject;    // of what is going on
+    QTimer m_pause;
 };

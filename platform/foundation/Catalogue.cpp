@@ -170,7 +170,7 @@ std::unique_ptr<QTranslator> openCatalogue(const QString &path)
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly))
         return nullptr;
-    const QByteArray text = file.read(kLargest + 1);
+    const QByteArray text = file.read(std::min(file.size(), kLargest) + 1);
     if (text.size() > kLargest || !isSoundCatalogue(text))
         return nullptr;
     auto translator = std::make_unique<MemoryTranslator>(text);

@@ -390,34 +390,6 @@ Umschalt+F1 oder das Kontextmenü sagt, warum.</translation>
         <translation>Ein Wert in „Druckerfunktionen“ kann nicht verwendet werden. Berichtigen Sie ihn dort, um zu drucken.</translation>
     </message>
     <message>
-        <source>Save as Preset</source>
-        <translation>Als Voreinstellung sichern</translation>
-    </message>
-    <message>
-        <source>Rename Preset</source>
-        <translation>Voreinstellung umbenennen</translation>
-    </message>
-    <message>
-        <source>Delete the preset &quot;%1&quot;?</source>
-        <translation>Voreinstellung „%1“ löschen?</translation>
-    </message>
-    <message>
-        <source>Delete</source>
-        <translation>Löschen</translation>
-    </message>
-    <message>
-        <source>Keep</source>
-        <translation>Behalten</translation>
-    </message>
-    <message>
-        <source>No warnings are hidden: all are shown.</source>
-        <translation>Keine Warnungen sind ausgeblendet: Alle werden angezeigt.</translation>
-    </message>
-    <message>
-        <source>Some of the settings do not go together: the preset has what is shown now.</source>
-        <translation>Einige der Einstellungen passen nicht zusammen: Die Voreinstellung enthält, was jetzt angezeigt wird.</translation>
-    </message>
-    <message>
         <source>Choose the printer for this saved job.</source>
         <translation>Wählen Sie den Drucker für diesen gespeicherten Auftrag.</translation>
     </message>
@@ -1170,6 +1142,14 @@ Umschalt+F1 oder das Kontextmenü sagt, warum.</translation>
         <translation>Der Server weiß nichts mehr von Auftrag %1 auf %2: Ob er gedruckt wurde, ist nicht bekannt.</translation>
     </message>
     <message>
+        <source>Job %1 on %2 is held until somebody releases it.</source>
+        <translation>Auftrag %1 auf %2 wird zurückgehalten, bis ihn jemand freigibt.</translation>
+    </message>
+    <message>
+        <source>Job %1 on %2 is held. %3: %4.</source>
+        <translation>Auftrag %1 auf %2 wird zurückgehalten. %3: %4.</translation>
+    </message>
+    <message>
         <source>Job %1 on %2 is held until %3.</source>
         <translation>Auftrag %1 auf %2 wird bis %3 zurückgehalten.</translation>
     </message>
@@ -1888,6 +1868,37 @@ Umschalt+F1 oder das Kontextmenü sagt, warum.</translation>
     <message>
         <source>The plug-in cannot be used: %1 is no row of a keyword, a choice, a standard attribute and its value.</source>
         <translation>Das Plug-in kann nicht verwendet werden: %1 ist keine Zeile aus Schlüsselwort, Auswahl, Standardattribut und dessen Wert.</translation>
+    </message>
+</context>
+<context>
+    <name>PresetActions</name>
+    <message>
+        <source>Save as Preset</source>
+        <translation>Als Voreinstellung sichern</translation>
+    </message>
+    <message>
+        <source>Rename Preset</source>
+        <translation>Voreinstellung umbenennen</translation>
+    </message>
+    <message>
+        <source>Delete the preset &quot;%1&quot;?</source>
+        <translation>Voreinstellung „%1“ löschen?</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Löschen</translation>
+    </message>
+    <message>
+        <source>Keep</source>
+        <translation>Behalten</translation>
+    </message>
+    <message>
+        <source>No warnings are hidden: all are shown.</source>
+        <translation>Keine Warnungen sind ausgeblendet: Alle werden angezeigt.</translation>
+    </message>
+    <message>
+        <source>Some of the settings do not go together: the preset has what is shown now.</source>
+        <translation>Einige der Einstellungen passen nicht zusammen: Die Voreinstellung enthält, was jetzt angezeigt wird.</translation>
     </message>
 </context>
 <context>

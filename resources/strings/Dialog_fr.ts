@@ -390,34 +390,6 @@ Maj+F1 ou le menu contextuel dit pourquoi.</translation>
         <translation>Une valeur dans « Fonctions de l’imprimante » ne peut pas être utilisée. Corrigez-la pour imprimer.</translation>
     </message>
     <message>
-        <source>Save as Preset</source>
-        <translation>Enregistrer comme préréglage</translation>
-    </message>
-    <message>
-        <source>Rename Preset</source>
-        <translation>Renommer le préréglage</translation>
-    </message>
-    <message>
-        <source>Delete the preset &quot;%1&quot;?</source>
-        <translation>Supprimer le préréglage « %1 » ?</translation>
-    </message>
-    <message>
-        <source>Delete</source>
-        <translation>Supprimer</translation>
-    </message>
-    <message>
-        <source>Keep</source>
-        <translation>Garder</translation>
-    </message>
-    <message>
-        <source>No warnings are hidden: all are shown.</source>
-        <translation>Aucun avertissement n’est masqué : tous s’affichent.</translation>
-    </message>
-    <message>
-        <source>Some of the settings do not go together: the preset has what is shown now.</source>
-        <translation>Certains réglages ne vont pas ensemble : le préréglage contient ce qui est affiché maintenant.</translation>
-    </message>
-    <message>
         <source>Choose the printer for this saved job.</source>
         <translation>Choisissez l’imprimante de ce travail enregistré.</translation>
     </message>
@@ -1170,6 +1142,14 @@ Maj+F1 ou le menu contextuel dit pourquoi.</translation>
         <translation>Le serveur n’a plus trace du travail %1 sur %2 : on ne sait pas s’il a été imprimé.</translation>
     </message>
     <message>
+        <source>Job %1 on %2 is held until somebody releases it.</source>
+        <translation>Le travail %1 sur %2 est retenu jusqu’à ce que quelqu’un le libère.</translation>
+    </message>
+    <message>
+        <source>Job %1 on %2 is held. %3: %4.</source>
+        <translation>Le travail %1 sur %2 est retenu. %3 : %4.</translation>
+    </message>
+    <message>
         <source>Job %1 on %2 is held until %3.</source>
         <translation>Le travail %1 sur %2 est retenu jusqu’à %3.</translation>
     </message>
@@ -1888,6 +1868,37 @@ Maj+F1 ou le menu contextuel dit pourquoi.</translation>
     <message>
         <source>The plug-in cannot be used: %1 is no row of a keyword, a choice, a standard attribute and its value.</source>
         <translation>Le module ne peut pas être utilisé : %1 n’est pas une ligne composée d’un mot-clé, d’un choix, d’un attribut standard et de sa valeur.</translation>
+    </message>
+</context>
+<context>
+    <name>PresetActions</name>
+    <message>
+        <source>Save as Preset</source>
+        <translation>Enregistrer comme préréglage</translation>
+    </message>
+    <message>
+        <source>Rename Preset</source>
+        <translation>Renommer le préréglage</translation>
+    </message>
+    <message>
+        <source>Delete the preset &quot;%1&quot;?</source>
+        <translation>Supprimer le préréglage « %1 » ?</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Supprimer</translation>
+    </message>
+    <message>
+        <source>Keep</source>
+        <translation>Garder</translation>
+    </message>
+    <message>
+        <source>No warnings are hidden: all are shown.</source>
+        <translation>Aucun avertissement n’est masqué : tous s’affichent.</translation>
+    </message>
+    <message>
+        <source>Some of the settings do not go together: the preset has what is shown now.</source>
+        <translation>Certains réglages ne vont pas ensemble : le préréglage contient ce qui est affiché maintenant.</translation>
     </message>
 </context>
 <context>

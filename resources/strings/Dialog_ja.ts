@@ -390,34 +390,6 @@ Shift+F1 or the context menu tells why.</source>
         <translation>「プリンターの機能」に使えない値があります。印刷するには直してください。</translation>
     </message>
     <message>
-        <source>Save as Preset</source>
-        <translation>プリセットとして保存</translation>
-    </message>
-    <message>
-        <source>Rename Preset</source>
-        <translation>プリセット名の変更</translation>
-    </message>
-    <message>
-        <source>Delete the preset &quot;%1&quot;?</source>
-        <translation>プリセット「%1」を削除しますか?</translation>
-    </message>
-    <message>
-        <source>Delete</source>
-        <translation>削除</translation>
-    </message>
-    <message>
-        <source>Keep</source>
-        <translation>残す</translation>
-    </message>
-    <message>
-        <source>No warnings are hidden: all are shown.</source>
-        <translation>非表示にした警告はありません。すべて表示されます。</translation>
-    </message>
-    <message>
-        <source>Some of the settings do not go together: the preset has what is shown now.</source>
-        <translation>組み合わせられない設定がありました。プリセットには現在表示されている設定が保存されました。</translation>
-    </message>
-    <message>
         <source>Choose the printer for this saved job.</source>
         <translation>この保存されたジョブを印刷するプリンターを選んでください。</translation>
     </message>
@@ -1170,6 +1142,14 @@ Shift+F1 or the context menu tells why.</source>
         <translation>%2 のジョブ %1 の記録がサーバーにもうありません。印刷されたかどうかは分かりません。</translation>
     </message>
     <message>
+        <source>Job %1 on %2 is held until somebody releases it.</source>
+        <translation>%2 のジョブ %1 は保留されています。保留を解除すると印刷されます。</translation>
+    </message>
+    <message>
+        <source>Job %1 on %2 is held. %3: %4.</source>
+        <translation>%2 のジョブ %1 は保留されています。%3：%4。</translation>
+    </message>
+    <message>
         <source>Job %1 on %2 is held until %3.</source>
         <translation>%2 のジョブ %1 は %3 まで保留されています。</translation>
     </message>
@@ -1888,6 +1868,37 @@ Shift+F1 or the context menu tells why.</source>
     <message>
         <source>The plug-in cannot be used: %1 is no row of a keyword, a choice, a standard attribute and its value.</source>
         <translation>プラグインを使用できません。%1 は、キーワード、選択肢、標準属性とその値からなる行ではありません。</translation>
+    </message>
+</context>
+<context>
+    <name>PresetActions</name>
+    <message>
+        <source>Save as Preset</source>
+        <translation>プリセットとして保存</translation>
+    </message>
+    <message>
+        <source>Rename Preset</source>
+        <translation>プリセット名の変更</translation>
+    </message>
+    <message>
+        <source>Delete the preset &quot;%1&quot;?</source>
+        <translation>プリセット「%1」を削除しますか?</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>削除</translation>
+    </message>
+    <message>
+        <source>Keep</source>
+        <translation>残す</translation>
+    </message>
+    <message>
+        <source>No warnings are hidden: all are shown.</source>
+        <translation>非表示にした警告はありません。すべて表示されます。</translation>
+    </message>
+    <message>
+        <source>Some of the settings do not go together: the preset has what is shown now.</source>
+        <translation>組み合わせられない設定がありました。プリセットには現在表示されている設定が保存されました。</translation>
     </message>
 </context>
 <context>

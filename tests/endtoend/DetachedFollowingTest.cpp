@@ -81,7 +81,8 @@ INSTANTIATE_TEST_SUITE_P(
         Telling{"APrinterThatNeedsSomebody", "empty",
                 "Job %1 on empty: the printer needs somebody: The multi-purpose tray is empty.",
                 kCritical, false},
-        Telling{"AJobThatIsHeld", "hold", "Job %1 on hold is held.", kCritical, false}),
+        Telling{"AJobThatIsHeld", "hold", "Job %1 on hold is held until somebody releases it.",
+                kCritical, false}),
     CaseName());
 
 TEST_F(DetachedFollowing, TakesTheTroubleAwayWhenItIsOver)

@@ -89,7 +89,7 @@ const EndCase kEnds[] = {
      "Job %1 on retry is held and will be tried again later: No route to the printer."},
     {"NeedsPassword", "password", JobPhase::NeedsPassword,
      "Job %1 on password is held until its printer is given a user name and a password."},
-    {"Held", "hold", JobPhase::Held, "Job %1 on hold is held."},
+    {"Held", "hold", JobPhase::Held, "Job %1 on hold is held until somebody releases it."},
     {"Stopped", "stop", JobPhase::Stopped,
      "Job %1 on stop is waiting: the printer is stopped: The carriage is blocked."},
     {"Cancelled", "cancel", JobPhase::Cancelled, "Job %1 on cancel was cancelled."},

@@ -96,7 +96,7 @@ INSTANTIATE_TEST_SUITE_P(
         Standing{
             "Held",
             "hold",
-            "Job %1 on hold is held.",
+            "Job %1 on hold is held until somebody releases it.",
             {u"releaseButton"_s, u"cancelJobButton"_s, u"openQueueButton"_s, u"closeButton"_s}},
         Standing{"Stopped",
                  "stop",

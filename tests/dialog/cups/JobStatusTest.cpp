@@ -169,6 +169,35 @@ TEST(JobSentence, CountsNoMorePagesThanThereAre)
     EXPECT_EQ(sentenceOf({u"Photo"_s, 41, 5}, status), u"Job 41 on Photo is printing."_s);
 }
 
+struct HeldCase
+{
+    const char *behaviour;
+    const char *until;
+    QString sentence;
+};
+
+class HeldUntil : public testing::TestWithParam<HeldCase>
+{};
+
+TEST_P(HeldUntil, AJobSaysWhatItWaitsFor)
+{
+    const IppHandle job(ippNew());
+    ippAddInteger(job.get(), IPP_TAG_JOB, IPP_TAG_ENUM, "job-state", IPP_JSTATE_HELD);
+    ippAddString(job.get(), IPP_TAG_JOB, IPP_TAG_KEYWORD, "job-hold-until", nullptr,
+                 GetParam().until);
+    EXPECT_EQ(sentenceOf({u"Photo"_s, 41, 0}, statusOf(job.get())), GetParam().sentence);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Table, HeldUntil,
+    testing::Values(HeldCase{"Somebody", "indefinite",
+                             u"Job 41 on Photo is held until somebody releases it."_s},
+                    HeldCase{"ANamedTime", "weekend",
+                             u"Job 41 on Photo is held. When to Print: At the weekend."_s},
+                    HeldCase{"ANameThatNobodyKnows", "full-moon", u"Job 41 on Photo is held."_s},
+                    HeldCase{"NothingAnyMore", "no-hold", u"Job 41 on Photo is held."_s}),
+    CaseName());
+
 TEST(JobSentence, TakesAQueueAndAReasonAsTheyStand)
 {
     EXPECT_EQ(sentenceOf({u"%2 %3"_s, 41, 0}, {JobPhase::Aborted, 0, u"%1 of %4"_s, {}}),

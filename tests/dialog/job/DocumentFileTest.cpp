@@ -10,6 +10,7 @@
 
 #include <array>
 #include <fcntl.h>
+#include <sys/resource.h>
 #include <sys/socket.h>
 #include <sys/stat.h>
 #include <sys/un.h>
@@ -39,6 +40,25 @@ void makeSocket(const QString &path)
     ASSERT_LT(static_cast<std::size_t>(bytes.size()), sizeof address.sun_path);
     std::copy(bytes.begin(), bytes.end(), address.sun_path);
     ASSERT_EQ(bind(socket.get(), reinterpret_cast<sockaddr *>(&address), sizeof address), 0);
+}
+
+TEST(DocumentFile, MoreFilesThanAreUsuallyOpenAtOnceAreOpened)
+{
+    const QTemporaryDir folder;
+    rlimit usual = {};
+    ASSERT_EQ(getrlimit(RLIMIT_NOFILE, &usual), 0);
+    const rlimit few{128, usual.rlim_max};
+    ASSERT_GT(few.rlim_max, 1000U);
+    ASSERT_EQ(setrlimit(RLIMIT_NOFILE, &few), 0);
+    QStringList paths;
+    for (int number = 0; number < 200; ++number) {
+        paths += folder.filePath(QString::number(number));
+        writeFile(paths.constLast(), "a");
+    }
+    const auto opened = openDocuments(paths);
+    ASSERT_EQ(setrlimit(RLIMIT_NOFILE, &usual), 0);
+    ASSERT_TRUE(opened) << qPrintable(opened.sentence());
+    EXPECT_EQ(opened->size(), 200U);
 }
 
 class NoDocument : public testing::TestWithParam<Kind>

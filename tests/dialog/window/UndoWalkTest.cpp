@@ -7,6 +7,7 @@
 #include "tests/support/AlertAnswers.h"
 #include "tests/support/CaseName.h"
 
+#include <QtTest/QTest>
 #include <QtWidgets/QCheckBox>
 #include <QtWidgets/QRadioButton>
 
@@ -18,11 +19,14 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
+constexpr int kPause = 60; // ms, after which the window knows that nobody goes on
+
 struct Walk
 {
     const char *printer;
     unsigned seed;
     unsigned picks = 20;
+    int pause = 0; // ms after most of them
 };
 
 /// Answers whatever alert comes up with its first button.
@@ -106,6 +110,8 @@ protected:
         QCoreApplication::processEvents();
         QCoreApplication::processEvents(); // a sheet was answered
         showTab(u"layout"_s);
+        if (GetParam().pause > 0 && any(3) != 0)
+            QTest::qWait(GetParam().pause);
         states.push_back(state());
     }
 
@@ -147,9 +153,9 @@ INSTANTIATE_TEST_SUITE_P(Seeds, UndoWalk,
                                          Walk{"velkaro-mx-j710dw", 5},
                                          Walk{"velkaro-mx-j710dw", 6}));
 
-// So many events that few of them are done once more.
+// So many events that few of them are done once more, where there was time to look at the states.
 INSTANTIATE_TEST_SUITE_P(LongSeeds, UndoWalk,
-                         testing::Values(Walk{"velkaro-px-t900", 7, 36},
-                                         Walk{"velkaro-px-330c", 8, 36}));
+                         testing::Values(Walk{"velkaro-px-t900", 7, 36, kPause},
+                                         Walk{"velkaro-px-330c", 8, 36, kPause}));
 
 } // namespace
