@@ -10,15 +10,11 @@
 #include "dialog/job/PipeDocuments.h"
 #include "dialog/printing/JobDoubts.h"
 #include "dialog/printing/LastPrinter.h"
-#include "dialog/printing/LostTogether.h"
-#include "dialog/printing/OwnSettings.h"
 #include "dialog/printing/RequestedSettings.h"
 #include "dialog/printing/SavedJob.h"
 #include "dialog/printing/SettingRequests.h"
 #include "dialog/printing/StandardSettings.h"
-#include "dialog/work/BackgroundCall.h"
-#include "platform/ppd/PPDText.h"
-#include "platform/toolkit/PlainText.h"
+#include "dialog/printing/YieldedSettings.h"
 
 #include <QtCore/QCoreApplication>
 #include <QtCore/QSysInfo>
@@ -35,55 +31,16 @@ QString ownAddress()
     return QString::fromUtf8(requestingUser()) + u'@' + QSysInfo::machineHostName();
 }
 
-QString savedSentence(const QString &sentence)
-{
-    return QCoreApplication::translate("PrintController", "Saved for this printer: %1")
-        .arg(sentence);
-}
-
 } // namespace
 
 PrintController::PrintController(PrintWishes wishes, QObject *parent)
-    : QObject(parent), m_wishes(std::move(wishes))
+    : QObject(parent), m_wishes(std::move(wishes)), m_opening(m_job)
 {
     m_job.setTitle(m_wishes.title);
-}
-
-// The calls go first: nothing of theirs arrives any more.
-PrintController::~PrintController()
-{
-    delete m_call;
-    delete m_reading;
-    delete m_listing;
-    delete m_sparing;
-    delete m_covers;
-    delete m_asking;
-}
-
-/// Starts the work in place of the call's former one. A null `givenUp`: nobody gives it up. Whoever
-/// is told of the outcome may begin the next call.
-template <typename Value>
-void PrintController::begin(QPointer<BackgroundCall> &call, std::chrono::milliseconds timeout,
-                            std::function<Value(CallGuard &)> work, std::function<void(Value)> take,
-                            std::function<Value()> givenUp)
-{
-    delete call;
-    BackgroundCall::Outcome outcome;
-    if (givenUp)
-        outcome = [&call, take, givenUp] {
-            call.clear();
-            take(givenUp());
-        };
-    call = new BackgroundCall(
-        this, timeout,
-        [&call, work = std::move(work), take](CallGuard &guard) -> BackgroundCall::Outcome {
-            const auto value = std::make_shared<Value>(work(guard));
-            return [&call, take, value] {
-                call.clear();
-                take(std::move(*value));
-            };
-        },
-        std::move(outcome));
+    addSessionHook([this](HostSession &session) {
+        session.addObserver(&m_unsaved);
+        return Result<>();
+    });
 }
 
 Result<> PrintController::openDocuments(const QStringList &paths)
@@ -102,8 +59,8 @@ void PrintController::readPipes(Then<std::monostate> then)
         then({});
         return;
     }
-    begin<Result<Documents>>(
-        m_reading, kFileTimeout,
+    m_reading.begin<Result<Documents>>(
+        kFileTimeout,
         [documents = m_job.documents()](CallGuard &guard) { return ::readPipes(documents, guard); },
         [this, then = std::move(then)](const Result<Documents> &read) {
             m_job.setDocuments(read ? *read : Documents());
@@ -137,110 +94,23 @@ void PrintController::findPrinter(const PrinterSource &source, Then<FoundPrinter
         QTimer::singleShot(0, this, [then = std::move(then), known] { then(known.fault()); });
         return;
     }
-    begin<FetchedPrinter>(
-        m_call, kServerTimeout,
+    m_call.begin<FetchedPrinter>(
+        kServerTimeout,
         [source](CallGuard &guard) {
             const PasswordScope scope(PasswordPurpose::Settings, source.queue.queue);
             return fetchPrinter(source, guard);
         },
         [this, source, then = std::move(then)](FetchedPrinter fetched) {
-            then(takePrinter(source, fetched));
+            then(m_opening.take(source, fetched, m_wishes.plugIn));
         },
         [source] { return givenUpPrinter(source); });
-}
-
-Result<FoundPrinter> PrintController::takePrinter(const PrinterSource &source,
-                                                  FetchedPrinter &fetched)
-{
-    m_job.closePrinter(); // two sessions at once would hear of each other
-    m_origin.reset();
-    PrinterSource found = source;
-    found.queue = fetched.queue;
-    const QList<JobOption> starting = startingOptions(
-        found, fetched.opened && *fetched.opened ? (*fetched.opened)->ppd.get() : nullptr);
-    if (!fetched.opened) {
-        m_job.setPrinter(found, {});
-        return fetched.opened.fault();
-    }
-    FoundPrinter printer;
-    SessionOptions options;
-    options.ppdPath = fetched.ppdPath;
-    options.bundlePath = m_wishes.plugIn;
-    const auto text = *fetched.opened ? (*fetched.opened)->text : nullptr;
-    OpenedPrinter opened =
-        open(options, *std::move(fetched.opened), starting, printer.shortcomings);
-    if (opened.session) {
-        options.alertMemory = opened.session->alertMemory();
-        m_origin = std::make_shared<PrinterOrigin>(
-            PrinterOrigin{found, options, fetched.kept, text, starting});
-    }
-    printer.notes = notesOnStart(found, opened.saved.missing);
-    if (!opened.saved.unusable.isEmpty()) {
-        const JobOption &first = opened.saved.unusable.constFirst();
-        const Fault fault = noSuchValue({first.name, first.value}, ownValues(first.name));
-        printer.start = Fault{fault.kind, savedSentence(fault.sentence)};
-    }
-    m_job.setPrinter(found, std::move(opened));
-    if (m_job.session() && m_job.session()->plugInFault())
-        printer.shortcomings += Fault{FaultKind::PlugIn, m_job.session()->plugInFault()->sentence};
-    else if (m_job.session() && m_job.session()->hasPlugIn() && m_job.session()->panels().empty())
-        printer.shortcomings +=
-            Fault{FaultKind::PlugIn,
-                  QCoreApplication::translate(
-                      "PrintController", "The plug-in could not attach its panels to this printer. "
-                                         "Its rules and checks are missing.")};
-    return printer;
-}
-
-OpenedPrinter PrintController::open(const SessionOptions &options, std::optional<OpenedPPD> ppd,
-                                    const QList<JobOption> &starting, QList<Fault> &shortcomings)
-{
-    return openPrinter(options, std::move(ppd), starting,
-                       [this, &shortcomings](HostSession &session) {
-                           session.addObserver(&m_unsaved);
-                           for (const SessionHook &hook : std::as_const(m_hooks))
-                               if (const Result<> hooked = hook(session); !hooked)
-                                   shortcomings += hooked.fault();
-                       });
-}
-
-void PrintController::prepareToReopen()
-{
-    if (!m_origin || m_sparing || (m_spare && m_spareOrigin == m_origin))
-        return;
-    m_spare.reset();
-    begin<Result<OpenedPPD>>(
-        m_sparing, kFileTimeout,
-        [text = m_origin->ppd](CallGuard &) { return reopenPPD(text, PPDTexts::InUserLanguage); },
-        [this, origin = m_origin](Result<OpenedPPD> opened) {
-            if (!opened)
-                return;
-            m_spare = *std::move(opened);
-            m_spareOrigin = origin;
-        });
-}
-
-Result<> PrintController::reopen(const std::shared_ptr<const PrinterOrigin> &origin)
-{
-    std::optional<OpenedPPD> spare = std::exchange(m_spare, std::nullopt);
-    Result<OpenedPPD> ppd = spare && std::exchange(m_spareOrigin, nullptr) == origin
-                                ? Result<OpenedPPD>(*std::move(spare))
-                                : reopenPPD(origin->ppd, PPDTexts::InUserLanguage);
-    if (!ppd)
-        return ppd.fault();
-    m_job.closePrinter();      // two sessions at once would hear of each other
-    QList<Fault> shortcomings; // were told when it was opened first
-    m_job.setPrinter(origin->source,
-                     open(origin->options, *std::move(ppd), origin->starting, shortcomings));
-    m_origin = origin;
-    return {};
 }
 
 void PrintController::listPrinters(Asking asking, Then<QList<Destination>> then)
 {
     using List = Result<QList<Destination>>;
-    begin<List>(
-        m_listing, kServerTimeout,
+    m_listing.begin<List>(
+        kServerTimeout,
         [server = m_wishes.server, asking](CallGuard &guard) {
             std::optional<PasswordScope> scope;
             if (asking == Asking::Somebody)
@@ -253,8 +123,8 @@ void PrintController::listPrinters(Asking asking, Then<QList<Destination>> then)
 void PrintController::listCoverPages(Then<QStringList> then)
 {
     const PrinterSource source = m_job.source();
-    begin<Result<QStringList>>(
-        m_covers, kServerTimeout,
+    m_covers.begin<Result<QStringList>>(
+        kServerTimeout,
         [source](CallGuard &guard) { return coverPages(source.server, source.queue.queue, guard); },
         std::move(then), [source] { return Result<QStringList>(silentServer(source.server)); });
 }
@@ -262,8 +132,8 @@ void PrintController::listCoverPages(Then<QStringList> then)
 void PrintController::askCondition(Then<PrinterCondition> then)
 {
     const PrinterSource source = m_job.source();
-    begin<Result<PrinterCondition>>(
-        m_asking, kServerTimeout,
+    m_asking.begin<Result<PrinterCondition>>(
+        kServerTimeout,
         [source](CallGuard &guard) {
             return ::askCondition(source.server, source.queue.queue, guard);
         },
@@ -296,8 +166,8 @@ QList<RequestedChoice> PrintController::lostSettings() const
 
 Result<> PrintController::makeAgainWithout(const QList<RequestedChoice> &lost)
 {
-    const std::shared_ptr<const PrinterOrigin> origin = m_origin;
-    if (const Result<> opened = reopen(origin); !opened)
+    const std::shared_ptr<const PrinterOrigin> opening = origin();
+    if (const Result<> opened = reopen(opening); !opened)
         return opened;
     QList<RequestedChoice> wanted = namedWishes().wanted;
     wanted.removeIf([&](const RequestedChoice &one) {
@@ -307,41 +177,11 @@ Result<> PrintController::makeAgainWithout(const QList<RequestedChoice> &lost)
     return makeSettings(m_job, wanted);
 }
 
-QList<RequestedChoice> PrintController::savedSettings() const
-{
-    const QList<RequestedChoice> wished = namedWishes().wanted;
-    QList<RequestedChoice> saved;
-    for (const JobOption &option : m_origin->starting)
-        if (findOption(m_job.ppd(), option.name) &&
-            std::ranges::none_of(wished, [&](const RequestedChoice &wish) {
-                return isSameName(wish.keyword, option.name);
-            }))
-            saved += RequestedChoice{option.name, option.value};
-    return saved;
-}
-
 QStringList PrintController::yieldedSettings()
 {
-    if (!m_origin || !m_job.session())
-        return {};
-    QList<RequestedChoice> standing = savedSettings();
-    QStringList sentences;
-    for (const RequestedChoice &lost : ::lostSettings(m_job, standing))
-        sentences += savedSentence(lossSentence(m_job, lost));
-    standing.removeIf(
-        [this](const RequestedChoice &one) { return !::lostSettings(m_job, {one}).isEmpty(); });
-    QList<RequestedChoice> wished = namedWishes().wanted;
-    wished.removeIf(
-        [this](const RequestedChoice &wish) { return !findOption(m_job.ppd(), wish.keyword); });
-    if (standing.isEmpty() || wished.isEmpty())
-        return sentences;
-    for (const RequestedChoice &one : lostTogether(m_job, standing, wished))
-        sentences += savedSentence(
-            QCoreApplication::translate("PrintController",
-                                        "%1 cannot be chosen together with what was asked for; it "
-                                        "is sent as it was saved.")
-                .arg(displayText(one.keyword) + u'=' + displayText(one.choice)));
-    return sentences;
+    return origin() && m_job.session()
+               ? ::yieldedSettings(m_job, origin()->starting, namedWishes().wanted)
+               : QStringList();
 }
 
 Result<FinishedJob> PrintController::finish()
@@ -380,8 +220,8 @@ QList<JobRequest> PrintController::oneForEach()
 std::shared_ptr<JobProgress> PrintController::send(const JobRequest &request, Then<JobReceipt> then)
 {
     const auto progress = std::make_shared<JobProgress>();
-    begin<Result<JobReceipt>>(
-        m_call, kServerTimeout,
+    m_call.begin<Result<JobReceipt>>(
+        kServerTimeout,
         [request, progress](CallGuard &guard) {
             const PasswordScope scope(PasswordPurpose::Printing, request.queue);
             return submitJob(request, guard, progress);
@@ -392,8 +232,8 @@ std::shared_ptr<JobProgress> PrintController::send(const JobRequest &request, Th
 
 void PrintController::rehearse(const JobRequest &request, Then<std::monostate> then)
 {
-    begin<Result<>>(
-        m_call, kServerTimeout,
+    m_call.begin<Result<>>(
+        kServerTimeout,
         [request](CallGuard &guard) {
             const PasswordScope scope(PasswordPurpose::Printing, request.queue);
             return rehearseJob(request, guard);
@@ -404,8 +244,8 @@ void PrintController::rehearse(const JobRequest &request, Then<std::monostate> t
 
 void PrintController::endTrial(const JobPlace &job, TrialVerdict verdict, Then<std::monostate> then)
 {
-    begin<Result<>>(
-        m_call, kServerTimeout,
+    m_call.begin<Result<>>(
+        kServerTimeout,
         [job, verdict](CallGuard &guard) { return ::endTrial(verdict, job, guard); },
         std::move(then),
         [job, verdict] { return Result<>(endlessTrial(verdict, job, silentServer(job.server))); });
@@ -416,8 +256,8 @@ std::shared_ptr<JobProgress> PrintController::write(const QString &path, const J
                                                     Then<QStringList> then)
 {
     const auto progress = std::make_shared<JobProgress>();
-    begin<Result<QStringList>>(
-        m_call, kFileTimeout,
+    m_call.begin<Result<QStringList>>(
+        kFileTimeout,
         [path, request, terms, progress](CallGuard &guard) {
             return writeJobFile(path, request, terms, guard, *progress).andThen([&] {
                 return Result<QStringList>(notesOnSaving(path, request.options));
@@ -438,12 +278,6 @@ OutputTerms PrintController::outputTerms() const
 
 void PrintController::cancel()
 {
-    for (const QPointer<BackgroundCall> &call : {m_call, m_reading, m_asking})
-        if (call)
-            call->cancel();
-}
-
-void PrintController::stopReading()
-{
-    delete m_reading;
+    for (LatestCall *call : {&m_call, &m_reading, &m_asking})
+        call->cancel();
 }

@@ -10,29 +10,17 @@
 #include "dialog/printing/PrintJob.h"
 #include "dialog/printing/PrintWishes.h"
 #include "dialog/printing/PrinterChoice.h"
+#include "dialog/printing/PrinterOpening.h"
 #include "dialog/printing/StandardSettings.h"
+#include "dialog/work/LatestCall.h"
 #include "dialog/work/Result.h"
 
 #include <QtCore/QObject>
-#include <QtCore/QPointer>
 
 #include <functional>
 #include <memory>
 
-class BackgroundCall;
 struct NamedWishes;
-
-/// A printer that was found, and opened where it has a PPD: PrintController::job() has it.
-struct FoundPrinter
-{
-    /// What a person should know of it although it prints: that the session cannot be noted, that
-    /// the plug-in cannot be used. A command that nobody watches stops at the first.
-    QList<Fault> shortcomings;
-    /// What is to be told of the settings that it starts from, a sentence each.
-    QStringList notes;
-    /// The first of them that the dialog has a setting for, with a value that it cannot have.
-    Result<> start;
-};
 
 /// A job as it is to go out.
 struct FinishedJob
@@ -61,10 +49,9 @@ class PrintController : public QObject
 {
 public:
     template <typename Value> using Then = std::function<void(Result<Value>)>;
-    using SessionHook = std::function<Result<>(HostSession &)>;
+    using SessionHook = PrinterOpening::SessionHook;
 
     explicit PrintController(PrintWishes wishes, QObject *parent = nullptr);
-    ~PrintController() override;
 
     const PrintWishes &wishes() const { return m_wishes; }
     PrintJob &job() { return m_job; }
@@ -72,7 +59,7 @@ public:
 
     /// Has the hook called with every session before it starts, to follow it from its beginning. A
     /// fault of the hook is a shortcoming of the printer.
-    void addSessionHook(SessionHook hook) { m_hooks += std::move(hook); }
+    void addSessionHook(SessionHook hook) { m_opening.addSessionHook(std::move(hook)); }
 
     /// The documents of the job from now on, when all can be opened. Waits for nothing.
     Result<> openDocuments(const QStringList &paths);
@@ -95,15 +82,18 @@ public:
     void findPrinter(const PrinterSource &source, Then<FoundPrinter> then);
 
     /// How the printer was opened that is open now; null: there is none, or it has no PPD.
-    const std::shared_ptr<const PrinterOrigin> &origin() const { return m_origin; }
+    const std::shared_ptr<const PrinterOrigin> &origin() const { return m_opening.origin(); }
 
     /// Reads the PPD for reopen() in advance: on a thread, as it may be a large one.
-    void prepareToReopen();
+    void prepareToReopen() { m_opening.prepareToReopen(); }
 
     /// Opens the printer once more, at once, as it was opened then, in place of the present one,
     /// whose panels must not be on screen any more. Alerts may be suppressed as they were then:
     /// not for the user to keep (TransientDefaults).
-    Result<> reopen(const std::shared_ptr<const PrinterOrigin> &origin);
+    Result<> reopen(const std::shared_ptr<const PrinterOrigin> &origin)
+    {
+        return m_opening.reopen(origin);
+    }
 
     /// Lists the printers of the wished server. Somebody who waits for them may be asked who he is.
     enum class Asking { Nobody, Somebody };
@@ -164,33 +154,20 @@ public:
     void cancel();
 
     /// Waits for the documents' ends no longer.
-    void stopReading();
+    void stopReading() { m_reading.stop(); }
 
     /// Releases the panels.
     void closePrinter() { m_job.closePrinter(); }
 
 private:
-    template <typename Value>
-    void begin(QPointer<BackgroundCall> &call, std::chrono::milliseconds timeout,
-               std::function<Value(CallGuard &)> work, std::function<void(Value)> take,
-               std::function<Value()> givenUp = {});
-    Result<FoundPrinter> takePrinter(const PrinterSource &source, FetchedPrinter &fetched);
-    QList<RequestedChoice> savedSettings() const;
-    OpenedPrinter open(const SessionOptions &options, std::optional<OpenedPPD> ppd,
-                       const QList<JobOption> &starting, QList<Fault> &shortcomings);
-
     const PrintWishes m_wishes;
     UnsavedPanels m_unsaved; // outlives the session that it follows
     PrintJob m_job;
-    QList<SessionHook> m_hooks;
-    std::shared_ptr<const PrinterOrigin> m_origin;
-    std::optional<OpenedPPD> m_spare; ///< to reopen m_spareOrigin with
-    std::shared_ptr<const PrinterOrigin> m_spareOrigin;
-    QPointer<BackgroundCall> m_call;    ///< finding, sending or writing
-    QPointer<BackgroundCall> m_reading; ///< of documents that are pipes
-    QPointer<BackgroundCall> m_listing;
-    QPointer<BackgroundCall> m_sparing;
-    QPointer<BackgroundCall> m_covers;
-    QPointer<BackgroundCall> m_asking; ///< for the printer's condition
+    PrinterOpening m_opening;
     PageCounter m_pages;
+    LatestCall m_call;    ///< finding, sending or writing
+    LatestCall m_reading; ///< of documents that are pipes
+    LatestCall m_listing;
+    LatestCall m_covers;
+    LatestCall m_asking; ///< for the printer's condition
 };

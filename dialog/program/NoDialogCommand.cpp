@@ -5,7 +5,6 @@
 #include "dialog/host/SessionObserver.h"
 #include "dialog/job/JobFileReader.h"
 #include "dialog/job/OutgoingText.h"
-#include "dialog/job/PageRanges.h"
 #include "dialog/printing/JobDoubts.h"
 #include "dialog/printing/PrintController.h"
 #include "dialog/printing/PrinterDoubts.h"
@@ -17,6 +16,7 @@
 #include "dialog/program/JobDispatch.h"
 #include "dialog/program/LauncherOutput.h"
 #include "dialog/program/PasswordPrompt.h"
+#include "dialog/program/RequestChecks.h"
 #include "dialog/program/SessionRecording.h"
 #include "dialog/work/EndSignals.h"
 #include "dialog/work/Sentences.h"
@@ -24,21 +24,7 @@
 #include <QtCore/QCoreApplication>
 #include <QtCore/QEventLoop>
 
-#include <optional>
-
 namespace {
-
-const auto kCovers = QStringLiteral("job-sheets");
-
-/// The cover pages that the job asks for.
-QStringList coversOf(const JobRequest &job)
-{
-    QStringList covers;
-    for (const JobOption &option : job.options)
-        if (option.name == kCovers)
-            covers = option.value.split(u',', Qt::SkipEmptyParts);
-    return covers;
-}
 
 /// Says on standard error what is about to be sent.
 void list(const JobRequest &job)
@@ -53,13 +39,6 @@ void list(const JobRequest &job)
                  .arg(option.name, option.value));
 }
 
-QString beyondSentence(int page, int last)
-{
-    return QCoreApplication::translate("NoDialogCommand",
-                                       "Page %1 is beyond the document's last page, %2.")
-        .arg(QString::number(page), QString::number(last));
-}
-
 QString stoppedSentence(const QString &queue, const QString &reason)
 {
     return reason.isEmpty()
@@ -70,28 +49,6 @@ QString stoppedSentence(const QString &queue, const QString &reason)
                                              "The printer %1 is stopped: what is sent waits. It "
                                              "says: %2")
                      .arg(queue, reason);
-}
-
-/// The fault of a document that does not have all of those pages.
-Result<> checkPages(const QString &ranges, const std::optional<int> &pages)
-{
-    const std::optional<int> beyond =
-        pages && !ranges.isEmpty() ? pageBeyond(ranges, *pages) : std::nullopt;
-    return beyond ? Result<>(Fault{FaultKind::Request, beyondSentence(*beyond, *pages)})
-                  : Result<>();
-}
-
-/// The same for documents that have each a job of its own.
-Result<> checkEachOf(const Documents &documents, const QString &ranges, const PageCount &count)
-{
-    for (std::size_t index = 0; index < documents.size(); ++index) {
-        const Result<> checked =
-            checkPages(ranges, count.each.value(static_cast<qsizetype>(index)));
-        if (!checked)
-            return Fault{checked.fault().kind,
-                         QStringLiteral("%1: %2").arg(documents[index].path(), checked.sentence())};
-    }
-    return {};
 }
 
 /// One run of the command: drives a controller from one step to the next, and answers in a person's
@@ -282,8 +239,9 @@ void Run::countPages()
     }
     m_controller.countPages([this, ranges](const PageCount &count) {
         m_count = count;
-        if (goOn(m_line.each ? checkEachOf(m_controller.job().documents(), ranges, count)
-                             : checkPages(ranges, count.fewest)))
+        const Documents &documents = m_controller.job().documents();
+        if (goOn(m_line.each ? checkPagesOfEach(ranges, count, documents)
+                             : checkPages(ranges, count)))
             finish();
     });
 }
@@ -331,17 +289,12 @@ void Run::deliver(const JobRequest &request)
 /// job itself.
 void Run::checkCovers(const JobRequest &request)
 {
-    const QStringList wanted = coversOf(request);
-    if (wanted.isEmpty()) {
+    if (coversOf(request).isEmpty()) {
         askPrinter(request);
         return;
     }
-    m_controller.listCoverPages([this, request, wanted](const Result<QStringList> &there) {
-        Result<> known;
-        for (const QString &cover : wanted)
-            if (known && there && !there->isEmpty() && !there->contains(cover))
-                known = noSuchValue({kCovers, cover}, *there);
-        if (goOn(known))
+    m_controller.listCoverPages([this, request](const Result<QStringList> &there) {
+        if (goOn(::checkCovers(request, there ? *there : QStringList())))
             askPrinter(request);
     });
 }

@@ -1423,10 +1423,6 @@ Umschalt+F1 oder das Kontextmenü sagt, warum.</translation>
         <translation>Einstellung: %1=%2</translation>
     </message>
     <message>
-        <source>Page %1 is beyond the document's last page, %2.</source>
-        <translation>Seite %1 liegt hinter der letzten Seite des Dokuments, %2.</translation>
-    </message>
-    <message>
         <source>%1 would get the job.</source>
         <translation>%1 würde den Auftrag bekommen.</translation>
     </message>
@@ -2006,21 +2002,6 @@ Umschalt+F1 oder das Kontextmenü sagt, warum.</translation>
     </message>
 </context>
 <context>
-    <name>PrintController</name>
-    <message>
-        <source>%1 cannot be chosen together with what was asked for; it is sent as it was saved.</source>
-        <translation>%1 kann nicht zusammen mit dem gewählt werden, was verlangt wurde; es wird gesendet, wie es gespeichert ist.</translation>
-    </message>
-    <message>
-        <source>Saved for this printer: %1</source>
-        <translation>Für diesen Drucker gespeichert: %1</translation>
-    </message>
-    <message>
-        <source>The plug-in could not attach its panels to this printer. Its rules and checks are missing.</source>
-        <translation>Das Plug-in konnte seine Bereiche nicht mit diesem Drucker verbinden. Seine Regeln und Prüfungen fehlen.</translation>
-    </message>
-</context>
-<context>
     <name>PrinterChoice</name>
     <message>
         <source>%1 was chosen: you printed to it last.</source>
@@ -2087,6 +2068,13 @@ Umschalt+F1 oder das Kontextmenü sagt, warum.</translation>
     <message>
         <source>Jobs in the queue: %1</source>
         <translation>Aufträge in der Warteschlange: %1</translation>
+    </message>
+</context>
+<context>
+    <name>PrinterOpening</name>
+    <message>
+        <source>The plug-in could not attach its panels to this printer. Its rules and checks are missing.</source>
+        <translation>Das Plug-in konnte seine Bereiche nicht mit diesem Drucker verbinden. Seine Regeln und Prüfungen fehlen.</translation>
     </message>
 </context>
 <context>
@@ -2677,6 +2665,13 @@ Umschalt+F1 oder das Kontextmenü sagt, warum.</translation>
     </message>
 </context>
 <context>
+    <name>RequestChecks</name>
+    <message>
+        <source>Page %1 is beyond the document's last page, %2.</source>
+        <translation>Seite %1 liegt hinter der letzten Seite des Dokuments, %2.</translation>
+    </message>
+</context>
+<context>
     <name>SummaryPart</name>
     <message>
         <source>Only What Differs from the Printer's Defaults</source>
@@ -3053,6 +3048,17 @@ Umschalt+F1 oder das Kontextmenü sagt, warum.</translation>
     <message>
         <source>Not to be had now: %1</source>
         <translation>Zurzeit nicht wählbar: %1</translation>
+    </message>
+</context>
+<context>
+    <name>YieldedSettings</name>
+    <message>
+        <source>%1 cannot be chosen together with what was asked for; it is sent as it was saved.</source>
+        <translation>%1 kann nicht zusammen mit dem gewählt werden, was verlangt wurde; es wird gesendet, wie es gespeichert ist.</translation>
+    </message>
+    <message>
+        <source>Saved for this printer: %1</source>
+        <translation>Für diesen Drucker gespeichert: %1</translation>
     </message>
 </context>
 </TS>

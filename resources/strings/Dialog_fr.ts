@@ -1423,10 +1423,6 @@ Maj+F1 ou le menu contextuel dit pourquoi.</translation>
         <translation>Réglage : %1=%2</translation>
     </message>
     <message>
-        <source>Page %1 is beyond the document's last page, %2.</source>
-        <translation>La page %1 dépasse la dernière page du document, %2.</translation>
-    </message>
-    <message>
         <source>%1 would get the job.</source>
         <translation>%1 recevrait le travail.</translation>
     </message>
@@ -2006,21 +2002,6 @@ Maj+F1 ou le menu contextuel dit pourquoi.</translation>
     </message>
 </context>
 <context>
-    <name>PrintController</name>
-    <message>
-        <source>%1 cannot be chosen together with what was asked for; it is sent as it was saved.</source>
-        <translation>%1 ne peut pas être choisi avec ce qui a été demandé ; il est envoyé tel qu’il a été enregistré.</translation>
-    </message>
-    <message>
-        <source>Saved for this printer: %1</source>
-        <translation>Enregistré pour cette imprimante : %1</translation>
-    </message>
-    <message>
-        <source>The plug-in could not attach its panels to this printer. Its rules and checks are missing.</source>
-        <translation>Le module n’a pas pu associer ses volets à cette imprimante. Ses règles et ses vérifications sont absentes.</translation>
-    </message>
-</context>
-<context>
     <name>PrinterChoice</name>
     <message>
         <source>%1 was chosen: you printed to it last.</source>
@@ -2087,6 +2068,13 @@ Maj+F1 ou le menu contextuel dit pourquoi.</translation>
     <message>
         <source>Jobs in the queue: %1</source>
         <translation>Travaux en file d’attente : %1</translation>
+    </message>
+</context>
+<context>
+    <name>PrinterOpening</name>
+    <message>
+        <source>The plug-in could not attach its panels to this printer. Its rules and checks are missing.</source>
+        <translation>Le module n’a pas pu associer ses volets à cette imprimante. Ses règles et ses vérifications sont absentes.</translation>
     </message>
 </context>
 <context>
@@ -2677,6 +2665,13 @@ Maj+F1 ou le menu contextuel dit pourquoi.</translation>
     </message>
 </context>
 <context>
+    <name>RequestChecks</name>
+    <message>
+        <source>Page %1 is beyond the document's last page, %2.</source>
+        <translation>La page %1 dépasse la dernière page du document, %2.</translation>
+    </message>
+</context>
+<context>
     <name>SummaryPart</name>
     <message>
         <source>Only What Differs from the Printer's Defaults</source>
@@ -3053,6 +3048,17 @@ Maj+F1 ou le menu contextuel dit pourquoi.</translation>
     <message>
         <source>Not to be had now: %1</source>
         <translation>Pas disponible actuellement : %1</translation>
+    </message>
+</context>
+<context>
+    <name>YieldedSettings</name>
+    <message>
+        <source>%1 cannot be chosen together with what was asked for; it is sent as it was saved.</source>
+        <translation>%1 ne peut pas être choisi avec ce qui a été demandé ; il est envoyé tel qu’il a été enregistré.</translation>
+    </message>
+    <message>
+        <source>Saved for this printer: %1</source>
+        <translation>Enregistré pour cette imprimante : %1</translation>
     </message>
 </context>
 </TS>

@@ -1423,10 +1423,6 @@ Shift+F1 or the context menu tells why.</source>
         <translation>設定: %1=%2</translation>
     </message>
     <message>
-        <source>Page %1 is beyond the document's last page, %2.</source>
-        <translation>%1 ページは、文書の最終ページ (%2) を超えています。</translation>
-    </message>
-    <message>
         <source>%1 would get the job.</source>
         <translation>ジョブは %1 に送信されます（今回は送信していません）。</translation>
     </message>
@@ -2006,21 +2002,6 @@ Shift+F1 or the context menu tells why.</source>
     </message>
 </context>
 <context>
-    <name>PrintController</name>
-    <message>
-        <source>%1 cannot be chosen together with what was asked for; it is sent as it was saved.</source>
-        <translation>%1 は、指定された設定と一緒には選べません。保存されたとおりに送信します。</translation>
-    </message>
-    <message>
-        <source>Saved for this printer: %1</source>
-        <translation>このプリンター用に保存された設定: %1</translation>
-    </message>
-    <message>
-        <source>The plug-in could not attach its panels to this printer. Its rules and checks are missing.</source>
-        <translation>プラグインのパネルをこのプリンターで使用できません。パネルによる設定の調整と確認は行われません。</translation>
-    </message>
-</context>
-<context>
     <name>PrinterChoice</name>
     <message>
         <source>%1 was chosen: you printed to it last.</source>
@@ -2087,6 +2068,13 @@ Shift+F1 or the context menu tells why.</source>
     <message>
         <source>Jobs in the queue: %1</source>
         <translation>キューのジョブ: %1</translation>
+    </message>
+</context>
+<context>
+    <name>PrinterOpening</name>
+    <message>
+        <source>The plug-in could not attach its panels to this printer. Its rules and checks are missing.</source>
+        <translation>プラグインのパネルをこのプリンターで使用できません。パネルによる設定の調整と確認は行われません。</translation>
     </message>
 </context>
 <context>
@@ -2677,6 +2665,13 @@ Shift+F1 or the context menu tells why.</source>
     </message>
 </context>
 <context>
+    <name>RequestChecks</name>
+    <message>
+        <source>Page %1 is beyond the document's last page, %2.</source>
+        <translation>%1 ページは、文書の最終ページ (%2) を超えています。</translation>
+    </message>
+</context>
+<context>
     <name>SummaryPart</name>
     <message>
         <source>Only What Differs from the Printer's Defaults</source>
@@ -3053,6 +3048,17 @@ Shift+F1 or the context menu tells why.</source>
     <message>
         <source>Not to be had now: %1</source>
         <translation>今は選べないもの: %1</translation>
+    </message>
+</context>
+<context>
+    <name>YieldedSettings</name>
+    <message>
+        <source>%1 cannot be chosen together with what was asked for; it is sent as it was saved.</source>
+        <translation>%1 は、指定された設定と一緒には選べません。保存されたとおりに送信します。</translation>
+    </message>
+    <message>
+        <source>Saved for this printer: %1</source>
+        <translation>このプリンター用に保存された設定: %1</translation>
     </message>
 </context>
 </TS>
