@@ -93,6 +93,8 @@ void JobWindow::take(const JobStatus &status)
     showProgress(status);
     for (const auto &[action, button] : m_actions)
         button->setVisible(isOffered(action, status.phase));
+    if (isVisible())
+        growSheet(*this);
 }
 
 void JobWindow::tell(const QString &sentence)
