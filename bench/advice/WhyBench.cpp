@@ -1,6 +1,6 @@
 // What an answer costs in CPU time, with all the copies of the process that find it out: of the
-// sample printers, in a state in which it takes one change; of a printer with 2000 choices; and of
-// one whose constraints are made to take all time.
+// sample printers, in a state in which it takes one change, and of one on which no change helps; of
+// a printer with 2000 choices; and of one whose constraints are made to take all time.
 #include "bench/advice/FollowCost.h"
 #include "bench/support/BenchPrinter.h"
 #include "bench/support/Timing.h"
@@ -28,6 +28,7 @@ namespace {
 constexpr int kTries = 5;
 constexpr double kReachOfSamples = 100;
 constexpr double kReachOf2000Choices = 300;
+constexpr double kReachOfNone = 3000; // all sets of changes are looked among
 constexpr int kBombConstraints = 5000;
 
 double cpuMilliseconds()
@@ -109,6 +110,8 @@ int main(int argc, char **argv)
         printRow(sample, samplePPD(QString::fromLatin1(sample)), photo, kReachOfSamples);
     printRow("velkaro-px-t900, another paper", samplePPD(u"velkaro-px-t900"_s),
              {u"VKMediaType"_s, u"PrintableDisc"_s}, kReachOfSamples);
+    printRow("velkaro-px-330c, nothing gives it", samplePPD(u"velkaro-px-330c"_s),
+             {u"VKGreen"_s, u"20"_s}, kReachOfNone);
     printRow("46 choices", writeBenchPrinter(folder.path(), kFewestChoices), photo,
              kReachOfSamples);
     printRow("2000 choices", writeBenchPrinter(folder.path(), 2000), photo, kReachOf2000Choices);

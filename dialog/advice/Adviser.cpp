@@ -61,12 +61,12 @@ void Adviser::follow(HostSession &session)
 void Adviser::ask(const PPDMark &wanted, Then then)
 {
     m_then = std::move(then);
-    if (!m_process)
-        start();
+    m_patience.start();
+    if (!m_process && !start())
+        return; // which has been answered
     sendScript();
     send(question(wanted));
     ++m_awaited;
-    m_patience.start();
 }
 
 /// A line of whatever kind, an empty one too, ends a search that is going on.
@@ -78,9 +78,11 @@ void Adviser::abandon()
     send("\n");
 }
 
-void Adviser::start()
+/// False when there was no room for another process.
+bool Adviser::start()
 {
     m_process = std::make_unique<QProcess>(this);
+    const QProcess *process = m_process.get();
     m_process->setStandardErrorFile(QProcess::nullDevice());
     m_process->setChildProcessModifier(
         [ppd = m_session->ppdText()] { fcntl(ppd, F_SETFD, 0); }); // stays open in the program
@@ -95,6 +97,7 @@ void Adviser::start()
     if (!m_session->options().bundlePath.isNull())
         arguments += m_session->options().bundlePath;
     m_process->start(programPath(), arguments);
+    return m_process.get() == process;
 }
 
 void Adviser::sendScript()

@@ -49,7 +49,7 @@ public:
     bool isAsked() const { return m_then != nullptr; }
 
 private:
-    void start();
+    bool start();
     void sendScript();
     void send(const QByteArray &lines);
     void read();

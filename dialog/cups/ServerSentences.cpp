@@ -1,6 +1,8 @@
 #include "dialog/cups/ServerSentences.h"
 
 #include "dialog/cups/ServerLimits.h"
+#include "dialog/files/PathBytes.h"
+#include "dialog/files/TemporaryFile.h"
 #include "dialog/work/Sentences.h"
 #include "dialog/work/SystemReason.h"
 #include "platform/toolkit/PlainText.h"
@@ -63,10 +65,6 @@ constexpr std::array kKinds{
     KindRow{Kind::TooLarge,
             {FaultKind::Refused,
              QT_TRANSLATE_NOOP("Server", "The answer of the print server %1 is too large.")}},
-    KindRow{Kind::NotStored,
-            {FaultKind::Refused,
-             QT_TRANSLATE_NOOP("Server", "What the print server %1 sends cannot be kept in the "
-                                         "temporary folder: %2.")}},
     KindRow{
         Kind::Silent,
         {FaultKind::Silent, QT_TRANSLATE_NOOP("Server", "The print server %1 does not answer.")}},
@@ -186,6 +184,14 @@ Fault faultOfStatus(const std::array<QueueRow, QueueRows> &aboutQueues,
     return faultWith(other->said.kind, other->said.sentence, server, detailOf(end));
 }
 
+Fault faultOfFolder(const QString &server, const QString &reason)
+{
+    return {FaultKind::Refused,
+            QCoreApplication::translate("Server", "What the print server %1 sends cannot be kept "
+                                                  "in the temporary folder %2: %3.")
+                .arg(server, shownPath(pathOfBytes(temporaryFolder())), reason)};
+}
+
 } // namespace
 
 Fault faultOf(const ExchangeEnd &end, const QString &server, const QString &queue)
@@ -196,6 +202,8 @@ Fault faultOf(const ExchangeEnd &end, const QString &server, const QString &queu
                 QCoreApplication::translate("Server", "Printing was cancelled.")};
     case Kind::Answered:
         return faultOfStatus(kIppAboutQueues, kIppStatuses, end, server, queue);
+    case Kind::NotStored:
+        return faultOfFolder(server, end.text);
     case Kind::HttpStatus:
         return faultOfStatus(kHttpAboutQueues, kHttpStatuses, end, server, queue);
     default:

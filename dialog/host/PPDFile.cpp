@@ -32,6 +32,23 @@ bool saysNothing(const ppd_file_t &ppd)
     return ppd.num_groups == 0 && !ppd.modelname && !ppd.nickname && !ppd.manufacturer;
 }
 
+// Such a choice would be listed, and nobody could ask for it: libcups takes a brace for the
+// beginning of a value of the user's own.
+bool hasNoUsableName(const ppd_choice_t &choice)
+{
+    return choice.choice[0] == '\0' || choice.choice[0] == '{';
+}
+
+void dropUnnamedChoices(ppd_group_t &group)
+{
+    for (ppd_option_t &option :
+         std::span(group.options, static_cast<std::size_t>(group.num_options))) {
+        ppd_choice_t *const end = option.choices + option.num_choices;
+        option.num_choices =
+            static_cast<int>(std::remove_if(option.choices, end, hasNoUsableName) - option.choices);
+    }
+}
+
 template <typename Named> void nameWhereEmpty(Named &named, const char *name)
 {
     if (named.text[0] == '\0')
@@ -50,11 +67,15 @@ void nameWhatHasNoText(ppd_group_t &group)
     }
 }
 
+std::span<ppd_group_t> groupsOf(ppd_file_t &ppd)
+{
+    return {ppd.groups, static_cast<std::size_t>(ppd.num_groups)};
+}
+
 void localize(ppd_file_t &ppd)
 {
     ppdLocalize(&ppd);
-    for (ppd_group_t &group : std::span(ppd.groups, static_cast<std::size_t>(ppd.num_groups)))
-        nameWhatHasNoText(group);
+    std::ranges::for_each(groupsOf(ppd), nameWhatHasNoText);
 }
 
 // libcups opens nothing but files; none when there is no memory for it. The file at the PPD's path
@@ -77,6 +98,7 @@ int duplicate(const FileDescriptor &file)
 
 OpenedPPD withDefaults(PPDHandle ppd, std::shared_ptr<const FileDescriptor> text, PPDTexts texts)
 {
+    std::ranges::for_each(groupsOf(*ppd), dropUnnamedChoices);
     if (texts == PPDTexts::InUserLanguage)
         localize(*ppd);
     ppdMarkDefaults(ppd.get());

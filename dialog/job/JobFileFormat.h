@@ -16,8 +16,9 @@
 /// `Queue` is missing where the job was made from a PPD file, the others may come again. A document
 /// line holds the length in bytes and the name.
 
-/// The first line, without its line break.
+/// The first line, without its line break, and what it begins with in every version.
 constexpr auto kJobFileFirstLine = "Velkaro-Print-Job: 1";
+constexpr auto kJobFileBeginning = "Velkaro-Print-Job: ";
 
 // Far above what a job of this program has; a header that reaches all of them has 900 KB.
 constexpr qsizetype kMostJobFileDocuments = 1000;

@@ -115,8 +115,10 @@ JobFileFlaw parse(JobFileHeader &header, QByteArrayView beginning, qint64 fileSi
 ParsedJobFileHeader parseJobFileHeader(QByteArrayView beginning, qint64 fileSize)
 {
     ParsedJobFileHeader parsed;
-    const bool isJob = beginning.startsWith(QByteArray(kJobFileFirstLine) + '\n');
-    parsed.flaw = isJob ? parse(parsed.header, beginning, fileSize) : NoJob;
+    if (beginning.startsWith(QByteArray(kJobFileFirstLine) + '\n'))
+        parsed.flaw = parse(parsed.header, beginning, fileSize);
+    else
+        parsed.flaw = beginning.startsWith(kJobFileBeginning) ? OtherVersion : NoJob;
     return parsed;
 }
 
@@ -127,6 +129,11 @@ QString flawSentence(JobFileFlaw flaw, const QString &path)
         break;
     case NoJob:
         return jobFileSentence(QT_TRANSLATE_NOOP("JobFile", "%1 is no saved job."), path);
+    case OtherVersion:
+        return jobFileSentence(
+            QT_TRANSLATE_NOOP("JobFile", "The saved job %1 is damaged, or another version of "
+                                         "Velkaro Print has written it."),
+            path);
     case CutShort:
         return jobFileSentence(
             QT_TRANSLATE_NOOP("JobFile", "The saved job %1 is cut short: its end is missing."),

@@ -27,6 +27,7 @@ struct JobFileHeader
 enum class JobFileFlaw {
     None,
     NoJob,            ///< the first line is another one
+    OtherVersion,     ///< it is the first line of another version
     CutShort,         ///< the file ends before the header, or before the documents
     Damaged,          ///< a line that this program does not write, or bytes that belong to nothing
     TooLong,          ///< the header is longer than kLongestJobFileHeader

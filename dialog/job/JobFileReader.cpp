@@ -19,8 +19,8 @@ QByteArray beginning(const Document &file, qint64 most)
 
 bool isJobFile(const Document &file)
 {
-    const QByteArray firstLine = QByteArray(kJobFileFirstLine) + '\n';
-    return beginning(file, firstLine.size()) == firstLine;
+    const QByteArray expected(kJobFileBeginning);
+    return beginning(file, expected.size()) == expected;
 }
 
 Result<JobRequest> readJobFile(const Document &file)

@@ -2,10 +2,10 @@
 
 #include "dialog/files/OutputFile.h"
 #include "dialog/files/PathBytes.h"
+#include "dialog/job/SavedFiles.h"
 
 #include <QtCore/QCoreApplication>
 #include <QtCore/QDir>
-#include <QtCore/QFile>
 #include <QtCore/QFileInfo>
 #include <QtCore/QLockFile>
 
@@ -16,8 +16,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr qsizetype kLongestLine = 8000; // bytes: libcups reads 8,191 of a line
-constexpr qint64 kLargestFile = 16LL * 1024 * 1024;
-constexpr int kLockTimeout = 5000; // ms
+constexpr int kLockTimeout = 5000;       // ms
 
 /// The value as cupsParseOptions() reads it from a line of a file, in which a # begins a comment.
 QByteArray quotedValue(const QString &value)
@@ -60,26 +59,6 @@ QByteArray withLines(const QByteArray &text, const QueueName &name, const NewLin
         changed += isSameQueue(read.name, name) ? newLine(line, read) : line;
     }
     return changed;
-}
-
-Fault unreadable(const QString &path, const QString &reason)
-{
-    return {FaultKind::Output, QCoreApplication::translate(
-                                   "LpoptionsFile", "The saved settings in %1 cannot be read: %2.")
-                                   .arg(shownPath(path), reason)};
-}
-
-Result<QByteArray> textOf(const QString &path)
-{
-    const QFileInfo info(path);
-    if (!info.exists() && !info.isSymLink())
-        return QByteArray();
-    QFile file(path);
-    if (!info.isFile() || info.size() > kLargestFile)
-        return unreadable(path, QCoreApplication::translate("LpoptionsFile", "it is no such file"));
-    if (!file.open(QIODevice::ReadOnly))
-        return unreadable(path, file.errorString());
-    return file.readAll();
 }
 
 Result<> write(const QString &path, const QByteArray &text)
@@ -145,7 +124,11 @@ Result<> changeLpoptions(const std::function<Result<QByteArray>(const QByteArray
 {
     const QString path = ownLpoptionsFile();
     QDir().mkpath(QFileInfo(path).path());
-    QLockFile lock(path + u".lock"_s);
+    const QString lockPath = path + u".lock"_s;
+    // Somebody's pipe in the place of the lock would keep whoever looks into it waiting.
+    if (const Result<QByteArray> locked = lpoptionsText(lockPath); !locked)
+        return locked.fault();
+    QLockFile lock(lockPath);
     lock.setStaleLockTime(kLockTimeout);
     const bool isLocked = lock.tryLock(kLockTimeout);
     if (!isLocked && lock.error() == QLockFile::LockFailedError)
@@ -153,7 +136,7 @@ Result<> changeLpoptions(const std::function<Result<QByteArray>(const QByteArray
                      QCoreApplication::translate("LpoptionsFile",
                                                  "Another program is changing %1. Try again.")
                          .arg(shownPath(path))};
-    const Result<QByteArray> former = textOf(path);
+    const Result<QByteArray> former = lpoptionsText(path);
     if (!former)
         return former.fault();
     const Result<QByteArray> changed = change(*former);

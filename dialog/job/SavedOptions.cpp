@@ -1,35 +1,27 @@
 #include "dialog/job/SavedOptions.h"
 
+#include "dialog/job/SavedFiles.h"
 #include "platform/toolkit/PlainText.h"
 
 #include <QtCore/QCoreApplication>
-#include <QtCore/QFile>
-#include <QtCore/QFileInfo>
+#include <QtCore/QSet>
 
 #include <cups/cups.h>
 
 #include <algorithm>
-#include <unistd.h>
+#include <utility>
 
 namespace {
 
-/// The lines of all files, the user's own last.
-QList<SavedLine> savedLines()
+constexpr qsizetype kLongestLine = 8191; // bytes, as libcups reads them
+
+/// A line whose options nobody has looked at yet.
+struct UnreadLine
 {
-    QList<SavedLine> lines;
-    for (const QString &path : lpoptionsFiles()) {
-        QFile file(path);
-        // A pipe would keep whoever opens it waiting.
-        if (!QFileInfo(path).isFile() || !file.open(QIODevice::ReadOnly))
-            continue;
-        while (!file.atEnd()) {
-            const SavedLine line = parseSavedLine(file.readLine());
-            if (!line.name.queue.isEmpty())
-                lines += line;
-        }
-    }
-    return lines;
-}
+    QueueName name;
+    bool isDefault = false;
+    QByteArray options;
+};
 
 /// As libcups reads a line: a # begins a comment, unless a backslash stands before it.
 QByteArray withoutComment(QByteArray line)
@@ -40,14 +32,6 @@ QByteArray withoutComment(QByteArray line)
         line.remove(at - 1, 1);
     }
     return line;
-}
-
-void put(QList<JobOption> &options, const QList<JobOption> &added)
-{
-    for (const JobOption &option : added) {
-        options.removeIf([&](const JobOption &old) { return old.name == option.name; });
-        options += option;
-    }
 }
 
 QList<JobOption> parseOptions(const QByteArray &text)
@@ -62,6 +46,48 @@ QList<JobOption> parseOptions(const QByteArray &text)
     return options;
 }
 
+UnreadLine beginningOf(const QByteArray &written)
+{
+    const QByteArray line = withoutComment(written.left(kLongestLine));
+    const QByteArray words = line.simplified();
+    const qsizetype keywordEnd = words.indexOf(' ');
+    const QByteArray keyword = words.left(keywordEnd).toLower();
+    if (keywordEnd < 0 || (keyword != "dest" && keyword != "default"))
+        return {};
+    const QByteArray rest = line.trimmed().mid(keywordEnd).trimmed();
+    const qsizetype nameEnd = rest.simplified().indexOf(' ');
+    return {queueName(QString::fromUtf8(nameEnd < 0 ? rest : rest.left(nameEnd))),
+            keyword == "default", nameEnd < 0 ? QByteArray() : rest.mid(nameEnd)};
+}
+
+/// The lines of all files, the user's own last.
+QList<UnreadLine> savedLines()
+{
+    QList<UnreadLine> lines;
+    for (const QString &path : lpoptionsFiles()) {
+        const Result<QByteArray> text = lpoptionsText(path);
+        const QByteArrayList written = text ? text->split('\n') : QByteArrayList();
+        for (const QByteArray &line : written)
+            if (UnreadLine unread = beginningOf(line); !unread.name.queue.isEmpty())
+                lines += std::move(unread);
+    }
+    return lines;
+}
+
+/// Each option once, as it was said last.
+QList<JobOption> lastOfEach(const QList<JobOption> &options)
+{
+    QSet<QString> names;
+    QList<JobOption> last;
+    std::for_each(options.crbegin(), options.crend(), [&](const JobOption &option) {
+        if (!names.contains(option.name))
+            last += option;
+        names.insert(option.name);
+    });
+    std::ranges::reverse(last);
+    return last;
+}
+
 } // namespace
 
 bool isSameQueue(const QueueName &one, const QueueName &other)
@@ -71,17 +97,6 @@ bool isSameQueue(const QueueName &one, const QueueName &other)
            one.instance.compare(other.instance, Qt::CaseInsensitive) == 0;
 }
 
-QStringList lpoptionsFiles()
-{
-    const QByteArray folder = qgetenv("CUPS_SERVERROOT");
-    QStringList files{QString::fromLocal8Bit(folder.isEmpty() ? QByteArray("/etc/cups") : folder) +
-                      QStringLiteral("/lpoptions")};
-    const QByteArray home = qgetenv("HOME");
-    if (!home.isEmpty())
-        files += QString::fromLocal8Bit(home) + QStringLiteral("/.cups/lpoptions");
-    return files;
-}
-
 Result<> checkInstance(const QueueName &name)
 {
     const QList<QueueName> known = savedInstances();
@@ -89,6 +104,8 @@ Result<> checkInstance(const QueueName &name)
         std::ranges::any_of(known, [&](const QueueName &one) { return isSameQueue(one, name); });
     if (name.instance.isNull() || isKnown)
         return {};
+    if (const QStringList notes = notesOnLpoptions(); !notes.isEmpty())
+        return Fault{FaultKind::Request, notes.constLast()};
     return Fault{FaultKind::Request,
                  QCoreApplication::translate(
                      "SavedOptions", "There are no settings saved as \"%1\" for the printer %2.")
@@ -106,42 +123,35 @@ QString textOf(const QueueName &name)
     return name.instance.isNull() ? name.queue : name.queue + u'/' + name.instance;
 }
 
-SavedLine parseSavedLine(const QByteArray &written)
+SavedLine parseSavedLine(const QByteArray &line)
 {
-    const QByteArray line = withoutComment(written);
-    const QByteArray words = line.simplified();
-    const qsizetype keywordEnd = words.indexOf(' ');
-    const QByteArray keyword = words.left(keywordEnd).toLower();
-    if (keywordEnd < 0 || (keyword != "dest" && keyword != "default"))
-        return {};
-    const QByteArray rest = line.trimmed().mid(keywordEnd).trimmed();
-    const qsizetype nameEnd = rest.simplified().indexOf(' ');
-    return {queueName(QString::fromUtf8(nameEnd < 0 ? rest : rest.left(nameEnd))),
-            keyword == "default",
-            nameEnd < 0 ? QList<JobOption>() : parseOptions(rest.mid(nameEnd))};
+    const UnreadLine unread = beginningOf(line);
+    return {unread.name, unread.isDefault, parseOptions(unread.options)};
 }
 
 QList<JobOption> savedOptions(const QueueName &name)
 {
-    const QList<SavedLine> lines = savedLines();
+    const QList<UnreadLine> lines = savedLines();
     QList<JobOption> options;
-    for (const SavedLine &line : lines)
+    for (const UnreadLine &line : lines)
         if (isSameQueue(line.name, {name.queue, {}}))
-            put(options, line.options);
-    for (const SavedLine &line : lines)
+            options += parseOptions(line.options);
+    for (const UnreadLine &line : lines)
         if (!name.instance.isNull() && isSameQueue(line.name, name))
-            put(options, line.options);
-    return options;
+            options += parseOptions(line.options);
+    return lastOfEach(options);
 }
 
 QList<QueueName> savedInstances()
 {
+    QSet<QString> names;
     QList<QueueName> instances;
-    for (const SavedLine &line : savedLines())
-        if (!line.name.instance.isNull() &&
-            std::ranges::none_of(instances,
-                                 [&](const QueueName &one) { return isSameQueue(one, line.name); }))
+    for (const UnreadLine &line : savedLines()) {
+        const QString name = textOf(line.name).toCaseFolded();
+        if (!line.name.instance.isNull() && !names.contains(name))
             instances += line.name;
+        names.insert(name);
+    }
     return instances;
 }
 
@@ -158,7 +168,7 @@ QueueName environmentQueue()
 QueueName savedDefaultQueue()
 {
     QueueName saved;
-    for (const SavedLine &line : savedLines())
+    for (const UnreadLine &line : savedLines())
         if (line.isDefault)
             saved = line.name;
     return saved;

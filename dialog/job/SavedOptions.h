@@ -18,8 +18,8 @@ struct QueueName
 /// Whether both are the same to libcups, which reads over the case of letters.
 bool isSameQueue(const QueueName &one, const QueueName &other);
 
-/// The files that libcups reads, those of the user's own last.
-QStringList lpoptionsFiles();
+/// More settings than any queue or instance has.
+inline constexpr qsizetype kMostSavedOptions = 1000;
 
 /// The settings that the system and the user have saved with lpoptions for the queue and, above
 /// them, for the instance. Read from the files, without asking a server.
@@ -41,7 +41,7 @@ QueueName savedDefaultQueue();
 QueueName usualQueue();
 
 /// A fault when the name has an instance that nobody has saved settings for: libcups would print
-/// without any.
+/// without any. It tells of the file that cannot be read, where there is one.
 Result<> checkInstance(const QueueName &name);
 
 /// One line of an lpoptions file, "Dest photo/glossy media=a4 ..." or "Default ...". An empty

@@ -18,9 +18,10 @@ Result<FoundPrinter> PrinterOpening::take(const PrinterSource &source, FetchedPr
     found.queue = fetched.queue;
     const QList<JobOption> starting = startingOptions(
         found, fetched.opened && *fetched.opened ? (*fetched.opened)->ppd.get() : nullptr);
-    if (!fetched.opened) {
+    const Result<> state = fetched.opened.andThen([&] { return checkCount(starting, found); });
+    if (!state) {
         m_job.setPrinter(found, {});
-        return fetched.opened.fault();
+        return state.fault();
     }
     FoundPrinter printer;
     SessionOptions options;

@@ -5,6 +5,7 @@
 #include "dialog/host/HostPaper.h"
 #include "dialog/host/PPDSentence.h"
 #include "dialog/job/PPDPresets.h"
+#include "dialog/job/SavedFiles.h"
 #include "dialog/printing/LastUsed.h"
 #include "dialog/printing/Presets.h"
 #include "platform/toolkit/PlainText.h"
@@ -71,6 +72,22 @@ MaybePPD fetchPPD(const PrinterSource &source, CallGuard &guard, FetchedPrinter 
     return opened;
 }
 
+QString noteOnMissing(const PrinterSource &source, const QList<JobOption> &missing)
+{
+    const QString list = typedSettings(missing);
+    if (source.start.kind == StartingSettings::Kind::LastUsed)
+        return QCoreApplication::translate("PrinterSource",
+                                           "The printer no longer has some of the settings that "
+                                           "you used last: %1.")
+            .arg(list);
+    const QString name =
+        source.queue.instance.isNull() ? source.queue.queue : source.queue.instance;
+    return QCoreApplication::translate("PrinterSource",
+                                       "The printer does not have some of the settings that are "
+                                       "saved for %1: %2.")
+        .arg(displayText(name), list);
+}
+
 } // namespace
 
 FetchedPrinter fetchPrinter(const PrinterSource &source, CallGuard &guard)
@@ -115,6 +132,18 @@ QList<JobOption> startingOptions(PrinterSource &source, ppd_file_t *ppd)
     return options;
 }
 
+Result<> checkCount(const QList<JobOption> &starting, const PrinterSource &source)
+{
+    if (starting.size() <= kMostSavedOptions)
+        return {};
+    return Fault{
+        FaultKind::Request,
+        QCoreApplication::translate("PrinterSource",
+                                    "There are more settings saved for %1 than the %2 that can be "
+                                    "used.")
+            .arg(displayText(textOf(source.queue)), QString::number(kMostSavedOptions))};
+}
+
 QString typedSettings(const QList<JobOption> &settings)
 {
     QStringList named;
@@ -125,20 +154,10 @@ QString typedSettings(const QList<JobOption> &settings)
 
 QStringList notesOnStart(const PrinterSource &source, const QList<JobOption> &missing)
 {
-    if (missing.isEmpty())
-        return {};
-    const QString list = typedSettings(missing);
-    if (source.start.kind == StartingSettings::Kind::LastUsed)
-        return {QCoreApplication::translate("PrinterSource",
-                                            "The printer no longer has some of the settings that "
-                                            "you used last: %1.")
-                    .arg(list)};
-    const QString name =
-        source.queue.instance.isNull() ? source.queue.queue : source.queue.instance;
-    return {QCoreApplication::translate("PrinterSource",
-                                        "The printer does not have some of the settings that are "
-                                        "saved for %1: %2.")
-                .arg(displayText(name), list)};
+    QStringList notes = source.queue.queue.isEmpty() ? QStringList() : notesOnLpoptions();
+    if (!missing.isEmpty())
+        notes += noteOnMissing(source, missing);
+    return notes;
 }
 
 OpenedPrinter openPrinter(const SessionOptions &options, std::optional<OpenedPPD> ppd,

@@ -48,11 +48,15 @@ QueueName wantedQueue(const QString &queue, const QString &instance);
 /// that starts from what was used last says afterwards whether there is any.
 QList<JobOption> startingOptions(PrinterSource &source, ppd_file_t *ppd);
 
+/// A fault when there are more of them than kMostSavedOptions: every part of the program would be
+/// at them for long.
+Result<> checkCount(const QList<JobOption> &starting, const PrinterSource &source);
+
 /// The settings as they are typed, one behind the other; of many the first few.
 QString typedSettings(const QList<JobOption> &settings);
 
-/// One sentence on the settings that the source started from and the printer does not have; none
-/// when it has them all.
+/// Sentences on the settings that the source started from and the printer does not have, and on
+/// files of saved settings that cannot be read.
 QStringList notesOnStart(const PrinterSource &source, const QList<JobOption> &missing);
 
 /// A printer as it was opened, to open it once more in the same way without asking for it again.

@@ -125,9 +125,14 @@ bool Run::goOn(const Result<> &done)
 
 void Run::readDocuments()
 {
-    const Result<> begun = checkOwnSettings(m_line.choices).andThen([this] {
-        return m_controller.openDocuments(m_line.files);
-    });
+    const Result<> begun =
+        checkOwnSettings(m_line.choices)
+            .andThen([this] {
+                return m_line.passwordDescriptor
+                           ? checkPasswordDescriptor(*m_line.passwordDescriptor, m_line.files)
+                           : Result<>();
+            })
+            .andThen([this] { return m_controller.openDocuments(m_line.files); });
     if (goOn(begun))
         m_controller.readPipes([this](const Result<> &read) {
             if (goOn(read))

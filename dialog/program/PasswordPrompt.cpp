@@ -1,15 +1,20 @@
 #include "dialog/program/PasswordPrompt.h"
 
 #include "dialog/cups/PasswordWords.h"
+#include "dialog/files/DescriptorPath.h"
 #include "dialog/files/FileDescriptor.h"
+#include "dialog/work/SystemReason.h"
 #include "platform/toolkit/PlainText.h"
 
 #include <QtCore/QCoreApplication>
 
+#include <algorithm>
+#include <cerrno>
 #include <cstring>
 #include <fcntl.h>
 #include <mutex>
 #include <poll.h>
+#include <sys/stat.h>
 #include <termios.h>
 #include <unistd.h>
 
@@ -24,7 +29,7 @@ std::optional<QByteArray> readLine(int descriptor, CallGuard &guard)
 {
     QByteArray line;
     line.reserve(kLongestPassword + 1); // growing would leave copies behind
-    while (!guard.isCancelled() && line.size() < kLongestPassword) {
+    while (!guard.isCancelled() && line.size() <= kLongestPassword) {
         guard.stampSignOfLife(); // people take their time
         pollfd watched{descriptor, POLLIN, 0};
         if (poll(&watched, 1, kPromptLook) == 0)
@@ -38,7 +43,21 @@ std::optional<QByteArray> readLine(int descriptor, CallGuard &guard)
         else
             break;
     }
-    return line.size() == kLongestPassword ? std::optional(line) : std::nullopt;
+    return std::nullopt;
+}
+
+Fault unreadable(int descriptor, int error)
+{
+    return {FaultKind::Request,
+            QCoreApplication::translate("PasswordPrompt", "No password can be read from the open "
+                                                          "file %1 (--password-fd): %2.")
+                .arg(QString::number(descriptor), systemReason(error))};
+}
+
+bool standsFor(const QString &document, int descriptor)
+{
+    return (document == QLatin1String("-") && descriptor == STDIN_FILENO) ||
+           descriptorOf(document) == descriptor;
 }
 
 class PasswordReader : public PasswordAsker
@@ -144,6 +163,26 @@ private:
 std::shared_ptr<PasswordAsker> newPasswordReader(int descriptor)
 {
     return std::make_shared<PasswordReader>(descriptor);
+}
+
+Result<> checkPasswordDescriptor(int descriptor, const QStringList &documents)
+{
+    struct stat status = {};
+    const int flags = fcntl(descriptor, F_GETFL);
+    if (flags < 0 || fstat(descriptor, &status) != 0)
+        return unreadable(descriptor, errno);
+    if ((flags & O_ACCMODE) == O_WRONLY)
+        return unreadable(descriptor, EBADF);
+    if (S_ISDIR(status.st_mode))
+        return unreadable(descriptor, EISDIR);
+    if (std::ranges::none_of(documents,
+                             [&](const QString &one) { return standsFor(one, descriptor); }))
+        return {};
+    return Fault{FaultKind::Request,
+                 QCoreApplication::translate("PasswordPrompt", "The open file %1 cannot be a "
+                                                               "document and hold the password "
+                                                               "(--password-fd).")
+                     .arg(descriptor)};
 }
 
 std::shared_ptr<PasswordAsker> newPasswordPrompt()

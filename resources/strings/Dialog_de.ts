@@ -719,6 +719,10 @@ Umschalt+F1 oder das Kontextmenü sagt, warum.</translation>
 <context>
     <name>JobFile</name>
     <message>
+        <source>The saved job %1 is damaged, or another version of Velkaro Print has written it.</source>
+        <translation>Der gespeicherte Auftrag %1 ist beschädigt oder wurde von einer anderen Version von Velkaro Print geschrieben.</translation>
+    </message>
+    <message>
         <source>%1 is no saved job.</source>
         <translation>%1 ist kein gespeicherter Auftrag.</translation>
     </message>
@@ -1373,8 +1377,12 @@ Umschalt+F1 oder das Kontextmenü sagt, warum.</translation>
         <translation>Die gesicherten Einstellungen in %1 können nicht gelesen werden: %2.</translation>
     </message>
     <message>
-        <source>it is no such file</source>
-        <translation>es ist keine solche Datei</translation>
+        <source>it is no ordinary file</source>
+        <translation>es ist keine gewöhnliche Datei</translation>
+    </message>
+    <message>
+        <source>it has more than %1 MB</source>
+        <translation>sie hat mehr als %1 MB</translation>
     </message>
     <message>
         <source>Another program is changing %1. Try again.</source>
@@ -1729,6 +1737,14 @@ Umschalt+F1 oder das Kontextmenü sagt, warum.</translation>
 </context>
 <context>
     <name>PasswordPrompt</name>
+    <message>
+        <source>No password can be read from the open file %1 (--password-fd): %2.</source>
+        <translation>Aus der offenen Datei %1 (--password-fd) kann kein Passwort gelesen werden: %2.</translation>
+    </message>
+    <message>
+        <source>The open file %1 cannot be a document and hold the password (--password-fd).</source>
+        <translation>Die offene Datei %1 kann nicht zugleich ein Dokument sein und das Passwort enthalten (--password-fd).</translation>
+    </message>
     <message>
         <source>Domain: </source>
         <translation>Domäne: </translation>
@@ -2555,6 +2571,10 @@ Umschalt+F1 oder das Kontextmenü sagt, warum.</translation>
 <context>
     <name>PrinterSource</name>
     <message>
+        <source>There are more settings saved for %1 than the %2 that can be used.</source>
+        <translation>Für %1 sind mehr Einstellungen gesichert als die %2, die verwendet werden können.</translation>
+    </message>
+    <message>
         <source>The PPD of the queue %1 cannot be used. %2</source>
         <translation>Die PPD-Datei der Warteschlange %1 kann nicht verwendet werden. %2</translation>
     </message>
@@ -2909,8 +2929,8 @@ Umschalt+F1 oder das Kontextmenü sagt, warum.</translation>
         <translation>Die Antwort des Druckservers %1 ist zu groß.</translation>
     </message>
     <message>
-        <source>What the print server %1 sends cannot be kept in the temporary folder: %2.</source>
-        <translation>Was der Druckserver %1 sendet, kann nicht im temporären Ordner abgelegt werden: %2.</translation>
+        <source>What the print server %1 sends cannot be kept in the temporary folder %2: %3.</source>
+        <translation>Was der Druckserver %1 sendet, kann nicht im temporären Ordner %2 abgelegt werden: %3.</translation>
     </message>
     <message>
         <source>Printing was cancelled.</source>

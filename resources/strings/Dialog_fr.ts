@@ -719,6 +719,10 @@ Maj+F1 ou le menu contextuel dit pourquoi.</translation>
 <context>
     <name>JobFile</name>
     <message>
+        <source>The saved job %1 is damaged, or another version of Velkaro Print has written it.</source>
+        <translation>Le travail enregistré %1 est endommagé, ou a été écrit par une autre version de Velkaro Print.</translation>
+    </message>
+    <message>
         <source>%1 is no saved job.</source>
         <translation>%1 n’est pas un travail enregistré.</translation>
     </message>
@@ -1373,8 +1377,12 @@ Maj+F1 ou le menu contextuel dit pourquoi.</translation>
         <translation>Les réglages enregistrés dans %1 ne peuvent pas être lus : %2.</translation>
     </message>
     <message>
-        <source>it is no such file</source>
-        <translation>ce n’est pas un tel fichier</translation>
+        <source>it is no ordinary file</source>
+        <translation>ce n’est pas un fichier ordinaire</translation>
+    </message>
+    <message>
+        <source>it has more than %1 MB</source>
+        <translation>il dépasse %1 Mo</translation>
     </message>
     <message>
         <source>Another program is changing %1. Try again.</source>
@@ -1729,6 +1737,14 @@ Maj+F1 ou le menu contextuel dit pourquoi.</translation>
 </context>
 <context>
     <name>PasswordPrompt</name>
+    <message>
+        <source>No password can be read from the open file %1 (--password-fd): %2.</source>
+        <translation>Aucun mot de passe ne peut être lu dans le fichier ouvert %1 (--password-fd) : %2.</translation>
+    </message>
+    <message>
+        <source>The open file %1 cannot be a document and hold the password (--password-fd).</source>
+        <translation>Le fichier ouvert %1 ne peut pas être à la fois un document et contenir le mot de passe (--password-fd).</translation>
+    </message>
     <message>
         <source>Domain: </source>
         <translation>Domaine : </translation>
@@ -2555,6 +2571,10 @@ Maj+F1 ou le menu contextuel dit pourquoi.</translation>
 <context>
     <name>PrinterSource</name>
     <message>
+        <source>There are more settings saved for %1 than the %2 that can be used.</source>
+        <translation>Plus de réglages sont enregistrés pour %1 que les %2 qui peuvent être utilisés.</translation>
+    </message>
+    <message>
         <source>The PPD of the queue %1 cannot be used. %2</source>
         <translation>Le fichier PPD de la file d’attente %1 ne peut pas être utilisé. %2</translation>
     </message>
@@ -2909,8 +2929,8 @@ Maj+F1 ou le menu contextuel dit pourquoi.</translation>
         <translation>La réponse du serveur d’impression %1 est trop volumineuse.</translation>
     </message>
     <message>
-        <source>What the print server %1 sends cannot be kept in the temporary folder: %2.</source>
-        <translation>Ce qu’envoie le serveur d’impression %1 ne peut pas être conservé dans le dossier temporaire : %2.</translation>
+        <source>What the print server %1 sends cannot be kept in the temporary folder %2: %3.</source>
+        <translation>Ce qu’envoie le serveur d’impression %1 ne peut pas être conservé dans le dossier temporaire %2 : %3.</translation>
     </message>
     <message>
         <source>Printing was cancelled.</source>

@@ -719,6 +719,10 @@ Shift+F1 or the context menu tells why.</source>
 <context>
     <name>JobFile</name>
     <message>
+        <source>The saved job %1 is damaged, or another version of Velkaro Print has written it.</source>
+        <translation>保存されたジョブ %1 は壊れているか、別のバージョンの Velkaro Print で書かれています。</translation>
+    </message>
+    <message>
         <source>%1 is no saved job.</source>
         <translation>%1 は保存されたジョブではありません。</translation>
     </message>
@@ -1373,8 +1377,12 @@ Shift+F1 or the context menu tells why.</source>
         <translation>%1 に保存された設定を読み込めません: %2。</translation>
     </message>
     <message>
-        <source>it is no such file</source>
-        <translation>設定ファイルではありません</translation>
+        <source>it is no ordinary file</source>
+        <translation>通常のファイルではありません</translation>
+    </message>
+    <message>
+        <source>it has more than %1 MB</source>
+        <translation>%1 MB を超えています</translation>
     </message>
     <message>
         <source>Another program is changing %1. Try again.</source>
@@ -1729,6 +1737,14 @@ Shift+F1 or the context menu tells why.</source>
 </context>
 <context>
     <name>PasswordPrompt</name>
+    <message>
+        <source>No password can be read from the open file %1 (--password-fd): %2.</source>
+        <translation>開いているファイル %1（--password-fd）からパスワードを読み込めません（%2）。</translation>
+    </message>
+    <message>
+        <source>The open file %1 cannot be a document and hold the password (--password-fd).</source>
+        <translation>開いているファイル %1 は、文書とパスワード（--password-fd）の両方には使えません。</translation>
+    </message>
     <message>
         <source>Domain: </source>
         <translation>ドメイン: </translation>
@@ -2555,6 +2571,10 @@ Shift+F1 or the context menu tells why.</source>
 <context>
     <name>PrinterSource</name>
     <message>
+        <source>There are more settings saved for %1 than the %2 that can be used.</source>
+        <translation>%1 に保存された設定が、使用できる上限の %2 個を超えています。</translation>
+    </message>
+    <message>
         <source>The PPD of the queue %1 cannot be used. %2</source>
         <translation>キュー %1 の PPD は使用できません。%2</translation>
     </message>
@@ -2909,8 +2929,8 @@ Shift+F1 or the context menu tells why.</source>
         <translation>プリントサーバー %1 の応答が大きすぎます。</translation>
     </message>
     <message>
-        <source>What the print server %1 sends cannot be kept in the temporary folder: %2.</source>
-        <translation>プリントサーバー %1 から届くデータを一時フォルダーに保存できません（%2）。</translation>
+        <source>What the print server %1 sends cannot be kept in the temporary folder %2: %3.</source>
+        <translation>プリントサーバー %1 から届くデータを一時フォルダー %2 に保存できません（%3）。</translation>
     </message>
     <message>
         <source>Printing was cancelled.</source>

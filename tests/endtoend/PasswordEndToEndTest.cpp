@@ -189,6 +189,56 @@ TEST_F(SecretsOfAProgram, AreReadFromADescriptor)
     EXPECT_FALSE((right.output + right.errors + wrong.output + wrong.errors).contains(kSecret));
 }
 
+struct Unreadable
+{
+    const char *behaviour;
+    const char *redirection; ///< as the shell takes it
+    const char *sentence;
+};
+
+class SecretsThatCannotBeRead : public testing::TestWithParam<Unreadable>
+{};
+
+TEST_P(SecretsThatCannotBeRead, AreToldOfBeforeAnythingIsSent)
+{
+    QProcess process;
+    process.start(u"sh"_s,
+                  {u"-c"_s,
+                   u"exec \"$0\" --no-dialog -h 127.0.0.1:1 -d photo --password-fd 7 \"$1\" "_s +
+                       QLatin1String(GetParam().redirection),
+                   QStringLiteral(VELKARO_PROGRAM), u"letter.pdf"_s});
+    ASSERT_TRUE(process.waitForFinished(kLongestAnswer));
+    EXPECT_EQ(process.exitCode(), 2);
+    EXPECT_EQ(process.readAllStandardError().toStdString(), GetParam().sentence);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Table, SecretsThatCannotBeRead,
+    testing::Values(
+        Unreadable{"NothingIsOpen", "7<&-",
+                   "velkaro-print: No password can be read from the open file 7 (--password-fd): "
+                   "Bad file descriptor.\n"},
+        Unreadable{"AFolder", "7</",
+                   "velkaro-print: No password can be read from the open file 7 (--password-fd): "
+                   "Is a directory.\n"},
+        Unreadable{"OpenForWriting", "7>/dev/null",
+                   "velkaro-print: No password can be read from the open file 7 (--password-fd): "
+                   "Bad file descriptor.\n"},
+        Unreadable{"ADocument", "/dev/fd/7 7</dev/null",
+                   "velkaro-print: The open file 7 cannot be a document and hold the password "
+                   "(--password-fd).\n"}),
+    CaseName());
+
+TEST_F(SecretsOfAProgram, OfTooManyBytesAreNone)
+{
+    const ProgramRun run =
+        this->run(printingTo(m_front.address(), u"finish"_s), QString(1'000'000, u'x'));
+    EXPECT_EQ(run.status, 6);
+    EXPECT_EQ(run.errors,
+              u"velkaro-print: The print server %1 lets nobody print to finish without a "
+              "password.\n"_s.arg(m_front.address()));
+}
+
 TEST_F(SecretsOfAProgram, OfAPrinterReleaseTheJobThatIsWaitedFor)
 {
     const QStringList wait{u"--wait"_s, u"--timeout"_s, u"0"_s};

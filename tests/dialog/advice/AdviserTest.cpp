@@ -10,6 +10,8 @@
 #include <QtTest/QTest>
 #include <gtest/gtest.h>
 
+#include <sys/resource.h>
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -99,6 +101,19 @@ TEST_F(AdviserOnASession, CannotExplainWhenItsProcessDies)
     ASSERT_TRUE(QTest::qWaitFor([this] { return !m_answers.isEmpty(); }, kPatience));
     EXPECT_EQ(m_answers, QList{std::optional<Advice>()});
     EXPECT_TRUE(answerTo(kPhoto)); // by another process
+}
+
+TEST_F(AdviserOnASession, CanBeAskedAgainWhenThereWasNoRoomForItsProcess)
+{
+    rlimit usual{};
+    ASSERT_EQ(getrlimit(RLIMIT_NOFILE, &usual), 0);
+    const rlimit none{0, usual.rlim_max};
+    ASSERT_EQ(setrlimit(RLIMIT_NOFILE, &none), 0);
+    ask(kPhoto);
+    ASSERT_EQ(setrlimit(RLIMIT_NOFILE, &usual), 0);
+    EXPECT_TRUE(QTest::qWaitFor([this] { return !m_answers.isEmpty(); }, kPatience));
+    EXPECT_EQ(m_answers, QList{std::optional<Advice>()});
+    EXPECT_TRUE(answerTo(kPhoto));
 }
 
 TEST_F(AdviserOnASession, FollowsAnotherSessionFromItsBeginning)

@@ -1,4 +1,5 @@
 #include "dialog/cups/QueuePPD.h"
+#include "dialog/files/TemporaryFile.h"
 #include "tests/dialog/cups/ServerFixture.h"
 #include "tests/support/FileSizeLimit.h"
 #include "tests/support/QStringPrinting.h"
@@ -72,8 +73,8 @@ TEST_F(Server, SaysThatTheTemporaryFolderTakesNotAllOfAPPD)
     const auto queue = fetchQueuePPD(server, u"photo"_s, m_guard);
     EXPECT_EQ(queue.faultKind(), FaultKind::Refused);
     EXPECT_EQ(queue.sentence(),
-              u"What the print server %1 sends cannot be kept in the temporary folder: "
-              "File too large."_s.arg(server));
+              u"What the print server %1 sends cannot be kept in the temporary folder %2: "
+              "File too large."_s.arg(server, QString::fromLocal8Bit(temporaryFolder())));
 }
 
 } // namespace

@@ -1,6 +1,7 @@
 #include "dialog/host/PPDFile.h"
 #include "platform/ppd/PPDText.h"
 #include "tests/support/Files.h"
+#include "tests/support/PPDSource.h"
 #include "tests/support/SmallPrinter.h"
 
 #include <QtCore/QFile>
@@ -168,6 +169,22 @@ TEST(PPDFile, TextsAreComparedWhole)
     writeFile(other, smallPrinter().text() + "*% changed\n");
     EXPECT_TRUE(isSameText(*openPPD(one)->text, *openPPD(one)->text));
     EXPECT_FALSE(isSameText(*openPPD(one)->text, *openPPD(other)->text));
+}
+
+TEST(PPDFile, ChoicesThatNobodyCanAskForAreNoneOfThem)
+{
+    const QTemporaryDir folder;
+    const QString path = folder.filePath(u"the.ppd"_s);
+    writeFile(path, PPDSource().option("Bin", {"One", "/No name", "{x}/In braces", "Two"}).text());
+    const auto opened = openPPD(path);
+    ASSERT_TRUE(opened) << opened.sentence().toStdString();
+    const ppd_option_t *bin = findOption(opened->ppd.get(), u"Bin"_s);
+    ASSERT_TRUE(bin);
+    QStringList names;
+    for (int index = 0; index < bin->num_choices; ++index)
+        names += ppdName(bin->choices[index].choice);
+    EXPECT_EQ(names, QStringList({u"One"_s, u"Two"_s}));
+    EXPECT_EQ(markedChoice(opened->ppd.get(), u"Bin"_s), u"One"_s);
 }
 
 TEST(PPDFile, AMissingLineBreakAtTheEndIsNoCut)

@@ -123,9 +123,14 @@ INSTANTIATE_TEST_SUITE_P(
 TEST(JobFileHeader, AFileOfAnotherKindIsNoJob)
 {
     EXPECT_EQ(parseJobFileHeader(QByteArrayView("%PDF-1.4\n"), 9).flaw, JobFileFlaw::NoJob);
-    EXPECT_EQ(parseJobFileHeader(QByteArrayView("Velkaro-Print-Job: 12\n"), 22).flaw,
-              JobFileFlaw::NoJob);
+    EXPECT_EQ(parseJobFileHeader(QByteArrayView("Velkaro-Print"), 13).flaw, JobFileFlaw::NoJob);
     EXPECT_EQ(parseJobFileHeader(QByteArrayView(), 0).flaw, JobFileFlaw::NoJob);
+}
+
+TEST(JobFileHeader, OfAnotherVersionIsToldFromAnotherKind)
+{
+    for (const QByteArray line : {"Velkaro-Print-Job: 12\n", "Velkaro-Print-Job: 1\r\n"})
+        EXPECT_EQ(parseJobFileHeader(line, line.size()).flaw, JobFileFlaw::OtherVersion);
 }
 
 struct Told
@@ -152,6 +157,9 @@ INSTANTIATE_TEST_SUITE_P(
     Table, ToldFlaw,
     testing::Values(Told{"None", JobFileFlaw::None, ""},
                     Told{"NoJob", JobFileFlaw::NoJob, "the.job is no saved job."},
+                    Told{"OtherVersion", JobFileFlaw::OtherVersion,
+                         "The saved job the.job is damaged, or another version of Velkaro Print "
+                         "has written it."},
                     Told{"CutShort", JobFileFlaw::CutShort,
                          "The saved job the.job is cut short: its end is missing."},
                     Told{"Damaged", JobFileFlaw::Damaged, "The saved job the.job is damaged."},

@@ -235,4 +235,10 @@ TEST_F(JobFileAt, AnyOtherFileIsNoJob)
     EXPECT_EQ(readJobFile(file).sentence(), u"%1 is no saved job."_s.arg(path));
 }
 
+TEST_F(JobFileAt, OneOfAnotherVersionIsNotPrintedAsText)
+{
+    const QString path = write(u"later.job"_s, "Velkaro-Print-Job: 2\nTitle: x\n\n");
+    EXPECT_TRUE(isJobFile(openedDocuments({path}).front()));
+}
+
 } // namespace

@@ -172,9 +172,20 @@ TEST_F(Lpoptions, ThatAreNoFileAreLeftAlone)
     QDir().mkpath(m_folder.userFile());
     const Result<> saved = save(kGlossy, {{u"x"_s, u"1"_s}});
     EXPECT_EQ(saved.faultKind(), FaultKind::Output);
-    EXPECT_EQ(
-        saved.sentence(),
-        u"The saved settings in %1 cannot be read: it is no such file."_s.arg(m_folder.userFile()));
+    EXPECT_EQ(saved.sentence(),
+              u"The saved settings in %1 cannot be read: it is no ordinary file."_s.arg(
+                  m_folder.userFile()));
+}
+
+TEST_F(Lpoptions, WithAPipeInThePlaceOfTheLockAreLeftAlone)
+{
+    m_folder.writeUser("# kept\n");
+    const QString lock = m_folder.userFile() + u".lock"_s;
+    ASSERT_EQ(mkfifo(QFile::encodeName(lock).constData(), 0600), 0);
+    const Result<> saved = save(kGlossy, {{u"x"_s, u"1"_s}});
+    EXPECT_EQ(saved.sentence(),
+              u"The saved settings in %1 cannot be read: it is no ordinary file."_s.arg(lock));
+    EXPECT_EQ(m_folder.user(), "# kept\n");
 }
 
 TEST_F(Lpoptions, OfTooManySettingsAreRefused)

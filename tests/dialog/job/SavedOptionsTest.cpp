@@ -1,5 +1,6 @@
 #include "dialog/job/SavedOptions.h"
 #include "dialog/host/PPDFile.h"
+#include "dialog/job/SavedFiles.h"
 #include "dialog/job/SavedSettings.h"
 #include "platform/ppd/PPDText.h"
 #include "tests/built/BuiltFiles.h"
@@ -32,11 +33,11 @@ protected:
         qunsetenv("PRINTER");
     }
 
-    void writeSystem(const char *text) { write(u"etc"_s, text); }
-    void writeUser(const char *text) { write(u"home/.cups"_s, text); }
+    void writeSystem(const QByteArray &text) { write(u"etc"_s, text); }
+    void writeUser(const QByteArray &text) { write(u"home/.cups"_s, text); }
 
 private:
-    void write(const QString &folder, const char *text)
+    void write(const QString &folder, const QByteArray &text)
     {
         writeFile(m_folder.filePath(folder + u"/lpoptions"_s), text);
     }
@@ -59,13 +60,69 @@ TEST_F(SavedOptions, OfAnInstanceLieAboveThoseOfItsQueue)
     EXPECT_EQ(savedOptions({u"nobody"_s, {}}), QList<JobOption>());
 }
 
-TEST_F(SavedOptions, AreNoneInAPipeThatNobodyWritesTo)
+TEST_F(SavedOptions, OfALongLineAreThoseThatLibcupsReads)
 {
-    writeUser("");
-    const QByteArray file = qgetenv("HOME") + "/.cups/lpoptions";
-    ASSERT_EQ(unlink(file.constData()), 0);
-    ASSERT_EQ(mkfifo(file.constData(), 0600), 0);
+    const QByteArray padding(8192, 'y');
+    writeUser("Dest photo one=1 x=" + padding + " two=2\nDest photo three=3\n");
+    QStringList names;
+    for (const JobOption &option : savedOptions({u"photo"_s, {}}))
+        names += option.name;
+    EXPECT_EQ(names, QStringList({u"one"_s, u"x"_s, u"three"_s}));
+}
+
+struct UnreadableFile
+{
+    const char *behaviour;
+    void (*make)(const QByteArray &path);
+    const char *reason;
+};
+
+class SavedFile : public SavedOptions, public testing::WithParamInterface<UnreadableFile>
+{};
+
+TEST_P(SavedFile, ThatCannotBeReadIsToldOfAndHasNoSettings)
+{
+    writeUser("Dest photo/glossy x=1\n");
+    const QString path = lpoptionsFiles().constLast();
+    ASSERT_TRUE(QFile::remove(path));
+    GetParam().make(QFile::encodeName(path));
+    const QString sentence = u"The saved settings in %1 cannot be read: %2."_s.arg(
+        path, QLatin1String(GetParam().reason));
+    EXPECT_EQ(notesOnLpoptions(), QStringList(sentence));
     EXPECT_EQ(savedOptions({u"photo"_s, {}}), QList<JobOption>());
+    EXPECT_EQ(savedInstances(), QList<QueueName>());
+    EXPECT_EQ(checkInstance({u"photo"_s, u"glossy"_s}).sentence(), sentence);
+    EXPECT_TRUE(checkInstance({u"photo"_s, {}}));
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    All, SavedFile,
+    testing::Values(UnreadableFile{"APipeThatNobodyWritesTo",
+                                   [](const QByteArray &path) { mkfifo(path.constData(), 0600); },
+                                   "it is no ordinary file"},
+                    UnreadableFile{"AFolder",
+                                   [](const QByteArray &path) { mkdir(path.constData(), 0700); },
+                                   "it is no ordinary file"},
+                    UnreadableFile{"ALinkToNowhere",
+                                   [](const QByteArray &path) {
+                                       EXPECT_EQ(
+                                           symlink("/nonexistent/lpoptions", path.constData()), 0);
+                                   },
+                                   "it is no ordinary file"},
+                    UnreadableFile{"AFileWithoutEnd",
+                                   [](const QByteArray &path) {
+                                       writeFile(QFile::decodeName(path), "Dest photo x=1\n");
+                                       EXPECT_EQ(truncate(path.constData(), 100'000'000'000), 0);
+                                   },
+                                   "it has more than 4 MB"}),
+    CaseName());
+
+TEST_F(SavedOptions, AreWhatWasSaidLast)
+{
+    writeUser("Dest photo a=1 b=1 c=1\nDest Photo b=2\nDest photo/x c=3 a=4\n");
+    EXPECT_EQ(savedOptions({u"photo"_s, u"X"_s}),
+              (QList<JobOption>{{u"b"_s, u"2"_s}, {u"a"_s, u"4"_s}, {u"c"_s, u"3"_s}}));
+    EXPECT_TRUE(notesOnLpoptions().isEmpty());
 }
 
 TEST_F(SavedOptions, AreNoneWithoutFiles)
