@@ -1,6 +1,7 @@
 // Paints the pictures of README for which somebody must click: what the dialog tells after a pick,
 // why something is not there, and the ways to it. In the user's language, without a display.
-#include "dialog/program/Translations.h"
+#include "bench/support/EndWith.h"
+#include "bench/support/PictureProgram.h"
 #include "dialog/window/DialogWindow.h"
 #include "platform/toolkit/PopUpButton.h"
 #include "tests/built/BuiltFiles.h"
@@ -13,8 +14,6 @@
 #include <QtWidgets/QApplication>
 #include <QtWidgets/QMenu>
 
-#include <cstdio>
-#include <cstdlib>
 #include <functional>
 #include <memory>
 
@@ -24,13 +23,7 @@ namespace {
 
 constexpr int kMostRounds = 2000; // of 10 ms
 
-[[noreturn]] void endWith(const char *what)
-{
-    std::fprintf(stderr, "%s\n", what);
-    std::exit(1);
-}
-
-void waitUntil(const char *what, const std::function<bool()> &isSo)
+void waitUntil(const QString &what, const std::function<bool()> &isSo)
 {
     for (int round = 0; round < kMostRounds && !isSo(); ++round) {
         QApplication::processEvents(QEventLoop::AllEvents, 10);
@@ -52,7 +45,7 @@ std::unique_ptr<DialogWindow> opened(const QString &ppd)
     auto window = std::make_unique<DialogWindow>(wishes);
     window->show();
     window->start();
-    waitUntil("the printer is not opened",
+    waitUntil(u"the printer is not opened"_s,
               [&] { return window->state() == DialogWindow::State::Ready; });
     return window;
 }
@@ -61,7 +54,7 @@ template <typename Widget = QWidget> Widget *part(DialogWindow &window, const ch
 {
     auto *found = window.findChild<Widget *>(QLatin1String(name));
     if (!found)
-        endWith(name);
+        endWith(QLatin1String(name));
     return found;
 }
 
@@ -82,7 +75,7 @@ void paint(const DialogWindow &window, const QString &path)
             painter.drawPixmap(other->pos() - window.pos(), other->grab());
     painter.end();
     if (!picture.save(path))
-        endWith(qPrintable(path));
+        endWith(path);
 }
 
 void askOfTheDisabledBox(DialogWindow &window)
@@ -94,47 +87,47 @@ void askOfTheDisabledBox(DialogWindow &window)
     QApplication::processEvents();
 }
 
-void paintAdvice(const QString &pattern)
+void paintAdvice(const PictureProgram &program)
 {
     const auto window = opened(samplePPD(u"velkaro-px-t900"_s));
     pick(*window, "mediaTypePopup", u"Glossy"_s);
-    paint(*window, pattern.arg(u"undo"_s));
+    paint(*window, program.path(u"undo"_s));
     askOfTheDisabledBox(*window);
-    paint(*window, pattern.arg(u"whats-this"_s));
+    paint(*window, program.path(u"whats-this"_s));
     auto *menu = part<QMenu>(*window, "questionMenu");
     QAction *question = menu->actions().constLast();
     menu->close();
     question->trigger();
-    waitUntil("there is no answer",
+    waitUntil(u"there is no answer"_s,
               [&] { return window->findChild<QWidget *>(u"getItButton"_s) != nullptr; });
-    paint(*window, pattern.arg(u"why"_s));
+    paint(*window, program.path(u"why"_s));
     window->showPart(u"summary"_s);
     QApplication::processEvents();
-    paint(*window, pattern.arg(u"origins"_s));
+    paint(*window, program.path(u"origins"_s));
 }
 
-void paintList(const QString &pattern)
+void paintList(const PictureProgram &program)
 {
     const auto window = opened(samplePPD(u"velkaro-px-t900"_s));
     auto *popup = part<PopUpButton>(*window, "resolutionPopup");
     popup->showPopup();
     const auto line = [&] { return popup->findChild<QWidget *>(u"listAdvice"_s); };
-    waitUntil("there is no line under the list", [&] { return line() != nullptr; });
+    waitUntil(u"there is no line under the list"_s, [&] { return line() != nullptr; });
     const QString first = line()->accessibleName();
-    waitUntil("there is no answer", [&] { return line()->accessibleName() != first; });
-    paint(*window, pattern.arg(u"list"_s));
+    waitUntil(u"there is no answer"_s, [&] { return line()->accessibleName() != first; });
+    paint(*window, program.path(u"list"_s));
     popup->hidePopup();
 }
 
 /// The full sample printer, which moreover does not print both sides of transparencies.
-void paintRefusal(const QString &pattern)
+void paintRefusal(const PictureProgram &program)
 {
     const QTemporaryDir folder;
     const QString path = folder.filePath(u"clashing.ppd"_s);
     QFile::copy(samplePPD(u"velkaro-px-t900"_s), path);
     QFile file(path);
     if (!file.open(QIODevice::Append))
-        endWith("there is no printer");
+        endWith(u"there is no printer"_s);
     file.write("*UIConstraints: *Duplex DuplexTumble *VKMediaType Transparencies\n"
                "*UIConstraints: *VKMediaType Transparencies *Duplex DuplexTumble\n");
     file.close();
@@ -142,25 +135,18 @@ void paintRefusal(const QString &pattern)
     pick(*window, "mediaTypePopup", u"Transparencies"_s);
     window->showPart(u"setup"_s);
     pick(*window, "DuplexPopup", u"DuplexTumble"_s);
-    waitUntil("there is no remedy",
+    waitUntil(u"there is no remedy"_s,
               [&] { return window->findChild<QWidget *>(u"remedyButton"_s) != nullptr; });
-    paint(*window, pattern.arg(u"refusal"_s));
+    paint(*window, program.path(u"refusal"_s));
 }
 
 } // namespace
 
 int main(int argc, char **argv)
 {
-    if (argc != 3)
-        endWith("advice-pictures FOLDER LANGUAGE");
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    QApplication application(argc, argv);
-    QApplication::setStyle(u"Fusion"_s);
-    installTranslations();
-    const QString pattern =
-        QString::fromLocal8Bit(argv[1]) + u"/%1-"_s + QString::fromLocal8Bit(argv[2]) + u".png"_s;
-    paintAdvice(pattern);
-    paintList(pattern);
-    paintRefusal(pattern);
+    PictureProgram program(argc, argv);
+    paintAdvice(program);
+    paintList(program);
+    paintRefusal(program);
     return 0;
 }

@@ -1,6 +1,7 @@
 // What one event costs the thread of the window, in CPU time: the dearest one of each kind of use,
 // on an ordinary printer, on PPDs at their limits, and with a server full of printers. Without a
 // display; opening a window is not among the events.
+#include "bench/support/EndWith.h"
 #include "bench/support/Timing.h"
 #include "dialog/window/DialogWindow.h"
 #include "dialog/window/PrinterPopUp.h"
@@ -21,7 +22,6 @@
 #include <algorithm>
 #include <cmath>
 #include <cstdio>
-#include <cstdlib>
 #include <ctime>
 #include <functional>
 #include <memory>
@@ -77,12 +77,6 @@ private:
     bool m_isWithin = false;
     double m_dearest = 0;
 };
-
-[[noreturn]] void endWith(const QString &error)
-{
-    std::fprintf(stderr, "%s\n", qPrintable(error));
-    std::exit(1);
-}
 
 std::unique_ptr<DialogWindow> openedOn(const QString &ppd)
 {

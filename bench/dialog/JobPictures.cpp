@@ -1,8 +1,9 @@
 // Paints the pictures of README of the window that follows a job: real jobs on real queues, each of
 // which comes to another end. In the user's language, without a display.
+#include "bench/support/EndWith.h"
+#include "bench/support/PictureProgram.h"
 #include "dialog/cups/JobSubmission.h"
 #include "dialog/job/DocumentFile.h"
-#include "dialog/program/Translations.h"
 #include "dialog/window/JobWindow.h"
 #include "tests/built/BuiltFiles.h"
 #include "tests/printserver/PrintServer.h"
@@ -12,8 +13,6 @@
 #include <QtWidgets/QApplication>
 
 #include <array>
-#include <cstdio>
-#include <cstdlib>
 
 using namespace Qt::StringLiterals;
 
@@ -41,22 +40,17 @@ struct Ending
     const char *device;
     const char *picture;
     JobPhase phase;
-    const char *reason; ///< null: none
+    const char *reason;              ///< null: none
+    const char *heldUntil = nullptr; ///< likewise
 };
 
 constexpr std::array kEndings{
     Ending{"finish", "printed", JobPhase::Finished, nullptr},
-    Ending{"hold", "held", JobPhase::Held, nullptr},
+    Ending{"hold", "held", JobPhase::Held, nullptr, "indefinite"},
     Ending{"empty", "trouble", JobPhase::InTrouble, "The multi-purpose tray is empty"},
     Ending{"cancel", "cancelled", JobPhase::Cancelled, nullptr},
     Ending{"abort", "aborted", JobPhase::Aborted, "No route to the printer"},
 };
-
-[[noreturn]] void endWith(const char *what)
-{
-    std::fprintf(stderr, "%s\n", what);
-    std::exit(1);
-}
 
 int sentJob(const PrintServer &server, const QString &queue)
 {
@@ -74,8 +68,8 @@ void paint(const PrintServer &server, const QString &queue, const Ending &ending
            const QString &path)
 {
     const JobName job{queue, sentJob(server, queue), kPages};
-    const QString expected =
-        sentenceOf(job, {ending.phase, 0, QString::fromLatin1(ending.reason), {}});
+    const QString expected = sentenceOf(job, {ending.phase, 0, QString::fromLatin1(ending.reason),
+                                              QString::fromLatin1(ending.heldUntil)});
     JobWindow window(server.address(), job);
     window.show();
     QElapsedTimer clock;
@@ -83,37 +77,29 @@ void paint(const PrintServer &server, const QString &queue, const Ending &ending
     while (window.sentence() != expected && clock.elapsed() < kLongestWait)
         QApplication::processEvents(QEventLoop::WaitForMoreEvents, 100);
     if (window.sentence() != expected)
-        endWith(qPrintable(window.sentence()));
+        endWith(window.sentence());
     QApplication::processEvents();
     if (!window.grab().save(path))
-        endWith(qPrintable(path));
+        endWith(path);
 }
 
 } // namespace
 
 int main(int argc, char **argv)
 {
-    if (argc != 3)
-        endWith("job-pictures FOLDER LANGUAGE");
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    QApplication application(argc, argv);
-    QApplication::setStyle(u"Fusion"_s);
+    const PictureProgram program(argc, argv);
     QApplication::setQuitOnLastWindowClosed(false);
-    installTranslations();
     PrintServer server;
     if (!server.fault().isNull() || !server.addBackend(u"probe"_s, kDevice))
-        endWith("there is no print server");
+        endWith(u"there is no print server"_s);
     int number = 0;
     for (const Ending &ending : kEndings) {
         const QString queue = u"Photo"_s + (++number == 1 ? QString() : QString::number(number));
         const QString device = u"probe:/"_s + QLatin1String(ending.device);
         if (!server.lpadmin({u"-p"_s, queue, u"-E"_s, u"-v"_s, device, u"-o"_s,
                              u"printer-error-policy=abort-job"_s}))
-            endWith("there is no queue");
-        paint(server, queue, ending,
-              QString::fromLocal8Bit(argv[1]) +
-                  u"/following-%1-%2.png"_s.arg(QLatin1String(ending.picture),
-                                                QString::fromLocal8Bit(argv[2])));
+            endWith(u"there is no queue"_s);
+        paint(server, queue, ending, program.path(u"following-"_s + QLatin1String(ending.picture)));
     }
     return 0;
 }

@@ -3,6 +3,7 @@
 // shows the same options of the same queue. Both in this process, on a real X server.
 #include "bench/dialog/QtDialog.h"
 #include "bench/support/DialogStage.h"
+#include "bench/support/EndWith.h"
 #include "bench/support/Timing.h"
 #include "dialog/window/DialogWindow.h"
 #include "platform/ppd/PPDText.h"
@@ -12,7 +13,6 @@
 #include <QtWidgets/QApplication>
 
 #include <cstdio>
-#include <cstdlib>
 
 using namespace Qt::StringLiterals;
 
@@ -37,12 +37,6 @@ constexpr Pick kOptions[] = {
     {"VKMonoColor", "monoColorPopup", "Color", "Mono"},
     {"VKInputSlot", "paperFeedPopup", "Tray1", "Tray2"},
 };
-
-[[noreturn]] void endWith(const QString &reason)
-{
-    std::fprintf(stderr, "%s\n", qPrintable(reason));
-    std::exit(1);
-}
 
 // Until nothing is left: layouts, what was put off, then painting.
 void settle()

@@ -1,5 +1,6 @@
 #include "bench/ppd/LimitRows.h"
 
+#include "bench/support/EndWith.h"
 #include "bench/support/Timing.h"
 #include "dialog/host/HostSession.h"
 #include "tests/built/BuiltFiles.h"
@@ -10,19 +11,12 @@
 
 #include <algorithm>
 #include <cstdio>
-#include <cstdlib>
 #include <ctime>
 
 namespace {
 
 constexpr int kTries = 3;
 constexpr double kMostMilliseconds = 500;
-
-[[noreturn]] void endWith(const QString &error)
-{
-    std::fprintf(stderr, "%s\n", qPrintable(error));
-    std::exit(1);
-}
 
 double processorMilliseconds()
 {

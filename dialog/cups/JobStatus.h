@@ -4,6 +4,8 @@
 
 #include <QtCore/QString>
 
+#include <array>
+
 /// Where a job stands at its server, as people tell it.
 enum class JobPhase {
     Waiting,       ///< for its turn
@@ -19,6 +21,12 @@ enum class JobPhase {
     Aborted, ///< the server gave it up
     Unknown, ///< the server has no record of it any more
 };
+
+inline constexpr std::array kJobPhases{
+    JobPhase::Waiting,       JobPhase::Held,     JobPhase::HeldToRetry,
+    JobPhase::NeedsPassword, JobPhase::Printing, JobPhase::InTrouble,
+    JobPhase::Stopped,       JobPhase::Finished, JobPhase::FinishedWithErrors,
+    JobPhase::Cancelled,     JobPhase::Aborted,  JobPhase::Unknown};
 
 /// Whether nothing more will become of the job.
 bool isEnd(JobPhase phase);

@@ -64,8 +64,9 @@ JobWindow::JobWindow(const QString &server, JobName job, QWidget *parent)
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(m_sentence, 1);
     layout->addWidget(m_progress);
-    take({});
+    showActions(widestPhase());
     layOutSheet(*this, content, m_buttons);
+    take({});
     setPasswordAsker(newSheetAsker(*this));
     m_follower.start();
 }
@@ -91,10 +92,27 @@ void JobWindow::take(const JobStatus &status)
 {
     tell(sentenceOf(m_job, status));
     showProgress(status);
+    showActions(status.phase);
+}
+
+void JobWindow::showActions(JobPhase phase)
+{
     for (const auto &[action, button] : m_actions)
-        button->setVisible(isOffered(action, status.phase));
-    if (isVisible())
-        growSheet(*this);
+        button->setVisible(isOffered(action, phase));
+}
+
+/// The one with the most room for buttons: they stay in one line whatever becomes of the job.
+JobPhase JobWindow::widestPhase()
+{
+    JobPhase widest = JobPhase::Waiting;
+    int most = 0;
+    for (const JobPhase phase : kJobPhases) {
+        showActions(phase);
+        const int width = m_buttons->layout()->sizeHint().width();
+        if (width > std::exchange(most, std::max(most, width)))
+            widest = phase;
+    }
+    return widest;
 }
 
 void JobWindow::tell(const QString &sentence)

@@ -33,6 +33,8 @@ private:
     void take(const JobStatus &status);
     void tell(const QString &sentence);
     void showProgress(const JobStatus &status);
+    void showActions(JobPhase phase);
+    JobPhase widestPhase();
 
     const JobName m_job;
     QLabel *m_sentence;

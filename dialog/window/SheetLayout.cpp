@@ -48,15 +48,3 @@ void layOutSheet(QDialog &sheet, QWidget *content, QWidget *buttons)
         box->setOrientation(Qt::Vertical);
     fitToContent(sheet, *body);
 }
-
-void growSheet(QDialog &sheet)
-{
-    const auto *body = sheet.findChild<ScrolledBody *>();
-    QLayout *column = sheet.layout();
-    column->invalidate(); // what has come tells it later
-    column->activate();
-    const int missing = heightOfContent(*body->widget(), body->width()) - body->height();
-    const int most = sheet.screen()->availableSize().height();
-    if (missing > 0 && sheet.height() < most)
-        sheet.resize(sheet.width(), std::min(sheet.height() + missing, most));
-}

@@ -8,7 +8,3 @@ class QWidget;
 /// buttons of a button box stand one above the other. For a window that has everything in it, and
 /// no layout.
 void layOutSheet(QDialog &sheet, QWidget *content, QWidget *buttons);
-
-/// Gives such a window the height that it lacks after something in it has come or has grown. It
-/// never becomes smaller.
-void growSheet(QDialog &sheet);

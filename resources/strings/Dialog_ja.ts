@@ -1147,7 +1147,7 @@ Shift+F1 or the context menu tells why.</source>
     </message>
     <message>
         <source>Job %1 on %2 is held until somebody releases it.</source>
-        <translation>%2 のジョブ %1 は保留されています。保留を解除すると印刷されます。</translation>
+        <translation>%2 のジョブ %1 は、解除されるまで保留されます。</translation>
     </message>
     <message>
         <source>Job %1 on %2 is held. %3: %4.</source>

@@ -154,6 +154,35 @@ INSTANTIATE_TEST_SUITE_P(Sheets, NameOnAScreen,
                                           testing::Values("de", "en", "fr", "ja")),
                          [](const auto &look) { return std::string(std::get<1>(look.param)); });
 
+class JobWindowIn : public testing::TestWithParam<const char *>
+{};
+
+TEST_P(JobWindowIn, HasRoomForItsButtonsInOneLineWhateverBecomesOfTheJob)
+{
+    InLanguage language;
+    language.use(QLatin1String(GetParam()));
+    static const QHash<QString, JobAction> actions{
+        {u"holdButton"_s, JobAction::Hold},
+        {u"releaseButton"_s, JobAction::Release},
+        {u"restartButton"_s, JobAction::Restart},
+        {u"authenticateButton"_s, JobAction::Authenticate},
+        {u"cancelJobButton"_s, JobAction::Cancel}};
+    JobWindow window(u"localhost:1"_s, {u"Photo"_s, 7});
+    const QMargins margins = window.layout()->contentsMargins();
+    for (const JobPhase phase : kJobPhases) {
+        int width = margins.left() + margins.right() - window.layout()->spacing();
+        for (const auto *button : window.findChildren<QPushButton *>()) {
+            const auto action = actions.constFind(button->objectName());
+            if (action == actions.constEnd() || isOffered(*action, phase))
+                width += button->sizeHint().width() + window.layout()->spacing();
+        }
+        EXPECT_GE(window.width(), width) << static_cast<int>(phase);
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(Languages, JobWindowIn, testing::Values("de", "en", "fr", "ja"),
+                         [](const auto &language) { return std::string(language.param); });
+
 INSTANTIATE_TEST_SUITE_P(Sheets, SheetOnAScreen,
                          testing::Combine(testing::ValuesIn(kSheets),
                                           testing::Values("de", "en", "fr", "ja")),
