@@ -211,8 +211,12 @@ std::optional<QStringList> HostSession::twoSidedPapers() const
 QVariantMap HostSession::alertMemory() const
 {
     const QString domain = m_plugIn.bundle ? m_plugIn.bundle->bundleIdentifier() : QString();
-    return domain.isNull() ? QVariantMap()
-                           : UserDefaults::standardUserDefaults().persistentDomainForName(domain);
+    if (domain.isNull())
+        return {};
+    QVariantMap memory = UserDefaults::standardUserDefaults().persistentDomainForName(domain);
+    for (QVariant &isShown : memory)
+        isShown = isShown.toBool(); // what another run has written is read back as text
+    return memory;
 }
 
 const void *HostSession::notificationObject() const

@@ -154,7 +154,8 @@ public:
     /// The standard attributes that say the same as choices of the printer, as the plug-in says.
     const QList<AttributeRule> &attributeRules() const { return m_plugIn.attributeRules; }
 
-    /// What the user asked the plug-in's alerts to remember.
+    /// Which of the plug-in's alerts the user wants to see, yes or no; those that were never shown
+    /// are missing.
     QVariantMap alertMemory() const;
 
     /// The object of the session's notifications; an address to compare with.

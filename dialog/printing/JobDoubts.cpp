@@ -91,9 +91,9 @@ QStringList notesOnLayout(const PrintJob &job)
         return {};
     QStringList notes;
     if (!layout.pagesPerSheet.isEmpty() && layout.pagesPerSheet != "2"_L1)
-        notes += QCoreApplication::translate(
-                     "JobDoubts", "A booklet has two pages on a side: number-up=%1 does nothing.")
-                     .arg(layout.pagesPerSheet);
+        notes +=
+            QCoreApplication::translate("JobDoubts", "A booklet has two pages on a side, not %1.")
+                .arg(layout.pagesPerSheet);
     if (job.session() && findOption(job.ppd(), u"Duplex"_s) && !isTwoSided(job))
         notes += QCoreApplication::translate(
             "JobDoubts", "A booklet needs both sides of the paper; this job is printed on one.");

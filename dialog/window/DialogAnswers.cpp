@@ -91,7 +91,7 @@ void DialogWindow::tellOutcome(const EventOutcome &event, const PPDMark &lost)
 /// What is not as it is shown, or goes with nothing else, and what the plug-in advises.
 DialogWindow::Notice DialogWindow::doubtsToTell(const SettingState &state)
 {
-    const QStringList doubts = doubtsOf(job(), state) + printerDoubts();
+    const QStringList doubts = doubtsOf(job(), state) + notesOnLayout(job()) + printerDoubts();
     Notice notice{doubts.isEmpty() ? NoticeBar::Kind::Information : NoticeBar::Kind::Warning, {}};
     QStringList sentences = doubts;
     for (const JobAdvice &advice : adviceFor(job())) {

@@ -135,14 +135,20 @@ void DialogWindow::takePrinter(const Result<FoundPrinter> &found)
 /// The printer's name in the header, and its parts.
 void DialogWindow::showPrinter()
 {
+    showName();
+    buildParts();
+    m_header->reload();
+}
+
+/// That of a queue has the preset in it.
+void DialogWindow::showName()
+{
     const PrinterSource &source = job().source();
     QString title;
     if (!source.ppdPath.isNull())
         title =
             job().session() ? ppdText(job().ppd()->nickname) : QFileInfo(source.ppdPath).fileName();
     m_header->printers()->setCurrent(source.queue, title);
-    buildParts();
-    m_header->reload();
 }
 
 /// What was wished, on the first printer that opens.

@@ -100,6 +100,7 @@ Result<> DialogWindow::exchangeSession(Result<> (SessionUndo::*way)())
 /// What the dialog's own parts show of the job.
 void DialogWindow::showSettled()
 {
+    showName();
     m_header->reload();
     m_presets->show(m_state == State::Ready);
     m_tabs->pageSetup()->reload();

@@ -153,6 +153,7 @@ private:
     static QString waitFor(const PrinterSource &source);
     void takePrinter(const Result<FoundPrinter> &found);
     void showPrinter();
+    void showName();
     void makeRequestedSettings();
     void endWithoutPanel();
     Notice standing();

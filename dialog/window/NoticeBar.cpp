@@ -9,6 +9,7 @@
 #include "platform/toolkit/PlainText.h"
 
 #include <QtCore/QEvent>
+#include <QtWidgets/QApplication>
 #include <QtWidgets/QGridLayout>
 #include <QtWidgets/QHBoxLayout>
 #include <QtWidgets/QMenu>
@@ -125,6 +126,8 @@ void NoticeBar::showOffers(const QList<NoticeOffer> &offers)
 /// One of the former buttons may be in the midst of its click: until it goes it is nobody.
 void NoticeBar::exchangeButtons()
 {
+    const auto *focused = QApplication::focusWidget();
+    const bool hasFocus = focused && m_offers->isAncestorOf(focused);
     for (QPushButton *button : std::exchange(m_buttons, {})) {
         button->hide();
         button->setObjectName(QString());
@@ -138,6 +141,8 @@ void NoticeBar::exchangeButtons()
     }
     m_offers->setVisible(!m_offered.isEmpty());
     arrange();
+    if (hasFocus && !m_buttons.isEmpty())
+        m_buttons.constFirst()->setFocus(); // else it went to whatever comes next
 }
 
 void NoticeBar::resizeEvent(QResizeEvent *event)

@@ -136,8 +136,13 @@ void PaperRows::showCustomSize(const std::optional<PMPaper> &paper)
 {
     m_customSize->setVisible(paper.has_value());
     m_ownSize->setVisible(paper.has_value());
-    if (paper)
-        m_ownSize->setKept(nameOfSheet(), m_customSize->isAcceptable());
+    if (!paper)
+        return;
+    // While somebody types, the sheet is what stands in the fields.
+    const PMPaper typed = customPaper(m_customSize->paperWidth(), m_customSize->paperHeight());
+    if (typed.name != paper->name)
+        m_customSize->setSize(paper->width, paper->height);
+    m_ownSize->setKept(nameOfSheet(), m_customSize->isAcceptable());
 }
 
 void PaperRows::pickRow()

@@ -67,4 +67,13 @@ void PresetNameDialog::judge()
     setLabelText(m_validation, fault.isNull() && isTaken
                                    ? tr("This replaces the preset of the same name.")
                                    : fault);
+    makeRoom();
+}
+
+/// What is told while somebody types can need more lines than what was told before.
+void PresetNameDialog::makeRoom()
+{
+    const int wanted = layout()->totalHeightForWidth(width());
+    if (isVisible() && wanted > height())
+        resize(width(), wanted);
 }

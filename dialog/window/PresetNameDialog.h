@@ -22,6 +22,7 @@ public:
 
 private:
     void judge();
+    void makeRoom();
 
     const QStringList m_taken;
     const bool m_mayReplace;

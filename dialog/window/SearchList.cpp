@@ -79,7 +79,9 @@ void SearchList::openAt(const QWidget &anchor, int row, const QString &typed)
     show();
     m_list->scrollTo(m_list->currentIndex(), QAbstractItemView::PositionAtCenter);
     m_words->setFocus(Qt::PopupFocusReason);
-    m_words->insert(typed);
+    // Nothing would count as another search, which goes to the first row.
+    if (!typed.isEmpty())
+        m_words->insert(typed);
 }
 
 /// The first row that can be picked is the one that Return picks.

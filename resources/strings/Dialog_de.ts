@@ -700,8 +700,8 @@ Umschalt+F1 oder das Kontextmenü sagt, warum.</translation>
 <context>
     <name>JobDoubts</name>
     <message>
-        <source>A booklet has two pages on a side: number-up=%1 does nothing.</source>
-        <translation>Eine Broschüre hat zwei Seiten auf jeder Blattseite: number-up=%1 bewirkt nichts.</translation>
+        <source>A booklet has two pages on a side, not %1.</source>
+        <translation>Eine Broschüre hat zwei Seiten auf jeder Blattseite, nicht %1.</translation>
     </message>
     <message>
         <source>A booklet needs both sides of the paper; this job is printed on one.</source>

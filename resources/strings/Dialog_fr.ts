@@ -700,8 +700,8 @@ Maj+F1 ou le menu contextuel dit pourquoi.</translation>
 <context>
     <name>JobDoubts</name>
     <message>
-        <source>A booklet has two pages on a side: number-up=%1 does nothing.</source>
-        <translation>Un livret a deux pages par côté : number-up=%1 est sans effet.</translation>
+        <source>A booklet has two pages on a side, not %1.</source>
+        <translation>Un livret a deux pages par côté, et non %1.</translation>
     </message>
     <message>
         <source>A booklet needs both sides of the paper; this job is printed on one.</source>

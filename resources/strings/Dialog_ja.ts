@@ -700,8 +700,8 @@ Shift+F1 or the context menu tells why.</source>
 <context>
     <name>JobDoubts</name>
     <message>
-        <source>A booklet has two pages on a side: number-up=%1 does nothing.</source>
-        <translation>小冊子は片面に 2 ページです。number-up=%1 は使われません。</translation>
+        <source>A booklet has two pages on a side, not %1.</source>
+        <translation>小冊子は片面に %1 ページではなく 2 ページです。</translation>
     </message>
     <message>
         <source>A booklet needs both sides of the paper; this job is printed on one.</source>

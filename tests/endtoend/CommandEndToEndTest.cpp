@@ -191,7 +191,7 @@ TEST_F(Command, ABookletThatCannotBeAsItWasAskedForIsTold)
     const ProgramRun run = print({u"-o"_s, u"booklet=on number-up=4"_s});
     EXPECT_EQ(run.status, 0);
     EXPECT_EQ(run.errors,
-              u"velkaro-print: A booklet has two pages on a side: number-up=4 does nothing.\n"
+              u"velkaro-print: A booklet has two pages on a side, not 4.\n"
               "velkaro-print: A booklet needs both sides of the paper; this job is printed on "
               "one.\n"_s);
 }

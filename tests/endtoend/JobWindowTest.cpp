@@ -8,6 +8,7 @@
 #include "tests/support/QStringPrinting.h"
 
 #include <QtTest/QTest>
+#include <QtWidgets/QLabel>
 #include <QtWidgets/QProgressBar>
 #include <QtWidgets/QPushButton>
 
@@ -137,6 +138,25 @@ TEST_F(FollowingWindow, FillsItsBarWhenTheJobIsPrinted)
     EXPECT_EQ(bar->value(), bar->maximum());
     EXPECT_GT(bar->maximum(), 0);
     EXPECT_FALSE(bar->isEnabled());
+}
+
+TEST_F(FollowingWindow, HasRoomForTheButtonsThatComeLater)
+{
+    open(u"password"_s);
+    const auto *enter = m_window->findChild<QPushButton *>(u"authenticateButton"_s);
+    ASSERT_TRUE(QTest::qWaitFor([&] { return enter->isVisible(); }, kLongestChange));
+    const auto *bar = m_window->findChild<QProgressBar *>();
+    const auto *sentence = m_window->findChild<QLabel *>(u"jobSentence"_s);
+    EXPECT_TRUE(QTest::qWaitFor(
+        [&] {
+            return bar->visibleRegion().boundingRect() == bar->rect() &&
+                   sentence->visibleRegion().boundingRect() == sentence->rect();
+        },
+        kLongestChange));
+    for (const auto *button : m_window->findChildren<QPushButton *>())
+        EXPECT_TRUE(!button->isVisible() ||
+                    button->visibleRegion().boundingRect() == button->rect())
+            << button->objectName().toStdString();
 }
 
 TEST_F(FollowingWindow, IsForTheJobThatADialogHasLeft)

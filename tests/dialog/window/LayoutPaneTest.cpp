@@ -141,6 +141,20 @@ TEST_F(LayoutPart, LetsABookletHaveItsOwnOrder)
     EXPECT_FALSE(part<QWidget>("number-up-layoutPopup")->isEnabled());
 }
 
+TEST_F(LayoutPart, TellsThatABookletNeedsBothSides)
+{
+    openPart();
+    pick("number-upPopup", u"4"_s);
+    EXPECT_EQ(notice(), QString());
+    pick("bookletPopup", u"on"_s);
+    EXPECT_EQ(notice(), u"A booklet has two pages on a side, not 4. A booklet needs both sides of "
+                        "the paper; this job is printed on one."_s);
+    pick("DuplexPopup", u"DuplexTumble"_s);
+    EXPECT_EQ(notice(), u"A booklet has two pages on a side, not 4."_s);
+    pick("bookletPopup", u"off"_s);
+    EXPECT_EQ(notice(), QString());
+}
+
 TEST_F(LayoutPart, DoesNotPrintWithAnAddressThatIsNone)
 {
     openPart();

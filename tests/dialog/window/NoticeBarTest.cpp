@@ -140,6 +140,32 @@ TEST(NoticeBar, OffersWhatMayHelpAsAButton)
     EXPECT_EQ(button(), nullptr);
 }
 
+TEST(NoticeBar, KeepsTheFocusWhenItsOffersChange)
+{
+    QWidget window;
+    auto *layout = new QVBoxLayout(&window);
+    auto *bar = new NoticeBar(&window);
+    layout->addWidget(bar);
+    auto *other = new QPushButton(u"Help"_s, &window);
+    layout->addWidget(other);
+    window.show();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
+    const auto offerUndo = [&] {
+        bar->tell(NoticeBar::Kind::Information, u"Done."_s, {{u"undoButton"_s, u"Undo"_s, [] {}}});
+    };
+    bar->tell(NoticeBar::Kind::Information, u"Why."_s,
+              {{u"getItButton"_s, u"Get It"_s, offerUndo}});
+    auto *getIt = bar->findChild<QPushButton *>(u"getItButton"_s);
+    getIt->setFocus();
+    QTest::keyClick(getIt, Qt::Key_Space);
+    EXPECT_EQ(window.focusWidget(), bar->findChild<QPushButton *>(u"undoButton"_s));
+
+    other->setFocus();
+    bar->tell(NoticeBar::Kind::Information, u"Why."_s,
+              {{u"getItButton"_s, u"Get It"_s, offerUndo}});
+    EXPECT_EQ(window.focusWidget(), other);
+}
+
 TEST(NoticeBar, KeepsTheButtonOfAnOfferThatLooksAlikeAndTakesTheNewestOne)
 {
     NoticeBar bar;

@@ -1,3 +1,4 @@
+#include "dialog/job/PaperMemory.h"
 #include "dialog/window/PageSetupPane.h"
 #include "platform/foundation/NotificationCenter.h"
 #include "platform/toolkit/KeyWindow.h"
@@ -166,6 +167,41 @@ TEST_F(Window, KeepsSizesOfTheUsersOwnByTheirNames)
     EXPECT_EQ(papers->selectedObject(), u"Custom"_s);
     EXPECT_EQ(papers->indexOfTitle(u"Menu"_s), -1);
     EXPECT_EQ(m_window->job().paper()->name, paper);
+}
+
+TEST_F(Window, OpensTheListOfPapersAtTheUsersOwnSize)
+{
+    open();
+    part<QTabWidget>("parts")->setCurrentIndex(0);
+    auto *papers = part<PopUpButton>("paperPopup");
+    papers->setFocus();
+    papers->showPopup();
+    QTest::keyClicks(part<QLineEdit>("searchField"), u"custom"_s);
+    QTest::keyClick(part<QLineEdit>("searchField"), Qt::Key_Return);
+    part<QDoubleSpinBox>("customWidth")->setValue(100);
+    QTest::keyClicks(part<QLineEdit>("sizeNameField"), u"Card"_s);
+    click("keepSizeButton");
+    papers->showPopup();
+    EXPECT_EQ(part<QListView>("searchRows")->currentIndex().data().toString(), u"Card"_s);
+    papers->hidePopup();
+    removeOwnSize(u"Card"_s);
+}
+
+TEST_F(Window, ShowsTheSizeOfTheUsersOwnThatItStartsWith)
+{
+    m_line.paper = u"Custom.100x150mm"_s;
+    open();
+    EXPECT_DOUBLE_EQ(part<QDoubleSpinBox>("customWidth")->value(), 100);
+    EXPECT_DOUBLE_EQ(part<QDoubleSpinBox>("customHeight")->value(), 150);
+    EXPECT_EQ(part<QLabel>("customWidthValidation")->text(), QString());
+    part<QTabWidget>("parts")->setCurrentIndex(0);
+    EXPECT_TRUE(part<QAbstractButton>("printButton")->isEnabled());
+    pick("scalingPopup", u"fill"_s);
+    EXPECT_TRUE(part<QAbstractButton>("printButton")->isEnabled());
+    QTest::keySequence(m_window.get(), QKeySequence::Undo);
+    EXPECT_TRUE(part<QAbstractButton>("printButton")->isEnabled());
+    EXPECT_DOUBLE_EQ(part<QDoubleSpinBox>("customHeight")->value(), 150);
+    EXPECT_EQ(m_window->job().paper()->name, u"Custom.283.46x425.2"_s);
 }
 
 TEST_F(Window, SaysWhatTheScalingDoesOnThePaperThatIsChosen)

@@ -139,15 +139,19 @@ TEST_F(Presets, AreStepsThatCanBeUndone)
         QCoreApplication::processEvents();
         return QStringList{current(), marked(u"VKMediaType"_s), marked(u"VKResolution"_s)};
     };
+    const auto *printer = part<PopUpButton>("printerPopup");
     constexpr auto kUndo = Qt::ControlModifier;
     constexpr auto kRedo = Qt::ControlModifier | Qt::ShiftModifier;
     const QStringList glossy{u"warm"_s, u"Glossy"_s, u"Photo"_s};
     const QStringList fast{u"Printer's Defaults"_s, u"Plain"_s, u"PlainFast"_s};
     EXPECT_EQ(press(kUndo), glossy);
+    EXPECT_EQ(printer->selectedObject(), u"photo/warm"_s);
     EXPECT_EQ(press(kUndo), fast);
+    EXPECT_EQ(printer->selectedObject(), u"photo"_s);
     EXPECT_EQ(press(kUndo), (QStringList{u"Printer's Defaults"_s, u"Plain"_s, u"PlainNormal"_s}));
     EXPECT_EQ(press(kRedo), fast);
     EXPECT_EQ(press(kRedo), glossy);
+    EXPECT_EQ(printer->selectedObject(), u"photo/warm"_s);
     EXPECT_EQ(part<PopUpButton>("mediaTypePopup")->selectedObject(), u"Glossy"_s);
 }
 

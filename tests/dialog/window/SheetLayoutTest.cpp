@@ -12,6 +12,7 @@
 
 #include <QtGui/QScreen>
 #include <QtWidgets/QApplication>
+#include <QtWidgets/QLineEdit>
 #include <QtWidgets/QListWidget>
 #include <QtWidgets/QPushButton>
 #include <QtWidgets/QScrollBar>
@@ -131,6 +132,27 @@ TEST_P(SheetOnAScreen, IsWholeAndNoLargerThanIt)
     expectWhole(*sheet);
     EXPECT_EQ(sheet->size(), kSmallestScreen);
 }
+
+/// A word that comes while somebody types takes its room when it comes.
+class NameOnAScreen : public SheetOnAScreen
+{};
+
+TEST_P(NameOnAScreen, TellsAllOfWhatIsWrongWithAName)
+{
+    const std::unique_ptr<QDialog> sheet(std::get<0>(GetParam()).make(*m_window));
+    sheet->show();
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(sheet.get()));
+    auto *word = sheet->findChild<QLabel *>(u"presetNameValidation"_s);
+    const QString before = word->text();
+    QTest::keyClicks(sheet->findChild<QLineEdit *>(u"presetName"_s), u"my photo"_s);
+    EXPECT_GT(word->text().size(), before.size());
+    expectWhole(*sheet);
+}
+
+INSTANTIATE_TEST_SUITE_P(Sheets, NameOnAScreen,
+                         testing::Combine(testing::Values(SheetLook{"PresetName", newPresetName}),
+                                          testing::Values("de", "en", "fr", "ja")),
+                         [](const auto &look) { return std::string(std::get<1>(look.param)); });
 
 class JobWindowIn : public testing::TestWithParam<const char *>
 {};

@@ -1,4 +1,5 @@
 // Why a choice is not to be had, asked in the dialog, and the ways to it.
+#include "platform/foundation/UserDefaults.h"
 #include "tests/dialog/window/UndoFixture.h"
 #include "tests/support/AlertAnswers.h"
 #include "tests/support/ClashingPPD.h"
@@ -62,6 +63,45 @@ protected:
             kTimeout);
     }
 };
+
+/// What another run of the program has left in the user's files.
+class RememberedAlerts
+{
+public:
+    explicit RememberedAlerts(const QByteArray &lines)
+    {
+        UserDefaults::standardUserDefaults().setFolder(m_folder.path());
+        writeFile(m_folder.filePath(u"com.velkaro.print.pde.ini"_s), "[General]\n" + lines);
+    }
+    ~RememberedAlerts() { UserDefaults::standardUserDefaults() = m_former; }
+
+private:
+    const UserDefaults m_former = UserDefaults::standardUserDefaults();
+    QTemporaryDir m_folder;
+};
+
+TEST_F(WindowAdvice, TellsWhyAfterAnAlertWasAnsweredInAnotherRun)
+{
+    const RememberedAlerts alerts("Best%20Alert=false\nHighest%20Alert=true\nOdd=maybe\n");
+    open();
+    EXPECT_EQ(
+        m_window->job().session()->alertMemory(),
+        (QVariantMap{{u"Best Alert"_s, false}, {u"Highest Alert"_s, true}, {u"Odd"_s, true}}));
+    openMenu(part<QWidget>("resolutionPopup"));
+    questions(u"Why is there no \"Photo\"?"_s);
+    ASSERT_TRUE(waitForOffer("getItButton")) << notice().toStdString();
+    EXPECT_TRUE(notice().startsWith(u"Photo is not there for Plain Paper. It is there for"_s))
+        << notice().toStdString();
+}
+
+TEST_F(WindowAdvice, IsRecordedSoThatItIsReplayedAfterAnAlertWasAnsweredInAnotherRun)
+{
+    const RememberedAlerts alerts("Best%20Alert=false\n");
+    openRecorded();
+    ASSERT_TRUE(finishRecording());
+    EXPECT_TRUE(readFile(m_line.record).contains(R"("alerts":{"Best Alert":false})"))
+        << readFile(m_line.record).toStdString();
+}
 
 TEST_F(WindowAdvice, TellsWhyAChoiceIsNotThereAndGetsItInOneStep)
 {
