@@ -10,6 +10,9 @@
 
 namespace {
 
+// Bytes, as IPP has it. A server cuts a longer path, and answers with some page of its own.
+constexpr qsizetype kLongestQueueName = 255;
+
 // libcups' own way (cupsGetPPD3) takes the file of the system's server for any server on this
 // machine, and asks one request more.
 
@@ -67,6 +70,9 @@ QString QueuePPD::path() const
 Result<QueuePPD> fetchQueuePPD(const QString &server, const QString &queue, CallGuard &guard)
 {
     ServerConnection connection(server, guard);
+    if (queue.toUtf8().size() > kLongestQueueName)
+        return faultOf({Kind::HttpStatus, HTTP_STATUS_NOT_FOUND, {}, false},
+                       connection.serverName(), shownServerText(queue));
     const auto kept = std::make_shared<const FileDescriptor>(unnamedTemporaryFile());
     QFile file;
     if (!kept->isOpen() || !file.open(kept->get(), QIODevice::WriteOnly | QIODevice::Unbuffered))

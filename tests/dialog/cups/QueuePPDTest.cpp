@@ -61,6 +61,14 @@ TEST_F(Server, ThatDemandsAPasswordGetsNone)
                   server.address()));
 }
 
+TEST_F(Server, HasNoQueueOfANameThatNoneCanHave)
+{
+    const auto queue = fetchQueuePPD(s_server->address(), QString(5000, u'x'), m_guard);
+    EXPECT_EQ(queue.faultKind(), FaultKind::NotFound);
+    EXPECT_EQ(queue.sentence(), u"The print server %1 has no queue %2…."_s.arg(s_server->address(),
+                                                                               QString(300, u'x')));
+}
+
 // A folder that is full but for less than what is usually written at once.
 TEST_F(Server, SaysThatTheTemporaryFolderTakesNotAllOfAPPD)
 {
