@@ -20,6 +20,7 @@ struct PrinterCondition
     QueueTerms terms = {};
     JobStatus waiting = {}; ///< of a job that comes now: for its turn, or the printer is stopped
     QList<ClassMember> members = {}; ///< of a class, where there are several
+    bool isAccepting = true;         ///< jobs; else none waits there
 
     bool operator==(const PrinterCondition &) const = default;
 };

@@ -5,6 +5,7 @@
 #include "dialog/host/PPDSentence.h"
 
 #include <algorithm>
+#include <cstdlib>
 #include <cstring>
 #include <fcntl.h>
 #include <span>
@@ -34,9 +35,9 @@ bool saysNothing(const ppd_file_t &ppd)
 
 // Such a choice would be listed, and nobody could ask for it: libcups takes a brace for the
 // beginning of a value of the user's own.
-bool hasNoUsableName(const ppd_choice_t &choice)
+bool hasUsableName(const ppd_choice_t &choice)
 {
-    return choice.choice[0] == '\0' || choice.choice[0] == '{';
+    return choice.choice[0] != '\0' && choice.choice[0] != '{';
 }
 
 void dropUnnamedChoices(ppd_group_t &group)
@@ -44,8 +45,9 @@ void dropUnnamedChoices(ppd_group_t &group)
     for (ppd_option_t &option :
          std::span(group.options, static_cast<std::size_t>(group.num_options))) {
         ppd_choice_t *const end = option.choices + option.num_choices;
-        option.num_choices =
-            static_cast<int>(std::remove_if(option.choices, end, hasNoUsableName) - option.choices);
+        ppd_choice_t *const dropped = std::stable_partition(option.choices, end, hasUsableName);
+        std::for_each(dropped, end, [](ppd_choice_t &choice) { std::free(choice.code); });
+        option.num_choices = static_cast<int>(dropped - option.choices);
     }
 }
 

@@ -1,5 +1,7 @@
 #include "dialog/job/PaperMemory.h"
 
+#include "platform/foundation/SettingsPath.h"
+
 #include <QtCore/QSettings>
 #include <QtCore/QStandardPaths>
 
@@ -16,8 +18,8 @@ constexpr auto kSizes = "Sizes"_L1;
 
 QString memoryFile()
 {
-    return QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) +
-           u"/velkaro-print/papers.ini"_s;
+    return settingsPath(QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) +
+                        u"/velkaro-print/papers.ini"_s);
 }
 
 /// Any text as a key: a slash would make it a key in a group.

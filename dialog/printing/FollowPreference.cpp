@@ -1,5 +1,7 @@
 #include "dialog/printing/FollowPreference.h"
 
+#include "platform/foundation/SettingsPath.h"
+
 #include <QtCore/QSettings>
 #include <QtCore/QStandardPaths>
 
@@ -11,8 +13,8 @@ constexpr auto kFollows = "follow"_L1;
 
 QString preferencesFile()
 {
-    return QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) +
-           u"/velkaro-print/preferences.ini"_s;
+    return settingsPath(QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) +
+                        u"/velkaro-print/preferences.ini"_s);
 }
 
 } // namespace

@@ -1,6 +1,7 @@
 #include "dialog/printing/LastUsed.h"
 
 #include "dialog/job/JobOptions.h"
+#include "platform/foundation/SettingsPath.h"
 
 #include <QtCore/QSettings>
 #include <QtCore/QStandardPaths>
@@ -16,8 +17,8 @@ constexpr auto kPrinters = "printers"_L1;
 
 QString configurationFile()
 {
-    return QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) +
-           u"/velkaro-print/last-used.ini"_s;
+    return settingsPath(QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) +
+                        u"/velkaro-print/last-used.ini"_s);
 }
 
 /// A name without slashes, which part groups.

@@ -91,14 +91,16 @@ void JobDispatch::takeReceipt(Job &job, const JobReceipt &receipt)
         warn(note);
 }
 
-/// What the series has not begun: the first job's reason is that of the others.
+/// What the series has not begun: the first job's reason is that of the others, or a signal that
+/// came between two of them.
 void JobDispatch::tellUnsent()
 {
+    const bool isInterrupted = EndSignals::haveCome();
     QStringList names;
     for (Job &job : m_jobs) {
         if (job.id != 0 || job.status != ExitStatus::Done)
             continue;
-        job.status = ExitStatus::Server;
+        job.status = isInterrupted ? ExitStatus::Cancelled : ExitStatus::Server;
         names += job.job.request.documents.front().path();
     }
     if (!names.isEmpty())

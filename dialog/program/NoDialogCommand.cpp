@@ -313,7 +313,8 @@ void Run::askPrinter(const JobRequest &request)
         JobRequest known = request;
         if (condition) {
             known.terms = condition->terms;
-            if (condition->waiting.phase == JobPhase::Stopped && !m_line.wait) // which tells it
+            if (condition->waiting.phase == JobPhase::Stopped && condition->isAccepting &&
+                !m_line.wait) // which tells it
                 warn(stoppedSentence(request.queue, condition->waiting.reason));
             for (const QString &doubt : doubtsAboutPrinter(m_controller.job(), *condition))
                 warn(doubt);

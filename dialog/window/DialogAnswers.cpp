@@ -116,8 +116,11 @@ DialogWindow::Notice DialogWindow::standingNotice(Notice doubts) const
 {
     if (doubts.sentence.isEmpty())
         return m_standing;
-    if (m_standing.kind == NoticeBar::Kind::Information)
+    if (m_standing.kind == NoticeBar::Kind::Information) {
+        if (m_choice)
+            doubts.sentence = joinedSentences({choiceSentence(*m_choice), doubts.sentence});
         return doubts;
+    }
     return {m_standing.kind, joinedSentences({m_standing.sentence, doubts.sentence}),
             m_standing.offers + doubts.offers};
 }

@@ -1,5 +1,7 @@
 #include "platform/foundation/UserDefaults.h"
 
+#include "platform/foundation/SettingsPath.h"
+
 #include <QtCore/QSettings>
 #include <QtCore/QStandardPaths>
 
@@ -22,7 +24,7 @@ void UserDefaults::setFolder(const QString &folder)
 
 QString UserDefaults::fileOf(const QString &name) const
 {
-    return m_folder + u'/' + name + QStringLiteral(".ini");
+    return settingsPath(m_folder + u'/' + name + QStringLiteral(".ini"));
 }
 
 QVariantMap UserDefaults::persistentDomainForName(const QString &name) const

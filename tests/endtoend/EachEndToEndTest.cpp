@@ -191,6 +191,25 @@ TEST_F(Each, DocumentGoesOverOneConnectionAndTheQueueIsAskedOnce)
                                     job + job);
 }
 
+TEST_F(Each, DocumentAfterAnInterruptIsNotSent)
+{
+    const QString lookingBack = u"Get-Job-Attributes"_s;
+    const ScriptedServer front({{lookingBack.toLatin1(), {hold()}, 1}});
+    const QStringList files{text(u"a"_s), text(u"b"_s)};
+    const ProgramRun run = runProgram(
+        QStringList{u"--no-dialog"_s, u"--each"_s, u"-h"_s, front.address(), u"-d"_s, u"photo"_s} +
+            files,
+        {}, [&](const QProcess &program) {
+            EXPECT_TRUE(
+                QTest::qWaitFor([&] { return front.requests().contains(lookingBack); }, 30000));
+            kill(static_cast<pid_t>(program.processId()), SIGINT);
+        });
+    EXPECT_EQ(run.status, 1);
+    EXPECT_EQ(run.output, u"request id is photo-%1 (1 file(s))\n"_s.arg(kGoodJob));
+    EXPECT_TRUE(run.errors.endsWith(u"\nvelkaro-print: Not sent: %1\n"_s.arg(files[1])))
+        << run.errors.toStdString();
+}
+
 // --- Followed to the end -------------------------------------------------------------------------
 
 class EachFollowed : public DeviceFixture

@@ -35,6 +35,32 @@ TEST_F(Command, AnInstancePrintsWithItsSavedSettings)
     EXPECT_EQ(job.value(u"copies"_s), u"2"_s);
 }
 
+TEST_F(Command, MoreSavedSettingsThanAnybodyHasAreNotSent)
+{
+    QByteArray lines;
+    for (int number = 0; number <= 1000; ++number)
+        lines += "Dest photo x" + QByteArray::number(number) + "=1\n";
+    const ProgramRun run = runProgram(
+        {u"--no-dialog"_s, u"-h"_s, server().address(), u"-d"_s, u"photo"_s, pdf()}, lines);
+    EXPECT_EQ(run.status, 2);
+    EXPECT_EQ(run.errors, u"velkaro-print: There are more settings saved for photo than the 1000 "
+                          "that can be used.\n"_s);
+    EXPECT_EQ(newJobs(), QList<int>());
+}
+
+TEST_F(Command, SavedSettingsThatCannotBeReadAreToldOfAndTheJobGoesWithoutThem)
+{
+    const ProgramRun run =
+        runProgram({u"--no-dialog"_s, u"-h"_s, server().address(), u"-d"_s, u"photo"_s, pdf()},
+                   "Dest photo copies=2\n" + QByteArray(5 * 1024 * 1024, '#'));
+    EXPECT_EQ(run.status, 0);
+    EXPECT_TRUE(run.errors.startsWith(u"velkaro-print: The saved settings in "_s) &&
+                run.errors.endsWith(u"/lpoptions cannot be read: it has more than 4 MB.\n"_s))
+        << run.errors.toStdString();
+    ASSERT_EQ(newJobs().size(), 1);
+    EXPECT_EQ(server().jobAttributes(u"photo"_s, newJobs()[0]).value(u"copies"_s, u"1"_s), u"1"_s);
+}
+
 TEST_F(Command, AJobInAFileIsSentLater)
 {
     const QString file = inFolder(u"later.velkaro-job"_s);

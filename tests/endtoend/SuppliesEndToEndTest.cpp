@@ -125,6 +125,28 @@ TEST_F(Ink, AndTheQueueAreShownInTheDialog)
     ASSERT_TRUE(server().command(u"cupsenable"_s, {u"ink"_s}));
 }
 
+TEST_F(Ink, IsToldBesideThePrinterThatTheDialogHasChosen)
+{
+    hearDevice();
+    qputenv("PRINTER", "ink");
+    UserDefaults::standardUserDefaults().setFolder(QString());
+    DialogWishes wishes;
+    wishes.server = server().address();
+    wishes.files = {document()};
+    DialogWindow window(wishes);
+    window.start();
+    window.show();
+    EXPECT_TRUE(QTest::qWaitFor(
+        [&] {
+            return window.notice().sentence() == u"ink was chosen: LPDEST or PRINTER names it. "
+                                                 "Running low in the printer: Cyan ink."_s;
+        },
+        kLongestShowing))
+        << window.notice().sentence().toStdString();
+    EXPECT_EQ(window.notice().kind(), NoticeBar::Kind::Warning);
+    qunsetenv("PRINTER");
+}
+
 TEST_F(Ink, ThatNobodyTellsOfIsNotShown)
 {
     DialogWishes wishes;

@@ -130,6 +130,22 @@ TEST_F(Wait, TellsThatThePrinterIsStoppedAndWhy)
     ASSERT_TRUE(server().command(u"cupsenable"_s, {u"stop"_s}));
 }
 
+TEST_F(Wait, AStoppedPrinterThatTakesNoJobsIsSaidToTakeNone)
+{
+    const QString queue = u"stop"_s;
+    ASSERT_TRUE(server().command(u"cupsdisable"_s, {queue}));
+    ASSERT_TRUE(server().command(u"cupsreject"_s, {queue}));
+    const ProgramRun run =
+        runProgram({u"--no-dialog"_s, u"-h"_s, server().address(), u"-d"_s, queue, document()});
+    EXPECT_TRUE(server().command(u"cupsaccept"_s, {queue}));
+    EXPECT_TRUE(server().command(u"cupsenable"_s, {queue}));
+    EXPECT_EQ(run.status, 6);
+    EXPECT_EQ(
+        run.errors,
+        u"velkaro-print: Nothing was printed on stop: The print server %1 refused: Destination "
+        "\"stop\" is not accepting jobs.\n"_s.arg(server().address()));
+}
+
 TEST_F(Wait, GoesOnWhenThePrinterIsLookedAfter)
 {
     const ProgramRun run = printAndWait(u"empty"_s, {}, [this](QProcess &program) {

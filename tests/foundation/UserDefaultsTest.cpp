@@ -10,6 +10,9 @@
 #include <QtCore/QFile>
 #include <QtCore/QTemporaryDir>
 
+#include <sys/stat.h>
+#include <unistd.h>
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -32,6 +35,47 @@ protected:
     QTemporaryDir folder;
     UserDefaults &defaults = UserDefaults::standardUserDefaults();
 };
+
+struct Obstacle
+{
+    const char *behaviour;
+    const char *ending; ///< of the path at which it stands
+    void (*make)(const QByteArray &path);
+};
+
+class UserDefaultsBeside : public UserDefaultsTest, public testing::WithParamInterface<Obstacle>
+{};
+
+TEST_P(UserDefaultsBeside, WhatWouldKeepThemWaitingAreEmptyAndCannotBeWritten)
+{
+    const QByteArray obstacle = QFile::encodeName(path()) + GetParam().ending;
+    GetParam().make(obstacle);
+    struct stat before = {};
+    ASSERT_EQ(lstat(obstacle.constData(), &before), 0);
+    EXPECT_EQ(read(), QVariantMap());
+    defaults.setPersistentDomain({{u"alert"_s, false}}, kDomain);
+    EXPECT_FALSE(defaults.synchronize());
+    struct stat after = {};
+    ASSERT_EQ(lstat(obstacle.constData(), &after), 0);
+    EXPECT_EQ(after.st_ino, before.st_ino);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Table, UserDefaultsBeside,
+    testing::Values(Obstacle{"APipe", "",
+                             [](const QByteArray &path) { mkfifo(path.constData(), 0600); }},
+                    Obstacle{"APipeInThePlaceOfTheLock", ".lock",
+                             [](const QByteArray &path) { mkfifo(path.constData(), 0600); }},
+                    Obstacle{"ADeviceWithoutEnd", "",
+                             [](const QByteArray &path) {
+                                 EXPECT_EQ(symlink("/dev/zero", path.constData()), 0);
+                             }},
+                    Obstacle{"AFileWithoutEnd", "",
+                             [](const QByteArray &path) {
+                                 writeFile(QFile::decodeName(path), "[a]\n");
+                                 EXPECT_EQ(truncate(path.constData(), 100'000'000'000), 0);
+                             }}),
+    CaseName());
 
 TEST_F(UserDefaultsTest, AreAsTheyWereAfterTransientOnes)
 {

@@ -11,6 +11,7 @@
 #include <gtest/gtest.h>
 
 #include <sys/resource.h>
+#include <unistd.h>
 
 using namespace Qt::StringLiterals;
 
@@ -107,8 +108,10 @@ TEST_F(AdviserOnASession, CanBeAskedAgainWhenThereWasNoRoomForItsProcess)
 {
     rlimit usual{};
     ASSERT_EQ(getrlimit(RLIMIT_NOFILE, &usual), 0);
-    const rlimit none{0, usual.rlim_max};
-    ASSERT_EQ(setrlimit(RLIMIT_NOFILE, &none), 0);
+    const int next = dup(STDIN_FILENO);
+    ASSERT_EQ(close(next), 0);
+    const rlimit few{static_cast<rlim_t>(next) + 2, usual.rlim_max}; // a process takes more pipes
+    ASSERT_EQ(setrlimit(RLIMIT_NOFILE, &few), 0);
     ask(kPhoto);
     ASSERT_EQ(setrlimit(RLIMIT_NOFILE, &usual), 0);
     EXPECT_TRUE(QTest::qWaitFor([this] { return !m_answers.isEmpty(); }, kPatience));
