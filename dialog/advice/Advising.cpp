@@ -150,10 +150,7 @@ Result<PPDMark> choiceOfPPD(const HostSession &session, const QString &keyword,
     const PPDMark spelled = session.spelled(isPaper ? u"PageSize"_s : keyword, choice);
     ppd_option_t *option = findOption(session.ppd(), spelled.keyword);
     if (!option)
-        return Fault{FaultKind::Request,
-                     QCoreApplication::translate("SettingRequests", "The printer has no setting "
-                                                                    "%1.")
-                         .arg(displayText(keyword))};
+        return noSuchSetting(keyword);
     if (!findChoice(option, choice))
         return noSuchValue({spelled.keyword, choice}, {});
     return spelled;

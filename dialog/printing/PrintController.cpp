@@ -148,7 +148,7 @@ NamedWishes PrintController::namedWishes() const
         wanted += RequestedChoice{QStringLiteral("notify-recipient-uri"), ownAddress()};
     if (!m_wishes.paper.isNull())
         wanted += RequestedChoice{QStringLiteral("PageSize"), m_wishes.paper};
-    return inPrintersNames(m_job.ppd(), wanted);
+    return inPrintersNames(m_job.ppd(), m_job.attributeRules(), wanted);
 }
 
 Result<>

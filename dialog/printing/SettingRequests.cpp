@@ -127,9 +127,7 @@ Result<RequestedChoice> knownChoice(const PrintJob &job, const RequestedChoice &
 {
     const auto [keyword, choice] = job.session()->spelled(wanted.keyword, wanted.choice);
     if (!isChoice(job.ppd(), keyword))
-        return settingFault(
-            QCoreApplication::translate("SettingRequests", "The printer has no setting %1.")
-                .arg(displayText(keyword)));
+        return noSuchSetting(keyword);
     const QString value = normalizedValue(job.ppd(), keyword, choice);
     if (value.isNull())
         return noSuchValue({keyword, choice}, typedChoices(job.ppd(), keyword));
@@ -171,6 +169,23 @@ Fault noSuchValue(const RequestedChoice &wanted, const QStringList &values)
                                 .arg(typedName(wanted.keyword), displayText(wanted.choice));
     return settingFault(values.isEmpty() ? refusal
                                          : joinedSentences({refusal, valuesSentence(values)}));
+}
+
+Fault noSuchSetting(const QString &keyword)
+{
+    return settingFault(
+        QCoreApplication::translate("SettingRequests", "The printer has no setting %1.")
+            .arg(displayText(keyword)));
+}
+
+Fault severalChoices(const RequestedChoice &wanted, const QStringList &choices)
+{
+    const QString typed = wanted.keyword + u'=' + wanted.choice;
+    return settingFault(
+        joinedSentences({QCoreApplication::translate(
+                             "SettingRequests", "%1 stands for several choices of this printer.")
+                             .arg(displayText(typed)),
+                         valuesSentence(choices)}));
 }
 
 QStringList typedChoices(ppd_file_t *ppd, const QString &keyword)

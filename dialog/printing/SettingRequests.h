@@ -23,6 +23,13 @@ Result<> checkOwnSettings(const QList<RequestedChoice> &wanted);
 /// they are typed (none: they are not told).
 Fault noSuchValue(const RequestedChoice &wanted, const QStringList &values);
 
+/// What is said of a setting that the printer does not have.
+Fault noSuchSetting(const QString &keyword);
+
+/// What is said of a value of a standard name that several choices of the printer say the same as;
+/// `choices` as they are typed.
+Fault severalChoices(const RequestedChoice &wanted, const QStringList &choices);
+
 /// The choices of a keyword of the PPD (null: none), as they are typed.
 QStringList typedChoices(ppd_file_t *ppd, const QString &keyword);
 

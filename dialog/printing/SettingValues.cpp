@@ -98,7 +98,7 @@ QHash<QString, SettingOrigin> startingOrigins(const PrintJob &job, const QList<J
             job.session() ? job.session()->keywordOfTicketKey(option.name) : QString();
         origins.insert(titled.isNull() ? option.name : titled, origin);
         for (const RequestedChoice &named :
-             inPrintersNames(job.ppd(), {{option.name, option.value}}).wanted)
+             inPrintersNames(job.ppd(), {}, {{option.name, option.value}}).wanted)
             origins.insert(named.keyword, origin);
     }
     return origins;

@@ -15,6 +15,8 @@ namespace {
 
 constexpr auto kMedia = "media"_L1;
 constexpr auto kPaperKeyword = "PageSize"_L1;
+constexpr auto kBin = "output-bin"_L1;
+constexpr auto kBinKeyword = "OutputBin"_L1;
 constexpr auto kOwnSize = "Custom."_L1;
 
 /// A name and values of it that map to different choices where a printer has any.
@@ -29,7 +31,7 @@ constexpr std::array kNames{
     StandardName{"sides"_L1, {"one-sided"_L1, "two-sided-long-edge"_L1}},
     StandardName{"print-quality"_L1, {"3"_L1, "5"_L1}, "4"_L1},
     StandardName{"print-color-mode"_L1, {"monochrome"_L1, "color"_L1}},
-    StandardName{"output-bin"_L1, {"face-up"_L1, "face-down"_L1}},
+    StandardName{kBin, {"face-up"_L1, "face-down"_L1}},
     StandardName{kMedia, {"iso_a4_210x297mm"_L1, "iso_a5_148x210mm"_L1}},
 };
 
@@ -90,6 +92,23 @@ QList<RequestedChoice> namedByPPD(ppd_file_t *ppd, const RequestedChoice &wanted
     return named;
 }
 
+/// The choices that say the same as the wish, by the plug-in's word.
+QList<RequestedChoice> namedByPlugIn(ppd_file_t *ppd, const QList<AttributeRule> &rules,
+                                     const RequestedChoice &wanted)
+{
+    QList<RequestedChoice> named;
+    for (const AttributeRule &rule : rules) {
+        if (rule.attribute != wanted.keyword || rule.value != wanted.choice)
+            continue;
+        const RequestedChoice choice{rule.marks.constFirst().keyword,
+                                     rule.marks.constFirst().choice};
+        const bool isThere = findChoice(findOption(ppd, choice.keyword), choice.choice);
+        if (rule.marks.size() == 1 && isThere && !named.contains(choice))
+            named += choice;
+    }
+    return named;
+}
+
 /// As they are typed; of a name whose values are the printer's own, as far as they are its choices.
 QStringList valuesOf(ppd_file_t *ppd, const QString &name)
 {
@@ -102,16 +121,41 @@ QStringList valuesOf(ppd_file_t *ppd, const QString &name)
     return name == "print-color-mode"_L1 ? QStringList{u"color"_s, u"monochrome"_s} : QStringList();
 }
 
+Fault notThere(ppd_file_t *ppd, const QList<AttributeRule> &rules, const RequestedChoice &wanted)
+{
+    const QStringList values = valuesOf(ppd, wanted.keyword);
+    const bool isThere = std::ranges::any_of(values, [&](const QString &value) {
+        const RequestedChoice one{wanted.keyword, value};
+        return !namedByPPD(ppd, one).isEmpty() || !namedByPlugIn(ppd, rules, one).isEmpty();
+    });
+    const bool hasBins = wanted.keyword == kBin && findOption(ppd, kBinKeyword);
+    return isThere || hasBins ? noSuchValue(wanted, values) : noSuchSetting(wanted.keyword);
+}
+
+Fault tooMany(const RequestedChoice &wanted, const QList<RequestedChoice> &alike)
+{
+    QStringList typed;
+    for (const RequestedChoice &choice : alike)
+        typed += choice.keyword + u'=' + choice.choice;
+    return severalChoices(wanted, typed);
+}
+
 } // namespace
 
-NamedWishes inPrintersNames(ppd_file_t *ppd, const QList<RequestedChoice> &wanted)
+NamedWishes inPrintersNames(ppd_file_t *ppd, const QList<AttributeRule> &rules,
+                            const QList<RequestedChoice> &wanted)
 {
     NamedWishes named;
     for (const RequestedChoice &one : wanted) {
         const QList<RequestedChoice> choices = namedByPPD(ppd, one);
-        named.wanted += choices;
-        if (choices.isEmpty() && named.state)
-            named.state = noSuchValue(one, valuesOf(ppd, one.keyword));
+        const QList<RequestedChoice> alike =
+            choices.isEmpty() ? namedByPlugIn(ppd, rules, one) : choices;
+        if (choices.isEmpty() && alike.size() != 1) {
+            if (named.state)
+                named.state = alike.isEmpty() ? notThere(ppd, rules, one) : tooMany(one, alike);
+            continue;
+        }
+        named.wanted += alike;
     }
     return named;
 }

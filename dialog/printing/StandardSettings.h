@@ -1,5 +1,6 @@
 #pragma once
 
+#include "dialog/host/AttributeRules.h"
 #include "dialog/printing/PrintWishes.h"
 #include "dialog/work/Result.h"
 #include "platform/ppd/CupsPPD.h"
@@ -13,6 +14,7 @@ struct NamedWishes
 
 /// The wishes with what was asked for by the names that every printer has (`media`, `sides`,
 /// `print-quality`, `output-bin`, `print-color-mode`) as choices of the PPD (null: none, and they
-/// stay), as libcups maps them: the printer's own names and rules count from then on. The marks
-/// stay as they are.
-NamedWishes inPrintersNames(ppd_file_t *ppd, const QList<RequestedChoice> &wanted);
+/// stay), as libcups maps them, else as the plug-in's rules say it of a single choice: the
+/// printer's own names and rules count from then on. The marks stay as they are.
+NamedWishes inPrintersNames(ppd_file_t *ppd, const QList<AttributeRule> &rules,
+                            const QList<RequestedChoice> &wanted);

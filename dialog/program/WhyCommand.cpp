@@ -63,7 +63,7 @@ Result<PPDMark> wantedChoice(const PrintJob &job, const RequestedChoice &asked)
 {
     if (!job.session())
         return knownSetting(job, asked).fault(); // which says that there is no PPD
-    const NamedWishes named = inPrintersNames(job.ppd(), {asked});
+    const NamedWishes named = inPrintersNames(job.ppd(), job.attributeRules(), {asked});
     if (!named.state)
         return named.state.fault();
     const RequestedChoice &wanted = named.wanted.constFirst();

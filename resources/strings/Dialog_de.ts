@@ -3028,6 +3028,10 @@ Umschalt+F1 oder das Kontextmenü sagt, warum.</translation>
         <translation>Der Drucker hat keine Einstellung %1.</translation>
     </message>
     <message>
+        <source>%1 stands for several choices of this printer.</source>
+        <translation>%1 steht bei diesem Drucker für mehrere Möglichkeiten.</translation>
+    </message>
+    <message>
         <source>%1 cannot be chosen while the other settings are as they are.</source>
         <translation>%1 kann mit den übrigen Einstellungen nicht gewählt werden.</translation>
     </message>

@@ -2641,11 +2641,11 @@ Maj+F1 ou le menu contextuel dit pourquoi.</translation>
     </message>
     <message>
         <source>%1 is not there for %2. It is there for %3.</source>
-        <translation>%1 n'est pas possible avec %2, mais avec %3.</translation>
+        <translation>%1 n’est pas possible avec %2, mais avec %3.</translation>
     </message>
     <message>
         <source>%1 is not there for %2. It is there with %3.</source>
-        <translation>%1 n'est pas possible avec %2. Il faut pour cela %3.</translation>
+        <translation>%1 n’est pas possible avec %2. Il faut pour cela %3.</translation>
     </message>
     <message>
         <source>%1 can be chosen.</source>
@@ -2657,7 +2657,7 @@ Maj+F1 ou le menu contextuel dit pourquoi.</translation>
     </message>
     <message>
         <source>There are too many conditions to explain why %1 is not there.</source>
-        <translation>Il y a trop de conditions pour expliquer pourquoi %1 n'est pas possible.</translation>
+        <translation>Il y a trop de conditions pour expliquer pourquoi %1 n’est pas possible.</translation>
     </message>
     <message>
         <source>use %1</source>
@@ -3026,6 +3026,10 @@ Maj+F1 ou le menu contextuel dit pourquoi.</translation>
     <message>
         <source>The printer has no setting %1.</source>
         <translation>L’imprimante n’a pas de réglage %1.</translation>
+    </message>
+    <message>
+        <source>%1 stands for several choices of this printer.</source>
+        <translation>%1 correspond à plusieurs choix de cette imprimante.</translation>
     </message>
     <message>
         <source>%1 cannot be chosen while the other settings are as they are.</source>

@@ -3028,12 +3028,16 @@ Shift+F1 or the context menu tells why.</source>
         <translation>プリンターに %1 という設定はありません。</translation>
     </message>
     <message>
+        <source>%1 stands for several choices of this printer.</source>
+        <translation>%1 に当てはまる選択肢が、このプリンターには複数あります。</translation>
+    </message>
+    <message>
         <source>%1 cannot be chosen while the other settings are as they are.</source>
         <translation>現在のほかの設定では、%1 は選べません。</translation>
     </message>
     <message>
         <source>%1 cannot be chosen while the other settings are as they are. %2 is %3 instead.</source>
-        <translation>現在のほかの設定では、%1 は選べません。%2 は「%3」のままです。</translation>
+        <translation>現在のほかの設定では、%1 は選べません。%2 は「%3」になります。</translation>
     </message>
     <message>
         <source>A paper of a size of your own needs that size, such as Custom.100x150mm.</source>

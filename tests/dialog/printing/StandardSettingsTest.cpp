@@ -29,6 +29,15 @@ struct Standard
     QString sentence;
 };
 
+// As a plug-in has them; there is no VKInk=None.
+const QList<AttributeRule> kRules{
+    {{{u"VKInk"_s, u"All"_s}}, u"print-color-mode"_s, u"color"_s},
+    {{{u"VKInk"_s, u"All"_s}}, u"print-color-mode"_s, u"color"_s},
+    {{{u"VKInk"_s, u"Black"_s}}, u"print-color-mode"_s, u"monochrome"_s},
+    {{{u"VKInk"_s, u"Grey"_s}}, u"print-color-mode"_s, u"monochrome"_s},
+    {{{u"VKInk"_s, u"None"_s}}, u"print-color-mode"_s, u"monochrome"_s},
+    {{{u"cupsPrintQuality"_s, u"Draft"_s}}, u"print-quality"_s, u"5"_s}};
+
 class StandardSetting : public testing::TestWithParam<Standard>
 {};
 
@@ -42,12 +51,13 @@ TEST_P(StandardSetting, IsNamedAsThePrinterDoes)
                   .option("Duplex/Two-Sided",
                           {"None/Off", "DuplexNoTumble/Long Edge", "DuplexTumble/Short Edge"})
                   .option("cupsPrintQuality/Quality", {"Draft/Draft", "Normal/Normal", "High/High"})
+                  .option("VKInk/Ink", {"All/All", "Black/Black", "Grey/Grey"})
                   .text());
     const auto opened = openPPD(path);
     ASSERT_TRUE(opened) << opened.sentence().toStdString();
     ppd_file_t *ppd = opened->ppd.get();
     const QList<PPDMark> before = marksOf(ppd);
-    const NamedWishes named = inPrintersNames(ppd, {GetParam().wanted});
+    const NamedWishes named = inPrintersNames(ppd, kRules, {GetParam().wanted});
     EXPECT_EQ(named.wanted, GetParam().named);
     EXPECT_EQ(named.state.sentence(), GetParam().sentence);
     EXPECT_EQ(marksOf(ppd), before);
@@ -90,7 +100,38 @@ INSTANTIATE_TEST_SUITE_P(
                  {u"print-quality"_s, u"9"_s},
                  {},
                  u"9 is no value for print-quality. It can be: 3, 4, 5."_s},
+        Standard{"AChoiceThatThePlugInKnows",
+                 {u"print-color-mode"_s, u"color"_s},
+                 {{u"VKInk"_s, u"All"_s}},
+                 {}},
+        Standard{"SeveralChoicesThatThePlugInKnows",
+                 {u"print-color-mode"_s, u"monochrome"_s},
+                 {},
+                 u"print-color-mode=monochrome stands for several choices of this printer. It can "
+                 "be: VKInk=Black, VKInk=Grey."_s},
+        Standard{"NoColour",
+                 {u"print-color-mode"_s, u"sepia"_s},
+                 {},
+                 u"sepia is no value for print-color-mode. It can be: color, monochrome."_s},
         Standard{"AnotherName", {u"Finish"_s, u"Shiny"_s}, {{u"Finish"_s, u"Shiny"_s}}, {}}),
     CaseName());
+
+/// A printer that has nothing of the kind does not list values for it.
+TEST(StandardName, IsNotThereWhereThePrinterHasNoChoiceForAnyValue)
+{
+    const QTemporaryDir folder;
+    const QString path = folder.filePath(u"printer.ppd"_s);
+    writeFile(path, PPDSource().papers({{"A4", 595, 842}}).text());
+    const auto opened = openPPD(path);
+    ASSERT_TRUE(opened) << opened.sentence().toStdString();
+    for (const RequestedChoice &wanted :
+         {RequestedChoice{u"sides"_s, u"one-sided"_s}, RequestedChoice{u"print-quality"_s, u"5"_s},
+          RequestedChoice{u"print-color-mode"_s, u"color"_s},
+          RequestedChoice{u"output-bin"_s, u"face-up"_s}}) {
+        const NamedWishes named = inPrintersNames(opened->ppd.get(), {}, {wanted});
+        EXPECT_TRUE(named.wanted.isEmpty());
+        EXPECT_EQ(named.state.sentence(), u"The printer has no setting %1."_s.arg(wanted.keyword));
+    }
+}
 
 } // namespace
