@@ -3,6 +3,7 @@
 #include "dialog/host/PPDCompleteness.h"
 #include "dialog/host/PPDReading.h"
 #include "dialog/host/PPDSentence.h"
+#include "dialog/host/StandardKeywords.h"
 
 #include <algorithm>
 #include <cstdlib>
@@ -78,6 +79,7 @@ void localize(ppd_file_t &ppd)
 {
     ppdLocalize(&ppd);
     std::ranges::for_each(groupsOf(ppd), nameWhatHasNoText);
+    nameWhatHasNoWords(ppd);
 }
 
 // libcups opens nothing but files; none when there is no memory for it. The file at the PPD's path

@@ -167,7 +167,7 @@ QList<RequestedChoice> PrintController::lostSettings() const
 Result<> PrintController::makeAgainWithout(const QList<RequestedChoice> &lost)
 {
     const std::shared_ptr<const PrinterOrigin> opening = origin();
-    if (const Result<> opened = reopen(opening); !opened)
+    if (Result<> opened = reopen(opening); !opened)
         return opened;
     QList<RequestedChoice> wanted = namedWishes().wanted;
     wanted.removeIf([&](const RequestedChoice &one) {
@@ -219,7 +219,7 @@ QList<JobRequest> PrintController::oneForEach()
 
 std::shared_ptr<JobProgress> PrintController::send(const JobRequest &request, Then<JobReceipt> then)
 {
-    const auto progress = std::make_shared<JobProgress>();
+    auto progress = std::make_shared<JobProgress>();
     m_call.begin<Result<JobReceipt>>(
         kServerTimeout,
         [request, progress](CallGuard &guard) {
@@ -255,7 +255,7 @@ std::shared_ptr<JobProgress> PrintController::write(const QString &path, const J
                                                     const OutputTerms &terms,
                                                     Then<QStringList> then)
 {
-    const auto progress = std::make_shared<JobProgress>();
+    auto progress = std::make_shared<JobProgress>();
     m_call.begin<Result<QStringList>>(
         kFileTimeout,
         [path, request, terms, progress](CallGuard &guard) {

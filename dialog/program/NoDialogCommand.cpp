@@ -226,7 +226,7 @@ Result<> Run::makeWithoutLost(const Result<> &made)
 {
     warn(made.sentence());
     static_cast<void>(m_answers.takeSentences()); // of what is made once more
-    const Result<> rest = m_controller.makeAgainWithout(m_controller.lostSettings());
+    Result<> rest = m_controller.makeAgainWithout(m_controller.lostSettings());
     m_answers.answerSheets();
     if (rest.faultKind() != FaultKind::Vetoed)
         return rest;

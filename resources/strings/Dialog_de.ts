@@ -2692,6 +2692,53 @@ Umschalt+F1 oder das Kontextmenü sagt, warum.</translation>
     </message>
 </context>
 <context>
+    <name>StandardKeywords</name>
+    <message>
+        <source>Color Mode</source>
+        <translation>Farbmodus</translation>
+    </message>
+    <message>
+        <source>Print Quality</source>
+        <translation>Druckqualität</translation>
+    </message>
+    <message>
+        <source>Two-Sided Printing</source>
+        <translation>Beidseitiger Druck</translation>
+    </message>
+    <message>
+        <source>Fold</source>
+        <translation>Falzen</translation>
+    </message>
+    <message>
+        <source>Paper Source</source>
+        <translation>Papierzufuhr</translation>
+    </message>
+    <message>
+        <source>Media Type</source>
+        <translation>Papierart</translation>
+    </message>
+    <message>
+        <source>Output Bin</source>
+        <translation>Ausgabefach</translation>
+    </message>
+    <message>
+        <source>Paper Size</source>
+        <translation>Papierformat</translation>
+    </message>
+    <message>
+        <source>Punch</source>
+        <translation>Lochen</translation>
+    </message>
+    <message>
+        <source>Resolution</source>
+        <translation>Auflösung</translation>
+    </message>
+    <message>
+        <source>Staple</source>
+        <translation>Heften</translation>
+    </message>
+</context>
+<context>
     <name>SummaryPart</name>
     <message>
         <source>Only What Differs from the Printer's Defaults</source>

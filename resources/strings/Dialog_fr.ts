@@ -2692,6 +2692,53 @@ Maj+F1 ou le menu contextuel dit pourquoi.</translation>
     </message>
 </context>
 <context>
+    <name>StandardKeywords</name>
+    <message>
+        <source>Color Mode</source>
+        <translation>Mode couleur</translation>
+    </message>
+    <message>
+        <source>Print Quality</source>
+        <translation>Qualité d’impression</translation>
+    </message>
+    <message>
+        <source>Two-Sided Printing</source>
+        <translation>Impression recto verso</translation>
+    </message>
+    <message>
+        <source>Fold</source>
+        <translation>Pliage</translation>
+    </message>
+    <message>
+        <source>Paper Source</source>
+        <translation>Source du papier</translation>
+    </message>
+    <message>
+        <source>Media Type</source>
+        <translation>Type de papier</translation>
+    </message>
+    <message>
+        <source>Output Bin</source>
+        <translation>Bac de sortie</translation>
+    </message>
+    <message>
+        <source>Paper Size</source>
+        <translation>Format de papier</translation>
+    </message>
+    <message>
+        <source>Punch</source>
+        <translation>Perforation</translation>
+    </message>
+    <message>
+        <source>Resolution</source>
+        <translation>Résolution</translation>
+    </message>
+    <message>
+        <source>Staple</source>
+        <translation>Agrafage</translation>
+    </message>
+</context>
+<context>
     <name>SummaryPart</name>
     <message>
         <source>Only What Differs from the Printer's Defaults</source>

@@ -2692,6 +2692,53 @@ Shift+F1 or the context menu tells why.</source>
     </message>
 </context>
 <context>
+    <name>StandardKeywords</name>
+    <message>
+        <source>Color Mode</source>
+        <translation>カラーモード</translation>
+    </message>
+    <message>
+        <source>Print Quality</source>
+        <translation>印刷品質</translation>
+    </message>
+    <message>
+        <source>Two-Sided Printing</source>
+        <translation>両面印刷</translation>
+    </message>
+    <message>
+        <source>Fold</source>
+        <translation>折り</translation>
+    </message>
+    <message>
+        <source>Paper Source</source>
+        <translation>給紙元</translation>
+    </message>
+    <message>
+        <source>Media Type</source>
+        <translation>用紙の種類</translation>
+    </message>
+    <message>
+        <source>Output Bin</source>
+        <translation>排紙先</translation>
+    </message>
+    <message>
+        <source>Paper Size</source>
+        <translation>用紙サイズ</translation>
+    </message>
+    <message>
+        <source>Punch</source>
+        <translation>パンチ</translation>
+    </message>
+    <message>
+        <source>Resolution</source>
+        <translation>解像度</translation>
+    </message>
+    <message>
+        <source>Staple</source>
+        <translation>ステープル</translation>
+    </message>
+</context>
+<context>
     <name>SummaryPart</name>
     <message>
         <source>Only What Differs from the Printer's Defaults</source>

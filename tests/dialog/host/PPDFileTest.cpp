@@ -1,5 +1,7 @@
 #include "dialog/host/PPDFile.h"
+#include "dialog/host/StandardKeywords.h"
 #include "platform/ppd/PPDText.h"
+#include "tests/support/CaseName.h"
 #include "tests/support/Files.h"
 #include "tests/support/PPDSource.h"
 #include "tests/support/SmallPrinter.h"
@@ -186,6 +188,60 @@ TEST(PPDFile, ChoicesThatNobodyCanAskForAreNoneOfThem)
     EXPECT_EQ(names, QStringList({u"One"_s, u"Two"_s}));
     EXPECT_EQ(markedChoice(opened->ppd.get(), u"Bin"_s), u"One"_s);
 }
+
+TEST(PPDFile, AStandardKeywordWithoutWordsIsNamedInTheUsersLanguage)
+{
+    const QTemporaryDir folder;
+    const QString path = folder.filePath(u"the.ppd"_s);
+    writeFile(path, PPDSource().option("OutputBin", {"One"}).text());
+    const auto shown = openPPD(path, PPDTexts::InUserLanguage);
+    const auto asItStands = openPPD(path);
+    ASSERT_TRUE(shown && asItStands);
+    EXPECT_EQ(ppdText(findOption(shown->ppd.get(), u"OutputBin"_s)->text), u"Output Bin"_s);
+    EXPECT_EQ(ppdText(findOption(asItStands->ppd.get(), u"OutputBin"_s)->text), u"OutputBin"_s);
+}
+
+struct NamelessCase
+{
+    const char *behaviour;
+    const char *option;
+    const char *inNoLanguage; ///< null: the PPD says nothing
+    QString text;
+};
+
+class OptionWithoutWords : public testing::TestWithParam<NamelessCase>
+{};
+
+TEST_P(OptionWithoutWords, IsNamed)
+{
+    PPDSource source;
+    source.option(GetParam().option, {"One", "Two/Number Two"});
+    const QByteArray keyword = QByteArray(GetParam().option).split('/').constFirst();
+    if (GetParam().inNoLanguage) {
+        source.attribute("C.Translation " + keyword + '/' + GetParam().inNoLanguage, "\"\"");
+        source.attribute("C." + keyword + " One/The First", "\"\"");
+        source.attribute("C." + keyword + " Two/The Second", "\"\"");
+    }
+    const PPDHandle ppd = source.open();
+    nameWhatHasNoWords(*ppd);
+    const ppd_option_t *option = findOption(ppd.get(), ppdName(keyword.constData()));
+    ASSERT_TRUE(option);
+    EXPECT_EQ(ppdText(option->text), GetParam().text);
+    EXPECT_EQ(ppdText(option->choices[0].text),
+              GetParam().inNoLanguage ? u"The First"_s : u"One"_s);
+    EXPECT_EQ(ppdText(option->choices[1].text), u"Number Two"_s);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Table, OptionWithoutWords,
+    testing::Values(
+        NamelessCase{"ByTheWordForAStandardKeyword", "OutputBin", nullptr, u"Output Bin"_s},
+        NamelessCase{"ByThatWordBeforeTheTextInNoLanguage", "cupsPrintQuality", "Quality of It",
+                     u"Print Quality"_s},
+        NamelessCase{"ByItsTextInNoLanguage", "AcmeGloss", "Gloss", u"Gloss"_s},
+        NamelessCase{"ByItsKeywordWhereThereIsNothingElse", "AcmeGloss", nullptr, u"AcmeGloss"_s},
+        NamelessCase{"NotWhereItHasWords", "OutputBin/Where To", "Elsewhere", u"Where To"_s}),
+    CaseName());
 
 TEST(PPDFile, AMissingLineBreakAtTheEndIsNoCut)
 {
