@@ -33,7 +33,7 @@ constexpr std::array kWords{
     Word{"StapleLocation", QT_TRANSLATE_NOOP("StandardKeywords", "Staple")}};
 
 /// Whole characters, as far as there is room.
-template <typename Named> void setText(Named &named, const QString &text)
+template <typename Named> void putWords(Named &named, const QString &text)
 {
     QByteArray bytes = text.toUtf8();
     for (qsizetype length = text.size(); bytes.size() >= qsizetype(sizeof named.text);)
@@ -67,7 +67,7 @@ void nameOption(ppd_file_t &ppd, ppd_option_t &option)
     if (words.isNull())
         words = textInNoLanguage(ppd, kNoLanguage, option.keyword);
     if (!words.isNull() && hasNoWords(option, option.keyword))
-        setText(option, words);
+        putWords(option, words);
     if (!ppdFindAttr(&ppd, kNoLanguage, nullptr))
         return;
     const QByteArray attribute = QByteArray("C.") + option.keyword;
@@ -76,7 +76,7 @@ void nameOption(ppd_file_t &ppd, ppd_option_t &option)
         if (hasNoWords(choice, choice.choice))
             if (const QString said = textInNoLanguage(ppd, attribute, choice.choice);
                 !said.isNull())
-                setText(choice, said);
+                putWords(choice, said);
 }
 
 } // namespace
