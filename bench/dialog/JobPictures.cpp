@@ -7,6 +7,9 @@
 #include "dialog/window/JobWindow.h"
 #include "tests/built/BuiltFiles.h"
 #include "tests/printserver/PrintServer.h"
+#include "tests/scriptedserver/GoodAnswers.h"
+#include "tests/scriptedserver/IppBytes.h"
+#include "tests/scriptedserver/ScriptedServer.h"
 
 #include <QtCore/QElapsedTimer>
 #include <QtGui/QPixmap>
@@ -64,13 +67,11 @@ int sentJob(const PrintServer &server, const QString &queue)
     return receipt ? receipt->id : 0;
 }
 
-void paint(const PrintServer &server, const QString &queue, const Ending &ending,
-           const QString &path)
+void paint(const QString &server, const JobName &job, const Ending &ending, const QString &path)
 {
-    const JobName job{queue, sentJob(server, queue), kPages};
     const QString expected = sentenceOf(job, {ending.phase, 0, QString::fromLatin1(ending.reason),
                                               QString::fromLatin1(ending.heldUntil)});
-    JobWindow window(server.address(), job);
+    JobWindow window(server, job);
     window.show();
     QElapsedTimer clock;
     clock.start();
@@ -81,6 +82,22 @@ void paint(const PrintServer &server, const QString &queue, const Ending &ending
     QApplication::processEvents();
     if (!window.grab().save(path))
         endWith(path);
+}
+
+/// An end that CUPS' own server never tells of.
+void paintErrors(const QString &path)
+{
+    const Ending ending{nullptr, nullptr, JobPhase::FinishedWithErrors, "A page is missing"};
+    const ScriptedServer server(
+        {{"Get-Job-Attributes",
+          answerIpp(
+              IppBytes()
+                  .group(IPP_TAG_JOB)
+                  .integer(IPP_TAG_ENUM, "job-state", IPP_JSTATE_COMPLETED)
+                  .attribute(IPP_TAG_KEYWORD, "job-state-reasons", "job-completed-with-errors")
+                  .attribute(IPP_TAG_TEXT, "job-printer-state-message", ending.reason)
+                  .ended())}});
+    paint(server.address(), {u"Photo"_s, kGoodJob, kPages}, ending, path);
 }
 
 } // namespace
@@ -99,7 +116,9 @@ int main(int argc, char **argv)
         if (!server.lpadmin({u"-p"_s, queue, u"-E"_s, u"-v"_s, device, u"-o"_s,
                              u"printer-error-policy=abort-job"_s}))
             endWith(u"there is no queue"_s);
-        paint(server, queue, ending, program.path(u"following-"_s + QLatin1String(ending.picture)));
+        paint(server.address(), {queue, sentJob(server, queue), kPages}, ending,
+              program.path(u"following-"_s + QLatin1String(ending.picture)));
     }
+    paintErrors(program.path(u"following-errors"_s));
     return 0;
 }

@@ -1,9 +1,9 @@
 // Every document as a job of its own (--each).
 #include "tests/endtoend/CommandFixture.h"
 #include "tests/endtoend/DeviceFixture.h"
-#include "tests/servers/GoodAnswers.h"
-#include "tests/servers/IppBytes.h"
-#include "tests/servers/ScriptedServer.h"
+#include "tests/scriptedserver/GoodAnswers.h"
+#include "tests/scriptedserver/IppBytes.h"
+#include "tests/scriptedserver/ScriptedServer.h"
 #include "tests/support/CaseName.h"
 
 #include <QtTest/QTest>

@@ -4,6 +4,9 @@
 #include "platform/toolkit/PlainText.h"
 #include "tests/endtoend/BrowserStandIn.h"
 #include "tests/endtoend/DeviceFixture.h"
+#include "tests/scriptedserver/GoodAnswers.h"
+#include "tests/scriptedserver/IppBytes.h"
+#include "tests/scriptedserver/ScriptedServer.h"
 #include "tests/support/CaseName.h"
 #include "tests/support/QStringPrinting.h"
 
@@ -81,6 +84,27 @@ TEST_P(FollowingWindowOf, TellsWhereTheJobStandsAndOffersWhatCanBeDone)
         EXPECT_EQ(buttons(),
                   (QStringList{u"restartButton"_s, u"openQueueButton"_s, u"closeButton"_s}));
     }
+}
+
+// CUPS' own server tells of no job that it has ended so.
+TEST_F(FollowingWindow, TellsOfAJobThatHasEndedWithErrors)
+{
+    const ScriptedServer other(
+        {{"Get-Job-Attributes",
+          answerIpp(
+              IppBytes()
+                  .group(IPP_TAG_JOB)
+                  .integer(IPP_TAG_ENUM, "job-state", IPP_JSTATE_COMPLETED)
+                  .attribute(IPP_TAG_KEYWORD, "job-state-reasons", "job-completed-with-errors")
+                  .attribute(IPP_TAG_TEXT, "job-printer-state-message", "A page is missing")
+                  .ended())}});
+    m_id = kGoodJob;
+    m_window = std::make_unique<JobWindow>(other.address(), JobName{u"photo"_s, m_id, 1});
+    m_window->show();
+    EXPECT_TRUE(comesTo(u"Job %1 on photo has ended with errors: A page is missing."_s))
+        << m_window->sentence().toStdString();
+    EXPECT_EQ(buttons(), (QStringList{u"restartButton"_s, u"openQueueButton"_s, u"closeButton"_s}));
+    EXPECT_TRUE(m_window->isAtEnd());
 }
 
 INSTANTIATE_TEST_SUITE_P(

@@ -4,7 +4,7 @@
 #include "dialog/window/PasswordDialog.h"
 #include "platform/foundation/UserDefaults.h"
 #include "tests/endtoend/DeviceFixture.h"
-#include "tests/servers/PasswordDemand.h"
+#include "tests/scriptedserver/PasswordDemand.h"
 
 #include <QtTest/QTest>
 #include <QtWidgets/QAbstractButton>

@@ -1,8 +1,8 @@
 // Servers that are away, go away, or refuse.
 #include "tests/endtoend/DialogEndToEndFixture.h"
 #include "tests/endtoend/ShownTitle.h"
-#include "tests/servers/IppBytes.h"
-#include "tests/servers/ScriptedServer.h"
+#include "tests/scriptedserver/IppBytes.h"
+#include "tests/scriptedserver/ScriptedServer.h"
 #include "tests/support/CaseName.h"
 #include "tests/support/EventLoopWatch.h"
 

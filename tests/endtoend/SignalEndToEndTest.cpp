@@ -1,7 +1,7 @@
 #include "dialog/files/FileDescriptor.h"
 #include "tests/endtoend/PrintServerFixture.h"
 #include "tests/endtoend/ProgramRun.h"
-#include "tests/servers/ScriptedServer.h"
+#include "tests/scriptedserver/ScriptedServer.h"
 #include "tests/support/Files.h"
 #include "tests/support/QStringPrinting.h"
 

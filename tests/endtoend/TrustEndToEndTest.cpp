@@ -3,7 +3,7 @@
 #include "platform/foundation/UserDefaults.h"
 #include "tests/built/BuiltFiles.h"
 #include "tests/endtoend/PrintServerFixture.h"
-#include "tests/servers/ScriptedServer.h"
+#include "tests/scriptedserver/ScriptedServer.h"
 #include "tests/support/QStringPrinting.h"
 
 #include <QtTest/QTest>

@@ -1,6 +1,6 @@
 #include "dialog/cups/IppAnswer.h"
 #include "dialog/cups/ServerLimits.h"
-#include "tests/servers/IppBytes.h"
+#include "tests/scriptedserver/IppBytes.h"
 #include "tests/support/QStringPrinting.h"
 
 #include <gtest/gtest.h>

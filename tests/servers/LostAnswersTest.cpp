@@ -1,7 +1,7 @@
 #include "dialog/cups/JobSubmission.h"
-#include "tests/servers/GoodAnswers.h"
-#include "tests/servers/IppBytes.h"
-#include "tests/servers/ScriptedServer.h"
+#include "tests/scriptedserver/GoodAnswers.h"
+#include "tests/scriptedserver/IppBytes.h"
+#include "tests/scriptedserver/ScriptedServer.h"
 #include "tests/support/Documents.h"
 #include "tests/support/Files.h"
 

@@ -1,8 +1,8 @@
 #include "dialog/cups/Destinations.h"
 #include "dialog/cups/QueuePPD.h"
-#include "tests/servers/GoodAnswers.h"
-#include "tests/servers/IppBytes.h"
-#include "tests/servers/ScriptedServer.h"
+#include "tests/scriptedserver/GoodAnswers.h"
+#include "tests/scriptedserver/IppBytes.h"
+#include "tests/scriptedserver/ScriptedServer.h"
 #include "tests/support/CaseName.h"
 #include "tests/support/QStringPrinting.h"
 

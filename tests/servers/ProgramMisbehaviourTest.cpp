@@ -1,6 +1,6 @@
 #include "tests/endtoend/ProgramRun.h"
-#include "tests/servers/IppBytes.h"
-#include "tests/servers/ScriptedServer.h"
+#include "tests/scriptedserver/IppBytes.h"
+#include "tests/scriptedserver/ScriptedServer.h"
 #include "tests/support/CaseName.h"
 #include "tests/support/Files.h"
 #include "tests/support/QStringPrinting.h"

@@ -2,7 +2,7 @@
 #include "dialog/cups/Destinations.h"
 #include "dialog/cups/JobSubmission.h"
 #include "tests/dialog/cups/ServerFixture.h"
-#include "tests/servers/ScriptedServer.h"
+#include "tests/scriptedserver/ScriptedServer.h"
 #include "tests/support/CaseName.h"
 #include "tests/support/Files.h"
 #include "tests/support/QStringPrinting.h"

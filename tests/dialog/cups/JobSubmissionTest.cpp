@@ -4,7 +4,7 @@
 #include "dialog/work/BackgroundCall.h"
 #include "tests/built/BuiltFiles.h"
 #include "tests/dialog/cups/ServerFixture.h"
-#include "tests/servers/ScriptedServer.h"
+#include "tests/scriptedserver/ScriptedServer.h"
 #include "tests/support/Documents.h"
 #include "tests/support/QStringPrinting.h"
 

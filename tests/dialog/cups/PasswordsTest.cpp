@@ -3,7 +3,7 @@
 #include "dialog/cups/Destinations.h"
 #include "dialog/cups/JobSubmission.h"
 #include "tests/dialog/cups/ServerFixture.h"
-#include "tests/servers/PasswordDemand.h"
+#include "tests/scriptedserver/PasswordDemand.h"
 #include "tests/support/CaseName.h"
 #include "tests/support/QStringPrinting.h"
 

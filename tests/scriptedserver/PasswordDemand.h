@@ -1,6 +1,6 @@
 #pragma once
 
-#include "tests/servers/ScriptedServer.h"
+#include "tests/scriptedserver/ScriptedServer.h"
 
 enum class PasswordScheme { Basic, Digest };
 

@@ -1,4 +1,4 @@
-#include "tests/servers/ServedConnection.h"
+#include "tests/scriptedserver/ServedConnection.h"
 
 #include <arpa/inet.h>
 #include <array>

@@ -1,4 +1,4 @@
-#include "tests/servers/PasswordDemand.h"
+#include "tests/scriptedserver/PasswordDemand.h"
 
 #include <QtCore/QCryptographicHash>
 #include <QtCore/QRegularExpression>

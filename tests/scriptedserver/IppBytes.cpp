@@ -1,4 +1,4 @@
-#include "tests/servers/IppBytes.h"
+#include "tests/scriptedserver/IppBytes.h"
 
 QByteArray ippNumber(int value, int bytes)
 {

@@ -1,4 +1,4 @@
-#include "tests/servers/ServerSteps.h"
+#include "tests/scriptedserver/ServerSteps.h"
 
 Step readBody(qint64 bytes)
 {

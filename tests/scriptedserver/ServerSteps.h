@@ -1,6 +1,6 @@
 #pragma once
 
-#include "tests/servers/ServedConnection.h"
+#include "tests/scriptedserver/ServedConnection.h"
 
 #include <QtCore/QList>
 

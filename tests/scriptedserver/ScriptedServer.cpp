@@ -1,6 +1,6 @@
-#include "tests/servers/ScriptedServer.h"
+#include "tests/scriptedserver/ScriptedServer.h"
 
-#include "tests/servers/GoodAnswers.h"
+#include "tests/scriptedserver/GoodAnswers.h"
 
 #include <algorithm>
 #include <arpa/inet.h>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "tests/servers/ServerSteps.h"
+#include "tests/scriptedserver/ServerSteps.h"
 
 #include <QtCore/QString>
 #include <QtCore/QStringList>

@@ -1,8 +1,8 @@
-#include "tests/servers/GoodAnswers.h"
+#include "tests/scriptedserver/GoodAnswers.h"
 
 #include "dialog/cups/IppAnswer.h"
 #include "tests/built/BuiltFiles.h"
-#include "tests/servers/IppBytes.h"
+#include "tests/scriptedserver/IppBytes.h"
 
 #include <QtCore/QFile>
 
