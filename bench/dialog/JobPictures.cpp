@@ -8,7 +8,7 @@
 #include "tests/built/BuiltFiles.h"
 #include "tests/printserver/PrintServer.h"
 #include "tests/scriptedserver/GoodAnswers.h"
-#include "tests/scriptedserver/IppBytes.h"
+#include "tests/scriptedserver/JobAnswers.h"
 #include "tests/scriptedserver/ScriptedServer.h"
 
 #include <QtCore/QElapsedTimer>
@@ -90,13 +90,7 @@ void paintErrors(const QString &path)
     const Ending ending{nullptr, nullptr, JobPhase::FinishedWithErrors, "A page is missing"};
     const ScriptedServer server(
         {{"Get-Job-Attributes",
-          answerIpp(
-              IppBytes()
-                  .group(IPP_TAG_JOB)
-                  .integer(IPP_TAG_ENUM, "job-state", IPP_JSTATE_COMPLETED)
-                  .attribute(IPP_TAG_KEYWORD, "job-state-reasons", "job-completed-with-errors")
-                  .attribute(IPP_TAG_TEXT, "job-printer-state-message", ending.reason)
-                  .ended())}});
+          jobInState(IPP_JSTATE_COMPLETED, "job-completed-with-errors", ending.reason)}});
     paint(server.address(), {u"Photo"_s, kGoodJob, kPages}, ending, path);
 }
 

@@ -5,7 +5,7 @@
 #include "tests/endtoend/BrowserStandIn.h"
 #include "tests/endtoend/DeviceFixture.h"
 #include "tests/scriptedserver/GoodAnswers.h"
-#include "tests/scriptedserver/IppBytes.h"
+#include "tests/scriptedserver/JobAnswers.h"
 #include "tests/scriptedserver/ScriptedServer.h"
 #include "tests/support/CaseName.h"
 #include "tests/support/QStringPrinting.h"
@@ -91,13 +91,7 @@ TEST_F(FollowingWindow, TellsOfAJobThatHasEndedWithErrors)
 {
     const ScriptedServer other(
         {{"Get-Job-Attributes",
-          answerIpp(
-              IppBytes()
-                  .group(IPP_TAG_JOB)
-                  .integer(IPP_TAG_ENUM, "job-state", IPP_JSTATE_COMPLETED)
-                  .attribute(IPP_TAG_KEYWORD, "job-state-reasons", "job-completed-with-errors")
-                  .attribute(IPP_TAG_TEXT, "job-printer-state-message", "A page is missing")
-                  .ended())}});
+          jobInState(IPP_JSTATE_COMPLETED, "job-completed-with-errors", "A page is missing")}});
     m_id = kGoodJob;
     m_window = std::make_unique<JobWindow>(other.address(), JobName{u"photo"_s, m_id, 1});
     m_window->show();

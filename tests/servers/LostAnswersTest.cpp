@@ -1,6 +1,7 @@
 #include "dialog/cups/JobSubmission.h"
 #include "tests/scriptedserver/GoodAnswers.h"
 #include "tests/scriptedserver/IppBytes.h"
+#include "tests/scriptedserver/JobAnswers.h"
 #include "tests/scriptedserver/ScriptedServer.h"
 #include "tests/support/Documents.h"
 #include "tests/support/Files.h"
@@ -35,16 +36,6 @@ protected:
     QTemporaryDir m_folder;
     CallGuard m_guard{kTimeout};
 };
-
-Steps jobInState(ipp_jstate_t state, const char *reason)
-{
-    return answerIpp(IppBytes()
-                         .group(IPP_TAG_JOB)
-                         .integer(IPP_TAG_INTEGER, "job-id", kGoodJob)
-                         .integer(IPP_TAG_ENUM, "job-state", state)
-                         .attribute(IPP_TAG_KEYWORD, "job-state-reasons", reason)
-                         .ended());
-}
 
 const Steps kNotFound = answerIpp(IppBytes(IPP_STATUS_ERROR_NOT_FOUND).ended());
 const Steps kNotPossible = answerIpp(IppBytes(IPP_STATUS_ERROR_NOT_POSSIBLE).ended());
