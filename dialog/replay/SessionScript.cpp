@@ -15,11 +15,11 @@ bool isOfWindow(const ReplayAction &action)
 
 template <typename Action> struct SessionScript::EventOf : Event
 {
-    EventOf(const Action &did, FollowedAnswers given) : Event(std::move(given)), action(did) {}
+    EventOf(const Action &did, const FollowedAnswers &given) : Event(given), action(did) {}
 
     QByteArray line(ppd_file_t *ppd) const override
     {
-        return scriptLine(recordedEvent(action, ppd), answers);
+        return scriptLine(recordedEvent(action, ppd), answers());
     }
 
     const Action action;
@@ -45,7 +45,7 @@ void SessionScript::note(const ReplayAction &action, const FollowedAnswers &answ
 
 QByteArrayList SessionScript::takeLines()
 {
-    for (; session() && !m_events.empty() && areGiven(m_events.front()->answers);
+    for (; session() && !m_events.empty() && areGiven(m_events.front()->answers());
          m_events.pop_front())
         m_lines += m_events.front()->line(session()->ppd());
     return std::exchange(m_lines, {});

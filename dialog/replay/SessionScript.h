@@ -32,11 +32,16 @@ private:
     /// An event that no line was made of yet.
     struct Event
     {
-        explicit Event(FollowedAnswers given) : answers(std::move(given)) {}
+        explicit Event(const FollowedAnswers &given)
+            : m_answers(given.empty() ? nullptr : std::make_unique<FollowedAnswers>(given))
+        {}
         virtual ~Event() = default;
         virtual QByteArray line(ppd_file_t *ppd) const = 0;
 
-        const FollowedAnswers answers;
+        FollowedAnswers answers() const { return m_answers ? *m_answers : FollowedAnswers(); }
+
+    private:
+        const std::unique_ptr<const FollowedAnswers> m_answers; ///< null: none, as mostly
     };
 
     /// It takes no more room than its kind.
