@@ -8,8 +8,6 @@
 
 namespace {
 
-constexpr qint64 kMegabyte = 1024LL * 1024;
-
 Fault unreadable(const QString &path, const QString &reason)
 {
     return {FaultKind::Output, QCoreApplication::translate(
@@ -20,7 +18,7 @@ Fault unreadable(const QString &path, const QString &reason)
 Fault tooLarge(const QString &path)
 {
     return unreadable(path, QCoreApplication::translate("LpoptionsFile", "it has more than %1 MB")
-                                .arg(kLargestLpoptions / kMegabyte));
+                                .arg(kMostLpoptionsMegabytes));
 }
 
 /// A pipe would keep whoever opens it waiting.

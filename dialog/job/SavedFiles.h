@@ -10,7 +10,8 @@
 QStringList lpoptionsFiles();
 
 /// More than hundreds of presets take.
-inline constexpr qint64 kLargestLpoptions = 4LL * 1024 * 1024;
+inline constexpr qint64 kMostLpoptionsMegabytes = 4;
+inline constexpr qint64 kLargestLpoptions = kMostLpoptionsMegabytes * 1024 * 1024;
 
 /// The text of such a file, empty where there is none. A fault of kind Output when it cannot be
 /// read: what is saved in it is not there then.
