@@ -155,7 +155,7 @@ QString addressText(const QString &value)
     return value.mid(kMail.size());
 }
 
-constexpr std::array kSettings{
+constexpr std::array kLayoutSettings{
     LayoutSetting{"number-up"_L1, &JobLayout::pagesPerSheet,
                   QT_TRANSLATE_NOOP("JobLayout", "Pages per Sheet"), kPagesPerSheet},
     LayoutSetting{"number-up-layout"_L1, &JobLayout::pageOrder,
@@ -209,13 +209,13 @@ QString converted(const QString &text, Qt::TimeSpec from, Qt::TimeSpec to)
 
 std::span<const LayoutSetting> layoutSettings()
 {
-    return kSettings;
+    return kLayoutSettings;
 }
 
 const LayoutSetting *layoutSetting(const QString &option)
 {
-    const auto *found = std::ranges::find(kSettings, option, &LayoutSetting::option);
-    return found == kSettings.end() ? nullptr : found;
+    const auto *found = std::ranges::find(kLayoutSettings, option, &LayoutSetting::option);
+    return found == kLayoutSettings.end() ? nullptr : found;
 }
 
 QString normalizedLayoutValue(const LayoutSetting &setting, const QString &value)
@@ -258,7 +258,7 @@ QString coverText(const QString &name)
 QList<JobOption> layoutOptions(const JobLayout &layout)
 {
     QList<JobOption> options;
-    for (const LayoutSetting &setting : kSettings)
+    for (const LayoutSetting &setting : kLayoutSettings)
         if (const QString &value = layout.*setting.value; !value.isEmpty())
             options += JobOption{setting.option, value};
     return options;

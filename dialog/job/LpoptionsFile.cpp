@@ -15,8 +15,8 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr qsizetype kLongestLine = 8000; // bytes: libcups reads 8,191 of a line
-constexpr int kLockTimeout = 5000;       // ms
+constexpr qsizetype kLongestNewLine = 8000; // bytes: libcups reads 8,191 of a line
+constexpr int kLockTimeout = 5000;          // ms
 
 /// The value as cupsParseOptions() reads it from a line of a file, in which a # begins a comment.
 QByteArray quotedValue(const QString &value)
@@ -143,7 +143,7 @@ Result<> changeLpoptions(const std::function<Result<QByteArray>(const QByteArray
     if (!changed)
         return changed.fault();
     for (const QByteArray &line : linesOf(*changed))
-        if (line.size() > kLongestLine && !former->contains(line))
+        if (line.size() > kLongestNewLine && !former->contains(line))
             return Fault{FaultKind::Output,
                          QCoreApplication::translate("LpoptionsFile",
                                                      "These are too many settings for one name.")};

@@ -9,7 +9,7 @@
 
 namespace {
 
-constexpr int kMostSeconds = 1'000'000; // milliseconds of them are still a number
+constexpr int kLongestTimeout = 1'000'000; // seconds: their milliseconds are still a number
 
 /// One option: it has a flag, or takes a value.
 struct Option
@@ -130,11 +130,11 @@ QString takeTimeout(CommandLine &line, const QString &value)
 {
     bool isNumber = false;
     const int seconds = value.toInt(&isNumber);
-    if (!isNumber || seconds < 0 || seconds > kMostSeconds)
+    if (!isNumber || seconds < 0 || seconds > kLongestTimeout)
         return QCoreApplication::translate("CommandLine",
                                            "--timeout needs a number of seconds from 0 to %1, not "
                                            "\"%2\".")
-            .arg(QString::number(kMostSeconds), value);
+            .arg(QString::number(kLongestTimeout), value);
     line.timeout = seconds;
     return {};
 }

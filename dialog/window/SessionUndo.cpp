@@ -14,7 +14,7 @@
 namespace {
 
 constexpr int kManyEvents = 150; // that are done once more within one frame
-constexpr int kPause = 50;       // ms in which nobody does anything: time to look closely
+constexpr int kStillness = 50;   // ms in which nobody does anything: time to look closely
 
 QList<double> valuesOfSliders(const HostSession &session)
 {
@@ -43,7 +43,7 @@ SessionUndo::SessionUndo(PrintController &controller, QObject *parent)
         return Result<>();
     });
     m_pause.setSingleShot(true);
-    m_pause.setInterval(kPause);
+    m_pause.setInterval(kStillness);
     connect(&m_pause, &QTimer::timeout, this, &SessionUndo::takeImage);
 }
 

@@ -10,7 +10,7 @@
 
 namespace {
 
-constexpr int kRowMargin = 8;
+constexpr int kFilterMargin = 8;
 
 } // namespace
 
@@ -25,7 +25,7 @@ SummaryPart::SummaryPart(QWidget *parent)
     m_copy->setObjectName(QStringLiteral("copySummaryButton"));
     m_copy->setAutoDefault(false);
     auto *row = new FlowLayout;
-    row->setContentsMargins(2 * kRowMargin, kRowMargin, 2 * kRowMargin, 0);
+    row->setContentsMargins(2 * kFilterMargin, kFilterMargin, 2 * kFilterMargin, 0);
     row->addWidget(m_onlyDifferent);
     row->addWidget(m_copy);
     auto *content = new QWidget;

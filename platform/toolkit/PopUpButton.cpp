@@ -14,7 +14,7 @@
 namespace {
 
 constexpr int kContentsLength = 12;     // characters: wide enough for an ordinary choice
-constexpr int kMostLength = 60;         // what is longer is cut
+constexpr int kLongestTitle = 60;       // what is longer is cut
 constexpr std::size_t kMostTitles = 16; // that are measured
 constexpr int kAroundTitle = 2;         // pixels that styles take from it
 constexpr int kPictureSpacing = 4;      // pixels, as the toolkit has them
@@ -49,7 +49,7 @@ QSize PopUpButton::sizeFor(int length) const
 {
     const QFontMetrics metrics = fontMetrics();
     const int letter = metrics.horizontalAdvance(u'X');
-    const int titles = std::min(widthOfTitles() + kAroundTitle, kMostLength * letter);
+    const int titles = std::min(widthOfTitles() + kAroundTitle, kLongestTitle * letter);
     const QSize contents(std::max(length * letter, titles), metrics.height() + 2);
     QStyleOptionComboBox option;
     initStyleOption(&option);
