@@ -63,28 +63,38 @@ QString wordFor(const char *keyword)
 
 void nameOption(ppd_file_t &ppd, ppd_option_t &option)
 {
+    if (!hasNoWords(option, option.keyword))
+        return;
     QString words = wordFor(option.keyword);
     if (words.isNull())
         words = textInNoLanguage(ppd, kNoLanguage, option.keyword);
-    if (!words.isNull() && hasNoWords(option, option.keyword))
+    if (!words.isNull())
         putWords(option, words);
-    if (!ppdFindAttr(&ppd, kNoLanguage, nullptr))
-        return;
+}
+
+void nameChoices(ppd_file_t &ppd, ppd_option_t &option)
+{
     const QByteArray attribute = QByteArray("C.") + option.keyword;
     for (ppd_choice_t &choice :
-         std::span(option.choices, static_cast<std::size_t>(option.num_choices)))
-        if (hasNoWords(choice, choice.choice))
-            if (const QString said = textInNoLanguage(ppd, attribute, choice.choice);
-                !said.isNull())
-                putWords(choice, said);
+         std::span(option.choices, static_cast<std::size_t>(option.num_choices))) {
+        if (!hasNoWords(choice, choice.choice))
+            continue;
+        const QString said = textInNoLanguage(ppd, attribute, choice.choice);
+        if (!said.isNull())
+            putWords(choice, said);
+    }
 }
 
 } // namespace
 
 void nameWhatHasNoWords(ppd_file_t &ppd)
 {
+    const bool speaksNoLanguage = ppdFindAttr(&ppd, kNoLanguage, nullptr);
     for (ppd_group_t &group : std::span(ppd.groups, static_cast<std::size_t>(ppd.num_groups)))
         for (ppd_option_t &option :
-             std::span(group.options, static_cast<std::size_t>(group.num_options)))
+             std::span(group.options, static_cast<std::size_t>(group.num_options))) {
             nameOption(ppd, option);
+            if (speaksNoLanguage)
+                nameChoices(ppd, option);
+        }
 }
