@@ -40,7 +40,7 @@ void EventWatch::didAnswer(const HostCallback::Call &call)
         m_refusal = refusalSentence(m_controller.job().ppd(), call.keyword, call.choice);
     if (m_pick.keyword.isNull())
         m_pick = {call.keyword, call.accepted ? call.choice : QString()};
-    noteEvent();
+    note();
 }
 
 /// The panels have heard of it before, and asked for what follows from it.
@@ -70,7 +70,7 @@ void EventWatch::didFail(PanelOperation, const HostPanel &, const QString &sente
 void EventWatch::note(const PPDMark &pick)
 {
     m_pick = pick;
-    noteEvent();
+    note();
 }
 
 void EventWatch::noteOwn()
@@ -78,7 +78,7 @@ void EventWatch::noteOwn()
     note({u""_s, QString()}); // nobody's
 }
 
-void EventWatch::noteEvent()
+void EventWatch::note()
 {
     if (std::exchange(m_isNoted, true))
         return;

@@ -33,7 +33,7 @@ public:
     explicit EventWatch(PrintController &controller, QObject *parent = nullptr);
 
     /// Something is going on, in the settings that are picked (a null keyword: not known which).
-    void note() { noteEvent(); }
+    void note();
     void note(const PPDMark &pick);
 
     /// What the dialog does by itself is going on, as when another part comes in front.
@@ -73,7 +73,6 @@ private:
     void didWriteTicket(const QString &key, const QVariant &value) override;
     void didFail(PanelOperation operation, const HostPanel &panel,
                  const QString &sentence) override;
-    void noteEvent();
     QList<SettingChange> takeChanges();
 
     PrintController &m_controller;

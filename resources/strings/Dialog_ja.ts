@@ -2711,11 +2711,11 @@ Shift+F1 or the context menu tells why.</source>
     </message>
     <message>
         <source>Paper Source</source>
-        <translation>給紙元</translation>
+        <translation>給紙方法</translation>
     </message>
     <message>
         <source>Media Type</source>
-        <translation>用紙の種類</translation>
+        <translation>用紙種類</translation>
     </message>
     <message>
         <source>Output Bin</source>
