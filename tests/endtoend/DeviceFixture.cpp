@@ -17,8 +17,8 @@ constexpr auto kBackend = R"(#!/bin/sh
 cat ${6:+"$6"} > /dev/null
 case "$DEVICE_URI" in
 */empty)
-    echo 'STATE: +media-empty-error' >&2
     echo 'ERROR: The multi-purpose tray is empty' >&2
+    echo 'STATE: +media-empty-error' >&2
     while [ ! -e @FLAG@ ]; do sleep 0.1; done
     echo 'STATE: -media-empty-error' >&2 ;;
 */retry) echo 'ERROR: No route to the printer' >&2; exit 1 ;;
