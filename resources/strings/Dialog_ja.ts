@@ -651,8 +651,8 @@ Shift+F1 or the context menu tells why.</source>
         <translation>「ページ設定」では、用紙、向き、両面印刷など、この画面で決める項目を選びます。任意の用紙サイズは用紙の下に入力します。プリンターで使えない大きさのときは、入力欄の横に表示されます。</translation>
     </message>
     <message>
-        <source>When the printer does not allow two settings together, the second one is not made, and a line above the tabs names both.</source>
-        <translation>同時に使えない設定を選んだときは、後から選んだ設定は反映されず、両方の名前がタブの上に表示されます。</translation>
+        <source>When the printer does not allow two settings together, the second one is not made, and a line below the tabs names both.</source>
+        <translation>同時に使えない設定を選んだときは、後から選んだ設定は反映されず、両方の名前がタブの下に表示されます。</translation>
     </message>
     <message>
         <source>Summary lists everything that will be printed with. &quot;Save to File&quot; keeps the job with its documents; open it here later, as a document, to print it.</source>
