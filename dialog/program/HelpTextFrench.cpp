@@ -30,7 +30,8 @@ Réglages
 
 Travail
   -n, --copies NUMBER     imprimer ce nombre d’exemplaires
-  -P, --pages LIST        imprimer ces pages : 1-3,5
+  -P, --pages LIST        imprimer ces pages : 1-3,5 (avec plusieurs pages
+                          par feuille : ces côtés imprimés)
   -t, --title TITLE       donner ce titre au travail
   -H, --hold WHEN         retenir le travail : hold, immediate, night ou une
                           autre période du serveur, ou une heure UTC, HH:MM

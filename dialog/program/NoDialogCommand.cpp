@@ -237,16 +237,15 @@ Result<> Run::makeWithoutLost(const Result<> &made)
 /// Pages that a document does not have would end in trouble on the server.
 void Run::countPages()
 {
-    const QString ranges = m_controller.job().settings().pageRanges;
-    if (ranges.isEmpty() && !m_line.wait) {
+    if (m_controller.job().settings().pageRanges.isEmpty() && !m_line.wait) {
         finish();
         return;
     }
-    m_controller.countPages([this, ranges](const PageCount &count) {
+    m_controller.countPages([this](const PageCount &count) {
         m_count = count;
-        const Documents &documents = m_controller.job().documents();
-        if (goOn(m_line.each ? checkPagesOfEach(ranges, count, documents)
-                             : checkPages(ranges, count)))
+        const PrintJob &job = m_controller.job();
+        if (goOn(m_line.each ? checkPagesOfEach(job.settings(), count, job.documents())
+                             : checkPages(job.settings(), count)))
             finish();
     });
 }

@@ -715,6 +715,10 @@ Umschalt+F1 oder das Kontextmenü sagt, warum.</translation>
         <source>For %1 there is &quot;%2&quot;.</source>
         <translation>Für %1 gibt es „%2“.</translation>
     </message>
+    <message>
+        <source>With several pages on a sheet, &quot;Pages&quot; and &quot;Even and Odd&quot; count the printed sides.</source>
+        <translation>Bei mehreren Seiten pro Blatt zählen „Seiten“ und „Gerade und ungerade“ die bedruckten Blattseiten.</translation>
+    </message>
 </context>
 <context>
     <name>JobFile</name>
@@ -804,6 +808,14 @@ Umschalt+F1 oder das Kontextmenü sagt, warum.</translation>
     <message>
         <source>How many there are is not known</source>
         <translation>Wie viele es gibt, ist nicht bekannt</translation>
+    </message>
+    <message>
+        <source>%1 is beyond side %2</source>
+        <translation>%1 liegt hinter Blattseite %2</translation>
+    </message>
+    <message>
+        <source>%1 sides in all</source>
+        <translation>insgesamt %1 Blattseiten</translation>
     </message>
 </context>
 <context>
@@ -2689,6 +2701,10 @@ Umschalt+F1 oder das Kontextmenü sagt, warum.</translation>
     <message>
         <source>Page %1 is beyond the document's last page, %2.</source>
         <translation>Seite %1 liegt hinter der letzten Seite des Dokuments, %2.</translation>
+    </message>
+    <message>
+        <source>%1 is beyond the last side that is printed, %2.</source>
+        <translation>%1 liegt hinter der letzten bedruckten Blattseite, %2.</translation>
     </message>
 </context>
 <context>

@@ -715,6 +715,10 @@ Maj+F1 ou le menu contextuel dit pourquoi.</translation>
         <source>For %1 there is &quot;%2&quot;.</source>
         <translation>Pour %1, il y a « %2 ».</translation>
     </message>
+    <message>
+        <source>With several pages on a sheet, &quot;Pages&quot; and &quot;Even and Odd&quot; count the printed sides.</source>
+        <translation>Avec plusieurs pages par feuille, « Pages » et « Paires et impaires » comptent les côtés imprimés.</translation>
+    </message>
 </context>
 <context>
     <name>JobFile</name>
@@ -804,6 +808,14 @@ Maj+F1 ou le menu contextuel dit pourquoi.</translation>
     <message>
         <source>How many there are is not known</source>
         <translation>Leur nombre n’est pas connu</translation>
+    </message>
+    <message>
+        <source>%1 is beyond side %2</source>
+        <translation>%1 dépasse le côté %2</translation>
+    </message>
+    <message>
+        <source>%1 sides in all</source>
+        <translation>%1 côtés en tout</translation>
     </message>
 </context>
 <context>
@@ -2689,6 +2701,10 @@ Maj+F1 ou le menu contextuel dit pourquoi.</translation>
     <message>
         <source>Page %1 is beyond the document's last page, %2.</source>
         <translation>La page %1 dépasse la dernière page du document, %2.</translation>
+    </message>
+    <message>
+        <source>%1 is beyond the last side that is printed, %2.</source>
+        <translation>%1 dépasse le dernier côté imprimé, %2.</translation>
     </message>
 </context>
 <context>

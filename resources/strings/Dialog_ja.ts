@@ -715,6 +715,10 @@ Shift+F1 or the context menu tells why.</source>
         <source>For %1 there is &quot;%2&quot;.</source>
         <translation>%1 には「%2」を使用できます。</translation>
     </message>
+    <message>
+        <source>With several pages on a sheet, &quot;Pages&quot; and &quot;Even and Odd&quot; count the printed sides.</source>
+        <translation>1 枚に複数のページを印刷するときは、「ページ」と「奇数・偶数ページ」は印刷される面を数えます。</translation>
+    </message>
 </context>
 <context>
     <name>JobFile</name>
@@ -804,6 +808,14 @@ Shift+F1 or the context menu tells why.</source>
     <message>
         <source>How many there are is not known</source>
         <translation>全ページ数は不明です</translation>
+    </message>
+    <message>
+        <source>%1 is beyond side %2</source>
+        <translation>%1 は最後の面 (%2) を超えています</translation>
+    </message>
+    <message>
+        <source>%1 sides in all</source>
+        <translation>全 %1 面</translation>
     </message>
 </context>
 <context>
@@ -2689,6 +2701,10 @@ Shift+F1 or the context menu tells why.</source>
     <message>
         <source>Page %1 is beyond the document's last page, %2.</source>
         <translation>%1 ページは、文書の最終ページ (%2) を超えています。</translation>
+    </message>
+    <message>
+        <source>%1 is beyond the last side that is printed, %2.</source>
+        <translation>%1 は、印刷される最後の面 (%2) を超えています。</translation>
     </message>
 </context>
 <context>
