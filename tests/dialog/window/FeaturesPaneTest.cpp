@@ -206,8 +206,18 @@ TEST_F(FeaturesOf, AnotherPrinterAreNoSettingsOutOfTheirLimits)
     m_line.choices = {{u"Weight"_s, u"Custom.301"_s}};
     openFeatures();
     EXPECT_EQ(m_window->settingState().sentence(),
-              u"Custom.301 is no value for Weight. It can be: Light, Heavy, Custom."_s);
+              u"Custom.301 is no value for Weight. It can be: Light, Heavy, Custom.Grams. Grams is "
+              "at most 300."_s);
     EXPECT_EQ(marked(u"Weight"_s), u"Light"_s);
+}
+
+TEST_F(FeaturesOf, AnotherPrinterAreNoSettingsWithoutTheirValues)
+{
+    m_line.choices = {{u"Stamp"_s, u"Custom"_s}};
+    openFeatures();
+    EXPECT_EQ(m_window->settingState().sentence(),
+              u"Custom is no value for Stamp. It can be: Off, {Text=… Angle=… Offset=…}."_s);
+    EXPECT_EQ(marked(u"Stamp"_s), u"Off"_s);
 }
 
 // A panel hears of a choice that was made elsewhere, as it always does.
