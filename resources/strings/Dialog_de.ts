@@ -1282,6 +1282,10 @@ Umschalt+F1 oder das Kontextmenü sagt, warum.</translation>
         <source>Also Sent</source>
         <translation>Wird auch gesendet</translation>
     </message>
+    <message>
+        <source>Printer Features</source>
+        <translation>Druckerfunktionen</translation>
+    </message>
 </context>
 <context>
     <name>JobTrial</name>

@@ -1282,6 +1282,10 @@ Maj+F1 ou le menu contextuel dit pourquoi.</translation>
         <source>Also Sent</source>
         <translation>Également envoyé</translation>
     </message>
+    <message>
+        <source>Printer Features</source>
+        <translation>Fonctions de l’imprimante</translation>
+    </message>
 </context>
 <context>
     <name>JobTrial</name>

@@ -1282,6 +1282,10 @@ Shift+F1 or the context menu tells why.</source>
         <source>Also Sent</source>
         <translation>あわせて送られる設定</translation>
     </message>
+    <message>
+        <source>Printer Features</source>
+        <translation>プリンターの機能</translation>
+    </message>
 </context>
 <context>
     <name>JobTrial</name>

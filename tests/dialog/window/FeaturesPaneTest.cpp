@@ -135,6 +135,20 @@ TEST_F(FeaturesOf, EveryKindReachTheJobAndTheSummary)
         EXPECT_TRUE(options.contains(option)) << options.join(u'\n').toStdString();
 }
 
+TEST_F(FeaturesOf, AnotherPrinterAreAllInTheSummaryAsTheyAre)
+{
+    openFeatures();
+    pick("WeightFeature", u"Heavy"_s);
+    const QString all = summary().join(u'|');
+    EXPECT_TRUE(all.endsWith(u"|Printer Features|Finish|Nothing|Jog Stacks|No|Paper Weight|Heavy|"
+                             "Stamp|No Stamp|Private Print|Off|Tone|Plain"_s))
+        << all.toStdString();
+    click("onlyDifferentButton");
+    const QString different = summary().join(u'|');
+    EXPECT_TRUE(different.endsWith(u"Printer Features|Paper Weight|Heavy"_s))
+        << different.toStdString();
+}
+
 TEST_F(FeaturesOf, AnotherPrinterAreNamedWhereTheyClash)
 {
     openFeatures();
