@@ -6,6 +6,7 @@
 #include "dialog/cups/JobTemplate.h"
 #include "dialog/cups/LostCreation.h"
 #include "dialog/cups/QueueOutlook.h"
+#include "dialog/cups/ServerRequests.h"
 
 #include <QtCore/QCoreApplication>
 
