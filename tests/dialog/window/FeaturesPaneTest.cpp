@@ -215,6 +215,20 @@ TEST_F(FeaturesOf, AnotherPrinterAreSettingsOfTheCommandLineToo)
     EXPECT_EQ(part<QLineEdit>("StampText")->text(), u"x"_s);
 }
 
+TEST_F(FeaturesOf, AnotherPrinterAreShownAsTheyAreWishedWhereTheirPartIsWishedToo)
+{
+    m_line.choices = {{u"Weight"_s, u"Heavy"_s}};
+    m_line.panel = u"features"_s;
+    openFeatures();
+    EXPECT_EQ(part<PopUpButton>("WeightFeature")->selectedObject(), u"Heavy"_s);
+    m_line.panel = u"summary"_s;
+    m_window.reset();
+    open();
+    const QStringList texts = summary();
+    EXPECT_EQ(texts.value(texts.indexOf(u"Paper Weight"_s) + 1), u"Heavy"_s)
+        << texts.join(u'|').toStdString();
+}
+
 TEST_F(FeaturesOf, AnotherPrinterAreNoSettingsOutOfTheirLimits)
 {
     m_line.choices = {{u"Weight"_s, u"Custom.301"_s}};
