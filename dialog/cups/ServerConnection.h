@@ -78,7 +78,8 @@ public:
 private:
     /// Has libcups ask nobody for passwords.
     static void askNobody();
-    /// Not connected yet: with the guard in place, a handshake for TLS waits no longer than it says.
+    /// Not connected yet: with the guard in place, a handshake for TLS waits no longer than it
+    /// says.
     static http_t *newHandle(http_encryption_t encryption, CallGuard &guard);
     bool connectAnew();
     bool begin(int timeouts);

@@ -10,5 +10,6 @@
 QString normalizedPageRanges(const QString &typed);
 
 /// The first page of the first range that lies wholly beyond a document of so many pages (or sides,
-/// where those are counted); none where every range has a page of it. `ranges` as normalizedPageRanges() gives them.
+/// where those are counted); none where every range has a page of it. `ranges` as
+/// normalizedPageRanges() gives them.
 std::optional<int> pageBeyond(const QString &ranges, int pages);
