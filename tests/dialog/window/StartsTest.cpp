@@ -34,6 +34,13 @@ protected:
     void startSecond();
     void startThird();
 
+    void start(int number)
+    {
+        constexpr std::array kStarts{&Starts::startFirst, &Starts::startSecond,
+                                     &Starts::startThird};
+        (this->*kStarts.at(static_cast<std::size_t>(number - 1)))();
+    }
+
     QStringList ownPapers()
     {
         QStringList titles;
@@ -168,22 +175,21 @@ void Starts::startThird()
 
 TEST_F(Starts, FindAllAsItWasLeft)
 {
-    constexpr std::array kStarts{&Starts::startFirst, &Starts::startSecond, &Starts::startThird};
     if (m_start > 0)
-        return (this->*kStarts.at(static_cast<std::size_t>(m_start - 1)))();
+        return start(m_start);
     const QTemporaryDir home;
     QDir(home.path()).mkpath(u".cups"_s);
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
     environment.insert(QLatin1String(kSharedHome), home.path());
-    for (std::size_t start = 1; start <= kStarts.size(); ++start) {
-        environment.insert(QLatin1String(kStart), QString::number(start));
+    for (int number = 1; number <= 3; ++number) {
+        environment.insert(QLatin1String(kStart), QString::number(number));
         QProcess program;
         program.setProcessEnvironment(environment);
         program.setProcessChannelMode(QProcess::MergedChannels);
         program.start(u"/proc/self/exe"_s,
                       {u"--gtest_brief=1"_s, u"--gtest_filter=Starts.FindAllAsItWasLeft"_s});
-        ASSERT_TRUE(program.waitForFinished()) << start;
-        EXPECT_EQ(program.exitCode(), 0) << start << ":\n" << program.readAll().toStdString();
+        ASSERT_TRUE(program.waitForFinished()) << number;
+        EXPECT_EQ(program.exitCode(), 0) << number << ":\n" << program.readAll().toStdString();
     }
 }
 
