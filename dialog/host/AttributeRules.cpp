@@ -1,6 +1,5 @@
 #include "dialog/host/AttributeRules.h"
 
-#include <QtCore/QRegularExpression>
 #include <QtCore/QStringList>
 
 #include <algorithm>
@@ -14,26 +13,48 @@ namespace {
 struct Attribute
 {
     QLatin1String name;
-    QLatin1String values; ///< a pattern for the whole value
+    bool (*takes)(const QString &value);
 };
 
-// What servers derive or have a default of. Never `media`: it would win over the paper.
+bool isFinishing(const QString &value)
+{
+    constexpr int kNone = 3; // the least that IPP has
+    constexpr int kEnd = 1000;
+    const int number = value.toInt();
+    return number >= kNone && number < kEnd && value == QString::number(number);
+}
+
+bool isQuality(const QString &value)
+{
+    return value == "3"_L1 || value == "4"_L1 || value == "5"_L1;
+}
+
+bool isSides(const QString &value)
+{
+    return value == "one-sided"_L1 || value == "two-sided-long-edge"_L1 ||
+           value == "two-sided-short-edge"_L1;
+}
+
+bool isKeyword(const QString &value)
+{
+    const auto belongs = [](QChar sign) {
+        return (sign >= u'a' && sign <= u'z') || (sign >= u'0' && sign <= u'9') || sign == u'-';
+    };
+    return !value.isEmpty() && std::ranges::all_of(value, belongs);
+}
+
+// What servers derive or have a default of. Never `media`: it would win over the paper. The values
+// are told by hand: a regular expression would be the only one of the whole start.
 constexpr std::array kAttributes{
-    Attribute{"finishings"_L1, "[3-9]|[1-9]\\d{1,2}"_L1},
-    Attribute{"output-bin"_L1, "[a-z0-9-]+"_L1},
-    Attribute{"print-color-mode"_L1, "[a-z-]+"_L1},
-    Attribute{"print-content-optimize"_L1, "[a-z-]+"_L1},
-    Attribute{"print-quality"_L1, "[345]"_L1},
-    Attribute{"sides"_L1, "one-sided|two-sided-long-edge|two-sided-short-edge"_L1},
+    Attribute{"finishings"_L1, isFinishing},     Attribute{"output-bin"_L1, isKeyword},
+    Attribute{"print-color-mode"_L1, isKeyword}, Attribute{"print-content-optimize"_L1, isKeyword},
+    Attribute{"print-quality"_L1, isQuality},    Attribute{"sides"_L1, isSides},
 };
 
 bool isValueOf(const QString &name, const QString &value)
 {
     const auto *attribute = std::ranges::find(kAttributes, name, &Attribute::name);
-    return attribute != kAttributes.end() &&
-           QRegularExpression(QRegularExpression::anchoredPattern(attribute->values))
-               .match(value)
-               .hasMatch();
+    return attribute != kAttributes.end() && attribute->takes(value);
 }
 
 std::optional<AttributeRule> ruleOf(const QVariantMap &row)

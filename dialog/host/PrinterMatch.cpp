@@ -18,10 +18,18 @@ void addKeywords(const ppd_group_t *groups, int count, QStringList &keywords)
     }
 }
 
-bool fits(const QVariant &pattern, const QString &text)
+/// Most patterns are plain names, for which fnmatch() would have the locale's letters loaded.
+bool isPlain(const QString &pattern)
 {
-    return fnmatch(pattern.toString().toUtf8().constData(), text.toUtf8().constData(),
-                   FNM_CASEFOLD) == 0;
+    return std::ranges::none_of(pattern, [](QChar sign) { return u"*?[\\"_s.contains(sign); });
+}
+
+bool fits(const QVariant &value, const QString &text)
+{
+    const QString pattern = value.toString();
+    if (isPlain(pattern))
+        return text.compare(pattern, Qt::CaseInsensitive) == 0;
+    return fnmatch(pattern.toUtf8().constData(), text.toUtf8().constData(), FNM_CASEFOLD) == 0;
 }
 
 bool fitsAttributes(const QVariant &patterns, const PrinterFacts &facts)
@@ -115,8 +123,9 @@ std::optional<qsizetype> matchLength(const QVariant &printers, const PrinterFact
     std::optional<qsizetype> longest;
     for (const QVariant &printer : printers.toList()) {
         const QVariantMap description = printer.toMap();
-        if (fits(description, facts))
-            longest = std::max(longest.value_or(0), charactersNamed(description));
+        const qsizetype length = charactersNamed(description);
+        if (length > longest && fits(description, facts)) // none is less than any
+            longest = length;
     }
     return longest;
 }
@@ -127,7 +136,7 @@ QString bestBundle(const QList<BundleCandidate> &candidates, const PrinterFacts 
     std::optional<qsizetype> longest;
     for (const BundleCandidate &candidate : candidates) {
         const std::optional<qsizetype> length = matchLength(candidate.printers, facts);
-        if (length > longest) { // none is less than any
+        if (length > longest) {
             longest = length;
             best = candidate.path;
         }

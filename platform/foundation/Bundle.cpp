@@ -40,7 +40,7 @@ std::optional<QVariantMap> readInfo(const QString &path)
     QFile file(path);
     if (!info.isFile() || info.size() > kLargestInfo || !file.open(QIODevice::ReadOnly))
         return std::nullopt;
-    const auto document = QJsonDocument::fromJson(file.read(kLargestInfo));
+    const auto document = QJsonDocument::fromJson(file.read(info.size()));
     if (!document.isObject())
         return std::nullopt;
     return document.object().toVariantMap();

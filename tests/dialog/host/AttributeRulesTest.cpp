@@ -77,6 +77,10 @@ INSTANTIATE_TEST_SUITE_P(
         WrongEntry{"QualityInWords", "[" + rule("print-quality", "high") + "]", 1},
         WrongEntry{"NoSides", "[" + rule("sides", "both") + "]", 1},
         WrongEntry{"WithSpaces", "[" + rule("print-color-mode", "two colours") + "]", 1},
+        WrongEntry{"OfNoText", "[" + rule("output-bin", "") + "]", 1},
+        WrongEntry{"FinishingOfNoStandard", "[" + rule("finishings", "2") + "]", 1},
+        WrongEntry{"FinishingBeyondAll", "[" + rule("finishings", "1000") + "]", 1},
+        WrongEntry{"FinishingWithASign", "[" + rule("finishings", "+4") + "]", 1},
         WrongEntry{"SecondRow", "[" + rule("sides", "one-sided") + ", " + rule("raw", "true") + "]",
                    2}),
     CaseName());
