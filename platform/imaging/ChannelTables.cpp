@@ -19,6 +19,12 @@ void buildPair(std::array<std::array<quint64, 256>, 2> &pair, double gain, doubl
         pair[0][i] = quint64(value) << kPixelShift[0];
         pair[1][i] = quint64(value) << kPixelShift[1];
     };
+    // Decoded and encoded again it would be the same; the curves come with the first change.
+    if (gain == 1.0 && bias == 0.0) {
+        for (std::size_t i = 0; i < pair[0].size(); ++i)
+            put(i, static_cast<quint8>(i));
+        return;
+    }
     SrgbEncoder::instance().encodeEach(srgbDecode8(), gain, bias, put);
 }
 

@@ -40,9 +40,8 @@ void FractionSlider::setDoubleValue(double value)
 {
     const QSignalBlocker quiet(this);
     m_value = value;
-    const double steps = std::clamp(std::isnan(value) ? 0.0 : std::round(value * kUnit),
-                                    double(minimum()), double(maximum()));
-    setValue(static_cast<int>(steps));
+    const double steps = std::isnan(value) ? 0.0 : value * kUnit;
+    setValue(qRound(std::clamp(steps, double(minimum()), double(maximum()))));
 }
 
 void FractionSlider::moveByUser(double value)

@@ -18,8 +18,8 @@ NumberField::NumberField(QWidget *parent) : QSpinBox(parent)
 void NumberField::setDoubleValue(double value)
 {
     const QSignalBlocker quiet(this);
-    const double whole = std::isnan(value) ? 0.0 : std::trunc(value);
-    setValue(static_cast<int>(std::clamp(whole, double(minimum()), double(maximum()))));
+    const double number = std::isnan(value) ? 0.0 : value;
+    setValue(static_cast<int>(std::clamp(number, double(minimum()), double(maximum()))));
 }
 
 void NumberField::wheelEvent(QWheelEvent *event)
