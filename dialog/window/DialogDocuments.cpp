@@ -2,6 +2,7 @@
 #include "dialog/job/PipeDocuments.h"
 #include "dialog/window/DialogTabs.h"
 #include "dialog/window/DialogWindow.h"
+#include "dialog/window/FirstSight.h"
 #include "dialog/window/JobHeader.h"
 #include "dialog/window/PageSetupPane.h"
 
@@ -13,8 +14,6 @@
 #include <algorithm>
 
 namespace {
-
-constexpr int kFirstSight = 200; // ms: the window and its panels are to be seen before all else
 
 /// The files that are dragged; none when anything else is among them.
 QStringList filesOf(const QMimeData &dragged)

@@ -3,6 +3,7 @@
 #include "dialog/job/PipeDocuments.h"
 #include "dialog/window/DialogTabs.h"
 #include "dialog/window/DialogWindow.h"
+#include "dialog/window/FirstSight.h"
 #include "dialog/window/JobHeader.h"
 #include "dialog/window/LayoutPane.h"
 #include "dialog/window/PageSetupPane.h"
@@ -244,11 +245,14 @@ void DialogWindow::watchPrinters()
         !job().source().ppdPath.isNull() && job().source().queue.queue.isEmpty();
     if (!isReached || isFileAlone || m_wishes.isPicture)
         return;
-    askCondition();
-    if (m_watch.hasBegun())
+    if (m_watch.hasBegun()) {
+        askCondition();
         return;
+    }
     m_header->printers()->setSearching(!m_choice);
-    m_watch.begin(m_choice ? PrinterWatch::First::Later : PrinterWatch::First::Now);
+    m_watch.begin(m_choice ? PrinterWatch::First::Later : PrinterWatch::First::Soon);
+    if (m_choice) // otherwise it comes with the list
+        QTimer::singleShot(kFirstSight, this, &DialogWindow::askCondition);
 }
 
 void DialogWindow::takeList(const Result<QList<Destination>> &list)

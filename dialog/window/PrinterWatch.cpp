@@ -1,6 +1,7 @@
 #include "dialog/window/PrinterWatch.h"
 
 #include "dialog/printing/PrintController.h"
+#include "dialog/window/FirstSight.h"
 
 #include <QtWidgets/QWidget>
 
@@ -21,8 +22,8 @@ PrinterWatch::PrinterWatch(PrintController &controller, QWidget &window)
 void PrinterWatch::begin(First first)
 {
     m_hasBegun = true;
-    if (first == First::Now)
-        ask();
+    if (first == First::Soon)
+        QTimer::singleShot(kFirstSight, this, &PrinterWatch::ask);
     else
         m_timer.start();
 }

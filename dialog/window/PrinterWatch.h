@@ -20,9 +20,9 @@ public:
     /// Controller and window must outlive the watch.
     PrinterWatch(PrintController &controller, QWidget &window);
 
-    enum class First { Now, Later };
+    enum class First { Soon, Later };
 
-    /// Asks from now on, at once or after the first pause.
+    /// Asks from now on, as soon as the window has been seen or after the first pause.
     void begin(First first);
 
     /// Whether it asks, or has been asking.
