@@ -4,7 +4,7 @@
 
 run:
 	@packaging/install-packages run
-	@cmake --preset release -D VELKARO_TESTS=OFF -D VELKARO_OPTIMIZATION=-O1 \
+	@cmake --preset release -D VELKARO_QUICK_BUILD=ON \
 	    -D CMAKE_UNITY_BUILD=ON -D CMAKE_UNITY_BUILD_BATCH_SIZE=16
 	@cmake --build --preset release
 	@packaging/run-sample build/release

@@ -15,11 +15,7 @@ if(NOT CMAKE_BUILD_TYPE)
     set(CMAKE_BUILD_TYPE Release)
 endif()
 
-# Most of the code runs once: what counts is how much of it there is to read and to build. The filters
-# of images are no faster with more.
-set(VELKARO_OPTIMIZATION -O2 CACHE STRING "How far release builds are optimised")
-set(CMAKE_CXX_FLAGS_RELEASE "${VELKARO_OPTIMIZATION} -DNDEBUG")
-
+include(cmake/ReleaseBuild.cmake)
 include(cmake/Hardening.cmake)
 
 set(VELKARO_PRIVATE_DIR ${CMAKE_INSTALL_LIBDIR}/velkaro-print)

@@ -26,6 +26,7 @@ endfunction()
 
 velkaro_add_precompiled_headers(velkaro-toolkit-headers
     HEADERS ${toolkit_headers} LIBRARIES Qt6::Widgets)
+set(velkaro_toolkit_headers velkaro-toolkit-headers)
 
 macro(velkaro_find_test_headers)
     find_package(GTest REQUIRED)
@@ -42,6 +43,6 @@ function(velkaro_precompile target)
     if("TESTS" IN_LIST ARGN)
         target_precompile_headers(${target} REUSE_FROM velkaro-test-headers)
     else()
-        target_precompile_headers(${target} REUSE_FROM velkaro-toolkit-headers)
+        target_precompile_headers(${target} REUSE_FROM ${velkaro_toolkit_headers})
     endif()
 endfunction()

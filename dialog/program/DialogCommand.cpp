@@ -12,11 +12,13 @@
 #include "dialog/program/Translations.h"
 #include "dialog/program/WhyCommand.h"
 #include "dialog/window/DialogWindow.h"
+#include "dialog/window/FirstSight.h"
 #include "dialog/work/BackgroundCall.h"
 #include "dialog/work/EndSignals.h"
 #include "platform/imaging/PictureReader.h"
 
 #include <QtCore/QDir>
+#include <QtCore/QTimer>
 #include <QtGui/QIcon>
 #include <QtGui/QPixmap>
 #include <QtWidgets/QApplication>
@@ -68,18 +70,23 @@ ExitStatus runDialog(const CommandLine &line)
 
 /// The desktop's own picture of the program, as it is installed beside it. An icon that reads its
 /// files itself loads each of the toolkit's decoders, to ask whether the file is one of theirs.
-QIcon windowIcon()
+void addToWindowIcon(QLatin1String size)
 {
-    QIcon icon;
-    for (const QLatin1String size : {QLatin1String("48x48"), QLatin1String("128x128")}) {
-        const QString path =
-            QDir(QCoreApplication::applicationDirPath())
-                .filePath(QStringLiteral(VELKARO_SHARE_FROM_BIN "/../icons/hicolor/%1/apps/"
-                                                                "velkaro-print.png")
-                              .arg(size));
-        icon.addPixmap(QPixmap::fromImage(readPicture(path)));
-    }
-    return icon;
+    const QString path =
+        QDir(QCoreApplication::applicationDirPath())
+            .filePath(QStringLiteral(VELKARO_SHARE_FROM_BIN "/../icons/hicolor/%1/apps/"
+                                                            "velkaro-print.png")
+                          .arg(size));
+    QIcon icon = QApplication::windowIcon();
+    icon.addPixmap(QPixmap::fromImage(readPicture(path)));
+    QApplication::setWindowIcon(icon);
+}
+
+/// The large one is for those who switch between windows.
+void showWindowIcon()
+{
+    addToWindowIcon(QLatin1String("48x48"));
+    QTimer::singleShot(kFirstSight, qApp, [] { addToWindowIcon(QLatin1String("128x128")); });
 }
 
 ExitStatus run(const CommandLine &line)
@@ -107,7 +114,7 @@ int runDialogCommand(int &argc, char **argv, const CommandLine &line)
     QApplication::setApplicationDisplayName(
         QCoreApplication::translate("DialogWindow", "Velkaro Print"));
     if (showsWindow)
-        QApplication::setWindowIcon(windowIcon());
+        showWindowIcon();
     const ExitStatus status = run(line);
     forgetPasswords();
     ignoreEndSignals();

@@ -116,6 +116,7 @@ void DialogWindow::takePrinter(const Result<FoundPrinter> &found)
     m_startNotes = found ? found->notes : QStringList();
     if (found.faultKind() == FaultKind::PPD)
         m_outcome = found.fault();
+    m_tabs->setEnabled(bool(found)); // before they have parts, each of whose controls would be told
     showPrinter();
     m_standing = standing();
     setState(found ? State::Ready : State::NoPrinter);
