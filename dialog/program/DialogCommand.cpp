@@ -24,6 +24,9 @@
 #include <QtWidgets/QApplication>
 
 #include <cstdlib>
+#ifdef __GLIBC__
+#include <malloc.h>
+#endif
 
 namespace {
 
@@ -82,6 +85,16 @@ void addToWindowIcon(QLatin1String size)
     QApplication::setWindowIcon(icon);
 }
 
+/// Each pick takes some memory for its pictures and texts, and gives it back. The system would have
+/// it in between, and clear it anew each time.
+void keepFreedMemory()
+{
+#ifdef __GLIBC__
+    constexpr int kKept = 1 << 20; // bytes
+    mallopt(M_TRIM_THRESHOLD, kKept);
+#endif
+}
+
 /// The large one is for those who switch between windows.
 void showWindowIcon()
 {
@@ -113,8 +126,10 @@ int runDialogCommand(int &argc, char **argv, const CommandLine &line)
     installTranslations();
     QApplication::setApplicationDisplayName(
         QCoreApplication::translate("DialogWindow", "Velkaro Print"));
-    if (showsWindow)
+    if (showsWindow) {
+        keepFreedMemory();
         showWindowIcon();
+    }
     const ExitStatus status = run(line);
     forgetPasswords();
     ignoreEndSignals();

@@ -16,6 +16,7 @@ namespace {
 constexpr int kContentsLength = 12;     // characters: wide enough for an ordinary choice
 constexpr int kLongestTitle = 60;       // what is longer is cut
 constexpr std::size_t kMostTitles = 16; // that are measured
+constexpr qsizetype kMostWidths = 64;   // that are remembered
 constexpr int kAroundTitle = 2;         // pixels that styles take from it
 constexpr int kPictureSpacing = 4;      // pixels, as the toolkit has them
 
@@ -62,10 +63,21 @@ int PopUpButton::widthOfTitles() const
         return m_widthOfTitles;
     m_widthOfTitles = 0;
     for (const QString &title : m_items->longestTitles(kMostTitles))
-        m_widthOfTitles = std::max(m_widthOfTitles, fontMetrics().horizontalAdvance(title));
+        m_widthOfTitles = std::max(m_widthOfTitles, widthOf(title));
     if (m_hasPictures)
         m_widthOfTitles += iconSize().width() + kPictureSpacing;
     return m_widthOfTitles;
+}
+
+/// Lists come and go with the same titles.
+int PopUpButton::widthOf(const QString &title) const
+{
+    const auto known = m_widths.constFind(title);
+    if (known != m_widths.cend())
+        return *known;
+    if (m_widths.size() >= kMostWidths)
+        m_widths.clear();
+    return *m_widths.insert(title, fontMetrics().horizontalAdvance(title));
 }
 
 void PopUpButton::setItems(const std::vector<Item> &items)
@@ -159,8 +171,10 @@ bool PopUpButton::event(QEvent *event)
 
 void PopUpButton::changeEvent(QEvent *event)
 {
-    if (event->type() == QEvent::FontChange)
+    if (event->type() == QEvent::FontChange) {
+        m_widths.clear();
         m_widthOfTitles = -1;
+    }
     QComboBox::changeEvent(event);
 }
 

@@ -2,6 +2,7 @@
 
 #include "platform/Export.h"
 
+#include <QtCore/QHash>
 #include <QtCore/QString>
 #include <QtWidgets/QComboBox>
 
@@ -102,10 +103,12 @@ private:
     int wantedLength() const;
     QSize sizeFor(int length) const;
     int widthOfTitles() const;
+    int widthOf(const QString &title) const;
     bool isChoiceCut() const;
 
     PopUpModel *m_items;
     bool m_hasPictures = false;
-    mutable int m_widthOfTitles = -1; ///< pixels; -1 until it is measured
+    mutable int m_widthOfTitles = -1;     ///< pixels; -1 until it is measured
+    mutable QHash<QString, int> m_widths; ///< pixels, of titles in the present font
     int m_tag = 0;
 };
