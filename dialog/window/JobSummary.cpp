@@ -1,8 +1,8 @@
 #include "dialog/window/JobSummary.h"
 
+#include "dialog/host/PPDMarks.h"
 #include "dialog/job/FeatureTexts.h"
 #include "dialog/job/JobLayout.h"
-#include "dialog/job/JobOptions.h"
 #include "dialog/job/Papers.h"
 #include "dialog/printing/FeaturePicks.h"
 #include "dialog/printing/OriginWords.h"
@@ -64,9 +64,8 @@ SummarySection ownSection(const PrintJob &job)
 SummarySection featuresSection(const PrintJob &job)
 {
     SummarySection section{JobSummary::tr("Printer Features"), {}};
-    const QList<JobOption> sent = job.options().options;
     for (const PrinterFeature &feature : choosableFeatures(job))
-        if (const QString value = optionValue(sent, feature.keyword); !value.isNull())
+        if (const QString value = markedValue(job.ppd(), feature.keyword); !value.isNull())
             section.lines +=
                 {feature.text, valueText(job.ppd(), feature.keyword, value), feature.keyword};
     return section;
