@@ -3,6 +3,7 @@
 #include "dialog/host/PPDMarks.h"
 #include "dialog/job/FeatureTexts.h"
 #include "dialog/job/JobLayout.h"
+#include "dialog/job/JobOptions.h"
 #include "dialog/job/Papers.h"
 #include "dialog/printing/FeaturePicks.h"
 #include "dialog/printing/OriginWords.h"
@@ -76,8 +77,10 @@ SummarySection layoutSection(const PrintJob &job)
     SummarySection section{JobSummary::tr("Layout & Job"), {}};
     if (!job.ownTitle().isEmpty())
         section.lines += {JobSummary::tr("Job Title"), job.ownTitle(), u"job-name"_s};
+    JobLayout layout = job.settings().layout;
+    layout.collation = collationOf(job.settings());
     for (const LayoutSetting &setting : layoutSettings())
-        if (const QString &value = job.settings().layout.*setting.value; !value.isEmpty())
+        if (const QString &value = layout.*setting.value; !value.isEmpty())
             section.lines += {layoutTitle(setting), layoutText(setting, value), setting.option};
     return section;
 }
