@@ -6,6 +6,7 @@
 #include "dialog/cups/JobTemplate.h"
 #include "dialog/cups/LostCreation.h"
 #include "dialog/cups/QueueOutlook.h"
+#include "dialog/cups/QueuePPD.h"
 
 #include <QtCore/QCoreApplication>
 
@@ -104,6 +105,17 @@ Result<JobRequest> JobSubmission::begin(const JobRequest &request)
     return job ? job : notPrinted(job.fault(), request.queue);
 }
 
+/// Right before the job is created: somebody may have been asked for a password meanwhile.
+Result<> JobSubmission::checkPPD(const JobRequest &job)
+{
+    if (!job.ppd)
+        return {};
+    const Result<bool> exchanged = isExchanged(m_connection, job.queue, *job.ppd);
+    if (!exchanged)
+        return notPrinted(exchanged.fault(), job.queue);
+    return *exchanged ? Result<>(notPrinted(exchangedPPD(job.queue), job.queue)) : Result<>();
+}
+
 Result<> JobSubmission::rehearse(const JobRequest &request)
 {
     if (const Result<JobRequest> job = begin(request); !job)
@@ -111,7 +123,7 @@ Result<> JobSubmission::rehearse(const JobRequest &request)
     if (isRefused(m_connection))
         return notPrinted(m_connection.lastFault(request.queue), request.queue);
     if (takesJobs(m_connection, request.queue))
-        return {};
+        return checkPPD(request);
     return notPrinted(
         {FaultKind::Refused,
          QCoreApplication::translate("JobSubmission", "The queue %1 takes no jobs at present.")
@@ -127,6 +139,8 @@ Result<JobReceipt> JobSubmission::submit(const JobRequest &request, JobProgress 
     const Result<AuthInfo> who = askWhoPrints(m_connection, job->queue, m_terms->authInfo);
     if (!who)
         return notPrinted(who.fault(), job->queue);
+    if (const Result<> same = checkPPD(*job); !same)
+        return same.fault();
     const Result<int> id = create(*job, *who);
     if (!id)
         return notPrinted(id.fault(), job->queue);

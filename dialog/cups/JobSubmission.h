@@ -37,6 +37,9 @@ struct JobReceipt
 /// released as soon as the comparison finds nothing. Where the printer behind the queue wants to
 /// know who prints, somebody is asked before the job is created (PasswordScope).
 ///
+/// A job whose settings are of a PPD that the queue no longer has is not created
+/// (FaultKind::Exchanged).
+///
 /// Where the answer to the last document is late or lost, the server is asked for the job: it is
 /// accepted when the server has all of it, and FaultKind::Unsettled when that cannot be known. It
 /// is never sent a second time. Where the answer to the creation is lost, an empty job that is
@@ -56,6 +59,7 @@ public:
 private:
     Result<JobRequest> begin(const JobRequest &request);
     Result<JobRequest> prepare(const JobRequest &request);
+    Result<> checkPPD(const JobRequest &job);
     Result<int> create(const JobRequest &job, const AuthInfo &who);
 
     /// What was found out for a job, and holds for others with the same options.

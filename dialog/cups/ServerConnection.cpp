@@ -322,7 +322,8 @@ IppHandle ServerConnection::endUpload()
     return readAnswer(isSent ? status() : HTTP_STATUS_ERROR);
 }
 
-bool ServerConnection::download(const QByteArray &resource, QFile &file, qint64 largest)
+bool ServerConnection::download(const QByteArray &resource, QFile &file, qint64 largest,
+                                const QByteArray &since)
 {
     if (!begin(kTimeoutsPerPPD))
         return false;
@@ -330,6 +331,7 @@ bool ServerConnection::download(const QByteArray &resource, QFile &file, qint64 
     const int answered = ask("GET", resource, [&]() -> int {
         httpClearFields(m_http.get());
         httpSetField(m_http.get(), HTTP_FIELD_AUTHORIZATION, httpGetAuthString(m_http.get()));
+        httpSetField(m_http.get(), HTTP_FIELD_IF_MODIFIED_SINCE, since.constData());
         if (httpGet(m_http.get(), resource.constData()) != 0)
             return HTTP_STATUS_ERROR;
         m_watch.watch(httpGetFd(m_http.get()));
@@ -341,9 +343,18 @@ bool ServerConnection::download(const QByteArray &resource, QFile &file, qint64 
             end = BodyEnd::NotStored;
         isFetched = end == BodyEnd::Whole;
         endByBody(end, file);
+    } else if (answered == HTTP_STATUS_NOT_MODIFIED) {
+        httpFlush(m_http.get());
+        m_isSpent = false; // such an answer has no body
     }
     m_guard.unlimitTime();
     return isFetched;
+}
+
+HttpDates ServerConnection::lastDates() const
+{
+    return {httpGetField(m_http.get(), HTTP_FIELD_DATE),
+            httpGetField(m_http.get(), HTTP_FIELD_LAST_MODIFIED)};
 }
 
 /// Whether the status of HTTP is 200; notes the fault otherwise.

@@ -141,6 +141,20 @@ void PrintController::askCondition(Then<PrinterCondition> then)
         [source] { return Result<PrinterCondition>(silentServer(source.server)); });
 }
 
+void PrintController::lookForExchange(Then<bool> then)
+{
+    const std::optional<QueuePPD> shown = shownPPD();
+    if (!shown)
+        return;
+    const PrinterSource source = m_job.source();
+    m_comparing.begin<Result<bool>>(
+        kServerTimeout,
+        [source, shown](CallGuard &guard) {
+            return isExchanged(source.server, source.queue.queue, *shown, guard);
+        },
+        std::move(then), [source] { return Result<bool>(silentServer(source.server)); });
+}
+
 NamedWishes PrintController::namedWishes() const
 {
     QList<RequestedChoice> wanted = m_wishes.choices;
@@ -184,6 +198,15 @@ QStringList PrintController::yieldedSettings()
                : QStringList();
 }
 
+/// The queue's PPD that the settings are of; none where they are of a file that somebody has named.
+std::optional<QueuePPD> PrintController::shownPPD() const
+{
+    const PrinterSource &source = m_job.source();
+    if (source.queue.queue.isEmpty() || !source.ppdPath.isNull())
+        return std::nullopt;
+    return origin() ? origin()->kept : QueuePPD();
+}
+
 Result<FinishedJob> PrintController::finish()
 {
     if (const Result<> checked = refuseSavedJobs(m_job.documents()); !checked)
@@ -201,6 +224,7 @@ Result<FinishedJob> PrintController::finish()
     const SettingState after = settingState(m_job);
     FinishedJob finished{m_job.request(options.options),
                          replacedBySaving(m_job, before, after) + doubtsOf(m_job, after)};
+    finished.request.ppd = shownPPD();
     finished.doubts.removeDuplicates();
     return finished;
 }
@@ -212,6 +236,7 @@ QList<JobRequest> PrintController::oneForEach()
     for (const Document &document : all) {
         m_job.setDocuments({document});
         jobs += m_job.request(m_job.wholeOptions().options);
+        jobs.last().ppd = shownPPD();
     }
     m_job.setDocuments(all);
     return jobs;
@@ -278,6 +303,6 @@ OutputTerms PrintController::outputTerms() const
 
 void PrintController::cancel()
 {
-    for (LatestCall *call : {&m_call, &m_reading, &m_asking})
+    for (LatestCall *call : {&m_call, &m_reading, &m_asking, &m_comparing})
         call->cancel();
 }

@@ -19,6 +19,7 @@
 
 #include <functional>
 #include <memory>
+#include <optional>
 
 struct NamedWishes;
 
@@ -108,6 +109,10 @@ public:
     /// Asks how the printer of the job's queue is.
     void askCondition(Then<PrinterCondition> then);
 
+    /// Looks whether the queue has another PPD by now than the one that is open. Never tells where
+    /// that is not the queue's.
+    void lookForExchange(Then<bool> then);
+
     /// The wished settings by the names of the printer.
     NamedWishes namedWishes() const;
 
@@ -160,6 +165,8 @@ public:
     void closePrinter() { m_job.closePrinter(); }
 
 private:
+    std::optional<QueuePPD> shownPPD() const;
+
     const PrintWishes m_wishes;
     UnsavedPanels m_unsaved; // outlives the session that it follows
     PrintJob m_job;
@@ -169,5 +176,6 @@ private:
     LatestCall m_reading; ///< of documents that are pipes
     LatestCall m_listing;
     LatestCall m_covers;
-    LatestCall m_asking; ///< for the printer's condition
+    LatestCall m_asking;    ///< for the printer's condition
+    LatestCall m_comparing; ///< of PPDs
 };

@@ -23,6 +23,10 @@
         <source>%1: &quot;%2&quot; would be printed in place of &quot;%3&quot;.</source>
         <translation>%1: „%2“ würde anstelle von „%3“ gedruckt.</translation>
     </message>
+    <message>
+        <source>%1 is gone (was %2)</source>
+        <translation>„%1“ gibt es nicht mehr (bisher „%2“)</translation>
+    </message>
 </context>
 <context>
     <name>CheckCommand</name>
@@ -448,6 +452,22 @@ Umschalt+F1 oder das Kontextmenü sagt, warum.</translation>
     <message>
         <source>Job %1 was cancelled.</source>
         <translation>Auftrag %1 wurde abgebrochen.</translation>
+    </message>
+    <message>
+        <source>What is shown are the former settings.</source>
+        <translation>Angezeigt werden noch die bisherigen Einstellungen.</translation>
+    </message>
+    <message>
+        <source>Reload</source>
+        <translation>Neu laden</translation>
+    </message>
+    <message>
+        <source>Your settings are as they were.</source>
+        <translation>Ihre Einstellungen sind unverändert.</translation>
+    </message>
+    <message>
+        <source>Look at the settings before you print.</source>
+        <translation>Prüfen Sie die Einstellungen, bevor Sie drucken.</translation>
     </message>
 </context>
 <context>
@@ -3047,6 +3067,10 @@ Umschalt+F1 oder das Kontextmenü sagt, warum.</translation>
         <source>The print server %1 shows another certificate than before, and may be another server: nothing was sent. The one before is in %2.</source>
         <translation>Der Druckserver %1 zeigt ein anderes Zertifikat als bisher und ist vielleicht ein anderer Server: Es wurde nichts gesendet. Das bisherige steht in %2.</translation>
     </message>
+    <message>
+        <source>The queue %1 was set up anew on the print server: it has another PPD, or other defaults.</source>
+        <translation>Die Warteschlange %1 wurde auf dem Druckserver neu eingerichtet: Sie hat eine andere PPD-Datei oder andere Standardwerte.</translation>
+    </message>
 </context>
 <context>
     <name>SettingRequests</name>
@@ -3130,6 +3154,13 @@ Umschalt+F1 oder das Kontextmenü sagt, warum.</translation>
     <message>
         <source>Saved for this printer: %1</source>
         <translation>Für diesen Drucker gespeichert: %1</translation>
+    </message>
+</context>
+<context>
+    <name>KeptSettings</name>
+    <message>
+        <source>other changes: %1</source>
+        <translation>weitere Änderungen: %1</translation>
     </message>
 </context>
 </TS>

@@ -23,6 +23,10 @@
         <source>%1: &quot;%2&quot; would be printed in place of &quot;%3&quot;.</source>
         <translation>%1 : « %2 » serait imprimé au lieu de « %3 ».</translation>
     </message>
+    <message>
+        <source>%1 is gone (was %2)</source>
+        <translation>« %1 » n’existe plus (auparavant « %2 »)</translation>
+    </message>
 </context>
 <context>
     <name>CheckCommand</name>
@@ -448,6 +452,22 @@ Maj+F1 ou le menu contextuel dit pourquoi.</translation>
     <message>
         <source>Job %1 was cancelled.</source>
         <translation>Le travail %1 a été annulé.</translation>
+    </message>
+    <message>
+        <source>What is shown are the former settings.</source>
+        <translation>Les réglages affichés sont encore les anciens.</translation>
+    </message>
+    <message>
+        <source>Reload</source>
+        <translation>Recharger</translation>
+    </message>
+    <message>
+        <source>Your settings are as they were.</source>
+        <translation>Vos réglages sont inchangés.</translation>
+    </message>
+    <message>
+        <source>Look at the settings before you print.</source>
+        <translation>Vérifiez les réglages avant d’imprimer.</translation>
     </message>
 </context>
 <context>
@@ -3047,6 +3067,10 @@ Maj+F1 ou le menu contextuel dit pourquoi.</translation>
         <source>The print server %1 shows another certificate than before, and may be another server: nothing was sent. The one before is in %2.</source>
         <translation>Le serveur d’impression %1 présente un autre certificat qu’auparavant, et peut être un autre serveur : rien n’a été envoyé. Le précédent se trouve dans %2.</translation>
     </message>
+    <message>
+        <source>The queue %1 was set up anew on the print server: it has another PPD, or other defaults.</source>
+        <translation>La file d’attente %1 a été reconfigurée sur le serveur d’impression : elle a un autre fichier PPD ou d’autres valeurs par défaut.</translation>
+    </message>
 </context>
 <context>
     <name>SettingRequests</name>
@@ -3130,6 +3154,13 @@ Maj+F1 ou le menu contextuel dit pourquoi.</translation>
     <message>
         <source>Saved for this printer: %1</source>
         <translation>Enregistré pour cette imprimante : %1</translation>
+    </message>
+</context>
+<context>
+    <name>KeptSettings</name>
+    <message>
+        <source>other changes: %1</source>
+        <translation>autres changements : %1</translation>
     </message>
 </context>
 </TS>

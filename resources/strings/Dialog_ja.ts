@@ -23,6 +23,10 @@
         <source>%1: &quot;%2&quot; would be printed in place of &quot;%3&quot;.</source>
         <translation>%1 は「%3」ではなく「%2」で印刷されます。</translation>
     </message>
+    <message>
+        <source>%1 is gone (was %2)</source>
+        <translation>%1 はなくなりました（これまでは「%2」）</translation>
+    </message>
 </context>
 <context>
     <name>CheckCommand</name>
@@ -448,6 +452,22 @@ Shift+F1 or the context menu tells why.</source>
     <message>
         <source>Job %1 was cancelled.</source>
         <translation>ジョブ %1 は取り消されました。</translation>
+    </message>
+    <message>
+        <source>What is shown are the former settings.</source>
+        <translation>表示されているのは変更前の設定です。</translation>
+    </message>
+    <message>
+        <source>Reload</source>
+        <translation>再読み込み</translation>
+    </message>
+    <message>
+        <source>Your settings are as they were.</source>
+        <translation>お使いの設定はそのままです。</translation>
+    </message>
+    <message>
+        <source>Look at the settings before you print.</source>
+        <translation>印刷する前に設定を確認してください。</translation>
     </message>
 </context>
 <context>
@@ -3047,6 +3067,10 @@ Shift+F1 or the context menu tells why.</source>
         <source>The print server %1 shows another certificate than before, and may be another server: nothing was sent. The one before is in %2.</source>
         <translation>プリントサーバー %1 の証明書が以前と異なります。別のサーバーのおそれがあるため、何も送信されませんでした。以前の証明書は %2 にあります。</translation>
     </message>
+    <message>
+        <source>The queue %1 was set up anew on the print server: it has another PPD, or other defaults.</source>
+        <translation>プリントサーバーでキュー %1 の設定が変更されました。PPD またはその既定値が以前と異なります。</translation>
+    </message>
 </context>
 <context>
     <name>SettingRequests</name>
@@ -3130,6 +3154,13 @@ Shift+F1 or the context menu tells why.</source>
     <message>
         <source>Saved for this printer: %1</source>
         <translation>このプリンター用に保存された設定: %1</translation>
+    </message>
+</context>
+<context>
+    <name>KeptSettings</name>
+    <message>
+        <source>other changes: %1</source>
+        <translation>ほかの変更: %1 件</translation>
     </message>
 </context>
 </TS>
