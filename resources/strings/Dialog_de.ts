@@ -2890,6 +2890,10 @@ Umschalt+F1 oder das Kontextmenü sagt, warum.</translation>
         <source>What was found</source>
         <translation>Gefundenes</translation>
     </message>
+    <message>
+        <source>Nothing was found.</source>
+        <translation>Nichts gefunden.</translation>
+    </message>
 </context>
 <context>
     <name>SavedOptions</name>

@@ -2890,6 +2890,10 @@ Maj+F1 ou le menu contextuel dit pourquoi.</translation>
         <source>What was found</source>
         <translation>Résultats</translation>
     </message>
+    <message>
+        <source>Nothing was found.</source>
+        <translation>Aucun résultat.</translation>
+    </message>
 </context>
 <context>
     <name>SavedOptions</name>

@@ -2890,6 +2890,10 @@ Shift+F1 or the context menu tells why.</source>
         <source>What was found</source>
         <translation>検索結果</translation>
     </message>
+    <message>
+        <source>Nothing was found.</source>
+        <translation>見つかりませんでした。</translation>
+    </message>
 </context>
 <context>
     <name>SavedOptions</name>
