@@ -85,6 +85,7 @@ void DialogWindow::startFrom(const QString &preset, const StartingSettings &star
     source.queue.instance = preset;
     source.start = start;
     source.kept.reset();
+    m_header->printers()->refreshPresets(); // it may be one of those that were changed
     closePrinter();
     findPrinter(source);
 }
