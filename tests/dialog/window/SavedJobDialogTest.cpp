@@ -66,6 +66,19 @@ TEST_F(SavedJobInTheDialog, IsShownAsItIsAndNothingElse)
     EXPECT_FALSE(part<QAbstractButton>("saveButton")->isVisible());
 }
 
+TEST_F(SavedJobInTheDialog, ShowsWhatDiffersFromThePrintersDefaults)
+{
+    open();
+    const QStringList whole = summary();
+    EXPECT_TRUE(whole.contains(u"Two-Sided Printing"_s));
+    QTest::mouseClick(part<QAbstractButton>("onlyDifferentButton"), Qt::LeftButton);
+    const QStringList lines = summary();
+    for (const char *title : {"Two-Sided Printing", "Media Size", "print-scaling", "sides"})
+        EXPECT_FALSE(lines.contains(QLatin1String(title))) << title;
+    for (const char *title : {"Title", "Media Type", "Print Quality", "copies"})
+        EXPECT_TRUE(lines.contains(QLatin1String(title))) << title;
+}
+
 TEST_F(SavedJobInTheDialog, WaitsForAQueue)
 {
     open();
