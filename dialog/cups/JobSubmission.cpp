@@ -32,6 +32,12 @@ JobRequest prepared(const JobRequest &job, const QueueInfluence &influence)
     return prepared;
 }
 
+/// The queue as its server calls it: names are asked for in any case.
+QString ownName(const QString &queue, const QueueTerms &terms)
+{
+    return terms.name.compare(queue, Qt::CaseInsensitive) == 0 ? terms.name : queue;
+}
+
 /// The number of the job in the server's answer; 0 without one that a job can have.
 int createdJob(const IppHandle &response)
 {
@@ -147,10 +153,13 @@ Result<JobReceipt> JobSubmission::submit(const JobRequest &request, JobProgress 
     progress.setId(*id);
     progress.setOnTrial(job->isOnTrial);
     const auto [sent, fault] = sendDocuments(m_connection, *job, progress);
-    if (sent == Sent::Accepted)
-        return accept(m_connection, *job, progress);
-    return settle(fault.value_or(m_connection.lastFault(job->queue)), sent, *job, progress,
-                  m_connection.guard());
+    Result<JobReceipt> receipt = sent == Sent::Accepted
+                                     ? accept(m_connection, *job, progress)
+                                     : settle(fault.value_or(m_connection.lastFault(job->queue)),
+                                              sent, *job, progress, m_connection.guard());
+    if (receipt)
+        receipt->queue = ownName(job->queue, *m_terms);
+    return receipt;
 }
 
 Result<JobReceipt> submitJob(const JobRequest &request, CallGuard &guard,

@@ -24,6 +24,7 @@ struct JobReceipt
     /// The server holds the job for us: it would be printed otherwise than it was shown, as the
     /// notes say, or that is not known. Somebody has to say what becomes of it.
     bool isOnTrial = false;
+    QString queue = {}; ///< as the server calls it; null: as it was asked for
 };
 
 /// Submits jobs of one queue over one connection, one after the other. For one thread; the guard

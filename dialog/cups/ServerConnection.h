@@ -136,8 +136,8 @@ void askFor(ipp_t *request, const QList<QByteArray> &names);
 /// The path of the queue on its server.
 QByteArray queueResource(const QString &queue);
 
-/// The server's name for people: host and port ("print.example:631"), or "localhost" where it is
-/// reached by a socket of this machine.
+/// The server's name for people: host and port ("print.example:631"), the path of a socket that
+/// somebody has named, or "localhost" where it is reached by this machine's usual one.
 QString nameOfServer(const QString &server);
 
 /// What is said of a server that was given up.

@@ -15,6 +15,7 @@
 /// On what terms a queue takes jobs, as its server tells.
 struct QueueTerms
 {
+    QString name; ///< the queue's own, in whatever case it was asked for; null: not told
     QList<JobOption> defaults; ///< it adds to jobs that do not say it; names without "-default"
     QStringList authInfo; ///< its printer wants to know of who prints: "username", "password", ...
 

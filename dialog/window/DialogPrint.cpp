@@ -153,7 +153,7 @@ void DialogWindow::takeReceipt(const Result<JobReceipt> &receipt)
     if (receipt) {
         const QueueName queue = job().source().queue;
         rememberPrinter(m_wishes.server, queue);
-        m_sent = {queue.queue, receipt->id,
+        m_sent = {receipt->queue.isNull() ? queue.queue : receipt->queue, receipt->id,
                   m_savedJob ? 0 : printedPages(job().settings(), m_pageCount)};
     }
     const bool hasNote = receipt && !receipt->notes.isEmpty();

@@ -42,6 +42,27 @@ TEST_F(Command, AChoiceArrivesInTheJobAndInThePrinter)
     EXPECT_FALSE(printed().contains("%% VKMediaType=Plain"));
 }
 
+TEST_F(Command, AJobHasTheNameThatTheServerHasForTheQueue)
+{
+    for (const QStringList &how : {QStringList(), QStringList{u"--each"_s, pdf(u"b.pdf"_s)}}) {
+        const ProgramRun run = runProgram(
+            QStringList{u"--no-dialog"_s, u"-h"_s, server().address(), u"-d"_s, u"PHOTO"_s, pdf()} +
+            how);
+        EXPECT_EQ(run.status, 0) << run.errors.toStdString();
+        EXPECT_TRUE(run.output.startsWith(u"request id is photo-"_s)) << run.output.toStdString();
+        EXPECT_FALSE(run.output.contains(u"PHOTO"_s)) << run.output.toStdString();
+    }
+}
+
+TEST_F(Command, ASocketThatIsNotThereIsNamed)
+{
+    const QString socket = inFolder(u"no-socket"_s);
+    const ProgramRun run =
+        runProgram({u"--no-dialog"_s, u"-h"_s, socket, u"-d"_s, u"photo"_s, pdf()});
+    EXPECT_EQ(run.status, 6);
+    EXPECT_EQ(run.errors, u"velkaro-print: The print server %1 cannot be reached.\n"_s.arg(socket));
+}
+
 TEST_F(Command, TheNamesOfLpArriveInTheJob)
 {
     const ProgramRun run = print({u"-n"_s, u"2"_s, u"-t"_s, u"Mine"_s, u"-P1"_s, u"-Hhold"_s,
