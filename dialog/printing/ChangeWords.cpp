@@ -1,6 +1,7 @@
 #include "dialog/printing/ChangeWords.h"
 
 #include "dialog/job/Papers.h"
+#include "dialog/job/SettingTitle.h"
 #include "platform/ppd/PPDText.h"
 #include "platform/toolkit/PlainText.h"
 
@@ -19,12 +20,6 @@ QString wordsOf(ppd_file_t *ppd, const SettingChange &change)
 }
 
 } // namespace
-
-QString settingTitle(ppd_file_t *ppd, const QString &keyword)
-{
-    const ppd_option_t *option = findOption(ppd, keyword);
-    return displayText(option ? ppdText(option->text) : keyword);
-}
 
 QString choiceWords(ppd_file_t *ppd, const QString &keyword, const QString &choice)
 {

@@ -8,9 +8,6 @@
 
 /// Changes of settings in the printer's words, plain text.
 
-/// The setting's title.
-QString settingTitle(ppd_file_t *ppd, const QString &keyword);
-
 /// The choice's text; with its name where the setting has the text twice.
 QString choiceWords(ppd_file_t *ppd, const QString &keyword, const QString &choice);
 

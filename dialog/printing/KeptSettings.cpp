@@ -1,6 +1,7 @@
 #include "dialog/printing/KeptSettings.h"
 
 #include "dialog/host/HostSession.h"
+#include "dialog/job/SettingTitle.h"
 #include "dialog/printing/ChangeWords.h"
 #include "dialog/printing/Presets.h"
 #include "dialog/printing/PrintJob.h"

@@ -1,6 +1,7 @@
 #include "dialog/job/JobFileReader.h"
 #include "dialog/job/PipeDocuments.h"
 #include "dialog/job/SavedJobOptions.h"
+#include "dialog/job/SettingTitle.h"
 #include "dialog/printing/SavedJob.h"
 #include "dialog/window/DialogWindow.h"
 #include "dialog/window/OwnQuestion.h"
@@ -28,7 +29,7 @@ SummarySection::Line lineOf(ppd_file_t *ppd, const JobOption &setting, bool isDe
 {
     ppd_option_t *option = findOption(ppd, setting.name);
     const ppd_choice_t *choice = findChoice(option, setting.value);
-    return {option ? ppdText(option->text) : setting.name,
+    return {settingTitle(ppd, setting.name),
             choice ? ppdText(choice->text) : setting.value,
             {},
             {},

@@ -1231,22 +1231,6 @@ Umschalt+F1 oder das Kontextmenü sagt, warum.</translation>
         <translation>Seite einrichten</translation>
     </message>
     <message>
-        <source>Paper in the Printer</source>
-        <translation>Papier im Drucker</translation>
-    </message>
-    <message>
-        <source>Document Page</source>
-        <translation>Seite des Dokuments</translation>
-    </message>
-    <message>
-        <source>Scaling</source>
-        <translation>Skalierung</translation>
-    </message>
-    <message>
-        <source>Orientation</source>
-        <translation>Ausrichtung</translation>
-    </message>
-    <message>
         <source>Landscape</source>
         <translation>Querformat</translation>
     </message>
@@ -1255,20 +1239,8 @@ Umschalt+F1 oder das Kontextmenü sagt, warum.</translation>
         <translation>Hochformat</translation>
     </message>
     <message>
-        <source>Copies</source>
-        <translation>Exemplare</translation>
-    </message>
-    <message>
-        <source>Pages</source>
-        <translation>Seiten</translation>
-    </message>
-    <message>
         <source>All</source>
         <translation>Alle</translation>
-    </message>
-    <message>
-        <source>Color Management</source>
-        <translation>Farbverwaltung</translation>
     </message>
     <message>
         <source>By the Printer</source>
@@ -1281,10 +1253,6 @@ Umschalt+F1 oder das Kontextmenü sagt, warum.</translation>
     <message>
         <source>Layout &amp; Job</source>
         <translation>Layout &amp; Auftrag</translation>
-    </message>
-    <message>
-        <source>Job Title</source>
-        <translation>Auftragstitel</translation>
     </message>
     <message>
         <source>Also Sent</source>
@@ -3129,6 +3097,41 @@ Umschalt+F1 oder das Kontextmenü sagt, warum.</translation>
     <message>
         <source>A paper of a size of your own needs that size, such as Custom.100x150mm.</source>
         <translation>Ein Papier mit eigenem Format braucht dessen Maße, etwa Custom.100x150mm.</translation>
+    </message>
+</context>
+<context>
+    <name>SettingTitle</name>
+    <message>
+        <source>Paper in the Printer</source>
+        <translation>Papier im Drucker</translation>
+    </message>
+    <message>
+        <source>Document Page</source>
+        <translation>Seite des Dokuments</translation>
+    </message>
+    <message>
+        <source>Scaling</source>
+        <translation>Skalierung</translation>
+    </message>
+    <message>
+        <source>Orientation</source>
+        <translation>Ausrichtung</translation>
+    </message>
+    <message>
+        <source>Copies</source>
+        <translation>Exemplare</translation>
+    </message>
+    <message>
+        <source>Pages</source>
+        <translation>Seiten</translation>
+    </message>
+    <message>
+        <source>Color Management</source>
+        <translation>Farbverwaltung</translation>
+    </message>
+    <message>
+        <source>Job Title</source>
+        <translation>Auftragstitel</translation>
     </message>
 </context>
 <context>

@@ -1231,22 +1231,6 @@ Maj+F1 ou le menu contextuel dit pourquoi.</translation>
         <translation>Mise en page</translation>
     </message>
     <message>
-        <source>Paper in the Printer</source>
-        <translation>Papier dans l’imprimante</translation>
-    </message>
-    <message>
-        <source>Document Page</source>
-        <translation>Page du document</translation>
-    </message>
-    <message>
-        <source>Scaling</source>
-        <translation>Mise à l’échelle</translation>
-    </message>
-    <message>
-        <source>Orientation</source>
-        <translation>Orientation</translation>
-    </message>
-    <message>
         <source>Landscape</source>
         <translation>Paysage</translation>
     </message>
@@ -1255,20 +1239,8 @@ Maj+F1 ou le menu contextuel dit pourquoi.</translation>
         <translation>Portrait</translation>
     </message>
     <message>
-        <source>Copies</source>
-        <translation>Copies</translation>
-    </message>
-    <message>
-        <source>Pages</source>
-        <translation>Pages</translation>
-    </message>
-    <message>
         <source>All</source>
         <translation>Toutes</translation>
-    </message>
-    <message>
-        <source>Color Management</source>
-        <translation>Gestion des couleurs</translation>
     </message>
     <message>
         <source>By the Printer</source>
@@ -1281,10 +1253,6 @@ Maj+F1 ou le menu contextuel dit pourquoi.</translation>
     <message>
         <source>Layout &amp; Job</source>
         <translation>Disposition &amp; travail</translation>
-    </message>
-    <message>
-        <source>Job Title</source>
-        <translation>Titre du travail</translation>
     </message>
     <message>
         <source>Also Sent</source>
@@ -3129,6 +3097,41 @@ Maj+F1 ou le menu contextuel dit pourquoi.</translation>
     <message>
         <source>A paper of a size of your own needs that size, such as Custom.100x150mm.</source>
         <translation>Un papier de format personnalisé doit avoir ses dimensions, par exemple Custom.100x150mm.</translation>
+    </message>
+</context>
+<context>
+    <name>SettingTitle</name>
+    <message>
+        <source>Paper in the Printer</source>
+        <translation>Papier dans l’imprimante</translation>
+    </message>
+    <message>
+        <source>Document Page</source>
+        <translation>Page du document</translation>
+    </message>
+    <message>
+        <source>Scaling</source>
+        <translation>Mise à l’échelle</translation>
+    </message>
+    <message>
+        <source>Orientation</source>
+        <translation>Orientation</translation>
+    </message>
+    <message>
+        <source>Copies</source>
+        <translation>Copies</translation>
+    </message>
+    <message>
+        <source>Pages</source>
+        <translation>Pages</translation>
+    </message>
+    <message>
+        <source>Color Management</source>
+        <translation>Gestion des couleurs</translation>
+    </message>
+    <message>
+        <source>Job Title</source>
+        <translation>Titre du travail</translation>
     </message>
 </context>
 <context>

@@ -1231,22 +1231,6 @@ Shift+F1 or the context menu tells why.</source>
         <translation>ページ設定</translation>
     </message>
     <message>
-        <source>Paper in the Printer</source>
-        <translation>プリンターの用紙</translation>
-    </message>
-    <message>
-        <source>Document Page</source>
-        <translation>文書のページ</translation>
-    </message>
-    <message>
-        <source>Scaling</source>
-        <translation>拡大縮小</translation>
-    </message>
-    <message>
-        <source>Orientation</source>
-        <translation>向き</translation>
-    </message>
-    <message>
         <source>Landscape</source>
         <translation>横</translation>
     </message>
@@ -1255,20 +1239,8 @@ Shift+F1 or the context menu tells why.</source>
         <translation>縦</translation>
     </message>
     <message>
-        <source>Copies</source>
-        <translation>部数</translation>
-    </message>
-    <message>
-        <source>Pages</source>
-        <translation>ページ</translation>
-    </message>
-    <message>
         <source>All</source>
         <translation>すべて</translation>
-    </message>
-    <message>
-        <source>Color Management</source>
-        <translation>カラーマネージメント</translation>
     </message>
     <message>
         <source>By the Printer</source>
@@ -1281,10 +1253,6 @@ Shift+F1 or the context menu tells why.</source>
     <message>
         <source>Layout &amp; Job</source>
         <translation>レイアウト &amp; ジョブ</translation>
-    </message>
-    <message>
-        <source>Job Title</source>
-        <translation>ジョブのタイトル</translation>
     </message>
     <message>
         <source>Also Sent</source>
@@ -3129,6 +3097,41 @@ Shift+F1 or the context menu tells why.</source>
     <message>
         <source>The printer takes no paper of %1 × %2 mm: sizes of your own go from %3 × %4 mm to %5 × %6 mm.</source>
         <translation>このプリンターでは %1 × %2 mm の用紙を使用できません。指定できるサイズは %3 × %4 mm から %5 × %6 mm までです。</translation>
+    </message>
+</context>
+<context>
+    <name>SettingTitle</name>
+    <message>
+        <source>Paper in the Printer</source>
+        <translation>プリンターの用紙</translation>
+    </message>
+    <message>
+        <source>Document Page</source>
+        <translation>文書のページ</translation>
+    </message>
+    <message>
+        <source>Scaling</source>
+        <translation>拡大縮小</translation>
+    </message>
+    <message>
+        <source>Orientation</source>
+        <translation>向き</translation>
+    </message>
+    <message>
+        <source>Copies</source>
+        <translation>部数</translation>
+    </message>
+    <message>
+        <source>Pages</source>
+        <translation>ページ</translation>
+    </message>
+    <message>
+        <source>Color Management</source>
+        <translation>カラーマネージメント</translation>
+    </message>
+    <message>
+        <source>Job Title</source>
+        <translation>ジョブのタイトル</translation>
     </message>
 </context>
 <context>

@@ -125,7 +125,7 @@ TEST_F(SampleState, HasAPaperOfAnOwnSizeByItsSize)
     EXPECT_EQ(changeSentence(m_job.ppd(),
                              changesBetween({{u"PageSize"_s, u"A4"_s}},
                                             {{u"PageSize"_s, u"Custom.283.46x425.2"_s}}, {})),
-              u"Media Size is now 100 × 150 mm (was A4)."_s);
+              u"Paper in the Printer is now 100 × 150 mm (was A4)."_s);
 }
 
 TEST(ChangeWords, AreThePrintersOnOneLine)
