@@ -10,6 +10,7 @@
 #include "dialog/job/PipeDocuments.h"
 #include "dialog/printing/JobDoubts.h"
 #include "dialog/printing/LastPrinter.h"
+#include "dialog/printing/PanelPicks.h"
 #include "dialog/printing/RequestedSettings.h"
 #include "dialog/printing/SavedJob.h"
 #include "dialog/printing/SettingRequests.h"
@@ -29,6 +30,19 @@ namespace {
 QString ownAddress()
 {
     return QString::fromUtf8(requestingUser()) + u'@' + QSysInfo::machineHostName();
+}
+
+/// The one that the job has, else those that a person could pick now.
+QList<RequestedChoice> choicesLeft(const PrintJob &job, const QList<RequestedChoice> &choices)
+{
+    QList<RequestedChoice> left;
+    for (const RequestedChoice &choice : choices) {
+        if (hasSetting(job, choice))
+            return {choice};
+        if (isOfferedInPanels(*job.session(), choice.keyword, choice.choice))
+            left += choice;
+    }
+    return left;
 }
 
 } // namespace
@@ -89,6 +103,7 @@ Result<PrinterChoice> PrintController::choosePrinter(const QList<Destination> &l
 
 void PrintController::findPrinter(const PrinterSource &source, Then<FoundPrinter> then)
 {
+    m_named.reset();
     if (const Result<> known = checkInstance(source.queue); !known) {
         m_job.setPrinter(source, {});
         QTimer::singleShot(0, this, [then = std::move(then), known] { then(known.fault()); });
@@ -155,22 +170,48 @@ void PrintController::lookForExchange(Then<bool> then)
         std::move(then), [source] { return Result<bool>(silentServer(source.server)); });
 }
 
-NamedWishes PrintController::namedWishes() const
+NamedWishes PrintController::nameWishes(const ChoiceNarrowing &narrowed) const
 {
     QList<RequestedChoice> wanted = m_wishes.choices;
     if (m_wishes.mail)
         wanted += RequestedChoice{QStringLiteral("notify-recipient-uri"), ownAddress()};
     if (!m_wishes.paper.isNull())
         wanted += RequestedChoice{QStringLiteral("PageSize"), m_wishes.paper};
-    return inPrintersNames(m_job.ppd(), m_job.attributeRules(), wanted);
+    return inPrintersNames(m_job.ppd(), m_job.attributeRules(), wanted, narrowed);
+}
+
+NamedWishes PrintController::namedWishes() const
+{
+    return m_named ? *m_named : nameWishes({});
 }
 
 Result<>
 PrintController::makeRequestedSettings(const std::function<void(const RequestedChoice &)> &madeOne)
 {
-    const NamedWishes named = namedWishes();
-    const Result<> made = makeSettings(m_job, named.wanted, madeOne);
-    return named.state ? made : named.state;
+    m_named = nameWishes({});
+    const Result<> made = makeSettings(m_job, m_named->wanted, madeOne);
+    if (!m_named->state && m_job.session())
+        return makeOffered(made, madeOne);
+    return m_named->state ? made : m_named->state;
+}
+
+/// What stands for several choices may stand for one, now that the other wishes are made: a quality
+/// by the medium that it goes with.
+Result<> PrintController::makeOffered(const Result<> &made,
+                                      const std::function<void(const RequestedChoice &)> &madeOne)
+{
+    prepareControls(*m_job.session());
+    const NamedWishes named = nameWishes(
+        [this](const QList<RequestedChoice> &choices) { return choicesLeft(m_job, choices); });
+    QList<RequestedChoice> added = named.wanted;
+    added.removeIf([&](const RequestedChoice &one) { return m_named->wanted.contains(one); });
+    m_named = named;
+    if (added.isEmpty())
+        return named.state ? made : named.state;
+    const Result<> madeMore = makeSettings(m_job, added, madeOne);
+    const bool areAllThere = made && madeMore && ::lostSettings(m_job, named.wanted).isEmpty();
+    const Result<> all = areAllThere ? made : makeSettings(m_job, named.wanted, madeOne);
+    return named.state ? all : named.state;
 }
 
 QList<RequestedChoice> PrintController::lostSettings() const

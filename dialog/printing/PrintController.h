@@ -113,7 +113,7 @@ public:
     /// that is not the queue's.
     void lookForExchange(Then<bool> then);
 
-    /// The wished settings by the names of the printer.
+    /// The wished settings by the names of the printer, as they were made.
     NamedWishes namedWishes() const;
 
     /// Makes the wished settings (makeSettings()).
@@ -166,11 +166,15 @@ public:
 
 private:
     std::optional<QueuePPD> shownPPD() const;
+    NamedWishes nameWishes(const ChoiceNarrowing &narrowed) const;
+    Result<> makeOffered(const Result<> &made,
+                         const std::function<void(const RequestedChoice &)> &madeOne);
 
     const PrintWishes m_wishes;
     UnsavedPanels m_unsaved; // outlives the session that it follows
     PrintJob m_job;
     PrinterOpening m_opening;
+    std::optional<NamedWishes> m_named; ///< as they were made on the printer; none: not yet
     PageCounter m_pages;
     LatestCall m_call;    ///< finding, sending or writing
     LatestCall m_reading; ///< of documents that are pipes

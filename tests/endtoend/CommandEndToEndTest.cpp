@@ -54,6 +54,52 @@ TEST_F(Command, AJobHasTheNameThatTheServerHasForTheQueue)
     }
 }
 
+/// A quality as every printer has it.
+struct QualityCase
+{
+    const char *behaviour;
+    QStringList options;
+    QString quality; ///< in the job; null: it is refused
+    QString sentence;
+};
+
+class CommandWithAQuality : public Command, public testing::WithParamInterface<QualityCase>
+{};
+
+TEST_P(CommandWithAQuality, TakesTheOneThatGoesWithTheMedium)
+{
+    QStringList options;
+    for (const QString &option : GetParam().options)
+        options += {u"-o"_s, option};
+    const ProgramRun run = print(options);
+    EXPECT_EQ(run.errors, GetParam().sentence);
+    EXPECT_EQ(run.status, GetParam().quality.isNull() ? 2 : 0);
+    const QString sent =
+        newJobs().isEmpty()
+            ? QString()
+            : server().jobAttributes(u"photo"_s, newJobs()[0]).value(u"VKResolution"_s);
+    EXPECT_EQ(sent, GetParam().quality);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Table, CommandWithAQuality,
+    testing::Values(
+        QualityCase{"OfPlainPaper", {u"print-quality=3"_s}, u"PlainFast"_s, {}},
+        QualityCase{
+            "OfPhotoPaper", {u"print-quality=5"_s, u"VKMediaType=Glossy"_s}, u"Photo"_s, {}},
+        QualityCase{"OfPhotoPaperInTheOtherOrder",
+                    {u"VKMediaType=Glossy"_s, u"print-quality=5"_s},
+                    u"Photo"_s,
+                    {}},
+        QualityCase{
+            "OfADisc", {u"VKMediaType=PrintableDisc"_s, u"print-quality=5"_s}, u"DiscSlow"_s, {}},
+        QualityCase{"OfSeveral",
+                    {u"print-quality=5"_s},
+                    {},
+                    u"velkaro-print: print-quality=5 stands for several choices of this printer. "
+                    "It can be: VKResolution=High, VKResolution=Best.\n"_s}),
+    CaseName());
+
 TEST_F(Command, ASocketThatIsNotThereIsNamed)
 {
     const QString socket = inFolder(u"no-socket"_s);
