@@ -1,6 +1,7 @@
 #include "dialog/cups/ClassMembers.h"
 
 #include "dialog/cups/ServerConnection.h"
+#include "dialog/cups/ServerRequests.h"
 
 #include <QtCore/QMap>
 #include <QtCore/QStringList>

@@ -1,6 +1,7 @@
 #include "dialog/cups/CoverPages.h"
 
 #include "dialog/cups/ServerConnection.h"
+#include "dialog/cups/ServerRequests.h"
 
 Result<QStringList> coverPages(const QString &server, const QString &queue, CallGuard &guard)
 {

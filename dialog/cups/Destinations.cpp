@@ -1,6 +1,7 @@
 #include "dialog/cups/Destinations.h"
 
 #include "dialog/cups/ServerConnection.h"
+#include "dialog/cups/ServerRequests.h"
 
 #include <algorithm>
 #include <array>

@@ -3,6 +3,7 @@
 #include "dialog/cups/JobControl.h"
 #include "dialog/cups/QueueOutlook.h"
 #include "dialog/cups/ServerConnection.h"
+#include "dialog/cups/ServerRequests.h"
 
 #include <QtCore/QCoreApplication>
 

@@ -2,6 +2,7 @@
 
 #include "dialog/cups/JobAuthentication.h"
 #include "dialog/cups/ServerConnection.h"
+#include "dialog/cups/ServerRequests.h"
 
 #include <algorithm>
 #include <array>

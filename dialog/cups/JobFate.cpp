@@ -1,5 +1,6 @@
 #include "dialog/cups/JobFate.h"
 
+#include "dialog/cups/ServerRequests.h"
 namespace {
 
 bool hasReason(ipp_t *job, const char *reason)

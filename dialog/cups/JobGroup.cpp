@@ -1,6 +1,7 @@
 #include "dialog/cups/JobGroup.h"
 
 #include "dialog/cups/ServerConnection.h"
+#include "dialog/cups/ServerRequests.h"
 
 #include <algorithm>
 #include <vector>

@@ -1,6 +1,7 @@
 #include "dialog/cups/JobReadBack.h"
 
 #include "dialog/cups/OptionAttribute.h"
+#include "dialog/cups/ServerRequests.h"
 #include "dialog/job/UnsaidSettings.h"
 #include "platform/toolkit/PlainText.h"
 

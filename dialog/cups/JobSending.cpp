@@ -1,5 +1,6 @@
 #include "dialog/cups/JobSending.h"
 
+#include "dialog/cups/ServerRequests.h"
 #include "dialog/job/OutgoingText.h"
 
 namespace {

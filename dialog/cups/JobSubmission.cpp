@@ -7,6 +7,7 @@
 #include "dialog/cups/LostCreation.h"
 #include "dialog/cups/QueueOutlook.h"
 #include "dialog/cups/QueuePPD.h"
+#include "dialog/cups/ServerRequests.h"
 
 #include <QtCore/QCoreApplication>
 

@@ -1,7 +1,7 @@
 #include "dialog/cups/JobTemplate.h"
 
 #include "dialog/cups/OptionAttribute.h"
-#include "dialog/cups/ServerConnection.h"
+#include "dialog/cups/ServerRequests.h"
 #include "dialog/job/OutgoingText.h"
 
 IppHandle jobTemplate(ipp_op_t operation, const JobRequest &job, const AuthInfo &who)

@@ -1,6 +1,7 @@
 #include "dialog/cups/JobWatch.h"
 
 #include "dialog/cups/ServerConnection.h"
+#include "dialog/cups/ServerRequests.h"
 
 #include <algorithm>
 #include <array>

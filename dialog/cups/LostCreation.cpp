@@ -2,6 +2,7 @@
 
 #include "dialog/cups/JobFate.h"
 #include "dialog/cups/JobSettlement.h"
+#include "dialog/cups/ServerRequests.h"
 #include "dialog/job/OutgoingText.h"
 
 #include <algorithm>

@@ -1,6 +1,7 @@
 #include "dialog/cups/PrinterCondition.h"
 
 #include "dialog/cups/QueueOutlook.h"
+#include "dialog/cups/ServerRequests.h"
 
 #include <algorithm>
 

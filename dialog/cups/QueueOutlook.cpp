@@ -2,6 +2,7 @@
 
 #include "dialog/cups/JobTemplate.h"
 #include "dialog/cups/OptionAttribute.h"
+#include "dialog/cups/ServerRequests.h"
 
 using namespace Qt::StringLiterals;
 

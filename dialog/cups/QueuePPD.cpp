@@ -1,6 +1,7 @@
 #include "dialog/cups/QueuePPD.h"
 
 #include "dialog/cups/ServerConnection.h"
+#include "dialog/cups/ServerRequests.h"
 #include "dialog/files/TemporaryFile.h"
 #include "dialog/host/PPDFile.h"
 #include "dialog/work/SystemReason.h"

@@ -89,6 +89,11 @@ public:
     Fault lastFault(const QString &queue = QString()) const;
 
 private:
+    /// Has libcups ask nobody for passwords.
+    static void askNobody();
+    /// Not connected yet: with the guard in place, a handshake for TLS waits no longer than it
+    /// says.
+    static http_t *newHandle(http_encryption_t encryption, CallGuard &guard);
     bool connectAnew();
     bool begin(int timeouts);
     int ask(const char *method, const QByteArray &resource, const std::function<int()> &send);
@@ -120,21 +125,6 @@ private:
     bool m_isUntrusted = false; ///< it has shown another certificate than before
     ExchangeEnd m_end;
 };
-
-/// The user's name as servers are told it.
-QByteArray requestingUser();
-
-/// A request about the queue, with the attributes that every request begins with.
-IppHandle queueRequest(ipp_op_t operation, const QString &queue);
-
-/// The same about a job of the queue.
-IppHandle jobRequest(ipp_op_t operation, const QString &queue, int jobId);
-
-/// Has the request ask for these attributes alone.
-void askFor(ipp_t *request, const QList<QByteArray> &names);
-
-/// The path of the queue on its server.
-QByteArray queueResource(const QString &queue);
 
 /// The server's name for people: host and port ("print.example:631"), the path of a socket that
 /// somebody has named, or "localhost" where it is reached by this machine's usual one.

@@ -157,6 +157,16 @@ QString customChoice(const QList<CustomParameter> &parameters)
     return parameters.size() == 1 ? kCustomPrefix + parameters[0].value : collectionOf(parameters);
 }
 
+QString customForm(const QList<CustomParameter> &parameters)
+{
+    if (parameters.size() == 1)
+        return kCustomPrefix + parameters[0].name;
+    QStringList members;
+    for (const CustomParameter &parameter : parameters)
+        members += parameter.name + u"=…"_s;
+    return u'{' + members.join(u' ') + u'}';
+}
+
 QList<CustomParameter> parametersOf(const QString &choice, QList<CustomParameter> parameters)
 {
     if (choice.startsWith(kCustomPrefix, Qt::CaseInsensitive) && parameters.size() == 1) {

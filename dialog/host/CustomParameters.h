@@ -44,6 +44,10 @@ ParameterFault faultOf(const CustomParameter &parameter);
 /// "{Text="a b" Size=12}". Null without parameters.
 QString customChoice(const QList<CustomParameter> &parameters);
 
+/// How such a choice is typed, with the names of the parameters in the place of the values:
+/// "Custom.Size", "{Text=… Size=…}".
+QString customForm(const QList<CustomParameter> &parameters);
+
 /// The parameters with the values of such a choice in their places; one that the choice leaves out
 /// keeps its own. None: it is no choice of that form, or names a parameter that the option lacks.
 QList<CustomParameter> parametersOf(const QString &choice, QList<CustomParameter> parameters);

@@ -9,6 +9,7 @@
 /// pages; null when the text is no list of page numbers from 1 on.
 QString normalizedPageRanges(const QString &typed);
 
-/// The first page of the first range that lies wholly beyond a document of so many pages; none
-/// where every range has a page of it. `ranges` as normalizedPageRanges() gives them.
+/// The first page of the first range that lies wholly beyond a document of so many pages (or sides,
+/// where those are counted); none where every range has a page of it. `ranges` as
+/// normalizedPageRanges() gives them.
 std::optional<int> pageBeyond(const QString &ranges, int pages);

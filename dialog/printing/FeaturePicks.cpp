@@ -33,6 +33,15 @@ QList<FeatureGroup> featuresOf(const PrintJob &job)
                                           keywordsOfPanels(*job.session()));
 }
 
+QList<PrinterFeature> choosableFeatures(const PrintJob &job)
+{
+    QList<PrinterFeature> features;
+    for (const FeatureGroup &group : featuresOf(job))
+        if (!group.isInstalled)
+            features += group.features;
+    return features;
+}
+
 Result<> chooseFeature(PrintJob &job, const PrinterFeature &feature, const QString &value)
 {
     if (value.isEmpty())

@@ -12,6 +12,9 @@ class PrintJob;
 /// plug-in does not want them watched, and the page setup has none of them. None without a PPD.
 QList<FeatureGroup> featuresOf(const PrintJob &job);
 
+/// Those of them that can be chosen: what is built into the printer is set up with the queue.
+QList<PrinterFeature> choosableFeatures(const PrintJob &job);
+
 /// Chooses a value of the feature, as a PPDMark holds it. A fault says what it does not go together
 /// with, or that the printer has no such value; nothing has changed then.
 Result<> chooseFeature(PrintJob &job, const PrinterFeature &feature, const QString &value);

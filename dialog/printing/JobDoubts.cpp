@@ -3,6 +3,7 @@
 #include "dialog/host/HostSession.h"
 #include "dialog/job/Conflicts.h"
 #include "dialog/job/Papers.h"
+#include "dialog/job/PrintedSides.h"
 #include "dialog/printing/ChangeWords.h"
 #include "dialog/printing/PrintJob.h"
 #include "platform/ppd/PPDText.h"
@@ -49,6 +50,35 @@ bool wasMadeOrShown(const PrintJob &job, const SettingState &before, const Setti
     return job.isChosen(former) || before.shown.contains(former);
 }
 
+/// As the server's filters have it: a booklet has two pages a side, and needs both sides.
+QStringList notesOnBooklet(const PrintJob &job)
+{
+    const JobLayout &layout = job.settings().layout;
+    if (layout.booklet != "on"_L1)
+        return {};
+    QStringList notes;
+    if (!layout.pagesPerSheet.isEmpty() && layout.pagesPerSheet != "2"_L1)
+        notes +=
+            QCoreApplication::translate("JobDoubts", "A booklet has two pages on a side, not %1.")
+                .arg(layout.pagesPerSheet);
+    if (job.session() && findOption(job.ppd(), u"Duplex"_s) && !isTwoSided(job))
+        notes += QCoreApplication::translate(
+            "JobDoubts", "A booklet needs both sides of the paper; this job is printed on one.");
+    return notes;
+}
+
+/// As the server's filters have it: they choose pages when several of them stand on a side already.
+QStringList notesOnCounting(const HostSettings &settings)
+{
+    const bool areChosen = !settings.pageRanges.isEmpty() || (!settings.layout.pageSet.isEmpty() &&
+                                                              settings.layout.pageSet != "all"_L1);
+    if (!areChosen || !hasSeveralPagesOnASide(settings.layout))
+        return {};
+    return {QCoreApplication::translate(
+        "JobDoubts", "With several pages on a sheet, \"Pages\" and \"Even and Odd\" count the "
+                     "printed sides.")};
+}
+
 } // namespace
 
 bool isOnOneSidedPaper(const PrintJob &job)
@@ -83,21 +113,9 @@ QStringList replacedBySaving(const PrintJob &job, const SettingState &before,
     return replaced;
 }
 
-/// As the server's filters have it: a booklet has two pages a side, and needs both sides.
 QStringList notesOnLayout(const PrintJob &job)
 {
-    const JobLayout &layout = job.settings().layout;
-    if (layout.booklet != "on"_L1)
-        return {};
-    QStringList notes;
-    if (!layout.pagesPerSheet.isEmpty() && layout.pagesPerSheet != "2"_L1)
-        notes +=
-            QCoreApplication::translate("JobDoubts", "A booklet has two pages on a side, not %1.")
-                .arg(layout.pagesPerSheet);
-    if (job.session() && findOption(job.ppd(), u"Duplex"_s) && !isTwoSided(job))
-        notes += QCoreApplication::translate(
-            "JobDoubts", "A booklet needs both sides of the paper; this job is printed on one.");
-    return notes;
+    return notesOnBooklet(job) + notesOnCounting(job.settings());
 }
 
 QList<JobAdvice> adviceFor(const PrintJob &job)

@@ -71,6 +71,20 @@ void takeScaling(PrintJob &job, const QString &value)
     job.settings().scaling = scalingOf({kPrintScaling, value}).value_or(PrintScaling::Automatic);
 }
 
+constexpr auto kCollation = "multiple-document-handling"_L1;
+
+QString normalizedCollation(const QString &value)
+{
+    if (value == "true"_L1)
+        return u"separate-documents-collated-copies"_s;
+    return value == "false"_L1 ? u"separate-documents-uncollated-copies"_s : QString();
+}
+
+void takeCollation(PrintJob &job, const QString &value)
+{
+    job.settings().layout.collation = value;
+}
+
 struct OwnSetting
 {
     QLatin1String name;
@@ -86,7 +100,8 @@ constexpr std::array kOwnSettings{
     OwnSetting{kOrientation, normalizedOrientation, takeOrientation, "portrait landscape 3 4"},
     OwnSetting{kLandscape, normalizedLandscape, takeOrientation, "true false", kOrientation},
     OwnSetting{kPrintScaling, normalizedScaling, takeScaling, "auto none fit fill"},
-    OwnSetting{kFitToPage, normalizedFit, takeScaling, "true false", kPrintScaling}};
+    OwnSetting{kFitToPage, normalizedFit, takeScaling, "true false", kPrintScaling},
+    OwnSetting{"collate"_L1, normalizedCollation, takeCollation, "true false", kCollation}};
 
 const OwnSetting *settingNamed(const QString &name)
 {

@@ -6,8 +6,8 @@
 class PrintJob;
 
 /// The settings of the dialog's own that may be asked for by name: `copies`, `page-ranges`,
-/// `orientation-requested`, `print-scaling` and, as lp has them, `fit-to-page` and `landscape`, and
-/// those of a layout.
+/// `orientation-requested`, `print-scaling` and, as lp has them, `fit-to-page`, `landscape` and
+/// `collate`, and those of a layout.
 
 bool isOwnSetting(const QString &name);
 

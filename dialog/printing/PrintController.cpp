@@ -4,6 +4,7 @@
 #include "dialog/cups/JobSettlement.h"
 #include "dialog/cups/Passwords.h"
 #include "dialog/cups/ServerConnection.h"
+#include "dialog/cups/ServerRequests.h"
 #include "dialog/host/HostSession.h"
 #include "dialog/job/DocumentFile.h"
 #include "dialog/job/JobFileWriter.h"

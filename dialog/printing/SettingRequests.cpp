@@ -1,5 +1,6 @@
 #include "dialog/printing/SettingRequests.h"
 
+#include "dialog/host/CustomParameters.h"
 #include "dialog/host/HostSession.h"
 #include "dialog/host/PPDMarks.h"
 #include "dialog/job/Conflicts.h"
@@ -124,14 +125,31 @@ Result<RequestedChoice> knownOwnSetting(const RequestedChoice &wanted)
     return RequestedChoice{ownSettingName(wanted.keyword), value};
 }
 
+/// The name alone of a value that is the user's to say.
+bool lacksItsValues(ppd_file_t *ppd, const QString &keyword, const QString &choice)
+{
+    return isCustomName(choice) && !customParameters(ppd, keyword).isEmpty();
+}
+
+/// With what is wrong with a value of the user's own, where it is one.
+Fault wrongChoice(ppd_file_t *ppd, const RequestedChoice &wanted)
+{
+    const auto own = parametersOf(wanted.choice, customParameters(ppd, wanted.keyword));
+    const auto isWrong = [](const CustomParameter &one) { return !faultText(one).isNull(); };
+    const auto wrong = std::ranges::find_if(own, isWrong);
+    const Fault fault = noSuchValue(wanted, typedChoices(ppd, wanted.keyword));
+    return wrong == own.end() ? fault
+                              : settingFault(joinedSentences({fault.sentence, faultText(*wrong)}));
+}
+
 Result<RequestedChoice> knownChoice(const PrintJob &job, const RequestedChoice &wanted)
 {
     const auto [keyword, choice] = job.session()->spelled(wanted.keyword, wanted.choice);
     if (!isChoice(job.ppd(), keyword))
         return noSuchSetting(keyword);
     const QString value = normalizedValue(job.ppd(), keyword, choice);
-    if (value.isNull())
-        return noSuchValue({keyword, choice}, typedChoices(job.ppd(), keyword));
+    if (value.isNull() || lacksItsValues(job.ppd(), keyword, value))
+        return wrongChoice(job.ppd(), {keyword, choice});
     return RequestedChoice{keyword, value};
 }
 
@@ -193,8 +211,11 @@ QStringList typedChoices(ppd_file_t *ppd, const QString &keyword)
 {
     QStringList choices;
     const ppd_option_t *option = findOption(ppd, keyword);
-    for (int index = 0; option && index < option->num_choices; ++index)
-        choices += ppdName(option->choices[index].choice);
+    for (int index = 0; option && index < option->num_choices; ++index) {
+        const QString choice = ppdName(option->choices[index].choice);
+        choices += lacksItsValues(ppd, keyword, choice) ? customForm(customParameters(ppd, keyword))
+                                                        : choice;
+    }
     return choices;
 }
 

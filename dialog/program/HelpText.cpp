@@ -27,7 +27,8 @@ Settings
 
 Job
   -n, --copies NUMBER     print so many copies
-  -P, --pages LIST        print these pages: 1-3,5
+  -P, --pages LIST        print these pages: 1-3,5 (with several pages on a
+                          sheet: these printed sides)
   -t, --title TITLE       give the job this title
   -H, --hold WHEN         hold the job: hold, immediate, night or another
                           period of the server, or a time of day in UTC, HH:MM

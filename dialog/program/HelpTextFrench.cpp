@@ -19,7 +19,7 @@ Réglages
   -o, --option KEY=VALUE  faire un réglage de l’imprimante ; peut être répété,
                           dans n’importe quel ordre, une fois par KEY ;
                           media, sides, print-quality, print-color-mode et
-                          output-bin si l’imprimante les a ; avec chaque
+                          output-bin si l’imprimante les a ; avec chaque
                           imprimante number-up, number-up-layout,
                           page-border, page-set, outputorder, booklet,
                           multiple-document-handling, job-hold-until,
@@ -30,7 +30,8 @@ Réglages
 
 Travail
   -n, --copies NUMBER     imprimer ce nombre d’exemplaires
-  -P, --pages LIST        imprimer ces pages : 1-3,5
+  -P, --pages LIST        imprimer ces pages : 1-3,5 (avec plusieurs pages
+                          par feuille : ces côtés imprimés)
   -t, --title TITLE       donner ce titre au travail
   -H, --hold WHEN         retenir le travail : hold, immediate, night ou une
                           autre période du serveur, ou une heure UTC, HH:MM
@@ -50,23 +51,23 @@ Travail
       --yes               répondre oui, et non pas non, à ce que demande une
                           vérification, et imprimer sans les réglages
                           impossibles
-      --each              avec --no-dialog : imprimer chaque document comme un
+      --each              avec --no-dialog : imprimer chaque document comme un
                           travail à part, avec les mêmes réglages
-      --wait              avec --no-dialog : attendre que le travail soit
+      --wait              avec --no-dialog : attendre que le travail soit
                           imprimé, et dire sur l’erreur standard où il en est
-      --timeout SECONDS   avec --wait : aussi longtemps au plus tant que le
+      --timeout SECONDS   avec --wait : aussi longtemps au plus tant que le
                           travail est arrêté ou retenu
-      --password-fd N     avec --no-dialog : lire dans ce fichier ouvert le mot
+      --password-fd N     avec --no-dialog : lire dans ce fichier ouvert le mot
                           de passe demandé par un serveur ou une imprimante,
-                          jusqu’à la fin de la première ligne ; sinon il est
+                          jusqu’à la fin de la première ligne ; sinon il est
                           demandé sur le terminal
 
 Examen et essais
       --screenshot FILE.png
                           dessiner la boîte de dialogue dans une image au lieu
                           de l’afficher
-      --panel NAME        afficher d’abord cette partie : setup, print, color,
-                          features, layout ou summary ; dans une image, cette
+      --panel NAME        afficher d’abord cette partie : setup, print, color,
+                          features, layout ou summary ; dans une image, cette
                           partie seule
       --record SCRIPT     noter la session dans un script
       --replay SCRIPT     exécuter une session depuis un script (- : entrée
@@ -94,10 +95,10 @@ Code de retour
   4  un document ne peut pas être lu
   5  un fichier de sortie ne peut pas être écrit ou existe déjà
   6  le serveur ou la file d’attente est injoignable, le travail a été refusé,
-     ou l’on ignore s’il a été accepté ; avec --wait : il a été annulé
+     ou l’on ignore s’il a été accepté ; avec --wait : il a été annulé
      ailleurs, ou s’est terminé avec des erreurs
   7  le module ne peut pas être utilisé, ou ne peut pas vérifier de fichier PPD
-  8  avec --wait et --timeout : le travail est resté trop longtemps arrêté ou
+  8  avec --wait et --timeout : le travail est resté trop longtemps arrêté ou
      retenu
 )",
     "L’installation est incomplète : %s",

@@ -29,7 +29,8 @@ Einstellungen
 
 Auftrag
   -n, --copies NUMBER     so viele Exemplare drucken
-  -P, --pages LIST        diese Seiten drucken: 1-3,5
+  -P, --pages LIST        diese Seiten drucken: 1-3,5 (bei mehreren Seiten
+                          pro Blatt: diese bedruckten Blattseiten)
   -t, --title TITLE       dem Auftrag diesen Titel geben
   -H, --hold WHEN         den Auftrag zurückhalten: hold, immediate, night oder
                           ein anderer Zeitraum des Servers, oder eine Uhrzeit

@@ -26,7 +26,8 @@ const LauncherTexts kJapaneseTexts{
 
 ジョブ
   -n, --copies NUMBER     この部数を印刷する
-  -P, --pages LIST        これらのページを印刷する: 1-3,5
+  -P, --pages LIST        これらのページを印刷する: 1-3,5 (1 枚に複数の
+                          ページを印刷するときは、これらの面)
   -t, --title TITLE       ジョブにこのタイトルを付ける
   -H, --hold WHEN         ジョブを保留する: hold、immediate、night などサーバー
                           の時間帯、または UTC の時刻 HH:MM

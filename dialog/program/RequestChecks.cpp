@@ -1,6 +1,8 @@
 #include "dialog/program/RequestChecks.h"
 
+#include "dialog/job/JobOptions.h"
 #include "dialog/job/PageRanges.h"
+#include "dialog/job/PrintedSides.h"
 #include "dialog/printing/SettingRequests.h"
 
 #include <QtCore/QCoreApplication>
@@ -9,30 +11,41 @@ namespace {
 
 const auto kCovers = QStringLiteral("job-sheets");
 
-Result<> checkRanges(const QString &ranges, const std::optional<int> &pages)
+QString beyondSentence(const JobLayout &layout)
 {
-    const std::optional<int> beyond =
-        pages && !ranges.isEmpty() ? pageBeyond(ranges, *pages) : std::nullopt;
+    return hasSeveralPagesOnASide(layout)
+               ? QCoreApplication::translate("RequestChecks",
+                                             "%1 is beyond the last side that is printed, %2.")
+               : QCoreApplication::translate("RequestChecks",
+                                             "Page %1 is beyond the document's last page, %2.");
+}
+
+Result<> checkRanges(const HostSettings &settings, const std::optional<int> &pages)
+{
+    if (!pages)
+        return {};
+    const int last = printedSides(settings.layout, *pages);
+    const std::optional<int> beyond = pageBeyond(settings.pageRanges, last);
     if (!beyond)
         return {};
-    return Fault{FaultKind::Request,
-                 QCoreApplication::translate("RequestChecks",
-                                             "Page %1 is beyond the document's last page, %2.")
-                     .arg(QString::number(*beyond), QString::number(*pages))};
+    return Fault{
+        FaultKind::Request,
+        beyondSentence(settings.layout).arg(QString::number(*beyond), QString::number(last))};
 }
 
 } // namespace
 
-Result<> checkPages(const QString &ranges, const PageCount &count)
+Result<> checkPages(const HostSettings &settings, const PageCount &count)
 {
-    return checkRanges(ranges, count.fewest);
+    return checkRanges(settings, count.fewest);
 }
 
-Result<> checkPagesOfEach(const QString &ranges, const PageCount &count, const Documents &documents)
+Result<> checkPagesOfEach(const HostSettings &settings, const PageCount &count,
+                          const Documents &documents)
 {
     for (std::size_t index = 0; index < documents.size(); ++index) {
         const Result<> checked =
-            checkRanges(ranges, count.each.value(static_cast<qsizetype>(index)));
+            checkRanges(settings, count.each.value(static_cast<qsizetype>(index)));
         if (!checked)
             return Fault{checked.fault().kind,
                          QStringLiteral("%1: %2").arg(documents[index].path(), checked.sentence())};

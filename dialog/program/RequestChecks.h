@@ -10,13 +10,13 @@
 // What is looked at before a job goes out that nobody sees: a server would take it, and print
 // something else, or nothing.
 
-/// The fault of documents that do not have all of the pages. `ranges` are as JobRequest has them;
-/// empty: all.
-Result<> checkPages(const QString &ranges, const PageCount &count);
+/// The fault of documents that do not have all of the pages that the settings choose, or all of the
+/// sides, where those are counted.
+Result<> checkPages(const HostSettings &settings, const PageCount &count);
 
 /// The same for documents that have each a job of its own: it names the first of them that does
 /// not.
-Result<> checkPagesOfEach(const QString &ranges, const PageCount &count,
+Result<> checkPagesOfEach(const HostSettings &settings, const PageCount &count,
                           const Documents &documents);
 
 /// The cover pages that the job asks for, by their names.

@@ -134,6 +134,8 @@ void DialogWindow::takePrinter(const Result<FoundPrinter> &found)
         m_undo->begin(isFirst ? m_controller.namedWishes().wanted : QList<RequestedChoice>());
     else if (m_state == State::NoPrinter || m_savedJob)
         m_undo->clear();
+    if (const DialogTabs::Part *part = m_tabs->currentPart())
+        fillPart(part->page); // it was filled before the settings were made that are wished
     watchPrinters();
 }
 

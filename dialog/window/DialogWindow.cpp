@@ -104,6 +104,7 @@ void DialogWindow::buildLayout()
     connect(m_header, &JobHeader::documentsWanted, this, &DialogWindow::chooseDocuments);
     connect(m_header, &JobHeader::changed, this, &DialogWindow::tellStanding);
     connect(m_tabs->pageSetup(), &PageSetupPane::changed, this, &DialogWindow::tellStanding);
+    connect(m_tabs->layoutPane(), &LayoutPane::changed, m_header, &JobHeader::judgePages);
     connect(m_tabs->layoutPane(), &LayoutPane::changed, this, &DialogWindow::tellStanding);
     connect(m_tabs->pageSetup(), &PageSetupPane::refused, this, &DialogWindow::tellRefusal);
     connect(m_tabs->features(), &FeaturesPane::changed, this, &DialogWindow::tellStanding);

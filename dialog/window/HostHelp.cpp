@@ -26,7 +26,7 @@ constexpr std::array kParagraphs{
                                   "of the paper in the printer. What comes of each choice stands "
                                   "below it."),
     QT_TRANSLATE_NOOP("HostHelp", "When the printer does not allow two settings together, the "
-                                  "second one is not made, and a line above the tabs names both."),
+                                  "second one is not made, and a line below the tabs names both."),
     QT_TRANSLATE_NOOP("HostHelp",
                       "Ctrl+Z takes back what you have set, step by step, and Ctrl+Shift+Z does it "
                       "again. Shift+F1 and the context menu of a setting tell why something cannot "

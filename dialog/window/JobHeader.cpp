@@ -1,6 +1,8 @@
 #include "dialog/window/JobHeader.h"
 
+#include "dialog/job/JobLayout.h"
 #include "dialog/job/PageRanges.h"
+#include "dialog/job/PrintedSides.h"
 #include "dialog/printing/PrintJob.h"
 #include "dialog/window/FieldWidth.h"
 #include "dialog/window/FlowLayout.h"
@@ -138,27 +140,43 @@ void JobHeader::takePages()
     Q_EMIT changed();
 }
 
-/// What is wrong with the pages, else how many there are.
 void JobHeader::judgePages()
 {
+    const bool areSides = hasSeveralPagesOnASide(m_job.settings().layout);
     QString told;
     if (normalizedPageRanges(m_pages->text()).isNull())
         told = tr("Pages look like this: 1-3, 5");
     else if (const std::optional<int> beyond = typedBeyond())
-        told = tr("%1 is beyond page %2").arg(*beyond).arg(*m_pageCount->fewest);
+        told = (areSides ? tr("%1 is beyond side %2") : tr("%1 is beyond page %2"))
+                   .arg(*beyond)
+                   .arg(printedSides(m_job.settings().layout, *m_pageCount->fewest));
     else if (m_pageCount && m_pageCount->all)
-        told = tr("%1 in all").arg(*m_pageCount->all);
+        told = countSentence();
     else if (m_pageCount && !m_job.documents().empty())
         told = tr("How many there are is not known");
     setLabelText(m_pagesValidation, told);
 }
 
-/// The page of what was typed that a document does not have; none where that is not known.
+/// Every document begins on a side of its own.
+QString JobHeader::countSentence() const
+{
+    const JobLayout &layout = m_job.settings().layout;
+    if (!hasSeveralPagesOnASide(layout))
+        return tr("%1 in all").arg(*m_pageCount->all);
+    int sides = 0;
+    for (const std::optional<int> &pages : m_pageCount->each)
+        sides += printedSides(layout, pages.value_or(0));
+    return tr("%1 sides in all").arg(sides);
+}
+
+/// The page (or side, where those are counted) of what was typed that a document does not have;
+/// none where that is not known.
 std::optional<int> JobHeader::typedBeyond() const
 {
-    const QString ranges = normalizedPageRanges(m_pages->text());
-    return m_pageCount && m_pageCount->fewest ? pageBeyond(ranges, *m_pageCount->fewest)
-                                              : std::nullopt;
+    if (!m_pageCount || !m_pageCount->fewest)
+        return std::nullopt;
+    return pageBeyond(normalizedPageRanges(m_pages->text()),
+                      printedSides(m_job.settings().layout, *m_pageCount->fewest));
 }
 
 bool JobHeader::isAcceptable() const

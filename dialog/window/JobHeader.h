@@ -33,6 +33,10 @@ public:
     /// Shows the job's documents and settings.
     void reload();
 
+    /// Says what is wrong with the pages that were typed, else how many there are. To be called
+    /// when the job's layout has changed: it may be sides that are counted.
+    void judgePages();
+
     /// Whether copies and pages are shown: a saved job has its own.
     void showJobSettings(bool shown);
 
@@ -49,7 +53,7 @@ private:
     QLayout *newDocumentsRow();
     QLayout *newSettingsRow();
     void takePages();
-    void judgePages();
+    QString countSentence() const;
     std::optional<int> typedBeyond() const;
 
     PrintJob &m_job;

@@ -1,8 +1,11 @@
 #include "dialog/window/JobSummary.h"
 
+#include "dialog/job/FeatureTexts.h"
 #include "dialog/job/JobLayout.h"
+#include "dialog/job/JobOptions.h"
 #include "dialog/job/Papers.h"
 #include "dialog/job/SettingTitle.h"
+#include "dialog/printing/FeaturePicks.h"
 #include "dialog/printing/OriginWords.h"
 #include "dialog/printing/PrintJob.h"
 #include "dialog/printing/SettingState.h"
@@ -53,6 +56,18 @@ SummarySection ownSection(const PrintJob &job)
     return own;
 }
 
+/// What the part of that name lets the user choose.
+SummarySection featuresSection(const PrintJob &job)
+{
+    SummarySection section{JobSummary::tr("Printer Features"), {}};
+    const QList<JobOption> sent = job.options().options;
+    for (const PrinterFeature &feature : choosableFeatures(job))
+        if (const QString value = optionValue(sent, feature.keyword); !value.isNull())
+            section.lines +=
+                {feature.text, valueText(job.ppd(), feature.keyword, value), feature.keyword};
+    return section;
+}
+
 SummarySection layoutSection(const PrintJob &job)
 {
     SummarySection section{JobSummary::tr("Layout & Job"), {}};
@@ -101,6 +116,7 @@ QList<SummarySection> summaryOf(PrintJob &job, const std::vector<const HostPanel
     }
     // Panels may change what is sent while they sum it up.
     sections.prepend(ownSection(job));
+    sections += featuresSection(job);
     sections += layoutSection(job);
     sections += SummarySection{JobSummary::tr("Also Sent"), linesOfTheRest(job, told)};
     return sections;

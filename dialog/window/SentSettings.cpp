@@ -5,6 +5,7 @@
 #include "dialog/job/JobLayout.h"
 #include "dialog/job/Papers.h"
 #include "dialog/job/StandardAttributes.h"
+#include "dialog/printing/FeaturePicks.h"
 #include "platform/pde/PDESummary.h"
 #include "platform/ppd/PPDText.h"
 #include "platform/printmanager/PMTicketKeys.h"
@@ -37,6 +38,13 @@ bool isPaperTold(const PrintJob &job, const QString &choice)
     return choice == job.mappedPaper() ||
            (paper &&
             (choice == paper->ppdName || choice == customPageSize(paper->width, paper->height)));
+}
+
+bool isFeature(const QList<PrinterFeature> &features, const JobOption &option)
+{
+    return std::ranges::any_of(features, [&](const PrinterFeature &feature) {
+        return isSameName(feature.keyword, option.name);
+    });
 }
 
 /// Whether the dialog itself has a line of it.
@@ -94,11 +102,13 @@ SummarySection::Line lineOf(const PrintJob &job, const JobOption &option)
 QList<SummarySection::Line> linesOfTheRest(const PrintJob &job, const QList<PanelSummary> &panels)
 {
     const QStringList foldStates = job.session() ? job.session()->foldStateKeys() : QStringList();
+    const QList<PrinterFeature> features = choosableFeatures(job);
     QList<SummarySection::Line> lines;
     for (const JobOption &option : sentOptions(job)) {
         const bool isToldByPanel = std::ranges::any_of(
             panels, [&](const PanelSummary &panel) { return isTold(job, option, panel); });
-        if (!isToldByPanel && !isTold(job, option) && !foldStates.contains(option.name))
+        if (!isToldByPanel && !isTold(job, option) && !isFeature(features, option) &&
+            !foldStates.contains(option.name))
             lines += lineOf(job, option);
     }
     return lines;

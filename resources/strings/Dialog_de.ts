@@ -91,7 +91,7 @@
     </message>
     <message>
         <source>--no-dialog and --panel do not go together.</source>
-        <translation>--no-dialog und --panel passen nicht zusammen.</translation>
+        <translation>--no-dialog und --panel lassen sich nicht zusammen verwenden.</translation>
     </message>
     <message>
         <source>--forget-alerts only has the warnings shown again: it prints nothing.</source>
@@ -103,7 +103,7 @@
     </message>
     <message>
         <source>--why only tells of a setting: it prints and replays nothing.</source>
-        <translation>--why sagt nur etwas über eine Einstellung: es druckt nichts und führt kein Skript aus.</translation>
+        <translation>--why sagt nur etwas über eine Einstellung: Es druckt nichts und führt kein Skript aus.</translation>
     </message>
     <message>
         <source>--json is for --why.</source>
@@ -119,7 +119,7 @@
     </message>
     <message>
         <source>--dry-run and --record do not go together.</source>
-        <translation>--dry-run und --record gehen nicht zusammen.</translation>
+        <translation>--dry-run und --record lassen sich nicht zusammen verwenden.</translation>
     </message>
     <message>
         <source>--timeout needs a number of seconds from 0 to %1, not &quot;%2&quot;.</source>
@@ -232,7 +232,7 @@ Umschalt+F1 oder das Kontextmenü sagt, warum.</translation>
     </message>
     <message>
         <source>Finding out…</source>
-        <translation>Wird ermittelt…</translation>
+        <translation>Wird ermittelt …</translation>
     </message>
     <message>
         <source>This cannot be explained.</source>
@@ -494,7 +494,7 @@ Umschalt+F1 oder das Kontextmenü sagt, warum.</translation>
     </message>
     <message>
         <source>Supplies</source>
-        <translation>Vorräte</translation>
+        <translation>Verbrauchsmaterial</translation>
     </message>
 </context>
 <context>
@@ -671,8 +671,8 @@ Umschalt+F1 oder das Kontextmenü sagt, warum.</translation>
         <translation>„Seite einrichten“ enthält das Papier, seine Ausrichtung, den beidseitigen Druck und was der Drucker sonst diesem Dialog überlässt. Ein eigenes Format wird unter dem Papier eingegeben; neben dem Feld steht, wenn der Drucker es nicht verarbeiten kann.</translation>
     </message>
     <message>
-        <source>When the printer does not allow two settings together, the second one is not made, and a line above the tabs names both.</source>
-        <translation>Lässt der Drucker zwei Einstellungen nicht zusammen zu, wird die zweite nicht übernommen, und eine Zeile über den Registern nennt beide.</translation>
+        <source>When the printer does not allow two settings together, the second one is not made, and a line below the tabs names both.</source>
+        <translation>Lässt der Drucker zwei Einstellungen nicht zusammen zu, wird die zweite nicht übernommen, und eine Zeile unter den Registern nennt beide.</translation>
     </message>
     <message>
         <source>Summary lists everything that will be printed with. &quot;Save to File&quot; keeps the job with its documents; open it here later, as a document, to print it.</source>
@@ -699,7 +699,7 @@ Umschalt+F1 oder das Kontextmenü sagt, warum.</translation>
     <name>JobAuthentication</name>
     <message>
         <source>Job %1 on %2 stays held: nobody has said who prints.</source>
-        <translation>Auftrag %1 an %2 bleibt angehalten: Niemand hat gesagt, wer druckt.</translation>
+        <translation>Auftrag %1 auf %2 bleibt zurückgehalten: Niemand hat gesagt, wer druckt.</translation>
     </message>
     <message>
         <source>The printer behind %1 wants to know who prints, and nobody has said it.</source>
@@ -734,6 +734,10 @@ Umschalt+F1 oder das Kontextmenü sagt, warum.</translation>
     <message>
         <source>For %1 there is &quot;%2&quot;.</source>
         <translation>Für %1 gibt es „%2“.</translation>
+    </message>
+    <message>
+        <source>With several pages on a sheet, &quot;Pages&quot; and &quot;Even and Odd&quot; count the printed sides.</source>
+        <translation>Bei mehreren Seiten pro Blatt zählen „Seiten“ und „Gerade und ungerade“ die bedruckten Blattseiten.</translation>
     </message>
 </context>
 <context>
@@ -824,6 +828,14 @@ Umschalt+F1 oder das Kontextmenü sagt, warum.</translation>
     <message>
         <source>How many there are is not known</source>
         <translation>Wie viele es gibt, ist nicht bekannt</translation>
+    </message>
+    <message>
+        <source>%1 is beyond side %2</source>
+        <translation>%1 liegt hinter Blattseite %2</translation>
+    </message>
+    <message>
+        <source>%1 sides in all</source>
+        <translation>insgesamt %1 Blattseiten</translation>
     </message>
 </context>
 <context>
@@ -1115,7 +1127,7 @@ Umschalt+F1 oder das Kontextmenü sagt, warum.</translation>
     </message>
     <message>
         <source>Job %1 on %2 is held until its printer is given a user name and a password.</source>
-        <translation>Auftrag %1 auf %2 wird zurückgehalten, bis der Drucker einen Benutzernamen und ein Kennwort bekommt.</translation>
+        <translation>Auftrag %1 auf %2 wird zurückgehalten, bis der Drucker einen Benutzernamen und ein Passwort bekommt.</translation>
     </message>
     <message>
         <source>Job %1 on %2 is printing.</source>
@@ -1258,6 +1270,10 @@ Umschalt+F1 oder das Kontextmenü sagt, warum.</translation>
         <source>Also Sent</source>
         <translation>Wird auch gesendet</translation>
     </message>
+    <message>
+        <source>Printer Features</source>
+        <translation>Druckerfunktionen</translation>
+    </message>
 </context>
 <context>
     <name>JobTrial</name>
@@ -1313,7 +1329,7 @@ Umschalt+F1 oder das Kontextmenü sagt, warum.</translation>
     </message>
     <message>
         <source>Enter Password…</source>
-        <translation>Passwort eingeben…</translation>
+        <translation>Passwort eingeben …</translation>
     </message>
     <message>
         <source>Open Queue</source>
@@ -1362,7 +1378,7 @@ Umschalt+F1 oder das Kontextmenü sagt, warum.</translation>
     <name>LpoptionsFile</name>
     <message>
         <source>The saved settings in %1 cannot be read: %2.</source>
-        <translation>Die gesicherten Einstellungen in %1 können nicht gelesen werden: %2.</translation>
+        <translation>Die gespeicherten Einstellungen in %1 können nicht gelesen werden: %2.</translation>
     </message>
     <message>
         <source>it is no ordinary file</source>
@@ -1766,11 +1782,11 @@ Umschalt+F1 oder das Kontextmenü sagt, warum.</translation>
     </message>
     <message>
         <source>The print server %1 wants to know who changes a job on %2.</source>
-        <translation>Der Druckserver %1 will wissen, wer einen Auftrag an %2 ändert.</translation>
+        <translation>Der Druckserver %1 will wissen, wer einen Auftrag auf %2 ändert.</translation>
     </message>
     <message>
         <source>The print server %1 holds the job until the printer behind %2 knows who prints.</source>
-        <translation>Der Druckserver %1 hält den Auftrag an, bis der Drucker hinter %2 weiß, wer druckt.</translation>
+        <translation>Der Druckserver %1 hält den Auftrag zurück, bis der Drucker hinter %2 weiß, wer druckt.</translation>
     </message>
     <message>
         <source>The user name or the password was not right.</source>
@@ -1874,7 +1890,7 @@ Umschalt+F1 oder das Kontextmenü sagt, warum.</translation>
     <name>PresetActions</name>
     <message>
         <source>Save as Preset</source>
-        <translation>Als Voreinstellung sichern</translation>
+        <translation>Als Voreinstellung speichern</translation>
     </message>
     <message>
         <source>Rename Preset</source>
@@ -1905,7 +1921,7 @@ Umschalt+F1 oder das Kontextmenü sagt, warum.</translation>
     <name>PresetNameDialog</name>
     <message>
         <source>Save</source>
-        <translation>Sichern</translation>
+        <translation>Speichern</translation>
     </message>
     <message>
         <source>Cancel</source>
@@ -1955,7 +1971,7 @@ Umschalt+F1 oder das Kontextmenü sagt, warum.</translation>
     </message>
     <message>
         <source>Save as Preset…</source>
-        <translation>Als Voreinstellung sichern …</translation>
+        <translation>Als Voreinstellung speichern …</translation>
     </message>
     <message>
         <source>Rename Preset…</source>
@@ -1971,7 +1987,7 @@ Umschalt+F1 oder das Kontextmenü sagt, warum.</translation>
     </message>
     <message>
         <source>Start with the Settings Used Last</source>
-        <translation>Mit den zuletzt benutzten Einstellungen beginnen</translation>
+        <translation>Mit den zuletzt verwendeten Einstellungen beginnen</translation>
     </message>
     <message>
         <source>Hidden Warnings…</source>
@@ -1987,7 +2003,7 @@ Umschalt+F1 oder das Kontextmenü sagt, warum.</translation>
     </message>
     <message>
         <source>Settings Used Last</source>
-        <translation>Zuletzt benutzte Einstellungen</translation>
+        <translation>Zuletzt verwendete Einstellungen</translation>
     </message>
     <message>
         <source>%1 (from the printer&apos;s maker)</source>
@@ -2560,7 +2576,7 @@ Umschalt+F1 oder das Kontextmenü sagt, warum.</translation>
     <name>PrinterSource</name>
     <message>
         <source>There are more settings saved for %1 than the %2 that can be used.</source>
-        <translation>Für %1 sind mehr Einstellungen gesichert als die %2, die verwendet werden können.</translation>
+        <translation>Für %1 sind mehr Einstellungen gespeichert als die %2, die verwendet werden können.</translation>
     </message>
     <message>
         <source>The PPD of the queue %1 cannot be used. %2</source>
@@ -2576,11 +2592,11 @@ Umschalt+F1 oder das Kontextmenü sagt, warum.</translation>
     </message>
     <message>
         <source>The printer no longer has some of the settings that you used last: %1.</source>
-        <translation>Einige der zuletzt benutzten Einstellungen hat der Drucker nicht mehr: %1.</translation>
+        <translation>Einige der zuletzt verwendeten Einstellungen hat der Drucker nicht mehr: %1.</translation>
     </message>
     <message>
         <source>The printer does not have some of the settings that are saved for %1: %2.</source>
-        <translation>Einige der für %1 gesicherten Einstellungen hat der Drucker nicht: %2.</translation>
+        <translation>Einige der für %1 gespeicherten Einstellungen hat der Drucker nicht: %2.</translation>
     </message>
 </context>
 <context>
@@ -2678,6 +2694,10 @@ Umschalt+F1 oder das Kontextmenü sagt, warum.</translation>
         <source>Page %1 is beyond the document's last page, %2.</source>
         <translation>Seite %1 liegt hinter der letzten Seite des Dokuments, %2.</translation>
     </message>
+    <message>
+        <source>%1 is beyond the last side that is printed, %2.</source>
+        <translation>%1 liegt hinter der letzten bedruckten Blattseite, %2.</translation>
+    </message>
 </context>
 <context>
     <name>StandardKeywords</name>
@@ -2699,11 +2719,11 @@ Umschalt+F1 oder das Kontextmenü sagt, warum.</translation>
     </message>
     <message>
         <source>Paper Source</source>
-        <translation>Papierzufuhr</translation>
+        <translation>Papierquelle</translation>
     </message>
     <message>
         <source>Media Type</source>
-        <translation>Papierart</translation>
+        <translation>Medientyp</translation>
     </message>
     <message>
         <source>Output Bin</source>
@@ -2741,7 +2761,7 @@ Umschalt+F1 oder das Kontextmenü sagt, warum.</translation>
     <name>Supplies</name>
     <message>
         <source>Supply %1</source>
-        <translation>Vorrat %1</translation>
+        <translation>Verbrauchsmaterial %1</translation>
     </message>
     <message>
         <source>Not known</source>
@@ -2825,7 +2845,7 @@ Umschalt+F1 oder das Kontextmenü sagt, warum.</translation>
     <name>SavedJob</name>
     <message>
         <source>The printer does not have some of the settings that the job was saved with: %1.</source>
-        <translation>Einige der Einstellungen, mit denen der Auftrag gesichert wurde, hat der Drucker nicht: %1.</translation>
+        <translation>Einige der Einstellungen, mit denen der Auftrag gespeichert wurde, hat der Drucker nicht: %1.</translation>
     </message>
     <message>
         <source>%1 is a saved job: it is sent as it was saved, without -o, --paper and --output.</source>
@@ -2867,7 +2887,7 @@ Umschalt+F1 oder das Kontextmenü sagt, warum.</translation>
     <name>SavedOptions</name>
     <message>
         <source>There are no settings saved as &quot;%1&quot; for the printer %2.</source>
-        <translation>Unter „%1“ sind für den Drucker %2 keine Einstellungen gesichert.</translation>
+        <translation>Unter „%1“ sind für den Drucker %2 keine Einstellungen gespeichert.</translation>
     </message>
 </context>
 <context>

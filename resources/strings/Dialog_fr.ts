@@ -95,15 +95,15 @@
     </message>
     <message>
         <source>--forget-alerts only has the warnings shown again: it prints nothing.</source>
-        <translation>--forget-alerts fait seulement réafficher les avertissements ; il n’imprime rien.</translation>
+        <translation>--forget-alerts fait seulement réafficher les avertissements ; il n’imprime rien.</translation>
     </message>
     <message>
         <source>--why needs KEY=VALUE, not &quot;%1&quot;.</source>
-        <translation>--why attend KEY=VALUE, et non « %1 ».</translation>
+        <translation>--why attend KEY=VALUE, et non « %1 ».</translation>
     </message>
     <message>
         <source>--why only tells of a setting: it prints and replays nothing.</source>
-        <translation>--why ne fait que renseigner sur un réglage : il n’imprime et n’exécute rien.</translation>
+        <translation>--why ne fait que renseigner sur un réglage : il n’imprime et n’exécute rien.</translation>
     </message>
     <message>
         <source>--json is for --why.</source>
@@ -123,7 +123,7 @@
     </message>
     <message>
         <source>--timeout needs a number of seconds from 0 to %1, not &quot;%2&quot;.</source>
-        <translation>--timeout demande un nombre de secondes de 0 à %1, et non « %2 ».</translation>
+        <translation>--timeout demande un nombre de secondes de 0 à %1, et non « %2 ».</translation>
     </message>
     <message>
         <source>--wait is for --no-dialog, where the job is sent to a printer.</source>
@@ -135,7 +135,7 @@
     </message>
     <message>
         <source>--password-fd needs the number of an open file, not &quot;%1&quot;.</source>
-        <translation>--password-fd demande le numéro d’un fichier ouvert, et non « %1 ».</translation>
+        <translation>--password-fd demande le numéro d’un fichier ouvert, et non « %1 ».</translation>
     </message>
     <message>
         <source>--password-fd is for --no-dialog.</source>
@@ -200,7 +200,7 @@
     <name>CustomValueFields</name>
     <message>
         <source>%1:</source>
-        <translation>%1 :</translation>
+        <translation>%1 :</translation>
     </message>
 </context>
 <context>
@@ -214,7 +214,7 @@
     <name>DialogAdvice</name>
     <message>
         <source>Why is there no &quot;%1&quot;?</source>
-        <translation>Pourquoi « %1 » n’est-il pas proposé ?</translation>
+        <translation>Pourquoi « %1 » n’est-il pas proposé ?</translation>
     </message>
     <message>
         <source>Everything here can be chosen.</source>
@@ -223,7 +223,7 @@
     <message>
         <source>Not to be had now: %1
 Shift+F1 or the context menu tells why.</source>
-        <translation>Pas disponible actuellement : %1
+        <translation>Pas disponible actuellement : %1
 Maj+F1 ou le menu contextuel dit pourquoi.</translation>
     </message>
     <message>
@@ -240,7 +240,7 @@ Maj+F1 ou le menu contextuel dit pourquoi.</translation>
     </message>
     <message>
         <source>With that: %1</source>
-        <translation>Avec cela : %1</translation>
+        <translation>Avec cela : %1</translation>
     </message>
     <message>
         <source>Get It</source>
@@ -248,7 +248,7 @@ Maj+F1 ou le menu contextuel dit pourquoi.</translation>
     </message>
     <message>
         <source>All %1</source>
-        <translation>Les %1</translation>
+        <translation>Tout voir (%1)</translation>
     </message>
 </context>
 <context>
@@ -379,7 +379,7 @@ Maj+F1 ou le menu contextuel dit pourquoi.</translation>
     </message>
     <message>
         <source>The printer %1 is no longer on the print server. Choose another one; the settings of this job stay.</source>
-        <translation>L’imprimante %1 n’est plus sur le serveur d’impression. Choisissez-en une autre ; les réglages de ce travail restent.</translation>
+        <translation>L’imprimante %1 n’est plus sur le serveur d’impression. Choisissez-en une autre ; les réglages de ce travail restent.</translation>
     </message>
     <message>
         <source>Go on with this job?</source>
@@ -391,7 +391,7 @@ Maj+F1 ou le menu contextuel dit pourquoi.</translation>
     </message>
     <message>
         <source>A value in Printer Features cannot be used. Correct it there to print.</source>
-        <translation>Une valeur dans « Fonctions de l’imprimante » ne peut pas être utilisée. Corrigez-la pour imprimer.</translation>
+        <translation>Une valeur dans « Fonctions de l’imprimante » ne peut pas être utilisée. Corrigez-la pour imprimer.</translation>
     </message>
     <message>
         <source>Choose the printer for this saved job.</source>
@@ -443,7 +443,7 @@ Maj+F1 ou le menu contextuel dit pourquoi.</translation>
     </message>
     <message>
         <source>Print job %1 all the same?</source>
-        <translation>Imprimer quand même le travail %1 ?</translation>
+        <translation>Imprimer quand même le travail %1 ?</translation>
     </message>
     <message>
         <source>Cancel Job</source>
@@ -558,22 +558,22 @@ Maj+F1 ou le menu contextuel dit pourquoi.</translation>
     <name>Explanation</name>
     <message>
         <source>%1: %2</source>
-        <translation>%1 : %2</translation>
+        <translation>%1 : %2</translation>
     </message>
     <message>
         <source>It can be had with: %1</source>
-        <translation>C’est possible avec : %1</translation>
+        <translation>C’est possible avec : %1</translation>
     </message>
 </context>
 <context>
     <name>FeaturePicks</name>
     <message>
         <source>&quot;%1&quot; needs at least one choice.</source>
-        <translation>« %1 » demande au moins un choix.</translation>
+        <translation>« %1 » demande au moins un choix.</translation>
     </message>
     <message>
         <source>The printer does not take &quot;%1: %2&quot;.</source>
-        <translation>L’imprimante n’accepte pas « %1 : %2 ».</translation>
+        <translation>L’imprimante n’accepte pas « %1 : %2 ».</translation>
     </message>
 </context>
 <context>
@@ -615,7 +615,7 @@ Maj+F1 ou le menu contextuel dit pourquoi.</translation>
     <name>FeaturesPane</name>
     <message>
         <source>%1:</source>
-        <translation>%1 :</translation>
+        <translation>%1 :</translation>
     </message>
     <message>
         <source>Installed in the Printer</source>
@@ -638,7 +638,7 @@ Maj+F1 ou le menu contextuel dit pourquoi.</translation>
     </message>
     <message>
         <source>Shown again: %1</source>
-        <translation>S’affichera de nouveau : %1</translation>
+        <translation>S’affichera de nouveau : %1</translation>
     </message>
 </context>
 <context>
@@ -671,8 +671,8 @@ Maj+F1 ou le menu contextuel dit pourquoi.</translation>
         <translation>« Mise en page » réunit le papier, son orientation, l’impression recto verso et tout ce que l’imprimante confie à cette boîte de dialogue. Un format personnalisé se saisit sous le papier ; un mot à côté du champ signale que l’imprimante ne l’accepte pas.</translation>
     </message>
     <message>
-        <source>When the printer does not allow two settings together, the second one is not made, and a line above the tabs names both.</source>
-        <translation>Lorsque l’imprimante n’accepte pas deux réglages ensemble, le second n’est pas appliqué et une ligne au-dessus des onglets les nomme tous deux.</translation>
+        <source>When the printer does not allow two settings together, the second one is not made, and a line below the tabs names both.</source>
+        <translation>Lorsque l’imprimante n’accepte pas deux réglages ensemble, le second n’est pas appliqué et une ligne sous les onglets les nomme tous deux.</translation>
     </message>
     <message>
         <source>Summary lists everything that will be printed with. &quot;Save to File&quot; keeps the job with its documents; open it here later, as a document, to print it.</source>
@@ -684,7 +684,7 @@ Maj+F1 ou le menu contextuel dit pourquoi.</translation>
     </message>
     <message>
         <source>&quot;Scaling&quot; says how the pages of the document come to the size of the paper in the printer. What comes of each choice stands below it.</source>
-        <translation>« Mise à l’échelle » dit comment les pages du document sont mises à la taille du papier dans l’imprimante. L’effet de chaque choix est indiqué en dessous.</translation>
+        <translation>« Mise à l’échelle » dit comment les pages du document sont mises à la taille du papier dans l’imprimante. L’effet de chaque choix est indiqué en dessous.</translation>
     </message>
     <message>
         <source>Close</source>
@@ -699,7 +699,7 @@ Maj+F1 ou le menu contextuel dit pourquoi.</translation>
     <name>JobAuthentication</name>
     <message>
         <source>Job %1 on %2 stays held: nobody has said who prints.</source>
-        <translation>Le travail %1 sur %2 reste retenu : personne n’a dit qui imprime.</translation>
+        <translation>Le travail %1 sur %2 reste retenu : personne n’a dit qui imprime.</translation>
     </message>
     <message>
         <source>The printer behind %1 wants to know who prints, and nobody has said it.</source>
@@ -710,11 +710,11 @@ Maj+F1 ou le menu contextuel dit pourquoi.</translation>
     <name>JobDispatch</name>
     <message>
         <source>Job %1 on %2 was cancelled; --yes prints it all the same.</source>
-        <translation>Le travail %1 sur %2 a été annulé ; --yes l’imprime quand même.</translation>
+        <translation>Le travail %1 sur %2 a été annulé ; --yes l’imprime quand même.</translation>
     </message>
     <message>
         <source>Not sent: %1</source>
-        <translation>Non envoyés : %1</translation>
+        <translation>Non envoyés : %1</translation>
     </message>
 </context>
 <context>
@@ -725,7 +725,7 @@ Maj+F1 ou le menu contextuel dit pourquoi.</translation>
     </message>
     <message>
         <source>A booklet needs both sides of the paper; this job is printed on one.</source>
-        <translation>Un livret demande les deux côtés du papier ; ce travail est imprimé sur un seul.</translation>
+        <translation>Un livret demande les deux côtés du papier ; ce travail est imprimé sur un seul.</translation>
     </message>
     <message>
         <source>The printer cannot print on both sides of this paper: %1.</source>
@@ -734,6 +734,10 @@ Maj+F1 ou le menu contextuel dit pourquoi.</translation>
     <message>
         <source>For %1 there is &quot;%2&quot;.</source>
         <translation>Pour %1, il y a « %2 ».</translation>
+    </message>
+    <message>
+        <source>With several pages on a sheet, &quot;Pages&quot; and &quot;Even and Odd&quot; count the printed sides.</source>
+        <translation>Avec plusieurs pages par feuille, « Pages » et « Paires et impaires » comptent les côtés imprimés.</translation>
     </message>
 </context>
 <context>
@@ -811,7 +815,7 @@ Maj+F1 ou le menu contextuel dit pourquoi.</translation>
     </message>
     <message>
         <source>Preset:</source>
-        <translation>Préréglage :</translation>
+        <translation>Préréglage :</translation>
     </message>
     <message>
         <source>%1 is beyond page %2</source>
@@ -824,6 +828,14 @@ Maj+F1 ou le menu contextuel dit pourquoi.</translation>
     <message>
         <source>How many there are is not known</source>
         <translation>Leur nombre n’est pas connu</translation>
+    </message>
+    <message>
+        <source>%1 is beyond side %2</source>
+        <translation>%1 dépasse le côté %2</translation>
+    </message>
+    <message>
+        <source>%1 sides in all</source>
+        <translation>%1 côtés en tout</translation>
     </message>
 </context>
 <context>
@@ -1052,7 +1064,7 @@ Maj+F1 ou le menu contextuel dit pourquoi.</translation>
     <name>JobReadBack</name>
     <message>
         <source>The printer is stopped; job %1 waits (%2).</source>
-        <translation>L’imprimante est arrêtée ; le travail %1 attend (%2).</translation>
+        <translation>L’imprimante est arrêtée ; le travail %1 attend (%2).</translation>
     </message>
     <message>
         <source>The server holds job %1 (%2).</source>
@@ -1103,15 +1115,15 @@ Maj+F1 ou le menu contextuel dit pourquoi.</translation>
     </message>
     <message>
         <source>Job %1 on %2 is held: %3.</source>
-        <translation>Le travail %1 sur %2 est retenu : %3.</translation>
+        <translation>Le travail %1 sur %2 est retenu : %3.</translation>
     </message>
     <message>
         <source>Job %1 on %2 is held: it will be tried again later.</source>
-        <translation>Le travail %1 sur %2 est retenu ; il sera réessayé plus tard.</translation>
+        <translation>Le travail %1 sur %2 est retenu ; il sera réessayé plus tard.</translation>
     </message>
     <message>
         <source>Job %1 on %2 is held and will be tried again later: %3.</source>
-        <translation>Le travail %1 sur %2 est retenu et sera réessayé plus tard : %3.</translation>
+        <translation>Le travail %1 sur %2 est retenu et sera réessayé plus tard : %3.</translation>
     </message>
     <message>
         <source>Job %1 on %2 is held until its printer is given a user name and a password.</source>
@@ -1123,19 +1135,19 @@ Maj+F1 ou le menu contextuel dit pourquoi.</translation>
     </message>
     <message>
         <source>Job %1 on %2: the printer needs somebody.</source>
-        <translation>Travail %1 sur %2 : l’imprimante a besoin de quelqu’un.</translation>
+        <translation>Travail %1 sur %2 : l’imprimante a besoin de quelqu’un.</translation>
     </message>
     <message>
         <source>Job %1 on %2: the printer needs somebody: %3.</source>
-        <translation>Travail %1 sur %2 : l’imprimante a besoin de quelqu’un : %3.</translation>
+        <translation>Travail %1 sur %2 : l’imprimante a besoin de quelqu’un : %3.</translation>
     </message>
     <message>
         <source>Job %1 on %2 is waiting: the printer is stopped.</source>
-        <translation>Le travail %1 sur %2 attend : l’imprimante est arrêtée.</translation>
+        <translation>Le travail %1 sur %2 attend : l’imprimante est arrêtée.</translation>
     </message>
     <message>
         <source>Job %1 on %2 is waiting: the printer is stopped: %3.</source>
-        <translation>Le travail %1 sur %2 attend : l’imprimante est arrêtée : %3.</translation>
+        <translation>Le travail %1 sur %2 attend : l’imprimante est arrêtée : %3.</translation>
     </message>
     <message>
         <source>Job %1 on %2 is printed.</source>
@@ -1147,7 +1159,7 @@ Maj+F1 ou le menu contextuel dit pourquoi.</translation>
     </message>
     <message>
         <source>Job %1 on %2 has ended with errors: %3.</source>
-        <translation>Le travail %1 sur %2 s’est terminé avec des erreurs : %3.</translation>
+        <translation>Le travail %1 sur %2 s’est terminé avec des erreurs : %3.</translation>
     </message>
     <message>
         <source>Job %1 on %2 was cancelled.</source>
@@ -1159,11 +1171,11 @@ Maj+F1 ou le menu contextuel dit pourquoi.</translation>
     </message>
     <message>
         <source>The server has given job %1 on %2 up: %3.</source>
-        <translation>Le serveur a abandonné le travail %1 sur %2 : %3.</translation>
+        <translation>Le serveur a abandonné le travail %1 sur %2 : %3.</translation>
     </message>
     <message>
         <source>The server has no record of job %1 on %2 any more: whether it was printed is not known.</source>
-        <translation>Le serveur n’a plus trace du travail %1 sur %2 : on ne sait pas s’il a été imprimé.</translation>
+        <translation>Le serveur n’a plus trace du travail %1 sur %2 : on ne sait pas s’il a été imprimé.</translation>
     </message>
     <message>
         <source>Job %1 on %2 is held until somebody releases it.</source>
@@ -1171,7 +1183,7 @@ Maj+F1 ou le menu contextuel dit pourquoi.</translation>
     </message>
     <message>
         <source>Job %1 on %2 is held. %3: %4.</source>
-        <translation>Le travail %1 sur %2 est retenu. %3 : %4.</translation>
+        <translation>Le travail %1 sur %2 est retenu. %3 : %4.</translation>
     </message>
     <message>
         <source>Job %1 on %2 is held until %3.</source>
@@ -1179,11 +1191,11 @@ Maj+F1 ou le menu contextuel dit pourquoi.</translation>
     </message>
     <message>
         <source>Job %1 on %2 is printing, %3 sheets so far.</source>
-        <translation>Le travail %1 sur %2 est en cours d’impression, feuilles jusqu’ici : %3.</translation>
+        <translation>Le travail %1 sur %2 est en cours d’impression, feuilles jusqu’ici : %3.</translation>
     </message>
     <message>
         <source>Job %1 on %2 is printing page %3 of %4.</source>
-        <translation>Travail %1 sur %2 : impression de la page %3 sur %4.</translation>
+        <translation>Travail %1 sur %2 : impression de la page %3 sur %4.</translation>
     </message>
 </context>
 <context>
@@ -1202,19 +1214,19 @@ Maj+F1 ou le menu contextuel dit pourquoi.</translation>
     </message>
     <message>
         <source>The print server %1 did not say whether it took the job: it may have been printed as job %2 on %3.</source>
-        <translation>Le serveur d’impression %1 n’a pas indiqué s’il acceptait le travail : celui-ci a peut-être été imprimé comme travail %2 sur %3.</translation>
+        <translation>Le serveur d’impression %1 n’a pas indiqué s’il acceptait le travail : celui-ci a peut-être été imprimé comme travail %2 sur %3.</translation>
     </message>
     <message>
         <source>The server holds job %1, which could not be released: %2</source>
-        <translation>Le serveur retient le travail %1, qui n’a pas pu être libéré : %2</translation>
+        <translation>Le serveur retient le travail %1, qui n’a pas pu être libéré : %2</translation>
     </message>
     <message>
         <source>Job %1 on %2 was cancelled: %3</source>
-        <translation>Le travail %1 sur %2 a été annulé : %3</translation>
+        <translation>Le travail %1 sur %2 a été annulé : %3</translation>
     </message>
     <message>
         <source>Nothing was printed on %1: %2</source>
-        <translation>Rien n’a été imprimé sur %1 : %2</translation>
+        <translation>Rien n’a été imprimé sur %1 : %2</translation>
     </message>
 </context>
 <context>
@@ -1258,23 +1270,27 @@ Maj+F1 ou le menu contextuel dit pourquoi.</translation>
         <source>Also Sent</source>
         <translation>Également envoyé</translation>
     </message>
+    <message>
+        <source>Printer Features</source>
+        <translation>Fonctions de l’imprimante</translation>
+    </message>
 </context>
 <context>
     <name>JobTrial</name>
     <message>
         <source>Job %1 is held on %2 and could not be released: %3</source>
-        <translation>Le travail %1 est retenu sur %2 et n’a pas pu être libéré : %3</translation>
+        <translation>Le travail %1 est retenu sur %2 et n’a pas pu être libéré : %3</translation>
     </message>
     <message>
         <source>Job %1 is held on %2 and could not be cancelled: %3</source>
-        <translation>Le travail %1 est retenu sur %2 et n’a pas pu être annulé : %3</translation>
+        <translation>Le travail %1 est retenu sur %2 et n’a pas pu être annulé : %3</translation>
     </message>
 </context>
 <context>
     <name>JobWait</name>
     <message>
         <source>Job %1 on %2 was not waited for any longer; it stays where it is.</source>
-        <translation>Le travail %1 sur %2 n’a pas été attendu plus longtemps ; il reste où il est.</translation>
+        <translation>Le travail %1 sur %2 n’a pas été attendu plus longtemps ; il reste où il est.</translation>
     </message>
     <message>
         <source>Job %1 on %2 goes on without being waited for.</source>
@@ -1324,11 +1340,11 @@ Maj+F1 ou le menu contextuel dit pourquoi.</translation>
     <name>LayoutPane</name>
     <message>
         <source>%1:</source>
-        <translation>%1 :</translation>
+        <translation>%1 :</translation>
     </message>
     <message>
         <source>Job Title:</source>
-        <translation>Titre du travail :</translation>
+        <translation>Titre du travail :</translation>
     </message>
     <message>
         <source>Cover page before the job</source>
@@ -1344,7 +1360,7 @@ Maj+F1 ou le menu contextuel dit pourquoi.</translation>
     </message>
     <message>
         <source>An address looks like this: me@example.com</source>
-        <translation>Une adresse ressemble à : moi@example.com</translation>
+        <translation>Une adresse ressemble à : moi@example.com</translation>
     </message>
 </context>
 <context>
@@ -1362,7 +1378,7 @@ Maj+F1 ou le menu contextuel dit pourquoi.</translation>
     <name>LpoptionsFile</name>
     <message>
         <source>The saved settings in %1 cannot be read: %2.</source>
-        <translation>Les réglages enregistrés dans %1 ne peuvent pas être lus : %2.</translation>
+        <translation>Les réglages enregistrés dans %1 ne peuvent pas être lus : %2.</translation>
     </message>
     <message>
         <source>it is no ordinary file</source>
@@ -1432,18 +1448,18 @@ Maj+F1 ou le menu contextuel dit pourquoi.</translation>
     </message>
     <message>
         <source>The printer %1 is stopped: what is sent waits.</source>
-        <translation>L’imprimante %1 est arrêtée : ce qui est envoyé attend.</translation>
+        <translation>L’imprimante %1 est arrêtée : ce qui est envoyé attend.</translation>
     </message>
     <message>
         <source>The printer %1 is stopped: what is sent waits. It says: %2</source>
-        <translation>L’imprimante %1 est arrêtée : ce qui est envoyé attend. Elle dit : %2</translation>
+        <translation>L’imprimante %1 est arrêtée : ce qui est envoyé attend. Elle dit : %2</translation>
     </message>
 </context>
 <context>
     <name>OptionRows</name>
     <message>
         <source>%1:</source>
-        <translation>%1 :</translation>
+        <translation>%1 :</translation>
     </message>
     <message>
         <source>By the P&amp;rinter</source>
@@ -1455,14 +1471,14 @@ Maj+F1 ou le menu contextuel dit pourquoi.</translation>
     </message>
     <message>
         <source>Color Management:</source>
-        <translation>Gestion des couleurs :</translation>
+        <translation>Gestion des couleurs :</translation>
     </message>
 </context>
 <context>
     <name>OriginWords</name>
     <message>
         <source>Because you chose %1: %2</source>
-        <translation>Parce que vous avez choisi %1 : %2</translation>
+        <translation>Parce que vous avez choisi %1 : %2</translation>
     </message>
     <message>
         <source>Goes with your choices</source>
@@ -1670,15 +1686,15 @@ Maj+F1 ou le menu contextuel dit pourquoi.</translation>
     <name>PaperRows</name>
     <message>
         <source>P&amp;aper in the Printer:</source>
-        <translation>&amp;Papier dans l’imprimante :</translation>
+        <translation>&amp;Papier dans l’imprimante :</translation>
     </message>
     <message>
         <source>&amp;Borderless</source>
-        <translation>&amp;Sans marges</translation>
+        <translation>&amp;Sans bordure</translation>
     </message>
     <message>
         <source>Document Page:</source>
-        <translation>Page du document :</translation>
+        <translation>Page du document :</translation>
     </message>
 </context>
 <context>
@@ -1712,22 +1728,22 @@ Maj+F1 ou le menu contextuel dit pourquoi.</translation>
     </message>
     <message>
         <source>&amp;User name:</source>
-        <translation>Nom d’&amp;utilisateur :</translation>
+        <translation>Nom d’&amp;utilisateur :</translation>
     </message>
     <message>
         <source>&amp;Domain:</source>
-        <translation>&amp;Domaine :</translation>
+        <translation>&amp;Domaine :</translation>
     </message>
     <message>
         <source>&amp;Password:</source>
-        <translation>Mot de &amp;passe :</translation>
+        <translation>Mot de &amp;passe :</translation>
     </message>
 </context>
 <context>
     <name>PasswordPrompt</name>
     <message>
         <source>No password can be read from the open file %1 (--password-fd): %2.</source>
-        <translation>Aucun mot de passe ne peut être lu dans le fichier ouvert %1 (--password-fd) : %2.</translation>
+        <translation>Aucun mot de passe ne peut être lu dans le fichier ouvert %1 (--password-fd) : %2.</translation>
     </message>
     <message>
         <source>The open file %1 cannot be a document and hold the password (--password-fd).</source>
@@ -1735,19 +1751,19 @@ Maj+F1 ou le menu contextuel dit pourquoi.</translation>
     </message>
     <message>
         <source>Domain: </source>
-        <translation>Domaine : </translation>
+        <translation>Domaine : </translation>
     </message>
     <message>
         <source>Password: </source>
-        <translation>Mot de passe : </translation>
+        <translation>Mot de passe : </translation>
     </message>
     <message>
         <source>User name: </source>
-        <translation>Nom d’utilisateur : </translation>
+        <translation>Nom d’utilisateur : </translation>
     </message>
     <message>
         <source>User name [%1]: </source>
-        <translation>Nom d’utilisateur [%1] : </translation>
+        <translation>Nom d’utilisateur [%1] : </translation>
     </message>
 </context>
 <context>
@@ -1778,7 +1794,7 @@ Maj+F1 ou le menu contextuel dit pourquoi.</translation>
     </message>
     <message>
         <source>The connection is not encrypted: others in the network may read the password.</source>
-        <translation>La connexion n’est pas chiffrée : d’autres sur le réseau peuvent lire le mot de passe.</translation>
+        <translation>La connexion n’est pas chiffrée : d’autres sur le réseau peuvent lire le mot de passe.</translation>
     </message>
     <message>
         <source>The printer behind %2 on the print server %1 wants to know who prints.</source>
@@ -1812,11 +1828,11 @@ Maj+F1 ou le menu contextuel dit pourquoi.</translation>
     </message>
     <message>
         <source>Orientation:</source>
-        <translation>Orientation :</translation>
+        <translation>Orientation :</translation>
     </message>
     <message>
         <source>&amp;Scaling:</source>
-        <translation>Mise à l’é&amp;chelle :</translation>
+        <translation>Mise à l’é&amp;chelle :</translation>
     </message>
     <message>
         <source>The paper lies on its side, and every page upright on it.</source>
@@ -1867,7 +1883,7 @@ Maj+F1 ou le menu contextuel dit pourquoi.</translation>
     </message>
     <message>
         <source>The plug-in cannot be used: %1 is no row of a keyword, a choice, a standard attribute and its value.</source>
-        <translation>Le module ne peut pas être utilisé : %1 n’est pas une ligne composée d’un mot-clé, d’un choix, d’un attribut standard et de sa valeur.</translation>
+        <translation>Le module ne peut pas être utilisé : %1 n’est pas une ligne composée d’un mot-clé, d’un choix, d’un attribut standard et de sa valeur.</translation>
     </message>
 </context>
 <context>
@@ -1882,7 +1898,7 @@ Maj+F1 ou le menu contextuel dit pourquoi.</translation>
     </message>
     <message>
         <source>Delete the preset &quot;%1&quot;?</source>
-        <translation>Supprimer le préréglage « %1 » ?</translation>
+        <translation>Supprimer le préréglage « %1 » ?</translation>
     </message>
     <message>
         <source>Delete</source>
@@ -1894,11 +1910,11 @@ Maj+F1 ou le menu contextuel dit pourquoi.</translation>
     </message>
     <message>
         <source>No warnings are hidden: all are shown.</source>
-        <translation>Aucun avertissement n’est masqué : tous s’affichent.</translation>
+        <translation>Aucun avertissement n’est masqué : tous s’affichent.</translation>
     </message>
     <message>
         <source>Some of the settings do not go together: the preset has what is shown now.</source>
-        <translation>Certains réglages ne vont pas ensemble : le préréglage contient ce qui est affiché maintenant.</translation>
+        <translation>Certains réglages ne vont pas ensemble : le préréglage contient ce qui est affiché maintenant.</translation>
     </message>
 </context>
 <context>
@@ -1913,7 +1929,7 @@ Maj+F1 ou le menu contextuel dit pourquoi.</translation>
     </message>
     <message>
         <source>&amp;Name:</source>
-        <translation>&amp;Nom :</translation>
+        <translation>&amp;Nom :</translation>
     </message>
     <message>
         <source>There is a preset of this name already.</source>
@@ -1928,7 +1944,7 @@ Maj+F1 ou le menu contextuel dit pourquoi.</translation>
     <name>Presets</name>
     <message>
         <source>The preset &quot;%1&quot; was set up for everybody who uses this computer; it cannot be changed here.</source>
-        <translation>Le préréglage « %1 » a été créé pour tous les utilisateurs de cet ordinateur ; il ne peut pas être modifié ici.</translation>
+        <translation>Le préréglage « %1 » a été créé pour tous les utilisateurs de cet ordinateur ; il ne peut pas être modifié ici.</translation>
     </message>
     <message>
         <source>Give the preset a name.</source>
@@ -1936,7 +1952,7 @@ Maj+F1 ou le menu contextuel dit pourquoi.</translation>
     </message>
     <message>
         <source>The name of a preset has no spaces, slashes, quotes, braces or #; other programs would not find it. &quot;-&quot; and &quot;_&quot; are fine.</source>
-        <translation>Le nom d’un préréglage ne contient ni espaces, ni barres obliques, ni guillemets, ni accolades, ni # ; d’autres programmes ne le trouveraient pas. « - » et « _ » conviennent.</translation>
+        <translation>Le nom d’un préréglage ne contient ni espaces, ni barres obliques, ni guillemets, ni accolades, ni # ; d’autres programmes ne le trouveraient pas. « - » et « _ » conviennent.</translation>
     </message>
     <message>
         <source>The name is too long.</source>
@@ -1944,7 +1960,7 @@ Maj+F1 ou le menu contextuel dit pourquoi.</translation>
     </message>
     <message>
         <source>There is a preset &quot;%1&quot; already.</source>
-        <translation>Le préréglage « %1 » existe déjà.</translation>
+        <translation>Le préréglage « %1 » existe déjà.</translation>
     </message>
 </context>
 <context>
@@ -2009,27 +2025,27 @@ Maj+F1 ou le menu contextuel dit pourquoi.</translation>
     <name>PrinterChoice</name>
     <message>
         <source>%1 was chosen: you printed to it last.</source>
-        <translation>%1 a été choisie : c’est la dernière que vous avez utilisée.</translation>
+        <translation>%1 a été choisie : c’est la dernière que vous avez utilisée.</translation>
     </message>
     <message>
         <source>%1 was chosen: LPDEST or PRINTER names it.</source>
-        <translation>%1 a été choisie : LPDEST ou PRINTER la désigne.</translation>
+        <translation>%1 a été choisie : LPDEST ou PRINTER la désigne.</translation>
     </message>
     <message>
         <source>%1 was chosen: it is your default printer.</source>
-        <translation>%1 a été choisie : c’est votre imprimante par défaut.</translation>
+        <translation>%1 a été choisie : c’est votre imprimante par défaut.</translation>
     </message>
     <message>
         <source>%1 was chosen: it is the print server's default printer.</source>
-        <translation>%1 a été choisie : c’est l’imprimante par défaut du serveur d’impression.</translation>
+        <translation>%1 a été choisie : c’est l’imprimante par défaut du serveur d’impression.</translation>
     </message>
     <message>
         <source>%1 was chosen: it is the only printer.</source>
-        <translation>%1 a été choisie : c’est la seule imprimante.</translation>
+        <translation>%1 a été choisie : c’est la seule imprimante.</translation>
     </message>
     <message>
         <source>%1 was chosen: it is the first printer that takes jobs, and none is the default.</source>
-        <translation>%1 a été choisie : c’est la première qui accepte des travaux, et aucune n’est définie par défaut.</translation>
+        <translation>%1 a été choisie : c’est la première qui accepte des travaux, et aucune n’est définie par défaut.</translation>
     </message>
     <message>
         <source>No printer takes jobs at present. Choose one, or try again later.</source>
@@ -2044,11 +2060,11 @@ Maj+F1 ou le menu contextuel dit pourquoi.</translation>
     <name>PrinterDoubts</name>
     <message>
         <source>The jobs of this queue go to printers of different models: %1. What is set for one of them may come out differently on another.</source>
-        <translation>Les travaux de cette file d’attente vont à des imprimantes de modèles différents : %1. Ce qui est réglé pour l’une d’elles peut donner un autre résultat sur une autre.</translation>
+        <translation>Les travaux de cette file d’attente vont à des imprimantes de modèles différents : %1. Ce qui est réglé pour l’une d’elles peut donner un autre résultat sur une autre.</translation>
     </message>
     <message>
         <source>The paper of this job is not loaded: %1. There is %2.</source>
-        <translation>Le papier de ce travail n’est pas chargé : %1. Il y a %2.</translation>
+        <translation>Le papier de ce travail n’est pas chargé : %1. Il y a %2.</translation>
     </message>
 </context>
 <context>
@@ -2071,7 +2087,7 @@ Maj+F1 ou le menu contextuel dit pourquoi.</translation>
     </message>
     <message>
         <source>Jobs in the queue: %1</source>
-        <translation>Travaux en file d’attente : %1</translation>
+        <translation>Travaux en file d’attente : %1</translation>
     </message>
 </context>
 <context>
@@ -2281,107 +2297,107 @@ Maj+F1 ou le menu contextuel dit pourquoi.</translation>
     </message>
     <message>
         <source>Bander: %1</source>
-        <translation>Banderoleuse : %1</translation>
+        <translation>Banderoleuse : %1</translation>
     </message>
     <message>
         <source>Binder: %1</source>
-        <translation>Relieuse : %1</translation>
+        <translation>Relieuse : %1</translation>
     </message>
     <message>
         <source>Cleaner: %1</source>
-        <translation>Nettoyeur : %1</translation>
+        <translation>Nettoyeur : %1</translation>
     </message>
     <message>
         <source>Configuration: %1</source>
-        <translation>Configuration : %1</translation>
+        <translation>Configuration : %1</translation>
     </message>
     <message>
         <source>Die cutter: %1</source>
-        <translation>Découpeuse : %1</translation>
+        <translation>Découpeuse : %1</translation>
     </message>
     <message>
         <source>Folder: %1</source>
-        <translation>Plieuse : %1</translation>
+        <translation>Plieuse : %1</translation>
     </message>
     <message>
         <source>Imprinter: %1</source>
-        <translation>Imprimeur : %1</translation>
+        <translation>Imprimeur : %1</translation>
     </message>
     <message>
         <source>Paper feed: %1</source>
-        <translation>Alimentation papier : %1</translation>
+        <translation>Alimentation papier : %1</translation>
     </message>
     <message>
         <source>Inserter: %1</source>
-        <translation>Insertion : %1</translation>
+        <translation>Insertion : %1</translation>
     </message>
     <message>
         <source>Interpreter: %1</source>
-        <translation>Interpréteur : %1</translation>
+        <translation>Interpréteur : %1</translation>
     </message>
     <message>
         <source>Envelope maker: %1</source>
-        <translation>Façonnage d’enveloppes : %1</translation>
+        <translation>Façonnage d’enveloppes : %1</translation>
     </message>
     <message>
         <source>Print head: %1</source>
-        <translation>Tête d’impression : %1</translation>
+        <translation>Tête d’impression : %1</translation>
     </message>
     <message>
         <source>Paper path: %1</source>
-        <translation>Trajet du papier : %1</translation>
+        <translation>Trajet du papier : %1</translation>
     </message>
     <message>
         <source>Output tray: %1</source>
-        <translation>Bac de sortie : %1</translation>
+        <translation>Bac de sortie : %1</translation>
     </message>
     <message>
         <source>Perforator: %1</source>
-        <translation>Perforateur : %1</translation>
+        <translation>Perforateur : %1</translation>
     </message>
     <message>
         <source>Power: %1</source>
-        <translation>Alimentation : %1</translation>
+        <translation>Alimentation : %1</translation>
     </message>
     <message>
         <source>Hole punch: %1</source>
-        <translation>Perforeuse : %1</translation>
+        <translation>Perforeuse : %1</translation>
     </message>
     <message>
         <source>Cutter: %1</source>
-        <translation>Massicot : %1</translation>
+        <translation>Massicot : %1</translation>
     </message>
     <message>
         <source>Sheet rotator: %1</source>
-        <translation>Rotation des feuilles : %1</translation>
+        <translation>Rotation des feuilles : %1</translation>
     </message>
     <message>
         <source>Slitter: %1</source>
-        <translation>Coupe longitudinale : %1</translation>
+        <translation>Coupe longitudinale : %1</translation>
     </message>
     <message>
         <source>Stacker: %1</source>
-        <translation>Empileur : %1</translation>
+        <translation>Empileur : %1</translation>
     </message>
     <message>
         <source>Stapler: %1</source>
-        <translation>Agrafeuse : %1</translation>
+        <translation>Agrafeuse : %1</translation>
     </message>
     <message>
         <source>Stitcher: %1</source>
-        <translation>Piqueuse : %1</translation>
+        <translation>Piqueuse : %1</translation>
     </message>
     <message>
         <source>A part: %1</source>
-        <translation>Un élément : %1</translation>
+        <translation>Un élément : %1</translation>
     </message>
     <message>
         <source>Trimmer: %1</source>
-        <translation>Rogneuse : %1</translation>
+        <translation>Rogneuse : %1</translation>
     </message>
     <message>
         <source>Wrapper: %1</source>
-        <translation>Emballage : %1</translation>
+        <translation>Emballage : %1</translation>
     </message>
     <message>
         <source>added</source>
@@ -2533,11 +2549,11 @@ Maj+F1 ou le menu contextuel dit pourquoi.</translation>
     </message>
     <message>
         <source>Warning: %1</source>
-        <translation>Avertissement : %1</translation>
+        <translation>Avertissement : %1</translation>
     </message>
     <message>
         <source>Error: %1</source>
-        <translation>Erreur : %1</translation>
+        <translation>Erreur : %1</translation>
     </message>
     <message>
         <source>Takes no jobs at present</source>
@@ -2545,7 +2561,7 @@ Maj+F1 ou le menu contextuel dit pourquoi.</translation>
     </message>
     <message>
         <source>Stopped: jobs wait</source>
-        <translation>Arrêtée : les travaux attendent</translation>
+        <translation>Arrêtée : les travaux attendent</translation>
     </message>
     <message>
         <source>Printing</source>
@@ -2576,11 +2592,11 @@ Maj+F1 ou le menu contextuel dit pourquoi.</translation>
     </message>
     <message>
         <source>The printer no longer has some of the settings that you used last: %1.</source>
-        <translation>L’imprimante n’a plus certains des derniers réglages utilisés : %1.</translation>
+        <translation>L’imprimante n’a plus certains des derniers réglages utilisés : %1.</translation>
     </message>
     <message>
         <source>The printer does not have some of the settings that are saved for %1: %2.</source>
-        <translation>L’imprimante n’a pas certains des réglages enregistrés pour %1 : %2.</translation>
+        <translation>L’imprimante n’a pas certains des réglages enregistrés pour %1 : %2.</translation>
     </message>
 </context>
 <context>
@@ -2621,7 +2637,7 @@ Maj+F1 ou le menu contextuel dit pourquoi.</translation>
     </message>
     <message>
         <source>%1: %2</source>
-        <translation>%1 : %2</translation>
+        <translation>%1 : %2</translation>
     </message>
     <message>
         <source>%1 is there for %2.</source>
@@ -2678,6 +2694,10 @@ Maj+F1 ou le menu contextuel dit pourquoi.</translation>
         <source>Page %1 is beyond the document's last page, %2.</source>
         <translation>La page %1 dépasse la dernière page du document, %2.</translation>
     </message>
+    <message>
+        <source>%1 is beyond the last side that is printed, %2.</source>
+        <translation>%1 dépasse le dernier côté imprimé, %2.</translation>
+    </message>
 </context>
 <context>
     <name>StandardKeywords</name>
@@ -2699,11 +2719,11 @@ Maj+F1 ou le menu contextuel dit pourquoi.</translation>
     </message>
     <message>
         <source>Paper Source</source>
-        <translation>Source du papier</translation>
+        <translation>Source de papier</translation>
     </message>
     <message>
         <source>Media Type</source>
-        <translation>Type de papier</translation>
+        <translation>Type de support</translation>
     </message>
     <message>
         <source>Output Bin</source>
@@ -2765,11 +2785,11 @@ Maj+F1 ou le menu contextuel dit pourquoi.</translation>
     </message>
     <message>
         <source>Low: %1%</source>
-        <translation>Bientôt vide : %1 %</translation>
+        <translation>Bientôt vide : %1 %</translation>
     </message>
     <message>
         <source>Almost full: %1%</source>
-        <translation>Bientôt plein : %1 %</translation>
+        <translation>Bientôt plein : %1 %</translation>
     </message>
     <message>
         <source>Empty</source>
@@ -2781,15 +2801,15 @@ Maj+F1 ou le menu contextuel dit pourquoi.</translation>
     </message>
     <message>
         <source>Used up in the printer: %1.</source>
-        <translation>Épuisé dans l’imprimante : %1.</translation>
+        <translation>Épuisé dans l’imprimante : %1.</translation>
     </message>
     <message>
         <source>Full in the printer: %1.</source>
-        <translation>Plein dans l’imprimante : %1.</translation>
+        <translation>Plein dans l’imprimante : %1.</translation>
     </message>
     <message>
         <source>Running low in the printer: %1.</source>
-        <translation>Bientôt épuisé dans l’imprimante : %1.</translation>
+        <translation>Bientôt épuisé dans l’imprimante : %1.</translation>
     </message>
     <message>
         <source>, </source>
@@ -2804,7 +2824,7 @@ Maj+F1 ou le menu contextuel dit pourquoi.</translation>
     </message>
     <message>
         <source>Paper in the printer:</source>
-        <translation>Papier dans l’imprimante :</translation>
+        <translation>Papier dans l’imprimante :</translation>
     </message>
 </context>
 <context>
@@ -2825,7 +2845,7 @@ Maj+F1 ou le menu contextuel dit pourquoi.</translation>
     <name>SavedJob</name>
     <message>
         <source>The printer does not have some of the settings that the job was saved with: %1.</source>
-        <translation>L’imprimante n’a pas certains des réglages avec lesquels le travail a été enregistré : %1.</translation>
+        <translation>L’imprimante n’a pas certains des réglages avec lesquels le travail a été enregistré : %1.</translation>
     </message>
     <message>
         <source>%1 is a saved job: it is sent as it was saved, without -o, --paper and --output.</source>
@@ -2867,7 +2887,7 @@ Maj+F1 ou le menu contextuel dit pourquoi.</translation>
     <name>SavedOptions</name>
     <message>
         <source>There are no settings saved as &quot;%1&quot; for the printer %2.</source>
-        <translation>Aucun réglage n’est enregistré sous « %1 » pour l’imprimante %2.</translation>
+        <translation>Aucun réglage n’est enregistré sous « %1 » pour l’imprimante %2.</translation>
     </message>
 </context>
 <context>
@@ -2910,7 +2930,7 @@ Maj+F1 ou le menu contextuel dit pourquoi.</translation>
     </message>
     <message>
         <source>Every picture is made as large as fits as a whole. The print server leaves twice the paper&apos;s margins around it; borderless paper has none.</source>
-        <translation>Chaque image est aussi grande que possible sans être coupée. Le serveur d’impression laisse autour d’elle le double des marges du papier ; le papier sans marges n’en a pas.</translation>
+        <translation>Chaque image est aussi grande que possible sans être coupée. Le serveur d’impression laisse autour d’elle le double des marges du papier ; le papier sans bordure n’en a pas.</translation>
     </message>
     <message>
         <source>Every page is made as large as fits on the paper as a whole.</source>
@@ -2922,7 +2942,7 @@ Maj+F1 ou le menu contextuel dit pourquoi.</translation>
     </message>
     <message>
         <source>Every picture is cut to the shape of the printable area. The print server leaves twice the paper&apos;s margins around it; borderless paper has none.</source>
-        <translation>Chaque image est coupée à la forme de la zone imprimable. Le serveur d’impression laisse autour d’elle le double des marges du papier ; le papier sans marges n’en a pas.</translation>
+        <translation>Chaque image est coupée à la forme de la zone imprimable. Le serveur d’impression laisse autour d’elle le double des marges du papier ; le papier sans bordure n’en a pas.</translation>
     </message>
     <message>
         <source>Every page is made so large that only the paper&apos;s margins stay white. What does not fit is cut off.</source>
@@ -2969,7 +2989,7 @@ Maj+F1 ou le menu contextuel dit pourquoi.</translation>
     </message>
     <message>
         <source>What the print server %1 sends cannot be kept in the temporary folder %2: %3.</source>
-        <translation>Ce qu’envoie le serveur d’impression %1 ne peut pas être conservé dans le dossier temporaire %2 : %3.</translation>
+        <translation>Ce qu’envoie le serveur d’impression %1 ne peut pas être conservé dans le dossier temporaire %2 : %3.</translation>
     </message>
     <message>
         <source>Printing was cancelled.</source>
@@ -3037,7 +3057,7 @@ Maj+F1 ou le menu contextuel dit pourquoi.</translation>
     </message>
     <message>
         <source>The print server %1 shows another certificate than before, and may be another server: nothing was sent. The one before is in %2.</source>
-        <translation>Le serveur d’impression %1 présente un autre certificat qu’auparavant, et peut être un autre serveur : rien n’a été envoyé. Le précédent se trouve dans %2.</translation>
+        <translation>Le serveur d’impression %1 présente un autre certificat qu’auparavant, et peut être un autre serveur : rien n’a été envoyé. Le précédent se trouve dans %2.</translation>
     </message>
     <message>
         <source>The queue %1 was set up anew on the print server: it has another PPD, or other defaults.</source>
@@ -3048,11 +3068,11 @@ Maj+F1 ou le menu contextuel dit pourquoi.</translation>
     <name>SettingRequests</name>
     <message>
         <source>It can be: %1.</source>
-        <translation>Valeurs possibles : %1.</translation>
+        <translation>Valeurs possibles : %1.</translation>
     </message>
     <message>
         <source>It can be: %1 and %2 more.</source>
-        <translation>Valeurs possibles : %1 et %2 autres.</translation>
+        <translation>Valeurs possibles : %1 et %2 autres.</translation>
     </message>
     <message>
         <source>, </source>
@@ -3142,7 +3162,7 @@ Maj+F1 ou le menu contextuel dit pourquoi.</translation>
     </message>
     <message>
         <source>%1: %2 (%3)</source>
-        <translation>%1 : %2 (%3)</translation>
+        <translation>%1 : %2 (%3)</translation>
     </message>
 </context>
 <context>
@@ -3160,7 +3180,7 @@ Maj+F1 ou le menu contextuel dit pourquoi.</translation>
     </message>
     <message>
         <source>Saved for this printer: %1</source>
-        <translation>Enregistré pour cette imprimante : %1</translation>
+        <translation>Enregistré pour cette imprimante : %1</translation>
     </message>
 </context>
 <context>

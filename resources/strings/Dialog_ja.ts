@@ -671,8 +671,8 @@ Shift+F1 or the context menu tells why.</source>
         <translation>「ページ設定」では、用紙、向き、両面印刷など、この画面で決める項目を選びます。任意の用紙サイズは用紙の下に入力します。プリンターで使えない大きさのときは、入力欄の横に表示されます。</translation>
     </message>
     <message>
-        <source>When the printer does not allow two settings together, the second one is not made, and a line above the tabs names both.</source>
-        <translation>同時に使えない設定を選んだときは、後から選んだ設定は反映されず、両方の名前がタブの上に表示されます。</translation>
+        <source>When the printer does not allow two settings together, the second one is not made, and a line below the tabs names both.</source>
+        <translation>同時に使えない設定を選んだときは、後から選んだ設定は反映されず、両方の名前がタブの下に表示されます。</translation>
     </message>
     <message>
         <source>Summary lists everything that will be printed with. &quot;Save to File&quot; keeps the job with its documents; open it here later, as a document, to print it.</source>
@@ -734,6 +734,10 @@ Shift+F1 or the context menu tells why.</source>
     <message>
         <source>For %1 there is &quot;%2&quot;.</source>
         <translation>%1 には「%2」を使用できます。</translation>
+    </message>
+    <message>
+        <source>With several pages on a sheet, &quot;Pages&quot; and &quot;Even and Odd&quot; count the printed sides.</source>
+        <translation>1 枚に複数のページを印刷するときは、「ページ」と「奇数・偶数ページ」は印刷される面を数えます。</translation>
     </message>
 </context>
 <context>
@@ -824,6 +828,14 @@ Shift+F1 or the context menu tells why.</source>
     <message>
         <source>How many there are is not known</source>
         <translation>全ページ数は不明です</translation>
+    </message>
+    <message>
+        <source>%1 is beyond side %2</source>
+        <translation>%1 は最後の面 (%2) を超えています</translation>
+    </message>
+    <message>
+        <source>%1 sides in all</source>
+        <translation>全 %1 面</translation>
     </message>
 </context>
 <context>
@@ -1257,6 +1269,10 @@ Shift+F1 or the context menu tells why.</source>
     <message>
         <source>Also Sent</source>
         <translation>あわせて送られる設定</translation>
+    </message>
+    <message>
+        <source>Printer Features</source>
+        <translation>プリンターの機能</translation>
     </message>
 </context>
 <context>
@@ -2677,6 +2693,10 @@ Shift+F1 or the context menu tells why.</source>
     <message>
         <source>Page %1 is beyond the document's last page, %2.</source>
         <translation>%1 ページは、文書の最終ページ (%2) を超えています。</translation>
+    </message>
+    <message>
+        <source>%1 is beyond the last side that is printed, %2.</source>
+        <translation>%1 は、印刷される最後の面 (%2) を超えています。</translation>
     </message>
 </context>
 <context>

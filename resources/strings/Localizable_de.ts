@@ -88,7 +88,7 @@
     </message>
     <message>
         <source>Unsupported Paper MSG2</source>
-        <translation>1. Öffnen Sie die Seiteneinrichtung.</translation>
+        <translation>1. Öffnen Sie „Seite einrichten“.</translation>
     </message>
     <message>
         <source>Unsupported Paper MSG3</source>

@@ -91,8 +91,6 @@ INSTANTIATE_TEST_SUITE_P(
                     {u"VKMediaType=Glossy"_s, u"print-quality=5"_s},
                     u"Photo"_s,
                     {}},
-        QualityCase{
-            "OfADisc", {u"VKMediaType=PrintableDisc"_s, u"print-quality=5"_s}, u"DiscSlow"_s, {}},
         QualityCase{"OfSeveral",
                     {u"print-quality=5"_s},
                     {},
@@ -109,6 +107,9 @@ TEST_F(Command, ASocketThatIsNotThereIsNamed)
     EXPECT_EQ(run.errors, u"velkaro-print: The print server %1 cannot be reached.\n"_s.arg(socket));
 }
 
+const QString kNoteOnSides = u"velkaro-print: With several pages on a sheet, \"Pages\" and \"Even "
+                             "and Odd\" count the printed sides.\n"_s;
+
 TEST_F(Command, TheNamesOfLpArriveInTheJob)
 {
     const ProgramRun run = print({u"-n"_s, u"2"_s, u"-t"_s, u"Mine"_s, u"-P1"_s, u"-Hhold"_s,
@@ -116,7 +117,7 @@ TEST_F(Command, TheNamesOfLpArriveInTheJob)
                                   u"page-set=odd"_s, u"-o"_s, u"job-sheets=standard"_s, u"-o"_s,
                                   u"sides=two-sided-short-edge"_s, u"-o"_s, u"media=A5"_s});
     ASSERT_EQ(run.status, 0) << run.errors.toStdString();
-    EXPECT_EQ(run.errors, u""_s) << "that it is held was asked for";
+    EXPECT_EQ(run.errors, kNoteOnSides) << "that it is held was asked for";
     ASSERT_EQ(newJobs().size(), 1);
     const QMap<QString, QString> job = server().jobAttributes(u"photo"_s, newJobs()[0]);
     const QMap<QString, QString> expected{{u"copies"_s, u"2"_s},
@@ -144,6 +145,19 @@ TEST_F(Command, PagesBeyondTheDocumentAreRefusedBeforeAnythingIsSent)
     EXPECT_EQ(run.status, 2);
     EXPECT_EQ(run.errors, u"velkaro-print: Page 99 is beyond the document's last page, 1.\n"_s);
     EXPECT_EQ(newJobs(), QList<int>());
+}
+
+TEST_F(Command, PagesAreSidesWhereSeveralStandOnOne)
+{
+    const ProgramRun beyond = print({u"-P"_s, u"2"_s, u"-o"_s, u"number-up=2"_s});
+    EXPECT_EQ(beyond.status, 2);
+    EXPECT_EQ(beyond.errors,
+              kNoteOnSides + u"velkaro-print: 2 is beyond the last side that is printed, 1.\n"_s);
+    EXPECT_EQ(newJobs(), QList<int>());
+    const ProgramRun run = print({u"-P"_s, u"1"_s, u"-o"_s, u"number-up=2"_s});
+    EXPECT_EQ(run.status, 0);
+    EXPECT_EQ(run.errors, kNoteOnSides);
+    EXPECT_EQ(newJobs().size(), 1);
 }
 
 TEST_F(Command, AWrongValueIsToldBeforeAnyServerIsAsked)

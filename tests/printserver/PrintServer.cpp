@@ -2,6 +2,7 @@
 
 #include "dialog/cups/OptionAttribute.h"
 #include "dialog/cups/ServerConnection.h"
+#include "dialog/cups/ServerRequests.h"
 
 #include <QtCore/QDeadlineTimer>
 #include <QtCore/QDir>

@@ -39,6 +39,18 @@ TEST_P(Catalogue, OfTheDialogHasEverySentenceOfTheSourcesAndNoOther)
 INSTANTIATE_TEST_SUITE_P(Languages, Catalogue, testing::ValuesIn(kLanguages),
                          [](const auto &language) { return language.param.toStdString(); });
 
+// A colon at the beginning of a line reads like a mistake.
+TEST(French, KeepsItsMarksWithTheirWords)
+{
+    static const QRegularExpression breakable(u" [:;?!»](?=[ <\n]|$)|« "_s,
+                                              QRegularExpression::MultilineOption);
+    for (const auto *file :
+         {"resources/strings/Dialog_fr.ts", "resources/strings/Localizable_fr.ts",
+          "dialog/program/HelpTextFrench.cpp"})
+        for (const QString &line : contents(QLatin1String(file)).split(u'\n'))
+            EXPECT_FALSE(line.contains(breakable)) << file << ": " << line.toStdString();
+}
+
 QString panelSources()
 {
     QString all;

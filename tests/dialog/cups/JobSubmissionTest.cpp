@@ -1,6 +1,7 @@
 #include "dialog/cups/JobSubmission.h"
 #include "dialog/cups/Destinations.h"
 #include "dialog/cups/ServerConnection.h"
+#include "dialog/cups/ServerRequests.h"
 #include "dialog/work/BackgroundCall.h"
 #include "tests/built/BuiltFiles.h"
 #include "tests/dialog/cups/ServerFixture.h"

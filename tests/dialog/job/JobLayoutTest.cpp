@@ -1,5 +1,6 @@
 #include "dialog/job/JobLayout.h"
 
+#include "dialog/job/PrintedSides.h"
 #include "tests/endtoend/JobPrinting.h"
 #include "tests/support/CaseName.h"
 
@@ -76,6 +77,39 @@ INSTANTIATE_TEST_SUITE_P(
         LayoutValue{"AnotherScheme", u"notify-recipient-uri"_s, u"rss://example"_s, {}, {}},
         LayoutValue{"TwoAddresses", u"notify-recipient-uri"_s, u"a@b,c@d"_s, {}, {}}),
     CaseName());
+
+struct Sides
+{
+    const char *behaviour;
+    QString pagesPerSheet;
+    QString booklet;
+    int pages;
+    int sides;
+};
+
+class PrintedSides : public testing::TestWithParam<Sides>
+{};
+
+TEST_P(PrintedSides, HaveRoomForAllPages)
+{
+    JobLayout layout;
+    layout.pagesPerSheet = GetParam().pagesPerSheet;
+    layout.booklet = GetParam().booklet;
+    EXPECT_EQ(printedSides(layout, GetParam().pages), GetParam().sides);
+    EXPECT_EQ(hasSeveralPagesOnASide(layout), GetParam().sides != GetParam().pages);
+}
+
+INSTANTIATE_TEST_SUITE_P(Table, PrintedSides,
+                         testing::Values(Sides{"OneEach", {}, {}, 5, 5},
+                                         Sides{"OneEachAsIsSaid", u"1"_s, u"off"_s, 5, 5},
+                                         Sides{"TwoOnEach", u"2"_s, {}, 5, 3},
+                                         Sides{"TwoOnEachWithoutARest", u"2"_s, {}, 6, 3},
+                                         Sides{"SixteenOnEach", u"16"_s, {}, 5, 1},
+                                         Sides{"ABookletOfOneSheet", {}, u"on"_s, 4, 2},
+                                         Sides{"ABookletOfTwoSheets", {}, u"on"_s, 5, 4},
+                                         Sides{"ABookletWhateverElseIsSaid", u"9"_s, u"on"_s, 9,
+                                               6}),
+                         CaseName());
 
 TEST(JobLayout, KnowsNoOtherOption)
 {

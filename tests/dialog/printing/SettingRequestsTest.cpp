@@ -64,6 +64,16 @@ TEST_F(Requests, TakeAScalingByItsNameAndByTheWordOfLp)
     EXPECT_EQ(m_job.settings().scaling, PrintScaling::Fit);
 }
 
+TEST_F(Requests, TakeTheCollationByTheWordOfLp)
+{
+    EXPECT_TRUE(make(u"collate"_s, u"true"_s));
+    EXPECT_EQ(m_job.settings().layout.collation, u"separate-documents-collated-copies"_s);
+    EXPECT_TRUE(make(u"collate"_s, u"false"_s));
+    EXPECT_EQ(m_job.settings().layout.collation, u"separate-documents-uncollated-copies"_s);
+    EXPECT_EQ(make(u"collate"_s, u"1"_s).sentence(),
+              u"1 is no value for collate. It can be: true, false."_s);
+}
+
 TEST_F(Requests, RefuseTwoScalingsWhateverTheyAreCalled)
 {
     const Result<> made =

@@ -135,6 +135,20 @@ TEST_F(FeaturesOf, EveryKindReachTheJobAndTheSummary)
         EXPECT_TRUE(options.contains(option)) << options.join(u'\n').toStdString();
 }
 
+TEST_F(FeaturesOf, AnotherPrinterAreAllInTheSummaryAsTheyAre)
+{
+    openFeatures();
+    pick("WeightFeature", u"Heavy"_s);
+    const QString all = summary().join(u'|');
+    EXPECT_TRUE(all.endsWith(u"|Printer Features|Finish|Nothing|Jog Stacks|No|Paper Weight|Heavy|"
+                             "Stamp|No Stamp|Private Print|Off|Tone|Plain"_s))
+        << all.toStdString();
+    click("onlyDifferentButton");
+    const QString different = summary().join(u'|');
+    EXPECT_TRUE(different.endsWith(u"Printer Features|Paper Weight|Heavy"_s))
+        << different.toStdString();
+}
+
 TEST_F(FeaturesOf, AnotherPrinterAreNamedWhereTheyClash)
 {
     openFeatures();
@@ -201,13 +215,37 @@ TEST_F(FeaturesOf, AnotherPrinterAreSettingsOfTheCommandLineToo)
     EXPECT_EQ(part<QLineEdit>("StampText")->text(), u"x"_s);
 }
 
+TEST_F(FeaturesOf, AnotherPrinterAreShownAsTheyAreWishedWhereTheirPartIsWishedToo)
+{
+    m_line.choices = {{u"Weight"_s, u"Heavy"_s}};
+    m_line.panel = u"features"_s;
+    openFeatures();
+    EXPECT_EQ(part<PopUpButton>("WeightFeature")->selectedObject(), u"Heavy"_s);
+    m_line.panel = u"summary"_s;
+    m_window.reset();
+    open();
+    const QStringList texts = summary();
+    EXPECT_EQ(texts.value(texts.indexOf(u"Paper Weight"_s) + 1), u"Heavy"_s)
+        << texts.join(u'|').toStdString();
+}
+
 TEST_F(FeaturesOf, AnotherPrinterAreNoSettingsOutOfTheirLimits)
 {
     m_line.choices = {{u"Weight"_s, u"Custom.301"_s}};
     openFeatures();
     EXPECT_EQ(m_window->settingState().sentence(),
-              u"Custom.301 is no value for Weight. It can be: Light, Heavy, Custom."_s);
+              u"Custom.301 is no value for Weight. It can be: Light, Heavy, Custom.Grams. Grams is "
+              "at most 300."_s);
     EXPECT_EQ(marked(u"Weight"_s), u"Light"_s);
+}
+
+TEST_F(FeaturesOf, AnotherPrinterAreNoSettingsWithoutTheirValues)
+{
+    m_line.choices = {{u"Stamp"_s, u"Custom"_s}};
+    openFeatures();
+    EXPECT_EQ(m_window->settingState().sentence(),
+              u"Custom is no value for Stamp. It can be: Off, {Text=… Angle=… Offset=…}."_s);
+    EXPECT_EQ(marked(u"Stamp"_s), u"Off"_s);
 }
 
 // A panel hears of a choice that was made elsewhere, as it always does.

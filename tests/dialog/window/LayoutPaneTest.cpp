@@ -200,6 +200,35 @@ TEST_F(LayoutPart, SaysHowManyPagesThereAreAndWhatIsBeyond)
     EXPECT_TRUE(part<QAbstractButton>("printButton")->isEnabled());
 }
 
+// The server's filters choose pages when several of them stand on a side already.
+TEST_F(LayoutPart, CountsSidesWhereSeveralPagesStandOnOne)
+{
+    useDocument(5);
+    openPart();
+    EXPECT_TRUE(QTest::qWaitFor([this] { return pagesValidation() == u"5 in all"_s; }))
+        << pagesValidation().toStdString();
+    QTest::keyClicks(part<QLineEdit>("pagesField"), u"4"_s);
+    EXPECT_EQ(notice(), QString());
+    pick("number-upPopup", u"2"_s);
+    EXPECT_EQ(pagesValidation(), u"4 is beyond side 3"_s);
+    EXPECT_EQ(notice(), u"With several pages on a sheet, \"Pages\" and \"Even and Odd\" count the "
+                        "printed sides."_s);
+    EXPECT_FALSE(part<QAbstractButton>("printButton")->isEnabled());
+    pick("bookletPopup", u"on"_s);
+    EXPECT_EQ(pagesValidation(), u"4 sides in all"_s);
+    EXPECT_TRUE(part<QAbstractButton>("printButton")->isEnabled());
+    pick("bookletPopup", u"off"_s);
+    pick("number-upPopup", u"1"_s);
+    EXPECT_EQ(pagesValidation(), u"5 in all"_s);
+    EXPECT_EQ(notice(), QString());
+    pick("number-upPopup", u"4"_s);
+    QTest::keyClick(part<QLineEdit>("pagesField"), Qt::Key_Backspace);
+    EXPECT_EQ(pagesValidation(), u"2 sides in all"_s);
+    EXPECT_EQ(notice(), QString());
+    pick("page-setPopup", u"even"_s);
+    EXPECT_NE(notice(), QString());
+}
+
 TEST_F(LayoutPart, SaysThatPagesAreNotKnownAndTakesAny)
 {
     open();

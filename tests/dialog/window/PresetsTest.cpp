@@ -2,15 +2,10 @@
 // the printer itself is a PPD file here.
 #include "dialog/printing/LastUsed.h"
 #include "platform/foundation/UserDefaults.h"
-#include "tests/dialog/window/DialogWindowFixture.h"
+#include "tests/dialog/window/PresetsFixture.h"
 #include "tests/support/FeaturePrinter.h"
 #include "tests/support/LpoptionsFolder.h"
 
-#include <QtCore/QTimer>
-#include <QtGui/QAction>
-#include <QtWidgets/QApplication>
-#include <QtWidgets/QDialog>
-#include <QtWidgets/QLineEdit>
 #include <QtWidgets/QListWidget>
 #include <QtWidgets/QPushButton>
 
@@ -18,82 +13,9 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-class Presets : public DialogWindowFixture
+class Presets : public PresetsFixture
 {
 protected:
-    Presets() { m_line.queue = u"photo"_s; }
-
-    /// Two sessions at once would hear of each other.
-    void open()
-    {
-        m_window.reset();
-        DialogWindowFixture::open();
-    }
-
-    QStringList offered()
-    {
-        QStringList titles;
-        auto *popup = part<PopUpButton>("presetPopup");
-        for (int index = 0; index < popup->count(); ++index)
-            titles += popup->itemText(index);
-        return titles;
-    }
-
-    QString current() { return part<PopUpButton>("presetPopup")->currentText(); }
-
-    void choose(const QString &title)
-    {
-        auto *popup = part<PopUpButton>("presetPopup");
-        const int index = popup->findText(title);
-        ASSERT_GE(index, 0) << title.toStdString();
-        popup->pick(index);
-        waitForPrinter();
-    }
-
-    /// Triggers the menu's action and answers the window that it opens.
-    void act(const char *action, const std::function<void(QWidget *)> &answer = {})
-    {
-        bool isAnswered = !answer;
-        if (answer)
-            QTimer::singleShot(0, m_window.get(), [&] {
-                isAnswered = true;
-                answer(QApplication::activeModalWidget());
-            });
-        part<QAction>(action)->trigger();
-        EXPECT_TRUE(isAnswered);
-        waitForPrinter();
-    }
-
-    /// Types the name and presses OK, or Escape where OK cannot be pressed.
-    static std::function<void(QWidget *)> name(const QString &name, QString *validation = nullptr)
-    {
-        return [name, validation](QWidget *dialog) {
-            ASSERT_NE(dialog, nullptr);
-            auto *field = dialog->findChild<QLineEdit *>(u"presetName"_s);
-            field->clear();
-            QTest::keyClicks(field, name);
-            if (validation)
-                *validation = dialog->findChild<QLabel *>(u"presetNameValidation"_s)->text();
-            auto *ok = dialog->findChild<QPushButton *>(u"presetNameOK"_s);
-            if (ok->isEnabled())
-                QTest::mouseClick(ok, Qt::LeftButton);
-            else
-                QTest::keyClick(dialog, Qt::Key_Escape);
-        };
-    }
-
-    static std::function<void(QWidget *)> press(const QString &title)
-    {
-        return [title](QWidget *dialog) {
-            ASSERT_NE(dialog, nullptr);
-            for (auto *button : dialog->findChildren<QPushButton *>())
-                if (button->text() == title)
-                    return QTest::mouseClick(button, Qt::LeftButton);
-            ADD_FAILURE() << title.toStdString();
-            static_cast<QDialog *>(dialog)->reject();
-        };
-    }
-
     LpoptionsFolder m_lpoptions;
 };
 

@@ -32,16 +32,21 @@ protected:
         m_defaults = m_window->job().session()->defaultMarks();
     }
 
-    /// The lines of what no panel tells, "title=value".
-    QStringList restLines()
+    /// The lines below the heading, "title=value", up to those of what no panel tells.
+    QStringList linesBelow(const QString &heading)
     {
         const QStringList texts = summary();
-        const qsizetype heading = texts.indexOf(u"Also Sent"_s);
+        const qsizetype first = texts.indexOf(heading) + 1;
         QStringList lines;
-        for (qsizetype index = heading + 1; heading >= 0 && index + 1 < texts.size(); index += 2)
+        for (qsizetype index = first; first > 0 && index + 1 < texts.size(); index += 2) {
+            if (texts[index] == m_rest)
+                break;
             lines += texts[index] + u'=' + texts[index + 1];
+        }
         return lines;
     }
+
+    QStringList restLines() { return linesBelow(m_rest); }
 
     /// The options of the job, "name=value", without the printer's defaults, those of the panels'
     /// ticket, and the scaling, which every job has.
@@ -59,6 +64,7 @@ protected:
         return options;
     }
 
+    const QString m_rest = u"Also Sent"_s;
     QList<PPDMark> m_defaults;
 
     const QStringList m_enhancement{u"Blue=0"_s, u"Brightness=0"_s, u"Contrast=0"_s, u"Green=0"_s,
@@ -103,8 +109,8 @@ TEST_F(SentSettings, ThatNoPanelTellsAreToldInThePrintersWords)
     open("*OpenUI *Finish/Surface & Touch: PickOne\n*DefaultFinish: Shiny\n*Finish Shiny: \"\"\n"
          "*Finish Matt/Not Shiny: \"\"\n*CloseUI: *Finish\n");
     m_window->job().session()->writeTicket(u"org.example.other"_s, 5);
-    EXPECT_EQ(restLines(), (QStringList{u"Surface & Touch=Not Shiny"_s} + m_enhancement +
-                            QStringList{u"org.example.other=5"_s}));
+    EXPECT_EQ(linesBelow(u"Printer Features"_s), QStringList{u"Surface & Touch=Not Shiny"_s});
+    EXPECT_EQ(restLines(), m_enhancement + QStringList{u"org.example.other=5"_s});
     EXPECT_EQ(sent(),
               (QStringList{u"Finish=Matt"_s} + m_standard + QStringList{u"org.example.other=5"_s}));
 }
@@ -114,7 +120,8 @@ TEST_F(SentSettings, ThatSayTheSameAsAChoiceAreToldByIt)
     m_line.choices = {{u"ColorModel"_s, u"Gray"_s}};
     open("*OpenUI *ColorModel/Colors: PickOne\n*DefaultColorModel: RGB\n*ColorModel RGB: \"\"\n"
          "*ColorModel Gray/None: \"\"\n*CloseUI: *ColorModel\n");
-    EXPECT_EQ(restLines(), QStringList{u"Colors=None"_s} + m_enhancement);
+    EXPECT_EQ(linesBelow(u"Printer Features"_s), QStringList{u"Colors=None"_s});
+    EXPECT_EQ(restLines(), m_enhancement);
     EXPECT_EQ(sent(), QStringList{u"ColorModel=Gray"_s} + m_standard);
 }
 
