@@ -2745,6 +2745,94 @@ Umschalt+F1 oder das Kontextmenü sagt, warum.</translation>
         <source>Staple</source>
         <translation>Heften</translation>
     </message>
+    <message>
+        <source>Fast Grayscale</source>
+        <translation>Graustufen, schnell</translation>
+    </message>
+    <message>
+        <source>Grayscale</source>
+        <translation>Graustufen</translation>
+    </message>
+    <message>
+        <source>Color</source>
+        <translation>Farbe</translation>
+    </message>
+    <message>
+        <source>Draft</source>
+        <translation>Entwurf</translation>
+    </message>
+    <message>
+        <source>Normal</source>
+        <translation>Normal</translation>
+    </message>
+    <message>
+        <source>High</source>
+        <translation>Hoch</translation>
+    </message>
+    <message>
+        <source>Off (1-Sided)</source>
+        <translation>Aus (einseitig)</translation>
+    </message>
+    <message>
+        <source>Long-Edge (Portrait)</source>
+        <translation>Lange Kante (Hochformat)</translation>
+    </message>
+    <message>
+        <source>Short-Edge (Landscape)</source>
+        <translation>Kurze Kante (Querformat)</translation>
+    </message>
+    <message>
+        <source>Automatic</source>
+        <translation>Automatisch</translation>
+    </message>
+    <message>
+        <source>Main</source>
+        <translation>Hauptfach</translation>
+    </message>
+    <message>
+        <source>Alternate</source>
+        <translation>Alternatives Fach</translation>
+    </message>
+    <message>
+        <source>Manual</source>
+        <translation>Manuell</translation>
+    </message>
+    <message>
+        <source>Plain Paper</source>
+        <translation>Normalpapier</translation>
+    </message>
+    <message>
+        <source>Photo Paper</source>
+        <translation>Fotopapier</translation>
+    </message>
+    <message>
+        <source>Glossy Photo Paper</source>
+        <translation>Fotopapier, glänzend</translation>
+    </message>
+    <message>
+        <source>Matte Photo Paper</source>
+        <translation>Fotopapier, matt</translation>
+    </message>
+    <message>
+        <source>Envelope</source>
+        <translation>Umschlag</translation>
+    </message>
+    <message>
+        <source>Labels</source>
+        <translation>Etiketten</translation>
+    </message>
+    <message>
+        <source>Face Down</source>
+        <translation>Druckseite unten</translation>
+    </message>
+    <message>
+        <source>Face Up</source>
+        <translation>Druckseite oben</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>Keine</translation>
+    </message>
 </context>
 <context>
     <name>SummaryPart</name>

@@ -25,7 +25,7 @@
     </message>
     <message>
         <source>%1 is gone (was %2)</source>
-        <translation>« %1 » n’existe plus (auparavant « %2 »)</translation>
+        <translation>« %1 » n’existe plus (auparavant « %2 »)</translation>
     </message>
 </context>
 <context>
@@ -2745,6 +2745,94 @@ Maj+F1 ou le menu contextuel dit pourquoi.</translation>
         <source>Staple</source>
         <translation>Agrafage</translation>
     </message>
+    <message>
+        <source>Fast Grayscale</source>
+        <translation>Niveaux de gris, rapide</translation>
+    </message>
+    <message>
+        <source>Grayscale</source>
+        <translation>Niveaux de gris</translation>
+    </message>
+    <message>
+        <source>Color</source>
+        <translation>Couleur</translation>
+    </message>
+    <message>
+        <source>Draft</source>
+        <translation>Brouillon</translation>
+    </message>
+    <message>
+        <source>Normal</source>
+        <translation>Normale</translation>
+    </message>
+    <message>
+        <source>High</source>
+        <translation>Haute</translation>
+    </message>
+    <message>
+        <source>Off (1-Sided)</source>
+        <translation>Non (recto)</translation>
+    </message>
+    <message>
+        <source>Long-Edge (Portrait)</source>
+        <translation>Bord long (portrait)</translation>
+    </message>
+    <message>
+        <source>Short-Edge (Landscape)</source>
+        <translation>Bord court (paysage)</translation>
+    </message>
+    <message>
+        <source>Automatic</source>
+        <translation>Automatique</translation>
+    </message>
+    <message>
+        <source>Main</source>
+        <translation>Bac principal</translation>
+    </message>
+    <message>
+        <source>Alternate</source>
+        <translation>Autre bac</translation>
+    </message>
+    <message>
+        <source>Manual</source>
+        <translation>Manuelle</translation>
+    </message>
+    <message>
+        <source>Plain Paper</source>
+        <translation>Papier ordinaire</translation>
+    </message>
+    <message>
+        <source>Photo Paper</source>
+        <translation>Papier photo</translation>
+    </message>
+    <message>
+        <source>Glossy Photo Paper</source>
+        <translation>Papier photo brillant</translation>
+    </message>
+    <message>
+        <source>Matte Photo Paper</source>
+        <translation>Papier photo mat</translation>
+    </message>
+    <message>
+        <source>Envelope</source>
+        <translation>Enveloppe</translation>
+    </message>
+    <message>
+        <source>Labels</source>
+        <translation>Étiquettes</translation>
+    </message>
+    <message>
+        <source>Face Down</source>
+        <translation>Face imprimée dessous</translation>
+    </message>
+    <message>
+        <source>Face Up</source>
+        <translation>Face imprimée dessus</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>Aucune</translation>
+    </message>
 </context>
 <context>
     <name>SummaryPart</name>
@@ -3061,7 +3149,7 @@ Maj+F1 ou le menu contextuel dit pourquoi.</translation>
     </message>
     <message>
         <source>The queue %1 was set up anew on the print server: it has another PPD, or other defaults.</source>
-        <translation>La file d’attente %1 a été reconfigurée sur le serveur d’impression : elle a un autre fichier PPD ou d’autres valeurs par défaut.</translation>
+        <translation>La file d’attente %1 a été reconfigurée sur le serveur d’impression : elle a un autre fichier PPD ou d’autres valeurs par défaut.</translation>
     </message>
 </context>
 <context>
@@ -3187,7 +3275,7 @@ Maj+F1 ou le menu contextuel dit pourquoi.</translation>
     <name>KeptSettings</name>
     <message>
         <source>other changes: %1</source>
-        <translation>autres changements : %1</translation>
+        <translation>autres changements : %1</translation>
     </message>
 </context>
 </TS>

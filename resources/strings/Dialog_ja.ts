@@ -2745,6 +2745,94 @@ Shift+F1 or the context menu tells why.</source>
         <source>Staple</source>
         <translation>ステープル</translation>
     </message>
+    <message>
+        <source>Fast Grayscale</source>
+        <translation>グレースケール（高速）</translation>
+    </message>
+    <message>
+        <source>Grayscale</source>
+        <translation>グレースケール</translation>
+    </message>
+    <message>
+        <source>Color</source>
+        <translation>カラー</translation>
+    </message>
+    <message>
+        <source>Draft</source>
+        <translation>下書き</translation>
+    </message>
+    <message>
+        <source>Normal</source>
+        <translation>標準</translation>
+    </message>
+    <message>
+        <source>High</source>
+        <translation>高品質</translation>
+    </message>
+    <message>
+        <source>Off (1-Sided)</source>
+        <translation>オフ（片面）</translation>
+    </message>
+    <message>
+        <source>Long-Edge (Portrait)</source>
+        <translation>長辺とじ（縦）</translation>
+    </message>
+    <message>
+        <source>Short-Edge (Landscape)</source>
+        <translation>短辺とじ（横）</translation>
+    </message>
+    <message>
+        <source>Automatic</source>
+        <translation>自動</translation>
+    </message>
+    <message>
+        <source>Main</source>
+        <translation>メイントレイ</translation>
+    </message>
+    <message>
+        <source>Alternate</source>
+        <translation>代替トレイ</translation>
+    </message>
+    <message>
+        <source>Manual</source>
+        <translation>手差し</translation>
+    </message>
+    <message>
+        <source>Plain Paper</source>
+        <translation>普通紙</translation>
+    </message>
+    <message>
+        <source>Photo Paper</source>
+        <translation>写真用紙</translation>
+    </message>
+    <message>
+        <source>Glossy Photo Paper</source>
+        <translation>光沢写真用紙</translation>
+    </message>
+    <message>
+        <source>Matte Photo Paper</source>
+        <translation>マット写真用紙</translation>
+    </message>
+    <message>
+        <source>Envelope</source>
+        <translation>封筒</translation>
+    </message>
+    <message>
+        <source>Labels</source>
+        <translation>ラベル紙</translation>
+    </message>
+    <message>
+        <source>Face Down</source>
+        <translation>印刷面を下</translation>
+    </message>
+    <message>
+        <source>Face Up</source>
+        <translation>印刷面を上</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>なし</translation>
+    </message>
 </context>
 <context>
     <name>SummaryPart</name>
