@@ -1,5 +1,6 @@
 #include "dialog/advice/RemedyWords.h"
 
+#include "dialog/job/SettingTitle.h"
 #include "dialog/printing/ChangeWords.h"
 #include "platform/ppd/PPDText.h"
 

@@ -94,25 +94,6 @@ QList<Destination> sorted(QList<Destination> found)
     return found;
 }
 
-QList<Destination> withInstances(const QList<Destination> &queues)
-{
-    const QList<QueueName> instances = savedInstances();
-    QList<Destination> all;
-    for (const Destination &queue : queues) {
-        all += queue;
-        const qsizetype first = all.size();
-        for (const QueueName &instance : instances) {
-            if (instance.queue == queue.name.queue) {
-                all += queue;
-                all.last().name = instance;
-            }
-        }
-        std::ranges::sort(all.begin() + first, all.end(), {},
-                          [](const Destination &one) { return one.name.instance.toCaseFolded(); });
-    }
-    return all;
-}
-
 IppHandle listRequest()
 {
     IppHandle request(ippNewRequest(IPP_OP_CUPS_GET_PRINTERS)); // and classes
@@ -150,6 +131,27 @@ void markDefault(QList<Destination> &destinations, const QueueName &name)
 }
 
 } // namespace
+
+QList<Destination> withInstances(QList<Destination> destinations)
+{
+    destinations.removeIf([](const Destination &one) { return !one.name.instance.isNull(); });
+    const QList<QueueName> instances = savedInstances();
+    QList<Destination> all;
+    for (const Destination &queue : std::as_const(destinations)) {
+        all += queue;
+        const qsizetype first = all.size();
+        for (const QueueName &instance : instances) {
+            if (instance.queue == queue.name.queue) {
+                all += queue;
+                all.last().name = instance;
+                all.last().isDefault = false;
+            }
+        }
+        std::ranges::sort(all.begin() + first, all.end(), {},
+                          [](const Destination &one) { return one.name.instance.toCaseFolded(); });
+    }
+    return all;
+}
 
 QList<Destination> queuesOf(ipp_t *answer)
 {

@@ -32,6 +32,9 @@ struct Destination
 /// call it in a BackgroundCall.
 Result<QList<Destination>> listDestinations(const QString &server, CallGuard &guard);
 
+/// The queues among them with the instances that the user has saved by now, each behind its queue.
+QList<Destination> withInstances(QList<Destination> destinations);
+
 /// The queues that an answer lists, in order; none of them is marked as default.
 QList<Destination> queuesOf(ipp_t *answer);
 

@@ -6,6 +6,7 @@
 #include "dialog/cups/JobTemplate.h"
 #include "dialog/cups/LostCreation.h"
 #include "dialog/cups/QueueOutlook.h"
+#include "dialog/cups/QueuePPD.h"
 #include "dialog/cups/ServerRequests.h"
 
 #include <QtCore/QCoreApplication>
@@ -30,6 +31,12 @@ JobRequest prepared(const JobRequest &job, const QueueInfluence &influence)
     prepared.options += JobOption{kHold, u"indefinite"_s};
     prepared.isOnTrial = true;
     return prepared;
+}
+
+/// The queue as its server calls it: names are asked for in any case.
+QString ownName(const QString &queue, const QueueTerms &terms)
+{
+    return terms.name.compare(queue, Qt::CaseInsensitive) == 0 ? terms.name : queue;
 }
 
 /// The number of the job in the server's answer; 0 without one that a job can have.
@@ -105,6 +112,17 @@ Result<JobRequest> JobSubmission::begin(const JobRequest &request)
     return job ? job : notPrinted(job.fault(), request.queue);
 }
 
+/// Right before the job is created: somebody may have been asked for a password meanwhile.
+Result<> JobSubmission::checkPPD(const JobRequest &job)
+{
+    if (!job.ppd)
+        return {};
+    const Result<bool> exchanged = isExchanged(m_connection, job.queue, *job.ppd);
+    if (!exchanged)
+        return notPrinted(exchanged.fault(), job.queue);
+    return *exchanged ? Result<>(notPrinted(exchangedPPD(job.queue), job.queue)) : Result<>();
+}
+
 Result<> JobSubmission::rehearse(const JobRequest &request)
 {
     if (const Result<JobRequest> job = begin(request); !job)
@@ -112,7 +130,7 @@ Result<> JobSubmission::rehearse(const JobRequest &request)
     if (isRefused(m_connection))
         return notPrinted(m_connection.lastFault(request.queue), request.queue);
     if (takesJobs(m_connection, request.queue))
-        return {};
+        return checkPPD(request);
     return notPrinted(
         {FaultKind::Refused,
          QCoreApplication::translate("JobSubmission", "The queue %1 takes no jobs at present.")
@@ -128,16 +146,21 @@ Result<JobReceipt> JobSubmission::submit(const JobRequest &request, JobProgress 
     const Result<AuthInfo> who = askWhoPrints(m_connection, job->queue, m_terms->authInfo);
     if (!who)
         return notPrinted(who.fault(), job->queue);
+    if (const Result<> same = checkPPD(*job); !same)
+        return same.fault();
     const Result<int> id = create(*job, *who);
     if (!id)
         return notPrinted(id.fault(), job->queue);
     progress.setId(*id);
     progress.setOnTrial(job->isOnTrial);
     const auto [sent, fault] = sendDocuments(m_connection, *job, progress);
-    if (sent == Sent::Accepted)
-        return accept(m_connection, *job, progress);
-    return settle(fault.value_or(m_connection.lastFault(job->queue)), sent, *job, progress,
-                  m_connection.guard());
+    Result<JobReceipt> receipt = sent == Sent::Accepted
+                                     ? accept(m_connection, *job, progress)
+                                     : settle(fault.value_or(m_connection.lastFault(job->queue)),
+                                              sent, *job, progress, m_connection.guard());
+    if (receipt)
+        receipt->queue = ownName(job->queue, *m_terms);
+    return receipt;
 }
 
 Result<JobReceipt> submitJob(const JobRequest &request, CallGuard &guard,

@@ -24,6 +24,7 @@ struct JobReceipt
     /// The server holds the job for us: it would be printed otherwise than it was shown, as the
     /// notes say, or that is not known. Somebody has to say what becomes of it.
     bool isOnTrial = false;
+    QString queue = {}; ///< as the server calls it; null: as it was asked for
 };
 
 /// Submits jobs of one queue over one connection, one after the other. For one thread; the guard
@@ -36,6 +37,9 @@ struct JobReceipt
 /// Where the queue would have its way against the job's settings, the job is sent held, and
 /// released as soon as the comparison finds nothing. Where the printer behind the queue wants to
 /// know who prints, somebody is asked before the job is created (PasswordScope).
+///
+/// A job whose settings are of a PPD that the queue no longer has is not created
+/// (FaultKind::Exchanged).
 ///
 /// Where the answer to the last document is late or lost, the server is asked for the job: it is
 /// accepted when the server has all of it, and FaultKind::Unsettled when that cannot be known. It
@@ -56,6 +60,7 @@ public:
 private:
     Result<JobRequest> begin(const JobRequest &request);
     Result<JobRequest> prepare(const JobRequest &request);
+    Result<> checkPPD(const JobRequest &job);
     Result<int> create(const JobRequest &job, const AuthInfo &who);
 
     /// What was found out for a job, and holds for others with the same options.

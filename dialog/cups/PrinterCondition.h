@@ -21,6 +21,9 @@ struct PrinterCondition
     JobStatus waiting = {}; ///< of a job that comes now: for its turn, or the printer is stopped
     QList<ClassMember> members = {}; ///< of a class, where there are several
     bool isAccepting = true;         ///< jobs; else none waits there
+    /// When somebody has changed what the queue is, its PPD perhaps, by the server's clock; 0: not
+    /// told.
+    int changeTime = 0;
 
     bool operator==(const PrinterCondition &) const = default;
 };

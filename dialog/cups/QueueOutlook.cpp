@@ -67,12 +67,14 @@ QStringList authInfoOf(ipp_t *printer)
 
 QueueTerms termsOf(ipp_t *printer)
 {
-    return {queueDefaults(printer), authInfoOf(printer)};
+    ipp_attribute_t *name = ippFindAttribute(printer, "printer-name", IPP_TAG_NAME);
+    return {QString::fromUtf8(ippGetString(name, 0, nullptr)), queueDefaults(printer),
+            authInfoOf(printer)};
 }
 
 const QList<QByteArray> &termsAttributes()
 {
-    static const QList<QByteArray> names{"printer-defaults", "auth-info-required"};
+    static const QList<QByteArray> names{"printer-name", "printer-defaults", "auth-info-required"};
     return names;
 }
 

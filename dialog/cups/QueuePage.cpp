@@ -9,7 +9,7 @@ using namespace Qt::StringLiterals;
 QUrl queuePage(const QString &server, const QString &queue)
 {
     // The name of a server that is reached by a socket has no port.
-    const QString name = nameOfServer(server);
+    const QString name = server.startsWith(u'/') ? u"localhost"_s : nameOfServer(server);
     const qsizetype colon = name.lastIndexOf(u':');
     QUrl page;
     page.setScheme(u"http"_s);

@@ -89,6 +89,8 @@ QString nameOfServer(const QString &server)
 {
     useServer(server);
     const QString host = QString::fromUtf8(cupsServer());
+    if (server.startsWith(u'/'))
+        return server;
     return host.startsWith(u'/') ? QString::fromLatin1(kLocalServer)
                                  : QStringLiteral("%1:%2").arg(host).arg(ippPort());
 }

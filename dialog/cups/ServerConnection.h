@@ -17,6 +17,13 @@
 #include <functional>
 #include <memory>
 
+/// The dates in an answer, as HTTP writes them; empty where the server says none.
+struct HttpDates
+{
+    QByteArray now;
+    QByteArray modified; ///< when what was fetched was changed last
+};
+
 struct HttpCloser
 {
     void operator()(http_t *http) const { httpClose(http); }
@@ -61,8 +68,14 @@ public:
     bool upload(const char *data, qint64 size);
     IppHandle endUpload();
 
-    /// Fetches what stands at the resource into the open file. True when it is all there.
-    bool download(const QByteArray &resource, QFile &file, qint64 largest);
+    /// Fetches what stands at the resource into the open file. True when it is all there. Where it
+    /// was not changed since `since` (null: whenever that was), the server ends with
+    /// HTTP_STATUS_NOT_MODIFIED instead.
+    bool download(const QByteArray &resource, QFile &file, qint64 largest,
+                  const QByteArray &since = {});
+
+    /// The dates of what was fetched last.
+    HttpDates lastDates() const;
 
     /// How the last exchange ended.
     const ExchangeEnd &lastEnd() const { return m_end; }
@@ -113,8 +126,8 @@ private:
     ExchangeEnd m_end;
 };
 
-/// The server's name for people: host and port ("print.example:631"), or "localhost" where it is
-/// reached by a socket of this machine.
+/// The server's name for people: host and port ("print.example:631"), the path of a socket that
+/// somebody has named, or "localhost" where it is reached by this machine's usual one.
 QString nameOfServer(const QString &server);
 
 /// What is said of a server that was given up.

@@ -104,7 +104,8 @@ IppHandle ServerConnection::endUpload()
     return readAnswer(isSent ? status() : HTTP_STATUS_ERROR);
 }
 
-bool ServerConnection::download(const QByteArray &resource, QFile &file, qint64 largest)
+bool ServerConnection::download(const QByteArray &resource, QFile &file, qint64 largest,
+                                const QByteArray &since)
 {
     if (!begin(kTimeoutsPerPPD))
         return false;
@@ -112,6 +113,7 @@ bool ServerConnection::download(const QByteArray &resource, QFile &file, qint64 
     const int answered = ask("GET", resource, [&]() -> int {
         httpClearFields(m_http.get());
         httpSetField(m_http.get(), HTTP_FIELD_AUTHORIZATION, httpGetAuthString(m_http.get()));
+        httpSetField(m_http.get(), HTTP_FIELD_IF_MODIFIED_SINCE, since.constData());
         if (httpGet(m_http.get(), resource.constData()) != 0)
             return HTTP_STATUS_ERROR;
         m_watch.watch(httpGetFd(m_http.get()));
@@ -123,9 +125,18 @@ bool ServerConnection::download(const QByteArray &resource, QFile &file, qint64 
             end = BodyEnd::NotStored;
         isFetched = end == BodyEnd::Whole;
         endByBody(end, file);
+    } else if (answered == HTTP_STATUS_NOT_MODIFIED) {
+        httpFlush(m_http.get());
+        m_isSpent = false; // such an answer has no body
     }
     m_guard.unlimitTime();
     return isFetched;
+}
+
+HttpDates ServerConnection::lastDates() const
+{
+    return {httpGetField(m_http.get(), HTTP_FIELD_DATE),
+            httpGetField(m_http.get(), HTTP_FIELD_LAST_MODIFIED)};
 }
 
 IppHandle ServerConnection::readAnswer(int status)

@@ -1,6 +1,7 @@
 #include "dialog/job/Conflicts.h"
 
 #include "dialog/job/FeatureTexts.h"
+#include "dialog/job/SettingTitle.h"
 #include "platform/ppd/PPDText.h"
 #include "platform/toolkit/PlainText.h"
 
@@ -52,10 +53,8 @@ QStringList clashesWithOne(ppd_file_t *ppd, const QString &keyword, const QStrin
 
 QString choiceText(ppd_file_t *ppd, const QString &keyword, const QString &choice)
 {
-    const ppd_option_t *option = findOption(ppd, keyword);
     return QCoreApplication::translate("Conflicts", "%1: %2")
-        .arg(displayText(option ? ppdText(option->text) : keyword),
-             valueText(ppd, keyword, choice));
+        .arg(settingTitle(ppd, keyword), valueText(ppd, keyword, choice));
 }
 
 QStringList clashesWith(ppd_file_t *ppd, const QString &keyword, const QString &choice)

@@ -8,6 +8,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cmath>
 
 using namespace Qt::StringLiterals;
 
@@ -80,6 +81,22 @@ qsizetype indexOfSize(const QList<PaperSize> &sizes, const QString &choice)
         return !choice.isNull() && (size.choice == choice || size.borderless == choice);
     });
     return found == sizes.end() ? -1 : found - sizes.begin();
+}
+
+QSizeF meantSize(const QSizeF &size)
+{
+    const auto isInEighths = [](double points) {
+        return qFuzzyIsNull(std::remainder(points, kPointsPerInch / 8));
+    };
+    if (isInEighths(size.width()) && isInEighths(size.height()))
+        return size;
+    const auto inMillimetres = [](double points) {
+        return std::round(points / kPointsPerMillimetre) * kPointsPerMillimetre;
+    };
+    const QSizeF meant(inMillimetres(size.width()), inMillimetres(size.height()));
+    const bool isNear =
+        std::abs(meant.width() - size.width()) < 1 && std::abs(meant.height() - size.height()) < 1;
+    return isNear ? meant : size;
 }
 
 QString measureText(double width, double height, QLocale::MeasurementSystem system)

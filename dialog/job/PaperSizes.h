@@ -5,6 +5,7 @@
 
 #include <QtCore/QList>
 #include <QtCore/QLocale>
+#include <QtCore/QSizeF>
 #include <QtCore/QString>
 
 /// The papers of a printer as people think of them: first how large, then whether to its edges.
@@ -28,6 +29,11 @@ QList<PaperSize> paperSizes(ppd_file_t *ppd);
 
 /// The index of the size that has the choice, in either form; -1 without one.
 qsizetype indexOfSize(const QList<PaperSize> &sizes, const QString &choice);
+
+/// The measures that are meant by a PPD's, which are whole points as a rule: eighths of an inch,
+/// else whole millimetres where both lengths are less than a point from one, else the same (595 ×
+/// 842: 210 × 297 mm, which are 595.28 × 841.89). In points.
+QSizeF meantSize(const QSizeF &size);
 
 /// Width and height as people of that country measure, such as "210 × 297 mm" or "8.5 × 11 in".
 QString measureText(double width, double height,

@@ -1,6 +1,7 @@
 #include "dialog/printing/ChangeWords.h"
 
 #include "dialog/job/Papers.h"
+#include "dialog/job/SettingTitle.h"
 #include "platform/ppd/PPDText.h"
 #include "platform/toolkit/PlainText.h"
 
@@ -10,23 +11,15 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-QString changeWords(ppd_file_t *ppd, const SettingChange &change)
+QString wordsOf(ppd_file_t *ppd, const SettingChange &change)
 {
-    const QString title = settingTitle(ppd, change.keyword);
-    const QString now = choiceWords(ppd, change.keyword, change.to);
-    if (change.from.isNull())
-        return QCoreApplication::translate("ChangeWords", "%1 is now %2").arg(title, now);
-    return QCoreApplication::translate("ChangeWords", "%1 is now %2 (was %3)")
-        .arg(title, now, choiceWords(ppd, change.keyword, change.from));
+    return changeWords(settingTitle(ppd, change.keyword),
+                       change.from.isNull() ? QString()
+                                            : choiceWords(ppd, change.keyword, change.from),
+                       choiceWords(ppd, change.keyword, change.to));
 }
 
 } // namespace
-
-QString settingTitle(ppd_file_t *ppd, const QString &keyword)
-{
-    const ppd_option_t *option = findOption(ppd, keyword);
-    return displayText(option ? ppdText(option->text) : keyword);
-}
 
 QString choiceWords(ppd_file_t *ppd, const QString &keyword, const QString &choice)
 {
@@ -43,17 +36,32 @@ QString choiceWords(ppd_file_t *ppd, const QString &keyword, const QString &choi
     return uses > 1 ? text + u" ["_s + displayText(choice) + u']' : text;
 }
 
-QString changeSentence(ppd_file_t *ppd, const QList<SettingChange> &changes)
+QString changeWords(const QString &title, const QString &from, const QString &to)
+{
+    if (to.isNull())
+        return QCoreApplication::translate("ChangeWords", "%1 is gone (was %2)").arg(title, from);
+    if (from.isNull())
+        return QCoreApplication::translate("ChangeWords", "%1 is now %2").arg(title, to);
+    return QCoreApplication::translate("ChangeWords", "%1 is now %2 (was %3)").arg(title, to, from);
+}
+
+QString sentenceOfChanges(const QStringList &changes)
 {
     QString words;
-    for (const SettingChange &change : changes) {
-        const QString next = changeWords(ppd, change);
+    for (const QString &next : changes)
         words = words.isNull()
                     ? next
                     : QCoreApplication::translate("ChangeWords", "%1; %2").arg(words, next);
-    }
     return words.isNull() ? QString()
                           : QCoreApplication::translate("ChangeWords", "%1.").arg(words);
+}
+
+QString changeSentence(ppd_file_t *ppd, const QList<SettingChange> &changes)
+{
+    QStringList words;
+    for (const SettingChange &change : changes)
+        words += wordsOf(ppd, change);
+    return sentenceOfChanges(words);
 }
 
 QString replacementSentence(ppd_file_t *ppd, const SettingChange &change)

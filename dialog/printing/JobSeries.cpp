@@ -19,6 +19,7 @@ bool mayGoOn(const Result<JobReceipt> &receipt, const QString &server, CallGuard
     case FaultKind::NotFound:
     case FaultKind::NeedsPassword:
     case FaultKind::Untrusted:
+    case FaultKind::Exchanged:
         return false;
     case FaultKind::Unreachable: {
         guard.stampSignOfLife();

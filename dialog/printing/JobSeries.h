@@ -15,8 +15,8 @@ class BackgroundCall;
 /// Jobs of one queue that are sent one after the other over one connection, off the main thread.
 ///
 /// A job that fails does not keep the others from being sent; what the next one would meet as well
-/// does: a server that is silent or gone, a queue that is not there, a password that nobody has
-/// said. A server that is being started again is waited for.
+/// does: a server that is silent or gone, a queue that is not there or has another PPD by now, a
+/// password that nobody has said. A server that is being started again is waited for.
 class JobSeries : public QObject
 {
 public:

@@ -1,5 +1,6 @@
 #include "dialog/printing/OriginWords.h"
 
+#include "dialog/job/SettingTitle.h"
 #include "dialog/printing/ChangeWords.h"
 #include "dialog/printing/PrintJob.h"
 #include "dialog/printing/SettingState.h"

@@ -5,6 +5,7 @@
 #include "dialog/host/controls/UserActions.h"
 #include "platform/ppd/PPDText.h"
 #include "platform/toolkit/FractionSlider.h"
+#include "platform/toolkit/PopUpButton.h"
 #include "platform/toolkit/ViewLoader.h"
 
 #include <QtWidgets/QAbstractButton>
@@ -84,6 +85,18 @@ std::optional<double> valueOfSlider(const HostSession &session, const QString &s
         if (session.keywordOfTicketKey(entry.key()) == slider)
             return entry.value().toDouble();
     return std::nullopt;
+}
+
+bool isOfferedInPanels(const HostSession &session, const QString &keyword, const QString &choice)
+{
+    const HostPanel *panel = panelOf(session, keyword);
+    if (!panel || !panel->controls)
+        return true;
+    const auto *popup = qobject_cast<const PopUpButton *>(panel->controls->controlOf(keyword));
+    if (!popup)
+        return true;
+    const int index = popup->indexOfRepresentedObject(choice);
+    return index >= 0 && popup->isItemEnabled(index);
 }
 
 bool pickInPanels(HostSession &session, const QString &keyword, const QString &choice)

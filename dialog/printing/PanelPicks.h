@@ -23,6 +23,10 @@ QString sliderOf(const HostSession &session, const QString &name);
 /// What the ticket has for the slider of the key; none when the plug-in does not tell where.
 std::optional<double> valueOfSlider(const HostSession &session, const QString &slider);
 
+/// Whether a person could pick the choice now, where a panel has a control for the keyword, whose
+/// controls are filled (prepareControls()).
+bool isOfferedInPanels(const HostSession &session, const QString &keyword, const QString &choice);
+
 /// Picks the choice as a person would: in the keyword's control, where a panel has one, or by
 /// moving its slider. False when neither is there. What the panel's rules and the host make of the
 /// pick is not told.

@@ -11,6 +11,7 @@
 #include "dialog/job/PipeDocuments.h"
 #include "dialog/printing/JobDoubts.h"
 #include "dialog/printing/LastPrinter.h"
+#include "dialog/printing/PanelPicks.h"
 #include "dialog/printing/RequestedSettings.h"
 #include "dialog/printing/SavedJob.h"
 #include "dialog/printing/SettingRequests.h"
@@ -30,6 +31,19 @@ namespace {
 QString ownAddress()
 {
     return QString::fromUtf8(requestingUser()) + u'@' + QSysInfo::machineHostName();
+}
+
+/// The one that the job has, else those that a person could pick now.
+QList<RequestedChoice> choicesLeft(const PrintJob &job, const QList<RequestedChoice> &choices)
+{
+    QList<RequestedChoice> left;
+    for (const RequestedChoice &choice : choices) {
+        if (hasSetting(job, choice))
+            return {choice};
+        if (isOfferedInPanels(*job.session(), choice.keyword, choice.choice))
+            left += choice;
+    }
+    return left;
 }
 
 } // namespace
@@ -90,6 +104,7 @@ Result<PrinterChoice> PrintController::choosePrinter(const QList<Destination> &l
 
 void PrintController::findPrinter(const PrinterSource &source, Then<FoundPrinter> then)
 {
+    m_named.reset();
     if (const Result<> known = checkInstance(source.queue); !known) {
         m_job.setPrinter(source, {});
         QTimer::singleShot(0, this, [then = std::move(then), known] { then(known.fault()); });
@@ -142,22 +157,62 @@ void PrintController::askCondition(Then<PrinterCondition> then)
         [source] { return Result<PrinterCondition>(silentServer(source.server)); });
 }
 
-NamedWishes PrintController::namedWishes() const
+void PrintController::lookForExchange(Then<bool> then)
+{
+    const std::optional<QueuePPD> shown = shownPPD();
+    if (!shown)
+        return;
+    const PrinterSource source = m_job.source();
+    m_comparing.begin<Result<bool>>(
+        kServerTimeout,
+        [source, shown](CallGuard &guard) {
+            return isExchanged(source.server, source.queue.queue, *shown, guard);
+        },
+        std::move(then), [source] { return Result<bool>(silentServer(source.server)); });
+}
+
+NamedWishes PrintController::nameWishes(const ChoiceNarrowing &narrowed) const
 {
     QList<RequestedChoice> wanted = m_wishes.choices;
     if (m_wishes.mail)
         wanted += RequestedChoice{QStringLiteral("notify-recipient-uri"), ownAddress()};
     if (!m_wishes.paper.isNull())
         wanted += RequestedChoice{QStringLiteral("PageSize"), m_wishes.paper};
-    return inPrintersNames(m_job.ppd(), m_job.attributeRules(), wanted);
+    return inPrintersNames(m_job.ppd(), m_job.attributeRules(), wanted, narrowed);
+}
+
+NamedWishes PrintController::namedWishes() const
+{
+    return m_named ? *m_named : nameWishes({});
 }
 
 Result<>
 PrintController::makeRequestedSettings(const std::function<void(const RequestedChoice &)> &madeOne)
 {
-    const NamedWishes named = namedWishes();
-    const Result<> made = makeSettings(m_job, named.wanted, madeOne);
-    return named.state ? made : named.state;
+    m_named = nameWishes({});
+    const Result<> made = makeSettings(m_job, m_named->wanted, madeOne);
+    if (!m_named->state && m_job.session())
+        return makeOffered(made, madeOne);
+    return m_named->state ? made : m_named->state;
+}
+
+/// What stands for several choices may stand for one, now that the other wishes are made: a quality
+/// by the medium that it goes with.
+Result<> PrintController::makeOffered(const Result<> &made,
+                                      const std::function<void(const RequestedChoice &)> &madeOne)
+{
+    prepareControls(*m_job.session());
+    const NamedWishes named = nameWishes(
+        [this](const QList<RequestedChoice> &choices) { return choicesLeft(m_job, choices); });
+    QList<RequestedChoice> added = named.wanted;
+    added.removeIf([&](const RequestedChoice &one) { return m_named->wanted.contains(one); });
+    m_named = named;
+    if (added.isEmpty())
+        return named.state ? made : named.state;
+    const Result<> madeMore = makeSettings(m_job, added, madeOne);
+    const bool areAllThere = made && madeMore && ::lostSettings(m_job, named.wanted).isEmpty();
+    const Result<> all = areAllThere ? made : makeSettings(m_job, named.wanted, madeOne);
+    return named.state ? all : named.state;
 }
 
 QList<RequestedChoice> PrintController::lostSettings() const
@@ -185,6 +240,15 @@ QStringList PrintController::yieldedSettings()
                : QStringList();
 }
 
+/// The queue's PPD that the settings are of; none where they are of a file that somebody has named.
+std::optional<QueuePPD> PrintController::shownPPD() const
+{
+    const PrinterSource &source = m_job.source();
+    if (source.queue.queue.isEmpty() || !source.ppdPath.isNull())
+        return std::nullopt;
+    return origin() ? origin()->kept : QueuePPD();
+}
+
 Result<FinishedJob> PrintController::finish()
 {
     if (const Result<> checked = refuseSavedJobs(m_job.documents()); !checked)
@@ -202,6 +266,7 @@ Result<FinishedJob> PrintController::finish()
     const SettingState after = settingState(m_job);
     FinishedJob finished{m_job.request(options.options),
                          replacedBySaving(m_job, before, after) + doubtsOf(m_job, after)};
+    finished.request.ppd = shownPPD();
     finished.doubts.removeDuplicates();
     return finished;
 }
@@ -213,6 +278,7 @@ QList<JobRequest> PrintController::oneForEach()
     for (const Document &document : all) {
         m_job.setDocuments({document});
         jobs += m_job.request(m_job.wholeOptions().options);
+        jobs.last().ppd = shownPPD();
     }
     m_job.setDocuments(all);
     return jobs;
@@ -279,6 +345,6 @@ OutputTerms PrintController::outputTerms() const
 
 void PrintController::cancel()
 {
-    for (LatestCall *call : {&m_call, &m_reading, &m_asking})
+    for (LatestCall *call : {&m_call, &m_reading, &m_asking, &m_comparing})
         call->cancel();
 }

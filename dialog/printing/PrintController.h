@@ -19,6 +19,7 @@
 
 #include <functional>
 #include <memory>
+#include <optional>
 
 struct NamedWishes;
 
@@ -108,7 +109,11 @@ public:
     /// Asks how the printer of the job's queue is.
     void askCondition(Then<PrinterCondition> then);
 
-    /// The wished settings by the names of the printer.
+    /// Looks whether the queue has another PPD by now than the one that is open. Never tells where
+    /// that is not the queue's.
+    void lookForExchange(Then<bool> then);
+
+    /// The wished settings by the names of the printer, as they were made.
     NamedWishes namedWishes() const;
 
     /// Makes the wished settings (makeSettings()).
@@ -160,14 +165,21 @@ public:
     void closePrinter() { m_job.closePrinter(); }
 
 private:
+    std::optional<QueuePPD> shownPPD() const;
+    NamedWishes nameWishes(const ChoiceNarrowing &narrowed) const;
+    Result<> makeOffered(const Result<> &made,
+                         const std::function<void(const RequestedChoice &)> &madeOne);
+
     const PrintWishes m_wishes;
     UnsavedPanels m_unsaved; // outlives the session that it follows
     PrintJob m_job;
     PrinterOpening m_opening;
+    std::optional<NamedWishes> m_named; ///< as they were made on the printer; none: not yet
     PageCounter m_pages;
     LatestCall m_call;    ///< finding, sending or writing
     LatestCall m_reading; ///< of documents that are pipes
     LatestCall m_listing;
     LatestCall m_covers;
-    LatestCall m_asking; ///< for the printer's condition
+    LatestCall m_asking;    ///< for the printer's condition
+    LatestCall m_comparing; ///< of PPDs
 };

@@ -113,6 +113,8 @@ QueueName wantedQueue(const QString &queue, const QString &instance)
 QList<JobOption> startingOptions(PrinterSource &source, ppd_file_t *ppd)
 {
     using enum StartingSettings::Kind;
+    if (source.kept)
+        return *source.kept;
     QList<JobOption> options = savedOptions(source.queue);
     const QList<JobOption> lastUsed = source.start.kind == LastUsed
                                           ? lastUsedSettings(source.server, source.queue.queue)
@@ -155,7 +157,7 @@ QString typedSettings(const QList<JobOption> &settings)
 QStringList notesOnStart(const PrinterSource &source, const QList<JobOption> &missing)
 {
     QStringList notes = source.queue.queue.isEmpty() ? QStringList() : notesOnLpoptions();
-    if (!missing.isEmpty())
+    if (!missing.isEmpty() && !source.kept) // else it is told what became of them
         notes += noteOnMissing(source, missing);
     return notes;
 }

@@ -20,6 +20,9 @@ struct PrinterSource
     QueueName queue; ///< a null queue: none, or not known yet
     QString ppdPath; ///< null: the queue's own
     StartingSettings start = {};
+    /// What a user had settled when the queue's PPD was exchanged, in place of what the start
+    /// stands for; none: it was not.
+    std::optional<QList<JobOption>> kept = {};
 };
 
 /// What a server told of a queue, or what is in a PPD file.

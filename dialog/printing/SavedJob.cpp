@@ -1,9 +1,12 @@
 #include "dialog/printing/SavedJob.h"
 
 #include "dialog/files/PathBytes.h"
+#include "dialog/host/HostSession.h"
 #include "dialog/job/JobFileReader.h"
 #include "dialog/job/SavedJobOptions.h"
 #include "dialog/job/SavedSettings.h"
+#include "dialog/job/StandardAttributes.h"
+#include "dialog/printing/PrintJob.h"
 #include "dialog/printing/PrinterSource.h"
 
 #include <QtCore/QCoreApplication>
@@ -58,6 +61,18 @@ Result<> refuseSavedJobs(const Documents &documents)
                                              "%1 is a saved job: it is sent alone, with no other "
                                              "document beside it.")
                      .arg(saved->path())};
+}
+
+QList<JobOption> defaultOptions(const PrintJob &job)
+{
+    QList<JobOption> options{
+        {QStringLiteral("print-scaling"), scalingKeyword(HostSettings().scaling)}};
+    if (!job.session())
+        return options;
+    const QList<PPDMark> marks = job.session()->defaultMarks();
+    for (const PPDMark &mark : marks)
+        options += JobOption{mark.keyword, mark.choice};
+    return options + standardAttributes(marks, options, job.attributeRules());
 }
 
 QStringList notesOnSending(ppd_file_t *ppd, const QList<JobOption> &options)

@@ -6,6 +6,7 @@
 #include "dialog/job/Conflicts.h"
 #include "dialog/job/FeatureTexts.h"
 #include "dialog/job/Papers.h"
+#include "dialog/job/SettingTitle.h"
 #include "dialog/printing/OwnSettings.h"
 #include "dialog/printing/PanelPicks.h"
 #include "dialog/printing/PrintJob.h"
@@ -276,8 +277,7 @@ QString lossSentence(const PrintJob &job, const RequestedChoice &known)
     const QString wanted =
         displayText(known.keyword) + u'=' + displayText(known.choice); // as it is typed
     const QString value = currentText(job, known);
-    const ppd_option_t *option = findOption(job.ppd(), known.keyword);
-    if (!option || value.isEmpty())
+    if (!findOption(job.ppd(), known.keyword) || value.isEmpty())
         return QCoreApplication::translate(
                    "SettingRequests",
                    "%1 cannot be chosen while the other settings are as they are.")
@@ -285,5 +285,5 @@ QString lossSentence(const PrintJob &job, const RequestedChoice &known)
     return QCoreApplication::translate("SettingRequests",
                                        "%1 cannot be chosen while the other settings are as they "
                                        "are. %2 is %3 instead.")
-        .arg(wanted, displayText(ppdText(option->text)), displayText(value));
+        .arg(wanted, settingTitle(job.ppd(), known.keyword), displayText(value));
 }

@@ -51,11 +51,13 @@ void addTicket(SettingValues &values, const HostSession &session)
 
 /// What became of the option, where another preset than the queue's own has it.
 SettingOrigin originOf(const PrinterSource &source, const JobOption &option,
-                       const QList<JobOption> &ofQueue)
+                       const QList<JobOption> &ofQueue, const QList<JobOption> &ofStart)
 {
     using enum SettingOrigin::Kind;
     if (ofQueue.contains(option))
         return {Queue, {}, {}};
+    if (!ofStart.contains(option))
+        return {You, {}, {}};
     if (source.start.kind == StartingSettings::Kind::LastUsed)
         return {LastUsed, {}, {}};
     return {Preset,
@@ -91,9 +93,12 @@ QHash<QString, SettingOrigin> startingOrigins(const PrintJob &job, const QList<J
     const PrinterSource &source = job.source();
     const QList<JobOption> ofQueue =
         source.queue.queue.isEmpty() ? QList<JobOption>() : savedOptions({source.queue.queue, {}});
+    PrinterSource former = source;
+    former.kept.reset();
+    const QList<JobOption> ofStart = source.kept ? startingOptions(former, job.ppd()) : starting;
     QHash<QString, SettingOrigin> origins;
     for (const JobOption &option : starting) {
-        const SettingOrigin origin = originOf(source, option, ofQueue);
+        const SettingOrigin origin = originOf(source, option, ofQueue, ofStart);
         const QString titled =
             job.session() ? job.session()->keywordOfTicketKey(option.name) : QString();
         origins.insert(titled.isNull() ? option.name : titled, origin);

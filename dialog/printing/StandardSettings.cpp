@@ -109,6 +109,14 @@ QList<RequestedChoice> namedByPlugIn(ppd_file_t *ppd, const QList<AttributeRule>
     return named;
 }
 
+QList<RequestedChoice> leftOf(const QList<RequestedChoice> &choices,
+                              const ChoiceNarrowing &narrowed)
+{
+    const QList<RequestedChoice> left =
+        narrowed && choices.size() > 1 ? narrowed(choices) : QList<RequestedChoice>();
+    return left.isEmpty() ? choices : left;
+}
+
 /// As they are typed; of a name whose values are the printer's own, as far as they are its choices.
 QStringList valuesOf(ppd_file_t *ppd, const QString &name)
 {
@@ -143,13 +151,13 @@ Fault tooMany(const RequestedChoice &wanted, const QList<RequestedChoice> &alike
 } // namespace
 
 NamedWishes inPrintersNames(ppd_file_t *ppd, const QList<AttributeRule> &rules,
-                            const QList<RequestedChoice> &wanted)
+                            const QList<RequestedChoice> &wanted, const ChoiceNarrowing &narrowed)
 {
     NamedWishes named;
     for (const RequestedChoice &one : wanted) {
         const QList<RequestedChoice> choices = namedByPPD(ppd, one);
         const QList<RequestedChoice> alike =
-            choices.isEmpty() ? namedByPlugIn(ppd, rules, one) : choices;
+            choices.isEmpty() ? leftOf(namedByPlugIn(ppd, rules, one), narrowed) : choices;
         if (choices.isEmpty() && alike.size() != 1) {
             if (named.state)
                 named.state = alike.isEmpty() ? notThere(ppd, rules, one) : tooMany(one, alike);

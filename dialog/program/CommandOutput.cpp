@@ -31,6 +31,7 @@ constexpr std::array kStatuses{
     StatusRow{FaultKind::Refused, ExitStatus::Server},
     StatusRow{FaultKind::NeedsPassword, ExitStatus::Server},
     StatusRow{FaultKind::Untrusted, ExitStatus::Server},
+    StatusRow{FaultKind::Exchanged, ExitStatus::Server},
     StatusRow{FaultKind::Unsettled, ExitStatus::Server},
 };
 

@@ -66,6 +66,8 @@ void JobDispatch::cancel()
 
 void JobDispatch::take(Job &job, const Result<JobReceipt> &receipt)
 {
+    if (receipt && !receipt->queue.isNull())
+        job.job.request.queue = receipt->queue;
     if (!receipt) {
         fail(job, receipt.fault());
     } else if (receipt->isOnTrial) {

@@ -22,6 +22,8 @@ void DialogWindow::takeCondition(const PrinterCondition &condition)
 {
     const QStringList toldDoubts = printerDoubts();
     const int parts = m_tabs->count();
+    if (m_condition && m_condition->changeTime != condition.changeTime)
+        lookForExchange();
     m_condition = condition;
     m_header->printers()->setQueuedJobs(condition.queuedJobs);
     m_tabs->showSupplies(condition);

@@ -18,7 +18,7 @@
 #include <algorithm>
 #include <utility>
 
-/// The tabs for the printer that is open now, the first panel in front.
+/// The tabs for the printer that is open now.
 void DialogWindow::buildParts()
 {
     removeParts();

@@ -1,3 +1,4 @@
+#include "dialog/cups/QueuePPD.h"
 #include "dialog/files/PathBytes.h"
 #include "dialog/job/PaperMemory.h"
 #include "dialog/printing/LastPrinter.h"
@@ -25,6 +26,10 @@ std::optional<JobRequest> DialogWindow::finishedJob()
 {
     if (m_savedJob)
         return savedJobToSend();
+    if (m_isExchanged) {
+        openExchanged(exchangedPPD(job().source().queue.queue).sentence);
+        return std::nullopt;
+    }
     const Result<FinishedJob> finished = m_controller.finish();
     if (m_isEnding) // dismissed, not answered
         return std::nullopt;
@@ -140,10 +145,15 @@ void DialogWindow::judge(const JobPlace &place, const JobReceipt &receipt)
 
 void DialogWindow::takeReceipt(const Result<JobReceipt> &receipt)
 {
+    if (receipt.faultKind() == FaultKind::Exchanged && !m_isEnding) {
+        m_progress->end();
+        openExchanged(receipt.sentence());
+        return;
+    }
     if (receipt) {
         const QueueName queue = job().source().queue;
         rememberPrinter(m_wishes.server, queue);
-        m_sent = {queue.queue, receipt->id,
+        m_sent = {receipt->queue.isNull() ? queue.queue : receipt->queue, receipt->id,
                   m_savedJob ? 0 : printedPages(job().settings(), m_pageCount)};
     }
     const bool hasNote = receipt && !receipt->notes.isEmpty();

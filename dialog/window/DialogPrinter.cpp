@@ -85,12 +85,15 @@ void DialogWindow::startFrom(const QString &preset, const StartingSettings &star
     PrinterSource source = job().source();
     source.queue.instance = preset;
     source.start = start;
+    source.kept.reset();
+    m_header->printers()->refreshPresets(); // it may be one of those that were changed
     closePrinter();
     findPrinter(source);
 }
 
 void DialogWindow::beginSearch(const PrinterSource &source)
 {
+    m_isExchanged = false;
     setState(State::Searching);
     forgetCondition();
     m_header->printers()->setCurrent(source.queue);
@@ -118,6 +121,8 @@ void DialogWindow::takePrinter(const Result<FoundPrinter> &found)
         m_outcome = found.fault();
     m_tabs->setEnabled(bool(found)); // before they have parts, each of whose controls would be told
     showPrinter();
+    if (const QString outcome = exchangeOutcome(); !outcome.isNull())
+        m_startNotes.prepend(outcome);
     m_standing = standing();
     setState(found ? State::Ready : State::NoPrinter);
     m_presets->show(m_state == State::Ready);
@@ -216,11 +221,12 @@ DialogWindow::Notice DialogWindow::whatIsMissing()
         return {Kind::Warning, tr("The printer %1 is no longer on the print server. Choose another "
                                   "one; the settings of this job stay.")
                                    .arg(job().source().queue.queue)};
+    if (m_isExchanged)
+        return exchangeNotice();
     if (m_savedJob)
         return savedJobNotice();
     if (!job().session())
-        return {Kind::Information, tr("%1 It prints with the settings of this dialog alone.")
-                                       .arg(missingPPD(job().source().queue.queue))};
+        return withoutPPD();
     if (!m_shortcomings.isEmpty())
         return {Kind::Warning, m_shortcomings.constFirst().sentence};
     if (!m_startNotes.isEmpty())
@@ -234,6 +240,15 @@ DialogWindow::Notice DialogWindow::whatIsMissing()
     if (m_wishes.output.isNull() && job().source().queue.queue.isEmpty())
         return {Kind::Information, tr("No queue was chosen: the job can be saved to a file.")};
     return {};
+}
+
+DialogWindow::Notice DialogWindow::withoutPPD() const
+{
+    const QString alone = tr("%1 It prints with the settings of this dialog alone.")
+                              .arg(missingPPD(job().source().queue.queue));
+    if (m_startNotes.isEmpty())
+        return {NoticeBar::Kind::Information, alone};
+    return {NoticeBar::Kind::Warning, joinedSentences({m_startNotes.constFirst(), alone})};
 }
 
 /// Lists the printers from now on, where there is a server that can be asked.

@@ -1,6 +1,7 @@
 #include "dialog/job/JobFileReader.h"
 #include "dialog/job/PipeDocuments.h"
 #include "dialog/job/SavedJobOptions.h"
+#include "dialog/job/SettingTitle.h"
 #include "dialog/printing/SavedJob.h"
 #include "dialog/window/DialogWindow.h"
 #include "dialog/window/OwnQuestion.h"
@@ -24,12 +25,15 @@ QStringList foreignSettings(const JobRequest &saved)
 }
 
 /// The setting in the words of the printer that the job goes to, as far as that has any.
-SummarySection::Line lineOf(ppd_file_t *ppd, const JobOption &setting)
+SummarySection::Line lineOf(ppd_file_t *ppd, const JobOption &setting, bool isDefault)
 {
     ppd_option_t *option = findOption(ppd, setting.name);
     const ppd_choice_t *choice = findChoice(option, setting.value);
-    return {option ? ppdText(option->text) : setting.name,
-            choice ? ppdText(choice->text) : setting.value};
+    return {settingTitle(ppd, setting.name),
+            choice ? ppdText(choice->text) : setting.value,
+            {},
+            {},
+            isDefault};
 }
 
 } // namespace
@@ -100,7 +104,8 @@ QList<SummarySection> DialogWindow::savedJobSections() const
     for (const Document &document : m_savedJob->documents)
         whole.lines += {tr("Document"), document.name()};
     SummarySection settings{tr("Settings"), {}};
+    const QList<JobOption> defaults = defaultOptions(job());
     for (const JobOption &option : m_savedJob->options)
-        settings.lines += lineOf(job().ppd(), option);
+        settings.lines += lineOf(job().ppd(), option, defaults.contains(option));
     return {whole, settings};
 }

@@ -59,6 +59,10 @@ DialogTabs::DialogTabs(PrintJob &job, QWidget *parent)
     giveAccessibleName(m_all, tr("All Parts"));
     m_all->hide();
     connect(m_all, &QToolButton::clicked, this, &DialogTabs::listParts);
+    connect(this, &QTabWidget::currentChanged, this, [this] {
+        if (const Part *part = currentPart())
+            m_chosen = part->name;
+    });
     for (QWidget *pane : {static_cast<QWidget *>(m_pageSetup), static_cast<QWidget *>(m_features),
                           static_cast<QWidget *>(m_layout), static_cast<QWidget *>(m_summary)})
         pane->hide(); // a tab only where there is something to show
@@ -116,7 +120,8 @@ void DialogTabs::build(bool isSavedJob)
     }
     addPart(kSummary, m_summary, tr("Summary"));
     giveAccessibleName(m_summary->pane(), tr("Summary"));
-    setCurrentIndex(m_parts.size() > 1 && m_parts[1].panel ? 1 : 0);
+    if (!showPart(m_chosen))
+        setCurrentIndex(m_parts.size() > 1 && m_parts[1].panel ? 1 : 0);
 }
 
 void DialogTabs::addPanels()
@@ -149,6 +154,8 @@ void DialogTabs::showSupplies(const PrinterCondition &printer)
         return;
     addPart(kSupplies, m_supplies, tr("Supplies"));
     setTabText(indexOf(m_supplies), withMnemonic(tr("Supplies"), mnemonicsInFront(*window())));
+    if (m_chosen == kSupplies)
+        setCurrentWidget(m_supplies);
 }
 
 void DialogTabs::removeSupplies()

@@ -40,8 +40,9 @@ public:
     LayoutPane *layoutPane() const { return m_layout; }
     SummaryPart *summary() const { return m_summary; }
 
-    /// The tabs for the printer that is open now, the first panel in front; for a job that was
-    /// saved the summary alone. Says nothing of it, and shows no panel yet.
+    /// The tabs for the printer that is open now, in front the part that the user has chosen, where
+    /// it is there again, else the first panel; for a job that was saved the summary alone. Says
+    /// nothing of it, and shows no panel yet.
     void build(bool isSavedJob);
 
     /// Takes all tabs away, and gives the panels' views back; before their session closes.
@@ -109,6 +110,7 @@ private:
     SummaryPart *m_summary;
     SuppliesPane *m_supplies = nullptr; ///< null before a printer has told of any
     std::vector<Part> m_parts;
+    QString m_chosen; ///< the part that the user has chosen last; null: none yet
     const HostPanel *m_shownPanel = nullptr;
     bool m_viewIsMissing = false; // of m_shownPanel
 };

@@ -2,6 +2,7 @@
 
 #include "dialog/cups/JobSentence.h"
 #include "dialog/cups/PrinterCondition.h"
+#include "dialog/printing/KeptSettings.h"
 #include "dialog/printing/PrintController.h"
 #include "dialog/window/DialogWishes.h"
 #include "dialog/window/EventWatch.h"
@@ -89,6 +90,7 @@ Q_SIGNALS:
 
 protected:
     void resizeEvent(QResizeEvent *event) override;
+    void changeEvent(QEvent *event) override;
     void dragEnterEvent(QDragEnterEvent *event) override;
     void dropEvent(QDropEvent *event) override;
 
@@ -158,6 +160,7 @@ private:
     void endWithoutPanel();
     Notice standing();
     Notice whatIsMissing();
+    Notice withoutPPD() const;
     void watchPrinters();
     void takeList(const Result<QList<Destination>> &list);
 
@@ -166,6 +169,12 @@ private:
     void takeCondition(const PrinterCondition &condition);
     void forgetCondition();
     QStringList printerDoubts() const;
+
+    // DialogExchange.cpp
+    void lookForExchange();
+    Notice exchangeNotice();
+    void openExchanged(const QString &reason);
+    QString exchangeOutcome();
 
     // DialogParts.cpp
     void buildParts();
@@ -220,6 +229,9 @@ private:
     QList<Fault> m_shortcomings;                 ///< of the printer
     QStringList m_startNotes;                    ///< on the settings that it starts from
     std::optional<PrinterCondition> m_condition; ///< of the printer; none: not known yet
+    std::optional<KeptSettings> m_kept;          ///< while the PPD is read that was exchanged
+    QString m_exchange;                          ///< why it is, for the user
+    bool m_isExchanged = false;                  ///< what is open is not the queue's PPD any more
     Notice m_standing;                           ///< shown while there is nothing newer to tell
     bool m_coversAreListed = false;              ///< of the printer
     bool m_requestedSettingsAreMade = false;

@@ -1,9 +1,11 @@
 #include "dialog/window/JobSummary.h"
 
+#include "dialog/host/PPDMarks.h"
 #include "dialog/job/FeatureTexts.h"
 #include "dialog/job/JobLayout.h"
 #include "dialog/job/JobOptions.h"
 #include "dialog/job/Papers.h"
+#include "dialog/job/SettingTitle.h"
 #include "dialog/printing/FeaturePicks.h"
 #include "dialog/printing/OriginWords.h"
 #include "dialog/printing/PrintJob.h"
@@ -28,35 +30,30 @@ SummarySection ownSection(const PrintJob &job)
 {
     const HostSettings &settings = job.settings();
     SummarySection own{JobSummary::tr("Page Setup"), {}};
+    const auto add = [&](const QString &name, const QString &value) {
+        own.lines += {settingTitle(job.ppd(), name), value, name};
+    };
     if (const std::optional<PMPaper> sheet = job.sheet())
-        own.lines +=
-            {JobSummary::tr("Paper in the Printer"), paperText(job.ppd(), *sheet), u"PageSize"_s};
+        add(u"PageSize"_s, paperText(job.ppd(), *sheet));
     if (const std::optional<PMPaper> page = job.documentPage())
-        own.lines += {JobSummary::tr("Document Page"), paperText(job.ppd(), *page),
-                      QString(kPMMappedPaperKey)};
-    own.lines += {JobSummary::tr("Scaling"), scalingTitle(settings.scaling, job.scalingCase()),
-                  u"print-scaling"_s};
-    const bool isLandscape = job.orientation() == PMOrientation::Landscape;
-    own.lines += {JobSummary::tr("Orientation"),
-                  isLandscape ? JobSummary::tr("Landscape") : JobSummary::tr("Portrait"),
-                  u"orientation-requested"_s};
-    own.lines += {JobSummary::tr("Copies"), QString::number(settings.copies), u"copies"_s};
-    own.lines += {JobSummary::tr("Pages"),
-                  settings.pageRanges.isEmpty() ? JobSummary::tr("All") : settings.pageRanges,
-                  u"page-ranges"_s};
+        add(kPMMappedPaperKey, paperText(job.ppd(), *page));
+    add(u"print-scaling"_s, scalingTitle(settings.scaling, job.scalingCase()));
+    add(u"orientation-requested"_s, job.orientation() == PMOrientation::Landscape
+                                        ? JobSummary::tr("Landscape")
+                                        : JobSummary::tr("Portrait"));
+    add(u"copies"_s, QString::number(settings.copies));
+    add(u"page-ranges"_s,
+        settings.pageRanges.isEmpty() ? JobSummary::tr("All") : settings.pageRanges);
     for (const QString &keyword : job.ownKeywords()) {
         ppd_option_t *option = findOption(job.ppd(), keyword);
         const ppd_choice_t *choice = findChoice(option, markedChoice(job.ppd(), keyword));
         if (choice)
-            own.lines += {ppdText(option->text), ppdText(choice->text), keyword};
+            add(keyword, ppdText(choice->text));
     }
-    if (job.offersColorMatching()) {
-        const bool byPrinter = job.colorMatching() == PrintJob::ColorMatching::Printer;
-        own.lines +=
-            {JobSummary::tr("Color Management"),
-             byPrinter ? JobSummary::tr("By the Printer") : JobSummary::tr("By the Application"),
-             QString(kPMColorMatchingModeKey)};
-    }
+    if (job.offersColorMatching())
+        add(kPMColorMatchingModeKey, job.colorMatching() == PrintJob::ColorMatching::Printer
+                                         ? JobSummary::tr("By the Printer")
+                                         : JobSummary::tr("By the Application"));
     return own;
 }
 
@@ -64,9 +61,8 @@ SummarySection ownSection(const PrintJob &job)
 SummarySection featuresSection(const PrintJob &job)
 {
     SummarySection section{JobSummary::tr("Printer Features"), {}};
-    const QList<JobOption> sent = job.options().options;
     for (const PrinterFeature &feature : choosableFeatures(job))
-        if (const QString value = optionValue(sent, feature.keyword); !value.isNull())
+        if (const QString value = markedValue(job.ppd(), feature.keyword); !value.isNull())
             section.lines +=
                 {feature.text, valueText(job.ppd(), feature.keyword, value), feature.keyword};
     return section;
@@ -76,9 +72,11 @@ SummarySection layoutSection(const PrintJob &job)
 {
     SummarySection section{JobSummary::tr("Layout & Job"), {}};
     if (!job.ownTitle().isEmpty())
-        section.lines += {JobSummary::tr("Job Title"), job.ownTitle(), u"job-name"_s};
+        section.lines += {settingTitle(job.ppd(), u"job-name"_s), job.ownTitle(), u"job-name"_s};
+    JobLayout layout = job.settings().layout;
+    layout.collation = collationOf(job.settings());
     for (const LayoutSetting &setting : layoutSettings())
-        if (const QString &value = job.settings().layout.*setting.value; !value.isEmpty())
+        if (const QString &value = layout.*setting.value; !value.isEmpty())
             section.lines += {layoutTitle(setting), layoutText(setting, value), setting.option};
     return section;
 }

@@ -151,13 +151,24 @@ void PaperRows::pickRow()
     const qsizetype index = indexOfSize(m_sizes, picked);
     const PMPaper sheet = m_job.sheet().value_or(PMPaper());
     if (picked == kOwnPaper)
-        takeOwnSize(customPaper(sheet.width, sheet.height));
+        takeOwnSize(ownPaperLike(sheet));
     else if (const std::optional<PMPaper> own = parseCustomPaper(picked))
         takeOwnSize(*own);
     else if (index >= 0)
         takeChoice(m_borderless->isChecked() && !m_sizes[index].borderless.isNull()
                        ? m_sizes[index].borderless
                        : picked);
+}
+
+/// What a size of the user's own begins with.
+PMPaper PaperRows::ownPaperLike(const PMPaper &sheet) const
+{
+    const QSizeF meant = meantSize({sheet.width, sheet.height});
+    const std::optional<CustomLimits> limits = customLimits(m_job.ppd());
+    const bool isMeant =
+        !sheet.ppdName.isNull() && limits && isWithin(*limits, meant.width(), meant.height());
+    return isMeant ? customPaper(meant.width(), meant.height())
+                   : customPaper(sheet.width, sheet.height);
 }
 
 void PaperRows::takeChoice(const QString &choice)

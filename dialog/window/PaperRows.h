@@ -45,6 +45,7 @@ private:
     void showCustomSize(const std::optional<PMPaper> &paper);
     void pickRow();
     void takeChoice(const QString &choice);
+    PMPaper ownPaperLike(const PMPaper &sheet) const;
     void takeOwnSize(const PMPaper &paper);
     void chooseBorderless(bool borderless);
     void useCustomSize();

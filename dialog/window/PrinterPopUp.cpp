@@ -87,6 +87,12 @@ void PrinterPopUp::setDestinations(const QList<Destination> &destinations)
     tellState();
 }
 
+void PrinterPopUp::refreshPresets()
+{
+    if (!m_destinations.isEmpty())
+        setDestinations(withInstances(m_destinations));
+}
+
 void PrinterPopUp::setQueuedJobs(int count)
 {
     m_queuedJobs = count;

@@ -34,6 +34,9 @@ public:
 
     void setDestinations(const QList<Destination> &destinations);
 
+    /// Shows the presets that the user has by now, without waiting for the server's next list.
+    void refreshPresets();
+
     /// How many jobs the queue of the printer that is open has.
     void setQueuedJobs(int count);
 

@@ -2,11 +2,13 @@
 
 #include "dialog/window/SearchModel.h"
 #include "platform/toolkit/AccessibleName.h"
+#include "platform/toolkit/PlainLabel.h"
 
 #include <QtGui/QKeyEvent>
 #include <QtGui/QScreen>
 #include <QtWidgets/QAbstractItemDelegate>
 #include <QtWidgets/QApplication>
+#include <QtWidgets/QLabel>
 #include <QtWidgets/QLineEdit>
 #include <QtWidgets/QListView>
 #include <QtWidgets/QVBoxLayout>
@@ -41,7 +43,8 @@ SearchList::SearchList(QAbstractItemModel *rows, QAbstractItemDelegate *delegate
     : QFrame(parent, Qt::Popup),
       m_found(new SearchModel(this)),
       m_words(new QLineEdit(this)),
-      m_list(new QListView(this))
+      m_list(new QListView(this)),
+      m_nothing(newPlainLabel(tr("Nothing was found."), this))
 {
     setObjectName(QStringLiteral("searchList"));
     setFrameShape(QFrame::StyledPanel);
@@ -59,10 +62,15 @@ SearchList::SearchList(QAbstractItemModel *rows, QAbstractItemDelegate *delegate
     m_list->setItemDelegate(delegate);
     m_list->setModel(m_found);
     giveAccessibleName(m_list, tr("What was found"));
+    m_nothing->setObjectName(QStringLiteral("searchNothing"));
+    m_nothing->setAlignment(Qt::AlignLeft | Qt::AlignTop);
+    m_nothing->setMargin(kSearchMargin);
+    m_nothing->hide();
     auto *layout = new QVBoxLayout(this);
     layout->setContentsMargins(kSearchMargin, kSearchMargin, kSearchMargin, kSearchMargin);
     layout->addWidget(m_words);
     layout->addWidget(m_list, 1);
+    layout->addWidget(m_nothing, 1);
     setFocusProxy(m_words);
     connect(m_words, &QLineEdit::textChanged, this, &SearchList::search);
     connect(m_list, &QListView::clicked, this, [this](const QModelIndex &row) {
@@ -94,6 +102,18 @@ void SearchList::search(const QString &words)
         ++row;
     m_list->setCurrentIndex(m_found->index(row, 0));
     m_list->scrollToTop();
+    tellWhetherFound();
+}
+
+/// The words have the focus: what is read of them says it, too.
+void SearchList::tellWhetherFound()
+{
+    const bool isFound = m_found->rowCount() > 0;
+    if (isFound == m_nothing->isHidden())
+        return;
+    m_list->setVisible(isFound);
+    m_nothing->setHidden(isFound);
+    giveAccessibleText(m_words, isFound ? QString() : m_nothing->text());
 }
 
 void SearchList::pickCurrent()

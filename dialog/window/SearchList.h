@@ -4,14 +4,15 @@
 
 class QAbstractItemDelegate;
 class QAbstractItemModel;
+class QLabel;
 class QLineEdit;
 class QListView;
 class SearchModel;
 
 /// A list in a window of its own that shows the rows in which all typed words are found, in their
 /// titles or details. Arrow keys move in the list while the words are being typed, Return or a
-/// click picks, Escape closes. Rows that
-/// cannot be picked are headings, and are no finds. The rows must be of one height.
+/// click picks, Escape closes. Rows that cannot be picked are headings, and are no finds. Where
+/// nothing is found a line says so. The rows must be of one height.
 class SearchList : public QFrame
 {
     Q_OBJECT
@@ -35,10 +36,12 @@ protected:
 
 private:
     void search(const QString &words);
+    void tellWhetherFound();
     void pickCurrent();
     bool takeKey(QEvent *event, int key);
 
     SearchModel *m_found;
     QLineEdit *m_words;
     QListView *m_list;
+    QLabel *m_nothing; ///< in place of the list
 };

@@ -19,6 +19,7 @@ enum class FaultKind {
     Refused,       ///< the server answered no
     NeedsPassword, ///< the server asks for a password, and was given none, or a wrong one
     Untrusted,     ///< the server shows another certificate than before
+    Exchanged,     ///< the queue has another PPD by now than the job was made for
     Unsettled,     ///< the job may have been printed or not; the server does not tell
 };
 

@@ -23,6 +23,10 @@
         <source>%1: &quot;%2&quot; would be printed in place of &quot;%3&quot;.</source>
         <translation>%1: „%2“ würde anstelle von „%3“ gedruckt.</translation>
     </message>
+    <message>
+        <source>%1 is gone (was %2)</source>
+        <translation>„%1“ gibt es nicht mehr (bisher „%2“)</translation>
+    </message>
 </context>
 <context>
     <name>CheckCommand</name>
@@ -448,6 +452,22 @@ Umschalt+F1 oder das Kontextmenü sagt, warum.</translation>
     <message>
         <source>Job %1 was cancelled.</source>
         <translation>Auftrag %1 wurde abgebrochen.</translation>
+    </message>
+    <message>
+        <source>What is shown are the former settings.</source>
+        <translation>Angezeigt werden noch die bisherigen Einstellungen.</translation>
+    </message>
+    <message>
+        <source>Reload</source>
+        <translation>Neu laden</translation>
+    </message>
+    <message>
+        <source>Your settings are as they were.</source>
+        <translation>Ihre Einstellungen sind unverändert.</translation>
+    </message>
+    <message>
+        <source>Look at the settings before you print.</source>
+        <translation>Prüfen Sie die Einstellungen, bevor Sie drucken.</translation>
     </message>
 </context>
 <context>
@@ -1223,22 +1243,6 @@ Umschalt+F1 oder das Kontextmenü sagt, warum.</translation>
         <translation>Seite einrichten</translation>
     </message>
     <message>
-        <source>Paper in the Printer</source>
-        <translation>Papier im Drucker</translation>
-    </message>
-    <message>
-        <source>Document Page</source>
-        <translation>Seite des Dokuments</translation>
-    </message>
-    <message>
-        <source>Scaling</source>
-        <translation>Skalierung</translation>
-    </message>
-    <message>
-        <source>Orientation</source>
-        <translation>Ausrichtung</translation>
-    </message>
-    <message>
         <source>Landscape</source>
         <translation>Querformat</translation>
     </message>
@@ -1247,20 +1251,8 @@ Umschalt+F1 oder das Kontextmenü sagt, warum.</translation>
         <translation>Hochformat</translation>
     </message>
     <message>
-        <source>Copies</source>
-        <translation>Exemplare</translation>
-    </message>
-    <message>
-        <source>Pages</source>
-        <translation>Seiten</translation>
-    </message>
-    <message>
         <source>All</source>
         <translation>Alle</translation>
-    </message>
-    <message>
-        <source>Color Management</source>
-        <translation>Farbverwaltung</translation>
     </message>
     <message>
         <source>By the Printer</source>
@@ -1273,10 +1265,6 @@ Umschalt+F1 oder das Kontextmenü sagt, warum.</translation>
     <message>
         <source>Layout &amp; Job</source>
         <translation>Layout &amp; Auftrag</translation>
-    </message>
-    <message>
-        <source>Job Title</source>
-        <translation>Auftragstitel</translation>
     </message>
     <message>
         <source>Also Sent</source>
@@ -2757,6 +2745,94 @@ Umschalt+F1 oder das Kontextmenü sagt, warum.</translation>
         <source>Staple</source>
         <translation>Heften</translation>
     </message>
+    <message>
+        <source>Fast Grayscale</source>
+        <translation>Graustufen, schnell</translation>
+    </message>
+    <message>
+        <source>Grayscale</source>
+        <translation>Graustufen</translation>
+    </message>
+    <message>
+        <source>Color</source>
+        <translation>Farbe</translation>
+    </message>
+    <message>
+        <source>Draft</source>
+        <translation>Entwurf</translation>
+    </message>
+    <message>
+        <source>Normal</source>
+        <translation>Normal</translation>
+    </message>
+    <message>
+        <source>High</source>
+        <translation>Hoch</translation>
+    </message>
+    <message>
+        <source>Off (1-Sided)</source>
+        <translation>Aus (einseitig)</translation>
+    </message>
+    <message>
+        <source>Long-Edge (Portrait)</source>
+        <translation>Lange Kante (Hochformat)</translation>
+    </message>
+    <message>
+        <source>Short-Edge (Landscape)</source>
+        <translation>Kurze Kante (Querformat)</translation>
+    </message>
+    <message>
+        <source>Automatic</source>
+        <translation>Automatisch</translation>
+    </message>
+    <message>
+        <source>Main</source>
+        <translation>Hauptfach</translation>
+    </message>
+    <message>
+        <source>Alternate</source>
+        <translation>Alternatives Fach</translation>
+    </message>
+    <message>
+        <source>Manual</source>
+        <translation>Manuell</translation>
+    </message>
+    <message>
+        <source>Plain Paper</source>
+        <translation>Normalpapier</translation>
+    </message>
+    <message>
+        <source>Photo Paper</source>
+        <translation>Fotopapier</translation>
+    </message>
+    <message>
+        <source>Glossy Photo Paper</source>
+        <translation>Fotopapier, glänzend</translation>
+    </message>
+    <message>
+        <source>Matte Photo Paper</source>
+        <translation>Fotopapier, matt</translation>
+    </message>
+    <message>
+        <source>Envelope</source>
+        <translation>Umschlag</translation>
+    </message>
+    <message>
+        <source>Labels</source>
+        <translation>Etiketten</translation>
+    </message>
+    <message>
+        <source>Face Down</source>
+        <translation>Druckseite unten</translation>
+    </message>
+    <message>
+        <source>Face Up</source>
+        <translation>Druckseite oben</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>Keine</translation>
+    </message>
 </context>
 <context>
     <name>SummaryPart</name>
@@ -2889,6 +2965,10 @@ Umschalt+F1 oder das Kontextmenü sagt, warum.</translation>
     <message>
         <source>What was found</source>
         <translation>Gefundenes</translation>
+    </message>
+    <message>
+        <source>Nothing was found.</source>
+        <translation>Nichts gefunden.</translation>
     </message>
 </context>
 <context>
@@ -3067,6 +3147,10 @@ Umschalt+F1 oder das Kontextmenü sagt, warum.</translation>
         <source>The print server %1 shows another certificate than before, and may be another server: nothing was sent. The one before is in %2.</source>
         <translation>Der Druckserver %1 zeigt ein anderes Zertifikat als bisher und ist vielleicht ein anderer Server: Es wurde nichts gesendet. Das bisherige steht in %2.</translation>
     </message>
+    <message>
+        <source>The queue %1 was set up anew on the print server: it has another PPD, or other defaults.</source>
+        <translation>Die Warteschlange %1 wurde auf dem Druckserver neu eingerichtet: Sie hat eine andere PPD-Datei oder andere Standardwerte.</translation>
+    </message>
 </context>
 <context>
     <name>SettingRequests</name>
@@ -3124,6 +3208,41 @@ Umschalt+F1 oder das Kontextmenü sagt, warum.</translation>
     </message>
 </context>
 <context>
+    <name>SettingTitle</name>
+    <message>
+        <source>Paper in the Printer</source>
+        <translation>Papier im Drucker</translation>
+    </message>
+    <message>
+        <source>Document Page</source>
+        <translation>Seite des Dokuments</translation>
+    </message>
+    <message>
+        <source>Scaling</source>
+        <translation>Skalierung</translation>
+    </message>
+    <message>
+        <source>Orientation</source>
+        <translation>Ausrichtung</translation>
+    </message>
+    <message>
+        <source>Copies</source>
+        <translation>Exemplare</translation>
+    </message>
+    <message>
+        <source>Pages</source>
+        <translation>Seiten</translation>
+    </message>
+    <message>
+        <source>Color Management</source>
+        <translation>Farbverwaltung</translation>
+    </message>
+    <message>
+        <source>Job Title</source>
+        <translation>Auftragstitel</translation>
+    </message>
+</context>
+<context>
     <name>SummaryPane</name>
     <message>
         <source>%1: %2</source>
@@ -3150,6 +3269,13 @@ Umschalt+F1 oder das Kontextmenü sagt, warum.</translation>
     <message>
         <source>Saved for this printer: %1</source>
         <translation>Für diesen Drucker gespeichert: %1</translation>
+    </message>
+</context>
+<context>
+    <name>KeptSettings</name>
+    <message>
+        <source>other changes: %1</source>
+        <translation>weitere Änderungen: %1</translation>
     </message>
 </context>
 </TS>

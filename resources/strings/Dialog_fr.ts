@@ -23,6 +23,10 @@
         <source>%1: &quot;%2&quot; would be printed in place of &quot;%3&quot;.</source>
         <translation>%1 : « %2 » serait imprimé au lieu de « %3 ».</translation>
     </message>
+    <message>
+        <source>%1 is gone (was %2)</source>
+        <translation>« %1 » n’existe plus (auparavant « %2 »)</translation>
+    </message>
 </context>
 <context>
     <name>CheckCommand</name>
@@ -449,6 +453,22 @@ Maj+F1 ou le menu contextuel dit pourquoi.</translation>
         <source>Job %1 was cancelled.</source>
         <translation>Le travail %1 a été annulé.</translation>
     </message>
+    <message>
+        <source>What is shown are the former settings.</source>
+        <translation>Les réglages affichés sont encore les anciens.</translation>
+    </message>
+    <message>
+        <source>Reload</source>
+        <translation>Recharger</translation>
+    </message>
+    <message>
+        <source>Your settings are as they were.</source>
+        <translation>Vos réglages sont inchangés.</translation>
+    </message>
+    <message>
+        <source>Look at the settings before you print.</source>
+        <translation>Vérifiez les réglages avant d’imprimer.</translation>
+    </message>
 </context>
 <context>
     <name>DialogTabs</name>
@@ -854,7 +874,7 @@ Maj+F1 ou le menu contextuel dit pourquoi.</translation>
     </message>
     <message>
         <source>No border</source>
-        <translation>Sans bordure</translation>
+        <translation>Sans cadre</translation>
     </message>
     <message>
         <source>Thin line</source>
@@ -994,7 +1014,7 @@ Maj+F1 ou le menu contextuel dit pourquoi.</translation>
     </message>
     <message>
         <source>Border</source>
-        <translation>Bordure</translation>
+        <translation>Cadre</translation>
     </message>
     <message>
         <source>Booklet</source>
@@ -1223,22 +1243,6 @@ Maj+F1 ou le menu contextuel dit pourquoi.</translation>
         <translation>Mise en page</translation>
     </message>
     <message>
-        <source>Paper in the Printer</source>
-        <translation>Papier dans l’imprimante</translation>
-    </message>
-    <message>
-        <source>Document Page</source>
-        <translation>Page du document</translation>
-    </message>
-    <message>
-        <source>Scaling</source>
-        <translation>Mise à l’échelle</translation>
-    </message>
-    <message>
-        <source>Orientation</source>
-        <translation>Orientation</translation>
-    </message>
-    <message>
         <source>Landscape</source>
         <translation>Paysage</translation>
     </message>
@@ -1247,20 +1251,8 @@ Maj+F1 ou le menu contextuel dit pourquoi.</translation>
         <translation>Portrait</translation>
     </message>
     <message>
-        <source>Copies</source>
-        <translation>Copies</translation>
-    </message>
-    <message>
-        <source>Pages</source>
-        <translation>Pages</translation>
-    </message>
-    <message>
         <source>All</source>
         <translation>Toutes</translation>
-    </message>
-    <message>
-        <source>Color Management</source>
-        <translation>Gestion des couleurs</translation>
     </message>
     <message>
         <source>By the Printer</source>
@@ -1273,10 +1265,6 @@ Maj+F1 ou le menu contextuel dit pourquoi.</translation>
     <message>
         <source>Layout &amp; Job</source>
         <translation>Disposition &amp; travail</translation>
-    </message>
-    <message>
-        <source>Job Title</source>
-        <translation>Titre du travail</translation>
     </message>
     <message>
         <source>Also Sent</source>
@@ -2757,6 +2745,94 @@ Maj+F1 ou le menu contextuel dit pourquoi.</translation>
         <source>Staple</source>
         <translation>Agrafage</translation>
     </message>
+    <message>
+        <source>Fast Grayscale</source>
+        <translation>Niveaux de gris, rapide</translation>
+    </message>
+    <message>
+        <source>Grayscale</source>
+        <translation>Niveaux de gris</translation>
+    </message>
+    <message>
+        <source>Color</source>
+        <translation>Couleur</translation>
+    </message>
+    <message>
+        <source>Draft</source>
+        <translation>Brouillon</translation>
+    </message>
+    <message>
+        <source>Normal</source>
+        <translation>Normale</translation>
+    </message>
+    <message>
+        <source>High</source>
+        <translation>Haute</translation>
+    </message>
+    <message>
+        <source>Off (1-Sided)</source>
+        <translation>Non (recto)</translation>
+    </message>
+    <message>
+        <source>Long-Edge (Portrait)</source>
+        <translation>Bord long (portrait)</translation>
+    </message>
+    <message>
+        <source>Short-Edge (Landscape)</source>
+        <translation>Bord court (paysage)</translation>
+    </message>
+    <message>
+        <source>Automatic</source>
+        <translation>Automatique</translation>
+    </message>
+    <message>
+        <source>Main</source>
+        <translation>Bac principal</translation>
+    </message>
+    <message>
+        <source>Alternate</source>
+        <translation>Autre bac</translation>
+    </message>
+    <message>
+        <source>Manual</source>
+        <translation>Manuelle</translation>
+    </message>
+    <message>
+        <source>Plain Paper</source>
+        <translation>Papier ordinaire</translation>
+    </message>
+    <message>
+        <source>Photo Paper</source>
+        <translation>Papier photo</translation>
+    </message>
+    <message>
+        <source>Glossy Photo Paper</source>
+        <translation>Papier photo brillant</translation>
+    </message>
+    <message>
+        <source>Matte Photo Paper</source>
+        <translation>Papier photo mat</translation>
+    </message>
+    <message>
+        <source>Envelope</source>
+        <translation>Enveloppe</translation>
+    </message>
+    <message>
+        <source>Labels</source>
+        <translation>Étiquettes</translation>
+    </message>
+    <message>
+        <source>Face Down</source>
+        <translation>Face imprimée dessous</translation>
+    </message>
+    <message>
+        <source>Face Up</source>
+        <translation>Face imprimée dessus</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>Aucune</translation>
+    </message>
 </context>
 <context>
     <name>SummaryPart</name>
@@ -2889,6 +2965,10 @@ Maj+F1 ou le menu contextuel dit pourquoi.</translation>
     <message>
         <source>What was found</source>
         <translation>Résultats</translation>
+    </message>
+    <message>
+        <source>Nothing was found.</source>
+        <translation>Aucun résultat.</translation>
     </message>
 </context>
 <context>
@@ -3067,6 +3147,10 @@ Maj+F1 ou le menu contextuel dit pourquoi.</translation>
         <source>The print server %1 shows another certificate than before, and may be another server: nothing was sent. The one before is in %2.</source>
         <translation>Le serveur d’impression %1 présente un autre certificat qu’auparavant, et peut être un autre serveur : rien n’a été envoyé. Le précédent se trouve dans %2.</translation>
     </message>
+    <message>
+        <source>The queue %1 was set up anew on the print server: it has another PPD, or other defaults.</source>
+        <translation>La file d’attente %1 a été reconfigurée sur le serveur d’impression : elle a un autre fichier PPD ou d’autres valeurs par défaut.</translation>
+    </message>
 </context>
 <context>
     <name>SettingRequests</name>
@@ -3124,6 +3208,41 @@ Maj+F1 ou le menu contextuel dit pourquoi.</translation>
     </message>
 </context>
 <context>
+    <name>SettingTitle</name>
+    <message>
+        <source>Paper in the Printer</source>
+        <translation>Papier dans l’imprimante</translation>
+    </message>
+    <message>
+        <source>Document Page</source>
+        <translation>Page du document</translation>
+    </message>
+    <message>
+        <source>Scaling</source>
+        <translation>Mise à l’échelle</translation>
+    </message>
+    <message>
+        <source>Orientation</source>
+        <translation>Orientation</translation>
+    </message>
+    <message>
+        <source>Copies</source>
+        <translation>Copies</translation>
+    </message>
+    <message>
+        <source>Pages</source>
+        <translation>Pages</translation>
+    </message>
+    <message>
+        <source>Color Management</source>
+        <translation>Gestion des couleurs</translation>
+    </message>
+    <message>
+        <source>Job Title</source>
+        <translation>Titre du travail</translation>
+    </message>
+</context>
+<context>
     <name>SummaryPane</name>
     <message>
         <source>%1: %2</source>
@@ -3150,6 +3269,13 @@ Maj+F1 ou le menu contextuel dit pourquoi.</translation>
     <message>
         <source>Saved for this printer: %1</source>
         <translation>Enregistré pour cette imprimante : %1</translation>
+    </message>
+</context>
+<context>
+    <name>KeptSettings</name>
+    <message>
+        <source>other changes: %1</source>
+        <translation>autres changements : %1</translation>
     </message>
 </context>
 </TS>

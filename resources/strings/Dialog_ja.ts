@@ -23,6 +23,10 @@
         <source>%1: &quot;%2&quot; would be printed in place of &quot;%3&quot;.</source>
         <translation>%1 は「%3」ではなく「%2」で印刷されます。</translation>
     </message>
+    <message>
+        <source>%1 is gone (was %2)</source>
+        <translation>%1 はなくなりました（これまでは「%2」）</translation>
+    </message>
 </context>
 <context>
     <name>CheckCommand</name>
@@ -448,6 +452,22 @@ Shift+F1 or the context menu tells why.</source>
     <message>
         <source>Job %1 was cancelled.</source>
         <translation>ジョブ %1 は取り消されました。</translation>
+    </message>
+    <message>
+        <source>What is shown are the former settings.</source>
+        <translation>表示されているのは変更前の設定です。</translation>
+    </message>
+    <message>
+        <source>Reload</source>
+        <translation>再読み込み</translation>
+    </message>
+    <message>
+        <source>Your settings are as they were.</source>
+        <translation>お使いの設定はそのままです。</translation>
+    </message>
+    <message>
+        <source>Look at the settings before you print.</source>
+        <translation>印刷する前に設定を確認してください。</translation>
     </message>
 </context>
 <context>
@@ -1223,22 +1243,6 @@ Shift+F1 or the context menu tells why.</source>
         <translation>ページ設定</translation>
     </message>
     <message>
-        <source>Paper in the Printer</source>
-        <translation>プリンターの用紙</translation>
-    </message>
-    <message>
-        <source>Document Page</source>
-        <translation>文書のページ</translation>
-    </message>
-    <message>
-        <source>Scaling</source>
-        <translation>拡大縮小</translation>
-    </message>
-    <message>
-        <source>Orientation</source>
-        <translation>向き</translation>
-    </message>
-    <message>
         <source>Landscape</source>
         <translation>横</translation>
     </message>
@@ -1247,20 +1251,8 @@ Shift+F1 or the context menu tells why.</source>
         <translation>縦</translation>
     </message>
     <message>
-        <source>Copies</source>
-        <translation>部数</translation>
-    </message>
-    <message>
-        <source>Pages</source>
-        <translation>ページ</translation>
-    </message>
-    <message>
         <source>All</source>
         <translation>すべて</translation>
-    </message>
-    <message>
-        <source>Color Management</source>
-        <translation>カラーマネージメント</translation>
     </message>
     <message>
         <source>By the Printer</source>
@@ -1273,10 +1265,6 @@ Shift+F1 or the context menu tells why.</source>
     <message>
         <source>Layout &amp; Job</source>
         <translation>レイアウト &amp; ジョブ</translation>
-    </message>
-    <message>
-        <source>Job Title</source>
-        <translation>ジョブのタイトル</translation>
     </message>
     <message>
         <source>Also Sent</source>
@@ -2757,6 +2745,94 @@ Shift+F1 or the context menu tells why.</source>
         <source>Staple</source>
         <translation>ステープル</translation>
     </message>
+    <message>
+        <source>Fast Grayscale</source>
+        <translation>グレースケール（高速）</translation>
+    </message>
+    <message>
+        <source>Grayscale</source>
+        <translation>グレースケール</translation>
+    </message>
+    <message>
+        <source>Color</source>
+        <translation>カラー</translation>
+    </message>
+    <message>
+        <source>Draft</source>
+        <translation>下書き</translation>
+    </message>
+    <message>
+        <source>Normal</source>
+        <translation>標準</translation>
+    </message>
+    <message>
+        <source>High</source>
+        <translation>高品質</translation>
+    </message>
+    <message>
+        <source>Off (1-Sided)</source>
+        <translation>オフ（片面）</translation>
+    </message>
+    <message>
+        <source>Long-Edge (Portrait)</source>
+        <translation>長辺とじ（縦）</translation>
+    </message>
+    <message>
+        <source>Short-Edge (Landscape)</source>
+        <translation>短辺とじ（横）</translation>
+    </message>
+    <message>
+        <source>Automatic</source>
+        <translation>自動</translation>
+    </message>
+    <message>
+        <source>Main</source>
+        <translation>メイントレイ</translation>
+    </message>
+    <message>
+        <source>Alternate</source>
+        <translation>代替トレイ</translation>
+    </message>
+    <message>
+        <source>Manual</source>
+        <translation>手差し</translation>
+    </message>
+    <message>
+        <source>Plain Paper</source>
+        <translation>普通紙</translation>
+    </message>
+    <message>
+        <source>Photo Paper</source>
+        <translation>写真用紙</translation>
+    </message>
+    <message>
+        <source>Glossy Photo Paper</source>
+        <translation>光沢写真用紙</translation>
+    </message>
+    <message>
+        <source>Matte Photo Paper</source>
+        <translation>マット写真用紙</translation>
+    </message>
+    <message>
+        <source>Envelope</source>
+        <translation>封筒</translation>
+    </message>
+    <message>
+        <source>Labels</source>
+        <translation>ラベル紙</translation>
+    </message>
+    <message>
+        <source>Face Down</source>
+        <translation>印刷面を下</translation>
+    </message>
+    <message>
+        <source>Face Up</source>
+        <translation>印刷面を上</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>なし</translation>
+    </message>
 </context>
 <context>
     <name>SummaryPart</name>
@@ -2889,6 +2965,10 @@ Shift+F1 or the context menu tells why.</source>
     <message>
         <source>What was found</source>
         <translation>検索結果</translation>
+    </message>
+    <message>
+        <source>Nothing was found.</source>
+        <translation>見つかりませんでした。</translation>
     </message>
 </context>
 <context>
@@ -3067,6 +3147,10 @@ Shift+F1 or the context menu tells why.</source>
         <source>The print server %1 shows another certificate than before, and may be another server: nothing was sent. The one before is in %2.</source>
         <translation>プリントサーバー %1 の証明書が以前と異なります。別のサーバーのおそれがあるため、何も送信されませんでした。以前の証明書は %2 にあります。</translation>
     </message>
+    <message>
+        <source>The queue %1 was set up anew on the print server: it has another PPD, or other defaults.</source>
+        <translation>プリントサーバーでキュー %1 の設定が変更されました。PPD またはその既定値が以前と異なります。</translation>
+    </message>
 </context>
 <context>
     <name>SettingRequests</name>
@@ -3124,6 +3208,41 @@ Shift+F1 or the context menu tells why.</source>
     </message>
 </context>
 <context>
+    <name>SettingTitle</name>
+    <message>
+        <source>Paper in the Printer</source>
+        <translation>プリンターの用紙</translation>
+    </message>
+    <message>
+        <source>Document Page</source>
+        <translation>文書のページ</translation>
+    </message>
+    <message>
+        <source>Scaling</source>
+        <translation>拡大縮小</translation>
+    </message>
+    <message>
+        <source>Orientation</source>
+        <translation>向き</translation>
+    </message>
+    <message>
+        <source>Copies</source>
+        <translation>部数</translation>
+    </message>
+    <message>
+        <source>Pages</source>
+        <translation>ページ</translation>
+    </message>
+    <message>
+        <source>Color Management</source>
+        <translation>カラーマネージメント</translation>
+    </message>
+    <message>
+        <source>Job Title</source>
+        <translation>ジョブのタイトル</translation>
+    </message>
+</context>
+<context>
     <name>SummaryPane</name>
     <message>
         <source>%1: %2</source>
@@ -3150,6 +3269,13 @@ Shift+F1 or the context menu tells why.</source>
     <message>
         <source>Saved for this printer: %1</source>
         <translation>このプリンター用に保存された設定: %1</translation>
+    </message>
+</context>
+<context>
+    <name>KeptSettings</name>
+    <message>
+        <source>other changes: %1</source>
+        <translation>ほかの変更: %1 件</translation>
     </message>
 </context>
 </TS>

@@ -42,6 +42,71 @@ TEST_F(Command, AChoiceArrivesInTheJobAndInThePrinter)
     EXPECT_FALSE(printed().contains("%% VKMediaType=Plain"));
 }
 
+TEST_F(Command, AJobHasTheNameThatTheServerHasForTheQueue)
+{
+    for (const QStringList &how : {QStringList(), QStringList{u"--each"_s, pdf(u"b.pdf"_s)}}) {
+        const ProgramRun run = runProgram(
+            QStringList{u"--no-dialog"_s, u"-h"_s, server().address(), u"-d"_s, u"PHOTO"_s, pdf()} +
+            how);
+        EXPECT_EQ(run.status, 0) << run.errors.toStdString();
+        EXPECT_TRUE(run.output.startsWith(u"request id is photo-"_s)) << run.output.toStdString();
+        EXPECT_FALSE(run.output.contains(u"PHOTO"_s)) << run.output.toStdString();
+    }
+}
+
+/// A quality as every printer has it.
+struct QualityCase
+{
+    const char *behaviour;
+    QStringList options;
+    QString quality; ///< in the job; null: it is refused
+    QString sentence;
+};
+
+class CommandWithAQuality : public Command, public testing::WithParamInterface<QualityCase>
+{};
+
+TEST_P(CommandWithAQuality, TakesTheOneThatGoesWithTheMedium)
+{
+    QStringList options;
+    for (const QString &option : GetParam().options)
+        options += {u"-o"_s, option};
+    const ProgramRun run = print(options);
+    EXPECT_EQ(run.errors, GetParam().sentence);
+    EXPECT_EQ(run.status, GetParam().quality.isNull() ? 2 : 0);
+    const QString sent =
+        newJobs().isEmpty()
+            ? QString()
+            : server().jobAttributes(u"photo"_s, newJobs()[0]).value(u"VKResolution"_s);
+    EXPECT_EQ(sent, GetParam().quality);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Table, CommandWithAQuality,
+    testing::Values(
+        QualityCase{"OfPlainPaper", {u"print-quality=3"_s}, u"PlainFast"_s, {}},
+        QualityCase{
+            "OfPhotoPaper", {u"print-quality=5"_s, u"VKMediaType=Glossy"_s}, u"Photo"_s, {}},
+        QualityCase{"OfPhotoPaperInTheOtherOrder",
+                    {u"VKMediaType=Glossy"_s, u"print-quality=5"_s},
+                    u"Photo"_s,
+                    {}},
+        QualityCase{"OfSeveral",
+                    {u"print-quality=5"_s},
+                    {},
+                    u"velkaro-print: print-quality=5 stands for several choices of this printer. "
+                    "It can be: VKResolution=High, VKResolution=Best.\n"_s}),
+    CaseName());
+
+TEST_F(Command, ASocketThatIsNotThereIsNamed)
+{
+    const QString socket = inFolder(u"no-socket"_s);
+    const ProgramRun run =
+        runProgram({u"--no-dialog"_s, u"-h"_s, socket, u"-d"_s, u"photo"_s, pdf()});
+    EXPECT_EQ(run.status, 6);
+    EXPECT_EQ(run.errors, u"velkaro-print: The print server %1 cannot be reached.\n"_s.arg(socket));
+}
+
 const QString kNoteOnSides = u"velkaro-print: With several pages on a sheet, \"Pages\" and \"Even "
                              "and Odd\" count the printed sides.\n"_s;
 

@@ -1,10 +1,15 @@
 // The printers of a real server: listed, chosen, and what is said of them.
+#include "dialog/printing/Presets.h"
 #include "dialog/window/PrinterWatch.h"
 #include "platform/toolkit/PlainText.h"
 #include "tests/endtoend/DialogEndToEndFixture.h"
 #include "tests/support/PlainTextWalk.h"
 #include "tests/support/TrapFolder.h"
 
+#include <QtCore/QTimer>
+#include <QtGui/QAction>
+#include <QtWidgets/QApplication>
+#include <QtWidgets/QDialog>
 #include <QtWidgets/QLabel>
 
 using namespace Qt::StringLiterals;
@@ -107,6 +112,30 @@ TEST_F(Dialog, ListsThePrintersAndTakesAnotherOne)
     EXPECT_EQ(window->state(), DialogWindow::State::Ready);
     EXPECT_EQ(window->job().source().queue.queue, u"home"_s);
     EXPECT_TRUE(part<PopUpButton>(*window, "mediaTypePopup")->isVisible());
+}
+
+TEST_F(Dialog, ListsThePresetsOfAPrinterAsTheyAreNow)
+{
+    DialogWishes line = lineFor(server().address(), u"photo"_s);
+    ASSERT_TRUE(savePreset(open(line)->job(), u"Holiday"_s));
+    line.instance = u"Holiday"_s;
+    const auto window = open(line);
+    const auto *printers = part<PopUpButton>(*window, "printerPopup");
+    const auto isListed = [&] {
+        return printers->indexOfRepresentedObject(u"photo/Holiday"_s) >= 0 &&
+               printers->indexOfRepresentedObject(u"photo"_s) >= 0;
+    };
+    ASSERT_TRUE(QTest::qWaitFor(isListed, kTimeout));
+    QTimer::singleShot(0, window.get(), [] {
+        for (auto *button : QApplication::activeModalWidget()->findChildren<QAbstractButton *>())
+            if (button->text().remove(u'&') == u"Delete"_s)
+                return QTest::mouseClick(button, Qt::LeftButton);
+        static_cast<QDialog *>(QApplication::activeModalWidget())->reject();
+    });
+    part<QAction>(*window, "deletePreset")->trigger();
+    EXPECT_EQ(printers->indexOfRepresentedObject(u"photo/Holiday"_s), -1) << "before the next list";
+    waitWhile(*window, DialogWindow::State::Searching);
+    EXPECT_EQ(printers->selectedObject(), u"photo"_s);
 }
 
 TEST_F(Dialog, ShowsWhatAServerSaysAsItStands)

@@ -173,13 +173,12 @@ INSTANTIATE_TEST_SUITE_P(
                     Moment{"WhileTheDialogSearches", "GET", true, 1, "", "", {kGetPPD}},
                     Moment{"WhileTheJobIsSent", "Send-Document", false, 1, "",
                            "velkaro-print: Printing was cancelled.\n",
-                           QStringList{kGetPPD} + creatingJob({u"Send-Document"_s})},
+                           printingToPhoto({u"Send-Document"_s})},
                     Moment{"WhenTheJobIsAccepted", "Get-Job-Attributes", false, 0,
                            "request id is photo-7 (1 file(s))\n",
                            "velkaro-print: Whether the server keeps all settings of job 7 is not "
                            "known: its account of the job cannot be read.\n",
-                           QStringList{kGetPPD} +
-                               creatingJob({u"Send-Document"_s, u"Get-Job-Attributes"_s})}),
+                           printingToPhoto({u"Send-Document"_s, u"Get-Job-Attributes"_s})}),
     [](const auto &row) { return std::string(row.param.name); });
 
 TEST_F(SignalAt, ForTheSecondTimeEndsTheProgramAtOnce)

@@ -66,6 +66,14 @@ QStringList creatingJob(const QStringList &afterwards)
            afterwards;
 }
 
+QStringList printingToPhoto(const QStringList &afterwards)
+{
+    QStringList requests = creatingJob(afterwards);
+    const QString ppd = u"GET /printers/photo.ppd"_s;
+    requests.insert(requests.indexOf(u"Create-Job"_s), ppd);
+    return QStringList{ppd} + requests;
+}
+
 QString ScriptedServer::address() const
 {
     return u"127.0.0.1:%1"_s.arg(m_port);

@@ -25,6 +25,10 @@ using Script = QList<Rule>;
 /// The names of the requests that create a job, and of those that follow.
 QStringList creatingJob(const QStringList &afterwards = {});
 
+/// The same of the program, which prints to the queue "photo": it wants to know the PPD first, and
+/// once more right before the job is created.
+QStringList printingToPhoto(const QStringList &afterwards = {});
+
 /// A print server on a free port of the loopback that answers by script, and well where the script
 /// says nothing (goodAnswer()). It ends with the object, whatever its connections are doing; it
 /// serves no more than 100 connections, each for no longer than a minute.

@@ -57,7 +57,7 @@ INSTANTIATE_TEST_SUITE_P(
                     0,
                     "request id is photo-7 (1 file(s))\n",
                     "",
-                    QStringList{kGet} + creatingJob({u"Send-Document"_s, u"Get-Job-Attributes"_s})},
+                    printingToPhoto({u"Send-Document"_s, u"Get-Job-Attributes"_s})},
         ProgramCase{"IsRedirected",
                     {{"GET", answerWith(httpAnswer("301 Moved Permanently",
                                                    "text/plain\r\nLocation: /other", "away"))}},
@@ -86,7 +86,7 @@ INSTANTIATE_TEST_SUITE_P(
             "",
             "velkaro-print: Nothing was printed on photo: The print server %1 reports a fault: "
             "Disk full [31m<b>now</b>.\n",
-            QStringList{kGet} + creatingJob()},
+            printingToPhoto()},
         ProgramCase{
             "GetsAJobWithANegativeNumber",
             {{"Create-Job",
@@ -97,7 +97,7 @@ INSTANTIATE_TEST_SUITE_P(
             "velkaro-print: Nothing was printed on photo: The answer of the print server %1 cannot "
             "be "
             "understood.\n",
-            QStringList{kGet} + creatingJob()},
+            printingToPhoto()},
         ProgramCase{"GetsNestedCollectionsForTheAcceptedJob",
                     {{"Get-Job-Attributes",
                       answerIpp(IppBytes().group(IPP_TAG_JOB).nested("x", 9000).ended())}},
@@ -105,8 +105,7 @@ INSTANTIATE_TEST_SUITE_P(
                     "request id is photo-7 (1 file(s))\n",
                     "velkaro-print: Whether the server keeps all settings of job 7 is not known: "
                     "its account of the job cannot be read.\n",
-                    QStringList{kGet} +
-                        creatingJob({u"Send-Document"_s, u"Get-Job-Attributes"_s})}),
+                    printingToPhoto({u"Send-Document"_s, u"Get-Job-Attributes"_s})}),
     CaseName());
 
 } // namespace

@@ -6,6 +6,7 @@
 #include "tests/built/BuiltFiles.h"
 #include "tests/dialog/cups/ServerFixture.h"
 #include "tests/scriptedserver/ScriptedServer.h"
+#include "tests/support/CaseName.h"
 #include "tests/support/Documents.h"
 #include "tests/support/QStringPrinting.h"
 
@@ -58,6 +59,58 @@ TEST_F(Server, IsGivenNamesWithoutControlCharacters)
     EXPECT_EQ(kept.value(u"job-name"_s), u"A B [2J"_s);
     EXPECT_EQ(kept.value(u"document-name-supplied"_s), u"x y .ps"_s);
 }
+
+/// How a queue is set up anew between two jobs of one connection.
+struct ExchangeCase
+{
+    const char *behaviour;
+    QStringList arguments; ///< of lpadmin
+    bool isExchanged;
+};
+
+class ServerWithAQueueThatChanges : public Server, public testing::WithParamInterface<ExchangeCase>
+{};
+
+TEST_P(ServerWithAQueueThatChanges, GetsNoJobThatWasMadeForTheFormerPPD)
+{
+    ASSERT_TRUE(s_server->addQueue(u"own"_s, samplePPD(u"velkaro-px-t900"_s)));
+    JobRequest request = job(u"own"_s);
+    // From then on the server itself tells whether it is still the same.
+    ASSERT_TRUE(QTest::qWaitFor([&] {
+        request.ppd = *fetchQueuePPD(request.server, u"own"_s, m_guard);
+        return !request.ppd->version.isNull();
+    }));
+    JobProgress progress;
+    JobSubmission submission(request.server, m_guard);
+    ASSERT_TRUE(submission.submit(request, progress));
+    ASSERT_TRUE(s_server->lpadmin(QStringList{u"-p"_s, u"own"_s} + GetParam().arguments));
+    const Result<> rehearsed = rehearseJob(request, m_guard);
+    const auto receipt = submission.submit(request, progress);
+    const qsizetype jobs = s_server->jobs(u"own"_s).size();
+    EXPECT_TRUE(s_server->lpadmin({u"-x"_s, u"own"_s}));
+    EXPECT_EQ(rehearsed.sentence(), receipt.sentence());
+    if (!GetParam().isExchanged) {
+        EXPECT_TRUE(receipt) << receipt.sentence().toStdString();
+        return;
+    }
+    EXPECT_EQ(receipt.faultKind(), FaultKind::Exchanged);
+    EXPECT_EQ(receipt.sentence(),
+              u"Nothing was printed on own: The queue own was set up anew on the print server: it "
+              "has another PPD, or other defaults."_s);
+    EXPECT_EQ(jobs, 1);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Table, ServerWithAQueueThatChanges,
+    testing::Values(ExchangeCase{"Driver", {u"-P"_s, samplePPD(u"velkaro-mx-j710dw"_s)}, true},
+                    ExchangeCase{"Default", {u"-o"_s, u"Duplex=DuplexTumble"_s}, true},
+                    ExchangeCase{"DefaultOfTheSameLength", {u"-o"_s, u"VKBrightness=1"_s}, true},
+                    ExchangeCase{"NoPPDAnyMore", {u"-m"_s, u"raw"_s}, true},
+                    ExchangeCase{"SamePPDAnew", {u"-P"_s, samplePPD(u"velkaro-px-t900"_s)}, false},
+                    ExchangeCase{"Place", {u"-L"_s, u"Second floor"_s}, false},
+                    ExchangeCase{
+                        "DefaultOfTheQueueAlone", {u"-o"_s, u"job-sheets-default=none"_s}, false}),
+    CaseName());
 
 TEST_F(Server, RefusesAJobForAQueueThatIsClosed)
 {

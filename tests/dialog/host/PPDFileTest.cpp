@@ -6,8 +6,10 @@
 #include "tests/support/PPDSource.h"
 #include "tests/support/SmallPrinter.h"
 
+#include <QtCore/QCoreApplication>
 #include <QtCore/QFile>
 #include <QtCore/QTemporaryDir>
+#include <QtCore/QTranslator>
 
 #include <gtest/gtest.h>
 
@@ -242,6 +244,74 @@ INSTANTIATE_TEST_SUITE_P(
         NamelessCase{"ByItsKeywordWhereThereIsNothingElse", "AcmeGloss", nullptr, u"AcmeGloss"_s},
         NamelessCase{"NotWhereItHasWords", "OutputBin/Where To", "Elsewhere", u"Where To"_s}),
     CaseName());
+
+/// An option as a server describes driverless printers, or as a maker does.
+struct MadeText
+{
+    const char *behaviour;
+    const char *option;
+    const char *choice;
+    QString title; ///< with the words of LaterWords
+    QString text;  ///< likewise
+    QString englishText;
+};
+
+/// The words of the dialog in a language that has them all: behind a mark.
+class LaterWords : public QTranslator
+{
+public:
+    QString translate(const char *context, const char *source, const char *, int) const override
+    {
+        return qstrcmp(context, "StandardKeywords") == 0 ? u"~"_s + QString::fromUtf8(source)
+                                                         : QString();
+    }
+    bool isEmpty() const override { return false; }
+};
+
+class StandardOption : public testing::TestWithParam<MadeText>
+{};
+
+TEST_P(StandardOption, IsSaidInTheUsersLanguageWhereTheServerWroteIt)
+{
+    const auto texts = [] {
+        const PPDHandle ppd =
+            PPDSource().option(GetParam().option, {GetParam().choice, "Other/Else"}).open();
+        nameWhatHasNoWords(*ppd);
+        const QByteArray keyword = QByteArray(GetParam().option).split('/').constFirst();
+        const ppd_option_t *option = findOption(ppd.get(), ppdName(keyword.constData()));
+        EXPECT_EQ(ppdText(option->choices[1].text), u"Else"_s);
+        return QStringList{ppdText(option->text), ppdText(option->choices[0].text)};
+    };
+    EXPECT_EQ(texts()[1], GetParam().englishText);
+    LaterWords words;
+    QCoreApplication::installTranslator(&words);
+    const QStringList told = texts();
+    QCoreApplication::removeTranslator(&words);
+    EXPECT_EQ(told, (QStringList{GetParam().title, GetParam().text}));
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Table, StandardOption,
+    testing::Values(MadeText{"WithItsText", "InputSlot/Media Source", "Auto/Automatic",
+                             u"~Paper Source"_s, u"~Automatic"_s, u"Automatic"_s},
+                    MadeText{"WithItsOtherText", "ColorModel/Output Mode", "RGB/Color",
+                             u"~Color Mode"_s, u"~Color"_s, u"Color"_s},
+                    MadeText{"OfTwoSides", "Duplex/2-Sided Printing", "None/Off (1-Sided)",
+                             u"~Two-Sided Printing"_s, u"~Off (1-Sided)"_s, u"Off (1-Sided)"_s},
+                    MadeText{"WithoutTexts", "Duplex", "DuplexNoTumble", u"~Two-Sided Printing"_s,
+                             u"~Long-Edge (Portrait)"_s, u"Long-Edge (Portrait)"_s},
+                    MadeText{"OfAMaker", "Duplex/Beidseitig", "None/Aus", u"Beidseitig"_s, u"Aus"_s,
+                             u"Aus"_s},
+                    MadeText{"OfNoStandard", "AcmeSlot/Media Source", "Auto/Automatic",
+                             u"Media Source"_s, u"Automatic"_s, u"Automatic"_s}),
+    CaseName());
+
+TEST(PPDFile, EnglishTextsOfAMakerStayForThoseWhoReadThem)
+{
+    const PPDHandle ppd = PPDSource().option("InputSlot/Media Source", {"Main/Main Tray"}).open();
+    nameWhatHasNoWords(*ppd);
+    EXPECT_EQ(ppdText(findOption(ppd.get(), u"InputSlot"_s)->text), u"Media Source"_s);
+}
 
 TEST(PPDFile, AMissingLineBreakAtTheEndIsNoCut)
 {

@@ -2,6 +2,7 @@
 
 #include "dialog/job/Papers.h"
 #include "dialog/printing/ChangeWords.h"
+#include "dialog/printing/KeptSettings.h"
 #include "dialog/printing/PrintJob.h"
 #include "dialog/printing/RequestedSettings.h"
 #include "platform/ppd/PPDText.h"
@@ -125,7 +126,25 @@ TEST_F(SampleState, HasAPaperOfAnOwnSizeByItsSize)
     EXPECT_EQ(changeSentence(m_job.ppd(),
                              changesBetween({{u"PageSize"_s, u"A4"_s}},
                                             {{u"PageSize"_s, u"Custom.283.46x425.2"_s}}, {})),
-              u"Media Size is now 100 × 150 mm (was A4)."_s);
+              u"Paper in the Printer is now 100 × 150 mm (was A4)."_s);
+}
+
+/// By their names, without what every job says.
+QStringList keptNames(const PrintJob &job)
+{
+    QStringList names;
+    for (const JobOption &option : keptSettings(job).options)
+        if (option.name.startsWith(u"VK"_s) || isSameName(option.name, u"PageSize"_s))
+            names += option.name + u'=' + option.value;
+    return names;
+}
+
+TEST_F(SampleState, IsKeptAsFarAsSomebodyHasSettledIt)
+{
+    EXPECT_EQ(keptNames(m_job), QStringList());
+    ASSERT_TRUE(makeSettings(m_job, {{u"VKMirror"_s, u"ON"_s}, {u"VKInputSlot"_s, u"Tray1"_s}}));
+    EXPECT_EQ(keptNames(m_job), (QStringList{u"VKInputSlot=Tray1"_s, u"VKMirror=ON"_s}))
+        << "a default, too, where it was picked";
 }
 
 TEST(ChangeWords, AreThePrintersOnOneLine)

@@ -116,6 +116,47 @@ INSTANTIATE_TEST_SUITE_P(
         Standard{"AnotherName", {u"Finish"_s, u"Shiny"_s}, {{u"Finish"_s, u"Shiny"_s}}, {}}),
     CaseName());
 
+/// What a rule says of several choices, of which some are left.
+struct LeftChoices
+{
+    const char *behaviour;
+    QStringList left;
+    QList<RequestedChoice> named;
+    QString sentence;
+};
+
+class ChoiceThatIsLeft : public testing::TestWithParam<LeftChoices>
+{};
+
+TEST_P(ChoiceThatIsLeft, StandsForTheStandardValueWhereItAloneIsLeft)
+{
+    const QTemporaryDir folder;
+    const QString path = folder.filePath(u"printer.ppd"_s);
+    writeFile(path, PPDSource().option("VKInk/Ink", {"All/All", "Black/B", "Grey/G"}).text());
+    const auto opened = openPPD(path);
+    ASSERT_TRUE(opened) << opened.sentence().toStdString();
+    const NamedWishes named =
+        inPrintersNames(opened->ppd.get(), kRules, {{u"print-color-mode"_s, u"monochrome"_s}},
+                        [](QList<RequestedChoice> choices) {
+                            choices.removeIf([](const RequestedChoice &one) {
+                                return !GetParam().left.contains(one.choice);
+                            });
+                            return choices;
+                        });
+    EXPECT_EQ(named.wanted, GetParam().named);
+    EXPECT_EQ(named.state.sentence(), GetParam().sentence);
+}
+
+const QString kSeveralInks = u"print-color-mode=monochrome stands for several choices of this "
+                             "printer. It can be: VKInk=Black, VKInk=Grey."_s;
+
+INSTANTIATE_TEST_SUITE_P(
+    Table, ChoiceThatIsLeft,
+    testing::Values(LeftChoices{"One", {u"All"_s, u"Grey"_s}, {{u"VKInk"_s, u"Grey"_s}}, {}},
+                    LeftChoices{"Both", {u"Black"_s, u"Grey"_s}, {}, kSeveralInks},
+                    LeftChoices{"None", {u"All"_s}, {}, kSeveralInks}),
+    CaseName());
+
 /// A printer that has nothing of the kind does not list values for it.
 TEST(StandardName, IsNotThereWhereThePrinterHasNoChoiceForAnyValue)
 {

@@ -1,4 +1,5 @@
 #include "dialog/window/CustomSizeFields.h"
+#include "dialog/job/PaperSizes.h"
 #include "tests/endtoend/JobPrinting.h"
 
 #include <QtTest/QTest>
@@ -75,6 +76,39 @@ TEST_F(CustomSize, KeepsTheSizeWhenTheUnitChanges)
     EXPECT_EQ(word("customWidthValidation"), u"Too small: at least 2.53 inches."_s);
     chooseUnit(0);
     EXPECT_EQ(word("customWidthValidation"), u"Too small: at least 64.3 mm."_s);
+}
+
+/// What stands in the fields for a size, in both units.
+struct ShownSize
+{
+    const char *paper;
+    QSizeF points;
+    const char *millimetres;
+    const char *inches;
+};
+
+TEST_F(CustomSize, ShowsStandardSizesAsPeopleKnowThem)
+{
+    const auto shown = [this](int unit) {
+        chooseUnit(unit);
+        const auto text = [this](const char *name) {
+            return m_fields.findChild<QDoubleSpinBox *>(QLatin1String(name))->cleanText();
+        };
+        return (text("customWidth") + u" x "_s + text("customHeight")).toStdString();
+    };
+    for (const ShownSize &row : {ShownSize{"A4", {595, 842}, "210.0 x 297.0", "8.27 x 11.69"},
+                                 ShownSize{"A5", {420, 595}, "148.0 x 210.0", "5.83 x 8.27"},
+                                 ShownSize{"B5", {516, 729}, "182.0 x 257.0", "7.17 x 10.12"},
+                                 ShownSize{"Letter", {612, 792}, "215.9 x 279.4", "8.50 x 11.00"},
+                                 ShownSize{"4x6", {288, 432}, "101.6 x 152.4", "4.00 x 6.00"}}) {
+        const QSizeF meant = meantSize(row.points);
+        m_fields.setSize(meant.width(), meant.height());
+        for (int round = 0; round < 2; ++round) { // there and back again
+            EXPECT_EQ(shown(0), row.millimetres) << row.paper;
+            EXPECT_EQ(shown(1), row.inches) << row.paper;
+        }
+        EXPECT_EQ(m_fields.paperWidth(), meant.width()) << row.paper;
+    }
 }
 
 } // namespace

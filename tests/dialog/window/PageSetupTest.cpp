@@ -32,7 +32,7 @@ TEST_F(Window, TellsThatThePaperMenuHasSentItsAction)
     pick("paperPopup", u"A3"_s);
     pick("paperPopup", u"Custom"_s);
     NotificationCenter::defaultCenter().removeObserver(this);
-    EXPECT_EQ(told, (QStringList{u"A3 on A3"_s, u"Custom Size on Custom.842x1191"_s}));
+    EXPECT_EQ(told, (QStringList{u"A3 on A3"_s, u"Custom Size on Custom.841.89x1190.55"_s}));
 }
 
 TEST_F(Window, AsksForTheSizeFirstAndThenWhetherToItsEdges)

@@ -49,6 +49,27 @@ TEST_F(Presets, AreSavedChosenRenamedAndDeleted)
     EXPECT_EQ(notice(), QString());
 }
 
+TEST_F(Presets, LeaveThePartInFrontThatTheUserIsIn)
+{
+    open();
+    const auto *parts = part<QTabWidget>("parts");
+    const auto inFront = [parts] { return plainTitle(parts->tabText(parts->currentIndex())); };
+    EXPECT_EQ(inFront(), u"Print Settings"_s);
+    for (const char *name : {"setup", "layout", "summary"}) {
+        ASSERT_TRUE(m_window->showPart(QLatin1String(name)));
+        const QString title = inFront();
+        act("savePreset", Presets::name(u"Holiday"_s));
+        EXPECT_EQ(inFront(), title) << "saved";
+        act("renamePreset", Presets::name(u"Beach"_s));
+        EXPECT_EQ(inFront(), title) << "renamed";
+        choose(u"Printer's Defaults"_s);
+        EXPECT_EQ(inFront(), title) << "chosen";
+        choose(u"Beach"_s);
+        act("deletePreset", press(u"Delete"_s));
+        EXPECT_EQ(inFront(), title) << "deleted";
+    }
+}
+
 TEST_F(Presets, AreStepsThatCanBeUndone)
 {
     m_lpoptions.writeUser("Dest photo/warm VKMediaType=Glossy VKColorMatching=Vivid\n");

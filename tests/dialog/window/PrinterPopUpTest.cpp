@@ -216,6 +216,17 @@ TEST_F(Printers, ThatAreNotFoundPickNothing)
     SearchList *search = open();
     QTest::keyClicks(search->findChild<QLineEdit *>(), u"none"_s);
     EXPECT_EQ(found(search), QStringList());
+    const auto *nothing = search->findChild<QLabel *>(u"searchNothing"_s);
+    EXPECT_TRUE(nothing->isVisible());
+    EXPECT_EQ(nothing->text(), u"Nothing was found."_s);
+    EXPECT_FALSE(search->findChild<QListView *>()->isVisible());
+    auto *words = QAccessible::queryAccessibleInterface(search->findChild<QLineEdit *>());
+    EXPECT_EQ(words->text(QAccessible::Description), u"Nothing was found."_s);
+    QTest::keyClick(search->findChild<QLineEdit *>(), Qt::Key_Backspace, Qt::ControlModifier);
+    EXPECT_FALSE(nothing->isVisible());
+    EXPECT_TRUE(search->findChild<QListView *>()->isVisible());
+    EXPECT_EQ(words->text(QAccessible::Description), u"Search"_s);
+    QTest::keyClicks(search->findChild<QLineEdit *>(), u"none"_s);
     QTest::keyClick(search->findChild<QLineEdit *>(), Qt::Key_Return);
     EXPECT_FALSE(search->isVisible());
     EXPECT_EQ(m_picked, QStringList());

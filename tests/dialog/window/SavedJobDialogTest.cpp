@@ -61,9 +61,22 @@ TEST_F(SavedJobInTheDialog, IsShownAsItIsAndNothingElse)
         lines.value(lines.indexOf(u"Media Type"_s) + 1),
         ppdText(
             findChoice(findOption(m_window->job().ppd(), u"VKMediaType"_s), u"Glossy"_s)->text));
-    EXPECT_EQ(lines.value(lines.indexOf(u"copies"_s) + 1), u"3"_s);
+    EXPECT_EQ(lines.value(lines.indexOf(u"Copies"_s) + 1), u"3"_s);
     EXPECT_FALSE(part<QLineEdit>("pagesField")->isVisible());
     EXPECT_FALSE(part<QAbstractButton>("saveButton")->isVisible());
+}
+
+TEST_F(SavedJobInTheDialog, ShowsWhatDiffersFromThePrintersDefaults)
+{
+    open();
+    const QStringList whole = summary();
+    EXPECT_TRUE(whole.contains(u"Two-Sided Printing"_s));
+    QTest::mouseClick(part<QAbstractButton>("onlyDifferentButton"), Qt::LeftButton);
+    const QStringList lines = summary();
+    for (const char *title : {"Two-Sided Printing", "Paper in the Printer", "Scaling", "sides"})
+        EXPECT_FALSE(lines.contains(QLatin1String(title))) << title;
+    for (const char *title : {"Title", "Media Type", "Print Quality", "Copies"})
+        EXPECT_TRUE(lines.contains(QLatin1String(title))) << title;
 }
 
 TEST_F(SavedJobInTheDialog, WaitsForAQueue)

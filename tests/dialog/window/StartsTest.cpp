@@ -130,6 +130,7 @@ void Starts::startFirst()
     pickBest();
     answers.take();
     act("savePreset", name(u"Holiday"_s));
+    ASSERT_TRUE(m_window->showPart(u"print"_s)); // the user was in another part
     pick("mediaTypePopup", u"Inkjet"_s);
     untick("followJobs");
     printTheJob();

@@ -95,7 +95,8 @@ TEST_F(WhereFrom, TellsPaperThatOtherSettingsFollow)
     EXPECT_TRUE(of(u"Paper in the Printer"_s).at(0).endsWith(u"(Your choice)"_s));
     EXPECT_EQ(
         of(u"Paper Thickness"_s),
-        QStringList{u"Paper Thickness: Envelope (Because you chose Media Size: Envelope DL)"_s});
+        QStringList{
+            u"Paper Thickness: Envelope (Because you chose Paper in the Printer: Envelope DL)"_s});
 }
 
 TEST_F(WhereFrom, ShowsWhatDiffersFromTheDefaultsAlone)
