@@ -60,7 +60,7 @@ SummarySection ownSection(const PrintJob &job)
 SummarySection featuresSection(const PrintJob &job)
 {
     SummarySection section{JobSummary::tr("Printer Features"), {}};
-    const QList<JobOption> sent = job.options().options;
+    const QList<JobOption> sent = job.wholeOptions().options; // defaults too
     for (const PrinterFeature &feature : choosableFeatures(job))
         if (const QString value = optionValue(sent, feature.keyword); !value.isNull())
             section.lines +=
