@@ -17,6 +17,7 @@ namespace {
 
 constexpr qsizetype kLongestText = 255; // bytes: an IPP name
 constexpr auto kLandscape = "4"_L1;     // orientation-requested
+constexpr auto kCollationOption = "multiple-document-handling"_L1;
 
 bool isNameCharacter(QChar character)
 {
@@ -78,10 +79,19 @@ void putLandscape(QList<JobOption> &options, bool havePages)
         put(options, {u"pdfAutoRotate"_s, u"false"_s});
 }
 
+/// A server that is told nothing of several copies prints them page by page.
+void putCopies(QList<JobOption> &options, const HostSettings &settings)
+{
+    if (settings.copies < 2)
+        return;
+    put(options, {u"copies"_s, QString::number(settings.copies)});
+    if (optionValue(options, kCollationOption).isNull())
+        put(options, {kCollationOption, collationOf(settings)});
+}
+
 void putSettings(QList<JobOption> &options, const JobValues &values)
 {
-    if (values.settings.copies > 1)
-        put(options, {u"copies"_s, QString::number(values.settings.copies)});
+    putCopies(options, values.settings);
     if (!values.settings.pageRanges.isEmpty())
         put(options, {u"page-ranges"_s, values.settings.pageRanges});
     put(options, {u"print-scaling"_s, scalingKeyword(values.settings.scaling)});
@@ -129,6 +139,13 @@ QString fault(const JobOption &option)
 }
 
 } // namespace
+
+QString collationOf(const HostSettings &settings)
+{
+    if (settings.copies < 2 || !settings.layout.collation.isEmpty())
+        return settings.layout.collation;
+    return layoutSetting(kCollationOption)->choices.front().value;
+}
 
 bool isVendorTicketKey(const QString &key)
 {

@@ -56,12 +56,17 @@ struct JobOptions
 /// and every ticket value under a vendor key. A vendor key is one in reverse-domain form
 /// ("com.maker.thing") that is not the platform's own.
 ///
-/// Every job says how it is to be scaled: the server shrinks the pages of one that does not.
+/// Every job says how it is to be scaled: the server shrinks the pages of one that does not. A job
+/// of several copies says how they come: the server prints those of one that does not page by page.
 ///
 /// The paper is sent as `PageSize` alone, and is the sheet in the printer: the paper that the
 /// document is mapped to, where the ticket has one, else that of the page format. Beside it `media`
 /// would win in later versions of CUPS, and borderless paper would print with margins.
 JobOptions jobOptions(const JobValues &values);
+
+/// How several copies come, as the layout has it: where nobody has said it the usual way, which is
+/// the one that the dialog shows. Null for one copy of which nothing was said.
+QString collationOf(const HostSettings &settings);
 
 /// Whether the key is one of a plug-in's own values of the ticket, which travel with the job.
 bool isVendorTicketKey(const QString &key);

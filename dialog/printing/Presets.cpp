@@ -42,6 +42,13 @@ bool isSecretChoice(const PrintJob &job, const JobOption &option)
     return std::ranges::any_of(values, isSecret);
 }
 
+/// What only several copies say, as long as nobody has chosen it.
+bool isOfCopies(const PrintJob &job, const JobOption &option)
+{
+    return option.name == "multiple-document-handling"_L1 &&
+           job.settings().layout.collation.isEmpty();
+}
+
 Fault presetFault(const QString &sentence)
 {
     return {FaultKind::Request, sentence};
@@ -120,7 +127,7 @@ QList<JobOption> lastingOptions(const PrintJob &job, const QList<JobOption> &opt
 {
     QList<JobOption> lasting;
     for (const JobOption &option : options)
-        if (!isPassing(option.name) && !isSecretChoice(job, option))
+        if (!isPassing(option.name) && !isOfCopies(job, option) && !isSecretChoice(job, option))
             lasting += option;
     return lasting;
 }

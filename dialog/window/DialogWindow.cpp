@@ -3,6 +3,7 @@
 #include "dialog/job/PipeDocuments.h"
 #include "dialog/window/ButtonRow.h"
 #include "dialog/window/DialogTabs.h"
+#include "dialog/window/DimmedText.h"
 #include "dialog/window/FeaturesPane.h"
 #include "dialog/window/HostHelp.h"
 #include "dialog/window/JobHeader.h"
@@ -62,6 +63,7 @@ DialogWindow::DialogWindow(const DialogWishes &wishes, QWidget *parent)
     takeSavedJob();
     setWindowTitle(tr("Print"));
     setPixelsPerPoint(pixelsPerPoint(fontMetrics().height()));
+    keepDimmedTextReadable(*this);
     buildLayout();
     resize(kFirstSize);
     setState(State::Searching);
@@ -281,6 +283,13 @@ void DialogWindow::resizeEvent(QResizeEvent *event)
     m_notice->setMostHeight(height() / kNoticeShare);
     if (job().session() && job().session()->isRunning())
         job().session()->windowDidResize();
+}
+
+void DialogWindow::changeEvent(QEvent *event)
+{
+    QDialog::changeEvent(event);
+    if (event->type() == QEvent::PaletteChange)
+        keepDimmedTextReadable(*this);
 }
 
 void DialogWindow::done(int result)

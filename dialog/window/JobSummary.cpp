@@ -1,5 +1,6 @@
 #include "dialog/window/JobSummary.h"
 
+#include "dialog/host/PPDMarks.h"
 #include "dialog/job/FeatureTexts.h"
 #include "dialog/job/JobLayout.h"
 #include "dialog/job/JobOptions.h"
@@ -60,9 +61,8 @@ SummarySection ownSection(const PrintJob &job)
 SummarySection featuresSection(const PrintJob &job)
 {
     SummarySection section{JobSummary::tr("Printer Features"), {}};
-    const QList<JobOption> sent = job.wholeOptions().options; // defaults too
     for (const PrinterFeature &feature : choosableFeatures(job))
-        if (const QString value = optionValue(sent, feature.keyword); !value.isNull())
+        if (const QString value = markedValue(job.ppd(), feature.keyword); !value.isNull())
             section.lines +=
                 {feature.text, valueText(job.ppd(), feature.keyword, value), feature.keyword};
     return section;
@@ -73,8 +73,10 @@ SummarySection layoutSection(const PrintJob &job)
     SummarySection section{JobSummary::tr("Layout & Job"), {}};
     if (!job.ownTitle().isEmpty())
         section.lines += {settingTitle(job.ppd(), u"job-name"_s), job.ownTitle(), u"job-name"_s};
+    JobLayout layout = job.settings().layout;
+    layout.collation = collationOf(job.settings());
     for (const LayoutSetting &setting : layoutSettings())
-        if (const QString &value = job.settings().layout.*setting.value; !value.isEmpty())
+        if (const QString &value = layout.*setting.value; !value.isEmpty())
             section.lines += {layoutTitle(setting), layoutText(setting, value), setting.option};
     return section;
 }

@@ -874,7 +874,7 @@ Maj+F1 ou le menu contextuel dit pourquoi.</translation>
     </message>
     <message>
         <source>No border</source>
-        <translation>Sans bordure</translation>
+        <translation>Sans cadre</translation>
     </message>
     <message>
         <source>Thin line</source>
@@ -1014,7 +1014,7 @@ Maj+F1 ou le menu contextuel dit pourquoi.</translation>
     </message>
     <message>
         <source>Border</source>
-        <translation>Bordure</translation>
+        <translation>Cadre</translation>
     </message>
     <message>
         <source>Booklet</source>

@@ -97,6 +97,15 @@ protected:
         return titles;
     }
 
+    QStringList summary()
+    {
+        EXPECT_TRUE(m_window->showPart(u"summary"_s));
+        QStringList texts;
+        for (const auto *label : part<QWidget>(u"summaryPane"_s)->findChildren<QLabel *>())
+            texts += label->text();
+        return texts;
+    }
+
     const LpoptionsFolder m_lpoptions;
     QTemporaryDir m_folder;
     PrintServer m_server;
@@ -111,6 +120,11 @@ TEST_F(OtherQueues, ADriverlessPrinterPrintsWithAllThatItCanDo)
     open(u"driverless"_s);
     EXPECT_EQ(tabs(), (QStringList{u"Page Setup"_s, u"Printer Features"_s, u"Layout & Job"_s,
                                    u"Summary"_s}));
+    const QStringList untouched = summary();
+    for (const QString &title :
+         {u"Media Type"_s, u"Print Quality"_s, u"Color Mode"_s, u"Output Bin"_s})
+        EXPECT_TRUE(untouched.contains(title)) << untouched.join(u'|').toStdString();
+    ASSERT_TRUE(m_window->showPart(u"setup"_s));
     pick(u"paperPopup"_s, u"A5"_s);
     pick(u"DuplexPopup"_s, u"DuplexNoTumble"_s);
     ASSERT_TRUE(m_window->showPart(u"summary"_s));

@@ -100,6 +100,9 @@ INSTANTIATE_TEST_SUITE_P(
                  {u"page-ranges"_s, u"1-2"_s},
                  {u"multiple-document-handling"_s, u"separate-documents-uncollated-copies"_s}},
                 {u"page1"_s, u"page2"_s}}, // the next filter makes two of each
+        LaidOut{"CopiesOfWhichNothingIsSaid",
+                {{u"copies"_s, u"2"_s}, {u"page-ranges"_s, u"1-2"_s}},
+                {u"page1"_s, u"page2"_s, u"page1"_s, u"page2"_s}},
         LaidOut{"CopiesCopyByCopy",
                 {{u"copies"_s, u"2"_s},
                  {u"page-ranges"_s, u"1-2"_s},

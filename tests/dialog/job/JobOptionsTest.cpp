@@ -46,6 +46,7 @@ protected:
         return lines;
     }
 
+    const QString m_collated = u"multiple-document-handling=separate-documents-collated-copies"_s;
     OpenedPPD m_opened;
     JobValues m_values;
 };
@@ -69,9 +70,23 @@ TEST_F(JobOptionsOf, TheHostSettingsTravelBesideThem)
     m_values.settings.scaling = PrintScaling::Fill;
     m_values.settings.layout.pageSet = u"odd"_s;
     m_values.format.orientation = PMOrientation::Landscape;
-    EXPECT_EQ(allMade(),
-              (QStringList{u"copies=3"_s, u"page-ranges=1-2,5"_s, u"print-scaling=fill"_s,
-                           u"orientation-requested=4"_s, u"page-set=odd"_s}));
+    EXPECT_EQ(allMade(), (QStringList{u"copies=3"_s, m_collated, u"page-ranges=1-2,5"_s,
+                                      u"print-scaling=fill"_s, u"orientation-requested=4"_s,
+                                      u"page-set=odd"_s}));
+}
+
+// A server that is told nothing prints them page by page.
+TEST_F(JobOptionsOf, SeveralCopiesSayHowTheyCome)
+{
+    const QString uncollated = u"multiple-document-handling=separate-documents-uncollated-copies"_s;
+    EXPECT_EQ(made(), QStringList());
+    m_values.settings.copies = 2;
+    EXPECT_EQ(made(), (QStringList{u"copies=2"_s, m_collated}));
+    m_values.settings.layout.collation = uncollated.section(u'=', 1);
+    EXPECT_EQ(made(), (QStringList{u"copies=2"_s, uncollated}));
+    m_values.settings.layout.collation.clear();
+    m_values.saved = {{u"multiple-document-handling"_s, uncollated.section(u'=', 1)}};
+    EXPECT_EQ(made(), (QStringList{uncollated, u"copies=2"_s})) << "it was saved";
 }
 
 TEST_F(JobOptionsOf, TheTicketTravelsUnderVendorKeysOnly)
@@ -130,7 +145,7 @@ TEST_F(JobOptionsOf, SavedSettingsTravelUnlessThePPDHasThem)
                       {u"number-up"_s, u"2"_s},
                       {u"copies"_s, u"9"_s}};
     m_values.settings.copies = 2;
-    EXPECT_EQ(made(), (QStringList{u"number-up=2"_s, u"copies=2"_s}));
+    EXPECT_EQ(made(), (QStringList{u"number-up=2"_s, u"copies=2"_s, m_collated}));
 }
 
 TEST_F(JobOptionsOf, AQueueWithoutAPPDAreTheHostSettingsAlone)
@@ -138,7 +153,7 @@ TEST_F(JobOptionsOf, AQueueWithoutAPPDAreTheHostSettingsAlone)
     m_values.ppd = nullptr;
     m_values.settings.copies = 2;
     m_values.format.paper = PMPaper{u"Custom"_s, QString(), 300, 400};
-    EXPECT_EQ(made(), QStringList{u"copies=2"_s});
+    EXPECT_EQ(made(), (QStringList{u"copies=2"_s, m_collated}));
 }
 
 TEST_F(JobOptionsOf, WhatMustNotBeSentIsNamedByItsNameOrItsValue)
@@ -217,7 +232,7 @@ TEST_F(JobOptionsOfAHostilePPD, KeepTheSavedSettingsOfThoseNames)
     EXPECT_EQ(saved.settings.copies, 3);
     m_values.settings = saved.settings;
     m_values.saved = saved.others;
-    EXPECT_EQ(made(), (QStringList{u"copies=3"_s, u"job-hold-until=evening"_s}));
+    EXPECT_EQ(made(), (QStringList{u"copies=3"_s, m_collated, u"job-hold-until=evening"_s}));
 }
 
 struct Sendable

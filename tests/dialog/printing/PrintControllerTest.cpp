@@ -79,11 +79,13 @@ TEST_F(Controller, GoesTheWholeRoadToAFile)
     const Result<QStringList> written = write(job->request);
     ASSERT_TRUE(written) << written.sentence().toStdString();
     EXPECT_EQ(*written, QStringList());
-    EXPECT_EQ(readFile(m_wishes.output),
-              "Velkaro-Print-Job: 1\nTitle: letter.ps\n"
-              "Option: PageSize=A5\nOption: Duplex=None\n"
-              "Option: Finish=Shiny\nOption: Weight=Light\nOption: sides=one-sided\n"
-              "Option: copies=3\nOption: print-scaling=auto\nDocument: 5 letter.ps\n\n%!PS\n");
+    EXPECT_EQ(
+        readFile(m_wishes.output),
+        "Velkaro-Print-Job: 1\nTitle: letter.ps\n"
+        "Option: PageSize=A5\nOption: Duplex=None\n"
+        "Option: Finish=Shiny\nOption: Weight=Light\nOption: sides=one-sided\n"
+        "Option: copies=3\nOption: multiple-document-handling=separate-documents-collated-copies\n"
+        "Option: print-scaling=auto\nDocument: 5 letter.ps\n\n%!PS\n");
 }
 
 TEST_F(Controller, MakesAllSettingsAndTellsTheFirstFault)

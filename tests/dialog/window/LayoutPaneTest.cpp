@@ -86,6 +86,19 @@ TEST_F(LayoutPart, SendsWhatWasPicked)
                               "Option: notify-recipient-uri=mailto:me@example.com"}));
 }
 
+TEST_F(LayoutPart, PrintsSeveralCopiesAsItShows)
+{
+    openPart();
+    QTest::keyClick(part<NumberField>("copiesField"), Qt::Key_Up);
+    EXPECT_EQ(part<PopUpButton>("multiple-document-handlingPopup")->currentText(),
+              u"Copy by copy"_s);
+    EXPECT_TRUE(summary().join(u'|').contains(u"|Layout & Job|Several Copies|Copy by copy|"_s))
+        << summary().join(u'|').toStdString();
+    EXPECT_EQ(
+        printedLines({"Option: multiple-"}),
+        QByteArrayList{"Option: multiple-document-handling=separate-documents-collated-copies"});
+}
+
 TEST_F(LayoutPart, IsInTheSummary)
 {
     m_line.choices = {{u"number-up"_s, u"2"_s}, {u"job-sheets"_s, u"standard"_s}};
