@@ -140,14 +140,12 @@ TEST_F(SampleState, IsKeptAsFarAsSomebodyHasSettledIt)
     };
     const QString scaling = u"print-scaling=auto"_s; // every job says it
     EXPECT_EQ(kept(), QStringList{scaling});
-    ASSERT_TRUE(makeSettings(
-        m_job,
-        {{u"VKMonoColor"_s, u"Mono"_s}, {u"VKInputSlot"_s, u"Tray1"_s}, {u"copies"_s, u"2"_s}}));
+    ASSERT_TRUE(
+        makeSettings(m_job, {{u"VKMonoColor"_s, u"Mono"_s}, {u"VKInputSlot"_s, u"Tray1"_s}}));
     const SettingValues brighter{{u"VKBrightness"_s, u"3"_s}};
     origins.takePick(u"VKBrightness"_s, {}, brighter);
     const QStringList now = kept();
-    EXPECT_EQ(now.mid(0, 4),
-              (QStringList{u"VKMonoColor=Mono"_s, u"VKInputSlot=Tray1"_s, u"copies=2"_s, scaling}))
+    EXPECT_EQ(now.mid(0, 3), (QStringList{u"VKMonoColor=Mono"_s, u"VKInputSlot=Tray1"_s, scaling}))
         << "a default, too, where it was picked";
     EXPECT_EQ(now.filter(u"T2T_"_s),
               QStringList{u"com.velkaro.print.PrintSettings.T2T_Brightness=0"_s});
