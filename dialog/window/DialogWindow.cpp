@@ -20,6 +20,7 @@
 #include "platform/toolkit/PanelPoint.h"
 #include "platform/toolkit/PlainText.h"
 
+#include <QtCore/QEvent>
 #include <QtCore/QTimer>
 #include <QtGui/QShortcut>
 #include <QtWidgets/QPushButton>
