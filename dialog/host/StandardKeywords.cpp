@@ -39,6 +39,7 @@ constexpr std::array kWords{
          nullptr},
     Word{"Duplex", "DuplexTumble", QT_TRANSLATE_NOOP("StandardKeywords", "Short-Edge (Landscape)"),
          nullptr},
+    Word{"General", nullptr, QT_TRANSLATE_NOOP("StandardKeywords", "General"), nullptr}, // a group
     Word{"FoldType", nullptr, QT_TRANSLATE_NOOP("StandardKeywords", "Fold"), nullptr},
     Word{"InputSlot", nullptr, QT_TRANSLATE_NOOP("StandardKeywords", "Paper Source"),
          "Media Source"},
@@ -106,8 +107,8 @@ QString wordsFor(const Word &word, const char *text, bool hasNoWords)
     return hasNoWords || (isMade && isOtherLanguage) ? words : QString();
 }
 
-/// Names an option (a null choice), or one of its choices; `said` has what the PPD says of them in
-/// no language (null: nothing).
+/// Names a group or an option (a null choice), or one of its choices; `said` has what the PPD says
+/// of them in no language (null: nothing).
 template <typename Named>
 void nameOne(ppd_file_t &ppd, Named &named, const char *choice, std::span<const Word> words,
              const char *name, const QByteArray &said)
@@ -136,7 +137,8 @@ void nameChoices(ppd_file_t &ppd, ppd_option_t &option, std::span<const Word> wo
 void nameWhatHasNoWords(ppd_file_t &ppd)
 {
     const bool speaksNoLanguage = ppdFindAttr(&ppd, kNoLanguage, nullptr);
-    for (ppd_group_t &group : std::span(ppd.groups, static_cast<std::size_t>(ppd.num_groups)))
+    for (ppd_group_t &group : std::span(ppd.groups, static_cast<std::size_t>(ppd.num_groups))) {
+        nameOne(ppd, group, nullptr, wordsOf(group.name), group.name, {});
         for (ppd_option_t &option :
              std::span(group.options, static_cast<std::size_t>(group.num_options))) {
             const std::span<const Word> words = wordsOf(option.keyword);
@@ -144,4 +146,5 @@ void nameWhatHasNoWords(ppd_file_t &ppd)
             if (speaksNoLanguage || !words.empty())
                 nameChoices(ppd, option, words, speaksNoLanguage);
         }
+    }
 }

@@ -11,13 +11,27 @@
 #include <QtCore/QCoreApplication>
 #include <QtCore/QHash>
 
+#include <algorithm>
+
 namespace {
 
 constexpr qsizetype kMostLosses = 6; // in one sentence: another driver has everything otherwise
 
-/// What a default says may be somebody's choice as well.
-bool isSettled(const PrintJob &job, const JobOption &option, const QList<JobOption> &changed)
+/// Whether the option only says once more, by a standard name, what a choice of the printer says.
+bool isTwin(const JobOption &option, const QList<AttributeRule> &rules)
 {
+    return std::ranges::find(rules, option.name, &AttributeRule::attribute) != rules.end();
+}
+
+/// Whether somebody has settled it, and not the printer by its defaults; of a default, too, where
+/// it was picked.
+bool isSettled(const PrintJob &job, const SettingOrigins &origins, const JobOption &option,
+               const QList<JobOption> &changed)
+{
+    const QString ofTicket =
+        job.session() ? job.session()->keywordOfTicketKey(option.name) : QString();
+    if (!ofTicket.isNull())
+        return origins.originOf(ofTicket).kind != SettingOrigin::Kind::Printer;
     return changed.contains(option) || job.isChosen({option.name, option.value});
 }
 
@@ -35,13 +49,15 @@ QString lossWords(const SettingInWords &was, ppd_file_t *ppd, const QHash<QStrin
 
 } // namespace
 
-KeptSettings keptSettings(const PrintJob &job)
+KeptSettings keptSettings(const PrintJob &job, const SettingOrigins &origins)
 {
     KeptSettings kept;
     const QList<JobOption> changed = job.options().options;
     kept.options = job.wholeOptions().options;
-    kept.options.removeIf(
-        [&](const JobOption &option) { return !isSettled(job, option, changed); });
+    const QList<AttributeRule> rules = job.attributeRules();
+    kept.options.removeIf([&](const JobOption &option) {
+        return isTwin(option, rules) || !isSettled(job, origins, option, changed);
+    });
     for (const PPDMark &mark : settingState(job).marks)
         kept.shown += SettingInWords{mark, settingTitle(job.ppd(), mark.keyword),
                                      choiceWords(job.ppd(), mark.keyword, mark.choice)};

@@ -2,6 +2,7 @@
 
 #include "dialog/host/PPDMarks.h"
 #include "dialog/job/JobOption.h"
+#include "dialog/printing/SettingOrigins.h"
 
 #include <QtCore/QList>
 #include <QtCore/QString>
@@ -26,7 +27,7 @@ struct KeptSettings
     QList<SettingInWords> shown;
 };
 
-KeptSettings keptSettings(const PrintJob &job);
+KeptSettings keptSettings(const PrintJob &job, const SettingOrigins &origins);
 
 /// One sentence on what is otherwise now, with the PPD in place of the former one: what has become
 /// something else, and what the printer no longer has. Null: nothing, or there is no PPD any more.

@@ -85,9 +85,9 @@ Exit status
      with the others
   4  a document cannot be read
   5  an output file cannot be written, or exists already
-  6  the server or the queue cannot be reached, the job was refused, or it
-     is not known whether it was taken; with --wait: the job was cancelled
-     elsewhere, or ended with errors
+  6  the server or the queue cannot be reached, the job was refused, the
+     queue was set up anew meanwhile, or it is not known whether the job was
+     taken; with --wait: the job was cancelled elsewhere, or ended with errors
   7  the plug-in cannot be used, or cannot check a PPD
   8  with --wait and --timeout: the job was stopped or held for too long
 )",

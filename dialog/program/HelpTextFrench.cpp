@@ -95,8 +95,9 @@ Code de retour
   4  un document ne peut pas être lu
   5  un fichier de sortie ne peut pas être écrit ou existe déjà
   6  le serveur ou la file d’attente est injoignable, le travail a été refusé,
-     ou l’on ignore s’il a été accepté ; avec --wait : il a été annulé
-     ailleurs, ou s’est terminé avec des erreurs
+     la file a été reconfigurée entre-temps, ou l’on ignore s’il a été
+     accepté ; avec --wait : il a été annulé ailleurs, ou s’est terminé avec
+     des erreurs
   7  le module ne peut pas être utilisé, ou ne peut pas vérifier de fichier PPD
   8  avec --wait et --timeout : le travail est resté trop longtemps arrêté ou
      retenu

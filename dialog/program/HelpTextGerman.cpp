@@ -94,8 +94,9 @@ Exit-Status
   4  ein Dokument kann nicht gelesen werden
   5  eine Ausgabedatei kann nicht geschrieben werden oder ist bereits vorhanden
   6  der Server oder die Warteschlange ist nicht erreichbar, der Auftrag wurde
-     abgelehnt, oder es ist nicht bekannt, ob er angenommen wurde; mit
-     --wait: er wurde anderswo abgebrochen oder endete mit Fehlern
+     abgelehnt, die Warteschlange wurde inzwischen neu eingerichtet, oder es
+     ist nicht bekannt, ob er angenommen wurde; mit --wait: er wurde anderswo
+     abgebrochen oder endete mit Fehlern
   7  das Plug-in kann nicht verwendet werden oder keine PPD-Datei prüfen
   8  mit --wait und --timeout: der Auftrag war zu lange angehalten oder
      zurückgehalten

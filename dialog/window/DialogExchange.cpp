@@ -1,6 +1,7 @@
 // The queue of the open printer was given another PPD, or other defaults, on its server.
 #include "dialog/cups/QueuePPD.h"
 #include "dialog/window/DialogWindow.h"
+#include "dialog/window/SessionUndo.h"
 #include "dialog/work/Sentences.h"
 
 using namespace Qt::StringLiterals;
@@ -33,7 +34,7 @@ DialogWindow::Notice DialogWindow::exchangeNotice()
 /// Opens the printer as its server has it now, with what the user had settled.
 void DialogWindow::openExchanged(const QString &reason)
 {
-    m_kept = keptSettings(job());
+    m_kept = keptSettings(job(), m_undo->origins());
     m_exchange = reason;
     PrinterSource source = job().source();
     source.kept = m_kept->options;

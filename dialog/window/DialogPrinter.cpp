@@ -93,7 +93,6 @@ void DialogWindow::startFrom(const QString &preset, const StartingSettings &star
 
 void DialogWindow::beginSearch(const PrinterSource &source)
 {
-    m_isExchanged = false;
     setState(State::Searching);
     forgetCondition();
     m_header->printers()->setCurrent(source.queue);
@@ -115,6 +114,7 @@ void DialogWindow::retry()
 void DialogWindow::takePrinter(const Result<FoundPrinter> &found)
 {
     m_printerState = found ? Result<>() : found.fault();
+    m_isExchanged = false; // it may have been told of the former one until now
     m_shortcomings = found ? found->shortcomings : QList<Fault>();
     m_startNotes = found ? found->notes : QStringList();
     if (found.faultKind() == FaultKind::PPD)

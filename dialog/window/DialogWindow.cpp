@@ -10,22 +10,19 @@
 #include "dialog/window/LayoutPane.h"
 #include "dialog/window/Mnemonics.h"
 #include "dialog/window/PageSetupPane.h"
-#include "dialog/window/PasswordDialog.h"
 #include "dialog/window/PresetActions.h"
 #include "dialog/window/PrinterPopUp.h"
 #include "dialog/window/ProgressStrip.h"
 #include "dialog/window/ScrolledBody.h"
 #include "dialog/window/SessionUndo.h"
 #include "dialog/window/SheetAsker.h"
-#include "platform/foundation/NotificationCenter.h"
 #include "platform/toolkit/KeyWindow.h"
 #include "platform/toolkit/PanelPoint.h"
 #include "platform/toolkit/PlainText.h"
 
-#include <QtCore/QThread>
+#include <QtCore/QEvent>
 #include <QtCore/QTimer>
 #include <QtGui/QShortcut>
-#include <QtWidgets/QApplication>
 #include <QtWidgets/QPushButton>
 #include <QtWidgets/QVBoxLayout>
 
@@ -36,7 +33,6 @@ namespace {
 constexpr QSize kFirstSize(640, 632); // room for every part, and a long notice
 constexpr int kWindowMargin = 12;
 constexpr int kNoticeShare = 4; // a long notice may take one part in so many of the height
-constexpr std::chrono::milliseconds kLookInterval{50};
 
 QPushButton *newButton(const QString &name, const QString &title, QWidget *parent)
 {
@@ -290,37 +286,4 @@ void DialogWindow::changeEvent(QEvent *event)
     QDialog::changeEvent(event);
     if (event->type() == QEvent::PaletteChange)
         keepDimmedTextReadable(*this);
-}
-
-void DialogWindow::done(int result)
-{
-    for (PasswordDialog *question : findChildren<PasswordDialog *>())
-        question->reject();
-    if (m_state == State::Sending) {
-        m_controller.cancel();
-        return;
-    }
-    m_controller.stopReading();
-    NotificationCenter::defaultCenter().post(QLatin1String(kWindowWillCloseNotification),
-                                             static_cast<QWidget *>(this));
-    closePrinter();
-    setKeyWindow(nullptr);
-    if (m_sent)
-        Q_EMIT jobSent(m_wishes.server, *m_sent);
-    QDialog::done(result);
-}
-
-/// Not while something runs an event loop of its own, an alert of a panel say: it would find its
-/// dialog gone.
-void DialogWindow::end()
-{
-    m_isEnding = true;
-    if (QThread::currentThread()->loopLevel() > 1) {
-        if (auto *dialog = qobject_cast<QDialog *>(QApplication::activeModalWidget()))
-            dialog->reject();
-        QTimer::singleShot(kLookInterval, this, &DialogWindow::end);
-        return;
-    }
-    if (isVisible())
-        reject();
 }

@@ -2833,6 +2833,10 @@ Umschalt+F1 oder das Kontextmenü sagt, warum.</translation>
         <source>None</source>
         <translation>Keine</translation>
     </message>
+    <message>
+        <source>General</source>
+        <translation>Allgemein</translation>
+    </message>
 </context>
 <context>
     <name>SummaryPart</name>

@@ -2833,6 +2833,10 @@ Maj+F1 ou le menu contextuel dit pourquoi.</translation>
         <source>None</source>
         <translation>Aucune</translation>
     </message>
+    <message>
+        <source>General</source>
+        <translation>Général</translation>
+    </message>
 </context>
 <context>
     <name>SummaryPart</name>

@@ -2833,6 +2833,10 @@ Shift+F1 or the context menu tells why.</source>
         <source>None</source>
         <translation>なし</translation>
     </message>
+    <message>
+        <source>General</source>
+        <translation>一般</translation>
+    </message>
 </context>
 <context>
     <name>SummaryPart</name>

@@ -280,14 +280,15 @@ TEST_P(StandardOption, IsSaidInTheUsersLanguageWhereTheServerWroteIt)
         const QByteArray keyword = QByteArray(GetParam().option).split('/').constFirst();
         const ppd_option_t *option = findOption(ppd.get(), ppdName(keyword.constData()));
         EXPECT_EQ(ppdText(option->choices[1].text), u"Else"_s);
-        return QStringList{ppdText(option->text), ppdText(option->choices[0].text)};
+        return QStringList{ppdText(option->text), ppdText(option->choices[0].text),
+                           ppdText(ppd->groups[0].text)};
     };
     EXPECT_EQ(texts()[1], GetParam().englishText);
     LaterWords words;
     QCoreApplication::installTranslator(&words);
     const QStringList told = texts();
     QCoreApplication::removeTranslator(&words);
-    EXPECT_EQ(told, (QStringList{GetParam().title, GetParam().text}));
+    EXPECT_EQ(told, (QStringList{GetParam().title, GetParam().text, u"~General"_s}));
 }
 
 INSTANTIATE_TEST_SUITE_P(

@@ -129,22 +129,26 @@ TEST_F(SampleState, HasAPaperOfAnOwnSizeByItsSize)
               u"Paper in the Printer is now 100 × 150 mm (was A4)."_s);
 }
 
-/// By their names, without what every job says.
-QStringList keptNames(const PrintJob &job)
-{
-    QStringList names;
-    for (const JobOption &option : keptSettings(job).options)
-        if (option.name.startsWith(u"VK"_s) || isSameName(option.name, u"PageSize"_s))
-            names += option.name + u'=' + option.value;
-    return names;
-}
-
 TEST_F(SampleState, IsKeptAsFarAsSomebodyHasSettledIt)
 {
-    EXPECT_EQ(keptNames(m_job), QStringList());
-    ASSERT_TRUE(makeSettings(m_job, {{u"VKMirror"_s, u"ON"_s}, {u"VKInputSlot"_s, u"Tray1"_s}}));
-    EXPECT_EQ(keptNames(m_job), (QStringList{u"VKInputSlot=Tray1"_s, u"VKMirror=ON"_s}))
+    SettingOrigins origins;
+    const auto kept = [&] {
+        QStringList names;
+        for (const JobOption &option : keptSettings(m_job, origins).options)
+            names += option.name + u'=' + option.value;
+        return names;
+    };
+    const QString scaling = u"print-scaling=auto"_s; // every job says it
+    EXPECT_EQ(kept(), QStringList{scaling});
+    ASSERT_TRUE(
+        makeSettings(m_job, {{u"VKMonoColor"_s, u"Mono"_s}, {u"VKInputSlot"_s, u"Tray1"_s}}));
+    const SettingValues brighter{{u"VKBrightness"_s, u"3"_s}};
+    origins.takePick(u"VKBrightness"_s, {}, brighter);
+    const QStringList now = kept();
+    EXPECT_EQ(now.mid(0, 3), (QStringList{u"VKMonoColor=Mono"_s, u"VKInputSlot=Tray1"_s, scaling}))
         << "a default, too, where it was picked";
+    EXPECT_EQ(now.filter(u"T2T_"_s),
+              QStringList{u"com.velkaro.print.PrintSettings.T2T_Brightness=0"_s});
 }
 
 TEST(ChangeWords, AreThePrintersOnOneLine)
