@@ -6,6 +6,8 @@
 #include "dialog/window/JobHeader.h"
 #include "dialog/window/PrinterPopUp.h"
 
+#include <QtCore/QDateTime>
+
 void DialogWindow::askCondition()
 {
     const QueueName queue = job().source().queue;
@@ -22,7 +24,9 @@ void DialogWindow::takeCondition(const PrinterCondition &condition)
 {
     const QStringList toldDoubts = printerDoubts();
     const int parts = m_tabs->count();
-    if (m_condition && m_condition->changeTime != condition.changeTime)
+    // The first one comes after the PPD, and may be of another one already.
+    if (m_condition ? condition.changeTime != m_condition->changeTime
+                    : condition.changeTime >= m_searchBegan)
         lookForExchange();
     m_condition = condition;
     m_header->printers()->setQueuedJobs(condition.queuedJobs);
@@ -38,6 +42,7 @@ void DialogWindow::takeCondition(const PrinterCondition &condition)
 void DialogWindow::forgetCondition()
 {
     m_condition.reset();
+    m_searchBegan = QDateTime::currentSecsSinceEpoch();
     m_header->printers()->setQueuedJobs(0);
 }
 

@@ -229,6 +229,7 @@ private:
     QList<Fault> m_shortcomings;                 ///< of the printer
     QStringList m_startNotes;                    ///< on the settings that it starts from
     std::optional<PrinterCondition> m_condition; ///< of the printer; none: not known yet
+    qint64 m_searchBegan = 0;                    ///< for the printer; seconds since 1970
     std::optional<KeptSettings> m_kept;          ///< while the PPD is read that was exchanged
     QString m_exchange;                          ///< why it is, for the user
     bool m_isExchanged = false;                  ///< what is open is not the queue's PPD any more
