@@ -1,6 +1,7 @@
 #include "dialog/cups/JobFate.h"
 
 #include "dialog/cups/ServerRequests.h"
+
 namespace {
 
 bool hasReason(ipp_t *job, const char *reason)
