@@ -89,7 +89,7 @@ TEST_F(DialogOfAQueueThatIsExchanged, PrintsNothingBeforeTheNewSettingsWereShown
     setDefault(u"VKReverse=ON"_s);
     print();
     EXPECT_EQ(m_window->state(), DialogWindow::State::Ready);
-    EXPECT_EQ(newJobs(), QList<int>());
+    EXPECT_TRUE(newJobs().isEmpty());
     EXPECT_EQ(m_window->notice().kind(), NoticeBar::Kind::Warning);
     EXPECT_EQ(told(),
               kExchanged +
@@ -107,7 +107,7 @@ TEST_F(DialogOfAQueueThatIsExchanged, SaysWhatTheNewPrinterDoesNotHave)
     pick(*m_window, "mediaTypePopup", u"Glossy"_s);
     exchangeForOneWithout("VKMediaType Glossy/");
     print();
-    EXPECT_EQ(newJobs(), QList<int>());
+    EXPECT_TRUE(newJobs().isEmpty());
     EXPECT_EQ(told(),
               kExchanged +
                   u" Media Type is now Plain Paper (was Other Glossy Paper); Print Quality is now "
@@ -149,7 +149,7 @@ TEST_F(DialogOfAQueueThatIsExchanged, SaysThatItHasNoPPDAnyMore)
 {
     ASSERT_TRUE(server().lpadmin({u"-p"_s, u"own"_s, u"-m"_s, u"raw"_s}));
     print();
-    EXPECT_EQ(newJobs(), QList<int>());
+    EXPECT_TRUE(newJobs().isEmpty());
     EXPECT_EQ(m_window->job().session(), nullptr);
     EXPECT_EQ(
         told(),
