@@ -452,9 +452,11 @@ QList<PPDMark> randomWalk(const QString &ppd, quint32 seed, int most)
         Random random(seed, 0);
         const int length = random.below(most + 1);
         QList<PPDMark> walk;
-        while (walk.size() < length) {
-            walk += random.pick(possibleChanges(state.job()));
+        QList<PPDMark> possible = possibleChanges(state.job());
+        while (walk.size() < length && !possible.isEmpty()) {
+            walk += random.pick(possible);
             state.make(walk.constLast());
+            possible = possibleChanges(state.job());
         }
         tell(lineOf(walk));
     });
