@@ -2,9 +2,9 @@
 # counts is how much of it there is to load, so the dialog is built small, and everything is put
 # together as a whole. The panels and what they stand on answer each pick, and are built to be fast.
 #
-#   VELKARO_QUICK_BUILD      (option) neither: what `make run` builds, once, in half the time
-#   velkaro_release_flags()  the flags for the folder that calls, and those below it:
-#   velkaro_release_flags(SMALL)
+#   VELKARO_QUICK_BUILD           (option) neither: what `make run` builds, once, in half the time
+#   velkaro_release_flags()       fast: for the folder that calls, and those below it
+#   velkaro_release_flags(SMALL)  small
 
 include(CheckIPOSupported)
 include(CheckLinkerFlag)
